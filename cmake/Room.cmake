@@ -1,0 +1,23 @@
+# Every folder under src/ is a room: one static library that sees its own headers and those of the rooms it
+# names, and no others. A wrong include is then a file that the compiler cannot find.
+
+add_library(varnoth_warnings INTERFACE)
+target_compile_options(varnoth_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+    $<$<BOOL:${VARNOTH_WERROR}>:-Werror>)
+if(VARNOTH_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# varnoth_room(NAME SOURCES file... [ROOMS room...] [LIBS library...]): the static library varnoth_NAME.
+function(varnoth_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;LIBS" ${ARGN})
+    add_library(varnoth_${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(varnoth_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    list(TRANSFORM ROOM_ROOMS PREPEND varnoth_)
+    target_link_libraries(varnoth_${name} PUBLIC ${ROOM_ROOMS} ${ROOM_LIBS} PRIVATE varnoth_warnings)
+    if(ROOM_LIBS MATCHES "Qt6::Widgets")
+        set_target_properties(varnoth_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    endif()
+endfunction()

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace varnoth {
+
+/// Time on the system's monotonic clock, and durations on it.
+using Zeit = std::chrono::microseconds;
+
+enum class Symbol { Ohne, Warnung, Frage };
+enum class Knoepfe { Ok, OkAbbrechen, JaNeinAbbrechen };
+enum class Antwort { Ok, Abbrechen, Ja, Nein };
+
+/// A message box. Texts are UTF-8; an empty title stands for the application's title.
+struct Meldung {
+    std::string text;
+    std::string titel{};
+    Symbol symbol = Symbol::Warnung;
+    Knoepfe knoepfe = Knoepfe::Ok;
+
+    bool operator==(const Meldung&) const = default;
+};
+
+/// What the rooms below the windows ask of the world above them. The shell fits the real one in at start-up,
+/// tests fit in a scripted one.
+class Umgebung {
+public:
+    Umgebung() = default;
+    Umgebung(const Umgebung&) = delete;
+    Umgebung& operator=(const Umgebung&) = delete;
+    virtual ~Umgebung() = default;
+
+    /// Runs every window event that is pending, and gives the number of open forms.
+    virtual int LasseEreignisseLaufen() = 0;
+    /// Sleeps until an event was served or the time has passed, whichever comes first.
+    virtual void WarteAufEreignis(Zeit hoechstens) = 0;
+    /// The clock. Only differences mean something.
+    virtual Zeit Uhr() = 0;
+    /// Shows a message box and waits for its answer. A box that is closed answers Abbrechen, or Ok where it
+    /// has no other button.
+    virtual Antwort ZeigeMeldung(const Meldung& meldung) = 0;
+    /// Writes a text into a panel, 1..3, of the main window's status bar.
+    virtual void ZeigeStatustext(int feld, const std::string& text) = 0;
+};
+
+/// The environment in force.
+/// @throws std::logic_error when none was fitted in
+Umgebung& DieUmgebung();
+
+/// Fits an environment in (nullptr takes it out). It must live until it is taken out.
+void SetzeUmgebung(Umgebung* umgebung);
+
+/// Shows a message box with a warning sign and an OK button under the given title.
+void ZeigeWarnung(const std::string& text, const std::string& titel = {});
+
+} // namespace varnoth

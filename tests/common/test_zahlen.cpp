@@ -1,0 +1,24 @@
+#include "zahlen.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+TEST(Val, Reads_the_number_a_text_begins_with) {
+    const std::pair<const char*, double> faelle[] = {
+        {"12", 12}, {"  12", 12}, {"12 mm", 12}, {"-5", -5},   {"+7", 7},    {"1.5e2x", 150},    {".5", 0.5},
+        {"", 0},    {"OK", 0},    {"abc1", 0},   {"&H1F", 31}, {"&h1f", 31}, {"&HFFFFG", 65535}, {"&O17", 15},
+        {"&", 0},   {"&H", 0},    {"inf", 0},    {"nan", 0},   {"-x", 0},
+    };
+    for (const auto& [text, wert] : faelle)
+        EXPECT_EQ(Val(text), wert) << '"' << text << '"';
+}
+
+TEST(AlsHex, Is_upper_case_without_leading_zeros) {
+    EXPECT_EQ(AlsHex(0), "0");
+    EXPECT_EQ(AlsHex(10), "A");
+    EXPECT_EQ(AlsHex(0x1234), "1234");
+    EXPECT_EQ(AlsHex(0xbeef), "BEEF");
+}
+
+} // namespace varnoth
