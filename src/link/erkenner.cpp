@@ -1,0 +1,130 @@
+#include "erkenner.h"
+
+#include "rahmen.h"
+
+namespace varnoth {
+
+namespace {
+constexpr int HoechstensAbgelehnt = 10;
+}
+
+bool Erkenner::Verarbeite(std::string_view bytes) {
+    for (const char byte : bytes) {
+        if (Fertig())
+            break;
+        VerarbeiteByte(static_cast<std::uint8_t>(byte));
+        if (abgelehnt > HoechstensAbgelehnt)
+            return false;
+    }
+    return true;
+}
+
+void Erkenner::VerarbeiteByte(std::uint8_t byte) {
+    switch (zustand) {
+    case CrcLow:
+        empfangenLow = byte;
+        zustand = CrcHigh;
+        break;
+    case CrcHigh:
+        empfangenHigh = byte;
+        zustand = Ende;
+        break;
+    default:
+        crc = CrcUpdate(crc, byte);
+        zustand = NachByte(zustand, byte);
+    }
+}
+
+bool Erkenner::CrcStimmt() const {
+    return empfangenHigh == HiByte(crc) && empfangenLow == LoByte(crc);
+}
+
+LeseErkenner::LeseErkenner(std::int16_t slaveAdresse, std::uint16_t anzahl)
+    : adresse(LoByte(slaveAdresse)), datenlaenge(2U * anzahl) {}
+
+int LeseErkenner::NachByte(int stand, std::uint8_t byte) {
+    constexpr int Bytezahl = ErstesEigenes;
+    constexpr int Datenbyte = Bytezahl + 1;
+    switch (stand) {
+    case Adresse:
+        // The rejected byte stays in the CRC: a reply behind stray bytes fails its checksum.
+        if (byte == adresse)
+            return Funktionscode;
+        LehneAb();
+        return Adresse;
+    case Funktionscode:
+        return byte == static_cast<std::uint8_t>(Funktion::Lesen) ? Bytezahl : Adresse;
+    case Bytezahl:
+        if (byte != datenlaenge)
+            return Adresse;
+        daten.clear();
+        return datenlaenge < 1 ? CrcLow : Datenbyte;
+    default:
+        daten += static_cast<char>(byte);
+        return daten.size() == datenlaenge ? CrcLow : Datenbyte;
+    }
+}
+
+SchreibErkenner::SchreibErkenner(std::int16_t slaveAdresse, std::uint16_t start, std::uint16_t anzahl)
+    : adresse(LoByte(slaveAdresse)) {
+    for (const auto wort : {start, anzahl}) {
+        echo += static_cast<char>(HiByte(wort));
+        echo += static_cast<char>(LoByte(wort));
+    }
+}
+
+int SchreibErkenner::NachByte(int stand, std::uint8_t byte) {
+    if (stand == Adresse) {
+        if (byte == adresse)
+            return Funktionscode;
+        LehneAb();
+        return Adresse;
+    }
+    if (stand == Funktionscode)
+        return byte == static_cast<std::uint8_t>(Funktion::Schreiben) ? ErstesEigenes : Adresse;
+    const auto stelle = static_cast<std::size_t>(stand - ErstesEigenes);
+    if (byte != static_cast<std::uint8_t>(echo.at(stelle)))
+        return Adresse;
+    return stelle + 1 == echo.size() ? CrcLow : stand + 1;
+}
+
+int IdentErkenner::NachByte(int stand, std::uint8_t byte) {
+    constexpr int Bytezahl = ErstesEigenes;
+    constexpr int Identbyte1 = Bytezahl + 1;
+    constexpr int Identbyte2 = Identbyte1 + 1;
+    constexpr int Textzeichen = Identbyte2 + 1;
+    switch (stand) {
+    case Adresse:
+        ziel.slaveAdresse = byte;
+        return Funktionscode;
+    case Funktionscode:
+        return NachFunktionscode(byte);
+    case Bytezahl:
+        erwartet = byte;
+        return byte == 0 ? CrcLow : Identbyte1;
+    case Identbyte1:
+        ziel.byte1 = byte;
+        return NachDatenbyte(Identbyte2);
+    case Identbyte2:
+        ziel.byte2 = byte;
+        return NachDatenbyte(Textzeichen);
+    default:
+        text += static_cast<char>(byte);
+        return NachDatenbyte(Textzeichen);
+    }
+}
+
+int IdentErkenner::NachFunktionscode(std::uint8_t byte) {
+    if (byte == static_cast<std::uint8_t>(Funktion::Identifikation))
+        return ErstesEigenes;
+    LehneAb();
+    ziel.slaveAdresse = byte;
+    BeginneCrcMit(byte);
+    return Funktionscode;
+}
+
+int IdentErkenner::NachDatenbyte(int naechster) {
+    return ++empfangen < erwartet ? naechster : CrcLow;
+}
+
+} // namespace varnoth

@@ -1,0 +1,210 @@
+#include "polling.h"
+
+#include "bitsunddatum.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "schnittstelle.h"
+#include "texte.h"
+#include "transaktionen.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace varnoth::modPolling {
+
+namespace {
+
+using namespace modDaten;
+using namespace modModbus;
+
+constexpr int Versuche = 10;
+constexpr std::int16_t Messwertzahl = 18;
+constexpr std::int16_t BitVorhanden = 7;
+constexpr std::int16_t BitSchaltausgang = 1;
+
+constexpr int FeldSchaltausgang = 3;
+
+constexpr std::int16_t TextVerbindungUnterbrochen = 3000;
+constexpr std::int16_t TextAusgangAktiv = 3001;
+constexpr std::int16_t TextAusgangNichtAktiv = 3002;
+constexpr std::int16_t TextAnzahlGeaendert = 3004;
+constexpr std::int16_t TextAchtung = 6109;
+
+struct Zustand {
+    Boolean pollingAktiv = False;
+    std::array<Optikteilzustand, AnzahlOptikteile> optikteilStatus{};
+    int anzahlOptikteile = 0;
+    bool verloren = false;
+};
+
+Zustand zustand;
+PollingZiel* dasZiel = nullptr;
+
+void MeldeVerlust() {
+    zustand.verloren = true;
+    dasZiel->AktualisiereGeraetestatus();
+    ZeigeWarnung(LadeText(TextVerbindungUnterbrochen), LadeText(TextAchtung));
+}
+
+void MeldeRueckkehr() {
+    if (!zustand.verloren)
+        return;
+    zustand.verloren = false;
+    dasZiel->AktualisiereGeraetestatus();
+}
+
+/// Tries a transaction until it succeeds. False ends the pass: polling was switched off or a command waits,
+/// or the attempts are used up, which the user is told. The last attempt counts as used up whatever its
+/// result.
+template<class Transaktion>
+bool MitVersuchen(Transaktion transaktion) {
+    for (int versuch = 1;;) {
+        const bool gelungen = transaktion() != False;
+        DieUmgebung().LasseEreignisseLaufen();
+        if (zustand.pollingAktiv == False || dasZiel->BefehlWartet())
+            return false;
+        if (++versuch > Versuche) {
+            MeldeVerlust();
+            return false;
+        }
+        if (gelungen)
+            return true;
+    }
+}
+
+bool Lies(int adresse, int anzahl, Werte& werte) {
+    werte.resize(static_cast<std::size_t>(anzahl));
+    return MitVersuchen([&] {
+        return RTUModeH03LeseAnforderung(static_cast<std::uint16_t>(adresse),
+                                         static_cast<std::uint16_t>(anzahl), werte);
+    });
+}
+
+bool LiesSpezifische(int adresse, int anzahl, Werte& werte) {
+    return Lies(SpezifischeBasis + adresse, anzahl, werte);
+}
+
+bool LiesStrahlen(int teil, LiveAnsicht& ansicht) {
+    const int anzahl = Strahlregister(Strahlenzahl(teil));
+    Werte werte;
+    if (anzahl > 0 && !LiesSpezifische(spezifisch::Strahlzustaende, anzahl, werte))
+        return false;
+    SetzeStrahlzustaende(static_cast<std::int16_t>(anzahl), static_cast<std::int16_t>(teil), werte);
+    ansicht.StrahlzustaendeLiegenVor();
+    ansicht.BlankingBekannt();
+    return true;
+}
+
+bool LiesMesswerte(int teil, LiveAnsicht& ansicht) {
+    Werte werte;
+    if (!LiesSpezifische(spezifisch::Messwerte, Messwertzahl, werte))
+        return false;
+    SetzeSpezifischeDaten(spezifisch::Messwerte, Messwertzahl, static_cast<std::int16_t>(teil), werte);
+    ansicht.MesswerteLiegenVor();
+    return true;
+}
+
+/// Takes over a part's presence. False when it has changed, which ends the pass.
+bool UebernimmAnwesenheit(int teil, std::int32_t statusregister) {
+    const auto neu = ZustandAus(statusregister);
+    if (neu == GetOptikteilStatus(teil))
+        return true;
+    SetzeOptikteilStatus(teil, neu);
+    dasZiel->AktualisiereGeraetestatus();
+    ZeigeWarnung(LadeText(TextAnzahlGeaendert), LadeText(TextAchtung));
+    return false;
+}
+
+bool PolleOptikteil(int teil) {
+    if (!MitVersuchen([&] { return WaehleOptikteil(teil); }))
+        return false;
+    Werte status;
+    if (!LiesSpezifische(spezifisch::Optikteilstatus, 1, status))
+        return false;
+    SetzeSpezifischeDaten(spezifisch::Optikteilstatus, 1, static_cast<std::int16_t>(teil), status);
+    if (!UebernimmAnwesenheit(teil, status[0]))
+        return false;
+    LiveAnsicht& ansicht = dasZiel->Ansicht(teil);
+    if (GetOptikteilStatus(teil) != Vorhanden || !ansicht.ZeigtLiveDaten())
+        return true;
+    ansicht.NeuerDatensatz();
+    return LiesStrahlen(teil, ansicht) && LiesMesswerte(teil, ansicht);
+}
+
+bool PolleGlobalstatus() {
+    Werte status;
+    if (!Lies(global::Geraetestatus, 1, status))
+        return false;
+    SetzeGlobaleDaten(global::Geraetestatus, 1, status);
+    const bool aktiv = GetBit(status[0], BitSchaltausgang) != False;
+    DieUmgebung().ZeigeStatustext(FeldSchaltausgang,
+                                  LadeText(aktiv ? TextAusgangAktiv : TextAusgangNichtAktiv));
+    return true;
+}
+
+} // namespace
+
+void SetzeZiel(PollingZiel* ziel) {
+    dasZiel = ziel;
+}
+
+void Zuruecksetzen() {
+    zustand = {};
+}
+
+void StartePolling() {
+    modSchnittstelle::OpenCommPort();
+    zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
+    zustand.verloren = false;
+}
+
+void StoppePolling() {
+    modSchnittstelle::CloseCommPort();
+    zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
+}
+
+Boolean GetPollingAktiv() {
+    return zustand.pollingAktiv;
+}
+
+void SetzeAnzahlOptikteile(int anzahl) {
+    zustand.anzahlOptikteile = std::clamp(anzahl, 0, AnzahlOptikteile);
+}
+
+int GetAnzahlOptikteile() {
+    return zustand.anzahlOptikteile;
+}
+
+Optikteilzustand GetOptikteilStatus(int optikteil) {
+    return zustand.optikteilStatus.at(static_cast<std::size_t>(optikteil));
+}
+
+void SetzeOptikteilStatus(int optikteil, Optikteilzustand neu) {
+    zustand.optikteilStatus.at(static_cast<std::size_t>(optikteil)) = neu;
+}
+
+Optikteilzustand ZustandAus(std::int32_t statusregister) {
+    return GetBit(statusregister, BitVorhanden) != False ? Vorhanden : NichtVorhanden;
+}
+
+bool VerbindungVerloren() {
+    return zustand.verloren;
+}
+
+int Strahlregister(std::int32_t strahlenzahl) {
+    constexpr int Registerbits = 16;
+    const auto gerundet = static_cast<int>(std::nearbyint(strahlenzahl / double{Registerbits}));
+    const int zusatz = strahlenzahl % Registerbits != 0 ? 1 : 0;
+    return std::clamp(gerundet + zusatz, 0, int{MaxStrahlregister});
+}
+
+void PollingZyklus() {
+    for (int teil = 0; teil < zustand.anzahlOptikteile; ++teil)
+        if (!PolleOptikteil(teil))
+            return;
+    if (PolleGlobalstatus())
+        MeldeRueckkehr();
+}
+
+} // namespace varnoth::modPolling

@@ -1,0 +1,157 @@
+#include "schnittstelle.h"
+
+#include "trace.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace varnoth::modSchnittstelle {
+
+namespace {
+
+constexpr Zeit Sendepause = std::chrono::milliseconds(2);
+
+struct Zustand {
+    std::int16_t comPort = 1;
+    std::string comSettings = StandardComSettings;
+    Boolean portIstOffen = False;
+    bool sollOffenSein = false;
+    Zeit letzteAktivitaet{0};
+};
+
+Zustand zustand;
+SeriellerPort* derPort = nullptr;
+
+bool LiesOffenstand() {
+    zustand.portIstOffen = AlsBoolean(derPort != nullptr && derPort->IstOffen());
+    return zustand.portIstOffen != False;
+}
+
+void MerkeAktivitaet() {
+    zustand.letzteAktivitaet = DieUmgebung().Uhr();
+}
+
+void OeffnePort() {
+    if (derPort != nullptr && !LiesOffenstand())
+        derPort->Oeffne(zustand.comPort, zustand.comSettings);
+    LiesOffenstand();
+}
+
+void MeldeZeitueberschreitung() {
+    if (!modTrace::Aktiv())
+        return;
+    constexpr int ErstesFeld = 1;
+    DieUmgebung().ZeigeStatustext(ErstesFeld, "Zeitüberschreitung, kein Zeichen empfangen. (Nur zum Testen)");
+    modTrace::SchreibeZeitueberschreitung();
+}
+
+} // namespace
+
+void SetzePort(SeriellerPort* port) {
+    derPort = port;
+    if (derPort != nullptr)
+        derPort->SetzeEreignisbehandlung(BehandleCommEreignis);
+}
+
+void Zuruecksetzen() {
+    CloseCommPort();
+    zustand = {};
+}
+
+void SetzeComPort(std::int16_t nummer) {
+    zustand.comPort = nummer;
+}
+
+std::int16_t GetComPort() {
+    return zustand.comPort;
+}
+
+void SetzeComSettings(const std::string& einstellungen) {
+    zustand.comSettings = einstellungen.empty() ? StandardComSettings : einstellungen;
+}
+
+const std::string& GetComSettings() {
+    return zustand.comSettings;
+}
+
+void OpenCommPort() {
+    CloseCommPort();
+    DieUmgebung().LasseEreignisseLaufen();
+    zustand.sollOffenSein = true;
+    OeffnePort();
+    ClearCommPort();
+}
+
+void CloseCommPort() {
+    zustand.sollOffenSein = false;
+    if (derPort != nullptr && zustand.portIstOffen != False)
+        derPort->Schliesse();
+    LiesOffenstand();
+}
+
+Boolean GetPortIstOffen() {
+    return zustand.portIstOffen;
+}
+
+void HoleVerlorenenPortZurueck() {
+    if (zustand.sollOffenSein)
+        OeffnePort();
+}
+
+void ClearCommPort() {
+    if (derPort != nullptr)
+        derPort->Verwirf();
+    DieUmgebung().LasseEreignisseLaufen();
+    if (LiesOffenstand()) {
+        modTrace::SchreibeLeerung();
+        CommPortReadInput();
+    }
+    DieUmgebung().LasseEreignisseLaufen();
+    MerkeAktivitaet();
+}
+
+std::int16_t CommPortBytesAvailable() {
+    constexpr std::size_t hoechstens = std::numeric_limits<std::int16_t>::max();
+    return derPort == nullptr ? std::int16_t{0}
+                              : static_cast<std::int16_t>(std::min(derPort->BytesWartend(), hoechstens));
+}
+
+std::string CommPortReadInput() {
+    if (!LiesOffenstand())
+        return {};
+    std::string bytes = derPort->LiesAlles();
+    modTrace::SchreibeLesung(bytes);
+    MerkeAktivitaet();
+    return bytes;
+}
+
+void CommPortWriteOutput(std::string_view daten) {
+    if (!LiesOffenstand())
+        return;
+    const Zeit frei = zustand.letzteAktivitaet + Sendepause;
+    for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < frei; jetzt = DieUmgebung().Uhr())
+        DieUmgebung().WarteAufEreignis(frei - jetzt);
+    derPort->Schreibe(daten);
+    modTrace::SchreibeSendung(daten);
+}
+
+void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
+    const Zeit ende = DieUmgebung().Uhr() + std::chrono::milliseconds(TimeoutMs);
+    for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < ende; jetzt = DieUmgebung().Uhr()) {
+        if (AufZeichenWarten == True && CommPortBytesAvailable() > 0)
+            return;
+        if (derPort != nullptr)
+            derPort->WarteAufEingang(ende - jetzt);
+        else
+            DieUmgebung().WarteAufEreignis(ende - jetzt);
+    }
+    if (AufZeichenWarten != True || CommPortBytesAvailable() == 0)
+        MeldeZeitueberschreitung();
+}
+
+void BehandleCommEreignis(int ereignis) {
+    if (ereignis == EreignisEmpfangspufferUeberlauf && derPort != nullptr)
+        derPort->Verwirf();
+}
+
+} // namespace varnoth::modSchnittstelle

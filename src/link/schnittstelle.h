@@ -1,0 +1,56 @@
+#pragma once
+
+#include "boolean.h"
+#include "seriellerport.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// The one serial port that connects the program to the controller. Every exchange runs through these
+/// operations, on the window's thread; their waits let window events run.
+namespace varnoth::modSchnittstelle {
+
+/// The settings string in force when none is given.
+inline constexpr const char* StandardComSettings = "38400,n,8,2";
+
+/// Fits the port in (nullptr takes it out). It must live until it is taken out.
+void SetzePort(SeriellerPort* port);
+/// Back to the start: port 1, standard settings, closed.
+void Zuruecksetzen();
+
+/// Port number for the next OpenCommPort; 1..4 are known.
+void SetzeComPort(std::int16_t nummer);
+std::int16_t GetComPort();
+/// Settings string for the next OpenCommPort; empty stands for the standard.
+void SetzeComSettings(const std::string& einstellungen);
+const std::string& GetComSettings();
+
+/// Closes, configures, opens and clears the port. A port that cannot be opened stays closed, without a
+/// message.
+void OpenCommPort();
+/// Closes the port.
+void CloseCommPort();
+/// The port's open state as last read back from it.
+Boolean GetPortIstOffen();
+
+/// Opens the port anew if it was open and its line has disappeared. Nothing happens when the line is still
+/// away.
+void HoleVerlorenenPortZurueck();
+
+/// Discards what was received and starts the pause before the next write.
+void ClearCommPort();
+/// Number of received bytes waiting, at most 32767.
+std::int16_t CommPortBytesAvailable();
+/// Every byte waiting; empty when the port is not open.
+std::string CommPortReadInput();
+/// Sends bytes, not earlier than 2 ms after the last clear or read. Nothing happens when the port is not
+/// open.
+void CommPortWriteOutput(std::string_view daten);
+/// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
+/// asks CommPortBytesAvailable whether the time ran out.
+void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);
+/// Acts on the port's error events: an overflow of the receive buffer discards the input, all others pass.
+void BehandleCommEreignis(int ereignis);
+
+} // namespace varnoth::modSchnittstelle

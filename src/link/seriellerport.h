@@ -1,0 +1,51 @@
+#pragma once
+
+#include "umgebung.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace varnoth {
+
+/// The event code of a receive buffer overflow.
+inline constexpr int EreignisEmpfangspufferUeberlauf = 1008;
+
+/// The input buffer's size in bytes.
+inline constexpr std::size_t Eingabepuffergroesse = 20480;
+
+/// One serial port, as the link needs it. Bytes are the characters of a string. No operation throws.
+class SeriellerPort {
+public:
+    SeriellerPort() = default;
+    SeriellerPort(const SeriellerPort&) = delete;
+    SeriellerPort& operator=(const SeriellerPort&) = delete;
+    virtual ~SeriellerPort() = default;
+
+    /// Opens port 1..4 with a settings string such as "38400,n,8,2", without handshaking, RTS and DTR on.
+    /// False when it cannot be opened; Fehlertext then says why.
+    virtual bool Oeffne(int nummer, const std::string& einstellungen) = 0;
+    /// Closes the port; harmless when it is closed.
+    virtual void Schliesse() = 0;
+    /// Whether the port is open and its line still there.
+    virtual bool IstOffen() = 0;
+    /// Why the last Oeffne failed, in the system's words.
+    virtual std::string Fehlertext() const = 0;
+
+    /// Discards what was received.
+    virtual void Verwirf() = 0;
+    /// Number of received bytes waiting.
+    virtual std::size_t BytesWartend() = 0;
+    /// Every byte waiting.
+    virtual std::string LiesAlles() = 0;
+    /// Sends the bytes whole.
+    virtual void Schreibe(std::string_view bytes) = 0;
+    /// Sleeps, serving events, until something has arrived, an event was served or the time has passed.
+    virtual void WarteAufEingang(Zeit hoechstens) = 0;
+
+    /// Sets who hears of the port's error events.
+    virtual void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) = 0;
+};
+
+} // namespace varnoth

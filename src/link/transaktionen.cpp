@@ -1,0 +1,156 @@
+#include "transaktionen.h"
+
+#include "erkenner.h"
+#include "rahmen.h"
+#include "schnittstelle.h"
+
+#include <exception>
+
+namespace varnoth::modModbus {
+
+namespace {
+
+using namespace modSchnittstelle;
+
+constexpr int Antwortzeit = 1000; // milliseconds of silence that end a transaction
+
+Identifikation ident;
+
+/// Sends the request and feeds the reply to the recogniser. True when a whole reply with a valid CRC arrived.
+bool Tausche(const std::string& anforderung, Erkenner& erkenner) {
+    HoleVerlorenenPortZurueck();
+    ClearCommPort();
+    CommPortWriteOutput(anforderung);
+    while (!erkenner.Fertig()) {
+        WarteAufZeichen(Antwortzeit, True);
+        if (CommPortBytesAvailable() == 0)
+            return false;
+        if (!erkenner.Verarbeite(CommPortReadInput()))
+            return false;
+    }
+    return erkenner.CrcStimmt();
+}
+
+/// Runs a transaction; an error inside it becomes a warning box titled with the procedure's name.
+template<class Ablauf>
+Boolean MitFehlermeldung(const char* prozedur, Ablauf ablauf) {
+    try {
+        return AlsBoolean(ablauf());
+    } catch (const std::exception& fehler) {
+        ZeigeWarnung(fehler.what(), std::string(prozedur) + "()");
+        return False;
+    }
+}
+
+std::int32_t Registerwert(const std::string& daten, std::size_t register_) {
+    const auto high = static_cast<std::uint8_t>(daten.at(2 * register_));
+    const auto low = static_cast<std::uint8_t>(daten.at(2 * register_ + 1));
+    return high * 256 + low;
+}
+
+/// One exchange of a command that has the port for itself.
+template<class Ablauf>
+Boolean MitEigenemPort(Ablauf ablauf) {
+    if (ident.gueltig != True)
+        return True;
+    OpenCommPort();
+    const Boolean ergebnis = ablauf();
+    CloseCommPort();
+    return ergebnis;
+}
+
+void SchreibeSteuerwert(std::int32_t wert) {
+    MitEigenemPort([wert] { return RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {wert}); });
+}
+
+} // namespace
+
+Boolean RTUModeH03LeseAnforderung(std::uint16_t Startadresse, std::uint16_t Anzahl, Werte& werte) {
+    return MitFehlermeldung("RTUModeH03LeseAnforderung", [&] {
+        LeseErkenner erkenner(ident.slaveAdresse, Anzahl);
+        if (!Tausche(LeseAnforderung(ident.slaveAdresse, Startadresse, Anzahl), erkenner))
+            return false;
+        for (std::size_t i = 0; i < Anzahl; ++i)
+            werte.at(i) = Registerwert(erkenner.Daten(), i);
+        return true;
+    });
+}
+
+Boolean RTUModeH10SchreibenAnforderung(std::uint16_t Startadresse, std::uint16_t Anzahl, const Werte& werte) {
+    return MitFehlermeldung("RTUModeH10SchreibenAnforderung", [&] {
+        SchreibErkenner erkenner(ident.slaveAdresse, Startadresse, Anzahl);
+        return Tausche(SchreibAnforderung(ident.slaveAdresse, Startadresse, Anzahl, werte), erkenner);
+    });
+}
+
+Boolean RTUModeH11IndentifikationsAnforderung() {
+    return MitFehlermeldung("RTUModeH11IndentifikationsAnforderung", [] {
+        IdentReset();
+        IdentErkenner erkenner(ident);
+        if (!Tausche(IdentifikationsAnforderung(), erkenner))
+            return false;
+        VerteileIdenttext(erkenner.Text(), ident);
+        ident.gueltig = True;
+        return true;
+    });
+}
+
+Boolean SendeFunktion09() {
+    ClearCommPort();
+    CommPortWriteOutput(KommandoRahmen(ident.slaveAdresse));
+    return True;
+}
+
+Boolean WaehleOptikteil(int optikteil) {
+    return RTUModeH10SchreibenAnforderung(OptikteilAuswahlRegister, 1, {optikteil});
+}
+
+Boolean WaehleKanal(int kanal) {
+    return RTUModeH10SchreibenAnforderung(KanalAuswahlRegister, 1, {kanal});
+}
+
+void IdentReset() {
+    ident = {};
+}
+
+Boolean GetIdentGueltig() {
+    return ident.gueltig;
+}
+
+std::int16_t GetSlaveAdresse() {
+    return ident.slaveAdresse;
+}
+
+std::int16_t GetIdentByte1() {
+    return ident.byte1;
+}
+
+std::int16_t GetIdentByte2() {
+    return ident.byte2;
+}
+
+const std::string& GetIdentText1() {
+    return ident.text1;
+}
+
+const std::string& GetIdentText2() {
+    return ident.text2;
+}
+
+const std::string& GetIdentText3() {
+    return ident.text3;
+}
+
+Boolean SendeFunktion09Kommando() {
+    return MitEigenemPort(SendeFunktion09);
+}
+
+void SchreibeSteuerwert4() {
+    SchreibeSteuerwert(4);
+}
+
+void SchreibeSteuerwert2() {
+    SchreibeSteuerwert(2);
+}
+
+} // namespace varnoth::modModbus

@@ -1,0 +1,293 @@
+#include "polling.h"
+
+#include "crc.h"
+#include "pruefgeraet.h"
+#include "registerabbild.h"
+#include "texte.h"
+#include "transaktionen.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace varnoth {
+
+using namespace modPolling;
+using namespace std::chrono_literals;
+using pruefung::PruefGeraet;
+
+namespace {
+
+struct PruefAnsicht : LiveAnsicht {
+    bool ZeigtLiveDaten() const override { return zeigt; }
+    void NeuerDatensatz() override { ablauf += 'n'; }
+    void StrahlzustaendeLiegenVor() override { ablauf += 's'; }
+    void BlankingBekannt() override { ablauf += 'b'; }
+    void MesswerteLiegenVor() override { ablauf += 'm'; }
+
+    bool zeigt = true;
+    std::string ablauf;
+};
+
+struct PruefZiel : PollingZiel {
+    LiveAnsicht& Ansicht(int optikteil) override { return ansichten.at(static_cast<std::size_t>(optikteil)); }
+    void AktualisiereGeraetestatus() override { ++aktualisiert; }
+    bool BefehlWartet() override { return befehl; }
+
+    std::array<PruefAnsicht, AnzahlOptikteile> ansichten;
+    int aktualisiert = 0;
+    bool befehl = false;
+};
+
+constexpr int DevAuswahl = 212;
+constexpr int DevStatus = 0x202C;
+constexpr int DevStrahlen = 0x2161;
+constexpr int DevMesswerte = 0x214F;
+constexpr int DevGlobal = 0x00C4;
+
+using Lesungen = std::vector<std::pair<int, int>>;
+
+} // namespace
+
+class PollingTest : public testing::Test {
+protected:
+    PollingTest() {
+        CrcTabelleAufbauen();
+        modDaten::Zuruecksetzen();
+        modSchnittstelle::Zuruecksetzen();
+        modPolling::Zuruecksetzen();
+        modModbus::IdentReset();
+        SetzeZiel(&ziel);
+        StartePolling();
+        modModbus::RTUModeH11IndentifikationsAnforderung();
+    }
+    ~PollingTest() override {
+        SetzeZiel(nullptr);
+        modPolling::Zuruecksetzen();
+        modSchnittstelle::Zuruecksetzen();
+        modModbus::IdentReset();
+        modDaten::Zuruecksetzen();
+    }
+
+    void Verbinde(std::vector<int> strahlenzahlen) {
+        SetzeAnzahlOptikteile(static_cast<int>(strahlenzahlen.size()));
+        for (int teil = 0; teil < GetAnzahlOptikteile(); ++teil) {
+            modDaten::SetzeSpezifischeDaten(12, 1, static_cast<std::int16_t>(teil),
+                                            {strahlenzahlen[static_cast<std::size_t>(teil)]});
+            geraet.Spezifisch(teil, 44) = 0x80;
+            SetzeOptikteilStatus(teil, Vorhanden);
+        }
+    }
+    std::int32_t Spezifisch(int teil, std::int16_t adresse, std::int16_t anzahl) {
+        Werte werte;
+        modDaten::HoleSpezifischeDaten(adresse, anzahl, static_cast<std::int16_t>(teil), werte);
+        return werte.at(0);
+    }
+    /// The controller falls silent at reads of this device address.
+    void VerstummeBei(int adresse) {
+        geraet.schweige = [adresse](const std::string& anforderung) {
+            return pruefung::Wort(anforderung, 2) == adresse;
+        };
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefPort port{umgebung};
+    PruefGeraet geraet{port};
+    PruefZiel ziel;
+};
+
+TEST_F(PollingTest, The_number_of_beam_registers_follows_the_rounding_rule) {
+    const std::pair<int, int> faelle[] = {{0, 0},  {1, 1},  {8, 1},  {9, 2},   {16, 1},   {24, 3},
+                                          {32, 2}, {40, 3}, {56, 5}, {100, 7}, {512, 32}, {2000, 64}};
+    for (const auto& [strahlen, register_] : faelle)
+        EXPECT_EQ(Strahlregister(strahlen), register_) << strahlen << " beams";
+}
+
+TEST_F(PollingTest, A_part_of_512_beams_needs_32_registers) {
+    Verbinde({512});
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen.at(1), (std::pair{DevStrahlen, 32}));
+}
+
+TEST_F(PollingTest, A_part_of_16_beams_needs_one_register) {
+    Verbinde({16});
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen.at(1), (std::pair{DevStrahlen, 1}));
+}
+
+TEST_F(PollingTest, A_part_of_24_beams_causes_three_registers_to_be_read) {
+    Verbinde({24});
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen.at(1), (std::pair{DevStrahlen, 3}));
+}
+
+TEST_F(PollingTest, A_pass_selects_each_part_and_reads_status_beams_and_values_then_the_global_status) {
+    Verbinde({16, 32});
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen, (Lesungen{{DevStatus, 1},
+                                        {DevStrahlen, 1},
+                                        {DevMesswerte, 18},
+                                        {DevStatus, 1},
+                                        {DevStrahlen, 2},
+                                        {DevMesswerte, 18},
+                                        {DevGlobal, 1}}));
+    ASSERT_EQ(geraet.geschrieben.size(), 2U);
+    EXPECT_EQ(geraet.geschrieben[0], (PruefGeraet::Schreibvorgang{0, DevAuswahl, {0}}));
+    EXPECT_EQ(geraet.geschrieben[1], (PruefGeraet::Schreibvorgang{0, DevAuswahl, {1}}));
+}
+
+TEST_F(PollingTest, The_view_is_told_of_the_data_in_their_order) {
+    Verbinde({16});
+    PollingZyklus();
+    EXPECT_EQ(ziel.ansichten[0].ablauf, "nsbm");
+}
+
+TEST_F(PollingTest, What_was_read_is_in_the_image) {
+    Verbinde({16, 16});
+    geraet.Spezifisch(1, 44) = 0x85;
+    geraet.Spezifisch(1, 335) = 17;
+    geraet.Spezifisch(1, 353) = 0xABCD;
+    geraet.Register(196) = 2;
+    PollingZyklus();
+    EXPECT_EQ(Spezifisch(1, 44, 1), 0x85);
+    EXPECT_EQ(Spezifisch(1, 335, 18), 17);
+    Werte strahlen;
+    EXPECT_EQ(modDaten::HoleStrahlzustaende(1, 1, strahlen), True);
+    EXPECT_EQ(strahlen.at(0), 0xABCD);
+    Werte global;
+    modDaten::HoleGlobaleDaten(196, 1, global);
+    EXPECT_EQ(global.at(0), 2);
+}
+
+TEST_F(PollingTest, With_no_connected_part_only_the_global_status_is_read) {
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen, (Lesungen{{DevGlobal, 1}}));
+    EXPECT_TRUE(geraet.geschrieben.empty());
+}
+
+TEST_F(PollingTest, A_part_whose_view_shows_no_live_data_is_read_no_further_than_its_status) {
+    Verbinde({16});
+    ziel.ansichten[0].zeigt = false;
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen, (Lesungen{{DevStatus, 1}, {DevGlobal, 1}}));
+    EXPECT_EQ(ziel.ansichten[0].ablauf, "");
+}
+
+TEST_F(PollingTest, An_absent_part_is_read_no_further_than_its_status) {
+    Verbinde({16});
+    geraet.Spezifisch(0, 44) = 0;
+    SetzeOptikteilStatus(0, NichtVorhanden);
+    PollingZyklus();
+    EXPECT_EQ(geraet.gelesen, (Lesungen{{DevStatus, 1}, {DevGlobal, 1}}));
+}
+
+TEST_F(PollingTest, The_switching_output_is_shown_in_the_third_panel) {
+    geraet.Register(196) = 2;
+    PollingZyklus();
+    EXPECT_EQ(umgebung.statustexte[2], LadeText(3001));
+    geraet.Register(196) = 0xFFFD;
+    PollingZyklus();
+    EXPECT_EQ(umgebung.statustexte[2], LadeText(3002));
+}
+
+TEST_F(PollingTest, A_silent_device_gives_the_message_after_ten_attempts_of_a_second_and_ends_the_pass) {
+    Verbinde({16});
+    VerstummeBei(DevStrahlen);
+    geraet.Spezifisch(0, 335) = 99;
+    const Zeit davor = umgebung.uhr;
+    PollingZyklus();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3000));
+    EXPECT_EQ(umgebung.meldungen[0].titel, LadeText(6109));
+    EXPECT_EQ((umgebung.uhr - davor) / 1s, 10);
+    EXPECT_EQ(Spezifisch(0, 335, 18), 0) << "no data may change after the failed step";
+    EXPECT_EQ(ziel.ansichten[0].ablauf, "n");
+    EXPECT_EQ(ziel.aktualisiert, 1);
+    EXPECT_EQ(GetPollingAktiv(), True) << "polling itself stays on";
+}
+
+TEST_F(PollingTest, A_failure_that_passes_is_retried_silently) {
+    Verbinde({16});
+    int rest = 8;
+    geraet.schweige = [&rest](const std::string&) { return rest-- > 0; };
+    PollingZyklus();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(ziel.ansichten[0].ablauf, "nsbm");
+}
+
+TEST_F(PollingTest, A_lost_connection_is_over_with_the_next_pass_that_succeeds) {
+    Verbinde({16});
+    VerstummeBei(DevGlobal);
+    PollingZyklus();
+    EXPECT_TRUE(VerbindungVerloren());
+    geraet.schweige = nullptr;
+    PollingZyklus();
+    EXPECT_FALSE(VerbindungVerloren());
+    EXPECT_EQ(ziel.aktualisiert, 2);
+}
+
+TEST_F(PollingTest, Stopping_while_a_transaction_waits_ends_the_pass_without_a_message) {
+    Verbinde({16});
+    VerstummeBei(DevStatus);
+    umgebung.Plane(umgebung.uhr + 500ms, [] { StoppePolling(); });
+    const Zeit davor = umgebung.uhr;
+    PollingZyklus();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_LT(umgebung.uhr - davor, 2s);
+    EXPECT_EQ(GetPollingAktiv(), False);
+}
+
+TEST_F(PollingTest, A_command_that_waits_ends_the_pass_after_the_attempt_without_a_message) {
+    Verbinde({16});
+    VerstummeBei(DevStatus);
+    umgebung.Plane(umgebung.uhr + 1500ms, [this] { ziel.befehl = true; });
+    const Zeit davor = umgebung.uhr;
+    PollingZyklus();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_LT(umgebung.uhr - davor, 3s);
+    EXPECT_EQ(GetPollingAktiv(), True);
+}
+
+TEST_F(PollingTest, A_part_that_disappears_gives_its_message_once_and_the_next_pass_treats_it_as_absent) {
+    Verbinde({16, 16});
+    geraet.Spezifisch(0, 44) = 0;
+    PollingZyklus();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3004));
+    EXPECT_EQ(GetOptikteilStatus(0), NichtVorhanden);
+    EXPECT_EQ(ziel.aktualisiert, 1);
+    EXPECT_EQ(geraet.gelesen, (Lesungen{{DevStatus, 1}})) << "the message ends the pass";
+    PollingZyklus();
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(ziel.ansichten[0].ablauf, "");
+    EXPECT_EQ(ziel.ansichten[1].ablauf, "nsbm");
+}
+
+TEST_F(PollingTest, A_part_that_returns_gives_the_message_again_and_is_read_again) {
+    Verbinde({16});
+    geraet.Spezifisch(0, 44) = 0;
+    PollingZyklus();
+    geraet.Spezifisch(0, 44) = 0x80;
+    PollingZyklus();
+    EXPECT_EQ(umgebung.meldungen.size(), 2U);
+    PollingZyklus();
+    EXPECT_EQ(ziel.ansichten[0].ablauf, "nsbm");
+}
+
+TEST_F(PollingTest, Polling_is_on_exactly_when_the_port_could_be_opened) {
+    EXPECT_EQ(GetPollingAktiv(), True);
+    StoppePolling();
+    EXPECT_EQ(GetPollingAktiv(), False);
+    port.oeffnenGelingt = false;
+    StartePolling();
+    EXPECT_EQ(GetPollingAktiv(), False);
+}
+
+TEST_F(PollingTest, A_pass_does_not_mark_beam_states_as_a_changed_configuration) {
+    Verbinde({16});
+    modDaten::LoescheGeaendert();
+    modDaten::SetzeStrahlzustaende(1, 0, {1});
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+} // namespace varnoth

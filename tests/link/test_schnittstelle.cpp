@@ -1,0 +1,174 @@
+#include "schnittstelle.h"
+
+#include "pruefport.h"
+#include "trace.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace varnoth {
+
+using namespace modSchnittstelle;
+using namespace std::chrono_literals;
+
+class SchnittstelleTest : public testing::Test {
+protected:
+    SchnittstelleTest() { Zuruecksetzen(); }
+    ~SchnittstelleTest() override {
+        modTrace::Schliesse();
+        Zuruecksetzen();
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefPort port{umgebung};
+};
+
+TEST_F(SchnittstelleTest, Opens_the_chosen_port_with_the_chosen_settings) {
+    SetzeComPort(3);
+    SetzeComSettings("9600,e,8,1");
+    OpenCommPort();
+    ASSERT_EQ(port.geoeffnet.size(), 1U);
+    EXPECT_EQ(port.geoeffnet[0], (std::pair<int, std::string>{3, "9600,e,8,1"}));
+    EXPECT_EQ(GetPortIstOffen(), True);
+}
+
+TEST_F(SchnittstelleTest, Empty_settings_stand_for_the_standard) {
+    SetzeComSettings("");
+    OpenCommPort();
+    EXPECT_EQ(port.geoeffnet[0], (std::pair<int, std::string>{1, "38400,n,8,2"}));
+}
+
+TEST_F(SchnittstelleTest, Opening_an_open_port_closes_it_first) {
+    OpenCommPort();
+    OpenCommPort();
+    EXPECT_EQ(port.geschlossen, 1);
+    EXPECT_EQ(port.geoeffnet.size(), 2U);
+}
+
+TEST_F(SchnittstelleTest, Opening_discards_what_was_waiting) {
+    port.eingang = "old";
+    OpenCommPort();
+    EXPECT_EQ(CommPortBytesAvailable(), 0);
+}
+
+TEST_F(SchnittstelleTest, A_port_that_cannot_be_opened_stays_closed_without_a_message) {
+    port.oeffnenGelingt = false;
+    OpenCommPort();
+    EXPECT_EQ(GetPortIstOffen(), False);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(SchnittstelleTest, A_write_soon_after_a_read_waits_until_two_milliseconds_have_passed) {
+    OpenCommPort();
+    umgebung.uhr += 5ms;
+    CommPortReadInput();
+    umgebung.uhr += 500us;
+    const Zeit gelesen = umgebung.uhr - 500us;
+    CommPortWriteOutput("x");
+    ASSERT_EQ(port.sendezeiten.size(), 1U);
+    EXPECT_EQ(port.sendezeiten[0] - gelesen, 2ms);
+}
+
+TEST_F(SchnittstelleTest, A_write_soon_after_a_clear_waits_until_two_milliseconds_have_passed) {
+    OpenCommPort();
+    umgebung.uhr += 5ms;
+    ClearCommPort();
+    const Zeit geleert = umgebung.uhr;
+    CommPortWriteOutput("x");
+    EXPECT_EQ(port.sendezeiten.at(0) - geleert, 2ms);
+}
+
+TEST_F(SchnittstelleTest, A_write_right_after_a_write_is_not_delayed) {
+    OpenCommPort();
+    CommPortWriteOutput("x");
+    const Zeit davor = umgebung.uhr;
+    CommPortWriteOutput("y");
+    EXPECT_EQ(port.sendezeiten.at(1), davor);
+}
+
+TEST_F(SchnittstelleTest, With_the_port_closed_nothing_is_read_written_or_traced) {
+    const auto datei = std::filesystem::temp_directory_path() / "varnoth-schnittstelle-geschlossen.txt";
+    modTrace::Starte(datei);
+    const auto groesse = std::filesystem::file_size(datei);
+    port.eingang = "bytes";
+    EXPECT_EQ(CommPortReadInput(), "");
+    CommPortWriteOutput("x");
+    EXPECT_TRUE(port.gesendet.empty());
+    EXPECT_EQ(std::filesystem::file_size(datei), groesse);
+    std::filesystem::remove(datei);
+}
+
+TEST_F(SchnittstelleTest, Waiting_ends_as_soon_as_a_byte_has_arrived) {
+    OpenCommPort();
+    umgebung.Plane(umgebung.uhr + 300ms, [&] { port.eingang = "x"; });
+    const Zeit davor = umgebung.uhr;
+    WarteAufZeichen(1000, True);
+    EXPECT_EQ(umgebung.uhr - davor, 300ms);
+    EXPECT_EQ(CommPortBytesAvailable(), 1);
+}
+
+TEST_F(SchnittstelleTest, Waiting_without_a_byte_ends_when_the_time_is_up) {
+    OpenCommPort();
+    const Zeit davor = umgebung.uhr;
+    WarteAufZeichen(1000, True);
+    EXPECT_EQ(umgebung.uhr - davor, 1000ms);
+}
+
+TEST_F(SchnittstelleTest, An_event_during_the_wait_does_not_shorten_it) {
+    OpenCommPort();
+    int ereignisse = 0;
+    umgebung.Plane(umgebung.uhr + 300ms, [&] { ++ereignisse; });
+    const Zeit davor = umgebung.uhr;
+    WarteAufZeichen(1000, True);
+    EXPECT_EQ(ereignisse, 1);
+    EXPECT_EQ(umgebung.uhr - davor, 1000ms);
+}
+
+TEST_F(SchnittstelleTest, With_tracing_off_a_timeout_changes_nothing_on_screen) {
+    OpenCommPort();
+    WarteAufZeichen(1000, True);
+    EXPECT_EQ(umgebung.statustexte[0], "");
+}
+
+TEST_F(SchnittstelleTest, With_tracing_on_a_timeout_is_shown_in_the_first_panel) {
+    const auto datei = std::filesystem::temp_directory_path() / "varnoth-schnittstelle-trace.txt";
+    modTrace::Starte(datei);
+    OpenCommPort();
+    WarteAufZeichen(1000, True);
+    EXPECT_EQ(umgebung.statustexte[0], "Zeitüberschreitung, kein Zeichen empfangen. (Nur zum Testen)");
+    std::filesystem::remove(datei);
+}
+
+TEST_F(SchnittstelleTest, An_overflow_of_the_receive_buffer_discards_the_input) {
+    OpenCommPort();
+    port.eingang = "too much";
+    port.ereignisbehandlung(EreignisEmpfangspufferUeberlauf);
+    EXPECT_EQ(CommPortBytesAvailable(), 0);
+}
+
+TEST_F(SchnittstelleTest, Other_port_events_are_ignored) {
+    OpenCommPort();
+    port.eingang = "bytes";
+    for (const int ereignis : {1001, 1002, 1003, 1004, 1006, 1007, 1009, 1010})
+        BehandleCommEreignis(ereignis);
+    EXPECT_EQ(CommPortBytesAvailable(), 5);
+}
+
+TEST_F(SchnittstelleTest, A_port_whose_line_disappeared_is_opened_anew) {
+    OpenCommPort();
+    port.offen = false;
+    HoleVerlorenenPortZurueck();
+    EXPECT_EQ(GetPortIstOffen(), True);
+    EXPECT_EQ(port.geoeffnet.size(), 2U);
+}
+
+TEST_F(SchnittstelleTest, A_port_that_was_closed_on_purpose_is_not_opened_anew) {
+    OpenCommPort();
+    CloseCommPort();
+    HoleVerlorenenPortZurueck();
+    EXPECT_EQ(GetPortIstOffen(), False);
+    EXPECT_EQ(port.geoeffnet.size(), 1U);
+}
+
+} // namespace varnoth

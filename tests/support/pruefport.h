@@ -1,0 +1,91 @@
+#pragma once
+
+#include "pruefumgebung.h"
+#include "schnittstelle.h"
+#include "seriellerport.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace varnoth::pruefung {
+
+/// A part of a reply and how long after the request it arrives.
+struct Stueck {
+    Zeit nach{0};
+    std::string bytes;
+};
+
+/// A port whose far end is a function: it gets each request and gives the pieces of the reply. Time passes on
+/// the clock of the scripted environment.
+class PruefPort : public SeriellerPort {
+public:
+    explicit PruefPort(PruefUmgebung& die) : umgebung(die) { modSchnittstelle::SetzePort(this); }
+    ~PruefPort() override { modSchnittstelle::SetzePort(nullptr); }
+
+    bool Oeffne(int nummer, const std::string& einstellungen) override {
+        geoeffnet.emplace_back(nummer, einstellungen);
+        offen = oeffnenGelingt;
+        return offen;
+    }
+    void Schliesse() override {
+        ++geschlossen;
+        offen = false;
+    }
+    bool IstOffen() override { return offen; }
+    std::string Fehlertext() const override { return offen ? "" : "no such port"; }
+    void Verwirf() override {
+        NimmAngekommenes();
+        ++verworfen;
+        eingang.clear();
+    }
+    std::size_t BytesWartend() override {
+        NimmAngekommenes();
+        return offen ? eingang.size() : 0;
+    }
+    std::string LiesAlles() override {
+        NimmAngekommenes();
+        return std::exchange(eingang, {});
+    }
+    void Schreibe(std::string_view bytes) override {
+        gesendet.emplace_back(bytes);
+        sendezeiten.push_back(umgebung.uhr);
+        if (!antworte)
+            return;
+        for (auto& stueck : antworte(std::string(bytes)))
+            unterwegs.emplace(umgebung.uhr + stueck.nach, std::move(stueck.bytes));
+    }
+    void WarteAufEingang(Zeit hoechstens) override {
+        const Zeit ende = umgebung.uhr + hoechstens;
+        const bool kommtEtwas = !unterwegs.empty() && unterwegs.begin()->first <= ende;
+        umgebung.WarteAufEreignis(kommtEtwas ? unterwegs.begin()->first - umgebung.uhr : hoechstens);
+    }
+    void SetzeEreignisbehandlung(std::function<void(int)> behandlung) override {
+        ereignisbehandlung = std::move(behandlung);
+    }
+
+    bool offen = false;
+    bool oeffnenGelingt = true;
+    int geschlossen = 0;
+    int verworfen = 0;
+    std::string eingang;
+    std::vector<std::pair<int, std::string>> geoeffnet;
+    std::vector<std::string> gesendet;
+    std::vector<Zeit> sendezeiten;
+    std::function<std::vector<Stueck>(const std::string& anforderung)> antworte;
+    std::function<void(int)> ereignisbehandlung;
+
+private:
+    void NimmAngekommenes() {
+        while (!unterwegs.empty() && unterwegs.begin()->first <= umgebung.uhr) {
+            eingang += unterwegs.begin()->second;
+            unterwegs.erase(unterwegs.begin());
+        }
+    }
+
+    PruefUmgebung& umgebung;
+    std::multimap<Zeit, std::string> unterwegs;
+};
+
+} // namespace varnoth::pruefung
