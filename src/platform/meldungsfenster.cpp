@@ -1,0 +1,63 @@
+#include "meldungsfenster.h"
+
+#include "texte.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <utility>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextProgrammtitel = 6000;
+
+QMessageBox::Icon AlsIcon(Symbol symbol) {
+    switch (symbol) {
+    case Symbol::Warnung:
+        return QMessageBox::Warning;
+    case Symbol::Frage:
+        return QMessageBox::Question;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+QMessageBox::StandardButtons AlsButtons(Knoepfe knoepfe) {
+    switch (knoepfe) {
+    case Knoepfe::OkAbbrechen:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Knoepfe::JaNeinAbbrechen:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+Antwort AlsAntwort(int knopf) {
+    constexpr std::pair<int, Antwort> antworten[] = {
+        {QMessageBox::Ok, Antwort::Ok}, {QMessageBox::Yes, Antwort::Ja}, {QMessageBox::No, Antwort::Nein}};
+    for (const auto& [gedrueckt, antwort] : antworten)
+        if (gedrueckt == knopf)
+            return antwort;
+    return Antwort::Abbrechen;
+}
+
+QWidget* FensterVorn() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+} // namespace
+
+Antwort ZeigeMeldungsfenster(const Meldung& meldung) {
+    const std::string& titel = meldung.titel.empty() ? LadeText(TextProgrammtitel) : meldung.titel;
+    QMessageBox fenster(AlsIcon(meldung.symbol), QString::fromStdString(titel),
+                        QString::fromStdString(meldung.text), AlsButtons(meldung.knoepfe), FensterVorn());
+    fenster.setObjectName(QStringLiteral("Meldungsfenster"));
+    fenster.setTextFormat(Qt::PlainText);
+    return AlsAntwort(fenster.exec());
+}
+
+} // namespace varnoth

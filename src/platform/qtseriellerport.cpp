@@ -1,0 +1,132 @@
+#include "qtseriellerport.h"
+
+#include "geraetepfade.h"
+#include "porteinstellungen.h"
+
+#include <array>
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#include <poll.h>
+#endif
+
+namespace varnoth {
+
+namespace {
+
+QSerialPort::Parity AlsParity(Paritaet paritaet) {
+    constexpr std::array zuordnung{QSerialPort::NoParity, QSerialPort::EvenParity, QSerialPort::OddParity,
+                                   QSerialPort::MarkParity, QSerialPort::SpaceParity};
+    return zuordnung.at(static_cast<std::size_t>(paritaet));
+}
+
+QSerialPort::StopBits AlsStopBits(Stoppbits stoppbits) {
+    constexpr std::array zuordnung{QSerialPort::OneStop, QSerialPort::OneAndHalfStop, QSerialPort::TwoStop};
+    return zuordnung.at(static_cast<std::size_t>(stoppbits));
+}
+
+void Stelle(QSerialPort& port, const Porteinstellungen& einstellungen) {
+    port.setBaudRate(einstellungen.baud);
+    port.setParity(AlsParity(einstellungen.paritaet));
+    port.setDataBits(static_cast<QSerialPort::DataBits>(einstellungen.datenbits));
+    port.setStopBits(AlsStopBits(einstellungen.stoppbits));
+    port.setFlowControl(QSerialPort::NoFlowControl);
+    port.setReadBufferSize(static_cast<qint64>(Eingabepuffergroesse));
+}
+
+/// Whether the line behind an open port is gone. Qt does not tell in every version and for every kind of
+/// device.
+bool LeitungIstWeg([[maybe_unused]] QSerialPort& port) {
+#ifdef Q_OS_UNIX
+    pollfd anschluss{port.handle(), 0, 0};
+    return ::poll(&anschluss, 1, 0) > 0 && (anschluss.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+#else
+    return false;
+#endif
+}
+
+} // namespace
+
+QtSeriellerPort::QtSeriellerPort() {
+    QObject::connect(&port, &QSerialPort::errorOccurred, &port, [this](auto fehler) { BeiFehler(fehler); });
+    QObject::connect(&port, &QSerialPort::readyRead, &port, [this] { BeiEingang(); });
+}
+
+bool QtSeriellerPort::Oeffne(int nummer, const std::string& einstellungen) {
+    Schliesse();
+    const auto gelesen = LiesPorteinstellungen(einstellungen);
+    if (!gelesen) {
+        fehlertext = "\"" + einstellungen + "\": baud rate, parity, data bits, stop bits expected";
+        return false;
+    }
+    port.setPortName(QString::fromStdString(Geraetepfad(nummer)));
+    Stelle(port, *gelesen);
+    const bool offen = port.open(QIODevice::ReadWrite);
+    fehlertext = offen ? std::string() : port.errorString().toStdString();
+    if (offen)
+        SchalteLeitungenEin();
+    return offen;
+}
+
+/// RTS and DTR on. A pseudo terminal has no such lines, and refuses; that does not matter.
+void QtSeriellerPort::SchalteLeitungenEin() {
+    leitungenWerdenGeschaltet = true;
+    port.setRequestToSend(true);
+    port.setDataTerminalReady(true);
+    leitungenWerdenGeschaltet = false;
+    port.clearError();
+}
+
+void QtSeriellerPort::Schliesse() {
+    if (port.isOpen())
+        port.close();
+}
+
+bool QtSeriellerPort::IstOffen() {
+    if (port.isOpen() && LeitungIstWeg(port))
+        Schliesse();
+    return port.isOpen();
+}
+
+void QtSeriellerPort::Verwirf() {
+    if (port.isOpen())
+        port.clear(QSerialPort::Input);
+}
+
+std::size_t QtSeriellerPort::BytesWartend() {
+    return port.isOpen() ? static_cast<std::size_t>(port.bytesAvailable()) : 0;
+}
+
+std::string QtSeriellerPort::LiesAlles() {
+    return port.isOpen() ? port.readAll().toStdString() : std::string();
+}
+
+void QtSeriellerPort::Schreibe(std::string_view bytes) {
+    if (!port.isOpen())
+        return;
+    port.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    if (port.isOpen())
+        port.flush();
+}
+
+void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
+    if (BytesWartend() == 0)
+        DieUmgebung().WarteAufEreignis(hoechstens);
+}
+
+void QtSeriellerPort::SetzeEreignisbehandlung(std::function<void(int)> behandlung) {
+    ereignisbehandlung = std::move(behandlung);
+}
+
+void QtSeriellerPort::BeiFehler(QSerialPort::SerialPortError fehler) {
+    if (fehler == QSerialPort::NoError || leitungenWerdenGeschaltet)
+        return;
+    Schliesse();
+}
+
+void QtSeriellerPort::BeiEingang() {
+    if (BytesWartend() >= Eingabepuffergroesse && ereignisbehandlung)
+        ereignisbehandlung(EreignisEmpfangspufferUeberlauf);
+}
+
+} // namespace varnoth

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "seriellerport.h"
+
+#include <QSerialPort>
+
+namespace varnoth {
+
+/// A serial port of the system. A line that disappears closes the port at the first sign of it.
+class QtSeriellerPort : public SeriellerPort {
+public:
+    QtSeriellerPort();
+
+    bool Oeffne(int nummer, const std::string& einstellungen) override;
+    void Schliesse() override;
+    bool IstOffen() override;
+    std::string Fehlertext() const override { return fehlertext; }
+
+    void Verwirf() override;
+    std::size_t BytesWartend() override;
+    std::string LiesAlles() override;
+    void Schreibe(std::string_view bytes) override;
+    void WarteAufEingang(Zeit hoechstens) override;
+    void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
+
+private:
+    void BeiFehler(QSerialPort::SerialPortError fehler);
+    void BeiEingang();
+    void SchalteLeitungenEin();
+
+    QSerialPort port;
+    std::function<void(int)> ereignisbehandlung;
+    std::string fehlertext;
+    bool leitungenWerdenGeschaltet = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,74 @@
+#include "qtumgebung.h"
+
+#include "meldungsfenster.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+namespace varnoth {
+
+namespace {
+
+// Timers of the event loop count whole milliseconds. Waits that end sooner than this sleep to the
+// microsecond.
+constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
+constexpr Zeit LaengsterSchlaf = std::chrono::milliseconds(1);
+
+} // namespace
+
+QtUmgebung::QtUmgebung() {
+    wecker.setSingleShot(true);
+    wecker.setTimerType(Qt::PreciseTimer);
+    SetzeUmgebung(this);
+}
+
+QtUmgebung::~QtUmgebung() {
+    SetzeUmgebung(nullptr);
+}
+
+int QtUmgebung::LasseEreignisseLaufen() {
+    QCoreApplication::processEvents();
+    return formularzaehler ? formularzaehler() : 0;
+}
+
+void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
+    const Zeit ende = Uhr() + hoechstens;
+    if (hoechstens < Feinwartezeit) {
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(std::min(ende - Uhr(), LaengsterSchlaf));
+        return;
+    }
+    wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    wecker.stop();
+}
+
+Zeit QtUmgebung::Uhr() {
+    return std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now().time_since_epoch());
+}
+
+Antwort QtUmgebung::ZeigeMeldung(const Meldung& meldung) {
+    return meldungsweg ? meldungsweg(meldung) : ZeigeMeldungsfenster(meldung);
+}
+
+void QtUmgebung::ZeigeStatustext(int feld, const std::string& text) {
+    if (statusanzeige)
+        statusanzeige(feld, text);
+}
+
+void QtUmgebung::SetzeFormularzaehler(std::function<int()> zaehler) {
+    formularzaehler = std::move(zaehler);
+}
+
+void QtUmgebung::SetzeStatusanzeige(std::function<void(int, const std::string&)> anzeige) {
+    statusanzeige = std::move(anzeige);
+}
+
+void QtUmgebung::SetzeMeldungsweg(std::function<Antwort(const Meldung&)> weg) {
+    meldungsweg = std::move(weg);
+}
+
+} // namespace varnoth
