@@ -1,0 +1,126 @@
+#include "ablauf.h"
+
+#include <poll.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
+
+#include <algorithm>
+#include <iostream>
+#include <stdexcept>
+
+namespace varnoth::simulator {
+
+namespace {
+
+volatile sig_atomic_t sollEnden = 0;
+
+void MerkeEnde(int) {
+    sollEnden = 1;
+}
+
+/// Signals reach the program only while it sleeps, so that none falls between a look and the sleep.
+sigset_t RichteSignaleEin() {
+    sigset_t gesperrt, vorher;
+    sigemptyset(&gesperrt);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction aktion {};
+        aktion.sa_handler = MerkeEnde;
+        sigaction(signal, &aktion, nullptr);
+        sigaddset(&gesperrt, signal);
+    }
+    sigprocmask(SIG_BLOCK, &gesperrt, &vorher);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        sigdelset(&vorher, signal);
+    return vorher;
+}
+
+/// Sleeps end when they should, not some tens of microseconds later.
+void WeckePuenktlich() {
+#ifdef __linux__
+    prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
+#endif
+}
+
+timespec AlsTimespec(std::chrono::nanoseconds dauer) {
+    const auto sekunden = std::chrono::floor<std::chrono::seconds>(dauer);
+    return {static_cast<time_t>(sekunden.count()), static_cast<long>((dauer - sekunden).count())};
+}
+
+} // namespace
+
+Ablauf::Ablauf(Optionen optionen)
+    : schlafmaske_(RichteSignaleEin()), simulator_(MitProtokoll(optionen)), pty_(optionen.verknuepfung),
+      kanal_(optionen.steuerkanal) {
+    WeckePuenktlich();
+    pty_.Stecke();
+}
+
+Aufbau Ablauf::MitProtokoll(const Optionen& optionen) {
+    Aufbau aufbau = optionen.aufbau;
+    if (optionen.protokoll.empty())
+        return aufbau;
+    if (optionen.protokoll != "-")
+        protokoll_.open(optionen.protokoll);
+    if (!protokoll_)
+        throw std::runtime_error("--log: " + optionen.protokoll + " cannot be written");
+    std::ostream& ziel = optionen.protokoll == "-" ? std::cout : protokoll_;
+    aufbau.protokoll = [&ziel](std::string_view zeile) { ziel << zeile << std::endl; };
+    return aufbau;
+}
+
+Zeit Ablauf::Jetzt() const {
+    return std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now() - anfang_);
+}
+
+void Ablauf::Laufe() {
+    std::vector<pollfd> liste;
+    while (sollEnden == 0) {
+        liste.assign(1, {pty_.Deskriptor(), POLLIN, 0});
+        kanal_.Beobachte(liste);
+        Schlafe(liste);
+        LiesAnfragen(liste);
+        SendeFaelliges();
+        kanal_.Bediene(liste, [this](std::string_view zeile) { return FuehreAus(zeile); });
+    }
+}
+
+void Ablauf::Schlafe(std::vector<pollfd>& liste) {
+    const auto faellig = simulator_.NaechsteFaelligkeit();
+    const timespec frist = AlsTimespec(std::max(faellig.value_or(Zeit{0}) - Jetzt(), Zeit{0}));
+    if (::ppoll(liste.data(), liste.size(), faellig ? &frist : nullptr, &schlafmaske_) < 0)
+        for (pollfd& eines : liste)
+            eines.revents = 0;
+}
+
+void Ablauf::LiesAnfragen(const std::vector<pollfd>& liste) {
+    if ((liste.front().revents & POLLIN) == 0)
+        return;
+    const Zeit jetzt = Jetzt();
+    simulator_.Empfange(pty_.Lies(), jetzt);
+}
+
+void Ablauf::SendeFaelliges() {
+    const auto faellig = simulator_.NaechsteFaelligkeit();
+    const Zeit jetzt = Jetzt();
+    if (faellig && *faellig <= jetzt)
+        pty_.Schreibe(simulator_.Entnimm(jetzt));
+}
+
+std::string Ablauf::FuehreAus(std::string_view zeile) {
+    if (zeile == "unplug") {
+        pty_.Ziehe();
+        simulator_.TrenneLeitung();
+        return "ok";
+    }
+    if (zeile != "plug")
+        return simulator_.Befehl(zeile, Jetzt());
+    try {
+        pty_.Stecke();
+        return "ok " + pty_.Geraet();
+    } catch (const std::runtime_error& fehler) {
+        return std::string("error ") + fehler.what();
+    }
+}
+
+} // namespace varnoth::simulator

@@ -1,0 +1,93 @@
+#include "dauerspeicher.h"
+
+#include "registername.h"
+#include "zahltext.h"
+
+#include <fstream>
+#include <stdexcept>
+#include <string>
+
+namespace varnoth::simulator {
+
+namespace {
+
+constexpr std::string_view Kopf = "varnoth-simulator 1";
+
+template<class Speicher, class Tun>
+void FuerJedesRegister(Speicher& speicher, Tun tun) {
+    for (int teil = 0; teil < Optikteile; ++teil)
+        tun(Registername{{Bereich::Spezifisch, reg::Strahlenzahl}, teil},
+            speicher.Spezifisch(teil, reg::Strahlenzahl));
+    for (const Eintrag& eintrag : Schreibbare()) {
+        if (eintrag.art == Art::Steuerung)
+            continue;
+        for (int teil = 0; teil < (eintrag.bereich == Bereich::Spezifisch ? Optikteile : 1); ++teil)
+            for (int i = 0; i < eintrag.anzahl; ++i) {
+                const Registername name{{eintrag.bereich, eintrag.adresse + i}, teil};
+                tun(name, speicher.Block(name.ort, teil, 1)[0]);
+            }
+    }
+}
+
+bool WirdBehalten(Ort ort) {
+    const Eintrag* eintrag = FindeSchreibbar(ort);
+    return (ort.bereich == Bereich::Spezifisch && ort.adresse == reg::Strahlenzahl) ||
+           (eintrag != nullptr && eintrag->art != Art::Steuerung);
+}
+
+void LiesZeile(Registerspeicher& speicher, std::string_view zeile) {
+    auto woerter = Woerter(zeile);
+    std::span<const std::string_view> rest = woerter;
+    const Registername name = LiesRegistername(rest);
+    if (rest.size() != 1 || !WirdBehalten(name.ort))
+        throw std::invalid_argument("is not a stored register with its value");
+    speicher.Block(name.ort, name.teil, 1)[0] =
+        static_cast<std::uint16_t>(LiesZahl(rest[0], "value", 0, 0xFFFF));
+}
+
+} // namespace
+
+Dauerspeicher::Dauerspeicher(const Registerspeicher& anfang, std::filesystem::path datei)
+    : inhalt_(anfang), datei_(std::move(datei)) {
+    if (!datei_.empty() && std::filesystem::exists(datei_))
+        Lies();
+}
+
+bool Dauerspeicher::Behalte(const Registerspeicher& speicher, Art art) {
+    Uebernimm(inhalt_, speicher, art);
+    if (art == Art::Konfiguration)
+        for (int teil = 0; teil < Optikteile; ++teil)
+            inhalt_.Spezifisch(teil, reg::Strahlenzahl) = speicher.Spezifisch(teil, reg::Strahlenzahl);
+    return datei_.empty() || Schreibe();
+}
+
+void Dauerspeicher::Lies() {
+    std::ifstream strom(datei_);
+    std::string zeile;
+    if (!std::getline(strom, zeile) || zeile != Kopf)
+        throw std::runtime_error(datei_.string() + " is not a store of this program, or cannot be read");
+    for (int nummer = 2; std::getline(strom, zeile); ++nummer)
+        try {
+            LiesZeile(inhalt_, zeile);
+        } catch (const std::invalid_argument& fehler) {
+            throw std::runtime_error(datei_.string() + ", line " + std::to_string(nummer) + ": " +
+                                     fehler.what());
+        }
+}
+
+bool Dauerspeicher::Schreibe() const {
+    std::filesystem::path neu = datei_;
+    neu += ".new";
+    std::ofstream strom(neu, std::ios::trunc);
+    strom << Kopf << '\n';
+    FuerJedesRegister(inhalt_, [&strom](const Registername& name, std::uint16_t wert) {
+        strom << Text(name) << ' ' << wert << '\n';
+    });
+    strom.close();
+    std::error_code fehler;
+    if (strom)
+        std::filesystem::rename(neu, datei_, fehler);
+    return strom && !fehler;
+}
+
+} // namespace varnoth::simulator

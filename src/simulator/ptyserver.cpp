@@ -1,0 +1,93 @@
+#include "ptyserver.h"
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <termios.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <stdexcept>
+
+namespace varnoth::simulator {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void Scheitere(const std::string& was) {
+    throw std::runtime_error(was + ": " + std::strerror(errno));
+}
+
+Dateideskriptor OeffneMaster() {
+    Dateideskriptor master(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
+    if (master.Nummer() < 0 || ::grantpt(master.Nummer()) != 0 || ::unlockpt(master.Nummer()) != 0)
+        Scheitere("no pseudo terminal");
+    return master;
+}
+
+Dateideskriptor OeffneSlave(const std::string& geraet) {
+    Dateideskriptor slave(::open(geraet.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+    termios einstellung{};
+    if (slave.Nummer() < 0 || ::tcgetattr(slave.Nummer(), &einstellung) != 0)
+        Scheitere(geraet);
+    ::cfmakeraw(&einstellung);
+    if (::tcsetattr(slave.Nummer(), TCSANOW, &einstellung) != 0)
+        Scheitere(geraet);
+    return slave;
+}
+
+} // namespace
+
+void Ptyserver::Stecke() {
+    if (master_.Nummer() >= 0)
+        return;
+    master_ = OeffneMaster();
+    geraet_ = ::ptsname(master_.Nummer());
+    slave_ = OeffneSlave(geraet_);
+    if (!verknuepfung_.empty())
+        Verknuepfe();
+}
+
+void Ptyserver::Ziehe() {
+    std::error_code fehler;
+    if (VerknuepfungIstUnsere())
+        fs::remove(verknuepfung_, fehler);
+    slave_.Schliesse();
+    master_.Schliesse();
+    geraet_.clear();
+}
+
+/// Replaces the link in one step: at no time is there none.
+void Ptyserver::Verknuepfe() const {
+    const fs::file_status da = fs::symlink_status(verknuepfung_);
+    if (fs::exists(da) && !fs::is_symlink(da))
+        throw std::runtime_error(verknuepfung_ + " exists and is no symbolic link: choose another path");
+    const std::string neu = verknuepfung_ + ".new";
+    std::error_code fehler;
+    fs::remove(neu, fehler);
+    fs::create_symlink(geraet_, neu, fehler);
+    if (!fehler)
+        fs::rename(neu, verknuepfung_, fehler);
+    if (fehler)
+        throw std::runtime_error(verknuepfung_ + ": " + fehler.message());
+}
+
+bool Ptyserver::VerknuepfungIstUnsere() const {
+    std::error_code fehler;
+    return !verknuepfung_.empty() && !geraet_.empty() && fs::read_symlink(verknuepfung_, fehler) == geraet_;
+}
+
+std::vector<std::uint8_t> Ptyserver::Lies() {
+    std::array<std::uint8_t, 4096> puffer;
+    const ssize_t anzahl = ::read(master_.Nummer(), puffer.data(), puffer.size());
+    return {puffer.begin(), puffer.begin() + (anzahl > 0 ? anzahl : 0)};
+}
+
+void Ptyserver::Schreibe(std::span<const std::uint8_t> zeichen) {
+    if (master_.Nummer() >= 0) [[maybe_unused]]
+        const ssize_t geschrieben = ::write(master_.Nummer(), zeichen.data(), zeichen.size());
+}
+
+} // namespace varnoth::simulator

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "dateideskriptor.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace varnoth::simulator {
+
+/// The socket the master's cable goes into: a pseudo terminal in raw mode, with a symbolic link to it.
+class Ptyserver {
+public:
+    /// @param verknuepfung path of the link, empty = none
+    explicit Ptyserver(std::string verknuepfung) : verknuepfung_(std::move(verknuepfung)) {}
+    Ptyserver(const Ptyserver&) = delete;
+    Ptyserver& operator=(const Ptyserver&) = delete;
+    ~Ptyserver() { Ziehe(); }
+
+    /// Opens a new terminal and makes the link; nothing when it is open already.
+    /// @throws std::runtime_error with a sentence for the user
+    void Stecke();
+    /// Closes the terminal, so that whoever has it open is hung up, and removes the link.
+    void Ziehe();
+    /// The terminal's path, empty while unplugged.
+    const std::string& Geraet() const { return geraet_; }
+    /// Descriptor of the controller's end for poll(), -1 while unplugged.
+    int Deskriptor() const { return master_.Nummer(); }
+    /// Takes what the master has sent.
+    std::vector<std::uint8_t> Lies();
+    /// Hands bytes to the master. What it leaves unread beyond the terminal's buffer is lost, as on a real
+    /// line.
+    void Schreibe(std::span<const std::uint8_t> zeichen);
+
+private:
+    void Verknuepfe() const;
+    bool VerknuepfungIstUnsere() const;
+
+    std::string verknuepfung_;
+    std::string geraet_;
+    Dateideskriptor master_;
+    Dateideskriptor slave_; ///< kept open, so that a client may close and come again
+};
+
+} // namespace varnoth::simulator
