@@ -87,14 +87,21 @@ void LokalisiereLabel(QLabel& label) {
     SchreibeText(label, &QLabel::text, &QLabel::setText, label.buddy() ? text : OhneMnemonik(text));
 }
 
-void LokalisiereReiter(QTabWidget& reiter) {
-    for (int i = 0; i < reiter.count(); ++i) {
-        QWidget& seite = *reiter.widget(i);
-        if (const QString text = TextZuTag(seite); !text.isEmpty() && reiter.tabText(i) != text)
-            reiter.setTabText(i, text);
-        const QString toolTip = ToolTipText(seite, "ReiterToolTipTag", reiter.tabToolTip(i));
-        if (!toolTip.isEmpty() && reiter.tabToolTip(i) != toolTip)
-            reiter.setTabToolTip(i, toolTip);
+/// One tab of a QTabWidget or QTabBar; the id of its tool tip is kept with the element given.
+template<class Leiste>
+void LokalisiereReiter(Leiste& leiste, int i, const QVariant& tag, QObject& traeger,
+                       const QByteArray& merker) {
+    if (const QString text = TextZu(tag); !text.isEmpty() && leiste.tabText(i) != text)
+        leiste.setTabText(i, text);
+    const QString toolTip = ToolTipText(traeger, merker, leiste.tabToolTip(i));
+    if (!toolTip.isEmpty() && leiste.tabToolTip(i) != toolTip)
+        leiste.setTabToolTip(i, toolTip);
+}
+
+void LokalisiereSeiten(QTabWidget& seiten) {
+    for (int i = 0; i < seiten.count(); ++i) {
+        QWidget& seite = *seiten.widget(i);
+        LokalisiereReiter(seiten, i, seite.property(TagName), seite, "ReiterToolTipTag");
     }
 }
 
@@ -104,12 +111,7 @@ void LokalisiereReiterleiste(QTabBar& leiste) {
         return;
     for (int i = 0; i < leiste.count(); ++i) {
         const QVariant tag = leiste.tabData(i);
-        if (const QString text = TextZu(tag); !text.isEmpty() && leiste.tabText(i) != text)
-            leiste.setTabText(i, text);
-        const QByteArray merker = ToolTipTagName + ('_' + tag.toByteArray());
-        const QString toolTip = ToolTipText(leiste, merker, leiste.tabToolTip(i));
-        if (!toolTip.isEmpty() && leiste.tabToolTip(i) != toolTip)
-            leiste.setTabToolTip(i, toolTip);
+        LokalisiereReiter(leiste, i, tag, leiste, ToolTipTagName + ('_' + tag.toByteArray()));
     }
 }
 
@@ -170,7 +172,7 @@ constexpr bool (*Arten[])(QWidget&) = {
     LasseLinieAus,
     Behandle<QScrollBar, LasseAus>,
     Behandle<QLabel, LokalisiereLabel>,
-    Behandle<QTabWidget, LokalisiereReiter>,
+    Behandle<QTabWidget, LokalisiereSeiten>,
     Behandle<QTabBar, LokalisiereReiterleiste>,
     Behandle<QHeaderView, LokalisiereSpalten>,
     Behandle<QAbstractButton, LokalisiereKnopf>,
