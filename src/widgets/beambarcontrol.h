@@ -1,0 +1,115 @@
+#pragma once
+
+#include "strahlbild.h"
+
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+namespace varnoth {
+
+/// What the mouse and the keyboard do on a beam bar.
+enum class Bedienart { Blanking = 0, Zoom = 1 };
+
+/// Shows the beams of one optical part, beam 0 at the bottom, transmitter left, receiver right, with a scale
+/// in millimetres. The wheel zooms, dragging with the middle button or on the scale moves the view. In the
+/// mode Zoom dragging over beams zooms in on them and a double click shows all; in the mode Blanking a click
+/// or drag blanks beams and frees them.
+class BeamBarControl : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit BeamBarControl(QWidget* eltern = nullptr);
+
+    /// Sets the number of beams, 0 and up; beams that are new are free. Another number shows all beams again.
+    void SetzeStrahlanzahl(int anzahl);
+    int Strahlanzahl() const { return static_cast<int>(m_zustaende.size()); }
+    /// Sets the distance of two beams in millimetres; without one (0) there is no scale.
+    void SetzeStrahlabstand(int mm);
+    int Strahlabstand() const { return m_abstandMm; }
+
+    /// Selects the beam that the next two operations mean. An index that is no beam selects none.
+    void WaehleStrahl(int index);
+    /// Sets the selected beam's display state; does nothing when none is selected.
+    void SetzeZustand(Strahlzustand zustand);
+    /// The selected beam's display state; free when none is selected.
+    Strahlzustand Zustand() const;
+    /// The display state of any beam; free for an index that is no beam.
+    Strahlzustand Zustand(int index) const;
+
+    /// Off: changes are collected. On: what has changed meanwhile is drawn, once.
+    void SetzeAutomatischesZeichnen(bool an);
+
+    void SetzeBedienart(Bedienart art);
+    Bedienart Bedienung() const { return m_bedienart; }
+
+    /// The zoom window.
+    const Ausschnitt& SichtbarerAusschnitt() const { return m_ausschnitt; }
+    void ZeigeAusschnitt(const Ausschnitt& ausschnitt);
+    void ZeigeAlles();
+
+    /// The beam at a place in the widget, -1 when there is none.
+    int StrahlBei(const QPointF& stelle) const;
+    /// The middle of a beam in the widget.
+    QPointF Strahlmitte(int strahl) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// Another beam (index) is under the pointer or under the keyboard's cursor; -1: none.
+    void StrahlUnterMaus(int index);
+    /// The user has blanked or freed a beam.
+    void BlankingGeaendert(int index, bool geblankt);
+
+protected:
+    bool event(QEvent* ereignis) override;
+    void paintEvent(QPaintEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
+    void wheelEvent(QWheelEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    void focusInEvent(QFocusEvent* ereignis) override;
+    void focusOutEvent(QFocusEvent* ereignis) override;
+
+private:
+    enum class Zug { Keiner, Schieben, Band, Malen };
+
+    Bildvorgabe Vorgabe(double dichte) const;
+    Aufteilung Plan() const;
+    int GeraeteY(const QPointF& stelle) const;
+    bool IstStrahl(int index) const { return index >= 0 && index < Strahlanzahl(); }
+    void Geaendert();
+    void ZeigeUnterMaus(int strahl);
+    void SetzeCursor(int strahl);
+    void Blanke(int strahl, bool geblankt);
+    void Male(int von, int bis);
+    void BeginneMalen(int strahl);
+    void ZieheWeiter(const QPointF& stelle);
+    void BeendeBand();
+    bool Zoomtaste(int taste);
+    std::optional<int> Cursorziel(int taste) const;
+
+    std::vector<Strahlzustand> m_zustaende;
+    int m_abstandMm = 0;
+    int m_gewaehlt = -1;
+    bool m_automatisch = true;
+    bool m_geaendert = false;
+    Bedienart m_bedienart = Bedienart::Zoom;
+    Ausschnitt m_ausschnitt;
+    Strahlbild m_bild;
+
+    int m_zeiger = -1;
+    int m_cursor = 0;
+    Zug m_zug = Zug::Keiner;
+    QPointF m_zugStart;
+    Ausschnitt m_zugAusschnitt;
+    int m_bandEnde = 0;
+    int m_letzterGemalt = -1;
+    bool m_malzustand = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,144 @@
+#include "strahlbild.h"
+
+#include "strahlhintergrund.h"
+#include "strahlmasse.h"
+#include "strahlmuster.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+
+int Zahlenbreite(const QFontMetrics& masse, int groesste) {
+    return masse.horizontalAdvance(QString(QString::number(groesste).size(), u'0'));
+}
+
+Strahlfeld TeileHoehe(const Bildvorgabe& vorgabe, int zeile) {
+    const auto pixel = [&vorgabe](double logisch) { return Geraetepixel(logisch, vorgabe.dichte); };
+    const bool mitSkala = vorgabe.abstandMm > 0;
+    const int oben = pixel(Masse::Rand + Masse::Ueberstand) + (mitSkala ? zeile : 0);
+    const int unten = pixel(Masse::Rand + Masse::Ueberstand);
+    return {oben, std::max(1, vorgabe.groesse.height() - oben - unten), vorgabe.strahlen, vorgabe.ausschnitt};
+}
+
+// A small triangle beside a beam.
+void ZeichnePfeil(QPainter& maler, double x, double y, double breite, const QColor& farbe) {
+    QPainterPath pfad;
+    pfad.moveTo(x, y);
+    pfad.lineTo(x - breite, y - std::abs(breite));
+    pfad.lineTo(x - breite, y + std::abs(breite));
+    maler.fillPath(pfad, farbe);
+}
+
+} // namespace
+
+Aufteilung TeileAuf(const Bildvorgabe& vorgabe) {
+    const auto pixel = [&vorgabe](double logisch) { return Geraetepixel(logisch, vorgabe.dichte); };
+    const QFontMetrics masse(vorgabe.schrift);
+    Aufteilung plan;
+    plan.feld = TeileHoehe(vorgabe, masse.height());
+    plan.gehaeuse = pixel(Masse::Gehaeuse);
+    if (vorgabe.abstandMm > 0)
+        plan.skala = std::max(Zahlenbreite(masse, vorgabe.abstandMm * vorgabe.strahlen),
+                              masse.horizontalAdvance(QStringLiteral("mm"))) +
+                     pixel(Masse::Rand) + pixel(Masse::Strich + 2 * Masse::Luecke);
+    plan.nummern = Zahlenbreite(masse, vorgabe.strahlen) + pixel(Masse::Luecke);
+    const int rand = pixel(Masse::Rand + Masse::Leiste);
+    const auto frei = [&] {
+        return vorgabe.groesse.width() - plan.skala - plan.nummern - 2 * plan.gehaeuse - 2 * rand;
+    };
+    if (frei() < pixel(Masse::MindestStrahl))
+        plan.nummern = 0;
+    if (frei() < pixel(Masse::MindestStrahl))
+        plan.skala = 0;
+    plan.senderLinks = plan.skala > 0 ? plan.skala + pixel(Masse::Luecke) : rand;
+    plan.strahlenLinks = plan.senderLinks + plan.gehaeuse;
+    plan.strahlenBreite =
+        std::max(1, vorgabe.groesse.width() - plan.strahlenLinks - plan.gehaeuse - plan.nummern - rand);
+    return plan;
+}
+
+void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& vorgabe, const QPalette& palette,
+                         std::span<const Strahlzustand> zustaende, const Marken& marken) {
+    Bereite(vorgabe, palette);
+    maler.drawPixmap(0, 0, m_hintergrund);
+    ZeichneStrahlen(maler, zustaende);
+    ZeichneMarken(maler, marken);
+}
+
+void Strahlbild::Bereite(const Bildvorgabe& vorgabe, const QPalette& palette) {
+    if (!m_hintergrund.isNull() && vorgabe == m_vorgabe && palette == m_palette)
+        return;
+    m_vorgabe = vorgabe;
+    m_palette = palette;
+    m_farben = FarbenAus(palette);
+    m_aufteilung = TeileAuf(vorgabe);
+    m_hintergrund = Hintergrund(vorgabe, m_aufteilung, m_farben);
+    m_muster =
+        Musterbogen({m_aufteilung.strahlenBreite, m_aufteilung.feld.Teilung(), vorgabe.dichte}, m_farben);
+}
+
+void Strahlbild::ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende) const {
+    const Strahlfeld& feld = m_aufteilung.feld;
+    const Musterformat format{m_aufteilung.strahlenBreite, feld.Teilung(), m_vorgabe.dichte};
+    const int links = m_aufteilung.strahlenLinks;
+    const std::vector<Zeile> zeilen = Zeilen(feld, zustaende);
+    maler.save();
+    maler.setClipRect(links, feld.oben, m_aufteilung.strahlenBreite, feld.hoehe);
+    for (const Zeile& zeile : zeilen)
+        maler.drawPixmap(QPoint(links, zeile.oben), m_muster, format.Stelle(zeile.zustand, zeile.hoehe));
+    maler.setClipRect(m_aufteilung.EmpfaengerLinks(), feld.oben, m_aufteilung.gehaeuse, feld.hoehe);
+    MeldeUnterbrochene(maler, zeilen);
+    maler.restore();
+}
+
+// On the receiver's long lens, where nothing else is hidden, a single row gets a mark high enough to be
+// found.
+void Strahlbild::MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& zeilen) const {
+    if (m_aufteilung.feld.Teilung() >= Masse::MeldungUnter * m_vorgabe.dichte)
+        return;
+    const auto pixel = [this](double logisch) { return Geraetepixel(logisch, m_vorgabe.dichte); };
+    const int links = m_aufteilung.EmpfaengerLinks() + pixel(Masse::Luecke) - pixel(1);
+    const int mindestens = pixel(Masse::Meldung);
+    for (const Zeile& zeile : zeilen) {
+        if (zeile.zustand != Strahlzustand::Unterbrochen)
+            continue;
+        const int mehr = std::max(0, mindestens - zeile.hoehe);
+        maler.fillRect(links, zeile.oben - mehr / 2, pixel(2 * Masse::Luecke), zeile.hoehe + mehr,
+                       m_farben.unterbrochen);
+    }
+}
+
+void Strahlbild::ZeichneMarken(QPainter& maler, const Marken& marken) const {
+    const Strahlfeld& feld = m_aufteilung.feld;
+    const int links = m_aufteilung.strahlenLinks;
+    const int breite = m_aufteilung.strahlenBreite;
+    const double dichte = m_vorgabe.dichte;
+    if (marken.cursor >= 0) {
+        const int unten = feld.Unterkante(marken.cursor);
+        const int oben = std::min(feld.Unterkante(marken.cursor + 1), unten - 1);
+        maler.setPen(
+            QPen(m_farben.marke, Geraetepixel(1, dichte), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        maler.setBrush(Qt::NoBrush);
+        maler.drawRect(links, oben - 1, breite - 1, unten - oben + 1);
+    }
+    if (marken.zeiger >= 0) {
+        const double y = feld.Y(marken.zeiger + 0.5);
+        maler.setRenderHint(QPainter::Antialiasing);
+        ZeichnePfeil(maler, links - 1, y, 5 * dichte, m_farben.marke);
+        ZeichnePfeil(maler, links + breite + 1, y, -5 * dichte, m_farben.marke);
+        maler.setRenderHint(QPainter::Antialiasing, false);
+    }
+    if (marken.bandHoehe > 0) {
+        QColor band = m_farben.marke;
+        band.setAlphaF(0.25F);
+        maler.fillRect(links, marken.bandOben, breite, marken.bandHoehe, band);
+    }
+}
+
+} // namespace varnoth

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "strahlfarben.h"
+#include "strahlgeometrie.h"
+
+#include <QFont>
+#include <QPixmap>
+#include <QSize>
+
+class QPainter;
+
+namespace varnoth {
+
+/// All that decides where on a beam bar something lies. Lengths in device pixels.
+struct Bildvorgabe {
+    QSize groesse;
+    double dichte = 1;
+    QFont schrift;
+    int strahlen = 0;
+    int abstandMm = 0;
+    Ausschnitt ausschnitt{};
+
+    bool operator==(const Bildvorgabe&) const = default;
+};
+
+/// Where the columns of a beam bar lie: scale, transmitter, beams, receiver, beam numbers. A column that has
+/// no room has the width 0. Lengths in device pixels.
+struct Aufteilung {
+    Strahlfeld feld;
+    int skala = 0;
+    int senderLinks = 0;
+    int gehaeuse = 0;
+    int strahlenLinks = 0;
+    int strahlenBreite = 0;
+    int nummern = 0;
+
+    int EmpfaengerLinks() const { return strahlenLinks + strahlenBreite; }
+};
+
+/// The columns for a size; the scale and the numbers give way before the beams do.
+Aufteilung TeileAuf(const Bildvorgabe& vorgabe);
+
+/// What is drawn over the beams: beams under the pointer and the keyboard's cursor (-1: none) and the band
+/// that is being dragged (device pixels from top, height 0: none).
+struct Marken {
+    int zeiger = -1;
+    int cursor = -1;
+    int bandOben = 0;
+    int bandHoehe = 0;
+};
+
+/// Draws beam bars. What does not change from scan to scan is kept as pictures.
+class Strahlbild {
+public:
+    /// Draws at the painter's origin; one unit of the painter must be one device pixel.
+    void Zeichne(QPainter& maler, const Bildvorgabe& vorgabe, const QPalette& palette,
+                 std::span<const Strahlzustand> zustaende, const Marken& marken);
+
+private:
+    void Bereite(const Bildvorgabe& vorgabe, const QPalette& palette);
+    void ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende) const;
+    void MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& zeilen) const;
+    void ZeichneMarken(QPainter& maler, const Marken& marken) const;
+
+    Bildvorgabe m_vorgabe;
+    QPalette m_palette;
+    Strahlfarben m_farben;
+    Aufteilung m_aufteilung;
+    QPixmap m_hintergrund;
+    QPixmap m_muster;
+};
+
+} // namespace varnoth

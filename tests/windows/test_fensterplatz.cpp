@@ -1,0 +1,139 @@
+#include "fensterplatz.h"
+#include "fenstertest.h"
+#include "pruefumgebung.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <gtest/gtest.h>
+
+using namespace varnoth;
+
+namespace {
+
+class FensterplatzTest : public testing::Test {
+protected:
+    void SetUp() override {
+        pruefung::ErwarteWarnung("propagateSizeHints");
+        bereich = new QMdiArea;
+        haupt.setCentralWidget(bereich);
+        haupt.resize(790, 590);
+        haupt.show();
+        QApplication::processEvents();
+        sicht = new QWidget;
+        rahmen = bereich->addSubWindow(sicht);
+        rahmen->setAttribute(Qt::WA_DeleteOnClose, false);
+    }
+    void Zeige() {
+        rahmen->show();
+        QApplication::processEvents();
+    }
+
+    pruefung::PruefEinstellungen einstellungen;
+    QMainWindow haupt;
+    QMdiArea* bereich = nullptr;
+    QWidget* sicht = nullptr;
+    QMdiSubWindow* rahmen = nullptr;
+};
+
+constexpr Fensterplatz Beispiel{Fensterplatz::Normal, 1500, 750, 4500, 3600};
+
+} // namespace
+
+TEST_F(FensterplatzTest, Fifteen_twips_are_a_pixel) {
+    EXPECT_EQ(PixelAusTwips(6500), 433);
+    EXPECT_EQ(PixelAusTwips(-30), -2);
+    EXPECT_EQ(TwipsAusPixel(100), 1500);
+}
+
+TEST_F(FensterplatzTest, An_empty_section_gives_the_defaults) {
+    EXPECT_EQ(LiesFensterplatz(einstellungen, "MDIForm", {}), (Fensterplatz{0, 1000, 1000, 6500, 6500}));
+    Fensterplatz ohneZustand;
+    ohneZustand.zustand = ZustandNichtGespeichert;
+    EXPECT_EQ(LiesFensterplatz(einstellungen, "0Form", ohneZustand).zustand, -1);
+}
+
+TEST_F(FensterplatzTest, A_place_is_stored_as_five_decimal_texts) {
+    SchreibFensterplatz(einstellungen, "2Form", {2, -30, 40, 5000, 6000});
+    const std::map<std::pair<std::string, std::string>, std::string> erwartet{
+        {{"2Form", "WindowState"}, "2"}, {{"2Form", "Left"}, "-30"},    {{"2Form", "Top"}, "40"},
+        {{"2Form", "Width"}, "5000"},    {{"2Form", "Height"}, "6000"},
+    };
+    EXPECT_EQ(einstellungen.texte, erwartet);
+}
+
+TEST_F(FensterplatzTest, A_stored_place_is_read_again) {
+    SchreibFensterplatz(einstellungen, "2Form", Beispiel);
+    EXPECT_EQ(LiesFensterplatz(einstellungen, "2Form", {}), Beispiel);
+}
+
+TEST_F(FensterplatzTest, A_view_takes_its_place_inside_the_main_window) {
+    WendeAn(Beispiel, *sicht);
+    Zeige();
+    EXPECT_EQ(rahmen->geometry(), QRect(100, 50, 300, 240));
+    EXPECT_EQ(PlatzVon(*sicht), Beispiel);
+}
+
+TEST_F(FensterplatzTest, Placing_a_hidden_view_does_not_show_it) {
+    WendeAn({Fensterplatz::Maximiert, 1500, 750, 4500, 3600}, *sicht);
+    QApplication::processEvents();
+    EXPECT_FALSE(rahmen->isVisible());
+}
+
+TEST_F(FensterplatzTest, A_maximised_view_keeps_its_normal_place) {
+    Fensterplatz gross = Beispiel;
+    gross.zustand = Fensterplatz::Maximiert;
+    WendeAn(gross, *sicht);
+    Zeige();
+    EXPECT_TRUE(rahmen->isMaximized());
+    EXPECT_EQ(PlatzVon(*sicht), gross);
+}
+
+TEST_F(FensterplatzTest, A_view_maximised_by_the_user_stores_where_it_was) {
+    WendeAn(Beispiel, *sicht);
+    Zeige();
+    rahmen->move(120, 60);
+    rahmen->showMaximized();
+    QApplication::processEvents();
+    EXPECT_EQ(PlatzVon(*sicht), (Fensterplatz{Fensterplatz::Maximiert, 1800, 900, 4500, 3600}));
+}
+
+TEST_F(FensterplatzTest, A_minimised_view_has_no_place_to_store) {
+    Zeige();
+    rahmen->showMinimized();
+    QApplication::processEvents();
+    EXPECT_EQ(PlatzVon(*sicht), std::nullopt);
+}
+
+TEST_F(FensterplatzTest, A_hidden_view_keeps_the_place_it_had) {
+    WendeAn(Beispiel, *sicht);
+    Zeige();
+    rahmen->move(120, 60);
+    rahmen->hide();
+    EXPECT_EQ(PlatzVon(*sicht), (Fensterplatz{Fensterplatz::Normal, 1800, 900, 4500, 3600}));
+}
+
+TEST_F(FensterplatzTest, A_view_out_of_reach_is_moved_back) {
+    WendeAn({Fensterplatz::Normal, 90000, -90000, 4500, 3600}, *sicht);
+    Zeige();
+    EXPECT_TRUE(bereich->viewport()->rect().intersects(rahmen->geometry()));
+    EXPECT_EQ(rahmen->y(), 0);
+}
+
+TEST_F(FensterplatzTest, A_window_of_its_own_takes_its_place_on_the_screen) {
+    QWidget fenster;
+    WendeAn(Beispiel, fenster);
+    fenster.show();
+    QApplication::processEvents();
+    EXPECT_EQ(PlatzVon(fenster), Beispiel);
+}
+
+TEST_F(FensterplatzTest, A_window_of_its_own_stores_its_normal_place_when_maximised) {
+    QWidget fenster;
+    WendeAn({Fensterplatz::Maximiert, 1500, 750, 4500, 3600}, fenster);
+    fenster.show();
+    QApplication::processEvents();
+    EXPECT_TRUE(fenster.isMaximized());
+    EXPECT_EQ(PlatzVon(fenster), (Fensterplatz{Fensterplatz::Maximiert, 1500, 750, 4500, 3600}));
+}
