@@ -1,0 +1,62 @@
+#pragma once
+
+#include "plausibilitaet.h"
+#include "pruefumgebung.h"
+#include "registerabbild.h"
+#include "texte.h"
+#include "zykluszeiten.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace varnoth {
+
+inline constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
+inline constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+inline constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
+
+/// Gives every test the data model as the program starts with it, and takes its own traces away.
+class ModellTest : public testing::Test {
+protected:
+    ModellTest() { AllesAufAnfang(); }
+    ~ModellTest() override { AllesAufAnfang(); }
+
+    /// Any register of the image, whether a parameter starts there or not.
+    static std::int32_t Wert(Speicherbereich bereich, std::int16_t adresse, int optikteil = 0) {
+        return modDaten::Bereich(bereich)[modDaten::Stelle(bereich, adresse, optikteil)];
+    }
+    static void SetzeWert(Speicherbereich bereich, std::int16_t adresse, int optikteil, std::int32_t wert) {
+        const auto alte = modDaten::Bereich(bereich);
+        Werte werte(alte.begin(), alte.end());
+        werte[modDaten::Stelle(bereich, adresse, optikteil)] = wert;
+        modDaten::ErsetzeBereich(bereich, werte);
+    }
+    /// first, first + 1, ...
+    static Werte Folge(std::int32_t erster, std::size_t anzahl) {
+        Werte werte(anzahl);
+        std::iota(werte.begin(), werte.end(), erster);
+        return werte;
+    }
+    /// All values of all ranges, to compare the image before and after.
+    static std::vector<Werte> Abbild() {
+        std::vector<Werte> abbild;
+        for (const auto bereich : AlleSpeicherbereiche) {
+            const auto werte = modDaten::Bereich(bereich);
+            abbild.emplace_back(werte.begin(), werte.end());
+        }
+        return abbild;
+    }
+
+    pruefung::PruefUmgebung umgebung;
+
+private:
+    static void AllesAufAnfang() {
+        modDaten::Zuruecksetzen();
+        modDaten::SetzeReaktionAufUnplausiblesAbbild({});
+        modHilfsFunktionen::Zuruecksetzen();
+        SetzeSprachoffset(Deutsch);
+    }
+};
+
+} // namespace varnoth
