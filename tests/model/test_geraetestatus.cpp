@@ -13,6 +13,13 @@ protected:
             liste += (liste.empty() ? "" : ", ") + LadeText(3104) + std::to_string(teil);
         return liste;
     }
+    /// Pieces of news with a line break between them.
+    static std::string Untereinander(const std::vector<std::string>& stuecke) {
+        std::string text;
+        for (const auto& stueck : stuecke)
+            text += (text.empty() ? "" : "\r\n") + stueck;
+        return text;
+    }
 };
 
 TEST_F(Geraetestatus, A_status_word_without_news_gives_no_text) {
@@ -40,8 +47,8 @@ TEST_F(Geraetestatus, Several_parts_are_separated_by_comma_and_blank) {
 }
 
 TEST_F(Geraetestatus, All_news_stand_one_below_the_other) {
-    EXPECT_EQ(Geraetestatustext(0x9024), LadeText(3103) + "\r\n" + Liste({2}) + "\r\n" + LadeText(3105) +
-                                             "\r\n" + Liste({1, 4}) + "\r\n" + LadeText(3106));
+    EXPECT_EQ(Geraetestatustext(0x9024), Untereinander({LadeText(3103), Liste({2}) + "\r\n" + LadeText(3105),
+                                                        Liste({1, 4}) + "\r\n" + LadeText(3106)}));
 }
 
 TEST_F(Geraetestatus, The_text_is_in_the_current_language) {
