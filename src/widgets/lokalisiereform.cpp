@@ -107,8 +107,6 @@ void LokalisiereSeiten(QTabWidget& seiten) {
 
 /// The tool tips' ids are kept under the tab's own id, since tabs come and go.
 void LokalisiereReiterleiste(QTabBar& leiste) {
-    if (qobject_cast<QTabWidget*>(leiste.parentWidget()))
-        return;
     for (int i = 0; i < leiste.count(); ++i) {
         const QVariant tag = leiste.tabData(i);
         LokalisiereReiter(leiste, i, tag, leiste, ToolTipTagName + ('_' + tag.toByteArray()));
@@ -133,6 +131,7 @@ void LokalisiereSpalten(QHeaderView& kopf) {
         LokalisiereSpalte(*kopf.model(), spalte);
 }
 
+/// A tool button that stands for an action takes its texts from that.
 void LokalisiereKnopf(QAbstractButton& knopf) {
     const auto* const werkzeug = qobject_cast<QToolButton*>(&knopf);
     if (werkzeug && werkzeug->defaultAction())

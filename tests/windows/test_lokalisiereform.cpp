@@ -416,6 +416,16 @@ TEST_F(HauptfensterTest,
     EXPECT_EQ(leiste.widgetForAction(&neu)->toolTip(), "New Configuration");
 }
 
+TEST_F(HauptfensterTest, A_tool_button_outside_a_tool_bar_shows_the_texts_of_its_action) {
+    auto* const knopf = new QToolButton(&fenster);
+    knopf->setDefaultAction(new QAction("1040", knopf));
+    for (int runde = 0; runde < 2; ++runde) {
+        Lokalisiere(Deutsch);
+        EXPECT_EQ(knopf->text(), "Neue Konfiguration");
+        EXPECT_EQ(knopf->toolTip(), "Neue Konfiguration");
+    }
+}
+
 TEST_F(HauptfensterTest, A_floating_dock_belongs_to_the_window) {
     auto* const dock = new QDockWidget(&fenster);
     dock->setProperty("Tag", "8039");
