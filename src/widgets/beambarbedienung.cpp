@@ -78,6 +78,7 @@ void BeamBarControl::keyPressEvent(QKeyEvent* ereignis) {
     if (Zoomtaste(ereignis->key()))
         return;
     if (const std::optional<int> ziel = Cursorziel(ereignis->key())) {
+        m_zeigeCursor = true;
         SetzeCursor(std::clamp(*ziel, 0, Strahlanzahl() - 1));
         ZeigeUnterMaus(m_cursor);
     } else if (ereignis->key() == Qt::Key_Space && m_bedienart == Bedienart::Blanking) {
@@ -87,8 +88,10 @@ void BeamBarControl::keyPressEvent(QKeyEvent* ereignis) {
     }
 }
 
+// The cursor shows to those who use the keyboard.
 void BeamBarControl::focusInEvent(QFocusEvent* ereignis) {
     QWidget::focusInEvent(ereignis);
+    m_zeigeCursor = ereignis->reason() == Qt::TabFocusReason || ereignis->reason() == Qt::BacktabFocusReason;
     Geaendert();
 }
 

@@ -110,7 +110,7 @@ QSize BeamBarControl::sizeHint() const {
 }
 
 QSize BeamBarControl::minimumSizeHint() const {
-    return {96, 120};
+    return {64, 80};
 }
 
 bool BeamBarControl::event(QEvent* ereignis) {
@@ -124,7 +124,7 @@ void BeamBarControl::paintEvent(QPaintEvent* /*ereignis*/) {
     const double dichte = StelleAufGeraetepixel(maler);
     Marken marken;
     marken.zeiger = m_zeiger;
-    marken.cursor = hasFocus() && IstStrahl(m_cursor) ? m_cursor : -1;
+    marken.cursor = hasFocus() && m_zeigeCursor && IstStrahl(m_cursor) ? m_cursor : -1;
     if (m_zug == Zug::Band) {
         const int start = GeraeteY(m_zugStart);
         marken.bandOben = std::min(start, m_bandEnde);

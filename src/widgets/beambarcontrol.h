@@ -104,6 +104,7 @@ private:
 
     int m_zeiger = -1;
     int m_cursor = 0;
+    bool m_zeigeCursor = false;
     Zug m_zug = Zug::Keiner;
     QPointF m_zugStart;
     Ausschnitt m_zugAusschnitt;

@@ -1,0 +1,67 @@
+#include "ansichtsregeln.h"
+
+#include "texte.h"
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextStrahl = 4020;
+constexpr int AnzahlStatusbits = 6;
+constexpr std::array<std::int16_t, AnzahlStatusbits> Statustexte{4012, 4013, 4014, 4015, 4016, 4017};
+
+Strahlzustand Anzeigezustand(std::int32_t frei, std::int32_t geblankt) {
+    if (geblankt != 0)
+        return Strahlzustand::Geblankt;
+    return frei != 0 ? Strahlzustand::Frei : Strahlzustand::Unterbrochen;
+}
+
+} // namespace
+
+int Blockversatz(int auswahl) {
+    return auswahl * AnzahlMesswerte;
+}
+
+std::int16_t Statusbits(std::int32_t statusregister) {
+    return static_cast<std::int16_t>(statusregister % (1 << AnzahlStatusbits));
+}
+
+std::string Statustext(std::int16_t statusbits) {
+    std::string text = "Status: ";
+    bool erster = true;
+    for (std::size_t bit = 0; bit < Statustexte.size(); ++bit) {
+        if ((statusbits >> bit & 1) == 0)
+            continue;
+        text += (erster ? "" : ", ") + LadeText(Statustexte[bit]);
+        erster = false;
+    }
+    return text;
+}
+
+std::string Strahltext(int index, std::int32_t abstandMm) {
+    if (index < 0)
+        return {};
+    std::string text = LadeText(TextStrahl) + std::to_string(index + 1);
+    if (abstandMm != 0)
+        text += ", " + std::to_string(index * abstandMm) + "mm";
+    return text;
+}
+
+void Strahlanzeige::Vergiss() {
+    m_gezeichnet.fill(std::nullopt);
+}
+
+std::optional<Strahlzustand> Strahlanzeige::Nimm(int index, std::int32_t frei, std::int32_t geblankt) {
+    if (index == 0)
+        m_geblankte = 0;
+    if (geblankt != 0)
+        ++m_geblankte;
+    const Strahlzustand neuer = Anzeigezustand(frei, geblankt);
+    auto& gezeichnet = m_gezeichnet.at(static_cast<std::size_t>(index));
+    if (gezeichnet == neuer)
+        return std::nullopt;
+    gezeichnet = neuer;
+    return neuer;
+}
+
+} // namespace varnoth

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "strahlgeometrie.h"
+#include "werte.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace varnoth {
+
+/// The measured values of a view, in the order of their registers: TU, HU, ZU, TNU, HNU, ZNU.
+inline constexpr int AnzahlMesswerte = 6;
+
+/// The registers of measured values: current ones, minima, maxima.
+inline constexpr std::int16_t Messwertregister = 3 * AnzahlMesswerte;
+
+/// Where the block of values begins that an option button selects: 0 current, 1 minimum, 2 maximum.
+int Blockversatz(int auswahl);
+
+/// The status bits (0..63) in a value of the status register.
+std::int16_t Statusbits(std::int32_t statusregister);
+
+/// "Status: " and what the status bits say, in the current language.
+std::string Statustext(std::int16_t statusbits);
+
+/// Which beam (index) it is and, unless the spacing is 0, where it lies; empty for -1.
+std::string Strahltext(int index, std::int32_t abstandMm);
+
+/// Remembers what is drawn of each beam and counts the blanked beams of a scan.
+class Strahlanzeige {
+public:
+    /// The most beams it remembers.
+    static constexpr int Hoechstzahl = 1009;
+
+    /// Forgets what is drawn.
+    void Vergiss();
+    /// Takes a beam's state, `frei` and `geblankt` being true where not 0; beam 0 begins a scan. Gives what
+    /// has to be drawn, nothing when it is drawn already. The index must be below Hoechstzahl.
+    std::optional<Strahlzustand> Nimm(int index, std::int32_t frei, std::int32_t geblankt);
+    /// Blanked beams since beam 0.
+    std::int16_t Geblankte() const { return m_geblankte; }
+
+private:
+    std::array<std::optional<Strahlzustand>, Hoechstzahl> m_gezeichnet{};
+    std::int16_t m_geblankte = 0;
+};
+
+} // namespace varnoth

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "ansichtsregeln.h"
+#include "liveansicht.h"
+#include "werte.h"
+
+#include <QWidget>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+class QLabel;
+
+namespace Ui {
+class frmDocument;
+}
+
+namespace varnoth {
+
+/// Shows one optical part live: its beams, its measured values, its status. It lives in a frame of the main
+/// window's area as long as the main window; closing hides it.
+class frmDocument : public QWidget, public LiveAnsicht {
+    Q_OBJECT
+
+public:
+    /// `optikteil` is 0..3.
+    explicit frmDocument(int optikteil, QWidget* eltern = nullptr);
+    ~frmDocument() override;
+
+    /// Takes the measured values and the number of blanked beams over from the image.
+    void SetAktuellMinMaxStatus();
+    /// Sets the state of one beam: blanked where `blanking` is not 0, else free where `state` is not 0, else
+    /// interrupted. Beam 0 begins a scan; an index that is no beam is ignored.
+    void SetBeamIndexState(std::int16_t Index, std::int32_t state, std::int32_t blanking);
+    /// A scan begins: nothing is drawn until EndeBeamRefresh.
+    void StartBeamRefresh();
+    /// Draws the scan, once.
+    void EndeBeamRefresh();
+    /// Sets the view up for the beam count and spacing in the image; all beams are shown as interrupted until
+    /// the next scan.
+    void InitfrmDocument();
+    /// Moves the view to its place in the settings file, if there is one. The view must be in its frame.
+    void InitForm();
+    /// Takes the status over from the image.
+    void SetStatusSubgerät();
+
+    /// Fills all texts in the current language again.
+    void Lokalisiere();
+    /// Shows the view and brings it to the front.
+    void Zeige();
+    /// Stores the place of the view; a minimised view and one that was never shown keep what is stored.
+    void SpeicherePlatz() const;
+
+    bool ZeigtLiveDaten() const override;
+    void NeuerDatensatz() override;
+    void StrahlzustaendeLiegenVor() override;
+    void BlankingBekannt() override;
+    void MesswerteLiegenVor() override;
+
+signals:
+    /// The view was set up: its menu item is to be checked.
+    void Eingerichtet();
+    /// The view was closed: its menu item is to be unchecked.
+    void Geschlossen();
+
+protected:
+    void changeEvent(QEvent* ereignis) override;
+    void closeEvent(QCloseEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void showEvent(QShowEvent* ereignis) override;
+
+private:
+    std::int32_t Register(std::int16_t adresse) const;
+    std::string Abschnitt() const;
+    void Verbinde();
+    void VergissAnzeige();
+    void ZeigeStrahltext(int index);
+    void ZeigeZustand(int index, Strahlzustand zustand);
+    void PasseZiffernAn();
+    void PasseBreiteAn();
+    void OrdneStatuszeile();
+
+    std::unique_ptr<Ui::frmDocument> m_ui;
+    std::int16_t m_optikteil;
+    std::array<QLabel*, AnzahlMesswerte> m_felder{};
+    std::array<std::int32_t, AnzahlMesswerte> m_gezeigteWerte{};
+    int m_versatz = 0;
+    std::int16_t m_gezeigterStatus = -1;
+    std::int16_t m_gezeigteGeblankte = -1;
+    Strahlanzeige m_anzeige;
+    Werte m_strahlen;
+    int m_strahlUnterMaus = -1;
+    bool m_warSichtbar = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,392 @@
+#include "beambarcontrol.h"
+#include "fenstertest.h"
+#include "frmDocument.h"
+#include "pruefumgebung.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "strahlbits.h"
+#include "texte.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QRadioButton>
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+using namespace varnoth;
+
+namespace {
+
+constexpr int Teil = 1;
+constexpr std::int16_t Blankingregister = 32;
+
+class FrmDocument : public testing::Test {
+protected:
+    FrmDocument() {
+        pruefung::ErwarteWarnung("propagateSizeHints");
+        modDaten::Zuruecksetzen();
+        Setze(spezifisch::Strahlenzahl, 20);
+        Setze(spezifisch::Aufloesung, 20);
+        bereich = new QMdiArea;
+        haupt.setCentralWidget(bereich);
+        haupt.resize(900, 700);
+        haupt.show();
+        sicht = new frmDocument(Teil);
+        rahmen = bereich->addSubWindow(sicht);
+        rahmen->setAttribute(Qt::WA_DeleteOnClose, false);
+        sicht->InitfrmDocument();
+    }
+    ~FrmDocument() override { SetzeSprachoffset(Deutsch); }
+
+    static void Setze(std::int16_t adresse, std::int32_t wert) {
+        modDaten::SetzeSpezifischeDaten(adresse, 1, Teil, {wert});
+    }
+    static void SetzeMesswerte(std::int32_t aktuell, std::int32_t minimum, std::int32_t maximum) {
+        Werte werte;
+        for (const std::int32_t beginn : {aktuell, minimum, maximum})
+            for (int k = 0; k < AnzahlMesswerte; ++k)
+                werte.push_back(beginn + k);
+        modDaten::SetzeSpezifischeDaten(spezifisch::Messwerte, Messwertregister, Teil, werte);
+    }
+    void Scan(std::initializer_list<int> freie, std::initializer_list<int> geblankte) {
+        Werte zustaende(2);
+        Werte blanking(Blankingregister);
+        for (const int strahl : freie)
+            SetzeStrahlBit(zustaende, strahl, true);
+        for (const int strahl : geblankte)
+            SetzeStrahlBit(blanking, strahl, true);
+        modDaten::SetzeStrahlzustaende(2, Teil, zustaende);
+        modDaten::SetzeSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Teil, blanking);
+        sicht->NeuerDatensatz();
+        sicht->StrahlzustaendeLiegenVor();
+        sicht->BlankingBekannt();
+        sicht->MesswerteLiegenVor();
+    }
+    void Zeige() {
+        sicht->Zeige();
+        QApplication::processEvents();
+    }
+    QLabel& Feld(const char* name) { return *sicht->findChild<QLabel*>(QLatin1String(name)); }
+    QString Text(const char* name) { return Feld(name).text(); }
+    QStringList Werttexte() {
+        return {Text("lblInhaltTU"),  Text("lblInhaltHU"),  Text("lblInhaltZU"),
+                Text("lblInhaltTNU"), Text("lblInhaltHNU"), Text("lblInhaltZNU")};
+    }
+    void SchreibeUeberall(const QString& text) {
+        for (const char* name :
+             {"lblInhaltTU", "lblInhaltHU", "lblInhaltZU", "lblInhaltTNU", "lblInhaltHNU", "lblInhaltZNU"})
+            Feld(name).setText(text);
+    }
+    void Waehle(int auswahl) {
+        sicht->findChild<QRadioButton*>(QStringLiteral("Option1_%1").arg(auswahl))->click();
+    }
+    BeamBarControl& Balken() { return *sicht->findChild<BeamBarControl*>("BeamBar1"); }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
+    QMainWindow haupt;
+    QMdiArea* bereich = nullptr;
+    frmDocument* sicht = nullptr;
+    QMdiSubWindow* rahmen = nullptr;
+};
+
+} // namespace
+
+TEST_F(FrmDocument, The_view_and_its_tag_carry_the_index) {
+    EXPECT_EQ(sicht->objectName(), "frmDocument_1");
+    EXPECT_EQ(sicht->property("Tag").toString(), "1");
+}
+
+TEST_F(FrmDocument, Current_values_are_shown_first) {
+    SetzeMesswerte(10, 20, 30);
+    sicht->SetAktuellMinMaxStatus();
+    EXPECT_EQ(Werttexte(), (QStringList{"10", "11", "12", "13", "14", "15"}));
+}
+
+TEST_F(FrmDocument, A_click_on_an_option_button_shows_its_values_at_once) {
+    SetzeMesswerte(10, 20, 30);
+    Waehle(1);
+    EXPECT_EQ(Werttexte(), (QStringList{"20", "21", "22", "23", "24", "25"}));
+    Waehle(2);
+    EXPECT_EQ(Werttexte(), (QStringList{"30", "31", "32", "33", "34", "35"}));
+    Waehle(0);
+    EXPECT_EQ(Werttexte(), (QStringList{"10", "11", "12", "13", "14", "15"}));
+}
+
+TEST_F(FrmDocument, Switching_from_min_to_max_rewrites_all_six_values_even_when_they_are_equal) {
+    SetzeMesswerte(1, 50, 50);
+    Waehle(1);
+    SchreibeUeberall("x");
+    Waehle(2);
+    EXPECT_EQ(Werttexte(), (QStringList{"50", "51", "52", "53", "54", "55"}));
+}
+
+TEST_F(FrmDocument, A_value_that_has_not_changed_is_not_written) {
+    SetzeMesswerte(10, 20, 30);
+    sicht->SetAktuellMinMaxStatus();
+    SchreibeUeberall("x");
+    sicht->SetAktuellMinMaxStatus();
+    EXPECT_EQ(Werttexte(), QStringList(6, "x"));
+}
+
+TEST_F(FrmDocument, Setting_the_view_up_rewrites_values_that_have_not_changed) {
+    SetzeMesswerte(10, 20, 30);
+    sicht->SetAktuellMinMaxStatus();
+    SchreibeUeberall("x");
+    sicht->InitfrmDocument();
+    sicht->SetAktuellMinMaxStatus();
+    EXPECT_FALSE(Werttexte().contains("x"));
+}
+
+TEST_F(FrmDocument, Setting_the_view_up_shows_the_beams_of_the_image_as_interrupted) {
+    EXPECT_EQ(Balken().Strahlanzahl(), 20);
+    EXPECT_EQ(Balken().Strahlabstand(), 20);
+    for (int strahl = 0; strahl < 20; ++strahl)
+        EXPECT_EQ(Balken().Zustand(strahl), Strahlzustand::Unterbrochen);
+}
+
+TEST_F(FrmDocument, Setting_the_view_up_tells_the_menu) {
+    int eingerichtet = 0;
+    QObject::connect(sicht, &frmDocument::Eingerichtet, [&] { ++eingerichtet; });
+    sicht->InitfrmDocument();
+    EXPECT_EQ(eingerichtet, 1);
+}
+
+TEST_F(FrmDocument, The_first_scan_after_setting_up_draws_free_beams) {
+    Scan({0, 1, 2}, {});
+    sicht->InitfrmDocument();
+    Scan({0, 1, 2}, {});
+    EXPECT_EQ(Balken().Zustand(1), Strahlzustand::Frei);
+    EXPECT_EQ(Balken().Zustand(3), Strahlzustand::Unterbrochen);
+}
+
+TEST_F(FrmDocument, A_scan_shows_free_interrupted_and_blanked_beams) {
+    Scan({0, 8, 19}, {4, 8});
+    EXPECT_EQ(Balken().Zustand(0), Strahlzustand::Frei);
+    EXPECT_EQ(Balken().Zustand(19), Strahlzustand::Frei);
+    EXPECT_EQ(Balken().Zustand(4), Strahlzustand::Geblankt);
+    EXPECT_EQ(Balken().Zustand(8), Strahlzustand::Geblankt);
+    EXPECT_EQ(Balken().Zustand(5), Strahlzustand::Unterbrochen);
+}
+
+TEST_F(FrmDocument, Blanked_beams_are_counted_anew_in_each_scan) {
+    Scan({}, {4, 8});
+    EXPECT_EQ(Text("lblInhaltBlankingStrahlenMax"), "2");
+    Scan({}, {4, 8, 9});
+    EXPECT_EQ(Text("lblInhaltBlankingStrahlenMax"), "3");
+}
+
+TEST_F(FrmDocument, A_beam_index_at_or_beyond_the_beam_count_is_ignored) {
+    Scan({}, {4});
+    for (const int index : {20, 21, 1009, 32767, -1})
+        sicht->SetBeamIndexState(static_cast<std::int16_t>(index), 1, 1);
+    sicht->SetAktuellMinMaxStatus();
+    EXPECT_EQ(Text("lblInhaltBlankingStrahlenMax"), "1");
+    EXPECT_EQ(Balken().Zustand(19), Strahlzustand::Unterbrochen);
+}
+
+TEST_F(FrmDocument, A_beam_count_beyond_all_sense_does_no_harm) {
+    Setze(spezifisch::Strahlenzahl, 65535);
+    sicht->InitfrmDocument();
+    Scan({0}, {});
+    EXPECT_EQ(Balken().Zustand(0), Strahlzustand::Frei);
+}
+
+TEST_F(FrmDocument, An_optical_part_without_beams_shows_none) {
+    Setze(spezifisch::Strahlenzahl, 0);
+    sicht->InitfrmDocument();
+    Scan({0}, {0});
+    EXPECT_EQ(Balken().Strahlanzahl(), 0);
+    EXPECT_EQ(Text("lblInhaltBlankingStrahlenMax"), "0");
+}
+
+TEST_F(FrmDocument, Status_value_0_shows_the_bare_text) {
+    Setze(spezifisch::Optikteilstatus, 0);
+    sicht->SetStatusSubgerät();
+    EXPECT_EQ(Text("sbStatusBar_1"), "Status: ");
+}
+
+TEST_F(FrmDocument, The_status_is_shown_as_text) {
+    Setze(spezifisch::Optikteilstatus, 0x80 | 0b100100);
+    sicht->SetStatusSubgerät();
+    EXPECT_EQ(Text("sbStatusBar_1"), "Status: Bahn in Mitte, Loch erkannt");
+}
+
+TEST_F(FrmDocument, Bits_6_and_7_of_the_status_register_do_not_rewrite_the_status_text) {
+    Setze(spezifisch::Optikteilstatus, 5);
+    sicht->SetStatusSubgerät();
+    Feld("sbStatusBar_1").setText("x");
+    for (const std::int32_t bits : {0x40, 0x80, 0xC0}) {
+        Setze(spezifisch::Optikteilstatus, bits | 5);
+        sicht->SetStatusSubgerät();
+        EXPECT_EQ(Text("sbStatusBar_1"), "x");
+    }
+}
+
+TEST_F(FrmDocument, The_beam_under_the_mouse_is_shown_with_its_position) {
+    emit Balken().StrahlUnterMaus(9);
+    EXPECT_EQ(Text("sbStatusBar_2"), "Strahl: 10, 180mm");
+    emit Balken().StrahlUnterMaus(-1);
+    EXPECT_EQ(Text("sbStatusBar_2"), "");
+}
+
+TEST_F(FrmDocument, A_part_with_beam_spacing_0_shows_the_beam_without_a_position) {
+    Setze(spezifisch::Aufloesung, 0);
+    sicht->InitfrmDocument();
+    emit Balken().StrahlUnterMaus(9);
+    EXPECT_EQ(Text("sbStatusBar_2"), "Strahl: 10");
+}
+
+TEST_F(FrmDocument, All_texts_follow_the_language) {
+    Setze(spezifisch::Optikteilstatus, 4);
+    sicht->SetStatusSubgerät();
+    emit Balken().StrahlUnterMaus(9);
+    SetzeSprachoffset(Englisch);
+    sicht->Lokalisiere();
+    EXPECT_EQ(sicht->findChild<QRadioButton*>("Option1_0")->text(), "Current");
+    EXPECT_EQ(Text("sbStatusBar_1"), "Status: run in middle");
+    EXPECT_EQ(Text("sbStatusBar_2"), "beam: 10, 180mm");
+    SetzeSprachoffset(Deutsch);
+    sicht->Lokalisiere();
+    EXPECT_EQ(sicht->findChild<QRadioButton*>("Option1_0")->text(), "Aktuell");
+    EXPECT_EQ(Text("sbStatusBar_1"), "Status: Bahn in Mitte");
+}
+
+TEST_F(FrmDocument, Captions_carry_their_texts) {
+    EXPECT_EQ(Text("lblTU"), "TU");
+    EXPECT_EQ(Text("lblHU"), "HU");
+    EXPECT_EQ(Text("lblZU"), "ZU");
+    EXPECT_EQ(Text("lblTNU"), "TNU");
+    EXPECT_EQ(Text("lblHNU"), "HNU");
+    EXPECT_EQ(Text("lblZNU"), "ZNU");
+    EXPECT_EQ(Text("lblBlankingStrahlenMax"), "ZB");
+}
+
+TEST_F(FrmDocument, A_hidden_view_shows_no_live_data) {
+    EXPECT_FALSE(sicht->ZeigtLiveDaten());
+    Zeige();
+    EXPECT_TRUE(sicht->ZeigtLiveDaten());
+}
+
+TEST_F(FrmDocument, A_minimised_view_shows_no_live_data) {
+    Zeige();
+    rahmen->showMinimized();
+    EXPECT_FALSE(sicht->ZeigtLiveDaten());
+    sicht->Zeige();
+    EXPECT_TRUE(sicht->ZeigtLiveDaten());
+}
+
+TEST_F(FrmDocument, A_minimised_main_window_shows_no_live_data) {
+    Zeige();
+    haupt.showMinimized();
+    EXPECT_FALSE(sicht->ZeigtLiveDaten());
+}
+
+TEST_F(FrmDocument, Closing_hides_the_view_and_tells_the_menu) {
+    Zeige();
+    int geschlossen = 0;
+    QObject::connect(sicht, &frmDocument::Geschlossen, [&] { ++geschlossen; });
+    rahmen->close();
+    EXPECT_FALSE(sicht->ZeigtLiveDaten());
+    EXPECT_EQ(geschlossen, 1);
+}
+
+TEST_F(FrmDocument, A_closed_view_can_be_shown_again) {
+    Zeige();
+    rahmen->close();
+    QApplication::processEvents();
+    Zeige();
+    EXPECT_TRUE(sicht->ZeigtLiveDaten());
+    EXPECT_EQ(bereich->activeSubWindow(), rahmen);
+}
+
+TEST_F(FrmDocument, Without_a_stored_place_the_view_stays_where_it_is) {
+    rahmen->setGeometry(30, 40, 400, 380);
+    sicht->InitForm();
+    EXPECT_EQ(rahmen->geometry(), QRect(30, 40, 400, 380));
+}
+
+TEST_F(FrmDocument, A_stored_place_is_restored_with_defaults_for_what_is_missing) {
+    einstellungen.SchreibText("1Form", "WindowState", "0");
+    einstellungen.SchreibText("1Form", "Left", "1500");
+    sicht->InitForm();
+    Zeige();
+    EXPECT_EQ(rahmen->geometry(), QRect(100, 67, 433, 433));
+}
+
+TEST_F(FrmDocument, Closing_stores_the_place_as_decimal_text) {
+    Zeige();
+    rahmen->setGeometry(30, 40, 400, 380);
+    rahmen->close();
+    EXPECT_EQ(einstellungen.LiesText("1Form", "WindowState", ""), "0");
+    EXPECT_EQ(einstellungen.LiesText("1Form", "Left", ""), "450");
+    EXPECT_EQ(einstellungen.LiesText("1Form", "Top", ""), "600");
+    EXPECT_EQ(einstellungen.LiesText("1Form", "Width", ""), "6000");
+    EXPECT_EQ(einstellungen.LiesText("1Form", "Height", ""), "5700");
+}
+
+TEST_F(FrmDocument, Closing_a_minimised_view_keeps_the_stored_place) {
+    Zeige();
+    rahmen->showMinimized();
+    rahmen->close();
+    EXPECT_EQ(einstellungen.geschrieben, 0);
+}
+
+TEST_F(FrmDocument, A_view_that_was_never_shown_stores_no_place) {
+    sicht->SpeicherePlatz();
+    EXPECT_EQ(einstellungen.geschrieben, 0);
+}
+
+TEST_F(FrmDocument, A_view_is_at_least_3400_by_3440_twips) {
+    Zeige();
+    rahmen->resize(50, 50);
+    EXPECT_EQ(rahmen->size(), QSize(227, 230));
+}
+
+TEST_F(FrmDocument, No_status_makes_the_smallest_view_larger) {
+    Zeige();
+    rahmen->resize(50, 50);
+    Setze(spezifisch::Optikteilstatus, 0x3F);
+    sicht->SetStatusSubgerät();
+    emit Balken().StrahlUnterMaus(19);
+    QApplication::processEvents();
+    EXPECT_EQ(rahmen->size(), QSize(227, 230));
+}
+
+TEST_F(FrmDocument, The_status_text_has_room_at_every_width) {
+    Zeige();
+    Setze(spezifisch::Optikteilstatus, 0b100110);
+    sicht->SetStatusSubgerät();
+    emit Balken().StrahlUnterMaus(19);
+    for (const int breite : {227, 280, 330, 433, 800}) {
+        rahmen->resize(breite, 400);
+        QApplication::processEvents();
+        const QLabel& status = Feld("sbStatusBar_1");
+        const QLabel& strahl = Feld("sbStatusBar_2");
+        EXPECT_GE(status.height(), status.heightForWidth(status.width())) << breite;
+        EXPECT_GE(strahl.height(), strahl.sizeHint().height()) << breite;
+        EXPECT_GE(strahl.width(), strahl.sizeHint().width()) << breite;
+    }
+}
+
+TEST_F(FrmDocument, A_minimised_view_is_not_held_at_its_least_size) {
+    Zeige();
+    rahmen->showMinimized();
+    QApplication::processEvents();
+    EXPECT_LT(rahmen->height(), 100);
+    rahmen->showNormal();
+    rahmen->resize(50, 50);
+    EXPECT_EQ(rahmen->size(), QSize(227, 230));
+}
+
+TEST_F(FrmDocument, Values_have_room_for_their_widest_number) {
+    SetzeMesswerte(65530, 0, 0);
+    Zeige();
+    sicht->SetAktuellMinMaxStatus();
+    for (const char* name : {"lblInhaltTU", "lblInhaltZNU", "lblTNU", "lblBlankingStrahlenMax"})
+        EXPECT_GE(Feld(name).width(), Feld(name).sizeHint().width()) << name;
+}
