@@ -8,6 +8,11 @@ namespace varnoth {
 /// Time on the system's monotonic clock, and durations on it.
 using Zeit = std::chrono::microseconds;
 
+/// The panels of the main window's status bar.
+inline constexpr int FeldMeldungen = 1;
+inline constexpr int FeldPort = 2;
+inline constexpr int FeldSchaltausgang = 3;
+
 enum class Symbol { Ohne, Warnung, Frage };
 enum class Knoepfe { Ok, OkAbbrechen, JaNeinAbbrechen };
 enum class Antwort { Ok, Abbrechen, Ja, Nein };

@@ -23,8 +23,6 @@ constexpr std::int16_t Messwertzahl = 18;
 constexpr std::int16_t BitVorhanden = 7;
 constexpr std::int16_t BitSchaltausgang = 1;
 
-constexpr int FeldSchaltausgang = 3;
-
 constexpr std::int16_t TextVerbindungUnterbrochen = 3000;
 constexpr std::int16_t TextAusgangAktiv = 3001;
 constexpr std::int16_t TextAusgangNichtAktiv = 3002;
@@ -35,6 +33,7 @@ struct Zustand {
     Boolean pollingAktiv = False;
     std::array<Optikteilzustand, AnzahlOptikteile> optikteilStatus{};
     int anzahlOptikteile = 0;
+    unsigned durchgaenge = 0;
     bool verloren = false;
 };
 
@@ -157,6 +156,7 @@ void StartePolling() {
     modSchnittstelle::OpenCommPort();
     zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
     zustand.verloren = false;
+    zustand.durchgaenge = 0;
 }
 
 void StoppePolling() {
@@ -188,6 +188,10 @@ Optikteilzustand ZustandAus(std::int32_t statusregister) {
     return GetBit(statusregister, BitVorhanden) != False ? Vorhanden : NichtVorhanden;
 }
 
+unsigned GetDurchgaenge() {
+    return zustand.durchgaenge;
+}
+
 bool VerbindungVerloren() {
     return zustand.verloren;
 }
@@ -203,8 +207,10 @@ void PollingZyklus() {
     for (int teil = 0; teil < zustand.anzahlOptikteile; ++teil)
         if (!PolleOptikteil(teil))
             return;
-    if (PolleGlobalstatus())
-        MeldeRueckkehr();
+    if (!PolleGlobalstatus())
+        return;
+    ++zustand.durchgaenge;
+    MeldeRueckkehr();
 }
 
 } // namespace varnoth::modPolling

@@ -49,6 +49,9 @@ void SetzeOptikteilStatus(int optikteil, Optikteilzustand zustand);
 /// The presence that a value of specific register 44 tells.
 Optikteilzustand ZustandAus(std::int32_t statusregister);
 
+/// Number of passes that came to their end since polling was started.
+unsigned GetDurchgaenge();
+
 /// Whether the last pass lost the connection and none has succeeded since.
 bool VerbindungVerloren();
 

@@ -40,8 +40,8 @@ void OeffnePort() {
 void MeldeZeitueberschreitung() {
     if (!modTrace::Aktiv())
         return;
-    constexpr int ErstesFeld = 1;
-    DieUmgebung().ZeigeStatustext(ErstesFeld, "Zeitüberschreitung, kein Zeichen empfangen. (Nur zum Testen)");
+    DieUmgebung().ZeigeStatustext(FeldMeldungen,
+                                  "Zeitüberschreitung, kein Zeichen empfangen. (Nur zum Testen)");
     modTrace::SchreibeZeitueberschreitung();
 }
 

@@ -14,6 +14,9 @@ using namespace modSchnittstelle;
 
 constexpr int Antwortzeit = 1000; // milliseconds of silence that end a transaction
 
+constexpr std::int32_t SteuerwertAutosendEin = 2;
+constexpr std::int32_t SteuerwertAutosendAus = 4;
+
 Identifikation ident;
 
 /// Sends the request and feeds the reply to the recogniser. True when a whole reply with a valid CRC arrived.
@@ -146,11 +149,19 @@ Boolean SendeFunktion09Kommando() {
 }
 
 void SchreibeSteuerwert4() {
-    SchreibeSteuerwert(4);
+    SchreibeSteuerwert(SteuerwertAutosendAus);
 }
 
 void SchreibeSteuerwert2() {
-    SchreibeSteuerwert(2);
+    SchreibeSteuerwert(SteuerwertAutosendEin);
+}
+
+void BeendeAutosendAmOffenenPort() {
+    if (GetPortIstOffen() == False)
+        return;
+    OpenCommPort();
+    RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {SteuerwertAutosendAus});
+    CloseCommPort();
 }
 
 } // namespace varnoth::modModbus

@@ -57,5 +57,8 @@ Boolean SendeFunktion09Kommando();
 void SchreibeSteuerwert4();
 /// Starts autosend in the same way with the value 2.
 void SchreibeSteuerwert2();
+/// Ends autosend on a port that is open, opening it anew and closing it afterwards. Nothing happens when it
+/// is closed.
+void BeendeAutosendAmOffenenPort();
 
 } // namespace varnoth::modModbus

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "seriellerport.h"
+#include "simulator.h"
+
+namespace varnoth {
+
+/// A port behind which the built-in controller answers, with the timing of a real line. Every port number
+/// leads to it.
+class SimulatorPort : public SeriellerPort {
+public:
+    SimulatorPort() = default;
+
+    bool Oeffne(int nummer, const std::string& einstellungen) override;
+    void Schliesse() override;
+    bool IstOffen() override { return offen; }
+    std::string Fehlertext() const override { return fehlertext; }
+
+    void Verwirf() override;
+    std::size_t BytesWartend() override;
+    std::string LiesAlles() override;
+    void Schreibe(std::string_view bytes) override;
+    void WarteAufEingang(Zeit hoechstens) override;
+    void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
+
+private:
+    void NimmAngekommenes();
+
+    simulator::Simulator geraet{simulator::Aufbau{}};
+    std::string eingang;
+    std::string fehlertext;
+    bool offen = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,17 @@
+#include "ansichtstitel.h"
+
+#include "texte.h"
+
+namespace varnoth {
+
+std::int16_t Titeltext(modPolling::Optikteilzustand zustand, bool live) {
+    if (zustand != modPolling::Vorhanden)
+        return TextNichtVorhanden;
+    return live ? TextOnline : TextOffline;
+}
+
+QString Ansichtstitel(int optikteil, std::int16_t textId) {
+    return QString::number(optikteil + 1) + QString::fromStdString(LadeText(textId));
+}
+
+} // namespace varnoth

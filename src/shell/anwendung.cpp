@@ -1,0 +1,166 @@
+#include "anwendung.h"
+
+#include "crc.h"
+#include "frmSplash.h"
+#include "geraetepfade.h"
+#include "plausibilitaet.h"
+#include "polling.h"
+#include "qtseriellerport.h"
+#include "qttexte.h"
+#include "registerabbild.h"
+#include "schnittstelle.h"
+#include "selbsttest.h"
+#include "servicetext.h"
+#include "simulatorport.h"
+#include "texte.h"
+#include "trace.h"
+#include "transaktionen.h"
+#include "zykluszeiten.h"
+
+#include <QApplication>
+#include <QDir>
+
+#include <cmath>
+#include <utility>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextSchonGestartet = 6001;
+constexpr std::int16_t TextAchtung = 6109;
+constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
+
+/// Every module as it is before the program runs.
+void SetzeModuleZurueck() {
+    modDaten::Zuruecksetzen();
+    modHilfsFunktionen::Zuruecksetzen();
+    modModbus::IdentReset();
+    modPolling::Zuruecksetzen();
+    modSchnittstelle::Zuruecksetzen();
+    modService::Zuruecksetzen();
+    CrcTabelleAufbauen();
+}
+
+std::unique_ptr<SeriellerPort> MachePort(const Kommandozeile& kommandozeile) {
+    if (kommandozeile.simulator)
+        return std::make_unique<SimulatorPort>();
+    return std::make_unique<QtSeriellerPort>();
+}
+
+double Sekundenuhr() {
+    return std::chrono::duration<double>(DieUmgebung().Uhr()).count();
+}
+
+} // namespace
+
+Anwendung::Anwendung(Startbedingungen die)
+    : bedingungen(std::move(die)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
+      einstellungen(Einstellungspfad(bedingungen.programmordner, bedingungen.programmname)),
+      sperre(bedingungen.programmname, bedingungen.sperrordner), port(MachePort(kommandozeile)) {
+    SetzeGeraetepfad(kommandozeile.geraet.toStdString());
+    modSchnittstelle::SetzePort(port.get());
+    SetzeModuleZurueck();
+    modDaten::SetzeReaktionAufUnplausiblesAbbild(modModbus::BeendeAutosendAmOffenenPort);
+}
+
+Anwendung::~Anwendung() {
+    modDaten::SetzeReaktionAufUnplausiblesAbbild({});
+    modTrace::Schliesse();
+    modSchnittstelle::CloseCommPort();
+    hauptfenster.reset();
+    modSchnittstelle::SetzePort(nullptr);
+}
+
+bool Anwendung::Starte() {
+    LiesSprache();
+    if (!IstErsteInstanz())
+        return false;
+    LadeHauptfenster();
+    ZeigeSplash();
+    return WerteKommandozeileAus();
+}
+
+void Anwendung::LiesSprache() {
+    SetzeSprachoffset(static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "Sprache", Deutsch)));
+    if (GetSprachoffset() != Englisch)
+        SetzeSprachoffset(Deutsch);
+    LadeQtTexte(GetSprachoffset());
+}
+
+bool Anwendung::IstErsteInstanz() {
+    if (sperre.Belege())
+        return true;
+    ZeigeWarnung(LadeText(TextSchonGestartet), LadeText(TextAchtung));
+    return false;
+}
+
+void Anwendung::LadeHauptfenster() {
+    hauptfenster = std::make_unique<frmMain>();
+    hauptfenster->ZeigeSprache();
+    umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
+    umgebung.SetzeStatusanzeige(
+        [this](int feld, const std::string& text) { hauptfenster->ZeigeStatustext(feld, text); });
+    hauptfenster->show();
+}
+
+void Anwendung::ZeigeSplash() {
+    frmSplash splash;
+    splash.show();
+    splash.raise();
+    const double ende = std::floor(Sekundenuhr()) + bedingungen.splashSekunden;
+    while (Sekundenuhr() < ende && umgebung.LasseEreignisseLaufen() > 0)
+        umgebung.WarteAufEreignis(std::chrono::milliseconds(50));
+}
+
+bool Anwendung::WerteKommandozeileAus() {
+    if (kommandozeile.com != 0)
+        hauptfenster->NimmComPort(kommandozeile.com);
+    if (kommandozeile.serviceText) {
+        modService::SetzeServiceText(*kommandozeile.serviceText);
+        hauptfenster->ZeigeServicemenue();
+    }
+    return !kommandozeile.trace || StarteTrace();
+}
+
+bool Anwendung::StarteTrace() {
+    const std::string fehler = modTrace::Starte(modTrace::Dateiname);
+    if (!fehler.empty())
+        ZeigeWarnung(fehler);
+    return fehler.empty();
+}
+
+void Anwendung::Verbinde() {
+    if (umgebung.LasseEreignisseLaufen() > 0)
+        hauptfenster->Autostart();
+}
+
+bool Anwendung::Runde() {
+    if (umgebung.LasseEreignisseLaufen() == 0)
+        return false;
+    hauptfenster->MenuAusführen();
+    if (modPolling::GetPollingAktiv() == True)
+        modPolling::PollingZyklus();
+    else if (!hauptfenster->BefehlWartet() && hauptfenster->OffeneFormulare() > 0)
+        umgebung.WarteAufEreignis(LaengsteRuhe);
+    return true;
+}
+
+int Anwendung::Laufe() {
+    if (!Starte())
+        return 0;
+    std::optional<Selbsttest> selbsttest;
+    if (!kommandozeile.selbsttest.isEmpty())
+        selbsttest.emplace(*hauptfenster, umgebung, kommandozeile.selbsttest);
+    Verbinde();
+    while (Runde()) {
+    }
+    return selbsttest ? selbsttest->Ergebnis() : 0;
+}
+
+QString Anwendung::Hilfedatei() const {
+    const QString zusatz = GetSprachoffset() == Englisch ? QStringLiteral("E.hlp") : QStringLiteral(".hlp");
+    return QDir(bedingungen.programmordner).filePath(bedingungen.programmname + zusatz);
+}
+
+} // namespace varnoth

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "frmMain.h"
+#include "inieinstellungen.h"
+#include "instanzsperre.h"
+#include "kommandozeile.h"
+#include "qtumgebung.h"
+#include "seriellerport.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+namespace varnoth {
+
+/// Where a run of the program finds its surroundings.
+struct Startbedingungen {
+    QStringList worte;         ///< the command line without the program's name
+    QString programmordner;    ///< where settings and help files lie
+    QString programmname;      ///< file name of the executable without ending
+    QString sperrordner{};     ///< where the lock of the single instance lies; empty: the usual place
+    double splashSekunden = 2; ///< how long the splash window stays at least
+};
+
+/// The running program: start-up, main loop, end.
+class Anwendung {
+public:
+    explicit Anwendung(Startbedingungen bedingungen);
+    ~Anwendung();
+
+    /// Start-up up to the connected main window. False ends the program: it runs already, or its trace file
+    /// cannot be written, which the user was told.
+    bool Starte();
+    /// Connects to the controller; the main loop's work begins with it.
+    void Verbinde();
+    /// One round of the main loop. False when no form is open any more.
+    bool Runde();
+    /// Starts, connects and runs until the last form is closed.
+    /// @return the exit code of the process
+    int Laufe();
+
+    frmMain& Hauptfenster() { return *hauptfenster; }
+    QtUmgebung& DieQtUmgebung() { return umgebung; }
+    const Kommandozeile& Worte() const { return kommandozeile; }
+    /// The help file of the current language.
+    QString Hilfedatei() const;
+
+private:
+    void LiesSprache();
+    bool IstErsteInstanz();
+    void LadeHauptfenster();
+    void ZeigeSplash();
+    bool WerteKommandozeileAus();
+    bool StarteTrace();
+
+    Startbedingungen bedingungen;
+    Kommandozeile kommandozeile;
+    QtUmgebung umgebung;
+    IniEinstellungen einstellungen;
+    Instanzsperre sperre;
+    std::unique_ptr<SeriellerPort> port;
+    std::unique_ptr<frmMain> hauptfenster;
+};
+
+} // namespace varnoth

@@ -1,0 +1,22 @@
+#include "frmInfo.h"
+
+#include "lokalisiereform.h"
+#include "ui_frmInfo.h"
+#include "versionstext.h"
+
+#include <QIcon>
+
+namespace varnoth {
+
+frmInfo::frmInfo(QWidget* besitzer) : QDialog(besitzer), ui(std::make_unique<Ui::frmInfo>()) {
+    ui->setupUi(this);
+    LokalisiereForm(*this);
+    ui->Label1->setText(Produktzeile());
+    ui->Label2->setText(Eigentuemerzeile());
+    ui->Image1->setPixmap(QIcon(QStringLiteral(":/symbole/varnoth.svg")).pixmap(QSize(72, 72)));
+    connect(ui->Command1, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+frmInfo::~frmInfo() = default;
+
+} // namespace varnoth

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmInfo;
+}
+
+namespace varnoth {
+
+/// The about box: name, version and owner.
+class frmInfo : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmInfo(QWidget* besitzer);
+    ~frmInfo() override;
+
+private:
+    std::unique_ptr<Ui::frmInfo> ui;
+};
+
+} // namespace varnoth

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class frmSplash;
+}
+
+namespace varnoth {
+
+/// The window that shows name and version while the program starts, in the middle of the screen.
+class frmSplash : public QWidget {
+    Q_OBJECT
+
+public:
+    frmSplash();
+    ~frmSplash() override;
+
+private:
+    std::unique_ptr<Ui::frmSplash> ui;
+};
+
+} // namespace varnoth

@@ -1,0 +1,144 @@
+#include "selbsttest.h"
+
+#include "bitsunddatum.h"
+#include "frmDocument.h"
+#include "polling.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "transaktionen.h"
+#include "zeichensatz.h"
+
+#include <QDir>
+#include <QMdiSubWindow>
+#include <QPixmap>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace varnoth {
+
+namespace {
+
+constexpr int TaktMs = 100;
+constexpr int LaengsteWartezeitMs = 60000;
+constexpr int LiveZeitMs = 2000;
+constexpr QSize Bildgroesse(1280, 800);
+constexpr const char* Bildname = "varnoth.png";
+
+QString Text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+QString Geraetetext(std::int16_t adresse, std::int16_t anzahl) {
+    Werte werte;
+    modDaten::HoleGlobaleDaten(adresse, anzahl, werte);
+    std::string text;
+    for (const auto wert : werte)
+        text += RegisterAlsUtf8(wert);
+    return Text(text).trimmed();
+}
+
+int ZaehleLesbare(Speicherbereich bereich) {
+    int anzahl = 0;
+    std::int16_t adresse = 0;
+    std::int16_t laenge = 0;
+    for (auto da = modDaten::ErsterLesbarerEintrag(bereich, adresse, laenge); da != False;
+         da = modDaten::NaechsterLesbarerEintrag(bereich, adresse, laenge))
+        anzahl += laenge * Exemplare(bereich);
+    return anzahl;
+}
+
+void BerichteIdentifikation(QTextStream& aus) {
+    aus << "identified: slave " << modModbus::GetSlaveAdresse() << ", " << Text(modModbus::GetIdentText1())
+        << ", serial number " << Text(modModbus::GetIdentText2()) << "\n";
+}
+
+void BerichteKonfiguration(QTextStream& aus) {
+    const int register_ = ZaehleLesbare(Speicherbereich::GlobaleGeraetedaten) +
+                          ZaehleLesbare(Speicherbereich::SpezifischeGeraetedaten) +
+                          ZaehleLesbare(Speicherbereich::Kommunikationsdaten);
+    Werte datum;
+    modDaten::HoleGlobaleDaten(global::Herstelldatum, 4, datum);
+    aus << "read: " << register_ << " registers; serial number " << Geraetetext(global::Seriennummer, 10)
+        << ", made " << Text(modDaten::KonvertDatenToDatum(datum)) << "\n";
+}
+
+void BerichteMesswerte(QTextStream& aus, int optikteil) {
+    constexpr const char* namen[] = {"TU", "HU", "ZU", "TNU", "HNU", "ZNU"};
+    Werte werte;
+    modDaten::HoleSpezifischeDaten(spezifisch::Messwerte, 18, static_cast<std::int16_t>(optikteil), werte);
+    aus << "measured: part " << optikteil + 1 << ", " << modDaten::Strahlenzahl(optikteil) << " beams";
+    for (std::size_t i = 0; i < std::size(namen); ++i)
+        aus << ", " << namen[i] << " " << werte.at(i);
+    aus << "\n";
+}
+
+} // namespace
+
+Selbsttest::Selbsttest(frmMain& hauptfenster, QtUmgebung& die, const QString& ordner)
+    : fenster(hauptfenster), umgebung(die), bildordner(ordner) {
+    umgebung.SetzeMeldungsweg([this](const Meldung& meldung) {
+        Scheitere(Text(meldung.text));
+        return meldung.knoepfe == Knoepfe::Ok ? Antwort::Ok : Antwort::Abbrechen;
+    });
+    fenster.resize(Bildgroesse);
+    QObject::connect(&takt, &QTimer::timeout, &takt, [this] { Pruefe(); });
+    takt.start(TaktMs);
+    seitStart.start();
+}
+
+Selbsttest::~Selbsttest() {
+    umgebung.SetzeMeldungsweg({});
+}
+
+/// Live data flows when a whole pass has brought the values of every present part.
+bool Selbsttest::LiveDatenFliessen() const {
+    if (modPolling::GetPollingAktiv() == False || modPolling::GetDurchgaenge() == 0)
+        return false;
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        if (modPolling::GetOptikteilStatus(teil) == modPolling::Vorhanden &&
+            !fenster.Fenster(teil).ZeigtLiveDaten())
+            return false;
+    return modPolling::GetAnzahlOptikteile() > 0;
+}
+
+void Selbsttest::Pruefe() {
+    if (LiveDatenFliessen() && !seitLiveDaten.isValid()) {
+        seitLiveDaten.start();
+        fenster.Ordne(Anordnung::Nebeneinander);
+    }
+    if (seitLiveDaten.isValid() && seitLiveDaten.elapsed() >= LiveZeitMs)
+        Berichte();
+    else if (seitStart.elapsed() > LaengsteWartezeitMs)
+        Scheitere(QStringLiteral("no live data within %1 seconds").arg(LaengsteWartezeitMs / 1000));
+}
+
+void Selbsttest::Berichte() {
+    const QString bild = QDir(bildordner).filePath(QLatin1String(Bildname));
+    if (!QDir().mkpath(bildordner) || !fenster.grab().save(bild)) {
+        Scheitere(QStringLiteral("the picture %1 cannot be written").arg(bild));
+        return;
+    }
+    QTextStream aus(stdout);
+    BerichteIdentifikation(aus);
+    BerichteKonfiguration(aus);
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        if (modPolling::GetOptikteilStatus(teil) == modPolling::Vorhanden)
+            BerichteMesswerte(aus, teil);
+    aus << "passes: " << modPolling::GetDurchgaenge() << " in " << seitLiveDaten.elapsed() << " ms\n";
+    aus << "picture: " << bild << "\n";
+    gelungen = true;
+    Beende();
+}
+
+void Selbsttest::Scheitere(const QString& grund) {
+    QTextStream(stderr) << "failed: " << grund << "\n";
+    Beende();
+}
+
+void Selbsttest::Beende() {
+    takt.stop();
+    fenster.close();
+}
+
+} // namespace varnoth

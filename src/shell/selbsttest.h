@@ -1,0 +1,39 @@
+#pragma once
+
+#include "frmMain.h"
+#include "qtumgebung.h"
+
+#include <QElapsedTimer>
+#include <QString>
+#include <QTimer>
+
+namespace varnoth {
+
+/// Watches the program connect by itself: when live data of every present part has flowed for a while it
+/// saves a picture of the main window, prints what was identified, read and measured, and ends the program. A
+/// message that appears on the way, or a long time without live data, ends it as failed.
+class Selbsttest {
+public:
+    Selbsttest(frmMain& hauptfenster, QtUmgebung& umgebung, const QString& ordner);
+    ~Selbsttest();
+
+    /// Exit code: 0 when all went well, else 1.
+    int Ergebnis() const { return gelungen ? 0 : 1; }
+
+private:
+    void Pruefe();
+    bool LiveDatenFliessen() const;
+    void Berichte();
+    void Scheitere(const QString& grund);
+    void Beende();
+
+    frmMain& fenster;
+    QtUmgebung& umgebung;
+    QString bildordner;
+    QTimer takt;
+    QElapsedTimer seitStart;
+    QElapsedTimer seitLiveDaten;
+    bool gelungen = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,70 @@
+#include "verbindung.h"
+
+#include "geraetestatus.h"
+#include "plausibilitaet.h"
+#include "polling.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "standardkonfiguration.h"
+#include "zykluszeiten.h"
+
+namespace varnoth {
+
+namespace {
+
+using namespace modPolling;
+
+void VergissOptikteile() {
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        SetzeOptikteilStatus(teil, Unbekannt);
+    SetzeAnzahlOptikteile(0);
+}
+
+bool LiesGeraet(Verbindungsziel& ziel) {
+    return ziel.Identifiziere() && ziel.LiesKonfiguration() && ziel.HoleOptikteilInformation();
+}
+
+bool PruefeGelesenes() {
+    UebernimmOptikteile();
+    modDaten::ZeigeGeraetestatus();
+    return modDaten::PruefeKonfiguration() != False;
+}
+
+} // namespace
+
+void UebernimmOptikteile() {
+    int anzahl = 0;
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
+        Werte status{0};
+        modDaten::HoleSpezifischeDaten(spezifisch::Optikteilstatus, 1, static_cast<std::int16_t>(teil),
+                                       status);
+        SetzeOptikteilStatus(teil, ZustandAus(status[0]));
+        if (GetOptikteilStatus(teil) == Vorhanden)
+            anzahl = teil + 1;
+    }
+    SetzeAnzahlOptikteile(anzahl);
+}
+
+bool Autostart(Verbindungsziel& ziel) {
+    if (ziel.LiveDatenLaufen())
+        ziel.StoppeLiveDaten();
+    VergissOptikteile();
+    ziel.ZeigeAlleOffline();
+    modDaten::LeereAbbild();
+    const bool gelesen = LiesGeraet(ziel);
+    if (ziel.Beendet())
+        return false;
+    const bool gelungen = gelesen && PruefeGelesenes();
+    if (!gelesen)
+        ziel.FrageNachKonfiguration();
+    modHilfsFunktionen::BerechneZykluszeiten();
+    ziel.BaueAnsichtenAuf();
+    if (gelungen) {
+        StartePolling();
+        ziel.LiveDatenLaufenAn();
+    }
+    ziel.ZeigeLichtleistenmenue();
+    return gelungen && GetPollingAktiv() != False;
+}
+
+} // namespace varnoth

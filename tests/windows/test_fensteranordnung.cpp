@@ -1,0 +1,41 @@
+#include "fensteranordnung.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+TEST(Fensteranordnung, Side_by_side_windows_stand_in_one_row_where_they_fit) {
+    EXPECT_EQ(
+        OrdneAn(Anordnung::Nebeneinander, 4, {1200, 600}, {227, 230}),
+        (std::vector<QRect>{{0, 0, 300, 600}, {300, 0, 300, 600}, {600, 0, 300, 600}, {900, 0, 300, 600}}));
+}
+
+TEST(Fensteranordnung, Stacked_windows_stand_in_one_column_where_they_fit) {
+    EXPECT_EQ(OrdneAn(Anordnung::Untereinander, 2, {600, 600}, {227, 230}),
+              (std::vector<QRect>{{0, 0, 600, 300}, {0, 300, 600, 300}}));
+}
+
+TEST(Fensteranordnung, A_narrow_area_gets_more_rows) {
+    EXPECT_EQ(OrdneAn(Anordnung::Nebeneinander, 3, {500, 600}, {227, 230}),
+              (std::vector<QRect>{{0, 0, 250, 300}, {250, 0, 250, 300}, {0, 300, 250, 300}}));
+}
+
+TEST(Fensteranordnung, A_low_area_gets_more_columns) {
+    EXPECT_EQ(OrdneAn(Anordnung::Untereinander, 2, {600, 300}, {227, 230}),
+              (std::vector<QRect>{{0, 0, 300, 300}, {300, 0, 300, 300}}));
+}
+
+TEST(Fensteranordnung, An_area_smaller_than_one_window_still_gets_its_windows) {
+    EXPECT_EQ(OrdneAn(Anordnung::Nebeneinander, 2, {100, 100}, {227, 230}).size(), 2U);
+}
+
+TEST(Fensteranordnung, No_window_needs_no_place) {
+    EXPECT_TRUE(OrdneAn(Anordnung::Nebeneinander, 0, {600, 300}, {227, 230}).empty());
+}
+
+TEST(Fensteranordnung, The_windows_fill_an_area_that_does_not_divide_evenly) {
+    const auto plaetze = OrdneAn(Anordnung::Nebeneinander, 3, {1000, 500}, {227, 230});
+    EXPECT_EQ(plaetze.back().right(), 999);
+}
+
+} // namespace varnoth

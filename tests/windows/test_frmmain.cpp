@@ -1,0 +1,411 @@
+#include "frmMain.h"
+
+#include "crc.h"
+#include "fenstertest.h"
+#include "frmDocument.h"
+#include "pruefgeraet.h"
+#include "qttexte.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "standardkonfiguration.h"
+#include "texte.h"
+#include "transaktionen.h"
+#include "zykluszeiten.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+using pruefung::PruefGeraet;
+
+class FrmMainTest : public testing::Test {
+protected:
+    FrmMainTest() {
+        CrcTabelleAufbauen();
+        ModuleZuruecksetzen();
+        SetzeSprachoffset(Deutsch);
+    }
+    ~FrmMainTest() override {
+        fenster.reset();
+        ModuleZuruecksetzen();
+        SetzeSprachoffset(Deutsch);
+    }
+
+    static void ModuleZuruecksetzen() {
+        modDaten::Zuruecksetzen();
+        modHilfsFunktionen::Zuruecksetzen();
+        modModbus::IdentReset();
+        modPolling::Zuruecksetzen();
+        modSchnittstelle::Zuruecksetzen();
+    }
+
+    frmMain& Fenster() {
+        if (!fenster) {
+            fenster = std::make_unique<frmMain>();
+            fenster->show();
+        }
+        return *fenster;
+    }
+    QAction& Aktion(const char* name) {
+        auto* aktion = Fenster().findChild<QAction*>(QString::fromUtf8(name));
+        if (aktion == nullptr)
+            throw std::out_of_range(name);
+        return *aktion;
+    }
+    void Waehle(const char* name) {
+        Aktion(name).trigger();
+        Fenster().MenuAusführen();
+    }
+    /// A controller with these beam counts; 0 = no part.
+    void SchliesseAn(std::array<int, AnzahlOptikteile> strahlen) {
+        for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
+            const int anzahl = strahlen.at(static_cast<std::size_t>(teil));
+            geraet.Spezifisch(teil, spezifisch::Strahlenzahl) = anzahl;
+            geraet.Spezifisch(teil, spezifisch::Aufloesung) = 5;
+            geraet.Spezifisch(teil, spezifisch::Filterdurchlaeufe) = 1;
+            geraet.Spezifisch(teil, spezifisch::Gruppenzaehler) = 1;
+            geraet.Spezifisch(teil, spezifisch::MinMaxHaltezeit) = 1;
+            geraet.Spezifisch(teil, spezifisch::Lochgroesse) = 1;
+            geraet.Spezifisch(teil, spezifisch::Mittentoleranz) = 1;
+            geraet.Spezifisch(teil, spezifisch::Optikteilstatus) = anzahl > 0 ? 0x80 : 0;
+        }
+        geraet.Register(0x4000 + kommunikation::Stationsadresse) = 1;
+        geraet.Register(0x4000 + kommunikation::Autosend) = 259;
+        geraet.Register(0x4000 + kommunikation::Datenblock) = 20;
+    }
+    QString Titel(int teil) { return Fenster().Fenster(teil).windowTitle(); }
+    QLabel& Statusfeld(int nummer) {
+        return *Fenster().findChild<QLabel*>(QStringLiteral("sbStatusBar_%1").arg(nummer));
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
+    pruefung::PruefPort port{umgebung};
+    PruefGeraet geraet{port};
+    std::unique_ptr<frmMain> fenster;
+};
+
+TEST_F(FrmMainTest, Every_menu_item_stands_in_its_place) {
+    const std::pair<const char*, QStringList> menues[] = {
+        {"mnuDatei",
+         {"mnuNeu", "mnuOeffnen", "mnuSpeichernUnter", "mnuDateiBar2", "mnuDruckereinrichtung",
+          "mnuKonfigurationDrucken", "mnuDateiBar1", "mnuBeenden"}},
+        {"mnuAnzeige",
+         {"mnuAnzeigeKonfiguration", "mnuAnzeigeLichtleiste_0", "mnuAnzeigeLichtleiste_1",
+          "mnuAnzeigeLichtleiste_2", "mnuAnzeigeLichtleiste_3"}},
+        {"mnuMessdaten", {"mnuMessdatenAufzeichnen", ""}},
+        {"mnuMessdatenVisualisieren", {"mnuMessdatenVisualisierenStart", "mnuMessdatenVisualisierenStop"}},
+        {"mnuExtras",
+         {"mnuEinzelwerteLesenSchreiben", "mnuSimulation", "mnuInitHardware", "mnuResetHardware", "mnuFlasher",
+          "mnuAutosendStarten"}},
+        {"mnuOption", {"", "mnuOptionFarben", "", "mnuUebertragenerWert"}},
+        {"mnuOptionSprache", {"mnuDeutsch", "mnuEnglisch"}},
+        {"mnuOptionKommunikation", {"mnuCom_1", "mnuCom_2", "mnuCom_3", "mnuCom_4"}},
+        {"mnuFenster", {"mnuFensterUntereinander", "mnuFensterNebeneinander", "mnuFensterÜberlappend"}},
+        {"mnuHilfe", {"mnuHilfethemen", "mnuInfo"}},
+    };
+    for (const auto& [name, erwartet] : menues) {
+        QStringList namen;
+        for (const QAction* aktion : Fenster().findChild<QMenu*>(name)->actions())
+            namen.append(aktion->menu() != nullptr ? QString() : aktion->objectName());
+        EXPECT_EQ(namen, erwartet) << name;
+    }
+}
+
+TEST_F(FrmMainTest, Menus_are_in_the_chosen_language) {
+    EXPECT_EQ(Aktion("mnuBeenden").text(), "&Beenden");
+    EXPECT_EQ(Fenster().windowTitle(), "Varnoth Monitor");
+    EXPECT_EQ(Fenster().findChild<QMenu*>("mnuDatei")->title(), "&Datei");
+}
+
+TEST_F(FrmMainTest, A_click_does_nothing_until_the_main_loop_runs_it) {
+    Aktion("mnuUebertragenerWert").trigger();
+    EXPECT_FALSE(Aktion("mnuUebertragenerWert").isChecked());
+    EXPECT_TRUE(Fenster().BefehlWartet());
+    Fenster().MenuAusführen();
+    EXPECT_TRUE(Aktion("mnuUebertragenerWert").isChecked());
+}
+
+TEST_F(FrmMainTest, An_item_without_a_command_does_nothing) {
+    for (const char* name :
+         {"mnuDruckereinrichtung", "mnuKonfigurationDrucken", "mnuMessdatenAufzeichnen", "mnuOptionFarben"}) {
+        Aktion(name).trigger();
+        EXPECT_FALSE(Fenster().BefehlWartet()) << name;
+    }
+}
+
+TEST_F(FrmMainTest, The_transmitted_value_item_turns_its_check_mark) {
+    Waehle("mnuUebertragenerWert");
+    EXPECT_TRUE(Aktion("mnuUebertragenerWert").isChecked());
+    Waehle("mnuUebertragenerWert");
+    EXPECT_FALSE(Aktion("mnuUebertragenerWert").isChecked());
+}
+
+TEST_F(FrmMainTest, The_port_in_the_settings_is_checked) {
+    einstellungen.texte[{"Settings", "ComPort"}] = "3";
+    EXPECT_TRUE(Aktion("mnuCom_3").isChecked());
+    EXPECT_FALSE(Aktion("mnuCom_1").isChecked());
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 3);
+}
+
+TEST_F(FrmMainTest, Another_port_is_used_checked_and_stored) {
+    Waehle("mnuCom_2");
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 2);
+    EXPECT_TRUE(Aktion("mnuCom_2").isChecked());
+    EXPECT_FALSE(Aktion("mnuCom_1").isChecked());
+    EXPECT_EQ((einstellungen.texte[{"Settings", "ComPort"}]), "2");
+}
+
+TEST_F(FrmMainTest, Choosing_the_checked_port_changes_and_writes_nothing) {
+    Fenster();
+    const int vorher = einstellungen.geschrieben;
+    Waehle("mnuCom_1");
+    EXPECT_TRUE(Aktion("mnuCom_1").isChecked());
+    EXPECT_EQ(einstellungen.geschrieben, vorher);
+}
+
+TEST_F(FrmMainTest, An_unknown_port_number_in_the_settings_checks_no_item) {
+    einstellungen.texte[{"Settings", "ComPort"}] = "7";
+    for (const char* name : {"mnuCom_1", "mnuCom_2", "mnuCom_3", "mnuCom_4"})
+        EXPECT_FALSE(Aktion(name).isChecked()) << name;
+}
+
+TEST_F(FrmMainTest, Empty_port_settings_become_the_default) {
+    einstellungen.texte[{"Settings", "ComSettings"}] = "";
+    Fenster();
+    EXPECT_EQ(modSchnittstelle::GetComSettings(), "38400,n,8,2");
+}
+
+TEST_F(FrmMainTest, A_window_made_too_small_snaps_back_to_its_least_size) {
+    Fenster().resize(100, 100);
+    EXPECT_EQ(Fenster().size(), QSize(3700 / 15 + 1, 5040 / 15));
+}
+
+TEST_F(FrmMainTest, The_window_stands_where_the_settings_say) {
+    einstellungen.texte[{"MDIForm", "Left"}] = "300";
+    einstellungen.texte[{"MDIForm", "Top"}] = "450";
+    einstellungen.texte[{"MDIForm", "Width"}] = "7500";
+    einstellungen.texte[{"MDIForm", "Height"}] = "6000";
+    EXPECT_EQ(Fenster().pos(), QPoint(20, 30));
+    EXPECT_EQ(Fenster().size(), QSize(500, 400));
+}
+
+TEST_F(FrmMainTest, Closing_stores_the_place_as_decimal_text) {
+    Fenster().move(20, 30);
+    Fenster().resize(500, 400);
+    Fenster().close();
+    EXPECT_EQ((einstellungen.texte[{"MDIForm", "WindowState"}]), "0");
+    EXPECT_EQ((einstellungen.texte[{"MDIForm", "Left"}]), "300");
+    EXPECT_EQ((einstellungen.texte[{"MDIForm", "Top"}]), "450");
+    EXPECT_EQ((einstellungen.texte[{"MDIForm", "Width"}]), "7500");
+    EXPECT_EQ((einstellungen.texte[{"MDIForm", "Height"}]), "6000");
+}
+
+TEST_F(FrmMainTest, A_window_closed_while_minimised_keeps_the_stored_place) {
+    einstellungen.texte[{"MDIForm", "Left"}] = "300";
+    Fenster().showMinimized();
+    Fenster().close();
+    EXPECT_EQ((einstellungen.texte[{"MDIForm", "Left"}]), "300");
+    EXPECT_FALSE((einstellungen.texte.contains({"MDIForm", "WindowState"})));
+}
+
+TEST_F(FrmMainTest, A_connection_identifies_reads_and_shows_the_parts_online) {
+    SchliesseAn({32, 64, 0, 0});
+    Fenster().Autostart();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+    EXPECT_EQ(Titel(0), "1. Optikteil online");
+    EXPECT_EQ(Titel(1), "2. Optikteil online");
+    EXPECT_EQ(Titel(2), "3. Optikteil nicht vorhanden");
+    EXPECT_TRUE(Fenster().Fenster(0).isVisible());
+    EXPECT_TRUE(Fenster().Fenster(1).isVisible());
+    EXPECT_FALSE(Fenster().Fenster(2).isVisible());
+}
+
+TEST_F(FrmMainTest, View_items_show_for_parts_with_beams_and_are_checked_while_their_view_is_open) {
+    SchliesseAn({32, 64, 0, 0});
+    Fenster().Autostart();
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_0").isVisible());
+    EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_2").isVisible());
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_1").isChecked());
+    Fenster().Fenster(1).parentWidget()->close();
+    EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_1").isChecked());
+    EXPECT_FALSE(Fenster().Fenster(1).ZeigtLiveDaten());
+}
+
+TEST_F(FrmMainTest, A_closed_view_comes_back_through_its_menu_item) {
+    SchliesseAn({32, 64, 0, 0});
+    Fenster().Autostart();
+    Fenster().Fenster(1).parentWidget()->close();
+    Waehle("mnuAnzeigeLichtleiste_1");
+    EXPECT_TRUE(Fenster().Fenster(1).ZeigtLiveDaten());
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_1").isChecked());
+    EXPECT_EQ(Titel(1), "2. Optikteil online");
+}
+
+TEST_F(FrmMainTest, Start_and_stop_take_turns) {
+    SchliesseAn({32, 0, 0, 0});
+    EXPECT_TRUE(Aktion("mnuMessdatenVisualisierenStart").isEnabled());
+    EXPECT_FALSE(Aktion("mnuMessdatenVisualisierenStop").isEnabled());
+    Waehle("mnuMessdatenVisualisierenStart");
+    EXPECT_FALSE(Aktion("mnuMessdatenVisualisierenStart").isEnabled());
+    EXPECT_TRUE(Aktion("mnuMessdatenVisualisierenStop").isEnabled());
+}
+
+TEST_F(FrmMainTest, Stop_takes_the_controller_out_of_autosend_and_shows_offline) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    geraet.geschrieben.clear();
+    Fenster().ZeigeStatustext(FeldMeldungen, "old");
+    Waehle("mnuMessdatenVisualisierenStop");
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+    ASSERT_EQ(geraet.geschrieben.size(), 1U);
+    EXPECT_EQ(geraet.geschrieben[0].adresse, 0x4084);
+    EXPECT_EQ(geraet.geschrieben[0].werte, std::vector<int>{4});
+    EXPECT_EQ(Titel(0), "1. Optikteil offline");
+    EXPECT_EQ(Titel(1), "2. Optikteil nicht vorhanden");
+    EXPECT_EQ(Statusfeld(FeldMeldungen).text(), "");
+    EXPECT_FALSE(port.offen);
+}
+
+TEST_F(FrmMainTest, Without_a_controller_the_message_appears_after_nine_requests) {
+    geraet.schweige = [](const std::string&) { return true; };
+    Fenster().Autostart();
+    EXPECT_EQ(port.gesendet.size(), 9U);
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(7209));
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+    EXPECT_TRUE(Aktion("mnuMessdatenVisualisierenStart").isEnabled());
+}
+
+TEST_F(FrmMainTest, A_lost_connection_shows_offline_and_empties_the_output_panel_until_a_pass_succeeds) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    modPolling::PollingZyklus();
+    Fenster().ZeigeStatustext(FeldSchaltausgang, "output");
+    geraet.schweige = [](const std::string&) { return true; };
+    modPolling::PollingZyklus();
+    EXPECT_EQ(umgebung.meldungen.back().text, LadeText(3000));
+    EXPECT_EQ(Titel(0), "1. Optikteil offline");
+    EXPECT_EQ(Statusfeld(FeldSchaltausgang).text(), "");
+    geraet.schweige = nullptr;
+    modPolling::PollingZyklus();
+    EXPECT_EQ(Titel(0), "1. Optikteil online");
+}
+
+TEST_F(FrmMainTest, A_part_that_disappears_shows_not_available) {
+    SchliesseAn({32, 64, 0, 0});
+    Fenster().Autostart();
+    geraet.Spezifisch(1, spezifisch::Optikteilstatus) = 0;
+    modPolling::PollingZyklus();
+    EXPECT_EQ(Titel(0), "1. Optikteil online");
+    EXPECT_EQ(Titel(1), "2. Optikteil nicht vorhanden");
+}
+
+TEST_F(FrmMainTest, Autosend_can_be_chosen_when_the_controller_is_in_an_autosend_mode) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    EXPECT_TRUE(Aktion("mnuAutosendStarten").isEnabled());
+    geraet.Register(0x4000 + kommunikation::Autosend) = 4;
+    Fenster().Autostart();
+    EXPECT_FALSE(Aktion("mnuAutosendStarten").isEnabled());
+}
+
+TEST_F(FrmMainTest, Autosend_starts_after_the_question_and_live_data_stays_stopped) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    geraet.geschrieben.clear();
+    Waehle("mnuAutosendStarten");
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(6003));
+    EXPECT_EQ(umgebung.meldungen[0].knoepfe, Knoepfe::OkAbbrechen);
+    EXPECT_EQ(geraet.geschrieben.back().werte, std::vector<int>{2});
+    EXPECT_FALSE(Fenster().BefehlWartet());
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+}
+
+TEST_F(FrmMainTest, Autosend_does_not_start_when_the_question_is_cancelled) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    umgebung.antworten = {Antwort::Abbrechen};
+    Waehle("mnuAutosendStarten");
+    EXPECT_EQ(geraet.geschrieben.back().werte, std::vector<int>{4});
+}
+
+TEST_F(FrmMainTest, Switching_to_English_and_back_gives_the_German_texts_again) {
+    Fenster().ZeigeSprache();
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    Waehle("mnuEnglisch");
+    EXPECT_EQ(Aktion("mnuBeenden").text(), "&Exit");
+    EXPECT_EQ(Titel(0), "1. Optical part offline");
+    EXPECT_TRUE(Aktion("mnuEnglisch").isChecked());
+    EXPECT_FALSE(Aktion("mnuDeutsch").isChecked());
+    EXPECT_EQ((einstellungen.texte[{"Settings", "Sprache"}]), "10000");
+    Waehle("mnuDeutsch");
+    EXPECT_EQ(Aktion("mnuBeenden").text(), "&Beenden");
+    EXPECT_EQ(Titel(0), "1. Optikteil offline");
+    EXPECT_TRUE(Aktion("mnuDeutsch").isChecked());
+    EXPECT_EQ((einstellungen.texte[{"Settings", "Sprache"}]), "0");
+    LadeQtTexte(Deutsch);
+}
+
+TEST_F(FrmMainTest, Closing_while_a_pass_waits_ends_the_pass_and_the_program) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    geraet.schweige = [](const std::string&) { return true; };
+    umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(300), [this] { Fenster().close(); });
+    modPolling::PollingZyklus();
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+    EXPECT_FALSE(port.offen);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(FrmMainTest, Closing_while_a_dialog_asks_the_controller_ends_the_dialog_and_the_program) {
+    geraet.schweige = [](const std::string&) { return true; };
+    Fenster();
+    umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(1300), [this] { Fenster().close(); });
+    Fenster().Autostart();
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+}
+
+TEST_F(FrmMainTest, The_exit_command_ends_the_program) {
+    Waehle("mnuBeenden");
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+}
+
+TEST_F(FrmMainTest, The_about_box_shows_product_and_owner_and_closes_on_Enter) {
+    Fenster();
+    QString produkt;
+    QString eigentuemer;
+    QTimer::singleShot(0, &Fenster(), [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        produkt = dialog->findChild<QLabel*>("Label1")->text();
+        eigentuemer = dialog->findChild<QLabel*>("Label2")->text();
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    Waehle("mnuInfo");
+    EXPECT_EQ(produkt, "Varnoth  Softwareversion 1.0.0");
+    EXPECT_TRUE(eigentuemer.contains(QChar(169)));
+}
+
+TEST_F(FrmMainTest, The_three_status_panels_take_texts) {
+    Fenster().ZeigeStatustext(FeldSchaltausgang, "Status");
+    EXPECT_EQ(Statusfeld(FeldSchaltausgang).text(), "Status");
+    EXPECT_EQ(Statusfeld(FeldPort).text(), "COM1: 38400,n,8,2");
+}
+
+} // namespace varnoth

@@ -1,0 +1,124 @@
+#include "menuebefehle.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace varnoth {
+
+namespace {
+
+struct PruefBefehlsziel : Befehlsziel {
+    bool LiveDatenLaufen() const override { return live; }
+    void StoppeLiveDaten() override {
+        live = false;
+        ablauf.push_back("stop");
+    }
+    void FuehreAus(Befehl befehl, int index) override {
+        ablauf.push_back(std::to_string(static_cast<int>(befehl)) + "/" + std::to_string(index));
+        if (waehrend)
+            waehrend();
+    }
+
+    bool live = false;
+    std::vector<std::string> ablauf;
+    std::function<void()> waehrend;
+};
+
+using Ablauf = std::vector<std::string>;
+
+} // namespace
+
+class MenuebefehleTest : public testing::Test {
+protected:
+    Befehlsspeicher speicher;
+    PruefBefehlsziel ziel;
+};
+
+TEST_F(MenuebefehleTest, Without_a_click_nothing_runs) {
+    speicher.FuehreAus(ziel);
+    EXPECT_TRUE(ziel.ablauf.empty());
+}
+
+TEST_F(MenuebefehleTest, A_click_only_stores_the_command) {
+    speicher.Klick(Befehl::Info);
+    EXPECT_TRUE(speicher.Wartet());
+    EXPECT_TRUE(ziel.ablauf.empty());
+}
+
+TEST_F(MenuebefehleTest, The_index_of_the_clicked_item_goes_with_the_command) {
+    speicher.Klick(Befehl::LichtleisteAnzeigen, 2);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"3/2"}));
+    EXPECT_FALSE(speicher.Wartet());
+}
+
+TEST_F(MenuebefehleTest, Of_two_clicks_in_a_row_only_the_last_is_kept) {
+    speicher.Klick(Befehl::FensterNebeneinander);
+    speicher.Klick(Befehl::FensterUntereinander);
+    speicher.FuehreAus(ziel);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"8/0"}));
+}
+
+TEST_F(MenuebefehleTest, A_click_during_a_long_command_runs_right_after_it) {
+    speicher.Klick(Befehl::VisualisierenStart);
+    ziel.waehrend = [this] {
+        ziel.waehrend = nullptr;
+        speicher.Klick(Befehl::Info);
+    };
+    speicher.FuehreAus(ziel);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"1/0", "20/0"}));
+}
+
+TEST_F(MenuebefehleTest, The_same_command_clicked_again_while_it_runs_runs_again) {
+    speicher.Klick(Befehl::VisualisierenStart);
+    ziel.waehrend = [this] {
+        ziel.waehrend = nullptr;
+        speicher.Klick(Befehl::VisualisierenStart);
+    };
+    speicher.FuehreAus(ziel);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"1/0", "1/0"}));
+}
+
+TEST_F(MenuebefehleTest, After_single_values_with_live_data_running_live_data_starts_again) {
+    ziel.live = true;
+    speicher.Klick(Befehl::Einzelwerte);
+    speicher.FuehreAus(ziel);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"stop", "5/0", "1/0"}));
+}
+
+TEST_F(MenuebefehleTest, After_a_reset_of_the_hardware_live_data_stays_stopped) {
+    ziel.live = true;
+    speicher.Klick(Befehl::ResetHardware);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"stop", "16/0"}));
+    EXPECT_FALSE(speicher.Wartet());
+}
+
+TEST_F(MenuebefehleTest, Without_live_data_nothing_is_stopped_or_started_again) {
+    speicher.Klick(Befehl::Einzelwerte);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"5/0"}));
+    EXPECT_FALSE(speicher.Wartet());
+}
+
+TEST(Menuebefehle, Exactly_these_commands_stop_live_data) {
+    for (int code = 1; code <= 23; ++code) {
+        const bool laeuftWeiter = code <= 3 || (code >= 6 && code <= 8) || code == 14 || code == 15;
+        EXPECT_EQ(StopptLiveDaten(static_cast<Befehl>(code)), !laeuftWeiter) << "code " << code;
+    }
+}
+
+TEST(Menuebefehle, Exactly_three_commands_start_live_data_again) {
+    for (int code = 1; code <= 23; ++code)
+        EXPECT_EQ(StartetLiveDatenWieder(static_cast<Befehl>(code)), code == 5 || code == 10 || code == 11)
+            << "code " << code;
+}
+
+} // namespace varnoth
