@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace varnoth {
 
 void ZeigeText(QLineEdit& feld, const QString& text) {
@@ -12,7 +14,8 @@ void ZeigeText(QLineEdit& feld, const QString& text) {
 }
 
 void BietePlatz(QWidget& element, int zeichen) {
-    element.setMinimumWidth(zeichen * element.fontMetrics().averageCharWidth());
+    const int breite = zeichen * element.fontMetrics().averageCharWidth();
+    element.setMinimumWidth(std::max(element.minimumWidth(), breite));
 }
 
 } // namespace varnoth

@@ -6,7 +6,7 @@
 namespace varnoth {
 
 namespace {
-constexpr int Zeilenbreite = 40; // characters
+constexpr int Zeilenbreite = 52; // characters
 }
 
 frmHoleLichtleistenInfo::frmHoleLichtleistenInfo(QWidget* parent)

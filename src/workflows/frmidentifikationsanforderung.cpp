@@ -5,6 +5,8 @@
 #include "ui_frmidentifikationsanforderung.h"
 #include "zeichensatz.h"
 
+#include <algorithm>
+
 namespace varnoth {
 
 namespace {
@@ -15,6 +17,16 @@ QString AlsQString(const std::string& text) {
     for (const char zeichen : text)
         utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
     return QString::fromStdString(utf8);
+}
+
+constexpr int LaengstesFeld = 80; // characters
+constexpr int Feldrand = 6;
+
+/// Shows a text of the controller; the field grows with it, within reason.
+void ZeigeGeraetetext(QLineEdit& feld, const std::string& geraetetext) {
+    const QString text = AlsQString(geraetetext);
+    BietePlatz(feld, std::min(static_cast<int>(text.size()) + Feldrand, LaengstesFeld));
+    ZeigeText(feld, text);
 }
 
 /// A byte of the identification; -1 stands for one that did not arrive.
@@ -52,9 +64,9 @@ void frmIdentifikationsAnforderung::ZeigeIdentifikation() {
     ZeigeByte(*ui->txtSlaveAdresse, GetSlaveAdresse());
     ZeigeByte(*ui->txtSchaltzustand, GetIdentByte1());
     ZeigeByte(*ui->txtGerätetyp, GetIdentByte2());
-    ZeigeText(*ui->txtBezeichnung, AlsQString(GetIdentText1()));
-    ZeigeText(*ui->txtSeriennr, AlsQString(GetIdentText2()));
-    ZeigeText(*ui->txtCopyright, AlsQString(GetIdentText3()));
+    ZeigeGeraetetext(*ui->txtBezeichnung, GetIdentText1());
+    ZeigeGeraetetext(*ui->txtSeriennr, GetIdentText2());
+    ZeigeGeraetetext(*ui->txtCopyright, GetIdentText3());
 }
 
 } // namespace varnoth

@@ -31,6 +31,15 @@ TEST_F(frmIdentifikationsAnforderungTest, The_fields_are_empty_until_the_device_
     EXPECT_EQ(text, "");
 }
 
+TEST_F(frmIdentifikationsAnforderungTest, A_long_text_of_the_device_is_shown_whole) {
+    geraet.identtext = "Varnoth;4711;Copyright (C) 2009 by the makers of the Varnoth light curtain";
+    frmIdentifikationsAnforderung dialog;
+    ZeigeBisFertig(dialog);
+    QCoreApplication::processEvents();
+    const auto& feld = Kind<QLineEdit>(dialog, "txtCopyright");
+    EXPECT_LT(feld.fontMetrics().horizontalAdvance(feld.text()), feld.width() - 8);
+}
+
 TEST_F(frmIdentifikationsAnforderungTest,
        A_device_that_answers_only_the_ninth_request_gives_the_message_and_cancels) {
     frmIdentifikationsAnforderung dialog;
