@@ -1,0 +1,21 @@
+#include "feldtext.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace varnoth {
+
+void ZeigeText(QLineEdit& feld, const QString& text) {
+    if (feld.text() == text)
+        return;
+    feld.setText(text);
+    feld.setCursorPosition(0);
+}
+
+void BietePlatz(QWidget& element, int zeichen) {
+    const int breite = zeichen * element.fontMetrics().averageCharWidth();
+    element.setMinimumWidth(std::max(element.minimumWidth(), breite));
+}
+
+} // namespace varnoth

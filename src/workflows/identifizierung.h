@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ablaufanzeige.h"
+
+namespace varnoth {
+
+/// Whoever shows an identification.
+class Identifikationsanzeige : public Ablaufanzeige {
+public:
+    /// The attempts that remain after the one that begins now.
+    virtual void ZeigeVerbleibend(int versuche) = 0;
+    /// The controller has answered; the identification record tells what.
+    virtual void ZeigeIdentifikation() = 0;
+};
+
+/// Asks the controller who it is, at most nine times. False when the user cancelled or when the ninth request
+/// was needed; the user is then told that there is no connection, even if just that request was answered.
+bool Identifiziere(Identifikationsanzeige& anzeige);
+
+} // namespace varnoth

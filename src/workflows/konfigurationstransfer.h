@@ -1,0 +1,80 @@
+#pragma once
+
+#include "ablaufanzeige.h"
+#include "boolean.h"
+#include "registerbeschreibung.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace varnoth {
+
+/// Whoever shows the transfer of a whole configuration.
+class Transferanzeige : public Ablaufanzeige {
+public:
+    /// What is transferred from now on.
+    virtual void ZeigeBereich(const std::string& text) = 0;
+    /// The register as text, the number of registers, and the attempt (from 1) that begins now.
+    virtual void ZeigeRegister(const std::string& registertext, int anzahl, int versuch) = 0;
+    /// How many of all parameters are through.
+    virtual void ZeigeFortschritt(int erledigt, int gesamt) = 0;
+    /// The transfer is complete: the text stands instead of the range, register, count and attempt are empty.
+    virtual void ZeigeEnde(const std::string& text) = 0;
+};
+
+/// A parameter on its way. `optikteil` is 0 outside the specific range.
+struct Transferparameter {
+    Speicherbereich bereich;
+    std::int16_t adresse;
+    std::int16_t anzahl;
+    std::int16_t optikteil = 0;
+};
+
+/// The device address of a register; for the specific range that of the optical part selected there.
+std::uint16_t Geraeteadresse(Speicherbereich bereich, std::int16_t adresse);
+
+/// How a register is shown: "12", "2000H + 12" or "4000H + 12".
+std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
+
+/// The walk through all parameters that reading and writing a configuration have in common: the global range,
+/// the specific range of all four optical parts, connected or not, and the communication range of channel 0.
+/// What happens to a parameter, and which ones take part, is the business of the class that reads or writes.
+class Konfigurationstransfer {
+public:
+    explicit Konfigurationstransfer(Transferanzeige& die) : anzeige(die) {}
+    Konfigurationstransfer(const Konfigurationstransfer&) = delete;
+    Konfigurationstransfer& operator=(const Konfigurationstransfer&) = delete;
+    virtual ~Konfigurationstransfer() = default;
+
+    /// Transfers everything. False when the user cancelled; what was transferred till then stays.
+    bool UebertrageAlles();
+
+protected:
+    using Eintragsiterator = Boolean (*)(Speicherbereich, std::int16_t& adresse, std::int16_t& anzahl);
+
+    /// Attempts at one exchange until it succeeds, shown with the register's text and count. False =
+    /// cancelled.
+    bool Versuche(const std::string& registertext, int anzahl, const std::function<Boolean()>& transaktion);
+
+private:
+    virtual Eintragsiterator ErsterEintrag() const = 0;
+    virtual Eintragsiterator NaechsterEintrag() const = 0;
+    /// The string id of a range's name.
+    virtual std::int16_t Bereichstext(Speicherbereich bereich) const = 0;
+    /// Transfers one parameter. False = cancelled.
+    virtual bool Uebertrage(const Transferparameter& parameter) = 0;
+
+    std::vector<Transferparameter> Parameter(Speicherbereich bereich) const;
+    int AnzahlParameter() const;
+    bool Waehle(std::int16_t textId, std::int16_t auswahlregister, int auswahl);
+    bool UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil = 0);
+    bool UebertrageOptikteile();
+
+    Transferanzeige& anzeige;
+    int erledigt = 0;
+    int gesamt = 0;
+};
+
+} // namespace varnoth

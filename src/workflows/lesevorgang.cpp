@@ -1,0 +1,88 @@
+#include "lesevorgang.h"
+
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "texte.h"
+#include "transaktionen.h"
+
+namespace varnoth {
+
+namespace {
+
+using namespace modDaten;
+
+constexpr std::int16_t TextGlobaleGeraetedaten = 7005;
+constexpr std::int16_t TextSpezifischeGeraetedaten = 7006;
+constexpr std::int16_t TextKommunikationsdaten = 7007;
+constexpr std::int16_t TextUebertragungBeendet = 7009;
+
+void Speichere(const Transferparameter& parameter, const Werte& werte) {
+    switch (parameter.bereich) {
+    case Speicherbereich::GlobaleGeraetedaten:
+        SetzeGlobaleDaten(parameter.adresse, parameter.anzahl, werte);
+        break;
+    case Speicherbereich::SpezifischeGeraetedaten:
+        SetzeSpezifischeDaten(parameter.adresse, parameter.anzahl, parameter.optikteil, werte);
+        break;
+    case Speicherbereich::Kommunikationsdaten:
+        SetzeKommunikationsdaten(parameter.adresse, parameter.anzahl, werte);
+        break;
+    }
+}
+
+class Lesetransfer : public Konfigurationstransfer {
+public:
+    using Konfigurationstransfer::Konfigurationstransfer;
+
+private:
+    Eintragsiterator ErsterEintrag() const override { return ErsterLesbarerEintrag; }
+    Eintragsiterator NaechsterEintrag() const override { return NaechsterLesbarerEintrag; }
+    std::int16_t Bereichstext(Speicherbereich bereich) const override;
+    bool Uebertrage(const Transferparameter& parameter) override;
+};
+
+std::int16_t Lesetransfer::Bereichstext(Speicherbereich bereich) const {
+    switch (bereich) {
+    case Speicherbereich::GlobaleGeraetedaten:
+        return TextGlobaleGeraetedaten;
+    case Speicherbereich::SpezifischeGeraetedaten:
+        return TextSpezifischeGeraetedaten;
+    case Speicherbereich::Kommunikationsdaten:
+        return TextKommunikationsdaten;
+    }
+    return TextGlobaleGeraetedaten;
+}
+
+bool Lesetransfer::Uebertrage(const Transferparameter& parameter) {
+    Werte werte(static_cast<std::size_t>(parameter.anzahl));
+    const bool gelesen = Versuche(Registertext(parameter.bereich, parameter.adresse), parameter.anzahl, [&] {
+        return modModbus::RTUModeH03LeseAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
+                                                    static_cast<std::uint16_t>(parameter.anzahl), werte);
+    });
+    if (gelesen)
+        Speichere(parameter, werte);
+    return gelesen;
+}
+
+void BerichtigeStrahlenzahlen() {
+    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
+        if (Strahlenzahl(teil) > MaxStrahlen)
+            SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, teil, {0});
+}
+
+} // namespace
+
+bool LiesKonfiguration(Transferanzeige& anzeige) {
+    if (!Lesetransfer(anzeige).UebertrageAlles())
+        return false;
+    anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
+    BerichtigeStrahlenzahlen();
+    return true;
+}
+
+bool AutosendWaehlbar(std::int32_t register74) {
+    const std::int32_t art = register74 & 0x7F;
+    return art == 1 || art == 3;
+}
+
+} // namespace varnoth

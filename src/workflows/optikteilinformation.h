@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ablaufanzeige.h"
+
+#include <string>
+
+namespace varnoth {
+
+/// Whoever shows which optical parts are present.
+class Optikteilanzeige : public Ablaufanzeige {
+public:
+    /// The line of an optical part 0..3, first without and then with what the controller said.
+    virtual void ZeigeOptikteil(int optikteil, const std::string& text) = 0;
+    /// How many of the optical parts have been asked.
+    virtual void ZeigeFortschritt(int erledigt, int gesamt) = 0;
+};
+
+/// Asks the controller for each of the four optical parts whether it is present, and keeps the answers in the
+/// register image. Every exchange is retried without limit. False when the user cancelled.
+bool HoleOptikteilInformation(Optikteilanzeige& anzeige);
+
+} // namespace varnoth

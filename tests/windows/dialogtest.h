@@ -1,0 +1,91 @@
+#pragma once
+
+#include "boolean.h"
+#include "crc.h"
+#include "fenstertest.h"
+#include "pruefgeraet.h"
+#include "registerabbild.h"
+#include "schnittstelle.h"
+#include "texte.h"
+#include "transaktionen.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+namespace varnoth::pruefung {
+
+/// Setting of the tests of dialogs that run a procedure: an identified controller at the far end of a closed
+/// port, German texts. Time jumps, so that a silent device costs no real second.
+class DialogTest : public testing::Test {
+protected:
+    DialogTest() {
+        ErwarteWarnung("propagateSizeHints");
+        CrcTabelleAufbauen();
+        SetzeSprachoffset(Deutsch);
+        modDaten::Zuruecksetzen();
+        modDaten::LeereAbbild();
+        modSchnittstelle::Zuruecksetzen();
+        Identifiziere();
+        umgebung.beiEreignissen = [] { QCoreApplication::processEvents(); };
+    }
+    ~DialogTest() override {
+        modModbus::IdentReset();
+        modSchnittstelle::Zuruecksetzen();
+        modDaten::Zuruecksetzen();
+        SetzeSprachoffset(Deutsch);
+    }
+
+    int AnzahlAnforderungen() const { return static_cast<int>(port.gesendet.size()); }
+    /// The controller keeps silent; `dabei` runs with the number of each request, from 1.
+    void Schweige(std::function<void(int anforderung)> dabei = {}) {
+        geraet.schweige = [this, dabei](const std::string&) {
+            if (dabei)
+                dabei(AnzahlAnforderungen());
+            return true;
+        };
+    }
+    /// The controller answers; `dabei` runs with the number of each request, from 1, before its answer.
+    void BeiAnforderung(std::function<void(int anforderung)> dabei) {
+        geraet.schweige = [this, dabei](const std::string&) {
+            dabei(AnzahlAnforderungen());
+            return false;
+        };
+    }
+    /// Shows the dialog and waits until its procedure has reached the end.
+    template<class Dialog>
+    static void ZeigeBisFertig(Dialog& dialog) {
+        dialog.show();
+        ASSERT_TRUE(WarteBis([&] { return dialog.GetVollstaendig() == True; }));
+    }
+
+    template<class Element>
+    static Element& Kind(QDialog& dialog, const char* name) {
+        auto* const element = dialog.findChild<Element*>(QString::fromUtf8(name));
+        if (element == nullptr)
+            throw std::runtime_error(std::string("no control ") + name);
+        return *element;
+    }
+    static QString Feld(QDialog& dialog, const char* name) { return Kind<QLineEdit>(dialog, name).text(); }
+    static QString Beschriftung(QDialog& dialog, const char* name) {
+        return Kind<QLabel>(dialog, name).text();
+    }
+    static bool Bereit(QDialog& dialog, const char* name) {
+        return Kind<QPushButton>(dialog, name).isEnabled();
+    }
+
+    void Identifiziere() {
+        modSchnittstelle::OpenCommPort();
+        modModbus::RTUModeH11IndentifikationsAnforderung();
+        modSchnittstelle::CloseCommPort();
+        port.gesendet.clear();
+    }
+
+    PruefUmgebung umgebung;
+    PruefPort port{umgebung};
+    PruefGeraet geraet{port};
+};
+
+} // namespace varnoth::pruefung

@@ -1,0 +1,225 @@
+#include "lesevorgang.h"
+
+#include "ablauftest.h"
+
+namespace varnoth {
+
+namespace {
+
+using pruefung::Wort;
+
+struct Schritt {
+    std::string bereich;
+    std::string registertext;
+    int anzahl;
+    int versuch;
+    bool operator==(const Schritt&) const = default;
+};
+
+struct Mitschrift : Transferanzeige {
+    void ZeigeBereich(const std::string& text) override { bereich = text; }
+    void ZeigeRegister(const std::string& registertext, int anzahl, int versuch) override {
+        schritte.push_back({bereich, registertext, anzahl, versuch});
+        if (abbruchBei && abbruchBei(schritte.back()))
+            abbruch = true;
+    }
+    void ZeigeFortschritt(int erledigt, int gesamt) override { fortschritt.emplace_back(erledigt, gesamt); }
+    void ZeigeEnde(const std::string& text) override { ende = text; }
+    bool Abgebrochen() override { return abbruch; }
+
+    std::string bereich;
+    std::string ende;
+    std::vector<Schritt> schritte;
+    std::vector<std::pair<int, int>> fortschritt;
+    std::function<bool(const Schritt&)> abbruchBei;
+    bool abbruch = false;
+};
+
+std::vector<std::pair<int, int>> Parameter(std::initializer_list<std::pair<int, int>> spezifische) {
+    std::vector<std::pair<int, int>> alle{{0, 1}, {9, 10}, {20, 4}, {24, 1}, {25, 1}, {193, 1}, {196, 1}};
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        for (const auto& [adresse, anzahl] : spezifische)
+            alle.emplace_back(0x2000 + adresse, anzahl);
+    for (const auto& [adresse, anzahl] : std::initializer_list<std::pair<int, int>>{
+             {0, 1}, {2, 1}, {4, 1}, {8, 1}, {74, 1}, {75, 30}, {126, 1}})
+        alle.emplace_back(0x4000 + adresse, anzahl);
+    return alle;
+}
+
+} // namespace
+
+class LesevorgangTest : public pruefung::AblaufTest {
+protected:
+    static std::vector<std::int32_t> GanzesAbbild() {
+        std::vector<std::int32_t> alles;
+        for (const Speicherbereich bereich : AlleSpeicherbereiche) {
+            const auto werte = modDaten::Bereich(bereich);
+            alles.insert(alles.end(), werte.begin(), werte.end());
+        }
+        return alles;
+    }
+    static std::int32_t Spezifisch(int adresse, int teil) {
+        const auto werte = modDaten::Bereich(Speicherbereich::SpezifischeGeraetedaten);
+        return werte[modDaten::Stelle(Speicherbereich::SpezifischeGeraetedaten,
+                                      static_cast<std::int16_t>(adresse), teil)];
+    }
+    static std::int32_t Wert(Speicherbereich bereich, int adresse) {
+        return modDaten::Bereich(bereich)[modDaten::Stelle(bereich, static_cast<std::int16_t>(adresse))];
+    }
+    /// The first step shown in a range.
+    Schritt ErsterSchritt(const std::string& bereich) const {
+        for (const Schritt& schritt : anzeige.schritte)
+            if (schritt.bereich == bereich)
+                return schritt;
+        return {};
+    }
+
+    Mitschrift anzeige;
+};
+
+TEST_F(LesevorgangTest, Every_readable_parameter_is_read_once_in_the_order_of_ranges_parts_and_addresses) {
+    EXPECT_TRUE(LiesKonfiguration(anzeige));
+    EXPECT_EQ(geraet.gelesen,
+              Parameter({{12, 1}, {13, 1}, {14, 1}, {19, 1}, {24, 1}, {25, 1}, {26, 1}, {27, 1}, {52, 32}}));
+}
+
+TEST_F(LesevorgangTest, The_parts_and_the_channel_are_selected_before_they_are_read) {
+    LiesKonfiguration(anzeige);
+    const std::vector<pruefung::PruefGeraet::Schreibvorgang> erwartet{
+        {0, 212, {0}}, {0, 212, {1}}, {1, 212, {2}}, {2, 212, {3}}, {3, 213, {0}}};
+    EXPECT_EQ(geraet.geschrieben, erwartet);
+    const auto gesendetVor = [this](int adresse) {
+        for (std::size_t i = 0; i < port.gesendet.size(); ++i)
+            if (Wort(port.gesendet[i], 2) == adresse)
+                return i;
+        return port.gesendet.size();
+    };
+    EXPECT_EQ(gesendetVor(212) + 1, gesendetVor(0x200C));
+    EXPECT_EQ(gesendetVor(213) + 1, gesendetVor(0x4000));
+}
+
+TEST_F(LesevorgangTest, What_was_read_lies_in_the_image) {
+    geraet.Register(193) = 5;
+    geraet.Spezifisch(0, 52 + 31) = 0xFFFF;
+    geraet.Spezifisch(3, 13) = 40;
+    geraet.Register(0x4000 + 104) = 7;
+    LiesKonfiguration(anzeige);
+    EXPECT_EQ(Wert(Speicherbereich::GlobaleGeraetedaten, 193), 5);
+    EXPECT_EQ(Spezifisch(83, 0), 0xFFFF);
+    EXPECT_EQ(Spezifisch(13, 3), 40);
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 104), 7);
+}
+
+TEST_F(LesevorgangTest,
+       With_no_device_answering_the_attempt_rises_at_global_register_0_and_the_image_is_unchanged) {
+    SchweigeImmer();
+    const auto davor = GanzesAbbild();
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.versuch == 25; };
+    EXPECT_FALSE(LiesKonfiguration(anzeige));
+    ASSERT_EQ(anzeige.schritte.size(), 25U);
+    for (int i = 0; i < 25; ++i)
+        EXPECT_EQ(anzeige.schritte[static_cast<std::size_t>(i)],
+                  (Schritt{"Globale Gerätedaten", "0", 1, i + 1}));
+    EXPECT_EQ(GanzesAbbild(), davor);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(LesevorgangTest, A_cancel_in_the_specific_range_of_part_2_keeps_what_was_read_and_leaves_the_rest) {
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        geraet.Spezifisch(teil, 19) = 60 + teil;
+    geraet.Register(25) = 9;
+    geraet.Register(0x4004) = 77;
+    anzeige.abbruchBei = [this](const Schritt& schritt) {
+        return geraet.geschrieben.size() == 3 && schritt.registertext == "2000H + 19";
+    };
+    EXPECT_FALSE(LiesKonfiguration(anzeige));
+    EXPECT_EQ(Wert(Speicherbereich::GlobaleGeraetedaten, 25), 9);
+    EXPECT_EQ((std::vector{Spezifisch(19, 0), Spezifisch(19, 1), Spezifisch(19, 2), Spezifisch(19, 3)}),
+              (std::vector{60, 61, 0, 0}));
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 4), 0);
+    EXPECT_EQ(anzeige.ende, "");
+}
+
+TEST_F(LesevorgangTest, A_part_that_reports_600_beams_ends_with_beam_count_0) {
+    geraet.Spezifisch(1, 12) = 600;
+    geraet.Spezifisch(2, 12) = 512;
+    geraet.Spezifisch(3, 12) = 513;
+    LiesKonfiguration(anzeige);
+    EXPECT_EQ(modDaten::Strahlenzahl(1), 0);
+    EXPECT_EQ(modDaten::Strahlenzahl(2), 512);
+    EXPECT_EQ(modDaten::Strahlenzahl(3), 0);
+}
+
+TEST_F(LesevorgangTest, An_impossible_beam_count_is_left_alone_when_the_transfer_is_cancelled) {
+    geraet.Spezifisch(0, 12) = 600;
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "4000H + 126"; };
+    EXPECT_FALSE(LiesKonfiguration(anzeige));
+    EXPECT_EQ(Spezifisch(12, 0), 600);
+}
+
+TEST_F(LesevorgangTest, The_range_shows_Optikteil_0_while_the_first_part_is_selected) {
+    LiesKonfiguration(anzeige);
+    EXPECT_EQ(ErsterSchritt("Optikteil 0"), (Schritt{"Optikteil 0", "212", 1, 1}));
+    EXPECT_EQ(ErsterSchritt("Optikteil 3"), (Schritt{"Optikteil 3", "212", 1, 1}));
+}
+
+TEST_F(LesevorgangTest, The_range_shows_Communication_two_blanks_channel_0_in_English) {
+    SetzeSprachoffset(Englisch);
+    LiesKonfiguration(anzeige);
+    EXPECT_EQ(ErsterSchritt("Communication  channel 0"), (Schritt{"Communication  channel 0", "213", 1, 1}));
+    EXPECT_EQ(ErsterSchritt("Optical part 2").registertext, "212");
+}
+
+TEST_F(LesevorgangTest, Registers_are_shown_with_the_base_of_their_range) {
+    LiesKonfiguration(anzeige);
+    EXPECT_EQ(ErsterSchritt("Globale Gerätedaten"), (Schritt{"Globale Gerätedaten", "0", 1, 1}));
+    EXPECT_EQ(ErsterSchritt("Spezifische Gerätedaten"),
+              (Schritt{"Spezifische Gerätedaten", "2000H + 12", 1, 1}));
+    EXPECT_EQ(ErsterSchritt("Kommunikationsdaten"), (Schritt{"Kommunikationsdaten", "4000H + 0", 1, 1}));
+}
+
+TEST_F(LesevorgangTest, A_failed_selection_is_repeated_and_its_attempts_are_counted) {
+    int verschluckt = 0;
+    geraet.schweige = [&](const std::string& anforderung) {
+        return Wort(anforderung, 2) == 212 && verschluckt++ < 2;
+    };
+    EXPECT_TRUE(LiesKonfiguration(anzeige));
+    std::vector<int> versuche;
+    for (const Schritt& schritt : anzeige.schritte)
+        if (schritt.bereich == "Optikteil 0")
+            versuche.push_back(schritt.versuch);
+    EXPECT_EQ(versuche, (std::vector{1, 2, 3}));
+}
+
+TEST_F(LesevorgangTest, The_attempt_starts_at_1_again_with_each_parameter) {
+    SchweigeBei(2);
+    LiesKonfiguration(anzeige);
+    EXPECT_EQ(anzeige.schritte[2], (Schritt{"Globale Gerätedaten", "0", 1, 3}));
+    EXPECT_EQ(anzeige.schritte[3], (Schritt{"Globale Gerätedaten", "9", 10, 1}));
+}
+
+TEST_F(LesevorgangTest, A_parameter_whose_read_succeeds_after_the_cancel_is_not_stored) {
+    geraet.Register(25) = 9;
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "25"; };
+    EXPECT_FALSE(LiesKonfiguration(anzeige));
+    EXPECT_EQ(geraet.gelesen.back(), std::make_pair(25, 1));
+    EXPECT_EQ(Wert(Speicherbereich::GlobaleGeraetedaten, 25), 0);
+}
+
+TEST_F(LesevorgangTest, A_complete_transfer_ends_with_its_text_and_all_parameters_done) {
+    EXPECT_TRUE(LiesKonfiguration(anzeige));
+    EXPECT_EQ(anzeige.ende, "Übertragung beendet.");
+    ASSERT_EQ(anzeige.fortschritt.size(), 51U);
+    EXPECT_EQ(anzeige.fortschritt.front(), std::make_pair(0, 50));
+    EXPECT_EQ(anzeige.fortschritt.back(), std::make_pair(50, 50));
+}
+
+TEST_F(LesevorgangTest, Autosend_can_be_chosen_with_modes_1_and_3_only) {
+    EXPECT_TRUE(AutosendWaehlbar(1));
+    EXPECT_TRUE(AutosendWaehlbar(3));
+    EXPECT_TRUE(AutosendWaehlbar(0x183));
+    for (const int wert : {0, 2, 4, 0x100, 0x102, 0x7F})
+        EXPECT_FALSE(AutosendWaehlbar(wert)) << wert;
+}
+
+} // namespace varnoth
