@@ -94,7 +94,8 @@ TEST(Neustart, Puts_a_new_station_address_in_force) {
     probe.Schreibe(0x4004, {9});
     probe.Schreibe(Kommando, {1});
     EXPECT_FALSE(probe.Lies(0, 1).empty());
-    EXPECT_TRUE(probe.Schreibe(Kommando, {3})) << "the restart itself is still answered under the old address";
+    EXPECT_TRUE(probe.Schreibe(Kommando, {3}))
+        << "the restart itself is still answered under the old address";
     EXPECT_TRUE(probe.Lies(0, 1).empty());
     EXPECT_EQ(probe.Frage(Kennungsanfrage())[0], 9);
 }
