@@ -1,13 +1,15 @@
 #include "leitung.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 
 namespace varnoth::simulator {
 
 namespace {
 
-constexpr long BitsJeZeichen = 11; // start, eight data bits, two more for parity or stop
-constexpr long NanosekundenJeSekunde = 1'000'000'000;
+constexpr std::int64_t BitsJeZeichen = 11; // start, eight data bits, two more for parity or stop
+constexpr std::int64_t NanosekundenJeSekunde = 1'000'000'000;
 
 } // namespace
 
@@ -18,8 +20,8 @@ Leitung::Leitung(const Aufbau& aufbau)
 std::chrono::nanoseconds Leitung::Dauer(std::size_t zeichen) const {
     if (!getaktet_)
         return std::chrono::nanoseconds{0};
-    return std::chrono::nanoseconds{static_cast<long>(zeichen) * BitsJeZeichen * NanosekundenJeSekunde /
-                                    baud_};
+    return std::chrono::nanoseconds{static_cast<std::int64_t>(zeichen) * BitsJeZeichen *
+                                    NanosekundenJeSekunde / baud_};
 }
 
 void Leitung::Sende(const Sendung& sendung, std::chrono::nanoseconds fruehestens) {
@@ -35,8 +37,8 @@ void Leitung::SendeStueck(const Bytes& zeichen) {
     for (std::size_t anfang = 0; anfang < zeichen.size(); anfang += los) {
         const std::size_t ende = std::min(anfang + los, zeichen.size());
         const auto faellig = std::chrono::ceil<Zeit>(sendeende_ + Dauer(ende));
-        unterwegs_.push_back({faellig, Bytes(zeichen.begin() + static_cast<long>(anfang),
-                                             zeichen.begin() + static_cast<long>(ende))});
+        unterwegs_.push_back({faellig, Bytes(zeichen.begin() + static_cast<std::ptrdiff_t>(anfang),
+                                             zeichen.begin() + static_cast<std::ptrdiff_t>(ende))});
     }
     sendeende_ += Dauer(zeichen.size());
 }

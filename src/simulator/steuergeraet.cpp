@@ -108,6 +108,7 @@ Bytes Steuergeraet::Bearbeite(Anfrage anfrage, Zeit jetzt) {
         return {};
     }
     jetzt_ = jetzt;
+    const bool mitAntwort = WirdBeantwortet(anfrage); // a restart may change the address
     ++zaehlwerk_.anfragen[anfrage[1]];
     Bytes antwort{static_cast<std::uint8_t>(adresse_), anfrage[1]};
     const Ablehnung ablehnung = FuehreAus(anfrage, antwort);
@@ -120,7 +121,7 @@ Bytes Steuergeraet::Bearbeite(Anfrage anfrage, Zeit jetzt) {
                    std::to_string(antwort[2]);
         });
     }
-    if (!WirdBeantwortet(anfrage))
+    if (!mitAntwort)
         return {};
     HaengeCrcAn(antwort);
     return antwort;

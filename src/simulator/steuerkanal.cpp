@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <stdexcept>
 
 namespace varnoth::simulator {
@@ -31,6 +32,9 @@ Dateideskriptor NeuerSocket() {
 
 /// Removes a socket that an earlier run has left behind and nobody serves.
 void RaeumeAuf(const sockaddr_un& adresse) {
+    std::error_code fehler;
+    if (!std::filesystem::is_socket(adresse.sun_path, fehler))
+        return;
     const Dateideskriptor probe = NeuerSocket();
     const auto* ziel = reinterpret_cast<const sockaddr*>(&adresse);
     if (::connect(probe.Nummer(), ziel, sizeof adresse) != 0 && errno == ECONNREFUSED)

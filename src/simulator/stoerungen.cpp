@@ -3,6 +3,7 @@
 #include "zahltext.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -52,7 +53,7 @@ void Zerteile(Sendung& sendung, int pause) {
     sendung.clear();
     for (std::size_t i = 0; i < StueckZahl; ++i) {
         const auto grenze = [&ganz](std::size_t k) {
-            return ganz.begin() + static_cast<long>(ganz.size() * k / StueckZahl);
+            return ganz.begin() + static_cast<std::ptrdiff_t>(ganz.size() * k / StueckZahl);
         };
         sendung.push_back({std::chrono::milliseconds{i == 0 ? 0 : pause}, Bytes(grenze(i), grenze(i + 1))});
     }

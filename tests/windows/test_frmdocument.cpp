@@ -266,6 +266,13 @@ TEST_F(FrmDocument, Captions_carry_their_texts) {
     EXPECT_EQ(Text("lblBlankingStrahlenMax"), "ZB");
 }
 
+TEST_F(FrmDocument, A_screen_reader_hears_what_a_number_means) {
+    EXPECT_EQ(Feld("lblInhaltZNU").accessibleName(), "ZNU");
+    EXPECT_EQ(Feld("lblInhaltBlankingStrahlenMax").accessibleName(), "Anzahl der geblankten Strahlen");
+    sicht->setWindowTitle("2. Optikteil online");
+    EXPECT_EQ(Balken().accessibleName(), "2. Optikteil online");
+}
+
 TEST_F(FrmDocument, A_hidden_view_shows_no_live_data) {
     EXPECT_FALSE(sicht->ZeigtLiveDaten());
     Zeige();

@@ -1,0 +1,152 @@
+#include "dateideskriptor.h"
+#include "simulatorprobe.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace varnoth::simulator {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int Frist = 5000; // milliseconds
+
+/// Reads until so many bytes are there, the line is hung up, or the time is over.
+std::string LiesVon(int nummer, std::size_t anzahl) {
+    std::string gelesen;
+    for (pollfd eines{nummer, POLLIN, 0}; gelesen.size() < anzahl && ::poll(&eines, 1, Frist) > 0;) {
+        char puffer[512];
+        const ssize_t stueck = ::read(nummer, puffer, std::min(sizeof puffer, anzahl - gelesen.size()));
+        if (stueck <= 0)
+            break;
+        gelesen.append(puffer, static_cast<std::size_t>(stueck));
+    }
+    return gelesen;
+}
+
+std::string LiesZeileVon(int nummer) {
+    std::string zeile;
+    while (!zeile.ends_with('\n')) {
+        const std::string zeichen = LiesVon(nummer, 1);
+        if (zeichen.empty())
+            break;
+        zeile += zeichen;
+    }
+    return zeile;
+}
+
+/// The program, started in a folder of its own and ended with the test.
+class Simulatorprogramm : public testing::Test {
+protected:
+    Simulatorprogramm() {
+        fs::remove_all(ordner);
+        fs::create_directory(ordner);
+        Starte();
+        ersteZeile = LiesZeileVon(ausgabe.Nummer());
+    }
+    ~Simulatorprogramm() override {
+        if (kind > 0)
+            ::kill(kind, SIGKILL);
+        Warte();
+        fs::remove_all(ordner);
+    }
+
+    void Starte() {
+        int rohr[2];
+        ASSERT_EQ(::pipe2(rohr, O_CLOEXEC), 0);
+        ausgabe = Dateideskriptor(rohr[0]);
+        const Dateideskriptor ende(rohr[1]);
+        kind = ::fork();
+        if (kind == 0) {
+            ::dup2(ende.Nummer(), STDOUT_FILENO);
+            ::execl(SIMULATORPROGRAMM, SIMULATORPROGRAMM, "--link", link.c_str(), "--control", kanal.c_str(),
+                    "--unpaced", "--exit-with-parent", nullptr);
+            ::_exit(127);
+        }
+    }
+
+    int Warte() {
+        int stand = -1;
+        if (kind > 0)
+            ::waitpid(std::exchange(kind, -1), &stand, 0);
+        return stand;
+    }
+
+    Dateideskriptor OeffneLeitung() const { return Dateideskriptor(::open(link.c_str(), O_RDWR | O_NOCTTY)); }
+
+    static Bytes Frage(int leitung, const Bytes& anfrage, std::size_t erwartet) {
+        EXPECT_EQ(::write(leitung, anfrage.data(), anfrage.size()), static_cast<ssize_t>(anfrage.size()));
+        const std::string antwort = LiesVon(leitung, erwartet);
+        return {antwort.begin(), antwort.end()};
+    }
+
+    std::string Befehl(const std::string& zeile) const {
+        const Dateideskriptor leitung(::socket(AF_UNIX, SOCK_STREAM, 0));
+        sockaddr_un adresse{};
+        adresse.sun_family = AF_UNIX;
+        std::ranges::copy(kanal, adresse.sun_path);
+        if (::connect(leitung.Nummer(), reinterpret_cast<const sockaddr*>(&adresse), sizeof adresse) != 0)
+            return "no connection";
+        const std::string text = zeile + '\n';
+        EXPECT_EQ(::send(leitung.Nummer(), text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
+        return LiesZeileVon(leitung.Nummer());
+    }
+
+    const fs::path ordner = fs::path(testing::TempDir()) / ("simulator-" + std::to_string(::getpid()));
+    const std::string link = (ordner / "line").string();
+    const std::string kanal = (ordner / "control").string();
+    Dateideskriptor ausgabe{};
+    std::string ersteZeile{};
+    pid_t kind = -1;
+};
+
+} // namespace
+
+TEST_F(Simulatorprogramm, Says_first_what_it_serves) {
+    EXPECT_EQ(ersteZeile, "serving " + fs::read_symlink(link).string() + " as " + link + "\n");
+}
+
+TEST_F(Simulatorprogramm, Answers_over_the_terminal_to_one_client_after_the_other) {
+    for (int gast = 0; gast < 2; ++gast) {
+        const Dateideskriptor leitung = OeffneLeitung();
+        const Bytes kennung = Frage(leitung.Nummer(), Kennungsanfrage(), 45);
+        ASSERT_EQ(kennung.size(), 45U);
+        EXPECT_EQ(Crc(kennung), 0);
+        EXPECT_EQ(Frage(leitung.Nummer(), Leseanfrage(0, 1), 7), MitCrc({1, 3, 2, 0, 50}));
+    }
+}
+
+TEST_F(Simulatorprogramm, Takes_commands_at_its_control_channel) {
+    EXPECT_EQ(Befehl("get global 0"), "ok 50\n");
+    EXPECT_TRUE(Befehl("bogus").starts_with("error "));
+}
+
+TEST_F(Simulatorprogramm, Hangs_the_client_up_when_unplugged_and_serves_again_when_plugged_in) {
+    {
+        const Dateideskriptor leitung = OeffneLeitung();
+        EXPECT_EQ(Befehl("unplug"), "ok\n");
+        EXPECT_EQ(LiesVon(leitung.Nummer(), 1), "");
+        EXPECT_FALSE(fs::exists(fs::symlink_status(link)));
+    }
+    const std::string antwort = Befehl("plug");
+    EXPECT_EQ(antwort, "ok " + fs::read_symlink(link).string() + "\n");
+    const Dateideskriptor leitung = OeffneLeitung();
+    EXPECT_EQ(Frage(leitung.Nummer(), Leseanfrage(0, 1), 7), MitCrc({1, 3, 2, 0, 50}));
+}
+
+TEST_F(Simulatorprogramm, Cleans_up_when_it_is_asked_to_end) {
+    ::kill(kind, SIGTERM);
+    EXPECT_EQ(Warte(), 0);
+    EXPECT_TRUE(fs::is_empty(ordner));
+}
+
+} // namespace varnoth::simulator

@@ -1,0 +1,138 @@
+#include "simulatorprobe.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace varnoth::simulator {
+
+namespace {
+
+const Bytes Richtig = MitCrc({1, 3, 2, 0, 50});
+
+Bytes Gestoert(const std::string& stoerung) {
+    Probe probe;
+    EXPECT_EQ(probe.Befehl("fault " + stoerung), "ok");
+    return probe.Frage(Leseanfrage(0, 1));
+}
+
+} // namespace
+
+TEST(Stoerung, Changes_the_reply_as_its_name_says) {
+    Bytes falscheCrc = Richtig;
+    falscheCrc.back() ^= 0xFF;
+    Bytes gekippt = Richtig;
+    gekippt[4] ^= 0x02;
+    const std::pair<std::string, Bytes> faelle[] = {
+        {"silence", {}},
+        {"crc", falscheCrc},
+        {"address", MitCrc({2, 3, 2, 0, 50})},
+        {"exception", Ausnahme(3, 4)},
+        {"exception=6", Ausnahme(3, 6)},
+        {"stray=2", {0x55, 0x55, 1, 3, 2, 0, 50, Richtig[5], Richtig[6]}},
+        {"pieces", Richtig},
+        {"surplus=2", {1, 3, 2, 0, 50, Richtig[5], Richtig[6], 0x55, 0x55}},
+        {"late", Richtig},
+        {"flip=33", gekippt},
+    };
+    for (const auto& [stoerung, antwort] : faelle)
+        EXPECT_EQ(Gestoert(stoerung), antwort) << stoerung;
+}
+
+TEST(Stoerung, Pieces_come_with_gaps) {
+    Simulator simulator(OhneTakt());
+    simulator.Befehl("fault pieces=40", Zeit{0});
+    simulator.Empfange(Leseanfrage(0, 1), Zeit{0});
+    std::vector<std::pair<Zeit, std::size_t>> stuecke;
+    while (const auto faellig = simulator.NaechsteFaelligkeit())
+        stuecke.emplace_back(*faellig, simulator.Entnimm(*faellig).size());
+    EXPECT_EQ(stuecke,
+              (std::vector<std::pair<Zeit, std::size_t>>{{Zeit{0}, 2}, {Zeit{40000}, 2}, {Zeit{80000}, 3}}));
+}
+
+TEST(Stoerung, Late_comes_after_its_time) {
+    Simulator simulator(OhneTakt());
+    simulator.Befehl("fault late=1200", Zeit{0});
+    simulator.Empfange(Leseanfrage(0, 1), Zeit{0});
+    EXPECT_EQ(simulator.NaechsteFaelligkeit(), std::chrono::milliseconds{1200});
+}
+
+TEST(Stoerung, Ends_after_its_count) {
+    Probe probe;
+    probe.Befehl("fault silence:2");
+    EXPECT_TRUE(probe.Lies(0, 1).empty());
+    EXPECT_TRUE(probe.Lies(0, 1).empty());
+    EXPECT_FALSE(probe.Lies(0, 1).empty());
+}
+
+TEST(Stoerung, Without_a_count_lasts_until_it_is_taken_back) {
+    Probe probe;
+    probe.Befehl("fault silence");
+    for (int i = 0; i < 20; ++i)
+        EXPECT_TRUE(probe.Lies(0, 1).empty());
+    probe.Befehl("fault none");
+    EXPECT_FALSE(probe.Lies(0, 1).empty());
+}
+
+TEST(Stoerung, For_one_function_spares_the_others) {
+    Probe probe;
+    probe.Befehl("fault silence:1@0x10");
+    EXPECT_FALSE(probe.Lies(0, 1).empty());
+    EXPECT_FALSE(probe.Schreibe(0x200D, {10}));
+    EXPECT_TRUE(probe.Schreibe(0x200D, {10}));
+}
+
+TEST(Stoerung, Silence_loses_the_reply_only) {
+    Probe probe;
+    probe.Befehl("fault silence:1");
+    probe.Schreibe(0x200D, {10});
+    EXPECT_EQ(probe.Lies(0x200D, 1), std::vector<int>{10});
+}
+
+TEST(Stoerung, An_exception_refuses_the_request) {
+    Probe probe;
+    probe.Befehl("fault exception:1");
+    probe.Schreibe(0x200D, {10});
+    EXPECT_EQ(probe.Lies(0x200D, 1), std::vector<int>{5});
+}
+
+TEST(Stoerung, Several_follow_one_another) {
+    Probe probe;
+    probe.Befehl("fault silence:1");
+    probe.Befehl("fault exception:1");
+    EXPECT_TRUE(probe.Frage(Leseanfrage(0, 1)).empty());
+    EXPECT_EQ(probe.Frage(Leseanfrage(0, 1)), Ausnahme(3, 4));
+    EXPECT_EQ(probe.Frage(Leseanfrage(0, 1)), Richtig);
+}
+
+TEST(Stoerung, Is_not_used_up_by_requests_without_a_reply) {
+    Probe probe;
+    probe.Befehl("fault silence:1");
+    probe.Frage(Leseanfrage(0, 1, 2));
+    probe.Frage(MitCrc({1, 0x09}));
+    probe.Frage(Schreibanfrage(212, {0}, 0));
+    EXPECT_TRUE(probe.Frage(Leseanfrage(0, 1)).empty());
+}
+
+TEST(Stoerung, Holds_from_the_start_when_the_bench_says_so) {
+    Aufbau aufbau = OhneTakt();
+    aufbau.stoerungen.push_back(LiesStoerung("silence:1"));
+    Probe probe(aufbau);
+    EXPECT_TRUE(probe.Frage(Kennungsanfrage()).empty());
+    EXPECT_FALSE(probe.Frage(Kennungsanfrage()).empty());
+}
+
+TEST(Stoerung, Is_noted_in_the_log) {
+    Probe probe;
+    probe.Befehl("fault crc:1");
+    probe.Lies(0, 1);
+    EXPECT_EQ(probe.protokoll, (std::vector<std::string>{"read global 0 = 50", "fault crc at function 3"}));
+}
+
+TEST(Stoerung, Written_wrongly_is_refused) {
+    for (const char* text :
+         {"", "bogus", "late=x", "late=-1", "late=60001", "crc:0", "crc@0", "crc=1", "crc:", "late=1500:3@x"})
+        EXPECT_THROW(LiesStoerung(text), std::invalid_argument) << text;
+}
+
+} // namespace varnoth::simulator
