@@ -12,11 +12,11 @@
 
 class QLabel;
 
+namespace varnoth {
+
 namespace Ui {
 class frmDocument;
 }
-
-namespace varnoth {
 
 /// Shows one optical part live: its beams, its measured values, its status. It lives in a frame of the main
 /// window's area as long as the main window; closing hides it.

@@ -1,10 +1,9 @@
 #include "frmInfo.h"
 
 #include "lokalisiereform.h"
+#include "symbole.h"
 #include "ui_frmInfo.h"
 #include "versionstext.h"
-
-#include <QIcon>
 
 namespace varnoth {
 
@@ -13,7 +12,7 @@ frmInfo::frmInfo(QWidget* besitzer) : QDialog(besitzer), ui(std::make_unique<Ui:
     LokalisiereForm(*this);
     ui->Label1->setText(Produktzeile());
     ui->Label2->setText(Eigentuemerzeile());
-    ui->Image1->setPixmap(QIcon(QStringLiteral(":/symbole/varnoth.svg")).pixmap(QSize(72, 72)));
+    ui->Image1->setPixmap(Programmsymbol().pixmap(QSize(72, 72)));
     connect(ui->Command1, &QPushButton::clicked, this, &QDialog::accept);
 }
 

@@ -4,11 +4,11 @@
 
 #include <memory>
 
+namespace varnoth {
+
 namespace Ui {
 class frmInfo;
 }
-
-namespace varnoth {
 
 /// The about box: name, version and owner.
 class frmInfo : public QDialog {

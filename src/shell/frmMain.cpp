@@ -10,6 +10,7 @@
 #include "registeradressen.h"
 #include "schnittstelle.h"
 #include "standardkonfiguration.h"
+#include "symbole.h"
 #include "texte.h"
 #include "trace.h"
 #include "ui_frmMain.h"
@@ -17,7 +18,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
-#include <QIcon>
 #include <QLabel>
 #include <QMdiSubWindow>
 
@@ -47,7 +47,7 @@ struct frmMain::Menuezeile {
 
 frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>()) {
     ui->setupUi(this);
-    setWindowIcon(QIcon(QStringLiteral(":/symbole/varnoth.svg")));
+    QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));
     RichteStatusleisteEin();
     LokalisiereForm(*this);

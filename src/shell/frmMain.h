@@ -15,11 +15,11 @@
 class QLabel;
 class QMdiSubWindow;
 
+namespace varnoth {
+
 namespace Ui {
 class frmMain;
 }
-
-namespace varnoth {
 
 class frmDocument;
 

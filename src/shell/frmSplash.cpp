@@ -1,11 +1,11 @@
 #include "frmSplash.h"
 
 #include "lokalisiereform.h"
+#include "symbole.h"
 #include "ui_frmSplash.h"
 #include "versionstext.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <QPixmap>
 #include <QScreen>
 
@@ -16,7 +16,7 @@ frmSplash::frmSplash() : QWidget(nullptr, Qt::SplashScreen), ui(std::make_unique
     LokalisiereForm(*this);
     ui->lblProduktText->setText(Produktzeile());
     ui->lblEigentuemerText->setText(Eigentuemerzeile());
-    ui->Image1->setPixmap(QIcon(QStringLiteral(":/symbole/varnoth.svg")).pixmap(QSize(72, 72)));
+    ui->Image1->setPixmap(Programmsymbol().pixmap(QSize(72, 72)));
     adjustSize();
     const QRect schirm = QGuiApplication::primaryScreen()->geometry();
     move(schirm.left() + (schirm.width() - width()) / 2, schirm.top() + (schirm.height() - height()) / 2);

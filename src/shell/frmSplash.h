@@ -4,11 +4,11 @@
 
 #include <memory>
 
+namespace varnoth {
+
 namespace Ui {
 class frmSplash;
 }
-
-namespace varnoth {
 
 /// The window that shows name and version while the program starts, in the middle of the screen.
 class frmSplash : public QWidget {

@@ -22,7 +22,6 @@ namespace varnoth::pruefung {
 class DialogTest : public testing::Test {
 protected:
     DialogTest() {
-        ErwarteWarnung("propagateSizeHints");
         CrcTabelleAufbauen();
         SetzeSprachoffset(Deutsch);
         modDaten::Zuruecksetzen();

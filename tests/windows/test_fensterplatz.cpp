@@ -15,7 +15,6 @@ namespace {
 class FensterplatzTest : public testing::Test {
 protected:
     void SetUp() override {
-        pruefung::ErwarteWarnung("propagateSizeHints");
         bereich = new QMdiArea;
         haupt.setCentralWidget(bereich);
         haupt.resize(790, 590);

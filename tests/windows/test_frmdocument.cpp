@@ -27,7 +27,6 @@ constexpr std::int16_t Blankingregister = 32;
 class FrmDocument : public testing::Test {
 protected:
     FrmDocument() {
-        pruefung::ErwarteWarnung("propagateSizeHints");
         modDaten::Zuruecksetzen();
         Setze(spezifisch::Strahlenzahl, 20);
         Setze(spezifisch::Aufloesung, 20);

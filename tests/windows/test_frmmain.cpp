@@ -18,8 +18,9 @@
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace varnoth {
@@ -83,7 +84,7 @@ protected:
     }
     QString Titel(int teil) { return Fenster().Fenster(teil).windowTitle(); }
     QLabel& Statusfeld(int nummer) {
-        return *Fenster().findChild<QLabel*>(QStringLiteral("sbStatusBar_%1").arg(nummer));
+        return *Fenster().statusBar()->findChild<QLabel*>(QStringLiteral("sbStatusBar_%1").arg(nummer));
     }
 
     pruefung::PruefUmgebung umgebung;
@@ -104,8 +105,8 @@ TEST_F(FrmMainTest, Every_menu_item_stands_in_its_place) {
         {"mnuMessdaten", {"mnuMessdatenAufzeichnen", ""}},
         {"mnuMessdatenVisualisieren", {"mnuMessdatenVisualisierenStart", "mnuMessdatenVisualisierenStop"}},
         {"mnuExtras",
-         {"mnuEinzelwerteLesenSchreiben", "mnuSimulation", "mnuInitHardware", "mnuResetHardware", "mnuFlasher",
-          "mnuAutosendStarten"}},
+         {"mnuEinzelwerteLesenSchreiben", "mnuSimulation", "mnuInitHardware", "mnuResetHardware",
+          "mnuFlasher", "mnuAutosendStarten"}},
         {"mnuOption", {"", "mnuOptionFarben", "", "mnuUebertragenerWert"}},
         {"mnuOptionSprache", {"mnuDeutsch", "mnuEnglisch"}},
         {"mnuOptionKommunikation", {"mnuCom_1", "mnuCom_2", "mnuCom_3", "mnuCom_4"}},
