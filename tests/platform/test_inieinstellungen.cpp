@@ -1,0 +1,116 @@
+#include "inieinstellungen.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+class IniEinstellungenTest : public testing::Test {
+protected:
+    QString Pfad() const { return ordner.filePath(QStringLiteral("varnoth.ini")); }
+    void Schreibe(const QByteArray& inhalt) const {
+        QFile datei(Pfad());
+        ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+        datei.write(inhalt);
+    }
+    QByteArray Inhalt(const QString& pfad) const {
+        QFile datei(pfad);
+        return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("missing");
+    }
+
+    QTemporaryDir ordner;
+};
+
+TEST_F(IniEinstellungenTest, A_missing_file_gives_the_defaults) {
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 0);
+    EXPECT_EQ(einstellungen.LiesText("Settings", "ComSettings", "38400,n,8,2"), "38400,n,8,2");
+}
+
+TEST_F(IniEinstellungenTest, Values_are_read_unquoted_and_with_commas) {
+    Schreibe("[Settings]\r\nSprache=10000\r\nComSettings=9600,e,8,1\r\n");
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 10000);
+    EXPECT_EQ(einstellungen.LiesText("Settings", "ComSettings", ""), "9600,e,8,1");
+}
+
+TEST_F(IniEinstellungenTest, Sections_and_keys_are_found_in_any_case) {
+    Schreibe("[settings]\ncomport=3\n");
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "ComPort", 1), 3);
+}
+
+TEST_F(IniEinstellungenTest, A_text_that_is_no_number_gives_the_number_it_begins_with) {
+    Schreibe("[S]\na=12abc\nb=abc\nc=-7\nd=99999999999999\ne=\n");
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("S", "a", 5), 12);
+    EXPECT_EQ(einstellungen.LiesZahl("S", "b", 5), 0);
+    EXPECT_EQ(einstellungen.LiesZahl("S", "c", 5), -7);
+    EXPECT_EQ(einstellungen.LiesZahl("S", "d", 5), 2147483647);
+    EXPECT_EQ(einstellungen.LiesZahl("S", "e", 5), 0);
+}
+
+TEST_F(IniEinstellungenTest, A_change_keeps_comments_order_and_the_values_of_others) {
+    Schreibe(
+        "; my machine\n[Zeta]\nb=2\na=1\n\n[Settings]\n; the line\nComSettings=38400,n,8,2\nSprache=0\n");
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
+    const QByteArray inhalt = Inhalt(Pfad());
+    EXPECT_TRUE(inhalt.contains("; my machine"));
+    EXPECT_TRUE(inhalt.contains("; the line"));
+    EXPECT_TRUE(inhalt.contains("ComSettings=38400,n,8,2"));
+    EXPECT_TRUE(inhalt.contains("Sprache=10000"));
+    EXPECT_LT(inhalt.indexOf("[Zeta]"), inhalt.indexOf("[Settings]"));
+    EXPECT_LT(inhalt.indexOf("b=2"), inhalt.indexOf("a=1"));
+}
+
+TEST_F(IniEinstellungenTest, A_change_lasts_over_a_restart) {
+    { IniEinstellungen(Pfad()).SchreibText("frmMain", "mnuSpeichernUnter", "/tmp/ä b.con"); }
+    EXPECT_EQ(IniEinstellungen(Pfad()).LiesText("frmMain", "mnuSpeichernUnter", ""), "/tmp/ä b.con");
+}
+
+TEST_F(IniEinstellungenTest, An_unchanged_value_does_not_touch_the_file) {
+    const QByteArray eigenwillig = "[Settings]\nSprache = 0\n\n\n; end";
+    Schreibe(eigenwillig);
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "Sprache", "0"));
+    EXPECT_EQ(Inhalt(Pfad()), eigenwillig);
+}
+
+TEST_F(IniEinstellungenTest, A_broken_file_gives_defaults_and_is_set_aside_not_lost) {
+    const QByteArray kaputt("[Settings\0\nSprache=10000\n", 25);
+    Schreibe(kaputt);
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 0);
+    EXPECT_EQ(Inhalt(Pfad()), kaputt);
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "ComPort", "2"));
+    EXPECT_EQ(Inhalt(Pfad() + ".defekt"), kaputt);
+    EXPECT_EQ(IniEinstellungen(Pfad()).LiesZahl("Settings", "ComPort", 1), 2);
+}
+
+TEST_F(IniEinstellungenTest, A_file_of_ten_megabytes_gives_defaults) {
+    Schreibe("[Settings]\nSprache=10000\n" + QByteArray(10 << 20, 'x'));
+    EXPECT_EQ(IniEinstellungen(Pfad()).LiesZahl("Settings", "Sprache", 0), 0);
+}
+
+TEST_F(IniEinstellungenTest, A_file_that_cannot_be_written_is_reported_and_the_value_lasts_for_this_run) {
+    IniEinstellungen einstellungen(ordner.filePath(QStringLiteral("missing/varnoth.ini")));
+    EXPECT_FALSE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 10000);
+}
+
+TEST_F(IniEinstellungenTest, The_file_lies_beside_the_program_where_that_can_be_written) {
+    EXPECT_EQ(Einstellungspfad(ordner.path(), QStringLiteral("varnoth")), Pfad());
+}
+
+TEST_F(IniEinstellungenTest, The_file_of_an_installed_program_lies_in_the_users_configuration_folder) {
+    qputenv("XDG_CONFIG_HOME", ordner.filePath(QStringLiteral("config")).toUtf8());
+    EXPECT_EQ(Einstellungspfad(ordner.filePath(QStringLiteral("not-there")), QStringLiteral("varnoth")),
+              ordner.filePath(QStringLiteral("config/varnoth.ini")));
+    EXPECT_TRUE(QDir(ordner.filePath(QStringLiteral("config"))).exists());
+    qunsetenv("XDG_CONFIG_HOME");
+}
+
+} // namespace varnoth

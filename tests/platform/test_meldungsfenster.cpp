@@ -1,0 +1,78 @@
+#include "meldungsfenster.h"
+
+#include "fenstertest.h"
+#include "qttexte.h"
+#include "texte.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace varnoth {
+
+namespace {
+
+Antwort Beantworte(const Meldung& meldung, const std::function<void(QMessageBox&)>& tat) {
+    QTimer::singleShot(0, qApp, [tat] {
+        if (auto* fenster = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            tat(*fenster);
+    });
+    return ZeigeMeldungsfenster(meldung);
+}
+
+void Druecke(QMessageBox& fenster, QMessageBox::StandardButton knopf) {
+    fenster.button(knopf)->click();
+}
+
+} // namespace
+
+TEST(Meldungsfenster, Shows_text_title_and_sign) {
+    Beantworte({.text = "Zeile 1\nZeile 2", .titel = "Achtung"}, [](QMessageBox& fenster) {
+        EXPECT_EQ(fenster.text(), "Zeile 1\nZeile 2");
+        EXPECT_EQ(fenster.windowTitle(), "Achtung");
+        EXPECT_EQ(fenster.icon(), QMessageBox::Warning);
+        fenster.accept();
+    });
+}
+
+TEST(Meldungsfenster, Without_a_title_it_bears_the_programs_title) {
+    Beantworte({.text = "x"}, [](QMessageBox& fenster) {
+        EXPECT_EQ(fenster.windowTitle(), "Varnoth Monitor");
+        fenster.accept();
+    });
+}
+
+TEST(Meldungsfenster, Each_button_gives_its_answer) {
+    const Meldung frage{.text = "?", .knoepfe = Knoepfe::JaNeinAbbrechen};
+    const std::pair<QMessageBox::StandardButton, Antwort> faelle[] = {
+        {QMessageBox::Yes, Antwort::Ja},
+        {QMessageBox::No, Antwort::Nein},
+        {QMessageBox::Cancel, Antwort::Abbrechen}};
+    for (const auto& [knopf, antwort] : faelle)
+        EXPECT_EQ(Beantworte(frage, [k = knopf](QMessageBox& fenster) { Druecke(fenster, k); }), antwort);
+}
+
+TEST(Meldungsfenster, Closing_a_question_is_a_cancel_and_closing_a_notice_is_an_OK) {
+    const auto schliesse = [](QMessageBox& fenster) { fenster.close(); };
+    EXPECT_EQ(Beantworte({.text = "?", .knoepfe = Knoepfe::OkAbbrechen}, schliesse), Antwort::Abbrechen);
+    EXPECT_EQ(Beantworte({.text = "!"}, schliesse), Antwort::Ok);
+}
+
+TEST(Meldungsfenster, Its_buttons_are_in_the_chosen_language) {
+    LadeQtTexte(Deutsch);
+    Beantworte({.text = "?", .knoepfe = Knoepfe::OkAbbrechen}, [](QMessageBox& fenster) {
+        EXPECT_EQ(fenster.button(QMessageBox::Cancel)->text().remove('&'), "Abbrechen");
+        fenster.reject();
+    });
+    LadeQtTexte(Englisch);
+    Beantworte({.text = "?", .knoepfe = Knoepfe::OkAbbrechen}, [](QMessageBox& fenster) {
+        EXPECT_EQ(fenster.button(QMessageBox::Cancel)->text().remove('&'), "Cancel");
+        fenster.reject();
+    });
+}
+
+} // namespace varnoth

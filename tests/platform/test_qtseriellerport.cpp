@@ -1,0 +1,190 @@
+#include "qtseriellerport.h"
+
+#include "fenstertest.h"
+#include "geraetepfade.h"
+#include "pruefumgebung.h"
+#include "qtumgebung.h"
+
+#include <gtest/gtest.h>
+
+#include <pty.h>
+#include <sys/resource.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace varnoth {
+
+using namespace std::chrono_literals;
+using pruefung::WarteBis;
+
+namespace {
+
+constexpr const char* Standard = "38400,n,8,2";
+
+double Prozessorsekunden() {
+    rusage verbrauch{};
+    getrusage(RUSAGE_SELF, &verbrauch);
+    const auto sekunden = [](const timeval& zeit) {
+        return static_cast<double>(zeit.tv_sec) + static_cast<double>(zeit.tv_usec) / 1e6;
+    };
+    return sekunden(verbrauch.ru_utime) + sekunden(verbrauch.ru_stime);
+}
+
+} // namespace
+
+/// A port over a pseudo terminal whose far end the test holds.
+class QtSeriellerPortTest : public testing::Test {
+protected:
+    QtSeriellerPortTest() {
+        char name[128];
+        EXPECT_EQ(openpty(&fernesEnde, &nahesEnde, name, nullptr, nullptr), 0);
+        termios roh{};
+        tcgetattr(nahesEnde, &roh);
+        cfmakeraw(&roh);
+        tcsetattr(nahesEnde, TCSANOW, &roh);
+        SetzeGeraetepfad(name);
+    }
+    ~QtSeriellerPortTest() override {
+        port.Schliesse();
+        ZieheAb();
+        SetzeGeraetepfad({});
+    }
+
+    void Sende(const std::string& bytes) const {
+        EXPECT_EQ(write(fernesEnde, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+    }
+    std::string Empfange(std::size_t anzahl) const {
+        std::string bytes(anzahl, '\0');
+        EXPECT_EQ(read(fernesEnde, bytes.data(), anzahl), static_cast<ssize_t>(anzahl));
+        return bytes;
+    }
+    /// Pulls the plug.
+    void ZieheAb() {
+        for (int* ende : {&nahesEnde, &fernesEnde})
+            if (*ende >= 0) {
+                close(*ende);
+                *ende = -1;
+            }
+    }
+
+    QtUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
+    QtSeriellerPort port;
+    int fernesEnde = -1;
+    int nahesEnde = -1;
+};
+
+TEST_F(QtSeriellerPortTest, Opens_a_pseudo_terminal_although_it_has_no_modem_lines) {
+    EXPECT_TRUE(port.Oeffne(1, Standard));
+    EXPECT_TRUE(port.IstOffen());
+    EXPECT_EQ(port.Fehlertext(), "");
+}
+
+TEST_F(QtSeriellerPortTest, Bytes_go_out_whole_and_at_once) {
+    port.Oeffne(1, Standard);
+    const std::string bytes("\x00\x11\xC1\xBC\n\r\xFF", 7);
+    port.Schreibe(bytes);
+    EXPECT_EQ(Empfange(bytes.size()), bytes);
+}
+
+TEST_F(QtSeriellerPortTest, Bytes_come_in_as_they_are) {
+    port.Oeffne(1, Standard);
+    const std::string bytes("\x00\x03\x11\x13\n\r\xFF", 7);
+    Sende(bytes);
+    EXPECT_TRUE(WarteBis([&] { return port.BytesWartend() == bytes.size(); }));
+    EXPECT_EQ(port.LiesAlles(), bytes);
+    EXPECT_EQ(port.BytesWartend(), 0U);
+}
+
+TEST_F(QtSeriellerPortTest, A_wait_ends_when_bytes_arrive) {
+    port.Oeffne(1, Standard);
+    Sende("x");
+    const Zeit beginn = umgebung.Uhr();
+    while (port.BytesWartend() == 0 && umgebung.Uhr() - beginn < 10s)
+        port.WarteAufEingang(10s);
+    EXPECT_LT(umgebung.Uhr() - beginn, 5s);
+}
+
+TEST_F(QtSeriellerPortTest, Discarding_leaves_nothing_to_read) {
+    port.Oeffne(1, Standard);
+    Sende("old");
+    EXPECT_TRUE(WarteBis([&] { return port.BytesWartend() == 3; }));
+    port.Verwirf();
+    EXPECT_EQ(port.BytesWartend(), 0U);
+    EXPECT_EQ(port.LiesAlles(), "");
+}
+
+TEST_F(QtSeriellerPortTest, Settings_that_cannot_be_understood_keep_the_port_closed) {
+    for (const char* text : {"abc", "38400,x,9,7", ""}) {
+        EXPECT_FALSE(port.Oeffne(1, text)) << text;
+        EXPECT_FALSE(port.IstOffen());
+        EXPECT_NE(port.Fehlertext(), "");
+    }
+}
+
+TEST_F(QtSeriellerPortTest, A_device_that_does_not_exist_keeps_the_port_closed_and_says_why) {
+    SetzeGeraetepfad("/dev/there-is-no-such-line");
+    EXPECT_FALSE(port.Oeffne(1, Standard));
+    EXPECT_NE(port.Fehlertext(), "");
+}
+
+TEST_F(QtSeriellerPortTest, A_port_number_without_a_device_keeps_the_port_closed) {
+    SetzeGeraetepfad({});
+    EXPECT_FALSE(port.Oeffne(7, Standard));
+}
+
+TEST_F(QtSeriellerPortTest, A_line_that_disappears_closes_the_port) {
+    port.Oeffne(1, Standard);
+    ZieheAb();
+    EXPECT_TRUE(WarteBis([&] { return !port.IstOffen(); }));
+    port.Schreibe("x");
+    EXPECT_EQ(port.BytesWartend(), 0U);
+    EXPECT_EQ(port.LiesAlles(), "");
+}
+
+TEST_F(QtSeriellerPortTest, A_line_that_disappears_is_noticed_without_serving_an_event) {
+    port.Oeffne(1, Standard);
+    ZieheAb();
+    EXPECT_FALSE(port.IstOffen());
+}
+
+TEST_F(QtSeriellerPortTest, Waiting_on_a_line_that_disappeared_costs_next_to_no_processor_time) {
+    port.Oeffne(1, Standard);
+    ZieheAb();
+    const double vorher = Prozessorsekunden();
+    const Zeit ende = umgebung.Uhr() + 500ms;
+    while (umgebung.Uhr() < ende)
+        port.WarteAufEingang(ende - umgebung.Uhr());
+    EXPECT_LT(Prozessorsekunden() - vorher, 0.1);
+}
+
+TEST_F(QtSeriellerPortTest, A_port_can_be_opened_again_after_its_line_came_back) {
+    port.Oeffne(1, Standard);
+    ZieheAb();
+    EXPECT_FALSE(port.IstOffen());
+    char name[128];
+    ASSERT_EQ(openpty(&fernesEnde, &nahesEnde, name, nullptr, nullptr), 0);
+    SetzeGeraetepfad(name);
+    EXPECT_TRUE(port.Oeffne(1, Standard));
+}
+
+TEST_F(QtSeriellerPortTest, A_full_input_buffer_is_reported_as_an_overflow) {
+    int gemeldet = 0;
+    port.SetzeEreignisbehandlung([&](int ereignis) {
+        gemeldet = ereignis;
+        port.Verwirf();
+    });
+    port.Oeffne(1, Standard);
+    std::size_t gesendet = 0;
+    const std::string stueck(1024, 'x');
+    EXPECT_TRUE(WarteBis([&] {
+        if (gesendet < 2 * Eingabepuffergroesse) {
+            Sende(stueck);
+            gesendet += stueck.size();
+        }
+        return gemeldet != 0;
+    }));
+    EXPECT_EQ(gemeldet, EreignisEmpfangspufferUeberlauf);
+}
+
+} // namespace varnoth

@@ -1,0 +1,59 @@
+#include "qtumgebung.h"
+
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+using namespace std::chrono_literals;
+
+class QtUmgebungTest : public testing::Test {
+protected:
+    QtUmgebung umgebung;
+};
+
+TEST_F(QtUmgebungTest, A_wait_without_events_lasts_its_time) {
+    for (const Zeit dauer : {1500us, 20000us}) {
+        const Zeit ende = umgebung.Uhr() + dauer;
+        while (umgebung.Uhr() < ende)
+            umgebung.WarteAufEreignis(ende - umgebung.Uhr());
+        EXPECT_LT(umgebung.Uhr() - ende, 500ms) << dauer.count();
+    }
+}
+
+TEST_F(QtUmgebungTest, A_wait_ends_with_the_first_event) {
+    bool bedient = false;
+    QTimer::singleShot(5, [&bedient] { bedient = true; });
+    const Zeit beginn = umgebung.Uhr();
+    while (!bedient && umgebung.Uhr() - beginn < 10s)
+        umgebung.WarteAufEreignis(10s);
+    EXPECT_TRUE(bedient);
+    EXPECT_LT(umgebung.Uhr() - beginn, 5s);
+}
+
+TEST_F(QtUmgebungTest, Pending_events_are_run_and_the_open_forms_counted) {
+    int bedient = 0;
+    QTimer::singleShot(0, [&bedient] { ++bedient; });
+    umgebung.SetzeFormularzaehler([] { return 3; });
+    EXPECT_EQ(umgebung.LasseEreignisseLaufen(), 3);
+    EXPECT_EQ(bedient, 1);
+}
+
+TEST_F(QtUmgebungTest, Messages_take_the_way_that_was_set) {
+    std::string gezeigt;
+    umgebung.SetzeMeldungsweg([&gezeigt](const Meldung& meldung) {
+        gezeigt = meldung.text;
+        return Antwort::Nein;
+    });
+    EXPECT_EQ(umgebung.ZeigeMeldung({.text = "x"}), Antwort::Nein);
+    EXPECT_EQ(gezeigt, "x");
+}
+
+TEST_F(QtUmgebungTest, Status_texts_reach_who_shows_them) {
+    int gezeigtesFeld = 0;
+    umgebung.SetzeStatusanzeige([&gezeigtesFeld](int feld, const std::string&) { gezeigtesFeld = feld; });
+    umgebung.ZeigeStatustext(FeldSchaltausgang, "x");
+    EXPECT_EQ(gezeigtesFeld, FeldSchaltausgang);
+}
+
+} // namespace varnoth
