@@ -21,14 +21,16 @@ std::vector<QRect> OrdneAn(Anordnung art, int anzahl, QSize flaeche, QSize klein
                                : Passende(anzahl, flaeche.height(), kleinste.height());
     const int quer = (anzahl + fest - 1) / fest;
     const QSize raster = inSpalten ? QSize(fest, quer) : QSize(quer, fest);
+    const QSize ganze(std::max(flaeche.width(), raster.width() * kleinste.width()),
+                      std::max(flaeche.height(), raster.height() * kleinste.height()));
+    const auto ecke = [&](int spalte, int zeile) {
+        return QPoint(spalte * ganze.width() / raster.width(), zeile * ganze.height() / raster.height());
+    };
     std::vector<QRect> plaetze;
     for (int i = 0; i < anzahl; ++i) {
-        const QPoint zelle = inSpalten ? QPoint(i % fest, i / fest) : QPoint(i / fest, i % fest);
-        const QPoint anfang(zelle.x() * flaeche.width() / raster.width(),
-                            zelle.y() * flaeche.height() / raster.height());
-        const QPoint ende((zelle.x() + 1) * flaeche.width() / raster.width(),
-                          (zelle.y() + 1) * flaeche.height() / raster.height());
-        plaetze.emplace_back(anfang, ende - QPoint(1, 1));
+        const int spalte = inSpalten ? i % fest : i / fest;
+        const int zeile = inSpalten ? i / fest : i % fest;
+        plaetze.emplace_back(ecke(spalte, zeile), ecke(spalte + 1, zeile + 1) - QPoint(1, 1));
     }
     return plaetze;
 }

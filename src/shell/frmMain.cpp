@@ -20,7 +20,9 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace varnoth {
@@ -242,8 +244,24 @@ void frmMain::BaueAnsichtenAuf() {
             rahmen[platz]->close();
         }
     }
-    if (neueDabei)
-        Ordne(Anordnung::Nebeneinander);
+    if (!neueDabei)
+        return;
+    SchaffePlatzFuerAnsichten();
+    Ordne(Anordnung::Nebeneinander);
+}
+
+/// The first time that views appear in a window nobody has sized yet, it grows to hold them side by side.
+void frmMain::SchaffePlatzFuerAnsichten() {
+    constexpr QSize angenehm(310, 640);
+    if (DieEinstellungen().LiesZahl(Fensterabschnitt, "Width", 0) != 0 || isMaximized() || isFullScreen())
+        return;
+    const auto gezeigte = static_cast<int>(
+        std::ranges::count_if(rahmen, [](const QMdiSubWindow* fenster) { return fenster->isVisible(); }));
+    const QRect schirm = screen()->availableGeometry();
+    const QSize gewuenscht(gezeigte * angenehm.width(), angenehm.height());
+    resize(size().expandedTo(gewuenscht).boundedTo(schirm.size()));
+    move(std::clamp(x(), schirm.left(), std::max(schirm.left(), schirm.right() + 1 - width())),
+         std::clamp(y(), schirm.top(), std::max(schirm.top(), schirm.bottom() + 1 - height())));
 }
 
 void frmMain::LiveDatenLaufenAn() {

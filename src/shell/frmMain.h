@@ -98,6 +98,8 @@ private:
     void ZeigePort();
     void SetzeTitel(int optikteil, std::int16_t textId);
     void MerkeAnsicht(int optikteil, bool gezeigt);
+    QSize KleinsterRahmen() const;
+    void SchaffePlatzFuerAnsichten();
     void Entlade();
 
     void ZeigeLichtleiste(int optikteil);

@@ -169,13 +169,18 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     ZeigeStatustext(FeldSchaltausgang, "");
 }
 
+QSize frmMain::KleinsterRahmen() const {
+    return rahmen[0]->minimumSizeHint().expandedTo(Fensterliste[0]->minimumSize() + rahmen[0]->size() -
+                                                   Fensterliste[0]->size());
+}
+
 void frmMain::Ordne(Anordnung art) {
     std::vector<QMdiSubWindow*> gezeigte;
     for (QMdiSubWindow* fenster : rahmen)
         if (fenster->isVisible() && !fenster->isMinimized())
             gezeigte.push_back(fenster);
     const auto plaetze = OrdneAn(art, static_cast<int>(gezeigte.size()), ui->mdiBereich->viewport()->size(),
-                                 rahmen[0]->minimumSizeHint());
+                                 KleinsterRahmen());
     for (std::size_t i = 0; i < plaetze.size(); ++i) {
         gezeigte[i]->showNormal();
         gezeigte[i]->setGeometry(plaetze[i]);

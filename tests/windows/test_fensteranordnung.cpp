@@ -25,8 +25,9 @@ TEST(Fensteranordnung, A_low_area_gets_more_columns) {
               (std::vector<QRect>{{0, 0, 300, 300}, {300, 0, 300, 300}}));
 }
 
-TEST(Fensteranordnung, An_area_smaller_than_one_window_still_gets_its_windows) {
-    EXPECT_EQ(OrdneAn(Anordnung::Nebeneinander, 2, {100, 100}, {227, 230}).size(), 2U);
+TEST(Fensteranordnung, Windows_that_do_not_fit_keep_their_least_size_and_go_beyond_the_area) {
+    EXPECT_EQ(OrdneAn(Anordnung::Nebeneinander, 2, {100, 100}, {227, 230}),
+              (std::vector<QRect>{{0, 0, 227, 230}, {0, 230, 227, 230}}));
 }
 
 TEST(Fensteranordnung, No_window_needs_no_place) {
