@@ -40,7 +40,7 @@ bool Erkenner::CrcStimmt() const {
 }
 
 LeseErkenner::LeseErkenner(std::int16_t slaveAdresse, std::uint16_t anzahl)
-    : adresse(LoByte(slaveAdresse)), datenlaenge(2U * anzahl) {}
+    : adresse(LoByte(slaveAdresse)), datenlaenge(std::size_t{2} * anzahl) {}
 
 int LeseErkenner::NachByte(int stand, std::uint8_t byte) {
     constexpr int Bytezahl = ErstesEigenes;

@@ -74,7 +74,8 @@ void LeereAbbild();
 
 /// Where a register lies in its range: address 0 of parts 0..3, then address 1 of parts 0..3 and so on.
 constexpr std::size_t Stelle(Speicherbereich bereich, std::int16_t adresse, int optikteil = 0) {
-    return static_cast<std::size_t>(optikteil + Exemplare(bereich) * adresse);
+    return static_cast<std::size_t>(optikteil) +
+           static_cast<std::size_t>(Exemplare(bereich)) * static_cast<std::size_t>(adresse);
 }
 
 } // namespace varnoth::modDaten

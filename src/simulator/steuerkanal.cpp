@@ -91,7 +91,7 @@ bool Steuerkanal::Bediene(Gast& gast, const Ausfuehren& ausfuehren) {
     if (anzahl <= 0)
         return anzahl < 0 && (errno == EAGAIN || errno == EINTR);
     gast.angefangen.append(puffer.data(), static_cast<std::size_t>(anzahl));
-    for (std::size_t ende; (ende = gast.angefangen.find('\n')) != std::string::npos;) {
+    for (std::size_t ende = 0; (ende = gast.angefangen.find('\n')) != std::string::npos;) {
         const std::string zeile = gast.angefangen.substr(0, ende);
         gast.angefangen.erase(0, ende + 1);
         if (!Antworte(gast.leitung, ausfuehren(zeile)))

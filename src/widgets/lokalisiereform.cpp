@@ -57,7 +57,7 @@ void SchreibeText(Element& element, Hole hole, Setze setze, const QString& text)
 /// The text for a tool tip that is designed as an id. The id is kept beside it, in a property of the element,
 /// for the passes after the first.
 QString ToolTipText(QObject& element, const QByteArray& merker, const QString& toolTip) {
-    const QString text = TextZu(toolTip);
+    QString text = TextZu(toolTip);
     if (text.isEmpty())
         return TextZu(element.property(merker));
     element.setProperty(merker, toolTip);

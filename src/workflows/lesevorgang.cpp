@@ -1,7 +1,7 @@
 #include "lesevorgang.h"
 
+#include "plausibilitaet.h"
 #include "registerabbild.h"
-#include "registeradressen.h"
 #include "texte.h"
 #include "transaktionen.h"
 
@@ -64,19 +64,13 @@ bool Lesetransfer::Uebertrage(const Transferparameter& parameter) {
     return gelesen;
 }
 
-void BerichtigeStrahlenzahlen() {
-    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
-        if (Strahlenzahl(teil) > MaxStrahlen)
-            SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, teil, {0});
-}
-
 } // namespace
 
 bool LiesKonfiguration(Transferanzeige& anzeige) {
     if (!Lesetransfer(anzeige).UebertrageAlles())
         return false;
     anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
-    BerichtigeStrahlenzahlen();
+    modDaten::KorrigiereStrahlenzahlen();
     return true;
 }
 

@@ -265,7 +265,7 @@ std::set<int> IdsInForm(const std::string& inhalt) {
 }
 
 std::set<int> IdsInQuelltext(const std::string& inhalt) {
-    return Gefundene(inhalt, R"re(\bLadeText\(\s*(\d{1,5})\s*\))re");
+    return Gefundene(inhalt, R"re((?:\bLadeText\(\s*|\bint16_t Text\w* = )(\d{1,5})\b)re");
 }
 
 std::string Inhalt(const std::filesystem::path& datei) {
@@ -412,6 +412,11 @@ TEST(TexteInFormen, Ids_are_found_in_tags_captions_and_tool_tips) {
 TEST(TexteInFormen, Ids_are_found_in_calls) {
     EXPECT_EQ(IdsInQuelltext("a = LadeText(6000) + LadeText( 8101 ); LadeText(id); AndererLadeText(5);"),
               (std::set<int>{6000, 8101}));
+}
+
+TEST(TexteInFormen, Ids_are_found_in_named_constants) {
+    EXPECT_EQ(IdsInQuelltext("constexpr std::int16_t TextAchtung = 6109; constexpr int Rest = 5;"),
+              (std::set<int>{6109}));
 }
 
 TEST_F(Texte, Every_id_used_in_a_form_or_in_code_exists) {

@@ -12,8 +12,8 @@ namespace varnoth::pruefung {
 
 namespace {
 
-// What the offscreen platform says of dialogs of a fixed size; it means nothing.
-const QString plattformhinweis = QStringLiteral("does not support propagateSizeHints");
+// What the offscreen platform says of things that a window manager does; it means nothing.
+const QString plattformhinweis = QStringLiteral("This plugin does not support");
 
 QStringList erwartet;
 

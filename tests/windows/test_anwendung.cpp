@@ -1,0 +1,184 @@
+#include "anwendung.h"
+
+#include "fenstertest.h"
+#include "frmSplash.h"
+#include "qttexte.h"
+#include "servicetext.h"
+#include "texte.h"
+#include "trace.h"
+#include "versionstext.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace varnoth {
+
+class AnwendungTest : public testing::Test {
+protected:
+    AnwendungTest() { QDir::setCurrent(ordner.path()); }
+    ~AnwendungTest() override {
+        anwendung.reset();
+        QDir::setCurrent(vorher);
+        SetzeSprachoffset(Deutsch);
+        LadeQtTexte(Deutsch);
+    }
+
+    void SchreibEinstellungen(const QByteArray& text) const {
+        QFile datei(ordner.filePath(QStringLiteral("varnoth.ini")));
+        ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+        datei.write(text);
+    }
+    Startbedingungen Bedingungen(const QStringList& worte) const {
+        return {.worte = worte,
+                .programmordner = ordner.path(),
+                .programmname = QStringLiteral("varnoth"),
+                .sperrordner = ordner.path(),
+                .splashSekunden = 0};
+    }
+    Anwendung& Mit(const QStringList& worte) {
+        anwendung.reset();
+        anwendung = std::make_unique<Anwendung>(Bedingungen(worte));
+        ZeichneAuf(*anwendung);
+        return *anwendung;
+    }
+    void ZeichneAuf(Anwendung& programm) {
+        programm.DieQtUmgebung().SetzeMeldungsweg([this](const Meldung& meldung) {
+            meldungen.push_back(meldung.text);
+            return Antwort::Ok;
+        });
+    }
+    QByteArray Trace() const {
+        QFile datei(ordner.filePath(QStringLiteral("Test.txt")));
+        return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("missing");
+    }
+    bool Sichtbar(const char* name) {
+        return anwendung->Hauptfenster().findChild<QAction*>(QString::fromUtf8(name))->isVisible();
+    }
+
+    QTemporaryDir ordner;
+    const QString vorher = QDir::currentPath();
+    std::vector<std::string> meldungen;
+    std::unique_ptr<Anwendung> anwendung;
+};
+
+TEST_F(AnwendungTest, Without_a_settings_file_the_program_is_German) {
+    EXPECT_TRUE(Mit({}).Starte());
+    EXPECT_EQ(GetSprachoffset(), Deutsch);
+    EXPECT_EQ(anwendung->Hilfedatei(), ordner.filePath(QStringLiteral("varnoth.hlp")));
+    EXPECT_TRUE(anwendung->Hauptfenster().findChild<QAction*>("mnuDeutsch")->isChecked());
+}
+
+TEST_F(AnwendungTest, The_language_in_the_settings_file_selects_English_texts_and_help) {
+    SchreibEinstellungen("[Settings]\nSprache=10000\n");
+    EXPECT_TRUE(Mit({}).Starte());
+    EXPECT_EQ(anwendung->Hauptfenster().findChild<QAction*>("mnuBeenden")->text(), "&Exit");
+    EXPECT_EQ(anwendung->Hilfedatei(), ordner.filePath(QStringLiteral("varnothE.hlp")));
+    EXPECT_TRUE(anwendung->Hauptfenster().findChild<QAction*>("mnuEnglisch")->isChecked());
+}
+
+TEST_F(AnwendungTest, Any_other_language_in_the_settings_file_counts_as_German) {
+    for (const char* wert : {"1", "-1", "abc", "99999999"}) {
+        SchreibEinstellungen(QByteArray("[Settings]\nSprache=") + wert + "\n");
+        EXPECT_TRUE(Mit({}).Starte());
+        EXPECT_EQ(GetSprachoffset(), Deutsch) << wert;
+    }
+}
+
+TEST_F(AnwendungTest, A_second_instance_is_refused_with_a_message) {
+    Instanzsperre erste(QStringLiteral("varnoth"), ordner.path());
+    ASSERT_TRUE(erste.Belege());
+    EXPECT_FALSE(Mit({}).Starte());
+    EXPECT_EQ(meldungen, std::vector<std::string>{"Das Programm wurde bereits gestartet"});
+}
+
+TEST_F(AnwendungTest, The_service_switch_stores_the_password_and_shows_the_service_items) {
+    EXPECT_TRUE(Mit({"/Pabc"}).Starte());
+    EXPECT_EQ(modService::GetServiceText(), "abc             ");
+    EXPECT_TRUE(Sichtbar("mnuInitHardware"));
+    EXPECT_TRUE(Sichtbar("mnuEinzelwerteLesenSchreiben"));
+}
+
+TEST_F(AnwendungTest, Without_the_service_switch_the_service_items_are_hidden) {
+    EXPECT_TRUE(Mit({}).Starte());
+    EXPECT_EQ(modService::GetServiceText(), "");
+    EXPECT_FALSE(Sichtbar("mnuInitHardware"));
+    EXPECT_FALSE(Sichtbar("mnuEinzelwerteLesenSchreiben"));
+}
+
+TEST_F(AnwendungTest, The_trace_switch_twice_in_a_row_leaves_only_the_second_trace) {
+    EXPECT_TRUE(Mit({"/Tlogfile"}).Starte());
+    modTrace::SchreibeSendung("first run");
+    EXPECT_TRUE(Mit({"/Tlogfile"}).Starte());
+    EXPECT_EQ(Trace(), "Start\r\n");
+}
+
+TEST_F(AnwendungTest, A_trace_file_that_cannot_be_created_ends_the_start_with_a_warning) {
+    ASSERT_TRUE(QDir(ordner.path()).mkpath(QStringLiteral("Test.txt/in-the-way")));
+    EXPECT_FALSE(Mit({"/Tlogfile"}).Starte());
+    ASSERT_EQ(meldungen.size(), 1U);
+    EXPECT_NE(meldungen[0], "");
+}
+
+TEST_F(AnwendungTest, A_malformed_switch_does_not_keep_the_program_from_starting) {
+    EXPECT_TRUE(Mit({"/X", "/Tlog", "--help", "/Com=9", "/Geraet"}).Starte());
+    EXPECT_TRUE(meldungen.empty());
+}
+
+TEST_F(AnwendungTest, The_main_loop_ends_when_the_last_form_is_closed) {
+    EXPECT_TRUE(Mit({}).Starte());
+    EXPECT_TRUE(anwendung->Runde());
+    anwendung->Hauptfenster().close();
+    EXPECT_FALSE(anwendung->Runde());
+}
+
+TEST_F(AnwendungTest, A_window_closed_during_the_splash_is_not_connected_any_more) {
+    EXPECT_TRUE(Mit({}).Starte());
+    anwendung->Hauptfenster().close();
+    anwendung->Verbinde();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(meldungen.empty());
+}
+
+TEST_F(AnwendungTest, With_the_simulator_switch_the_program_connects_by_itself_and_shows_live_data) {
+    EXPECT_TRUE(Mit({"/Simulator"}).Starte());
+    anwendung->Verbinde();
+    EXPECT_TRUE(pruefung::WarteBis([this] {
+        anwendung->Runde();
+        return modPolling::GetDurchgaenge() >= 2;
+    }));
+    EXPECT_EQ(anwendung->Hauptfenster().statusBar()->findChild<QLabel*>("sbStatusBar_3")->text().isEmpty(),
+              false);
+    EXPECT_TRUE(meldungen.empty());
+}
+
+TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {
+    SetzeSprachoffset(Deutsch);
+    const frmSplash splash;
+    const QRect schirm = QGuiApplication::primaryScreen()->geometry();
+    EXPECT_LE((splash.geometry().center() - schirm.center()).manhattanLength(), 2);
+    EXPECT_EQ(splash.findChild<QLabel*>("lblProduktText")->text(), "Varnoth  Softwareversion 1.0.0");
+    EXPECT_EQ(splash.findChild<QLabel*>("lblEigentuemerText")->text(), Eigentuemerzeile());
+}
+
+TEST(Versionstext, Is_three_numbers_joined_by_points) {
+    EXPECT_EQ(Versionstext(), "1.0.0");
+}
+
+TEST(Versionstext, The_product_line_is_in_the_chosen_language) {
+    SetzeSprachoffset(Englisch);
+    EXPECT_EQ(Produktzeile(), "Varnoth  Software Version 1.0.0");
+    SetzeSprachoffset(Deutsch);
+}
+
+} // namespace varnoth
