@@ -7,7 +7,6 @@
 #include "geraetepfade.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
-#include "registeradressen.h"
 #include "schnittstelle.h"
 #include "standardkonfiguration.h"
 #include "symbole.h"
@@ -19,17 +18,11 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QLabel>
-#include <QMdiSubWindow>
-#include <QScreen>
-
-#include <algorithm>
-#include <utility>
 
 namespace varnoth {
 
 namespace {
 
-constexpr const char* Fensterabschnitt = "MDIForm";
 constexpr int KleinsteBreite = 3700; // twips
 constexpr int KleinsteHoehe = 5040;
 
@@ -85,30 +78,6 @@ void frmMain::LiesEinstellungen() {
     modSchnittstelle::SetzeComSettings(
         einstellungen.LiesText("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();
-}
-
-void frmMain::LadeAnsicht(int optikteil) {
-    const auto platz = static_cast<std::size_t>(optikteil);
-    auto* ansicht = new frmDocument(optikteil);
-    Fensterliste[platz] = ansicht;
-    rahmen[platz] = ui->mdiBereich->addSubWindow(ansicht);
-    rahmen[platz]->setAttribute(Qt::WA_DeleteOnClose, false);
-    rahmen[platz]->hide();
-    connect(ansicht, &frmDocument::Eingerichtet, this, [this, optikteil] { MerkeAnsicht(optikteil, true); });
-    connect(ansicht, &frmDocument::Geschlossen, this, [this, optikteil] { MerkeAnsicht(optikteil, false); });
-    SetzeTitel(optikteil, TextOffline);
-    ansicht->InitForm();
-    hatPlatz[platz] = LiesFensterplatz(DieEinstellungen(), std::to_string(optikteil) + "Form",
-                                       {.zustand = ZustandNichtGespeichert})
-                          .zustand != ZustandNichtGespeichert;
-}
-
-frmDocument& frmMain::Fenster(int optikteil) {
-    return *Fensterliste.at(static_cast<std::size_t>(optikteil));
-}
-
-LiveAnsicht& frmMain::Ansicht(int optikteil) {
-    return Fenster(optikteil);
 }
 
 void frmMain::VerbindeMenue() {
@@ -195,73 +164,8 @@ void frmMain::SetzeMessdatenMenue(int modus) {
     AktualisiereMenue();
 }
 
-void frmMain::SetzeTitel(int optikteil, std::int16_t textId) {
-    const QString titel = Ansichtstitel(optikteil, textId);
-    titeltexte.at(static_cast<std::size_t>(optikteil)) = textId;
-    Fenster(optikteil).setWindowTitle(titel);
-    rahmen.at(static_cast<std::size_t>(optikteil))->setWindowTitle(titel);
-}
-
-void frmMain::MerkeAnsicht(int optikteil, bool gezeigt) {
-    findChild<QAction*>(QStringLiteral("mnuAnzeigeLichtleiste_%1").arg(optikteil))->setChecked(gezeigt);
-}
-
 bool frmMain::LiveDatenLaufen() const {
     return modPolling::GetPollingAktiv() != False;
-}
-
-void frmMain::AktualisiereGeraetestatus() {
-    const bool live = LiveDatenLaufen() && !modPolling::VerbindungVerloren();
-    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        SetzeTitel(teil, Titeltext(modPolling::GetOptikteilStatus(teil), live));
-    ZeigeLichtleistenmenue();
-    if (modPolling::VerbindungVerloren())
-        ZeigeStatustext(FeldSchaltausgang, "");
-}
-
-void frmMain::ZeigeLichtleistenmenue() {
-    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        zustand.hatStrahlen.at(static_cast<std::size_t>(teil)) = modDaten::Strahlenzahl(teil) > 0;
-    AktualisiereMenue();
-}
-
-void frmMain::ZeigeAlleOffline() {
-    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        SetzeTitel(teil, TextOffline);
-    zustand.hatStrahlen = {};
-    AktualisiereMenue();
-}
-
-void frmMain::BaueAnsichtenAuf() {
-    bool neueDabei = false;
-    for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil) {
-        const auto platz = static_cast<std::size_t>(teil);
-        if (modDaten::Strahlenzahl(teil) > 0) {
-            neueDabei |= !std::exchange(hatPlatz[platz], true);
-            Fenster(teil).InitfrmDocument();
-            Fenster(teil).Zeige();
-        } else if (rahmen[platz]->isVisible()) {
-            rahmen[platz]->close();
-        }
-    }
-    if (!neueDabei)
-        return;
-    SchaffePlatzFuerAnsichten();
-    Ordne(Anordnung::Nebeneinander);
-}
-
-/// The first time that views appear in a window nobody has sized yet, it grows to hold them side by side.
-void frmMain::SchaffePlatzFuerAnsichten() {
-    constexpr QSize angenehm(310, 640);
-    if (DieEinstellungen().LiesZahl(Fensterabschnitt, "Width", 0) != 0 || isMaximized() || isFullScreen())
-        return;
-    const auto gezeigte = static_cast<int>(
-        std::ranges::count_if(rahmen, [](const QMdiSubWindow* fenster) { return fenster->isVisible(); }));
-    const QRect schirm = screen()->availableGeometry();
-    const QSize gewuenscht(gezeigte * angenehm.width(), angenehm.height());
-    resize(size().expandedTo(gewuenscht).boundedTo(schirm.size()));
-    move(std::clamp(x(), schirm.left(), std::max(schirm.left(), schirm.right() + 1 - width())),
-         std::clamp(y(), schirm.top(), std::max(schirm.top(), schirm.bottom() + 1 - height())));
 }
 
 void frmMain::LiveDatenLaufenAn() {

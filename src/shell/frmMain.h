@@ -68,6 +68,8 @@ protected:
     void closeEvent(QCloseEvent* ereignis) override;
 
 private:
+    static constexpr const char* Fensterabschnitt = "MDIForm"; // of the settings file
+
     struct Befehlszeile;
     struct Menuezeile;
 

@@ -20,11 +20,7 @@
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 
-#include <QMdiSubWindow>
-
 #include <algorithm>
-#include <utility>
-#include <vector>
 
 namespace varnoth {
 
@@ -136,13 +132,6 @@ void frmMain::SubBeenden() {
     Entlade();
 }
 
-void frmMain::ZeigeLichtleiste(int optikteil) {
-    const bool live = LiveDatenLaufen() && !modPolling::VerbindungVerloren();
-    Fenster(optikteil).InitfrmDocument();
-    SetzeTitel(optikteil, Titeltext(modPolling::GetOptikteilStatus(optikteil), live));
-    Fenster(optikteil).Zeige();
-}
-
 void frmMain::WaehleComPort(int nummer) {
     if (nummer == modSchnittstelle::GetComPort())
         return;
@@ -167,24 +156,6 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         SetzeTitel(teil, titeltexte.at(static_cast<std::size_t>(teil)));
     ZeigeStatustext(FeldSchaltausgang, "");
-}
-
-QSize frmMain::KleinsterRahmen() const {
-    return rahmen[0]->minimumSizeHint().expandedTo(Fensterliste[0]->minimumSize() + rahmen[0]->size() -
-                                                   Fensterliste[0]->size());
-}
-
-void frmMain::Ordne(Anordnung art) {
-    std::vector<QMdiSubWindow*> gezeigte;
-    for (QMdiSubWindow* fenster : rahmen)
-        if (fenster->isVisible() && !fenster->isMinimized())
-            gezeigte.push_back(fenster);
-    const auto plaetze = OrdneAn(art, static_cast<int>(gezeigte.size()), ui->mdiBereich->viewport()->size(),
-                                 KleinsterRahmen());
-    for (std::size_t i = 0; i < plaetze.size(); ++i) {
-        gezeigte[i]->showNormal();
-        gezeigte[i]->setGeometry(plaetze[i]);
-    }
 }
 
 void frmMain::ZeigeInfo() {
