@@ -147,11 +147,13 @@ bool Anwendung::Runde() {
 }
 
 int Anwendung::Laufe() {
-    if (!Starte())
-        return 0;
     std::optional<Selbsttest> selbsttest;
     if (!kommandozeile.selbsttest.isEmpty())
-        selbsttest.emplace(*hauptfenster, umgebung, kommandozeile.selbsttest);
+        selbsttest.emplace(umgebung, kommandozeile.selbsttest);
+    if (!Starte())
+        return selbsttest ? selbsttest->Ergebnis() : 0;
+    if (selbsttest)
+        selbsttest->Beobachte(*hauptfenster);
     Verbinde();
     while (Runde()) {
     }

@@ -75,20 +75,27 @@ void BerichteMesswerte(QTextStream& aus, int optikteil) {
 
 } // namespace
 
-Selbsttest::Selbsttest(frmMain& hauptfenster, QtUmgebung& die, const QString& ordner)
-    : fenster(hauptfenster), umgebung(die), bildordner(ordner) {
+Selbsttest::Selbsttest(QtUmgebung& die, const QString& ordner) : umgebung(die), bildordner(ordner) {
     umgebung.SetzeMeldungsweg([this](const Meldung& meldung) {
         Scheitere(Text(meldung.text));
         return meldung.knoepfe == Knoepfe::Ok ? Antwort::Ok : Antwort::Abbrechen;
     });
-    fenster.resize(Bildgroesse);
     QObject::connect(&takt, &QTimer::timeout, &takt, [this] { Pruefe(); });
-    takt.start(TaktMs);
-    seitStart.start();
 }
 
 Selbsttest::~Selbsttest() {
     umgebung.SetzeMeldungsweg({});
+}
+
+void Selbsttest::Beobachte(frmMain& hauptfenster) {
+    fenster = &hauptfenster;
+    if (beendet) {
+        fenster->close();
+        return;
+    }
+    fenster->resize(Bildgroesse);
+    takt.start(TaktMs);
+    seitStart.start();
 }
 
 /// Live data flows when a whole pass has brought the values of every present part.
@@ -97,7 +104,7 @@ bool Selbsttest::LiveDatenFliessen() const {
         return false;
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         if (modPolling::GetOptikteilStatus(teil) == modPolling::Vorhanden &&
-            !fenster.Fenster(teil).ZeigtLiveDaten())
+            !fenster->Fenster(teil).ZeigtLiveDaten())
             return false;
     return modPolling::GetAnzahlOptikteile() > 0;
 }
@@ -105,7 +112,7 @@ bool Selbsttest::LiveDatenFliessen() const {
 void Selbsttest::Pruefe() {
     if (LiveDatenFliessen() && !seitLiveDaten.isValid()) {
         seitLiveDaten.start();
-        fenster.Ordne(Anordnung::Nebeneinander);
+        fenster->Ordne(Anordnung::Nebeneinander);
     }
     if (seitLiveDaten.isValid() && seitLiveDaten.elapsed() >= LiveZeitMs)
         Berichte();
@@ -115,7 +122,7 @@ void Selbsttest::Pruefe() {
 
 void Selbsttest::Berichte() {
     const QString bild = QDir(bildordner).filePath(QLatin1String(Bildname));
-    if (!QDir().mkpath(bildordner) || !fenster.grab().save(bild)) {
+    if (!QDir().mkpath(bildordner) || !fenster->grab().save(bild)) {
         Scheitere(QStringLiteral("the picture %1 cannot be written").arg(bild));
         return;
     }
@@ -137,8 +144,10 @@ void Selbsttest::Scheitere(const QString& grund) {
 }
 
 void Selbsttest::Beende() {
+    beendet = true;
     takt.stop();
-    fenster.close();
+    if (fenster != nullptr)
+        fenster->close();
 }
 
 } // namespace varnoth

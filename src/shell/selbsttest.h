@@ -11,11 +11,15 @@ namespace varnoth {
 
 /// Watches the program connect by itself: when live data of every present part has flowed for a while it
 /// saves a picture of the main window, prints what was identified, read and measured, and ends the program. A
-/// message that appears on the way, or a long time without live data, ends it as failed.
+/// message at any time from start-up on, or a long time without live data, ends it as failed.
 class Selbsttest {
 public:
-    Selbsttest(frmMain& hauptfenster, QtUmgebung& umgebung, const QString& ordner);
+    /// From now on messages open no box; the first one is the reason of the failure.
+    Selbsttest(QtUmgebung& umgebung, const QString& ordner);
     ~Selbsttest();
+
+    /// Watches from now on what the main window, which must outlive this object, shows.
+    void Beobachte(frmMain& hauptfenster);
 
     /// Exit code: 0 when all went well, else 1.
     int Ergebnis() const { return gelungen ? 0 : 1; }
@@ -27,13 +31,14 @@ private:
     void Scheitere(const QString& grund);
     void Beende();
 
-    frmMain& fenster;
+    frmMain* fenster = nullptr;
     QtUmgebung& umgebung;
     QString bildordner;
     QTimer takt;
     QElapsedTimer seitStart;
     QElapsedTimer seitLiveDaten;
     bool gelungen = false;
+    bool beendet = false;
 };
 
 } // namespace varnoth

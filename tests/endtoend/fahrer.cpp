@@ -1,0 +1,48 @@
+#include "fahrer.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace varnoth::pruefung {
+
+namespace {
+constexpr int TaktMs = 5;
+}
+
+Fahrer::Fahrer() {
+    QObject::connect(&takt, &QTimer::timeout, &takt, [this] { Blicke(); });
+    takt.start(TaktMs);
+}
+
+void Fahrer::Sobald(std::function<bool()> bedingung, std::function<void()> aktion) {
+    plan.emplace_back(std::move(bedingung), std::move(aktion));
+}
+
+void Fahrer::Blicke() {
+    if (auto* meldung = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+        Beantworte(*meldung);
+    const auto faellig = std::ranges::find_if(plan, [](const auto& vorhaben) { return vorhaben.first(); });
+    if (faellig == plan.end())
+        return;
+    const auto aktion = std::move(faellig->second);
+    plan.erase(faellig);
+    aktion();
+}
+
+void Fahrer::Beantworte(QMessageBox& meldung) {
+    meldungen.push_back(meldung.text().toStdString());
+    QAbstractButton* knopf = meldung.defaultButton();
+    (knopf != nullptr ? knopf : meldung.buttons().constFirst())->click();
+}
+
+QWidget* SichtbaresFenster(const QString& name) {
+    for (QWidget* fenster : QApplication::topLevelWidgets())
+        if (fenster->isVisible() && fenster->objectName() == name)
+            return fenster;
+    return nullptr;
+}
+
+} // namespace varnoth::pruefung

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+class QMessageBox;
+
+namespace varnoth::pruefung {
+
+/// The user at the screen. He looks at it every few milliseconds, also while the program waits or shows a
+/// dialog: he writes every message box down and presses its default button, and does what was planned once
+/// its time has come.
+class Fahrer {
+public:
+    Fahrer();
+
+    /// Plans an action for the first look at which the condition holds. Actions must not wait for anything.
+    void Sobald(std::function<bool()> bedingung, std::function<void()> aktion);
+    /// The texts of the message boxes that came so far.
+    const std::vector<std::string>& Meldungen() const { return meldungen; }
+    /// Whether every planned action was done.
+    bool AllesGetan() const { return plan.empty(); }
+
+private:
+    void Blicke();
+    void Beantworte(QMessageBox& meldung);
+
+    QTimer takt;
+    std::vector<std::pair<std::function<bool()>, std::function<void()>>> plan;
+    std::vector<std::string> meldungen;
+};
+
+/// The visible window of that name, nullptr when there is none.
+QWidget* SichtbaresFenster(const QString& name);
+
+/// The element of that name in a window; a missing one fails the test by an exception.
+template<class Element>
+Element& Kind(QWidget& fenster, const QString& name) {
+    auto* const element = fenster.findChild<Element*>(name);
+    if (element == nullptr)
+        throw std::runtime_error("no element " + name.toStdString());
+    return *element;
+}
+
+} // namespace varnoth::pruefung

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <string>
+
+namespace varnoth::pruefung {
+
+/// The monitor as a process of its own, in a folder where its settings file and the lock of its single
+/// instance lie too. It ends with this object.
+class Programmprozess {
+public:
+    /// Starts it with its switches.
+    Programmprozess(const QString& ordner, const QStringList& schalter);
+    ~Programmprozess();
+    Programmprozess(const Programmprozess&) = delete;
+    Programmprozess& operator=(const Programmprozess&) = delete;
+
+    /// Waits until it has ended by itself.
+    /// @return its exit code, -1 when it does not end or crashes
+    int WarteAufEnde();
+    std::string Ausgabe() { return prozess.readAllStandardOutput().toStdString(); }
+    std::string Fehlerausgabe() { return prozess.readAllStandardError().toStdString(); }
+
+private:
+    QProcess prozess;
+};
+
+} // namespace varnoth::pruefung
