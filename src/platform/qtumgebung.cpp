@@ -4,9 +4,12 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <thread>
 #include <utility>
+
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
 
 namespace varnoth {
 
@@ -15,13 +18,20 @@ namespace {
 // Timers of the event loop count whole milliseconds. Waits that end sooner than this sleep to the
 // microsecond.
 constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
-constexpr Zeit LaengsterSchlaf = std::chrono::milliseconds(1);
+
+/// Sleeps end when they should, not some tens of microseconds later.
+void WeckePuenktlich() {
+#ifdef Q_OS_LINUX
+    prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
+#endif
+}
 
 } // namespace
 
 QtUmgebung::QtUmgebung() {
     wecker.setSingleShot(true);
     wecker.setTimerType(Qt::PreciseTimer);
+    WeckePuenktlich();
     SetzeUmgebung(this);
 }
 
@@ -38,7 +48,7 @@ void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
         QCoreApplication::processEvents();
-        std::this_thread::sleep_for(std::min(ende - Uhr(), LaengsterSchlaf));
+        std::this_thread::sleep_for(ende - Uhr());
         return;
     }
     wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));

@@ -1,0 +1,61 @@
+// Time of a polling pass with the views open and drawing, beside the time that the line alone needs.
+
+#include "bericht.h"
+#include "messplatz.h"
+#include "polling.h"
+#include "statistik.h"
+
+#include <QApplication>
+
+namespace {
+
+using namespace varnoth;
+using namespace varnoth::bench;
+
+struct Durchgang {
+    double dauer;
+    double grenze;
+};
+
+/// Runs the main loop until the next pass has ended.
+Durchgang MissDurchgang(Messplatz& platz) {
+    const double beginn = Uhrzeit();
+    const Verkehr vorher = platz.Bisher();
+    const unsigned durchgaenge = modPolling::GetDurchgaenge();
+    while (modPolling::GetDurchgaenge() == durchgaenge)
+        platz.Programm().Runde();
+    return {Uhrzeit() - beginn, (platz.Bisher() - vorher).Grenze()};
+}
+
+void Miss(const QString& strahlen, const QString& name, int anzahl) {
+    constexpr int Anlauf = 5;
+    constexpr double Zielanteil = 98;
+    Messplatz platz({QStringLiteral("--beams"), strahlen});
+    platz.Verbinde();
+    std::vector<double> dauern;
+    double grenze = 0;
+    for (int i = -Anlauf; i < anzahl; ++i) {
+        const Durchgang durchgang = MissDurchgang(platz);
+        grenze = durchgang.grenze;
+        if (i >= 0)
+            dauern.push_back(durchgang.dauer);
+    }
+    const double median = Median(dauern);
+    Berichte(QStringLiteral("pass %1 at 38400 baud: limit / median").arg(name), 100 * grenze / median,
+             QStringLiteral("%"), Ziel::Mindestens, Zielanteil,
+             QStringLiteral("limit %1 ms, median %2 ms, 95 % %3 ms, %4 passes")
+                 .arg(1e3 * grenze, 0, 'f', 2)
+                 .arg(1e3 * median, 0, 'f', 2)
+                 .arg(1e3 * Quantil(dauern, 0.95), 0, 'f', 2)
+                 .arg(anzahl));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication anwendung(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Miss(QStringLiteral("512"), QStringLiteral("1 x 512"), 200);
+    Miss(QStringLiteral("128,128,128,128"), QStringLiteral("4 x 128"), 80);
+    return 0;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "anwendung.h"
+#include "simulatorprozess.h"
+#include "zaehlport.h"
+
+#include <QTemporaryDir>
+
+namespace varnoth::bench {
+
+/// The whole program beside a simulated controller on a pseudo terminal, with settings of its own.
+class Messplatz {
+public:
+    /// Starts both; the main window is shown, nothing is connected. `simulatorworte` go to the controller. A
+    /// message to the user fails the bench.
+    explicit Messplatz(const QStringList& simulatorworte);
+    ~Messplatz();
+
+    /// Connects; fails the bench unless live data runs then.
+    void Verbinde();
+    /// Stops live data as a click on the menu item does.
+    void Stoppe();
+    /// Answers messages with OK from now on instead of failing.
+    void UebergeheMeldungen();
+
+    Anwendung& Programm() { return programm; }
+    Simulatorprozess& Steuergeraet() { return simulator; }
+    /// What went over the line so far.
+    const Verkehr& Bisher() const { return port.Bisher(); }
+
+private:
+    QTemporaryDir ordner;
+    Simulatorprozess simulator;
+    Anwendung programm;
+    Zaehlport port;
+};
+
+} // namespace varnoth::bench
