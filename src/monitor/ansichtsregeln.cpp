@@ -48,19 +48,19 @@ std::string Strahltext(int index, std::int32_t abstandMm) {
 }
 
 void Strahlanzeige::Vergiss() {
-    m_gezeichnet.fill(std::nullopt);
+    gezeichnet.fill(std::nullopt);
 }
 
 std::optional<Strahlzustand> Strahlanzeige::Nimm(int index, std::int32_t frei, std::int32_t geblankt) {
     if (index == 0)
-        m_geblankte = 0;
+        geblankte = 0;
     if (geblankt != 0)
-        ++m_geblankte;
+        ++geblankte;
     const Strahlzustand neuer = Anzeigezustand(frei, geblankt);
-    auto& gezeichnet = m_gezeichnet.at(static_cast<std::size_t>(index));
-    if (gezeichnet == neuer)
+    auto& zuletzt = gezeichnet.at(static_cast<std::size_t>(index));
+    if (zuletzt == neuer)
         return std::nullopt;
-    gezeichnet = neuer;
+    zuletzt = neuer;
     return neuer;
 }
 

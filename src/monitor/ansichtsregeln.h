@@ -40,11 +40,11 @@ public:
     /// has to be drawn, nothing when it is drawn already. The index must be below Hoechstzahl.
     std::optional<Strahlzustand> Nimm(int index, std::int32_t frei, std::int32_t geblankt);
     /// Blanked beams since beam 0.
-    std::int16_t Geblankte() const { return m_geblankte; }
+    std::int16_t Geblankte() const { return geblankte; }
 
 private:
-    std::array<std::optional<Strahlzustand>, Hoechstzahl> m_gezeichnet{};
-    std::int16_t m_geblankte = 0;
+    std::array<std::optional<Strahlzustand>, Hoechstzahl> gezeichnet{};
+    std::int16_t geblankte = 0;
 };
 
 } // namespace varnoth

@@ -24,8 +24,8 @@ class frmDocument : public QWidget, public LiveAnsicht {
     Q_OBJECT
 
 public:
-    /// `optikteil` is 0..3.
-    explicit frmDocument(int optikteil, QWidget* eltern = nullptr);
+    /// `teil` is 0..3.
+    explicit frmDocument(int teil, QWidget* eltern = nullptr);
     ~frmDocument() override;
 
     /// Takes the measured values and the number of blanked beams over from the image.
@@ -81,17 +81,17 @@ private:
     void PasseBreiteAn();
     void OrdneStatuszeile();
 
-    std::unique_ptr<Ui::frmDocument> m_ui;
-    std::int16_t m_optikteil;
-    std::array<QLabel*, AnzahlMesswerte> m_felder{};
-    std::array<std::int32_t, AnzahlMesswerte> m_gezeigteWerte{};
-    int m_versatz = 0;
-    std::int16_t m_gezeigterStatus = -1;
-    std::int16_t m_gezeigteGeblankte = -1;
-    Strahlanzeige m_anzeige;
-    Werte m_strahlen;
-    int m_strahlUnterMaus = -1;
-    bool m_warSichtbar = false;
+    std::unique_ptr<Ui::frmDocument> ui;
+    std::int16_t optikteil;
+    std::array<QLabel*, AnzahlMesswerte> felder{};
+    std::array<std::int32_t, AnzahlMesswerte> gezeigteWerte{};
+    int versatz = 0;
+    std::int16_t gezeigterStatus = -1;
+    std::int16_t gezeigteGeblankte = -1;
+    Strahlanzeige anzeige;
+    Werte strahlen;
+    int strahlUnterMaus = -1;
+    bool warSichtbar = false;
 };
 
 } // namespace varnoth

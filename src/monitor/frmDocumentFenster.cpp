@@ -56,7 +56,7 @@ void frmDocument::Zeige() {
 
 void frmDocument::SpeicherePlatz() const {
     const auto platz = PlatzVon(*this);
-    if (m_warSichtbar && platz)
+    if (warSichtbar && platz)
         SchreibFensterplatz(DieEinstellungen(), Abschnitt(), *platz);
 }
 
@@ -88,7 +88,7 @@ void frmDocument::resizeEvent(QResizeEvent* ereignis) {
 
 void frmDocument::showEvent(QShowEvent* ereignis) {
     QWidget::showEvent(ereignis);
-    m_warSichtbar = true;
+    warSichtbar = true;
     VerfolgePlatz(*this);
     if (auto* rahmen = qobject_cast<QMdiSubWindow*>(parentWidget()))
         rahmen->setMinimumSize(Mindestgroesse());
@@ -96,7 +96,7 @@ void frmDocument::showEvent(QShowEvent* ereignis) {
 }
 
 std::string frmDocument::Abschnitt() const {
-    return std::to_string(m_optikteil) + "Form";
+    return std::to_string(optikteil) + "Form";
 }
 
 // Values are read from some way off: larger than the rest, and as wide as the widest number so that nothing
@@ -105,7 +105,7 @@ void frmDocument::PasseZiffernAn() {
     QFont ziffern = font();
     ziffern.setPointSizeF(QFontInfo(font()).pointSizeF() * Ziffernvergroesserung);
     const int breite = QFontMetrics(ziffern).horizontalAdvance(QString::number(BreitesteZahl));
-    for (QLabel* feld : m_ui->Frame1->findChildren<QLabel*>(QRegularExpression("^lblInhalt"))) {
+    for (QLabel* feld : ui->Frame1->findChildren<QLabel*>(QRegularExpression("^lblInhalt"))) {
         feld->setFont(ziffern);
         feld->setMinimumWidth(breite);
     }
@@ -113,27 +113,27 @@ void frmDocument::PasseZiffernAn() {
 
 // The values take the width they need and no more; the beams get the rest.
 void frmDocument::PasseBreiteAn() {
-    const int rollbalken = m_ui->Rollbereich->verticalScrollBar()->sizeHint().width();
-    m_ui->Rollbereich->setFixedWidth(m_ui->Frame1->minimumSizeHint().width() + rollbalken);
+    const int rollbalken = ui->Rollbereich->verticalScrollBar()->sizeHint().width();
+    ui->Rollbereich->setFixedWidth(ui->Frame1->minimumSizeHint().width() + rollbalken);
     const QString strahl = QString::fromStdString(Strahltext(BreitesterStrahl, BreitesterAbstand));
-    m_ui->sbStatusBar_2->setMinimumWidth(fontMetrics().horizontalAdvance(strahl));
+    ui->sbStatusBar_2->setMinimumWidth(fontMetrics().horizontalAdvance(strahl));
     OrdneStatuszeile();
 }
 
 // The panels of the status bar stand side by side, in a narrow view one above the other; the bar is as high
 // as the status text needs.
 void frmDocument::OrdneStatuszeile() {
-    QLabel& status = *m_ui->sbStatusBar_1;
-    QLabel& strahl = *m_ui->sbStatusBar_2;
+    QLabel& status = *ui->sbStatusBar_1;
+    QLabel& strahl = *ui->sbStatusBar_2;
     const bool schmal = width() < SchmalUnter * strahl.minimumWidth();
-    const QMargins rand = m_ui->Felder->contentsMargins();
-    const int abstand = m_ui->Felder->spacing();
+    const QMargins rand = ui->Felder->contentsMargins();
+    const int abstand = ui->Felder->spacing();
     const int zeile = fontMetrics().height();
     const int platz = width() - rand.left() - rand.right() - (schmal ? 0 : strahl.minimumWidth() + abstand);
     const int hoehe = std::max(zeile, status.heightForWidth(std::max(1, platz)));
-    m_ui->Felder->setDirection(schmal ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    ui->Felder->setDirection(schmal ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     strahl.setAlignment((schmal ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    m_ui->sbStatusBar->setFixedHeight(rand.top() + hoehe + (schmal ? abstand + zeile : 0) + rand.bottom());
+    ui->sbStatusBar->setFixedHeight(rand.top() + hoehe + (schmal ? abstand + zeile : 0) + rand.bottom());
 }
 
 } // namespace varnoth

@@ -24,15 +24,15 @@ void BeamBarControl::mousePressEvent(QMouseEvent* ereignis) {
     const int strahl = StrahlBei(stelle);
     const Aufteilung plan = Plan();
     const bool aufSkala = stelle.x() * devicePixelRatioF() < plan.senderLinks;
-    m_zugStart = stelle;
-    m_zugAusschnitt = m_ausschnitt;
-    m_bandEnde = GeraeteY(stelle);
+    zugStart = stelle;
+    zugAusschnitt = ausschnitt;
+    bandEnde = GeraeteY(stelle);
     if (ereignis->button() == Qt::MiddleButton || (ereignis->button() == Qt::LeftButton && aufSkala)) {
-        m_zug = Zug::Schieben;
+        zug = Zug::Schieben;
     } else if (ereignis->button() == Qt::LeftButton && strahl >= 0) {
         SetzeCursor(strahl);
-        m_zug = m_bedienart == Bedienart::Zoom ? Zug::Band : Zug::Malen;
-        if (m_zug == Zug::Malen)
+        zug = bedienart == Bedienart::Zoom ? Zug::Band : Zug::Malen;
+        if (zug == Zug::Malen)
             BeginneMalen(strahl);
     }
 }
@@ -43,14 +43,14 @@ void BeamBarControl::mouseMoveEvent(QMouseEvent* ereignis) {
 }
 
 void BeamBarControl::mouseReleaseEvent(QMouseEvent* /*ereignis*/) {
-    if (m_zug == Zug::Band)
+    if (zug == Zug::Band)
         BeendeBand();
-    m_zug = Zug::Keiner;
+    zug = Zug::Keiner;
     Geaendert();
 }
 
 void BeamBarControl::mouseDoubleClickEvent(QMouseEvent* ereignis) {
-    const bool zweiterKlick = m_bedienart == Bedienart::Blanking && StrahlBei(ereignis->position()) >= 0;
+    const bool zweiterKlick = bedienart == Bedienart::Blanking && StrahlBei(ereignis->position()) >= 0;
     if (zweiterKlick)
         mousePressEvent(ereignis);
     else if (ereignis->button() == Qt::LeftButton)
@@ -59,16 +59,16 @@ void BeamBarControl::mouseDoubleClickEvent(QMouseEvent* ereignis) {
 
 void BeamBarControl::wheelEvent(QWheelEvent* ereignis) {
     const double rasten = ereignis->angleDelta().y() / Raststufe;
-    const Ausschnitt vorher = m_ausschnitt;
+    const Ausschnitt vorher = ausschnitt;
     if (ereignis->modifiers().testFlag(Qt::ShiftModifier)) {
-        ZeigeAusschnitt(Verschoben(m_ausschnitt, Strahlanzahl(), rasten * m_ausschnitt.anzahl / Seite));
+        ZeigeAusschnitt(Verschoben(ausschnitt, Strahlanzahl(), rasten * ausschnitt.anzahl / Seite));
     } else {
         const double y = ereignis->position().y() * devicePixelRatioF();
         const double um =
-            std::clamp(Plan().feld.Position(y), m_ausschnitt.unten, m_ausschnitt.unten + m_ausschnitt.anzahl);
-        ZeigeAusschnitt(Gezoomt(m_ausschnitt, Strahlanzahl(), um, std::pow(Zoomstufe, rasten)));
+            std::clamp(Plan().feld.Position(y), ausschnitt.unten, ausschnitt.unten + ausschnitt.anzahl);
+        ZeigeAusschnitt(Gezoomt(ausschnitt, Strahlanzahl(), um, std::pow(Zoomstufe, rasten)));
     }
-    ereignis->setAccepted(vorher != m_ausschnitt);
+    ereignis->setAccepted(vorher != ausschnitt);
     ZeigeUnterMaus(StrahlBei(ereignis->position()));
 }
 
@@ -78,11 +78,11 @@ void BeamBarControl::keyPressEvent(QKeyEvent* ereignis) {
     if (Zoomtaste(ereignis->key()))
         return;
     if (const std::optional<int> ziel = Cursorziel(ereignis->key())) {
-        m_zeigeCursor = true;
+        zeigeCursor = true;
         SetzeCursor(std::clamp(*ziel, 0, Strahlanzahl() - 1));
-        ZeigeUnterMaus(m_cursor);
-    } else if (ereignis->key() == Qt::Key_Space && m_bedienart == Bedienart::Blanking) {
-        BeginneMalen(m_cursor);
+        ZeigeUnterMaus(cursor);
+    } else if (ereignis->key() == Qt::Key_Space && bedienart == Bedienart::Blanking) {
+        BeginneMalen(cursor);
     } else {
         QWidget::keyPressEvent(ereignis);
     }
@@ -91,7 +91,7 @@ void BeamBarControl::keyPressEvent(QKeyEvent* ereignis) {
 // The cursor shows to those who use the keyboard.
 void BeamBarControl::focusInEvent(QFocusEvent* ereignis) {
     QWidget::focusInEvent(ereignis);
-    m_zeigeCursor = ereignis->reason() == Qt::TabFocusReason || ereignis->reason() == Qt::BacktabFocusReason;
+    zeigeCursor = ereignis->reason() == Qt::TabFocusReason || ereignis->reason() == Qt::BacktabFocusReason;
     Geaendert();
 }
 
@@ -101,11 +101,11 @@ void BeamBarControl::focusOutEvent(QFocusEvent* ereignis) {
 }
 
 bool BeamBarControl::Zoomtaste(int taste) {
-    const double mitte = m_cursor + 0.5;
+    const double mitte = cursor + 0.5;
     if (taste == Qt::Key_Plus)
-        ZeigeAusschnitt(Gezoomt(m_ausschnitt, Strahlanzahl(), mitte, Zoomstufe));
+        ZeigeAusschnitt(Gezoomt(ausschnitt, Strahlanzahl(), mitte, Zoomstufe));
     else if (taste == Qt::Key_Minus)
-        ZeigeAusschnitt(Gezoomt(m_ausschnitt, Strahlanzahl(), mitte, 1 / Zoomstufe));
+        ZeigeAusschnitt(Gezoomt(ausschnitt, Strahlanzahl(), mitte, 1 / Zoomstufe));
     else if (taste == Qt::Key_0)
         ZeigeAlles();
     else
@@ -116,13 +116,13 @@ bool BeamBarControl::Zoomtaste(int taste) {
 std::optional<int> BeamBarControl::Cursorziel(int taste) const {
     switch (taste) {
     case Qt::Key_Up:
-        return m_cursor + 1;
+        return cursor + 1;
     case Qt::Key_Down:
-        return m_cursor - 1;
+        return cursor - 1;
     case Qt::Key_PageUp:
-        return m_cursor + Seite;
+        return cursor + Seite;
     case Qt::Key_PageDown:
-        return m_cursor - Seite;
+        return cursor - Seite;
     case Qt::Key_Home:
         return 0;
     case Qt::Key_End:
@@ -133,22 +133,22 @@ std::optional<int> BeamBarControl::Cursorziel(int taste) const {
 }
 
 void BeamBarControl::SetzeCursor(int strahl) {
-    m_cursor = strahl;
-    m_ausschnitt = MitStrahl(m_ausschnitt, Strahlanzahl(), strahl);
+    cursor = strahl;
+    ausschnitt = MitStrahl(ausschnitt, Strahlanzahl(), strahl);
     Geaendert();
 }
 
 void BeamBarControl::ZeigeUnterMaus(int strahl) {
-    if (strahl == m_zeiger)
+    if (strahl == zeiger)
         return;
-    m_zeiger = strahl;
+    zeiger = strahl;
     emit StrahlUnterMaus(strahl);
     Geaendert();
 }
 
 void BeamBarControl::Blanke(int strahl, bool geblankt) {
     const Strahlzustand zustand = geblankt ? Strahlzustand::Geblankt : Strahlzustand::Frei;
-    Strahlzustand& alter = m_zustaende[static_cast<std::size_t>(strahl)];
+    Strahlzustand& alter = zustaende[static_cast<std::size_t>(strahl)];
     if (alter == zustand)
         return;
     alter = zustand;
@@ -157,41 +157,40 @@ void BeamBarControl::Blanke(int strahl, bool geblankt) {
 }
 
 void BeamBarControl::BeginneMalen(int strahl) {
-    m_malzustand = Zustand(strahl) != Strahlzustand::Geblankt;
-    m_letzterGemalt = strahl;
+    malzustand = Zustand(strahl) != Strahlzustand::Geblankt;
+    letzterGemalt = strahl;
     Male(strahl, strahl);
 }
 
 void BeamBarControl::Male(int von, int bis) {
     for (int strahl = std::min(von, bis); strahl <= std::max(von, bis); ++strahl)
-        Blanke(strahl, m_malzustand);
+        Blanke(strahl, malzustand);
 }
 
 void BeamBarControl::ZieheWeiter(const QPointF& stelle) {
-    if (m_zug == Zug::Keiner)
+    if (zug == Zug::Keiner)
         return;
     const Strahlfeld feld = Plan().feld;
     const int y = std::clamp(GeraeteY(stelle), feld.oben, feld.oben + feld.hoehe - 1);
-    if (m_zug == Zug::Schieben) {
-        const double um =
-            (stelle.y() - m_zugStart.y()) * devicePixelRatioF() / std::max(feld.Teilung(), 1e-6);
-        ZeigeAusschnitt(Verschoben(m_zugAusschnitt, Strahlanzahl(), um));
-    } else if (m_zug == Zug::Band) {
-        m_bandEnde = y;
+    if (zug == Zug::Schieben) {
+        const double um = (stelle.y() - zugStart.y()) * devicePixelRatioF() / std::max(feld.Teilung(), 1e-6);
+        ZeigeAusschnitt(Verschoben(zugAusschnitt, Strahlanzahl(), um));
+    } else if (zug == Zug::Band) {
+        bandEnde = y;
         Geaendert();
     } else if (const int strahl = feld.StrahlBei(y); strahl >= 0) {
-        Male(m_letzterGemalt, strahl);
-        m_letzterGemalt = strahl;
+        Male(letzterGemalt, strahl);
+        letzterGemalt = strahl;
     }
 }
 
 void BeamBarControl::BeendeBand() {
-    const int start = GeraeteY(m_zugStart);
-    if (std::abs(start - m_bandEnde) < MindestBand * devicePixelRatioF())
+    const int start = GeraeteY(zugStart);
+    if (std::abs(start - bandEnde) < MindestBand * devicePixelRatioF())
         return;
     const Strahlfeld feld = Plan().feld;
-    const double unten = std::floor(feld.Position(std::max(start, m_bandEnde)));
-    const double oben = std::ceil(feld.Position(std::min(start, m_bandEnde)));
+    const double unten = std::floor(feld.Position(std::max(start, bandEnde)));
+    const double oben = std::ceil(feld.Position(std::min(start, bandEnde)));
     const double mitte = (unten + oben) / 2;
     const double anzahl = std::max(oben - unten, MindestAusschnitt);
     ZeigeAusschnitt({mitte - anzahl / 2, anzahl});

@@ -33,30 +33,30 @@ BeamBarControl::BeamBarControl(QWidget* eltern) : QWidget(eltern) {
 void BeamBarControl::SetzeStrahlanzahl(int anzahl) {
     if (anzahl < 0 || anzahl == Strahlanzahl())
         return;
-    m_zustaende.resize(static_cast<std::size_t>(anzahl), Strahlzustand::Frei);
-    m_ausschnitt = GanzerAusschnitt(anzahl);
-    m_gewaehlt = IstStrahl(m_gewaehlt) ? m_gewaehlt : -1;
-    m_cursor = IstStrahl(m_cursor) ? m_cursor : 0;
-    m_zug = Zug::Keiner;
-    ZeigeUnterMaus(IstStrahl(m_zeiger) ? m_zeiger : -1);
+    zustaende.resize(static_cast<std::size_t>(anzahl), Strahlzustand::Frei);
+    ausschnitt = GanzerAusschnitt(anzahl);
+    gewaehlt = IstStrahl(gewaehlt) ? gewaehlt : -1;
+    cursor = IstStrahl(cursor) ? cursor : 0;
+    zug = Zug::Keiner;
+    ZeigeUnterMaus(IstStrahl(zeiger) ? zeiger : -1);
     Geaendert();
 }
 
 void BeamBarControl::SetzeStrahlabstand(int mm) {
-    if (mm == m_abstandMm)
+    if (mm == abstandMm)
         return;
-    m_abstandMm = mm;
+    abstandMm = mm;
     Geaendert();
 }
 
 void BeamBarControl::WaehleStrahl(int index) {
-    m_gewaehlt = IstStrahl(index) ? index : -1;
+    gewaehlt = IstStrahl(index) ? index : -1;
 }
 
 void BeamBarControl::SetzeZustand(Strahlzustand zustand) {
-    if (m_gewaehlt < 0)
+    if (gewaehlt < 0)
         return;
-    Strahlzustand& alter = m_zustaende[static_cast<std::size_t>(m_gewaehlt)];
+    Strahlzustand& alter = zustaende[static_cast<std::size_t>(gewaehlt)];
     if (alter == zustand)
         return;
     alter = zustand;
@@ -64,28 +64,28 @@ void BeamBarControl::SetzeZustand(Strahlzustand zustand) {
 }
 
 Strahlzustand BeamBarControl::Zustand() const {
-    return Zustand(m_gewaehlt);
+    return Zustand(gewaehlt);
 }
 
 Strahlzustand BeamBarControl::Zustand(int index) const {
-    return IstStrahl(index) ? m_zustaende[static_cast<std::size_t>(index)] : Strahlzustand::Frei;
+    return IstStrahl(index) ? zustaende[static_cast<std::size_t>(index)] : Strahlzustand::Frei;
 }
 
 void BeamBarControl::SetzeAutomatischesZeichnen(bool an) {
-    m_automatisch = an;
-    if (an && m_geaendert)
+    automatisch = an;
+    if (an && geaendert)
         Geaendert();
 }
 
 void BeamBarControl::SetzeBedienart(Bedienart art) {
-    m_bedienart = art;
+    bedienart = art;
 }
 
-void BeamBarControl::ZeigeAusschnitt(const Ausschnitt& ausschnitt) {
-    const Ausschnitt neuer = Begrenzt(ausschnitt, Strahlanzahl());
-    if (neuer == m_ausschnitt)
+void BeamBarControl::ZeigeAusschnitt(const Ausschnitt& gewuenscht) {
+    const Ausschnitt neuer = Begrenzt(gewuenscht, Strahlanzahl());
+    if (neuer == ausschnitt)
         return;
-    m_ausschnitt = neuer;
+    ausschnitt = neuer;
     Geaendert();
 }
 
@@ -123,14 +123,14 @@ void BeamBarControl::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     const double dichte = StelleAufGeraetepixel(maler);
     Marken marken;
-    marken.zeiger = m_zeiger;
-    marken.cursor = hasFocus() && m_zeigeCursor && IstStrahl(m_cursor) ? m_cursor : -1;
-    if (m_zug == Zug::Band) {
-        const int start = GeraeteY(m_zugStart);
-        marken.bandOben = std::min(start, m_bandEnde);
-        marken.bandHoehe = std::abs(start - m_bandEnde);
+    marken.zeiger = zeiger;
+    marken.cursor = hasFocus() && zeigeCursor && IstStrahl(cursor) ? cursor : -1;
+    if (zug == Zug::Band) {
+        const int start = GeraeteY(zugStart);
+        marken.bandOben = std::min(start, bandEnde);
+        marken.bandHoehe = std::abs(start - bandEnde);
     }
-    m_bild.Zeichne(maler, Vorgabe(dichte), palette(), m_zustaende, marken);
+    bild.Zeichne(maler, Vorgabe(dichte), palette(), zustaende, marken);
 }
 
 Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
@@ -138,7 +138,7 @@ Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
     schrift.setPixelSize(std::max(1, static_cast<int>(std::lround(QFontInfo(font()).pixelSize() * dichte))));
     const QSize groesse(static_cast<int>(std::ceil(width() * dichte)),
                         static_cast<int>(std::ceil(height() * dichte)));
-    return {groesse, dichte, schrift, Strahlanzahl(), m_abstandMm, m_ausschnitt};
+    return {groesse, dichte, schrift, Strahlanzahl(), abstandMm, ausschnitt};
 }
 
 Aufteilung BeamBarControl::Plan() const {
@@ -150,8 +150,8 @@ int BeamBarControl::GeraeteY(const QPointF& stelle) const {
 }
 
 void BeamBarControl::Geaendert() {
-    m_geaendert = !m_automatisch;
-    if (m_automatisch)
+    geaendert = !automatisch;
+    if (automatisch)
         update();
 }
 

@@ -24,10 +24,10 @@ public:
 
     /// Sets the number of beams, 0 and up; beams that are new are free. Another number shows all beams again.
     void SetzeStrahlanzahl(int anzahl);
-    int Strahlanzahl() const { return static_cast<int>(m_zustaende.size()); }
+    int Strahlanzahl() const { return static_cast<int>(zustaende.size()); }
     /// Sets the distance of two beams in millimetres; without one (0) there is no scale.
     void SetzeStrahlabstand(int mm);
-    int Strahlabstand() const { return m_abstandMm; }
+    int Strahlabstand() const { return abstandMm; }
 
     /// Selects the beam that the next two operations mean. An index that is no beam selects none.
     void WaehleStrahl(int index);
@@ -42,10 +42,10 @@ public:
     void SetzeAutomatischesZeichnen(bool an);
 
     void SetzeBedienart(Bedienart art);
-    Bedienart Bedienung() const { return m_bedienart; }
+    Bedienart Bedienung() const { return bedienart; }
 
     /// The zoom window.
-    const Ausschnitt& SichtbarerAusschnitt() const { return m_ausschnitt; }
+    const Ausschnitt& SichtbarerAusschnitt() const { return ausschnitt; }
     void ZeigeAusschnitt(const Ausschnitt& ausschnitt);
     void ZeigeAlles();
 
@@ -93,24 +93,24 @@ private:
     bool Zoomtaste(int taste);
     std::optional<int> Cursorziel(int taste) const;
 
-    std::vector<Strahlzustand> m_zustaende;
-    int m_abstandMm = 0;
-    int m_gewaehlt = -1;
-    bool m_automatisch = true;
-    bool m_geaendert = false;
-    Bedienart m_bedienart = Bedienart::Zoom;
-    Ausschnitt m_ausschnitt;
-    Strahlbild m_bild;
+    std::vector<Strahlzustand> zustaende;
+    int abstandMm = 0;
+    int gewaehlt = -1;
+    bool automatisch = true;
+    bool geaendert = false;
+    Bedienart bedienart = Bedienart::Zoom;
+    Ausschnitt ausschnitt;
+    Strahlbild bild;
 
-    int m_zeiger = -1;
-    int m_cursor = 0;
-    bool m_zeigeCursor = false;
-    Zug m_zug = Zug::Keiner;
-    QPointF m_zugStart;
-    Ausschnitt m_zugAusschnitt;
-    int m_bandEnde = 0;
-    int m_letzterGemalt = -1;
-    bool m_malzustand = false;
+    int zeiger = -1;
+    int cursor = 0;
+    bool zeigeCursor = false;
+    Zug zug = Zug::Keiner;
+    QPointF zugStart;
+    Ausschnitt zugAusschnitt;
+    int bandEnde = 0;
+    int letzterGemalt = -1;
+    bool malzustand = false;
 };
 
 } // namespace varnoth

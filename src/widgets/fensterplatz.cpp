@@ -73,9 +73,9 @@ Qt::WindowStates MitZustand(Qt::WindowStates alter, int zustand) {
 // that was hidden its state when it appears.
 class Verfolger : public QObject {
 public:
-    explicit Verfolger(QWidget& rahmen)
-        : QObject(&rahmen), m_rahmen(rahmen), m_normal(rahmen.pos(), rahmen.size()) {
-        rahmen.installEventFilter(this);
+    explicit Verfolger(QWidget& fenster)
+        : QObject(&fenster), rahmen(fenster), normal(fenster.pos(), fenster.size()) {
+        fenster.installEventFilter(this);
     }
 
     static Verfolger* Von(const QWidget& rahmen) {
@@ -85,31 +85,31 @@ public:
         return nullptr;
     }
 
-    QRect Normalplatz() const { return m_normal; }
-    void SetzeNormalplatz(const QRect& platz) { m_normal = platz; }
-    void BeimErscheinen(int zustand) { m_beimErscheinen = zustand; }
+    QRect Normalplatz() const { return normal; }
+    void SetzeNormalplatz(const QRect& platz) { normal = platz; }
+    void BeimErscheinen(int zustand) { beimErscheinen = zustand; }
 
     bool eventFilter(QObject* objekt, QEvent* ereignis) override {
         if (ereignis->type() == QEvent::Move || ereignis->type() == QEvent::Resize)
             Merke();
-        if (ereignis->type() == QEvent::Show && m_beimErscheinen)
-            Erscheine(*std::exchange(m_beimErscheinen, std::nullopt));
+        if (ereignis->type() == QEvent::Show && beimErscheinen)
+            Erscheine(*std::exchange(beimErscheinen, std::nullopt));
         return QObject::eventFilter(objekt, ereignis);
     }
 
 private:
     void Merke() {
-        if (m_rahmen.isVisible() && !m_beimErscheinen && !m_rahmen.isMaximized() && !m_rahmen.isMinimized())
-            m_normal = QRect(m_rahmen.pos(), m_rahmen.size());
+        if (rahmen.isVisible() && !beimErscheinen && !rahmen.isMaximized() && !rahmen.isMinimized())
+            normal = QRect(rahmen.pos(), rahmen.size());
     }
     void Erscheine(int zustand) {
-        Stelle(m_rahmen, m_normal);
-        m_rahmen.setWindowState(MitZustand(m_rahmen.windowState(), zustand));
+        Stelle(rahmen, normal);
+        rahmen.setWindowState(MitZustand(rahmen.windowState(), zustand));
     }
 
-    QWidget& m_rahmen;
-    QRect m_normal;
-    std::optional<int> m_beimErscheinen;
+    QWidget& rahmen;
+    QRect normal;
+    std::optional<int> beimErscheinen;
 };
 
 Verfolger& VerfolgerVon(QWidget& rahmen) {

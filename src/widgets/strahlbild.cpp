@@ -63,36 +63,35 @@ Aufteilung TeileAuf(const Bildvorgabe& vorgabe) {
     return plan;
 }
 
-void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& vorgabe, const QPalette& palette,
+void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& neueVorgabe, const QPalette& neuePalette,
                          std::span<const Strahlzustand> zustaende, const Marken& marken) {
-    Bereite(vorgabe, palette);
-    maler.drawPixmap(0, 0, m_hintergrund);
+    Bereite(neueVorgabe, neuePalette);
+    maler.drawPixmap(0, 0, hintergrund);
     ZeichneStrahlen(maler, zustaende);
     ZeichneMarken(maler, marken);
 }
 
-void Strahlbild::Bereite(const Bildvorgabe& vorgabe, const QPalette& palette) {
-    if (!m_hintergrund.isNull() && vorgabe == m_vorgabe && palette == m_palette)
+void Strahlbild::Bereite(const Bildvorgabe& neueVorgabe, const QPalette& neuePalette) {
+    if (!hintergrund.isNull() && neueVorgabe == vorgabe && neuePalette == palette)
         return;
-    m_vorgabe = vorgabe;
-    m_palette = palette;
-    m_farben = FarbenAus(palette);
-    m_aufteilung = TeileAuf(vorgabe);
-    m_hintergrund = Hintergrund(vorgabe, m_aufteilung, m_farben);
-    m_muster =
-        Musterbogen({m_aufteilung.strahlenBreite, m_aufteilung.feld.Teilung(), vorgabe.dichte}, m_farben);
+    vorgabe = neueVorgabe;
+    palette = neuePalette;
+    farben = FarbenAus(palette);
+    aufteilung = TeileAuf(vorgabe);
+    hintergrund = Hintergrund(vorgabe, aufteilung, farben);
+    muster = Musterbogen({aufteilung.strahlenBreite, aufteilung.feld.Teilung(), vorgabe.dichte}, farben);
 }
 
 void Strahlbild::ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende) const {
-    const Strahlfeld& feld = m_aufteilung.feld;
-    const Musterformat format{m_aufteilung.strahlenBreite, feld.Teilung(), m_vorgabe.dichte};
-    const int links = m_aufteilung.strahlenLinks;
+    const Strahlfeld& feld = aufteilung.feld;
+    const Musterformat format{aufteilung.strahlenBreite, feld.Teilung(), vorgabe.dichte};
+    const int links = aufteilung.strahlenLinks;
     const std::vector<Zeile> zeilen = Zeilen(feld, zustaende);
     maler.save();
-    maler.setClipRect(links, feld.oben, m_aufteilung.strahlenBreite, feld.hoehe);
+    maler.setClipRect(links, feld.oben, aufteilung.strahlenBreite, feld.hoehe);
     for (const Zeile& zeile : zeilen)
-        maler.drawPixmap(QPoint(links, zeile.oben), m_muster, format.Stelle(zeile.zustand, zeile.hoehe));
-    maler.setClipRect(m_aufteilung.EmpfaengerLinks(), feld.oben, m_aufteilung.gehaeuse, feld.hoehe);
+        maler.drawPixmap(QPoint(links, zeile.oben), muster, format.Stelle(zeile.zustand, zeile.hoehe));
+    maler.setClipRect(aufteilung.EmpfaengerLinks(), feld.oben, aufteilung.gehaeuse, feld.hoehe);
     MeldeUnterbrochene(maler, zeilen);
     maler.restore();
 }
@@ -100,42 +99,41 @@ void Strahlbild::ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand>
 // On the receiver's long lens, where nothing else is hidden, a single row gets a mark high enough to be
 // found.
 void Strahlbild::MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& zeilen) const {
-    if (m_aufteilung.feld.Teilung() >= Masse::MeldungUnter * m_vorgabe.dichte)
+    if (aufteilung.feld.Teilung() >= Masse::MeldungUnter * vorgabe.dichte)
         return;
-    const auto pixel = [this](double logisch) { return Geraetepixel(logisch, m_vorgabe.dichte); };
-    const int links = m_aufteilung.EmpfaengerLinks() + pixel(Masse::Luecke) - pixel(1);
+    const auto pixel = [this](double logisch) { return Geraetepixel(logisch, vorgabe.dichte); };
+    const int links = aufteilung.EmpfaengerLinks() + pixel(Masse::Luecke) - pixel(1);
     const int mindestens = pixel(Masse::Meldung);
     for (const Zeile& zeile : zeilen) {
         if (zeile.zustand != Strahlzustand::Unterbrochen)
             continue;
         const int mehr = std::max(0, mindestens - zeile.hoehe);
         maler.fillRect(links, zeile.oben - mehr / 2, pixel(2 * Masse::Luecke), zeile.hoehe + mehr,
-                       m_farben.unterbrochen);
+                       farben.unterbrochen);
     }
 }
 
 void Strahlbild::ZeichneMarken(QPainter& maler, const Marken& marken) const {
-    const Strahlfeld& feld = m_aufteilung.feld;
-    const int links = m_aufteilung.strahlenLinks;
-    const int breite = m_aufteilung.strahlenBreite;
-    const double dichte = m_vorgabe.dichte;
+    const Strahlfeld& feld = aufteilung.feld;
+    const int links = aufteilung.strahlenLinks;
+    const int breite = aufteilung.strahlenBreite;
+    const double dichte = vorgabe.dichte;
     if (marken.cursor >= 0) {
         const int unten = feld.Unterkante(marken.cursor);
         const int oben = std::min(feld.Unterkante(marken.cursor + 1), unten - 1);
-        maler.setPen(
-            QPen(m_farben.marke, Geraetepixel(1, dichte), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        maler.setPen(QPen(farben.marke, Geraetepixel(1, dichte), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         maler.setBrush(Qt::NoBrush);
         maler.drawRect(links, oben - 1, breite - 1, unten - oben + 1);
     }
     if (marken.zeiger >= 0) {
         const double y = feld.Y(marken.zeiger + 0.5);
         maler.setRenderHint(QPainter::Antialiasing);
-        ZeichnePfeil(maler, links - 1, y, 5 * dichte, m_farben.marke);
-        ZeichnePfeil(maler, links + breite + 1, y, -5 * dichte, m_farben.marke);
+        ZeichnePfeil(maler, links - 1, y, 5 * dichte, farben.marke);
+        ZeichnePfeil(maler, links + breite + 1, y, -5 * dichte, farben.marke);
         maler.setRenderHint(QPainter::Antialiasing, false);
     }
     if (marken.bandHoehe > 0) {
-        QColor band = m_farben.marke;
+        QColor band = farben.marke;
         band.setAlphaF(0.25F);
         maler.fillRect(links, marken.bandOben, breite, marken.bandHoehe, band);
     }

@@ -62,12 +62,12 @@ private:
     void MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& zeilen) const;
     void ZeichneMarken(QPainter& maler, const Marken& marken) const;
 
-    Bildvorgabe m_vorgabe;
-    QPalette m_palette;
-    Strahlfarben m_farben;
-    Aufteilung m_aufteilung;
-    QPixmap m_hintergrund;
-    QPixmap m_muster;
+    Bildvorgabe vorgabe;
+    QPalette palette;
+    Strahlfarben farben;
+    Aufteilung aufteilung;
+    QPixmap hintergrund;
+    QPixmap muster;
 };
 
 } // namespace varnoth
