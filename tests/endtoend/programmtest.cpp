@@ -2,7 +2,10 @@
 
 #include "polling.h"
 
+#include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 namespace varnoth::pruefung {
 
@@ -79,6 +82,13 @@ std::vector<int> ProgrammTest::GezeigteWerte(int teil) {
 
 std::string ProgrammTest::Statusfeld(int nummer) {
     return Kind<QLabel>(Hauptfenster(), QStringLiteral("sbStatusBar_%1").arg(nummer)).text().toStdString();
+}
+
+bool ProgrammTest::HatLeitungOffen() const {
+    const QString leitung = QFileInfo(geraet->Geraet()).canonicalFilePath();
+    const auto offene = QDir("/proc/self/fd").entryInfoList(QDir::Files | QDir::System);
+    return std::ranges::any_of(offene,
+                               [&](const QFileInfo& datei) { return datei.symLinkTarget() == leitung; });
 }
 
 bool ProgrammTest::IstLive() {

@@ -65,6 +65,8 @@ protected:
     std::vector<int> GezeigteWerte(int teil);
     std::string Statusfeld(int nummer);
     const std::vector<std::string>& Meldungen() const { return fahrer.Meldungen(); }
+    /// Whether this process has the controller's line open, by what the operating system knows.
+    bool HatLeitungOffen() const;
     /// Whether whole passes come in over a line that answers.
     static bool IstLive();
 

@@ -16,7 +16,11 @@ namespace varnoth::pruefung {
 
 namespace {
 
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 std::vector<int> GemesseneWerte(Simulatorprozess& geraet, int teil, int versatz = 0) {
     std::vector<int> werte;
@@ -148,6 +152,28 @@ TEST_F(StartUndLivebild, Only_the_parts_that_are_there_have_a_view) {
     EXPECT_FALSE(Ansicht(1).isVisible());
     EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_1").isVisible());
     EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_2").isVisible());
+}
+
+TEST_F(StartUndLivebild, Without_any_part_the_user_is_told_and_only_the_controllers_state_is_polled) {
+    SchliesseGeraetAn({"--beams", "16"});
+    geraet->Befehl("part 0 remove");
+    Starte();
+    programm->Verbinde();
+    EXPECT_THAT(Meldungen(), ElementsAre(StartsWith("Es ist kein Optikteil am Varnoth angeschlossen!")));
+    geraet->Befehl("stats clear");
+    ASSERT_TRUE(LaufeDurchgaenge(5));
+    EXPECT_THAT(geraet->Befehl("stats"), AllOf(StartsWith("03=5 "), HasSubstr(" 10=0 ")));
+}
+
+TEST_F(StartUndLivebild, A_part_with_another_beam_count_than_before_is_named) {
+    SchliesseGeraetAn();
+    geraet->Befehl("beams 1 48");
+    Starte();
+    programm->Verbinde();
+    EXPECT_THAT(Meldungen(),
+                ElementsAre(StartsWith("Optikteil2\r\n   Die Strahlenanzahl eines Optikteiles")));
+    EXPECT_EQ(modDaten::Strahlenzahl(1), 48);
+    EXPECT_TRUE(LaufeBis(IstLive));
 }
 
 TEST_F(StartUndLivebild, All_512_beams_of_one_part_are_shown) {
