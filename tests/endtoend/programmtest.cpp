@@ -13,6 +13,15 @@ namespace {
 constexpr const char* Einstellungsdatei = "varnoth.ini";
 }
 
+Zeitgrenze::Zeitgrenze(frmMain& hauptfenster, int hoechstensMs) {
+    QObject::connect(&wecker, &QTimer::timeout, &hauptfenster, [&hauptfenster] {
+        ADD_FAILURE() << "the program does not come back";
+        hauptfenster.close();
+    });
+    wecker.setSingleShot(true);
+    wecker.start(hoechstensMs);
+}
+
 ProgrammTest::ProgrammTest() {
     // What the offscreen platform says of the splash window.
     ErwarteWarnung("does not support raise()");
@@ -47,10 +56,15 @@ void ProgrammTest::Starte(const QStringList& worte) {
     ASSERT_TRUE(programm->Starte());
 }
 
+void ProgrammTest::Verbinde() {
+    const Zeitgrenze grenze(Hauptfenster(), LaengsterAblaufMs);
+    programm->Verbinde();
+}
+
 void ProgrammTest::GeheLive(const QStringList& optionen) {
     SchliesseGeraetAn(optionen);
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
 }
 

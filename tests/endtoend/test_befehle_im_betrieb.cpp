@@ -124,7 +124,7 @@ TEST_F(BefehleImBetrieb, Another_port_leads_to_the_controller_there) {
     SchreibeEinstellungen("[Settings]\nComGeraet1=" + geraet->Geraet().toUtf8() +
                           "\nComGeraet3=" + zweites.Geraet().toUtf8() + "\n");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     ASSERT_TRUE(FuehreAus("mnuCom_3"));
     ASSERT_TRUE(StarteLiveDaten());
@@ -212,7 +212,7 @@ TEST_F(BefehleImBetrieb, The_views_stand_where_they_stood_when_the_program_start
     ASSERT_TRUE(LaufeBis([this] { return !programm->Runde(); }));
     Beende();
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     EXPECT_EQ(Rahmen(2).geometry(), vorher);
 }

@@ -81,7 +81,7 @@ protected:
                       [this] { Hauptfenster().close(); });
         QElapsedTimer uhr;
         uhr.start();
-        programm->Verbinde();
+        Verbinde();
         EXPECT_FALSE(programm->Runde());
         return uhr.elapsed();
     }
@@ -164,7 +164,7 @@ TEST_F(LeitungImBetrieb, Identification_goes_on_when_the_line_is_plugged_in) {
     Starte();
     fahrer.Sobald([] { return SichtbaresFenster("frmIdentifikationsAnforderung") != nullptr; },
                   [this] { geraet->Befehl("plug"); });
-    programm->Verbinde();
+    Verbinde();
     EXPECT_TRUE(LaufeBis(IstLive));
     EXPECT_THAT(Meldungen(), IsEmpty());
 }
@@ -177,7 +177,7 @@ TEST_F(LeitungImBetrieb, A_line_pulled_out_while_the_configuration_is_read_only_
                       geraet->Befehl("unplug");
                       geraet->Befehl("plug");
                   });
-    programm->Verbinde();
+    Verbinde();
     EXPECT_TRUE(LaufeBis(IstLive));
     EXPECT_EQ(AlleTitel(), ViermalTitel(". Optikteil online"));
 }

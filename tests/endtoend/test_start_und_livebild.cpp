@@ -129,7 +129,7 @@ TEST_F(StartUndLivebild, Blanked_beams_are_drawn_so_and_left_out_of_the_values) 
     geraet->Befehl("scene beams 0 interrupted 1-4");
     geraet->Befehl("set specific 0 52 " + std::to_string(0x0300)); // beams 1 and 2
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     EXPECT_EQ(Strahlen(Ansicht(0), Strahlzustand::Geblankt), (std::vector{1, 2}));
     EXPECT_EQ(GezeigteWerte(0), (std::vector{3, 4, 2, 5, 32, 28}));
@@ -139,7 +139,7 @@ TEST_F(StartUndLivebild, Every_register_of_the_configuration_is_the_controllers_
     SchliesseGeraetAn();
     geraet->Befehl("scene freeze");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     for (const Speicherbereich bereich : AlleSpeicherbereiche)
         EXPECT_GT(VergleicheBereich(*geraet, bereich), 0);
@@ -158,7 +158,7 @@ TEST_F(StartUndLivebild, Without_any_part_the_user_is_told_and_only_the_controll
     SchliesseGeraetAn({"--beams", "16"});
     geraet->Befehl("part 0 remove");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     EXPECT_THAT(Meldungen(), ElementsAre(StartsWith("Es ist kein Optikteil am Varnoth angeschlossen!")));
     geraet->Befehl("stats clear");
     ASSERT_TRUE(LaufeDurchgaenge(5));
@@ -169,7 +169,7 @@ TEST_F(StartUndLivebild, A_part_with_another_beam_count_than_before_is_named) {
     SchliesseGeraetAn();
     geraet->Befehl("beams 1 48");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     EXPECT_THAT(Meldungen(),
                 ElementsAre(StartsWith("Optikteil2\r\n   Die Strahlenanzahl eines Optikteiles")));
     EXPECT_EQ(modDaten::Strahlenzahl(1), 48);
