@@ -22,14 +22,14 @@ void Fahrer::Sobald(std::function<bool()> bedingung, std::function<void()> aktio
 }
 
 void Fahrer::Blicke() {
-    if (auto* meldung = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-        Beantworte(*meldung);
     const auto faellig = std::ranges::find_if(plan, [](const auto& vorhaben) { return vorhaben.first(); });
-    if (faellig == plan.end())
-        return;
-    const auto aktion = std::move(faellig->second);
-    plan.erase(faellig);
-    aktion();
+    if (faellig != plan.end()) {
+        const auto aktion = std::move(faellig->second);
+        plan.erase(faellig);
+        aktion();
+    } else if (auto* meldung = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        Beantworte(*meldung);
+    }
 }
 
 void Fahrer::Beantworte(QMessageBox& meldung) {

@@ -13,8 +13,8 @@ class QMessageBox;
 namespace varnoth::pruefung {
 
 /// The user at the screen. He looks at it every few milliseconds, also while the program waits or shows a
-/// dialog: he writes every message box down and presses its default button, and does what was planned once
-/// its time has come.
+/// dialog: he does what was planned once its time has come, else he writes a message box down and presses its
+/// default button.
 class Fahrer {
 public:
     Fahrer();

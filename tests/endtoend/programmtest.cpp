@@ -2,12 +2,24 @@
 
 #include "polling.h"
 
+#include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 namespace varnoth::pruefung {
 
 namespace {
 constexpr const char* Einstellungsdatei = "varnoth.ini";
+}
+
+Zeitgrenze::Zeitgrenze(frmMain& hauptfenster, int hoechstensMs) {
+    QObject::connect(&wecker, &QTimer::timeout, &hauptfenster, [&hauptfenster] {
+        ADD_FAILURE() << "the program does not come back";
+        hauptfenster.close();
+    });
+    wecker.setSingleShot(true);
+    wecker.start(hoechstensMs);
 }
 
 ProgrammTest::ProgrammTest() {
@@ -44,10 +56,15 @@ void ProgrammTest::Starte(const QStringList& worte) {
     ASSERT_TRUE(programm->Starte());
 }
 
+void ProgrammTest::Verbinde() {
+    const Zeitgrenze grenze(Hauptfenster(), LaengsterAblaufMs);
+    programm->Verbinde();
+}
+
 void ProgrammTest::GeheLive(const QStringList& optionen) {
     SchliesseGeraetAn(optionen);
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
 }
 
@@ -79,6 +96,13 @@ std::vector<int> ProgrammTest::GezeigteWerte(int teil) {
 
 std::string ProgrammTest::Statusfeld(int nummer) {
     return Kind<QLabel>(Hauptfenster(), QStringLiteral("sbStatusBar_%1").arg(nummer)).text().toStdString();
+}
+
+bool ProgrammTest::HatLeitungOffen() const {
+    const QString leitung = QFileInfo(geraet->Geraet()).canonicalFilePath();
+    const auto offene = QDir("/proc/self/fd").entryInfoList(QDir::Files | QDir::System);
+    return std::ranges::any_of(offene,
+                               [&](const QFileInfo& datei) { return datei.symLinkTarget() == leitung; });
 }
 
 bool ProgrammTest::IstLive() {

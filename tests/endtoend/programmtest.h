@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -17,6 +18,16 @@
 #include <vector>
 
 namespace varnoth::pruefung {
+
+/// Fails the test and closes the main window, so that the program comes out of whatever it waits for, when
+/// this object lives longer than allowed.
+class Zeitgrenze {
+public:
+    Zeitgrenze(frmMain& hauptfenster, int hoechstensMs);
+
+private:
+    QTimer wecker;
+};
 
 /// Setting of the tests that run the whole program in this process: its start-up, main loop and windows, and
 /// its serial port on the pseudo terminal of the simulated controller. Program, settings file, line and
@@ -36,6 +47,8 @@ protected:
 
     /// Runs the program's start-up.
     void Starte(const QStringList& worte = {});
+    /// Connects as the program does after its start-up.
+    void Verbinde();
     /// Starts with a controller, connects and waits for the first whole pass.
     void GeheLive(const QStringList& optionen = {});
     /// Ends the program; it can be started again.
@@ -44,6 +57,7 @@ protected:
     /// Runs the main loop until the condition holds or the time is up; gives whether it holds.
     template<class Bedingung>
     bool LaufeBis(Bedingung bedingung, int hoechstensMs = 15000) {
+        const Zeitgrenze grenze(Hauptfenster(), hoechstensMs + LaengsterAblaufMs);
         QElapsedTimer uhr;
         uhr.start();
         while (!bedingung())
@@ -65,8 +79,13 @@ protected:
     std::vector<int> GezeigteWerte(int teil);
     std::string Statusfeld(int nummer);
     const std::vector<std::string>& Meldungen() const { return fahrer.Meldungen(); }
+    /// Whether this process has the controller's line open, by what the operating system knows.
+    bool HatLeitungOffen() const;
     /// Whether whole passes come in over a line that answers.
     static bool IstLive();
+
+    /// What one round of the main loop may take at most: a lost connection is found out in ten seconds.
+    static constexpr int LaengsterAblaufMs = 15000;
 
     QTemporaryDir ordner;
     std::optional<Simulatorprozess> geraet;

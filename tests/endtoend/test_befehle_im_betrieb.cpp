@@ -5,7 +5,6 @@
 #include "polling.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
-#include "schnittstelle.h"
 #include "texte.h"
 #include "transaktionen.h"
 
@@ -41,8 +40,9 @@ protected:
 
 TEST_F(BefehleImBetrieb, Stop_closes_the_port_and_shows_the_parts_offline) {
     GeheLive();
+    ASSERT_TRUE(HatLeitungOffen());
     ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
-    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False);
+    EXPECT_FALSE(HatLeitungOffen());
     EXPECT_EQ(AlleTitel(), ViermalTitel(". Optikteil offline"));
     EXPECT_TRUE(Aktion("mnuMessdatenVisualisierenStart").isEnabled());
     EXPECT_FALSE(Aktion("mnuMessdatenVisualisierenStop").isEnabled());
@@ -124,7 +124,7 @@ TEST_F(BefehleImBetrieb, Another_port_leads_to_the_controller_there) {
     SchreibeEinstellungen("[Settings]\nComGeraet1=" + geraet->Geraet().toUtf8() +
                           "\nComGeraet3=" + zweites.Geraet().toUtf8() + "\n");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     ASSERT_TRUE(FuehreAus("mnuCom_3"));
     ASSERT_TRUE(StarteLiveDaten());
@@ -156,6 +156,16 @@ TEST_F(BefehleImBetrieb, A_view_opened_again_shows_live_data_again) {
     EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_1").isChecked());
 }
 
+TEST_F(BefehleImBetrieb, A_view_may_be_closed_while_its_data_are_on_the_way) {
+    GeheLive();
+    geraet->Befehl("fault pieces=30"); // each reply takes 60 ms, the beams are the third
+    QTimer::singleShot(150, &Hauptfenster(), [this] { Rahmen(0).close(); });
+    EXPECT_TRUE(LaufeBis([this] { return !Ansicht(0).isVisible(); }));
+    geraet->Befehl("fault none");
+    EXPECT_TRUE(LaufeDurchgaenge(2));
+    EXPECT_THAT(Meldungen(), IsEmpty());
+}
+
 TEST_F(BefehleImBetrieb, A_minimised_view_gets_no_data) {
     GeheLive();
     Unterbrich(11);
@@ -178,9 +188,10 @@ TEST_F(BefehleImBetrieb, A_view_that_is_no_longer_minimised_gets_data_again) {
 
 TEST_F(BefehleImBetrieb, Exit_ends_the_main_loop_and_gives_the_port_back) {
     GeheLive();
+    ASSERT_TRUE(HatLeitungOffen());
     Waehle("mnuBeenden");
     EXPECT_TRUE(LaufeBis([this] { return !programm->Runde(); }));
-    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False);
+    EXPECT_FALSE(HatLeitungOffen());
     EXPECT_THAT(Meldungen(), IsEmpty());
 }
 
@@ -201,7 +212,7 @@ TEST_F(BefehleImBetrieb, The_views_stand_where_they_stood_when_the_program_start
     ASSERT_TRUE(LaufeBis([this] { return !programm->Runde(); }));
     Beende();
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     EXPECT_EQ(Rahmen(2).geometry(), vorher);
 }

@@ -74,6 +74,17 @@ protected:
         EXPECT_TRUE(LaufeBis([this] { return fahrer.AllesGetan() && !Hauptfenster().BefehlWartet(); }));
         return dauer;
     }
+    /// Milliseconds until the program has ended after its main window was closed while a dialog tried in
+    /// vain.
+    qint64 DauerNachSchliessenBei(const QString& dialog) {
+        fahrer.Sobald([=] { return SichtbaresFenster(dialog) != nullptr; },
+                      [this] { Hauptfenster().close(); });
+        QElapsedTimer uhr;
+        uhr.start();
+        Verbinde();
+        EXPECT_FALSE(programm->Runde());
+        return uhr.elapsed();
+    }
 
     static constexpr int WartezeitMs = 300;
 };
@@ -136,13 +147,14 @@ TEST_F(LeitungImBetrieb, The_main_window_may_be_closed_while_a_pass_waits) {
 TEST_F(LeitungImBetrieb, The_main_window_may_be_closed_while_the_identification_is_tried) {
     SchliesseGeraetAn({"--fault", "silence"});
     Starte();
-    fahrer.Sobald([] { return SichtbaresFenster("frmIdentifikationsAnforderung") != nullptr; },
-                  [this] { Hauptfenster().close(); });
-    QElapsedTimer uhr;
-    uhr.start();
-    programm->Verbinde();
-    EXPECT_FALSE(programm->Runde());
-    EXPECT_LT(uhr.elapsed(), 2500);
+    EXPECT_LT(DauerNachSchliessenBei("frmIdentifikationsAnforderung"), 2500);
+    EXPECT_THAT(Meldungen(), IsEmpty());
+}
+
+TEST_F(LeitungImBetrieb, The_main_window_may_be_closed_while_the_configuration_is_read) {
+    SchliesseGeraetAn({"--fault", "silence@3"});
+    Starte();
+    EXPECT_LT(DauerNachSchliessenBei("frmKonfigurationLesenAusHardware"), 2500);
     EXPECT_THAT(Meldungen(), IsEmpty());
 }
 
@@ -152,7 +164,7 @@ TEST_F(LeitungImBetrieb, Identification_goes_on_when_the_line_is_plugged_in) {
     Starte();
     fahrer.Sobald([] { return SichtbaresFenster("frmIdentifikationsAnforderung") != nullptr; },
                   [this] { geraet->Befehl("plug"); });
-    programm->Verbinde();
+    Verbinde();
     EXPECT_TRUE(LaufeBis(IstLive));
     EXPECT_THAT(Meldungen(), IsEmpty());
 }
@@ -165,7 +177,7 @@ TEST_F(LeitungImBetrieb, A_line_pulled_out_while_the_configuration_is_read_only_
                       geraet->Befehl("unplug");
                       geraet->Befehl("plug");
                   });
-    programm->Verbinde();
+    Verbinde();
     EXPECT_TRUE(LaufeBis(IstLive));
     EXPECT_EQ(AlleTitel(), ViermalTitel(". Optikteil online"));
 }

@@ -63,6 +63,15 @@ TEST_F(OptikteileImBetrieb, A_part_that_returns_is_live_again) {
     EXPECT_EQ(GezeigteWerte(1).front(), 33);
 }
 
+TEST_F(OptikteileImBetrieb, The_main_window_may_be_closed_while_the_message_is_shown) {
+    GeheLive();
+    fahrer.Sobald([] { return SichtbaresFenster("Meldungsfenster") != nullptr; },
+                  [this] { Hauptfenster().close(); });
+    geraet->Befehl("part 1 remove");
+    EXPECT_TRUE(LaufeBis([this] { return !programm->Runde(); }));
+    EXPECT_EQ(SichtbaresFenster("Meldungsfenster"), nullptr);
+}
+
 TEST_F(OptikteileImBetrieb, The_last_part_may_come_and_go_as_any_other) {
     GeheLive();
     ASSERT_TRUE(NimmWeg(3));

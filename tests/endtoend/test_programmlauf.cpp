@@ -48,7 +48,7 @@ TEST_F(Programmlauf, The_built_in_controller_is_identified_read_and_measured) {
 }
 
 TEST_F(Programmlauf, A_controller_at_a_given_device_is_identified_read_and_measured) {
-    Simulatorprozess geraet(ordner.path(), {"--unpaced", "--address", "17", "--beams", "24,40"});
+    Simulatorprozess geraet(ordner.path(), {"--address", "17", "--beams", "24,40"});
     Programmprozess programm(ordner.path(), {"/Geraet=" + geraet.Geraet(), Selbsttest()});
     ASSERT_EQ(programm.WarteAufEnde(), 0) << programm.Fehlerausgabe();
     EXPECT_THAT(programm.Ausgabe(),

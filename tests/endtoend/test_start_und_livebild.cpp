@@ -16,7 +16,11 @@ namespace varnoth::pruefung {
 
 namespace {
 
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 std::vector<int> GemesseneWerte(Simulatorprozess& geraet, int teil, int versatz = 0) {
     std::vector<int> werte;
@@ -125,7 +129,7 @@ TEST_F(StartUndLivebild, Blanked_beams_are_drawn_so_and_left_out_of_the_values) 
     geraet->Befehl("scene beams 0 interrupted 1-4");
     geraet->Befehl("set specific 0 52 " + std::to_string(0x0300)); // beams 1 and 2
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     EXPECT_EQ(Strahlen(Ansicht(0), Strahlzustand::Geblankt), (std::vector{1, 2}));
     EXPECT_EQ(GezeigteWerte(0), (std::vector{3, 4, 2, 5, 32, 28}));
@@ -135,7 +139,7 @@ TEST_F(StartUndLivebild, Every_register_of_the_configuration_is_the_controllers_
     SchliesseGeraetAn();
     geraet->Befehl("scene freeze");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     ASSERT_TRUE(LaufeBis(IstLive));
     for (const Speicherbereich bereich : AlleSpeicherbereiche)
         EXPECT_GT(VergleicheBereich(*geraet, bereich), 0);
@@ -148,6 +152,28 @@ TEST_F(StartUndLivebild, Only_the_parts_that_are_there_have_a_view) {
     EXPECT_FALSE(Ansicht(1).isVisible());
     EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_1").isVisible());
     EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_2").isVisible());
+}
+
+TEST_F(StartUndLivebild, Without_any_part_the_user_is_told_and_only_the_controllers_state_is_polled) {
+    SchliesseGeraetAn({"--beams", "16"});
+    geraet->Befehl("part 0 remove");
+    Starte();
+    Verbinde();
+    EXPECT_THAT(Meldungen(), ElementsAre(StartsWith("Es ist kein Optikteil am Varnoth angeschlossen!")));
+    geraet->Befehl("stats clear");
+    ASSERT_TRUE(LaufeDurchgaenge(5));
+    EXPECT_THAT(geraet->Befehl("stats"), AllOf(StartsWith("03=5 "), HasSubstr(" 10=0 ")));
+}
+
+TEST_F(StartUndLivebild, A_part_with_another_beam_count_than_before_is_named) {
+    SchliesseGeraetAn();
+    geraet->Befehl("beams 1 48");
+    Starte();
+    Verbinde();
+    EXPECT_THAT(Meldungen(),
+                ElementsAre(StartsWith("Optikteil2\r\n   Die Strahlenanzahl eines Optikteiles")));
+    EXPECT_EQ(modDaten::Strahlenzahl(1), 48);
+    EXPECT_TRUE(LaufeBis(IstLive));
 }
 
 TEST_F(StartUndLivebild, All_512_beams_of_one_part_are_shown) {

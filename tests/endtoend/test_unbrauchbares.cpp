@@ -62,7 +62,7 @@ protected:
 TEST_F(Unbrauchbares, Garbage_instead_of_a_controller_is_tried_nine_times_and_reported) {
     const Datenmuell muell;
     Starte({"/Geraet=" + muell.Geraet()});
-    programm->Verbinde();
+    Verbinde();
     EXPECT_THAT(Meldungen(), ElementsAre(KeineVerbindung));
     EXPECT_TRUE(WarteBis([&] { return muell.Empfangen() >= 9 * LaengeDerIdentifikationsanforderung; }));
     EXPECT_EQ(muell.Empfangen(), 9 * LaengeDerIdentifikationsanforderung);
@@ -74,7 +74,7 @@ TEST_F(Unbrauchbares, After_garbage_another_port_leads_to_a_controller) {
     SchreibeEinstellungen("[Settings]\nComGeraet1=" + muell.Geraet().toUtf8() +
                           "\nComGeraet2=" + geraet->Geraet().toUtf8() + "\n");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     Waehle("mnuCom_2");
     ASSERT_TRUE(LaufeBis([this] { return !Hauptfenster().BefehlWartet(); }));
     EXPECT_TRUE(StarteLiveDaten());
@@ -85,7 +85,7 @@ TEST_F(Unbrauchbares, A_port_that_does_not_exist_leaves_the_program_usable_once_
     SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("nothing").toUtf8() + "\n");
     Starte();
     DrueckeSobaldDa("frmIdentifikationsAnforderung", "cmdCancel");
-    programm->Verbinde();
+    Verbinde();
     EXPECT_EQ(modPolling::GetPollingAktiv(), False);
     EXPECT_TRUE(programm->Runde());
     EXPECT_TRUE(Aktion("mnuMessdatenVisualisierenStart").isEnabled());
@@ -97,7 +97,7 @@ TEST_F(Unbrauchbares, A_controller_that_appears_after_a_cancel_is_found_by_start
     geraet->Befehl("unplug");
     Starte();
     DrueckeSobaldDa("frmIdentifikationsAnforderung", "cmdCancel");
-    programm->Verbinde();
+    Verbinde();
     geraet->Befehl("plug");
     EXPECT_TRUE(StarteLiveDaten());
 }
@@ -125,7 +125,7 @@ TEST_F(Unbrauchbares, Cancel_during_the_third_part_keeps_what_was_read_of_the_fi
         QObject::connect(qobject_cast<QDialog*>(&dialog), &QDialog::finished, &dialog, merke);
     };
     fahrer.Sobald([] { return SichtbaresFenster("frmKonfigurationLesenAusHardware") != nullptr; }, beobachte);
-    programm->Verbinde();
+    Verbinde();
     EXPECT_THAT(strahlenzahlen, ElementsAre(32, 64, 0, 0));
     EXPECT_EQ(aufloesungen, (std::vector<std::int32_t>{geraet->Register("specific 0 13"),
                                                        geraet->Register("specific 1 13"), 0, 0}));
@@ -135,7 +135,7 @@ TEST_F(Unbrauchbares, Cancel_while_reading_leaves_live_data_off) {
     SchliesseGeraetAn();
     Starte();
     DrueckeSobaldDa("frmKonfigurationLesenAusHardware", "cmdCancel");
-    programm->Verbinde();
+    Verbinde();
     EXPECT_EQ(modPolling::GetPollingAktiv(), False);
     EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False);
 }
@@ -144,7 +144,7 @@ TEST_F(Unbrauchbares, Implausible_data_are_reported_and_replaced_by_the_default_
     SchliesseGeraetAn();
     geraet->Befehl("set specific 0 13 60000");
     Starte();
-    programm->Verbinde();
+    Verbinde();
     EXPECT_THAT(Meldungen(), ElementsAre(LadeText(3102)));
     EXPECT_EQ(modDaten::Strahlenzahl(0), 0);
     EXPECT_EQ(modPolling::GetPollingAktiv(), False);
@@ -153,7 +153,7 @@ TEST_F(Unbrauchbares, Implausible_data_are_reported_and_replaced_by_the_default_
 TEST_F(Unbrauchbares, Switches_that_nobody_knows_are_ignored) {
     SchliesseGeraetAn();
     Starte({"/Quatsch", "-x", "/Com=9", "/Com=", "/Simula", "/", ""});
-    programm->Verbinde();
+    Verbinde();
     EXPECT_TRUE(LaufeBis([] { return IstLive(); }));
 }
 
@@ -175,12 +175,12 @@ TEST_F(Unbrauchbares, The_trace_of_a_second_run_replaces_that_of_the_first) {
     QDir::setCurrent(ordner.path());
     SchliesseGeraetAn();
     Starte({"/Tlogfile"});
-    programm->Verbinde();
+    Verbinde();
     Beende();
     ASSERT_THAT(LiesTrace(), HasSubstr("Read: 1H 11H"));
     Starte({"/Tlogfile", "/Geraet=" + Pfad("nothing")});
     DrueckeSobaldDa("frmIdentifikationsAnforderung", "cmdCancel");
-    programm->Verbinde();
+    Verbinde();
     Beende();
     EXPECT_THAT(LiesTrace(),
                 AllOf(StartsWith("Start\r\n"), Not(HasSubstr("Read:")), Not(HasSubstr("Write:"))));
