@@ -1,8 +1,8 @@
 #include "meldungsfenster.h"
 
+#include "fenstervorn.h"
 #include "texte.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
 #include <utility>
@@ -42,11 +42,6 @@ Antwort AlsAntwort(int knopf) {
         if (gedrueckt == knopf)
             return antwort;
     return Antwort::Abbrechen;
-}
-
-QWidget* FensterVorn() {
-    QWidget* modal = QApplication::activeModalWidget();
-    return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
 } // namespace

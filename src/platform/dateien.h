@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace varnoth {
+
+// Paths and error texts are UTF-8.
+
+/// What came of reading a file: its bytes, or the system's error text.
+struct Leseergebnis {
+    bool gelungen = false;
+    std::string bytes{};
+    std::string fehlertext{};
+};
+
+/// Reads a file from its beginning: all of it, or the given number of bytes where it is longer. A folder or
+/// a device is an error.
+Leseergebnis LiesDatei(const std::string& pfad, std::size_t hoechstens);
+
+/// Whether the path leads to something that exists, a folder included.
+bool GibtEsDatei(const std::string& pfad);
+
+/// Puts a file with these bytes in place of the one that is there, or creates it. At every moment, also when
+/// the program or the computer dies, the path leads to the old file or the new one, whole. Gives the
+/// system's error text, empty when all went well; after an error the old file is still there.
+std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes);
+
+} // namespace varnoth

@@ -1,0 +1,129 @@
+#include "konfigurationsbefehle.h"
+
+#include "dateidialog.h"
+#include "dateien.h"
+#include "einstellungen.h"
+#include "konfigurationsdatei.h"
+#include "plausibilitaet.h"
+#include "registerabbild.h"
+#include "texte.h"
+#include "umgebung.h"
+#include "zykluszeiten.h"
+
+#include <optional>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextDateifilter = 2000;
+constexpr std::int16_t TextErsetzen = 2001;
+constexpr std::int16_t TextOeffnen = 2004;
+constexpr std::int16_t TextSpeichernUnter = 2005;
+constexpr std::int16_t TextAenderungenSpeichern = 6002;
+
+constexpr const char* Abschnitt = "frmMain";
+constexpr const char* Schluessel = "mnuSpeichernUnter";
+
+std::string ZuletztGespeichert() {
+    return DieEinstellungen().LiesText(Abschnitt, Schluessel, "");
+}
+
+void ZeigeDateifehler(const std::string& fehlertext, const std::string& pfad) {
+    ZeigeWarnung(fehlertext + "\n" + pfad);
+}
+
+bool DarfErsetzen(const std::string& pfad) {
+    return DieUmgebung().ZeigeMeldung({.text = pfad + LadeText(TextErsetzen),
+                                       .symbol = Symbol::Warnung,
+                                       .knoepfe = Knoepfe::OkAbbrechen}) == Antwort::Ok;
+}
+
+/// A path that is free or may be replaced; nothing when the dialog was cancelled.
+std::optional<std::string> WaehleZiel() {
+    Dateifrage frage{.art = Dateiwahl::Speichern,
+                     .titel = LadeText(TextSpeichernUnter),
+                     .filter = LadeText(TextDateifilter),
+                     .name = modDaten::GetDateiname()};
+    while (auto pfad = FrageNachDatei(frage)) {
+        if (!GibtEsDatei(*pfad) || DarfErsetzen(*pfad))
+            return pfad;
+        frage.name = *pfad;
+    }
+    return std::nullopt;
+}
+
+bool Speichere(const std::string& pfad) {
+    const std::string fehler = ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei());
+    if (!fehler.empty()) {
+        ZeigeDateifehler(fehler, pfad);
+        return false;
+    }
+    DieEinstellungen().SchreibText(Abschnitt, Schluessel, pfad);
+    modDaten::LoescheGeaendert();
+    return true;
+}
+
+/// The folder part of a path, empty where it has none.
+std::string Ordner(const std::string& pfad) {
+    const auto ende = pfad.find_last_of("/\\");
+    return ende == std::string::npos ? std::string() : pfad.substr(0, ende + 1);
+}
+
+/// Where the user last had to do with a configuration file; empty = nowhere yet.
+std::string OrdnerZumOeffnen() {
+    const std::string geoeffnet = Ordner(modDaten::GetDateiname());
+    return geoeffnet.empty() ? Ordner(ZuletztGespeichert()) : geoeffnet;
+}
+
+Antwort FrageNachAenderungen() {
+    return DieUmgebung().ZeigeMeldung({.text = LadeText(TextAenderungenSpeichern),
+                                       .symbol = Symbol::Warnung,
+                                       .knoepfe = Knoepfe::JaNeinAbbrechen});
+}
+
+} // namespace
+
+bool KonfigurationSpeichernUnter() {
+    const auto pfad = WaehleZiel();
+    return pfad.has_value() && Speichere(*pfad);
+}
+
+bool KonfigurationOeffnen() {
+    const auto pfad = FrageNachDatei({.art = Dateiwahl::Oeffnen,
+                                      .titel = LadeText(TextOeffnen),
+                                      .filter = LadeText(TextDateifilter),
+                                      .ordner = OrdnerZumOeffnen()});
+    return pfad.has_value() && LadeDatei(*pfad);
+}
+
+bool LadeDatei(const std::string& pfad) {
+    const auto datei = LiesDatei(pfad, modDaten::LaengeKonfigurationsdatei);
+    if (!datei.gelungen) {
+        ZeigeDateifehler(datei.fehlertext, pfad);
+        return false;
+    }
+    const bool geladen = modDaten::LadeKonfigurationsdatei(datei.bytes) != False;
+    modDaten::SetDateiname(pfad);
+    const bool plausibel = modDaten::PruefeKonfiguration() != False;
+    modHilfsFunktionen::BerechneZykluszeiten();
+    return geladen && plausibel;
+}
+
+std::string LetzteKonfigurationsdatei() {
+    std::string pfad = ZuletztGespeichert();
+    return LiesDatei(pfad, 1).gelungen ? pfad : std::string();
+}
+
+bool FrageNachSpeichern() {
+    while (modDaten::IstGeaendert() != False) {
+        const Antwort antwort = FrageNachAenderungen();
+        if (antwort == Antwort::Abbrechen)
+            return false;
+        if (antwort == Antwort::Nein || KonfigurationSpeichernUnter())
+            modDaten::LoescheGeaendert();
+    }
+    return true;
+}
+
+} // namespace varnoth

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+namespace varnoth {
+
+// The commands around the configuration file. They show their dialogs, questions and messages themselves and
+// leave the views of the main window to their caller. Paths are UTF-8.
+
+/// Asks for a file name and saves the configuration there. An existing file is replaced only after a
+/// question; Cancel there leads back to the dialog. The path is remembered in the settings, the configuration
+/// then counts as unchanged. False when the dialog was cancelled or, after a warning box, when the file could
+/// not be written; an older file is then still there and the configuration still counts as changed.
+bool KonfigurationSpeichernUnter();
+
+/// Asks for a file and loads it with `LadeDatei`. False also when the dialog was cancelled.
+bool KonfigurationOeffnen();
+
+/// Loads a configuration file, checks its values and recomputes the cycle times. A file that cannot be read
+/// gives a warning box and changes nothing. A file that is read but no good gives its message and leaves the
+/// values as they are, but becomes the current file name, as a good one does. True when the image now holds
+/// the file's configuration.
+bool LadeDatei(const std::string& pfad);
+
+/// The file the configuration was last saved to; empty without one or when it cannot be read.
+std::string LetzteKonfigurationsdatei();
+
+/// Before the program ends: asks whether changes in the configuration shall be saved, if there are any, and
+/// saves them on Yes. True when the program may end; the changed mark is then cleared. A Yes after which
+/// nothing was saved (dialog cancelled, write failed) asks again, so that only a No gives changes up.
+bool FrageNachSpeichern();
+
+} // namespace varnoth

@@ -1,0 +1,363 @@
+#include "konfigurationsbefehle.h"
+
+#include "dateidialog.h"
+#include "dateien.h"
+#include "konfigurationsdatei.h"
+#include "plausibilitaet.h"
+#include "pruefumgebung.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "standardkonfiguration.h"
+#include "texte.h"
+#include "zykluszeiten.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <deque>
+
+namespace varnoth {
+
+namespace {
+
+using pruefung::PruefEinstellungen;
+using pruefung::PruefUmgebung;
+
+const std::pair<std::string, std::string> Eintrag{"frmMain", "mnuSpeichernUnter"};
+
+} // namespace
+
+/// A plausible configuration with a part of 32 beams, and a file dialog that answers from a list; with none
+/// left it is cancelled.
+class Konfigurationsbefehle : public testing::Test {
+protected:
+    Konfigurationsbefehle() {
+        AllesAufAnfang();
+        modDaten::LadeStandardkonfiguration();
+        modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {32});
+        modDaten::LoescheGeaendert();
+        SetzeDateiantwort([this](const Dateifrage& frage) -> std::optional<std::string> {
+            gefragt.push_back(frage);
+            if (gewaehlt.empty())
+                return std::nullopt;
+            const std::string pfad = gewaehlt.front();
+            gewaehlt.pop_front();
+            return pfad;
+        });
+    }
+    ~Konfigurationsbefehle() override {
+        SetzeDateiantwort({});
+        AllesAufAnfang();
+    }
+
+    std::string Pfad(const char* name) const {
+        return ordner.filePath(QString::fromUtf8(name)).toStdString();
+    }
+    static std::string Inhalt(const std::string& pfad) { return LiesDatei(pfad, 100000).bytes; }
+    /// A file that holds the image of this moment.
+    std::string Gespeichert(const char* name) const {
+        EXPECT_EQ(ErsetzeDatei(Pfad(name), modDaten::SpeichereKonfigurationsdatei()), "");
+        return Pfad(name);
+    }
+    void ErwarteEineWarnung(const std::string& text) const {
+        ASSERT_EQ(umgebung.meldungen.size(), 1U);
+        EXPECT_EQ(umgebung.meldungen[0], Meldung{.text = text});
+    }
+
+    PruefUmgebung umgebung;
+    PruefEinstellungen einstellungen;
+    QTemporaryDir ordner;
+    std::vector<Dateifrage> gefragt;
+    std::deque<std::string> gewaehlt;
+
+private:
+    static void AllesAufAnfang() {
+        modDaten::Zuruecksetzen();
+        modDaten::SetzeReaktionAufUnplausiblesAbbild({});
+        modHilfsFunktionen::Zuruecksetzen();
+        SetzeSprachoffset(Deutsch);
+    }
+};
+
+class Speichern : public Konfigurationsbefehle {};
+class Oeffnen : public Konfigurationsbefehle {};
+class Beendenfrage : public Konfigurationsbefehle {};
+
+TEST_F(Speichern, The_dialog_bears_title_and_filters_and_starts_in_the_programs_folder) {
+    KonfigurationSpeichernUnter();
+    ASSERT_EQ(gefragt.size(), 1U);
+    EXPECT_EQ(gefragt[0], (Dateifrage{.art = Dateiwahl::Speichern,
+                                      .titel = "Konfiguration speichern unter",
+                                      .filter = "Konfiguration (*.con)|*.con|Alle Dateien|*.*"}));
+}
+
+TEST_F(Speichern, The_dialog_is_in_the_chosen_language) {
+    SetzeSprachoffset(Englisch);
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(gefragt.at(0).titel, "Configuration save as");
+    EXPECT_EQ(gefragt.at(0).filter, "Configuration (*.con)|*.con|All Files   |*.*");
+}
+
+TEST_F(Speichern, The_name_of_the_opened_file_is_preset) {
+    modDaten::SetDateiname("/daten/Prüfstand.con");
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(gefragt.at(0).name, "/daten/Prüfstand.con");
+}
+
+TEST_F(Speichern, Cancelling_the_dialog_ends_silently) {
+    modDaten::SetzeGeaendert();
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(einstellungen.geschrieben, 0);
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(Speichern, A_saved_file_is_remembered_and_the_configuration_counts_as_unchanged) {
+    modDaten::SetzeGeaendert();
+    gewaehlt = {Pfad("Größe 1.con")};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    EXPECT_EQ(Inhalt(Pfad("Größe 1.con")), modDaten::SpeichereKonfigurationsdatei());
+    EXPECT_EQ(einstellungen.texte[Eintrag], Pfad("Größe 1.con"));
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Speichern, Saving_does_not_change_the_current_file_name) {
+    modDaten::SetDateiname("alt.con");
+    gewaehlt = {Pfad("neu.con")};
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(modDaten::GetDateiname(), "alt.con");
+}
+
+TEST_F(Speichern, A_path_of_200_characters_works) {
+    const std::string pfad = Pfad((std::string(196, 'x') + ".con").c_str());
+    gewaehlt = {pfad};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    EXPECT_TRUE(LadeDatei(pfad));
+}
+
+TEST_F(Speichern, An_existing_file_is_replaced_after_a_question_with_its_path) {
+    const std::string pfad = Pfad("da.con");
+    ErsetzeDatei(pfad, "alt");
+    gewaehlt = {pfad};
+    umgebung.antworten = {Antwort::Ok};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0],
+              (Meldung{.text = pfad + " ist bereits vorhanden.\nVorhandene Datei ersetzen?",
+                       .symbol = Symbol::Warnung,
+                       .knoepfe = Knoepfe::OkAbbrechen}));
+    EXPECT_EQ(Inhalt(pfad), modDaten::SpeichereKonfigurationsdatei());
+}
+
+TEST_F(Speichern, The_question_is_in_the_chosen_language) {
+    SetzeSprachoffset(Englisch);
+    ErsetzeDatei(Pfad("da.con"), "alt");
+    gewaehlt = {Pfad("da.con")};
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(umgebung.meldungen.at(0).text, Pfad("da.con") + " already exists.\n Overwrite existing File?");
+}
+
+TEST_F(Speichern, Cancel_in_the_question_shows_the_dialog_again_with_the_chosen_name) {
+    ErsetzeDatei(Pfad("da.con"), "alt");
+    gewaehlt = {Pfad("da.con"), Pfad("neu.con")};
+    umgebung.antworten = {Antwort::Abbrechen};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    ASSERT_EQ(gefragt.size(), 2U);
+    EXPECT_EQ(gefragt[1].name, Pfad("da.con"));
+    EXPECT_EQ(Inhalt(Pfad("da.con")), "alt");
+    EXPECT_TRUE(GibtEsDatei(Pfad("neu.con")));
+}
+
+TEST_F(Speichern, Cancel_in_the_question_and_in_the_dialog_ends_silently) {
+    modDaten::SetzeGeaendert();
+    ErsetzeDatei(Pfad("da.con"), "alt");
+    gewaehlt = {Pfad("da.con")};
+    umgebung.antworten = {Antwort::Abbrechen};
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    EXPECT_EQ(gefragt.size(), 2U);
+    EXPECT_EQ(Inhalt(Pfad("da.con")), "alt");
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(Speichern, A_file_that_cannot_be_written_gives_the_systems_text_and_stays_unsaved) {
+    modDaten::SetzeGeaendert();
+    gewaehlt = {Pfad("weg/a.con")};
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    ErwarteEineWarnung("No such file or directory\n" + Pfad("weg/a.con"));
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+    EXPECT_EQ(einstellungen.geschrieben, 0);
+}
+
+TEST_F(Speichern, A_folder_is_not_replaced) {
+    ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("Ordner")));
+    gewaehlt = {Pfad("Ordner")};
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[1].text, "Is a directory\n" + Pfad("Ordner"));
+}
+
+TEST_F(Oeffnen, The_dialog_bears_title_and_filters) {
+    EXPECT_FALSE(KonfigurationOeffnen());
+    EXPECT_EQ(gefragt.at(0), (Dateifrage{.art = Dateiwahl::Oeffnen,
+                                         .titel = "Konfiguration öffnen",
+                                         .filter = "Konfiguration (*.con)|*.con|Alle Dateien|*.*"}));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Oeffnen, The_dialog_starts_where_a_file_was_last_saved_or_opened) {
+    einstellungen.texte[Eintrag] = "/gespeichert/a.con";
+    KonfigurationOeffnen();
+    modDaten::SetDateiname("/geöffnet/b.con");
+    KonfigurationOeffnen();
+    EXPECT_EQ(gefragt.at(0).ordner, "/gespeichert/");
+    EXPECT_EQ(gefragt.at(1).ordner, "/geöffnet/");
+}
+
+TEST_F(Oeffnen, A_good_file_replaces_the_image_and_becomes_the_current_file) {
+    const std::string pfad = Gespeichert("Prüf stand.con");
+    const std::string erwartet = Inhalt(pfad);
+    modDaten::LadeStandardkonfiguration();
+    gewaehlt = {pfad};
+    EXPECT_TRUE(KonfigurationOeffnen());
+    EXPECT_EQ(modDaten::SpeichereKonfigurationsdatei(), erwartet);
+    EXPECT_EQ(modDaten::GetDateiname(), pfad);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Oeffnen, A_loaded_file_counts_as_changed_so_that_closing_asks_to_save) {
+    LadeDatei(Gespeichert("a.con"));
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+    umgebung.antworten = {Antwort::Nein};
+    EXPECT_TRUE(FrageNachSpeichern());
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+}
+
+TEST_F(Oeffnen, Cycle_times_follow_the_loaded_beam_counts) {
+    LadeDatei(Gespeichert("a.con"));
+    EXPECT_EQ(modHilfsFunktionen::GetZykluszeit(0), 1750);
+}
+
+TEST_F(Oeffnen, A_file_that_is_not_there_gives_the_systems_text_and_nothing_else_happens) {
+    modDaten::SetDateiname("alt.con");
+    const std::string vorher = modDaten::SpeichereKonfigurationsdatei();
+    EXPECT_FALSE(LadeDatei(Pfad("weg.con")));
+    ErwarteEineWarnung("No such file or directory\n" + Pfad("weg.con"));
+    EXPECT_EQ(modDaten::GetDateiname(), "alt.con");
+    EXPECT_EQ(modDaten::SpeichereKonfigurationsdatei(), vorher);
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+TEST_F(Oeffnen, A_folder_gives_the_systems_text) {
+    EXPECT_FALSE(LadeDatei(ordner.path().toStdString()));
+    ErwarteEineWarnung("Is a directory\n" + ordner.path().toStdString());
+}
+
+TEST_F(Oeffnen, A_failed_load_still_becomes_the_current_file_and_leaves_a_plausible_image) {
+    const std::string vorher = modDaten::SpeichereKonfigurationsdatei();
+    const std::pair<std::string, std::int16_t> faelle[] = {{"", 3100},
+                                                           {"another program's file", 3100},
+                                                           {vorher.substr(0, 10261), 3100},
+                                                           {std::string("Varnoth Konfiguration\x01"), 3101}};
+    for (const auto& [bytes, textId] : faelle) {
+        umgebung.meldungen.clear();
+        modDaten::SetDateiname("alt.con");
+        ErsetzeDatei(Pfad("schlecht.con"), bytes);
+        EXPECT_FALSE(LadeDatei(Pfad("schlecht.con")));
+        ErwarteEineWarnung(LadeText(textId));
+        EXPECT_EQ(modDaten::GetDateiname(), Pfad("schlecht.con"));
+        EXPECT_EQ(modDaten::SpeichereKonfigurationsdatei(), vorher);
+        EXPECT_EQ(modDaten::IstGeaendert(), False);
+    }
+}
+
+TEST_F(Oeffnen, A_failed_load_runs_the_plausibility_check_on_the_unchanged_image) {
+    modDaten::SetzeSpezifischeDaten(spezifisch::Aufloesung, 1, 0, {7});
+    ErsetzeDatei(Pfad("schlecht.con"), "x");
+    EXPECT_FALSE(LadeDatei(Pfad("schlecht.con")));
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3100));
+    EXPECT_EQ(umgebung.meldungen[1].text, LadeText(3102));
+    EXPECT_TRUE(modDaten::IstPlausibel());
+}
+
+TEST_F(Oeffnen, An_implausible_file_is_replaced_by_the_default_configuration) {
+    modDaten::SetzeSpezifischeDaten(spezifisch::Aufloesung, 1, 0, {7});
+    const std::string pfad = Gespeichert("a.con");
+    EXPECT_FALSE(LadeDatei(pfad));
+    ErwarteEineWarnung(LadeText(3102));
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 0);
+    EXPECT_EQ(modHilfsFunktionen::GetZykluszeit(0), 0);
+    EXPECT_EQ(modDaten::GetDateiname(), pfad);
+}
+
+TEST_F(Oeffnen, A_file_longer_than_a_body_is_loaded) {
+    const std::string pfad = Gespeichert("a.con");
+    ErsetzeDatei(pfad, Inhalt(pfad) + std::string(50000, 'x'));
+    EXPECT_TRUE(LadeDatei(pfad));
+}
+
+TEST_F(Oeffnen, The_last_saved_file_is_offered_while_it_can_be_read) {
+    EXPECT_EQ(LetzteKonfigurationsdatei(), "");
+    gewaehlt = {Pfad("a.con")};
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(LetzteKonfigurationsdatei(), Pfad("a.con"));
+    ASSERT_TRUE(QDir(ordner.path()).remove(QStringLiteral("a.con")));
+    EXPECT_EQ(LetzteKonfigurationsdatei(), "");
+}
+
+TEST_F(Beendenfrage, Without_changes_the_program_ends_without_a_question) {
+    EXPECT_TRUE(FrageNachSpeichern());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Beendenfrage, Cancel_keeps_the_program_running_and_the_changes) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Abbrechen};
+    EXPECT_FALSE(FrageNachSpeichern());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0],
+              (Meldung{.text = "Möchten Sie die Änderungen in der Konfiguration speichern?",
+                       .symbol = Symbol::Warnung,
+                       .knoepfe = Knoepfe::JaNeinAbbrechen}));
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+    EXPECT_TRUE(gefragt.empty());
+}
+
+TEST_F(Beendenfrage, No_ends_without_saving_and_clears_the_changed_mark) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Nein};
+    EXPECT_TRUE(FrageNachSpeichern());
+    EXPECT_TRUE(gefragt.empty());
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+TEST_F(Beendenfrage, Yes_saves_and_ends) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Ja};
+    gewaehlt = {Pfad("a.con")};
+    EXPECT_TRUE(FrageNachSpeichern());
+    EXPECT_TRUE(GibtEsDatei(Pfad("a.con")));
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+}
+
+TEST_F(Beendenfrage, Yes_and_a_cancelled_dialog_asks_again) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Ja, Antwort::Abbrechen};
+    EXPECT_FALSE(FrageNachSpeichern());
+    EXPECT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(Beendenfrage, Yes_and_a_failed_save_asks_again_so_that_only_a_no_gives_changes_up) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Ja, Antwort::Ok, Antwort::Nein};
+    gewaehlt = {Pfad("weg/a.con")};
+    EXPECT_TRUE(FrageNachSpeichern());
+    EXPECT_EQ(umgebung.meldungen.size(), 3U);
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+} // namespace varnoth
