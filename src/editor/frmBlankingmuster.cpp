@@ -1,0 +1,146 @@
+#include "frmBlankingmuster.h"
+
+#include "ui_frmBlankingmuster.h"
+
+#include "einstellungen.h"
+#include "fensterplatz.h"
+#include "lokalisiereform.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "texte.h"
+
+#include <QButtonGroup>
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+
+constexpr auto Abschnitt = "frmBlankingmuster";
+constexpr std::int16_t TextErstesOptikteil = 5200;
+constexpr std::int16_t TextAnzahlGeblankter = 4019;
+
+std::int32_t Register(std::int16_t optikteil, std::int16_t adresse) {
+    Werte wert(1);
+    modDaten::HoleSpezifischeDaten(adresse, 1, optikteil, wert);
+    return wert[0];
+}
+
+void StellePlatzHer(QWidget& fenster) {
+    Fensterplatz standard;
+    standard.zustand = ZustandNichtGespeichert;
+    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt, standard);
+    if (platz.zustand != ZustandNichtGespeichert)
+        WendeAn(platz, fenster);
+}
+
+} // namespace
+
+frmBlankingmuster::frmBlankingmuster(QWidget* parent)
+    : QDialog(parent), ui(std::make_unique<Ui::frmBlankingmuster>()) {
+    ui->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    for (int art = 0; art < ui->Option1->buttons().size(); ++art)
+        ui->Option1->setId(ui->Option1->buttons().at(art), art);
+    QSizePolicy platz = ui->lblHinweis->sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    ui->lblHinweis->setSizePolicy(platz);
+    LokalisiereForm(*this);
+    Verbinde();
+    SetzeBedienart(ui->Option1->checkedId());
+    StellePlatzHer(*this);
+}
+
+frmBlankingmuster::~frmBlankingmuster() = default;
+
+void frmBlankingmuster::Verbinde() {
+    connect(ui->cmdOK, &QPushButton::clicked, this, [this] { SchreibeZurueck(); });
+    connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui->cmdAllesBlanking, &QPushButton::clicked, this,
+            [this] { Zeige(Geblankte(Gezeigte().size(), true)); });
+    connect(ui->cmdKeinBlanking, &QPushButton::clicked, this,
+            [this] { Zeige(Geblankte(Gezeigte().size(), false)); });
+    connect(ui->cmdReset, &QPushButton::clicked, this, [this] { Fuelle(); });
+    connect(ui->Option1, &QButtonGroup::idToggled, this, [this](int art, bool gewaehlt) {
+        if (gewaehlt)
+            SetzeBedienart(art);
+    });
+    connect(ui->BeamBar1, &BeamBarControl::BlankingGeaendert, this, [this] { ZeigeAnzahl(); });
+    connect(ui->BeamBar1, &BeamBarControl::StrahlUnterMaus, this, [this](int strahl) {
+        const std::int32_t aufloesung = Register(Optikteil, spezifisch::Aufloesung);
+        ui->sbStatusBar_1->setText(QString::fromStdString(TextUnterMaus(strahl, aufloesung)));
+    });
+}
+
+void frmBlankingmuster::InitFormBlankingmuster(std::int32_t Index) {
+    Optikteil = static_cast<std::int16_t>(Index);
+    const auto textId = static_cast<std::int16_t>(TextErstesOptikteil + Optikteil);
+    ui->lblOptikteil->setText(QString::fromStdString(LadeText(textId)));
+    ui->BeamBar1->setAccessibleName(windowTitle() + ' ' + ui->lblOptikteil->text());
+    ui->BeamBar1->SetzeStrahlanzahl(std::clamp(modDaten::Strahlenzahl(Optikteil), 0, MaxStrahlen));
+    ui->BeamBar1->SetzeStrahlabstand(Register(Optikteil, spezifisch::Aufloesung));
+    Fuelle();
+}
+
+void frmBlankingmuster::Fuelle() {
+    Werte muster(Blankingregister);
+    modDaten::HoleSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Optikteil, muster);
+    Zeige(GeblankteAusMuster(muster, ui->BeamBar1->Strahlanzahl()));
+}
+
+void frmBlankingmuster::Zeige(const Geblankte& geblankte) {
+    BeamBarControl& strahlen = *ui->BeamBar1;
+    strahlen.SetzeAutomatischesZeichnen(false);
+    for (int strahl = 0; strahl < strahlen.Strahlanzahl(); ++strahl) {
+        const bool geblankt = geblankte.at(static_cast<std::size_t>(strahl));
+        strahlen.WaehleStrahl(strahl);
+        strahlen.SetzeZustand(geblankt ? Strahlzustand::Geblankt : Strahlzustand::Frei);
+    }
+    strahlen.SetzeAutomatischesZeichnen(true);
+    ZeigeAnzahl();
+}
+
+Geblankte frmBlankingmuster::Gezeigte() const {
+    Geblankte geblankte;
+    for (int strahl = 0; strahl < ui->BeamBar1->Strahlanzahl(); ++strahl)
+        geblankte.push_back(ui->BeamBar1->Zustand(strahl) == Strahlzustand::Geblankt);
+    return geblankte;
+}
+
+void frmBlankingmuster::ZeigeAnzahl() {
+    ui->sbStatusBar_2->setText(QStringLiteral("%1: %2")
+                                   .arg(QString::fromStdString(LadeText(TextAnzahlGeblankter)))
+                                   .arg(AnzahlGeblankter(Gezeigte())));
+}
+
+void frmBlankingmuster::SetzeBedienart(int art) {
+    ui->BeamBar1->SetzeBedienart(static_cast<Bedienart>(art));
+    ui->lblHinweis->setVisible(ui->BeamBar1->Bedienung() == Bedienart::Blanking);
+}
+
+void frmBlankingmuster::SchreibeZurueck() {
+    modDaten::SetzeSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Optikteil,
+                                    MusterAus(Gezeigte()));
+    accept();
+}
+
+void frmBlankingmuster::showEvent(QShowEvent* ereignis) {
+    QDialog::showEvent(ereignis);
+    warSichtbar = true;
+    VerfolgePlatz(*this);
+    ui->BeamBar1->setFocus();
+}
+
+void frmBlankingmuster::done(int ergebnis) {
+    SpeicherePlatz();
+    QDialog::done(ergebnis);
+}
+
+void frmBlankingmuster::SpeicherePlatz() const {
+    const auto platz = PlatzVon(*this);
+    if (warSichtbar && platz)
+        SchreibFensterplatz(DieEinstellungen(), Abschnitt, *platz);
+}
+
+} // namespace varnoth

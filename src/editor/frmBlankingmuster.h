@@ -1,0 +1,47 @@
+#pragma once
+
+#include "blankingmuster.h"
+
+#include <QDialog>
+
+#include <cstdint>
+#include <memory>
+
+namespace varnoth {
+
+namespace Ui {
+class frmBlankingmuster;
+}
+
+/// Lets the user choose beam by beam what an optical part blanks. The caller makes it, runs
+/// InitFormBlankingmuster and then exec(). The pattern goes into the image only with OK; the window's place
+/// is kept in the settings file.
+class frmBlankingmuster : public QDialog {
+public:
+    explicit frmBlankingmuster(QWidget* parent = nullptr);
+    ~frmBlankingmuster() override;
+
+    /// Takes over the optical part (0..3) that is edited: its beams, its resolution and its pattern.
+    void InitFormBlankingmuster(std::int32_t Index);
+
+    void done(int ergebnis) override;
+
+protected:
+    void showEvent(QShowEvent* ereignis) override;
+
+private:
+    void Verbinde();
+    void Fuelle();
+    void Zeige(const Geblankte& geblankte);
+    Geblankte Gezeigte() const;
+    void ZeigeAnzahl();
+    void SetzeBedienart(int art);
+    void SchreibeZurueck();
+    void SpeicherePlatz() const;
+
+    std::unique_ptr<Ui::frmBlankingmuster> ui;
+    std::int16_t Optikteil = 0;
+    bool warSichtbar = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "datenblock.h"
+
+#include <QDialog>
+
+#include <array>
+#include <memory>
+
+class QButtonGroup;
+class QListWidgetItem;
+
+namespace varnoth {
+
+namespace Ui {
+class frmReihenfolge;
+}
+
+/// Edits which values the controller sends in a data block, and in which order. It takes the list from the
+/// image when it is made; the list goes back into the image only with OK.
+class frmReihenfolge : public QDialog {
+public:
+    explicit frmReihenfolge(QWidget* parent = nullptr);
+    ~frmReihenfolge() override;
+
+private:
+    /// The option groups in the order Option1, Option2, Option3.
+    std::array<QButtonGroup*, 3> Gruppen() const;
+    void Nummeriere();
+    void Verbinde();
+    void VerbindeListe();
+    void Lade();
+    void ZeigeListe(int gewaehlt);
+    Eintragswahl Wahl() const;
+    void Waehle(Eintragswahl wahl);
+    void SperreUnpassende(const Eintragswahl& wahl);
+    void FuegeEinBei(int stelle);
+    void LoescheGewaehlten();
+    void UebernimmWahl(std::int16_t eintrag);
+    void SchreibeZurueck();
+
+    std::unique_ptr<Ui::frmReihenfolge> ui;
+    Eintragsliste liste{};
+};
+
+} // namespace varnoth

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "fenstertest.h"
+#include "pruefumgebung.h"
+#include "registerabbild.h"
+#include "texte.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLabel>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace varnoth::pruefung {
+
+/// Setting of the tests of dialogs that edit the image: an image of zeros, German texts, settings in memory.
+class UntereditorTest : public testing::Test {
+protected:
+    UntereditorTest() { AllesAufAnfang(); }
+    ~UntereditorTest() override { AllesAufAnfang(); }
+
+    template<class Element>
+    static Element& Kind(QDialog& dialog, const char* name) {
+        auto* const element = dialog.findChild<Element*>(QString::fromUtf8(name));
+        if (element == nullptr)
+            throw std::runtime_error(std::string("no control ") + name);
+        return *element;
+    }
+    static QAbstractButton& Knopf(QDialog& dialog, const char* name) {
+        return Kind<QAbstractButton>(dialog, name);
+    }
+    static void Klicke(QDialog& dialog, const char* name) { Knopf(dialog, name).click(); }
+    static QString Beschriftung(QDialog& dialog, const char* name) {
+        return Kind<QLabel>(dialog, name).text();
+    }
+    static void ZeigeAktiv(QDialog& dialog) {
+        dialog.show();
+        dialog.activateWindow();
+        ASSERT_TRUE(WarteBis([&] { return dialog.isActiveWindow(); }));
+    }
+
+    PruefUmgebung umgebung;
+    PruefEinstellungen einstellungen;
+
+private:
+    static void AllesAufAnfang() {
+        modDaten::Zuruecksetzen();
+        SetzeSprachoffset(Deutsch);
+    }
+};
+
+} // namespace varnoth::pruefung
