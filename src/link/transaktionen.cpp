@@ -63,7 +63,12 @@ Boolean MitEigenemPort(Ablauf ablauf) {
 }
 
 void SchreibeSteuerwert(std::int32_t wert) {
-    MitEigenemPort([wert] { return RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {wert}); });
+    MitEigenemPort([wert] {
+        // Without a line there is nobody to wait for.
+        if (GetPortIstOffen() == False)
+            return False;
+        return RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {wert});
+    });
 }
 
 } // namespace

@@ -173,9 +173,15 @@ void frmMain::LiveDatenLaufenAn() {
     AktualisiereGeraetestatus();
 }
 
+/// Changes that are not saved keep the window open: the exit command, run from the main loop, asks for them.
 void frmMain::closeEvent(QCloseEvent* ereignis) {
-    ereignis->accept();
-    Entlade();
+    if (entladen || modDaten::IstGeaendert() == False) {
+        Entlade();
+        return;
+    }
+    ereignis->ignore();
+    mnuBeenden_Click();
+    SchliesseDialoge();
 }
 
 /// The window goes; what a waiting pass or dialog still uses stays until the main loop has ended.

@@ -38,12 +38,18 @@ public:
     void SubAutosendStarten();
     /// What a click on the menu item does: stores the command.
     void mnuBeenden_Click();
-    /// Ends the program.
+    /// Asks whether changes shall be saved, and ends the program unless the user cancels.
     void SubBeenden();
     /// What a click on the menu item does: stores the command.
     void mnuMessdatenVisualisierenStop_Click();
     /// Stops live data and takes the controller out of autosend.
     void SubMessdatenVisualisierenStop();
+    /// What a click on the menu item does: stores the command.
+    void mnuOeffnen_Click();
+    /// Asks for a configuration file, loads it and shows its parts.
+    void SubOeffnen();
+    /// Loads a configuration file (UTF-8 path) and shows its parts.
+    void LadeDatei(const std::string& pfad);
     /// Connects to the controller and starts live data.
     void Autostart();
 
@@ -88,7 +94,7 @@ private:
     void BaueAnsichtenAuf() override;
     void LiveDatenLaufenAn() override;
     void ZeigeLichtleistenmenue() override;
-    bool Beendet() const override { return entladen; }
+    bool Beendet() const override { return entladen || befehle.WartetAuf(Befehl::Beenden); }
 
     void VerbindeMenue();
     void VerbindeAktion(const QString& name, Befehl befehl, int index);
@@ -108,6 +114,11 @@ private:
     void WaehleComPort(int nummer);
     void SchalteSprache(std::int16_t offset);
     void ZeigeInfo();
+
+    void ZeigeKonfiguration();
+    void NeueKonfiguration();
+    void BearbeiteKonfiguration();
+    void SchreibeKonfiguration();
 
     std::unique_ptr<Ui::frmMain> ui;
     std::array<frmDocument*, AnzahlOptikteile> Fensterliste{};

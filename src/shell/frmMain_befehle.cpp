@@ -3,18 +3,18 @@
 #include "ansichtstitel.h"
 #include "einstellungen.h"
 #include "frmDocument.h"
+#include "frmHoleLichtleistenInfo.h"
+#include "frmIdentifikationsAnforderung.h"
 #include "frmInfo.h"
+#include "frmKonfigurationLesenAusHardware.h"
 #include "frmMain.h"
-#include "frmholelichtleisteninfo.h"
-#include "frmidentifikationsanforderung.h"
-#include "frmkonfigurationlesenaushardware.h"
+#include "konfigurationsbefehle.h"
 #include "lesevorgang.h"
 #include "lokalisiereform.h"
 #include "qttexte.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
-#include "standardkonfiguration.h"
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
@@ -45,6 +45,10 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
         {Befehl::FensterNebeneinander, [](frmMain& f, int) { f.Ordne(Anordnung::Nebeneinander); }},
         {Befehl::FensterUeberlappend, [](frmMain& f, int) { f.ui->mdiBereich->cascadeSubWindows(); }},
         {Befehl::FensterUntereinander, [](frmMain& f, int) { f.Ordne(Anordnung::Untereinander); }},
+        {Befehl::KonfigurationAnzeigen, [](frmMain& f, int) { f.BearbeiteKonfiguration(); }},
+        {Befehl::KonfigurationOeffnen, [](frmMain& f, int) { f.SubOeffnen(); }},
+        {Befehl::KonfigurationSpeichernUnter, [](frmMain&, int) { KonfigurationSpeichernUnter(); }},
+        {Befehl::NeueKonfiguration, [](frmMain& f, int) { f.NeueKonfiguration(); }},
         {Befehl::UebertragenerWert, [](frmMain& f, int) { f.ui->mnuUebertragenerWert->toggle(); }},
         {Befehl::ComPort, [](frmMain& f, int i) { f.WaehleComPort(i); }},
         {Befehl::Info, [](frmMain& f, int) { f.ZeigeInfo(); }},
@@ -100,11 +104,6 @@ bool frmMain::HoleOptikteilInformation() {
     return dialog.GetCancel() == False;
 }
 
-bool frmMain::FrageNachKonfiguration() {
-    modDaten::LadeStandardkonfiguration();
-    return false;
-}
-
 void frmMain::SubMessdatenVisualisierenStop() {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
         Werte status{0};
@@ -128,6 +127,8 @@ void frmMain::SubAutosendStarten() {
 }
 
 void frmMain::SubBeenden() {
+    if (!FrageNachSpeichern())
+        return;
     modTrace::Schliesse();
     Entlade();
 }

@@ -21,6 +21,7 @@ constexpr std::int16_t TextErsetzen = 2001;
 constexpr std::int16_t TextOeffnen = 2004;
 constexpr std::int16_t TextSpeichernUnter = 2005;
 constexpr std::int16_t TextAenderungenSpeichern = 6002;
+constexpr std::int16_t TextAchtung = 6109;
 
 constexpr const char* Abschnitt = "frmMain";
 constexpr const char* Schluessel = "mnuSpeichernUnter";
@@ -78,6 +79,7 @@ std::string OrdnerZumOeffnen() {
 
 Antwort FrageNachAenderungen() {
     return DieUmgebung().ZeigeMeldung({.text = LadeText(TextAenderungenSpeichern),
+                                       .titel = LadeText(TextAchtung),
                                        .symbol = Symbol::Warnung,
                                        .knoepfe = Knoepfe::JaNeinAbbrechen});
 }
@@ -94,7 +96,9 @@ bool KonfigurationOeffnen() {
                                       .titel = LadeText(TextOeffnen),
                                       .filter = LadeText(TextDateifilter),
                                       .ordner = OrdnerZumOeffnen()});
-    return pfad.has_value() && LadeDatei(*pfad);
+    if (pfad)
+        LadeDatei(*pfad);
+    return pfad.has_value();
 }
 
 bool LadeDatei(const std::string& pfad) {

@@ -13,7 +13,7 @@ namespace varnoth {
 /// not be written; an older file is then still there and the configuration still counts as changed.
 bool KonfigurationSpeichernUnter();
 
-/// Asks for a file and loads it with `LadeDatei`. False also when the dialog was cancelled.
+/// Asks for a file and loads it with `LadeDatei`. False when the dialog was cancelled: nothing has changed.
 bool KonfigurationOeffnen();
 
 /// Loads a configuration file, checks its values and recomputes the cycle times. A file that cannot be read

@@ -56,6 +56,7 @@ public:
     /// Stores a click.
     void Klick(Befehl befehl, int index = 0);
     bool Wartet() const { return befehlscode != Befehl::Keiner; }
+    bool WartetAuf(Befehl befehl) const { return befehlscode == befehl; }
     /// Runs the command that waits, if any.
     void FuehreAus(Befehlsziel& ziel);
 

@@ -45,10 +45,6 @@ struct Zeile {
 };
 
 constexpr Zeile tabelle[] = {
-    {"mnuNeu", NochNicht, Immer},
-    {"mnuOeffnen", NochNicht, Immer},
-    {"mnuSpeichernUnter", NochNicht, Immer},
-    {"mnuAnzeigeKonfiguration", NochNicht, Immer},
     {"mnuAnzeigeLichtleiste_0", Immer, HatStrahlen<0>},
     {"mnuAnzeigeLichtleiste_1", Immer, HatStrahlen<1>},
     {"mnuAnzeigeLichtleiste_2", Immer, HatStrahlen<2>},

@@ -146,6 +146,7 @@ void Selbsttest::Scheitere(const QString& grund) {
 void Selbsttest::Beende() {
     beendet = true;
     takt.stop();
+    modDaten::LoescheGeaendert();
     if (fenster != nullptr)
         fenster->close();
 }

@@ -1,6 +1,7 @@
 #include "fahrer.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -29,12 +30,17 @@ void Fahrer::Blicke() {
         aktion();
     } else if (auto* meldung = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
         Beantworte(*meldung);
+    } else if (auto* frage =
+                   qobject_cast<QDialog*>(SichtbaresFenster(QStringLiteral("frmKeinKonturAngeschlossen")))) {
+        frage->reject();
     }
 }
 
 void Fahrer::Beantworte(QMessageBox& meldung) {
     meldungen.push_back(meldung.text().toStdString());
-    QAbstractButton* knopf = meldung.defaultButton();
+    QAbstractButton* knopf = meldung.button(QMessageBox::No);
+    if (knopf == nullptr)
+        knopf = meldung.defaultButton();
     (knopf != nullptr ? knopf : meldung.buttons().constFirst())->click();
 }
 

@@ -14,7 +14,7 @@ namespace varnoth::pruefung {
 
 /// The user at the screen. He looks at it every few milliseconds, also while the program waits or shows a
 /// dialog: he does what was planned once its time has come, else he writes a message box down and presses its
-/// default button.
+/// default button, saves no changes, and chooses no configuration when none could be read.
 class Fahrer {
 public:
     Fahrer();

@@ -196,6 +196,14 @@ TEST_F(TransaktionenTest, Control_values_are_written_on_a_port_of_their_own_when
     EXPECT_FALSE(port.offen);
 }
 
+TEST_F(TransaktionenTest, A_control_value_waits_for_nobody_when_the_port_cannot_be_opened) {
+    Identifiziere();
+    port.oeffnenGelingt = false;
+    const Zeit davor = umgebung.uhr;
+    SchreibeSteuerwert4();
+    EXPECT_EQ(umgebung.uhr, davor);
+}
+
 TEST_F(TransaktionenTest, Without_an_identification_no_wrapper_sends_anything) {
     SchreibeSteuerwert4();
     SchreibeSteuerwert2();

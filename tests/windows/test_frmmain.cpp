@@ -14,14 +14,19 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace varnoth {
 
@@ -81,6 +86,18 @@ protected:
         geraet.Register(0x4000 + kommunikation::Stationsadresse) = 1;
         geraet.Register(0x4000 + kommunikation::Autosend) = 259;
         geraet.Register(0x4000 + kommunikation::Datenblock) = 20;
+    }
+    /// Does something with the dialog of this name as soon as it is shown.
+    void Sobald(const char* dialogname, std::function<void(QDialog&)> tat) {
+        auto* blick = new QTimer(&Fenster());
+        QObject::connect(blick, &QTimer::timeout, blick, [=] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr || dialog->objectName() != QLatin1String(dialogname))
+                return;
+            blick->stop();
+            tat(*dialog);
+        });
+        blick->start(1);
     }
     QString Titel(int teil) { return Fenster().Fenster(teil).windowTitle(); }
     QLabel& Statusfeld(int nummer) {
@@ -279,6 +296,7 @@ TEST_F(FrmMainTest, Stop_takes_the_controller_out_of_autosend_and_shows_offline)
 
 TEST_F(FrmMainTest, Without_a_controller_the_message_appears_after_nine_requests) {
     geraet.schweige = [](const std::string&) { return true; };
+    Sobald("frmKeinKonturAngeschlossen", [](QDialog& dialog) { dialog.reject(); });
     Fenster().Autostart();
     EXPECT_EQ(port.gesendet.size(), 9U);
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
@@ -364,10 +382,45 @@ TEST_F(FrmMainTest, Closing_while_a_pass_waits_ends_the_pass_and_the_program) {
     Fenster().Autostart();
     geraet.schweige = [](const std::string&) { return true; };
     umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(300), [this] { Fenster().close(); });
+    modDaten::LoescheGeaendert();
     modPolling::PollingZyklus();
     EXPECT_EQ(Fenster().OffeneFormulare(), 0);
     EXPECT_FALSE(port.offen);
     EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(FrmMainTest, Closing_with_unsaved_changes_asks_from_the_main_loop) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Nein};
+    Fenster().close();
+    EXPECT_TRUE(Fenster().isVisible());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    Fenster().MenuAusführen();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(6002));
+    EXPECT_EQ(umgebung.meldungen[0].knoepfe, Knoepfe::JaNeinAbbrechen);
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+}
+
+TEST_F(FrmMainTest, Cancelling_the_question_for_changes_keeps_the_program_running) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Abbrechen};
+    Waehle("mnuBeenden");
+    EXPECT_EQ(Fenster().OffeneFormulare(), 1);
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(FrmMainTest, Closing_with_unsaved_changes_while_a_pass_waits_ends_the_pass_and_then_asks) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    geraet.schweige = [](const std::string&) { return true; };
+    umgebung.antworten = {Antwort::Nein};
+    umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(300), [this] { Fenster().close(); });
+    modPolling::PollingZyklus();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    Fenster().MenuAusführen();
+    EXPECT_EQ(umgebung.meldungen.back().text, LadeText(6002));
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
 }
 
 TEST_F(FrmMainTest, Closing_while_a_dialog_asks_the_controller_ends_the_dialog_and_the_program) {
@@ -384,6 +437,75 @@ TEST_F(FrmMainTest, Closing_while_a_dialog_asks_the_controller_ends_the_dialog_a
 TEST_F(FrmMainTest, The_exit_command_ends_the_program) {
     Waehle("mnuBeenden");
     EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+}
+
+TEST_F(FrmMainTest, Without_a_controller_beam_counts_lead_to_an_offline_configuration) {
+    geraet.schweige = [](const std::string&) { return true; };
+    Sobald("frmKeinKonturAngeschlossen", [](QDialog& dialog) {
+        dialog.findChild<QRadioButton*>("optStrahlenanzahl")->click();
+        dialog.findChild<QComboBox*>("Combo1_1")->setCurrentIndex(0);
+        dialog.findChild<QComboBox*>("Combo1_2")->setCurrentIndex(0);
+        dialog.findChild<QComboBox*>("Combo1_3")->setCurrentIndex(0);
+        dialog.findChild<QPushButton*>("cmdOK")->click();
+    });
+    Fenster().Autostart();
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
+    EXPECT_EQ(modHilfsFunktionen::GetZykluszeit(0), 1750);
+    EXPECT_TRUE(Fenster().Fenster(0).isVisible());
+    EXPECT_FALSE(Fenster().Fenster(1).isVisible());
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_0").isVisible());
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+}
+
+TEST_F(FrmMainTest, A_new_configuration_shows_its_parts_and_needs_no_port) {
+    Sobald("frmStrahlenBestimmen", [](QDialog& dialog) {
+        dialog.findChild<QComboBox*>("Combo1_2")->setCurrentIndex(0);
+        dialog.findChild<QPushButton*>("cmdOK")->click();
+    });
+    Waehle("mnuNeu");
+    EXPECT_EQ(modDaten::Strahlenzahl(1), 32);
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_1").isVisible());
+    EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_2").isVisible());
+    EXPECT_TRUE(port.geoeffnet.empty());
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(FrmMainTest, A_new_configuration_that_is_cancelled_changes_nothing) {
+    Sobald("frmStrahlenBestimmen", [](QDialog& dialog) { dialog.reject(); });
+    Waehle("mnuNeu");
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 0);
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+TEST_F(FrmMainTest, The_editor_applied_and_downloaded_writes_the_configuration_and_live_data_starts_again) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    geraet.geschrieben.clear();
+    Sobald("frmKonfigurationEdit", [](QDialog& dialog) {
+        auto* download = dialog.findChild<QPushButton*>("cmdDownLoad");
+        EXPECT_TRUE(pruefung::WarteBis([=] { return download->isEnabled(); }));
+        dialog.findChild<QComboBox*>("cboReichweite_0")->setCurrentIndex(4);
+        download->click();
+    });
+    Sobald("frmKonfigurationSchreibenInHardware",
+           [](QDialog& dialog) { dialog.findChild<QPushButton*>("cmdStart")->click(); });
+    Waehle("mnuAnzeigeKonfiguration");
+    EXPECT_EQ(geraet.Spezifisch(0, spezifisch::Reichweite), 4);
+    EXPECT_EQ(geraet.Register(189), 1) << "stored in the controller";
+    EXPECT_TRUE(Fenster().BefehlWartet()) << "live data had been running";
+    Fenster().MenuAusführen();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+}
+
+TEST_F(FrmMainTest, The_editor_without_any_beams_asks_for_a_configuration_first) {
+    bool gefragt = false;
+    Sobald("frmKeinKonturAngeschlossen", [&gefragt](QDialog& dialog) {
+        gefragt = true;
+        dialog.reject();
+    });
+    Waehle("mnuAnzeigeKonfiguration");
+    EXPECT_TRUE(gefragt);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(FrmMainTest, The_about_box_shows_product_and_owner_and_closes_on_Enter) {
