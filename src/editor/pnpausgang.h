@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace varnoth {
 
@@ -23,5 +24,8 @@ PnpAusgang PnpAusgangAus(std::int32_t registerwert);
 
 /// The register value that the options stand for.
 std::int32_t Registerwert(const PnpAusgang& ausgang);
+
+/// Stores the register value in the given way; a box tells the programmer when it was refused.
+void SpeicherePnpAusgang(std::int32_t registerwert, const std::function<bool(std::int32_t)>& speichere);
 
 } // namespace varnoth
