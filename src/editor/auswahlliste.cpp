@@ -1,0 +1,152 @@
+#include "auswahlliste.h"
+
+#include "registeradressen.h"
+#include "texte.h"
+#include "zahlen.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <stdexcept>
+
+namespace varnoth {
+
+namespace {
+
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
+
+constexpr std::int16_t TextWertImGeraet = 5118;
+
+constexpr std::int32_t Filterbits = 0x3F;
+constexpr std::int32_t Ratenbits = 0xFF;
+constexpr std::int32_t Baudbits = 0xFF;
+constexpr std::int32_t ErsteBaudrate = 12;
+constexpr double MikrosekundenJeMillisekunde = 1000;
+
+constexpr std::string_view Reichweiten[] = {"0,05 - 0,3m", "0,20 - 1,0m", "0,50 - 1,5m",
+                                            "1,00 - 2,5m", "2,00 - 3,5m", "3,00 - 4,0m"};
+constexpr std::string_view Baudraten[] = {"4,8 KB", "9,6 KB", "19,2 KB", "38,4 KB", "57,6 KB"};
+
+const Werteregel& Regel(Speicherbereich bereich, std::int16_t adresse) {
+    const auto regeln = AlleWerteregeln();
+    const auto regel = std::ranges::find_if(
+        regeln, [&](const Werteregel& r) { return r.bereich == bereich && r.adresse == adresse; });
+    if (regel == regeln.end())
+        throw std::logic_error("no rule for the register of a list");
+    return *regel;
+}
+
+/// A list that offers exactly what the register's rule allows.
+Auswahlliste NachRegel(std::string_view name, std::int16_t adresse, Postenart posten,
+                       std::span<const std::string_view> texte = {}) {
+    const Werteregel& regel = Regel(Spezifisch, adresse);
+    const int anzahl = regel.auswahl.empty() ? regel.groesster - regel.kleinster + 1
+                                             : static_cast<int>(regel.auswahl.size());
+    return {name, Spezifisch, adresse, regel.maske, regel.kleinster, anzahl, posten, texte, regel.auswahl};
+}
+
+/// Only the low bits of the register select; the list nevertheless owns them all.
+Auswahlliste Filterliste() {
+    Auswahlliste liste =
+        NachRegel("cboAnzahlDurchlaeufeFilter", spezifisch::Filterdurchlaeufe, Postenart::Dauer);
+    liste.feld = liste.maske;
+    liste.maske = Filterbits;
+    return liste;
+}
+
+std::string Postentext(const Auswahlliste& liste, int auswahl, std::int32_t zyklus,
+                       const Zahlformat& zahlformat) {
+    const std::int32_t wert = WertFuer(liste, auswahl);
+    switch (liste.posten) {
+    case Postenart::Texte:
+        return std::string(liste.texte[static_cast<std::size_t>(auswahl)]);
+    case Postenart::Zahl:
+        return std::to_string(wert);
+    case Postenart::Millimeter:
+        return std::to_string(wert) + "mm";
+    case Postenart::Dauer:
+        return zahlformat(static_cast<double>(zyklus) * wert / MikrosekundenJeMillisekunde) + "ms";
+    case Postenart::Hex:
+        return AlsHex(static_cast<unsigned>(wert)) + "H";
+    }
+    return {};
+}
+
+} // namespace
+
+std::span<const Auswahlliste> AlleTeillisten() {
+    static const std::array listen = {
+        NachRegel("cboAuflösung", spezifisch::Aufloesung, Postenart::Millimeter),
+        NachRegel("cboReichweite", spezifisch::Reichweite, Postenart::Texte, Reichweiten),
+        Filterliste(),
+        NachRegel("cboGruppenzähler", spezifisch::Gruppenzaehler, Postenart::Zahl),
+        NachRegel("cboMinMaxHaltezeit", spezifisch::MinMaxHaltezeit, Postenart::Dauer),
+        NachRegel("cboLochgröße", spezifisch::Lochgroesse, Postenart::Zahl),
+        NachRegel("cboMittentoleranz", spezifisch::Mittentoleranz, Postenart::Zahl),
+    };
+    return listen;
+}
+
+const Auswahlliste& Beschreibung(Teilliste liste) {
+    return AlleTeillisten()[static_cast<std::size_t>(liste)];
+}
+
+Auswahlliste Stationsadressen(int groesste) {
+    const Werteregel& regel = Regel(Kommunikation, kommunikation::Stationsadresse);
+    return {"cboStationsAdresse", Kommunikation,   kommunikation::Stationsadresse,
+            regel.maske,          regel.kleinster, groesste,
+            Postenart::Hex};
+}
+
+Auswahlliste Autosendraten(int groesste) {
+    return {"cbolOhneTriggerAutosendrate",
+            Kommunikation,
+            kommunikation::Autosend,
+            Ratenbits,
+            1,
+            groesste,
+            Postenart::Dauer};
+}
+
+const Auswahlliste& Autosendbaudraten() {
+    static const Auswahlliste liste = {
+        "cboBaudrate",    Kommunikation, kommunikation::Autosendformat,
+        Baudbits,         ErsteBaudrate, static_cast<int>(std::size(Baudraten)),
+        Postenart::Texte, Baudraten};
+    return liste;
+}
+
+int AuswahlFuer(const Auswahlliste& liste, std::int32_t wert) {
+    const std::int32_t gewaehlt = wert & liste.maske;
+    for (int auswahl = 0; auswahl < liste.anzahl; ++auswahl)
+        if (WertFuer(liste, auswahl) == gewaehlt)
+            return auswahl;
+    return KeineAuswahl;
+}
+
+std::int32_t WertFuer(const Auswahlliste& liste, int auswahl) {
+    if (liste.werte.empty())
+        return liste.erster + auswahl;
+    return auswahl == KeineAuswahl ? 0 : liste.werte[static_cast<std::size_t>(auswahl)];
+}
+
+std::vector<std::string> Postentexte(const Auswahlliste& liste, std::int32_t zyklus,
+                                     const Zahlformat& zahlformat) {
+    std::vector<std::string> texte;
+    for (int auswahl = 0; auswahl < liste.anzahl; ++auswahl)
+        texte.push_back(Postentext(liste, auswahl, zyklus, zahlformat));
+    return texte;
+}
+
+std::string Hinweistext(const Auswahlliste& liste, std::int32_t wert) {
+    if (AuswahlFuer(liste, wert) != KeineAuswahl)
+        return {};
+    return LadeText(TextWertImGeraet) + std::to_string(wert & liste.feld);
+}
+
+std::string UebertragenerWert(const Auswahlliste& liste, int auswahl) {
+    return auswahl == KeineAuswahl ? "" : "(" + std::to_string(WertFuer(liste, auswahl)) + ")";
+}
+
+} // namespace varnoth

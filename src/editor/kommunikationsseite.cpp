@@ -1,0 +1,190 @@
+#include "kommunikationsseite.h"
+
+#include "bustyp.h"
+#include "geraetetexte.h"
+#include "listenbindung.h"
+#include "pausenzeit.h"
+#include "registeradressen.h"
+#include "registerzugriff.h"
+#include "texte.h"
+#include "ui_kommunikationsseite.h"
+#include "zykluszeiten.h"
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+
+constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
+
+constexpr std::int16_t TextDatenupdaterate = 5604;
+
+/// Gives each option the number of the enumerator it stands for.
+template<class Art>
+void Nummeriere(QButtonGroup& gruppe, std::initializer_list<std::pair<QAbstractButton*, Art>> optionen) {
+    for (const auto& [option, art] : optionen)
+        gruppe.setId(option, static_cast<int>(art));
+}
+
+/// Checks the option of an enumerator, or none of the group's.
+template<class Art>
+void Waehle(QButtonGroup& gruppe, std::optional<Art> art) {
+    gruppe.setExclusive(false);
+    for (QAbstractButton* const option : gruppe.buttons())
+        option->setChecked(art && gruppe.id(option) == static_cast<int>(*art));
+    gruppe.setExclusive(true);
+}
+
+template<class Art>
+std::optional<Art> Gewaehlt(const QButtonGroup& gruppe) {
+    if (gruppe.checkedButton() == nullptr)
+        return std::nullopt;
+    return static_cast<Art>(gruppe.checkedId());
+}
+
+} // namespace
+
+Kommunikationsseite::Kommunikationsseite(QWidget* eltern)
+    : QWidget(eltern), ui(std::make_unique<Ui::Kommunikationsseite>()) {
+    ui->setupUi(this);
+    Nummeriere<Autosendart>(*ui->optAutosend,
+                            {{ui->optkeinAutosend, Autosendart::Keines},
+                             {ui->optAutosendohneTrigger, Autosendart::OhneTrigger},
+                             {ui->optAutosendohneTriggerModbus, Autosendart::OhneTriggerModbus},
+                             {ui->optAutosendmitTriggerModbus, Autosendart::MitTriggerModbus}});
+    Nummeriere<Triggerstart>(
+        *ui->optTrigger,
+        {{ui->optTriggerStartetDatenübertragungSofort, Triggerstart::Sofort},
+         {ui->optTriggerStartetDatenübertragungNachVollständigenScan, Triggerstart::NachVollstaendigemScan}});
+    Nummeriere<Byteformat>(*ui->optByteformat,
+                           {{ui->opt2StopbitsohneParität, Byteformat::ZweiStopbitsOhneParitaet},
+                            {ui->opt1StopbitParitätungerade, Byteformat::EinStopbitUngerade},
+                            {ui->opt1StopbitParitätgerade, Byteformat::EinStopbitGerade}});
+    Verbinde();
+}
+
+Kommunikationsseite::~Kommunikationsseite() = default;
+
+void Kommunikationsseite::Verbinde() {
+    connect(ui->optAutosend, &QButtonGroup::idClicked, this, &Kommunikationsseite::WaehleArt);
+    connect(ui->cmdReihenfolge, &QPushButton::clicked, this, &Kommunikationsseite::ReihenfolgeVerlangt);
+    connect(ui->txtPausenzeit, &QLineEdit::editingFinished, this, [this] {
+        const std::string text = ui->txtPausenzeit->text().toStdString();
+        ui->txtPausenzeit->setText(QString::fromStdString(PausenzeitBeimVerlassen(text)));
+    });
+}
+
+void Kommunikationsseite::ZeigeUebertrageneWerte() {
+    VerbindeUebertragenenWert(*ui->cbolOhneTriggerAutosendrate, Autosendraten(MaxAutosendrate(derBustyp)),
+                              *ui->lblOhneTriggerAutosendrateUebertragenerWert);
+}
+
+void Kommunikationsseite::Fuelle(std::int32_t typ) {
+    derBustyp = typ;
+    ui->lblInhaltBusTyp->setText(QString::fromStdString(Bustyptext(derBustyp)));
+    ui->lblFormatZwischenMasterSlave->setText(
+        QString::fromStdString(Formattext(LiesRegister(Kommunikation, kommunikation::Format))));
+    FuelleStationsadresse();
+    ui->txtPausenzeit->setText(QString::number(LiesRegister(Kommunikation, kommunikation::Pausenzeit)));
+    FuelleAutosend();
+    FuelleAutosendformat();
+    PasseAnBusAn();
+    Sperre(BedienungFuer(AutosendKlasse(Art()), derBustyp));
+}
+
+void Kommunikationsseite::FuelleStationsadresse() {
+    const int groesste = MaxStationsadresse(derBustyp);
+    const std::int32_t adresse = LiesRegister(Kommunikation, kommunikation::Stationsadresse);
+    ZeigeListe(*ui->cboStationsAdresse, Stationsadressen(groesste), 0, std::min(adresse, groesste));
+}
+
+void Kommunikationsseite::FuelleAutosend() {
+    const int maxRate = MaxAutosendrate(derBustyp);
+    const Autosendeinstellung autosend =
+        AutosendAus(LiesRegister(Kommunikation, kommunikation::Autosend), maxRate);
+    Waehle(*ui->optAutosend, autosend.art);
+    Waehle(*ui->optTrigger, autosend.trigger);
+    ui->chkStrahldatenMerken->setChecked(autosend.strahldatenMerken);
+    ZeigeListe(*ui->cbolOhneTriggerAutosendrate, Autosendraten(maxRate),
+               modHilfsFunktionen::GetGesamtzykluszeit(), autosend.rate);
+    emit AutosendStartbar(IstStartbar(autosend.art));
+}
+
+void Kommunikationsseite::FuelleAutosendformat() {
+    const std::int32_t format = LiesRegister(Kommunikation, kommunikation::Autosendformat);
+    ZeigeListe(*ui->cboBaudrate, Autosendbaudraten(), 0, format);
+    Waehle(*ui->optByteformat, ByteformatAus(format));
+}
+
+void Kommunikationsseite::PasseAnBusAn() {
+    if (derBustyp != bustyp::Profibus)
+        return;
+    ui->feldBus->addWidget(ui->lblOhneTriggerAutosendrate, 3, 0);
+    ui->feldBus->addWidget(ui->cbolOhneTriggerAutosendrate, 3, 1);
+    ui->feldBus->addWidget(ui->lblOhneTriggerAutosendrateUebertragenerWert, 3, 2);
+    ui->lblOhneTriggerAutosendrate->setText(QString::fromStdString(LadeText(TextDatenupdaterate)));
+}
+
+void Kommunikationsseite::WaehleArt() {
+    const Autosendbedienung bedienung = BedienungFuer(AutosendKlasse(Art()), derBustyp);
+    Sperre(bedienung);
+    if (bedienung.rate && ui->cbolOhneTriggerAutosendrate->currentIndex() == KeineAuswahl)
+        ui->cbolOhneTriggerAutosendrate->setCurrentIndex(0);
+}
+
+void Kommunikationsseite::Sperre(const Autosendbedienung& bedienung) {
+    for (QAbstractButton* const option : ui->optTrigger->buttons())
+        option->setEnabled(bedienung.trigger);
+    ui->cbolOhneTriggerAutosendrate->setEnabled(bedienung.rate);
+    ui->lblOhneTriggerAutosendrate->setEnabled(bedienung.rate);
+    ui->lblOhneTriggerAutosendrateUebertragenerWert->setEnabled(bedienung.rate);
+    ui->chkStrahldatenMerken->setEnabled(bedienung.strahldatenMerken);
+    const std::initializer_list<QWidget*> nurModbus = {
+        ui->lblFormatZwischenMasterSlave,
+        ui->lblPausenzeit,
+        ui->txtPausenzeit,
+        ui->lblPausenzeitEinheit,
+        ui->optkeinAutosend,
+        ui->optAutosendohneTrigger,
+        ui->optAutosendohneTriggerModbus,
+        ui->optAutosendmitTriggerModbus,
+        ui->optTriggerStartetDatenübertragungSofort,
+        ui->optTriggerStartetDatenübertragungNachVollständigenScan,
+        ui->fraBaudrate,
+        ui->lblBaudrate,
+        ui->cboBaudrate,
+        ui->lblByteformat,
+        ui->opt2StopbitsohneParität,
+        ui->opt1StopbitParitätungerade,
+        ui->opt1StopbitParitätgerade,
+    };
+    for (QWidget* const element : nurModbus)
+        element->setVisible(bedienung.nurModbus);
+}
+
+std::optional<Autosendart> Kommunikationsseite::Art() const {
+    return Gewaehlt<Autosendart>(*ui->optAutosend);
+}
+
+std::int32_t Kommunikationsseite::Autosendwert() const {
+    const std::int32_t rate = GewaehlterWert(*ui->cbolOhneTriggerAutosendrate, Autosendraten(0));
+    if (derBustyp == bustyp::Profibus)
+        return RegisterwertProfibus(LiesRegister(Kommunikation, kommunikation::Autosend), rate);
+    return Registerwert(Autosendeinstellung{Art(), ui->chkStrahldatenMerken->isChecked(), rate,
+                                            Gewaehlt<Triggerstart>(*ui->optTrigger)});
+}
+
+void Kommunikationsseite::SchreibeZurueck() const {
+    const auto schreibe = [](std::int16_t adresse, std::int32_t wert) {
+        SchreibeRegister(Kommunikation, adresse, wert);
+    };
+    schreibe(kommunikation::Stationsadresse, GewaehlterWert(*ui->cboStationsAdresse, Stationsadressen(0)));
+    schreibe(kommunikation::Pausenzeit, Pausenzeitwert(ui->txtPausenzeit->text().toStdString()));
+    schreibe(kommunikation::Autosend, Autosendwert());
+    schreibe(kommunikation::Autosendformat,
+             Autosendformatwert(GewaehlterWert(*ui->cboBaudrate, Autosendbaudraten()),
+                                Gewaehlt<Byteformat>(*ui->optByteformat)));
+}
+
+} // namespace varnoth

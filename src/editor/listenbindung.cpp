@@ -1,0 +1,44 @@
+#include "listenbindung.h"
+
+#include "zahlentext.h"
+
+#include <QComboBox>
+#include <QLabel>
+
+namespace varnoth {
+
+namespace {
+
+const QString LaengsterUebertragenerWert = QStringLiteral("(255)");
+
+QStringList AlsListe(const std::vector<std::string>& texte) {
+    QStringList liste;
+    for (const std::string& text : texte)
+        liste += QString::fromStdString(text);
+    return liste;
+}
+
+} // namespace
+
+void ZeigeListe(QComboBox& box, const Auswahlliste& liste, std::int32_t zyklus, std::int32_t registerwert) {
+    const auto format = [](double zahl) { return Zahlentext(zahl); };
+    box.clear();
+    box.addItems(AlsListe(Postentexte(liste, zyklus, format)));
+    box.setCurrentIndex(AuswahlFuer(liste, registerwert));
+    box.setToolTip(QString::fromStdString(Hinweistext(liste, registerwert)));
+    QObject::connect(&box, &QComboBox::currentIndexChanged, &box, [&box] { box.setToolTip({}); });
+}
+
+std::int32_t GewaehlterWert(const QComboBox& box, const Auswahlliste& liste) {
+    return WertFuer(liste, box.currentIndex());
+}
+
+void VerbindeUebertragenenWert(QComboBox& box, const Auswahlliste& liste, QLabel& zeile) {
+    const auto zeige = [&zeile, liste](int auswahl) {
+        zeile.setText(QString::fromStdString(UebertragenerWert(liste, auswahl)));
+    };
+    zeile.setMinimumWidth(zeile.fontMetrics().horizontalAdvance(LaengsterUebertragenerWert));
+    QObject::connect(&box, &QComboBox::currentIndexChanged, &zeile, zeige);
+}
+
+} // namespace varnoth

@@ -1,0 +1,72 @@
+#include "optikseite.h"
+
+#include "gruppenzaehler.h"
+#include "listenbindung.h"
+#include "registeradressen.h"
+#include "registerzugriff.h"
+#include "ui_optikseite.h"
+#include "zykluszeiten.h"
+
+#include <tuple>
+
+namespace varnoth {
+
+namespace {
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+}
+
+Optikseite::Optikseite(QWidget* eltern) : QWidget(eltern), ui(std::make_unique<Ui::Optikseite>()) {
+    ui->setupUi(this);
+    for (const Auswahlliste& liste : AlleTeillisten())
+        boxen.push_back(findChild<QComboBox*>(
+            QString::fromUtf8(liste.name.data(), static_cast<qsizetype>(liste.name.size()))));
+    connect(ui->cmdBlankingmuster, &QPushButton::clicked, this,
+            [this] { emit BlankingmusterVerlangt(optikteil); });
+}
+
+Optikseite::~Optikseite() = default;
+
+void Optikseite::SetzeOptikteil(int teil) {
+    optikteil = teil;
+    for (QObject* const kind : findChildren<QObject*>())
+        if (const QString name = kind->objectName(); !name.isEmpty() && !name.startsWith("qt_"))
+            kind->setObjectName(QStringLiteral("%1_%2").arg(name).arg(teil));
+}
+
+void Optikseite::ZeigeUebertrageneWerte() {
+    const std::tuple<Teilliste, QLabel*> zeilen[] = {
+        {Teilliste::Reichweite, ui->lblReichweiteUebertragenerWert},
+        {Teilliste::Filterdurchlaeufe, ui->lblAnzahlDurchlaeufeFilterUebertragenerWert},
+        {Teilliste::MinMaxHaltezeit, ui->lblMinMaxHaltezeitUebertragenerWert},
+    };
+    for (const auto& [liste, zeile] : zeilen)
+        VerbindeUebertragenenWert(*boxen[static_cast<std::size_t>(liste)], Beschreibung(liste), *zeile);
+}
+
+void Optikseite::Fuelle() {
+    const std::int32_t zyklus = modHilfsFunktionen::GetZykluszeit(optikteil);
+    const std::int32_t strahlen = LiesRegister(Spezifisch, spezifisch::Strahlenzahl, optikteil);
+    ui->lblInhaltAnzahlStrahlenSegmente->setText(QString::number(strahlen));
+    for (std::size_t i = 0; i < boxen.size(); ++i) {
+        const Auswahlliste& liste = AlleTeillisten()[i];
+        ZeigeListe(*boxen[i], liste, zyklus, LiesRegister(Spezifisch, liste.adresse, optikteil));
+    }
+    const bool oder = GruppenzaehlerOder(LiesRegister(Spezifisch, spezifisch::Gruppenzaehler, optikteil));
+    (oder ? ui->optGruppenzählerOder : ui->optGruppenzählerUnd)->setChecked(true);
+}
+
+std::int32_t Optikseite::Wert(const QComboBox& box, const Auswahlliste& liste) const {
+    const std::int32_t wert = GewaehlterWert(box, liste);
+    if (liste.adresse == spezifisch::Gruppenzaehler)
+        return Gruppenzaehlerwert(wert, ui->optGruppenzählerOder->isChecked());
+    return wert;
+}
+
+void Optikseite::SchreibeZurueck() const {
+    for (std::size_t i = 0; i < boxen.size(); ++i) {
+        const Auswahlliste& liste = AlleTeillisten()[i];
+        SchreibeRegister(Spezifisch, liste.adresse, Wert(*boxen[i], liste), optikteil);
+    }
+}
+
+} // namespace varnoth

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace varnoth {
+
+/// What the switching output does: the selected index in each of its three groups of options.
+struct PnpAusgang {
+    int funktion = 0;  ///< 0..8, 7 is never chosen
+    int optikteil = 0; ///< 0..3: the optical part that drives the output
+    int pegel = 1;     ///< 0 = active high, 1 = active low
+
+    bool operator==(const PnpAusgang&) const = default;
+};
+
+inline constexpr int AnzahlPnpFunktionen = 9;
+/// The function that exists in no controller; its option is hidden.
+inline constexpr int VerborgenePnpFunktion = 7;
+
+/// The options that the register selects. Where it names several functions, the last one in the order of the
+/// options counts.
+PnpAusgang PnpAusgangAus(std::int32_t registerwert);
+
+/// The register value that the options stand for.
+std::int32_t Registerwert(const PnpAusgang& ausgang);
+
+/// Stores the register value in the given way; a box tells the programmer when it was refused.
+void SpeicherePnpAusgang(std::int32_t registerwert, const std::function<bool(std::int32_t)>& speichere);
+
+} // namespace varnoth

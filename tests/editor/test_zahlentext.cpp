@@ -1,0 +1,26 @@
+#include "zahlentext.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+TEST(Zahlentext, Has_the_decimal_separator_of_the_system) {
+    EXPECT_EQ(Zahlentext(1.5, QLocale(QLocale::German)), "1,5");
+    EXPECT_EQ(Zahlentext(1.5, QLocale(QLocale::English)), "1.5");
+}
+
+TEST(Zahlentext, Has_no_more_digits_than_the_number_needs) {
+    const QLocale deutsch(QLocale::German);
+    EXPECT_EQ(Zahlentext(3, deutsch), "3");
+    EXPECT_EQ(Zahlentext(0, deutsch), "0");
+    EXPECT_EQ(Zahlentext(0.1 + 0.2, deutsch), "0,3");
+    EXPECT_EQ(Zahlentext(1.0 / 3, deutsch), "0,333333333333333");
+    EXPECT_EQ(Zahlentext(-4.25, deutsch), "-4,25");
+}
+
+TEST(Zahlentext, Groups_no_digits) {
+    EXPECT_EQ(Zahlentext(1234567.5, QLocale(QLocale::German)), "1234567,5");
+    EXPECT_EQ(Zahlentext(1234567, QLocale(QLocale::English)), "1234567");
+}
+
+} // namespace varnoth
