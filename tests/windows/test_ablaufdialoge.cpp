@@ -1,9 +1,9 @@
 // What all dialogs that run a procedure against the controller have in common.
 
 #include "dialogtest.h"
-#include "frmholelichtleisteninfo.h"
-#include "frmidentifikationsanforderung.h"
-#include "frmkonfigurationlesenaushardware.h"
+#include "frmHoleLichtleistenInfo.h"
+#include "frmIdentifikationsAnforderung.h"
+#include "frmKonfigurationLesenAusHardware.h"
 
 #include <QKeyEvent>
 

@@ -1,5 +1,5 @@
 #include "dialogtest.h"
-#include "frmkonfigurationlesenaushardware.h"
+#include "frmKonfigurationLesenAusHardware.h"
 
 #include <QProgressBar>
 
