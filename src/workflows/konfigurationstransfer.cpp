@@ -40,7 +40,7 @@ std::string Registertext(Speicherbereich bereich, std::int16_t adresse) {
 
 bool Konfigurationstransfer::UebertrageAlles() {
     erledigt = 0;
-    gesamt = AnzahlParameter();
+    gesamt = AnzahlSchritte();
     anzeige.ZeigeFortschritt(erledigt, gesamt);
     return UebertrageBereich(Speicherbereich::GlobaleGeraetedaten) && UebertrageOptikteile() &&
            Waehle(TextKanal, modModbus::KanalAuswahlRegister, Kanal) &&
@@ -49,8 +49,11 @@ bool Konfigurationstransfer::UebertrageAlles() {
 
 bool Konfigurationstransfer::Versuche(const std::string& registertext, int anzahl,
                                       const std::function<Boolean()>& transaktion) {
-    return VersucheBisErfolg(
-        anzeige, [&](int versuch) { anzeige.ZeigeRegister(registertext, anzahl, versuch); }, transaktion);
+    const auto zeige = [&](int versuch) { anzeige.ZeigeRegister(registertext, anzahl, versuch); };
+    const bool gelungen = VersucheBisErfolg(anzeige, zeige, transaktion);
+    if (gelungen)
+        anzeige.ZeigeFortschritt(++erledigt, gesamt);
+    return gelungen;
 }
 
 /// The range's parameters. They are gathered before the first is transferred, since the description's cursor
@@ -64,8 +67,9 @@ std::vector<Transferparameter> Konfigurationstransfer::Parameter(Speicherbereich
     return liste;
 }
 
-int Konfigurationstransfer::AnzahlParameter() const {
-    int anzahl = 0;
+/// Every parameter, the selection of each part and of the channel, and what the class adds.
+int Konfigurationstransfer::AnzahlSchritte() const {
+    int anzahl = AnzahlOptikteile + 1 + weitereSchritte;
     for (const Speicherbereich bereich : AlleSpeicherbereiche)
         anzahl += Exemplare(bereich) * static_cast<int>(Parameter(bereich).size());
     return anzahl;
@@ -85,7 +89,6 @@ bool Konfigurationstransfer::UebertrageBereich(Speicherbereich bereich, std::int
         parameter.optikteil = optikteil;
         if (!Uebertrage(parameter))
             return false;
-        anzeige.ZeigeFortschritt(++erledigt, gesamt);
     }
     return true;
 }

@@ -18,7 +18,7 @@ public:
     virtual void ZeigeBereich(const std::string& text) = 0;
     /// The register as text, the number of registers, and the attempt (from 1) that begins now.
     virtual void ZeigeRegister(const std::string& registertext, int anzahl, int versuch) = 0;
-    /// How many of all parameters are through.
+    /// How many of all exchanges with the controller are through.
     virtual void ZeigeFortschritt(int erledigt, int gesamt) = 0;
     /// The transfer is complete: the text stands instead of the range, register, count and attempt are empty.
     virtual void ZeigeEnde(const std::string& text) = 0;
@@ -43,7 +43,9 @@ std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
 /// What happens to a parameter, and which ones take part, is the business of the class that reads or writes.
 class Konfigurationstransfer {
 public:
-    explicit Konfigurationstransfer(Transferanzeige& die) : anzeige(die) {}
+    /// `weitere` is the number of exchanges that the class makes besides the walk; the progress counts them.
+    explicit Konfigurationstransfer(Transferanzeige& die, int weitere = 0)
+        : anzeige(die), weitereSchritte(weitere) {}
     Konfigurationstransfer(const Konfigurationstransfer&) = delete;
     Konfigurationstransfer& operator=(const Konfigurationstransfer&) = delete;
     virtual ~Konfigurationstransfer() = default;
@@ -54,8 +56,8 @@ public:
 protected:
     using Eintragsiterator = Boolean (*)(Speicherbereich, std::int16_t& adresse, std::int16_t& anzahl);
 
-    /// Attempts at one exchange until it succeeds, shown with the register's text and count. False =
-    /// cancelled.
+    /// Attempts at one exchange until it succeeds, shown with the register's text and count; then the
+    /// progress is one further. False = cancelled.
     bool Versuche(const std::string& registertext, int anzahl, const std::function<Boolean()>& transaktion);
 
 private:
@@ -67,12 +69,13 @@ private:
     virtual bool Uebertrage(const Transferparameter& parameter) = 0;
 
     std::vector<Transferparameter> Parameter(Speicherbereich bereich) const;
-    int AnzahlParameter() const;
+    int AnzahlSchritte() const;
     bool Waehle(std::int16_t textId, std::int16_t auswahlregister, int auswahl);
     bool UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil = 0);
     bool UebertrageOptikteile();
 
     Transferanzeige& anzeige;
+    int weitereSchritte;
     int erledigt = 0;
     int gesamt = 0;
 };

@@ -1,5 +1,5 @@
 #include "dialogtest.h"
-#include "frmholelichtleisteninfo.h"
+#include "frmHoleLichtleistenInfo.h"
 
 #include <QProgressBar>
 

@@ -1,5 +1,5 @@
 #include "dialogtest.h"
-#include "frmidentifikationsanforderung.h"
+#include "frmIdentifikationsAnforderung.h"
 
 namespace varnoth {
 

@@ -1,5 +1,5 @@
 #include "dialogtest.h"
-#include "frmkonfigurationlesenaushardware.h"
+#include "frmKonfigurationLesenAusHardware.h"
 
 #include <QProgressBar>
 
@@ -70,7 +70,7 @@ TEST_F(frmKonfigurationLesenAusHardwareTest, Closing_a_finished_transfer_is_no_c
     EXPECT_EQ(dialog.GetVollstaendig(), True);
 }
 
-TEST_F(frmKonfigurationLesenAusHardwareTest, The_progress_bar_runs_over_all_parameters) {
+TEST_F(frmKonfigurationLesenAusHardwareTest, The_progress_bar_runs_over_all_exchanges) {
     Dialog dialog;
     const auto& balken = Kind<QProgressBar>(dialog, "pbFortschritt");
     int beiKommunikation = 0;
@@ -80,7 +80,7 @@ TEST_F(frmKonfigurationLesenAusHardwareTest, The_progress_bar_runs_over_all_para
         return false;
     };
     ZeigeBisFertig(dialog);
-    EXPECT_EQ(beiKommunikation, 7 + 4 * 9);
+    EXPECT_EQ(beiKommunikation, 7 + 4 * (1 + 9));
     EXPECT_EQ(balken.value(), balken.maximum());
 }
 

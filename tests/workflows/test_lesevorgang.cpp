@@ -1,39 +1,15 @@
 #include "lesevorgang.h"
 
 #include "ablauftest.h"
+#include "transfermitschrift.h"
 
 namespace varnoth {
 
 namespace {
 
+using pruefung::Mitschrift;
+using pruefung::Schritt;
 using pruefung::Wort;
-
-struct Schritt {
-    std::string bereich;
-    std::string registertext;
-    int anzahl;
-    int versuch;
-    bool operator==(const Schritt&) const = default;
-};
-
-struct Mitschrift : Transferanzeige {
-    void ZeigeBereich(const std::string& text) override { bereich = text; }
-    void ZeigeRegister(const std::string& registertext, int anzahl, int versuch) override {
-        schritte.push_back({bereich, registertext, anzahl, versuch});
-        if (abbruchBei && abbruchBei(schritte.back()))
-            abbruch = true;
-    }
-    void ZeigeFortschritt(int erledigt, int gesamt) override { fortschritt.emplace_back(erledigt, gesamt); }
-    void ZeigeEnde(const std::string& text) override { ende = text; }
-    bool Abgebrochen() override { return abbruch; }
-
-    std::string bereich;
-    std::string ende;
-    std::vector<Schritt> schritte;
-    std::vector<std::pair<int, int>> fortschritt;
-    std::function<bool(const Schritt&)> abbruchBei;
-    bool abbruch = false;
-};
 
 std::vector<std::pair<int, int>> Parameter(std::initializer_list<std::pair<int, int>> spezifische) {
     std::vector<std::pair<int, int>> alle{{0, 1}, {9, 10}, {20, 4}, {24, 1}, {25, 1}, {193, 1}, {196, 1}};
@@ -206,12 +182,12 @@ TEST_F(LesevorgangTest, A_parameter_whose_read_succeeds_after_the_cancel_is_not_
     EXPECT_EQ(Wert(Speicherbereich::GlobaleGeraetedaten, 25), 0);
 }
 
-TEST_F(LesevorgangTest, A_complete_transfer_ends_with_its_text_and_all_parameters_done) {
+TEST_F(LesevorgangTest, A_complete_transfer_ends_with_its_text_and_every_exchange_counted) {
     EXPECT_TRUE(LiesKonfiguration(anzeige));
     EXPECT_EQ(anzeige.ende, "Übertragung beendet.");
-    ASSERT_EQ(anzeige.fortschritt.size(), 51U);
-    EXPECT_EQ(anzeige.fortschritt.front(), std::make_pair(0, 50));
-    EXPECT_EQ(anzeige.fortschritt.back(), std::make_pair(50, 50));
+    ASSERT_EQ(anzeige.fortschritt.size(), 56U);
+    EXPECT_EQ(anzeige.fortschritt.front(), std::make_pair(0, 55));
+    EXPECT_EQ(anzeige.fortschritt.back(), std::make_pair(55, 55));
 }
 
 TEST_F(LesevorgangTest, Autosend_can_be_chosen_with_modes_1_and_3_only) {

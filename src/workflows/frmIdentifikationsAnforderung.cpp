@@ -1,8 +1,8 @@
-#include "frmidentifikationsanforderung.h"
+#include "frmIdentifikationsAnforderung.h"
 
 #include "feldtext.h"
 #include "transaktionen.h"
-#include "ui_frmidentifikationsanforderung.h"
+#include "ui_frmIdentifikationsAnforderung.h"
 #include "zeichensatz.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "frmkonfigurationlesenaushardware.h"
+#include "frmKonfigurationLesenAusHardware.h"
 
 #include "lesevorgang.h"
 #include "transferansicht.h"
-#include "ui_frmkonfigurationlesenaushardware.h"
+#include "ui_frmKonfigurationLesenAusHardware.h"
 
 namespace varnoth {
 

@@ -1,7 +1,7 @@
-#include "frmholelichtleisteninfo.h"
+#include "frmHoleLichtleistenInfo.h"
 
 #include "feldtext.h"
-#include "ui_frmholelichtleisteninfo.h"
+#include "ui_frmHoleLichtleistenInfo.h"
 
 namespace varnoth {
 
