@@ -9,6 +9,10 @@ if(VARNOTH_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+if(VARNOTH_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=address,undefined)
+endif()
 
 # varnoth_room(NAME SOURCES file... [ROOMS room...] [LIBS library...]): the static library varnoth_NAME.
 function(varnoth_room name)
