@@ -1,7 +1,7 @@
 // Time of reading the whole configuration in its dialog, beside the time that the line alone needs.
 
 #include "bericht.h"
-#include "frmkonfigurationlesenaushardware.h"
+#include "frmKonfigurationLesenAusHardware.h"
 #include "messplatz.h"
 #include "statistik.h"
 

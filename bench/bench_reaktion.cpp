@@ -1,7 +1,7 @@
 // How late a timer of the window fires while the program waits for the line.
 
 #include "bericht.h"
-#include "frmkonfigurationlesenaushardware.h"
+#include "frmKonfigurationLesenAusHardware.h"
 #include "messplatz.h"
 #include "statistik.h"
 

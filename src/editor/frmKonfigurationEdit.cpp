@@ -1,5 +1,7 @@
 #include "frmKonfigurationEdit.h"
 
+#include "frmBlankingmuster.h"
+#include "frmReihenfolge.h"
 #include "geraetesuche.h"
 #include "lokalisiereform.h"
 #include "registeradressen.h"
@@ -21,10 +23,21 @@ bool WechseltSeite(const QKeyEvent& taste) {
            taste.modifiers().testFlag(Qt::ControlModifier);
 }
 
+void OeffneBlankingmuster(QWidget* eltern, int optikteil) {
+    frmBlankingmuster dialog(eltern);
+    dialog.InitFormBlankingmuster(optikteil);
+    dialog.exec();
+}
+
+void OeffneReihenfolge(QWidget* eltern) {
+    frmReihenfolge(eltern).exec();
+}
+
 } // namespace
 
 frmKonfigurationEdit::frmKonfigurationEdit(QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::frmKonfigurationEdit>()) {
+    : QDialog(parent), ui(std::make_unique<Ui::frmKonfigurationEdit>()),
+      untereditoren{OeffneBlankingmuster, OeffneReihenfolge} {
     ui->setupUi(this);
     optikseiten = {ui->picOptions_1, ui->picOptions_2, ui->picOptions_3, ui->picOptions_4};
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
@@ -42,14 +55,10 @@ void frmKonfigurationEdit::VerbindeKnoepfe() {
     connect(ui->cmdDownLoad, &QPushButton::clicked, this, [this] { Uebernimm(True); });
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     for (Optikseite* const seite : optikseiten)
-        connect(seite, &Optikseite::BlankingmusterVerlangt, this, [this](int teil) {
-            if (untereditoren.blankingmuster)
-                untereditoren.blankingmuster(this, teil);
-        });
-    connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this, [this] {
-        if (untereditoren.reihenfolge)
-            untereditoren.reihenfolge(this);
-    });
+        connect(seite, &Optikseite::BlankingmusterVerlangt, this,
+                [this](int teil) { untereditoren.blankingmuster(this, teil); });
+    connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this,
+            [this] { untereditoren.reihenfolge(this); });
     connect(ui->picOptions_5, &Kommunikationsseite::AutosendStartbar, this, [this](bool startbar) {
         if (umfeld.autosendStartbar)
             umfeld.autosendStartbar(startbar);

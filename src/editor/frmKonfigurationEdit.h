@@ -38,6 +38,7 @@ public:
     explicit frmKonfigurationEdit(QWidget* parent = nullptr);
     ~frmKonfigurationEdit() override;
 
+    /// Opens others in place of its own two; both must be given.
     void SetzeUntereditoren(Untereditoren die) { untereditoren = std::move(die); }
     /// Shows the image; call it once, before the dialog is shown.
     void InitKonfiguration(Editorumfeld das);

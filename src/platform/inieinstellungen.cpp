@@ -1,11 +1,11 @@
 #include "inieinstellungen.h"
 
+#include "dateien.h"
 #include "zahlen.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -58,9 +58,7 @@ bool IniEinstellungen::Speichere() {
     std::string text;
     if (inhalt->ini.Save(text) < 0)
         return false;
-    QSaveFile datei(pfad);
-    return datei.open(QIODevice::WriteOnly) && datei.write(QByteArray::fromStdString(text)) >= 0 &&
-           datei.commit();
+    return ErsetzeDatei(pfad.toStdString(), text).empty();
 }
 
 int IniEinstellungen::LiesZahl(const std::string& abschnitt, const std::string& schluessel, int standard) {

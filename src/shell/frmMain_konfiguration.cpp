@@ -6,6 +6,7 @@
 #include "frmMain.h"
 #include "frmStrahlenBestimmen.h"
 #include "konfigurationsbefehle.h"
+#include "letzterdatensatz.h"
 #include "registerabbild.h"
 #include "standardkonfiguration.h"
 #include "transaktionen.h"
@@ -51,7 +52,7 @@ bool frmMain::FrageNachKonfiguration() {
     dialog.exec();
     switch (dialog.GetWahl()) {
     case frmKeinKonturAngeschlossen::Wahl::LetzterDatensatz:
-        LadeDatei(LetzteKonfigurationsdatei());
+        LadeDatei(LetzterDatensatz());
         return true;
     case frmKeinKonturAngeschlossen::Wahl::DateiOeffnen:
         SubOeffnen();
@@ -77,9 +78,9 @@ void frmMain::BearbeiteKonfiguration() {
     if (!gewaehlt || !HatStrahlen())
         return;
     frmKonfigurationEdit editor(this);
-    editor.InitKonfiguration({.uebertragenerWert = ui->mnuUebertragenerWert->isChecked(),
-                              .autosendWaehlbar = [this](bool waehlbar) {
-                                  zustand.autosendWaehlbar = waehlbar;
+    editor.InitKonfiguration({.zeigeUebertrageneWerte = ui->mnuUebertragenerWert->isChecked(),
+                              .autosendStartbar = [this](bool startbar) {
+                                  zustand.autosendWaehlbar = startbar;
                                   AktualisiereMenue();
                               }});
     editor.exec();

@@ -114,11 +114,6 @@ bool LadeDatei(const std::string& pfad) {
     return geladen && plausibel;
 }
 
-std::string LetzteKonfigurationsdatei() {
-    std::string pfad = ZuletztGespeichert();
-    return LiesDatei(pfad, 1).gelungen ? pfad : std::string();
-}
-
 bool FrageNachSpeichern() {
     while (modDaten::IstGeaendert() != False) {
         const Antwort antwort = FrageNachAenderungen();

@@ -22,9 +22,6 @@ bool KonfigurationOeffnen();
 /// the file's configuration.
 bool LadeDatei(const std::string& pfad);
 
-/// The file the configuration was last saved to; empty without one or when it cannot be read.
-std::string LetzteKonfigurationsdatei();
-
 /// Before the program ends: asks whether changes in the configuration shall be saved, if there are any, and
 /// saves them on Yes. True when the program may end; the changed mark is then cleared. A Yes after which
 /// nothing was saved (dialog cancelled, write failed) asks again, so that only a No gives changes up.

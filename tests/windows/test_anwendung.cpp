@@ -31,7 +31,7 @@ protected:
         anwendung.reset();
         QDir::setCurrent(vorher);
         SetzeSprachoffset(Deutsch);
-        LadeQtTexte(Deutsch);
+        LadeQtTexte(Englisch);
     }
 
     void SchreibEinstellungen(const QByteArray& text) const {

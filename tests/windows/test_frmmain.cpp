@@ -374,7 +374,7 @@ TEST_F(FrmMainTest, Switching_to_English_and_back_gives_the_German_texts_again) 
     EXPECT_EQ(Titel(0), "1. Optikteil offline");
     EXPECT_TRUE(Aktion("mnuDeutsch").isChecked());
     EXPECT_EQ((einstellungen.texte[{"Settings", "Sprache"}]), "0");
-    LadeQtTexte(Deutsch);
+    LadeQtTexte(Englisch);
 }
 
 TEST_F(FrmMainTest, Closing_while_a_pass_waits_ends_the_pass_and_the_program) {
@@ -390,6 +390,7 @@ TEST_F(FrmMainTest, Closing_while_a_pass_waits_ends_the_pass_and_the_program) {
 }
 
 TEST_F(FrmMainTest, Closing_with_unsaved_changes_asks_from_the_main_loop) {
+    Fenster();
     modDaten::SetzeGeaendert();
     umgebung.antworten = {Antwort::Nein};
     Fenster().close();
@@ -403,6 +404,7 @@ TEST_F(FrmMainTest, Closing_with_unsaved_changes_asks_from_the_main_loop) {
 }
 
 TEST_F(FrmMainTest, Cancelling_the_question_for_changes_keeps_the_program_running) {
+    Fenster();
     modDaten::SetzeGeaendert();
     umgebung.antworten = {Antwort::Abbrechen};
     Waehle("mnuBeenden");

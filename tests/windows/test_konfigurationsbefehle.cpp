@@ -298,15 +298,6 @@ TEST_F(Oeffnen, A_file_longer_than_a_body_is_loaded) {
     EXPECT_TRUE(LadeDatei(pfad));
 }
 
-TEST_F(Oeffnen, The_last_saved_file_is_offered_while_it_can_be_read) {
-    EXPECT_EQ(LetzteKonfigurationsdatei(), "");
-    gewaehlt = {Pfad("a.con")};
-    KonfigurationSpeichernUnter();
-    EXPECT_EQ(LetzteKonfigurationsdatei(), Pfad("a.con"));
-    ASSERT_TRUE(QDir(ordner.path()).remove(QStringLiteral("a.con")));
-    EXPECT_EQ(LetzteKonfigurationsdatei(), "");
-}
-
 TEST_F(Beendenfrage, Without_changes_the_program_ends_without_a_question) {
     EXPECT_TRUE(FrageNachSpeichern());
     EXPECT_TRUE(umgebung.meldungen.empty());
@@ -319,6 +310,7 @@ TEST_F(Beendenfrage, Cancel_keeps_the_program_running_and_the_changes) {
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0],
               (Meldung{.text = "Möchten Sie die Änderungen in der Konfiguration speichern?",
+                       .titel = "Achtung",
                        .symbol = Symbol::Warnung,
                        .knoepfe = Knoepfe::JaNeinAbbrechen}));
     EXPECT_EQ(modDaten::IstGeaendert(), True);
