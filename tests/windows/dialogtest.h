@@ -74,6 +74,15 @@ protected:
     static bool Bereit(QDialog& dialog, const char* name) {
         return Kind<QPushButton>(dialog, name).isEnabled();
     }
+    /// The names of the controls that Tab leads through, one after another.
+    static QString Tabfolge(QDialog& dialog) {
+        QStringList namen;
+        const QWidget* element = &dialog;
+        while ((element = element->nextInFocusChain()) != &dialog)
+            if (element->focusPolicy() & Qt::TabFocus)
+                namen += element->objectName();
+        return namen.join(' ');
+    }
 
     void Identifiziere() {
         modSchnittstelle::OpenCommPort();

@@ -285,12 +285,7 @@ TYPED_TEST(AblaufdialogTest, The_size_stays_the_same_while_the_procedure_shows_i
 
 TYPED_TEST(AblaufdialogTest, The_tab_order_leads_through_the_fields_to_confirm_and_cancel) {
     TypeParam dialog;
-    QStringList namen;
-    const QWidget* element = &dialog;
-    while ((element = element->nextInFocusChain()) != &dialog)
-        if (element->focusPolicy() & Qt::TabFocus)
-            namen += element->objectName();
-    EXPECT_EQ(namen.join(' '), Merkmale<TypeParam>::tabfolge);
+    EXPECT_EQ(this->Tabfolge(dialog), Merkmale<TypeParam>::tabfolge);
 }
 
 TYPED_TEST(AblaufdialogTest, The_form_has_its_own_name) {
