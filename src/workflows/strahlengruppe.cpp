@@ -16,6 +16,13 @@ void SetzeTag(QLabel& beschriftung, int id) {
     beschriftung.setProperty("Tag", QString::number(id));
 }
 
+/// Nothing around the element moves when it comes and goes.
+void BehaltePlatz(QWidget& element) {
+    QSizePolicy platz = element.sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    element.setSizePolicy(platz);
+}
+
 QStringList Listeneintraege(int optikteil) {
     QStringList eintraege;
     for (int zahl = KleinsteStrahlenzahl(optikteil); zahl <= MaxStrahlen; ++zahl)
@@ -33,6 +40,7 @@ Strahlengruppe::Strahlengruppe(QWidget* eltern)
     const int mass = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     ui->imgZuVieleStrahlen->setPixmap(
         style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(mass, mass)));
+    BehaltePlatz(*ui->imgZuVieleStrahlen);
     FuelleListen();
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         connect(Option1.at(static_cast<std::size_t>(teil)), &QRadioButton::toggled, this,

@@ -127,6 +127,12 @@ TEST_F(frmStrahlenBestimmenTest, A_total_above_512_is_marked_before_OK) {
     EXPECT_EQ(zeichen.toolTip(), "Es dürfen nicht mehr als 512 Strahlen eingestellt werden.");
 }
 
+TEST_F(frmStrahlenBestimmenTest, The_mark_does_not_change_the_size_of_the_dialog) {
+    const QSize davor = dialog.sizeHint();
+    Waehle(dialog, {129, 128, 128, 128});
+    EXPECT_EQ(dialog.sizeHint(), davor);
+}
+
 TEST_F(frmStrahlenBestimmenTest, The_captions_are_in_the_language_of_the_moment) {
     SetzeSprachoffset(Englisch);
     frmStrahlenBestimmen englisch;
