@@ -62,8 +62,10 @@ protected:
         fahrer.Sobald([name] { return SichtbaresFenster(name) != nullptr; },
                       [name, tat = std::move(tat)] { tat(*SichtbaresFenster(name)); });
     }
+    /// Clicks as soon as the action that plans it is over: what the click begins may wait for more actions.
     static void Klicke(QWidget& fenster, const QString& knopf) {
-        Kind<QAbstractButton>(fenster, knopf).click();
+        QMetaObject::invokeMethod(&Kind<QAbstractButton>(fenster, knopf), &QAbstractButton::click,
+                                  Qt::QueuedConnection);
     }
     static void WaehlePosten(QWidget& fenster, const QString& liste, int posten) {
         Kind<QComboBox>(fenster, liste).setCurrentIndex(posten);
@@ -113,11 +115,11 @@ std::vector<std::string> GanzeFolge(bool speichern) {
     std::vector<std::string> folge{"write global 193"};
     for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
         folge.push_back("write global 212");
-        for (const char* adresse : {"13", "14", "19", "24", "25", "26", "27", "52"})
+        for (const char* adresse : {"13", "14", "19", "24", "25", "26", "27", "52..83"})
             folge.push_back("write specific[" + std::to_string(teil) + "] " + adresse);
     }
     folge.push_back("write global 213");
-    for (const char* adresse : {"4", "8", "74", "75", "126"})
+    for (const char* adresse : {"4", "8", "74", "75..104", "126"})
         folge.push_back(std::string("write communication ") + adresse);
     if (speichern)
         folge.push_back("write global 189");
@@ -129,7 +131,7 @@ std::vector<std::string> GanzeFolge(bool speichern) {
 TEST_F(KonfigurationImBetrieb, Every_changed_setting_arrives_is_stored_and_no_other_changes) {
     GeheLiveMitProtokoll();
     auto erwartet = Konfiguration();
-    ImEditor([this](QWidget& editor) {
+    ImEditor([](QWidget& editor) {
         Klicke(editor, "optPNPAusgang_Option1_4");
         WaehlePosten(editor, "cboReichweite_0", 4);
         WaehlePosten(editor, "cboMinMaxHaltezeit_1", 99);
@@ -139,13 +141,16 @@ TEST_F(KonfigurationImBetrieb, Every_changed_setting_arrives_is_stored_and_no_ot
         Klicke(editor, "optAutosendohneTrigger");
         WaehlePosten(editor, "cbolOhneTriggerAutosendrate", 8);
         WaehlePosten(editor, "cboBaudrate", 1);
-        InFenster("frmReihenfolge", [](QWidget& dialog) {
-            Klicke(dialog, "Command3");
-            Klicke(dialog, "cmdOK");
-        });
         Klicke(editor, "cmdReihenfolge");
-        Klicke(editor, "cmdDownLoad");
     });
+    bool geloescht = false;
+    InFenster("frmReihenfolge", [&geloescht](QWidget& dialog) {
+        Klicke(dialog, "Command3");
+        Klicke(dialog, "cmdOK");
+        geloescht = true;
+    });
+    fahrer.Sobald([&geloescht] { return geloescht && SichtbaresFenster("frmReihenfolge") == nullptr; },
+                  [] { Klicke(*SichtbaresFenster("frmKonfigurationEdit"), "cmdDownLoad"); });
     Schreibe(true);
     ASSERT_TRUE(FuehreAus("mnuAnzeigeKonfiguration"));
     erwartet[{Global, 0, global::PnpAusgang}] &= 0x8300;
