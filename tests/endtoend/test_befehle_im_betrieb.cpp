@@ -186,13 +186,13 @@ TEST_F(BefehleImBetrieb, A_view_that_is_no_longer_minimised_gets_data_again) {
     EXPECT_EQ(GezeigteWerte(1).front(), 22);
 }
 
-TEST_F(BefehleImBetrieb, Exit_ends_the_main_loop_and_gives_the_port_back) {
+TEST_F(BefehleImBetrieb, Exit_asks_for_changes_ends_the_main_loop_and_gives_the_port_back) {
     GeheLive();
     ASSERT_TRUE(HatLeitungOffen());
     Waehle("mnuBeenden");
     EXPECT_TRUE(LaufeBis([this] { return !programm->Runde(); }));
     EXPECT_FALSE(HatLeitungOffen());
-    EXPECT_THAT(Meldungen(), IsEmpty());
+    EXPECT_THAT(Meldungen(), ElementsAre(LadeText(6002)));
 }
 
 TEST_F(BefehleImBetrieb, Exit_stores_the_places_of_all_windows) {

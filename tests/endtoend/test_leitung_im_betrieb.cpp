@@ -3,6 +3,7 @@
 #include "programmtest.h"
 
 #include "polling.h"
+#include "texte.h"
 
 #include <gmock/gmock.h>
 #include <sys/resource.h>
@@ -140,8 +141,9 @@ TEST_F(LeitungImBetrieb, The_main_window_may_be_closed_while_a_pass_waits) {
     GeheLive();
     geraet->Befehl("fault silence");
     SobaldEinDurchgangWartet([this] { Hauptfenster().close(); });
-    EXPECT_LT(DauerBis([this] { return !programm->Runde(); }), WartezeitMs + 1500);
-    EXPECT_THAT(Meldungen(), IsEmpty());
+    // One second for the attempt in progress, one for taking the controller out of autosend.
+    EXPECT_LT(DauerBis([this] { return !programm->Runde(); }), WartezeitMs + 2500);
+    EXPECT_THAT(Meldungen(), ElementsAre(LadeText(6002)));
 }
 
 TEST_F(LeitungImBetrieb, The_main_window_may_be_closed_while_the_identification_is_tried) {
