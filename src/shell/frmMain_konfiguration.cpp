@@ -47,22 +47,22 @@ void frmMain::ZeigeKonfiguration() {
     ZeigeLichtleistenmenue();
 }
 
+/// A way that led to nothing, such as a file dialog that was cancelled, leads back to the question.
 bool frmMain::FrageNachKonfiguration() {
-    frmKeinKonturAngeschlossen dialog(this);
-    dialog.exec();
-    switch (dialog.GetWahl()) {
-    case frmKeinKonturAngeschlossen::Wahl::LetzterDatensatz:
-        LadeDatei(LetzterDatensatz());
-        return true;
-    case frmKeinKonturAngeschlossen::Wahl::DateiOeffnen:
-        SubOeffnen();
-        return true;
-    case frmKeinKonturAngeschlossen::Wahl::Strahlenanzahl:
-        ZeigeKonfiguration();
-        return true;
-    default:
-        return false;
-    }
+    using Wahl = frmKeinKonturAngeschlossen::Wahl;
+    do {
+        frmKeinKonturAngeschlossen dialog(this);
+        dialog.exec();
+        const Wahl wahl = dialog.GetWahl();
+        if (wahl == Wahl::Abgebrochen || Beendet())
+            return false;
+        if (wahl == Wahl::LetzterDatensatz)
+            varnoth::LadeDatei(LetzterDatensatz());
+        if (wahl == Wahl::DateiOeffnen)
+            KonfigurationOeffnen();
+    } while (!HatStrahlen());
+    ZeigeKonfiguration();
+    return true;
 }
 
 void frmMain::NeueKonfiguration() {
