@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <thread>
 #include <utility>
 
@@ -18,6 +19,8 @@ namespace {
 // Timers of the event loop count whole milliseconds. Waits that end sooner than this sleep to the
 // microsecond.
 constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
+constexpr Zeit LaengsteWeckdauer = std::chrono::microseconds(200);
+constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
 
 /// Sleeps end when they should, not some tens of microseconds later.
 void WeckePuenktlich() {
@@ -48,12 +51,23 @@ void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
         QCoreApplication::processEvents();
-        std::this_thread::sleep_for(ende - Uhr());
+        SchlafeBis(ende);
         return;
     }
     wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     wecker.stop();
+}
+
+/// Sleeps a little shorter by what waking took lately; who needs the rest of the time waits on.
+void QtUmgebung::SchlafeBis(Zeit ende) {
+    const Zeit weckzeit = ende - weckdauer;
+    const Zeit jetzt = Uhr();
+    if (weckzeit <= jetzt)
+        return;
+    std::this_thread::sleep_for(weckzeit - jetzt);
+    const Zeit verspaetung = std::min(Uhr() - weckzeit, LaengsteWeckdauer);
+    weckdauer += (verspaetung - weckdauer) / Weckgedaechtnis;
 }
 
 Zeit QtUmgebung::Uhr() {

@@ -29,7 +29,10 @@ public:
     void SetzeMeldungsweg(std::function<Antwort(const Meldung&)> weg);
 
 private:
+    void SchlafeBis(Zeit ende);
+
     QTimer wecker;
+    Zeit weckdauer{0};
     std::function<int()> formularzaehler;
     std::function<void(int, const std::string&)> statusanzeige;
     std::function<Antwort(const Meldung&)> meldungsweg;
