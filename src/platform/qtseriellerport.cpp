@@ -3,11 +3,13 @@
 #include "geraetepfade.h"
 #include "porteinstellungen.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #ifdef Q_OS_UNIX
 #include <poll.h>
+#include <unistd.h>
 #endif
 
 namespace varnoth {
@@ -42,6 +44,17 @@ bool LeitungIstWeg([[maybe_unused]] QSerialPort& port) {
     return ::poll(&anschluss, 1, 0) > 0 && (anschluss.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
 #else
     return false;
+#endif
+}
+
+/// Hands over what the system takes at once, which is all but always the whole request, and gives how many
+/// bytes that was. QSerialPort itself would switch a notifier on and off for each write, which wakes the
+/// event loop twice.
+std::size_t SchreibeSofort([[maybe_unused]] QSerialPort& port, [[maybe_unused]] std::string_view bytes) {
+#ifdef Q_OS_UNIX
+    return static_cast<std::size_t>(std::max<ssize_t>(::write(port.handle(), bytes.data(), bytes.size()), 0));
+#else
+    return 0;
 #endif
 }
 
@@ -103,6 +116,10 @@ std::string QtSeriellerPort::LiesAlles() {
 
 void QtSeriellerPort::Schreibe(std::string_view bytes) {
     if (!port.isOpen())
+        return;
+    if (port.bytesToWrite() == 0)
+        bytes.remove_prefix(SchreibeSofort(port, bytes));
+    if (bytes.empty())
         return;
     port.write(bytes.data(), static_cast<qint64>(bytes.size()));
     if (port.isOpen())
