@@ -1,6 +1,7 @@
 #include "feldtext.h"
 
 #include <QLineEdit>
+#include <QProgressBar>
 
 #include <algorithm>
 
@@ -11,6 +12,12 @@ void ZeigeText(QLineEdit& feld, const QString& text) {
         return;
     feld.setText(text);
     feld.setCursorPosition(0);
+}
+
+void ZeigeStand(QProgressBar& balken, int wert) {
+    balken.setUpdatesEnabled(false);
+    balken.setValue(wert);
+    balken.setUpdatesEnabled(true);
 }
 
 void BietePlatz(QWidget& element, int zeichen) {

@@ -3,12 +3,17 @@
 #include <QString>
 
 class QLineEdit;
+class QProgressBar;
 class QWidget;
 
 namespace varnoth {
 
 /// Shows a text from its beginning in a read-only field; nothing happens when the field shows it already.
 void ZeigeText(QLineEdit& feld, const QString& text);
+
+/// Shows a value in a progress bar, which is painted together with all else that has changed. By itself it
+/// would paint at once, and keep the line waiting.
+void ZeigeStand(QProgressBar& balken, int wert);
 
 /// Makes a field or label at least as wide as a number of average characters of its font, if it is not
 /// already.

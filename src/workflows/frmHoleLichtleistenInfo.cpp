@@ -35,7 +35,7 @@ void frmHoleLichtleistenInfo::ZeigeOptikteil(int optikteil, const std::string& t
 
 void frmHoleLichtleistenInfo::ZeigeFortschritt(int erledigt, int gesamt) {
     ui->pbFortschritt->setMaximum(gesamt);
-    ui->pbFortschritt->setValue(erledigt);
+    ZeigeStand(*ui->pbFortschritt, erledigt);
 }
 
 } // namespace varnoth

@@ -56,7 +56,7 @@ bool frmIdentifikationsAnforderung::Ablauf() {
 
 void frmIdentifikationsAnforderung::ZeigeVerbleibend(int versuche) {
     ui->lblVersuche->setText(QString::number(versuche));
-    ui->pbVersuche->setValue(versuche);
+    ZeigeStand(*ui->pbVersuche, versuche);
 }
 
 void frmIdentifikationsAnforderung::ZeigeIdentifikation() {

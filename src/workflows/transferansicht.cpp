@@ -20,7 +20,7 @@ void Transferansicht::ZeigeRegister(const std::string& registertext, int anzahl,
 
 void Transferansicht::ZeigeFortschritt(int erledigt, int gesamt) {
     felder.fortschritt->setMaximum(gesamt);
-    felder.fortschritt->setValue(erledigt);
+    ZeigeStand(*felder.fortschritt, erledigt);
 }
 
 void Transferansicht::ZeigeEnde(const std::string& text) {
