@@ -36,7 +36,8 @@ public:
     Umgebung& operator=(const Umgebung&) = delete;
     virtual ~Umgebung() = default;
 
-    /// Runs every window event that is pending, and gives the number of open forms.
+    /// Runs every window event that is pending, and gives the number of open forms. Painting may be left to
+    /// the next wait.
     virtual int LasseEreignisseLaufen() = 0;
     /// Sleeps until an event was served or the time has passed, whichever comes first.
     virtual void WarteAufEreignis(Zeit hoechstens) = 0;

@@ -43,7 +43,7 @@ QtUmgebung::~QtUmgebung() {
 }
 
 int QtUmgebung::LasseEreignisseLaufen() {
-    QCoreApplication::processEvents();
+    malen.LasseEreignisseLaufen();
     return formularzaehler ? formularzaehler() : 0;
 }
 

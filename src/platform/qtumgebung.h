@@ -1,5 +1,6 @@
 #pragma once
 
+#include "malaufschub.h"
 #include "umgebung.h"
 
 #include <QTimer>
@@ -32,6 +33,7 @@ private:
     void SchlafeBis(Zeit ende);
 
     QTimer wecker;
+    Malaufschub malen;
     Zeit weckdauer{0};
     std::function<int()> formularzaehler;
     std::function<void(int, const std::string&)> statusanzeige;
