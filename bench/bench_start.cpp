@@ -74,7 +74,7 @@ void MissFenster(const QString& geraet) {
 void MissSpeicher(Simulatorprozess& simulator) {
     constexpr int Strahlenlesungen = 100;
     const Monitorprozess monitor({QStringLiteral("/Geraet=") + simulator.Geraet()});
-    if (!simulator.WarteAufZeilen("read specific 3 353", Strahlenlesungen))
+    if (!simulator.WarteAufZeilen("read specific[3] 353", Strahlenlesungen))
         Scheitere(QStringLiteral("no live data"));
     Berichte(QStringLiteral("resident memory while polling four views"), monitor.Speicher(),
              QStringLiteral("MB"), Ziel::Hoechstens, 90);

@@ -27,6 +27,7 @@ public:
     Simulatorprozess& Steuergeraet() { return simulator; }
     /// What went over the line so far.
     const Verkehr& Bisher() const { return port.Bisher(); }
+    Zaehlport& Port() { return port; }
 
 private:
     QTemporaryDir ordner;
