@@ -283,11 +283,4 @@ TEST_F(PollingTest, Polling_is_on_exactly_when_the_port_could_be_opened) {
     EXPECT_EQ(GetPollingAktiv(), False);
 }
 
-TEST_F(PollingTest, A_pass_does_not_mark_beam_states_as_a_changed_configuration) {
-    Verbinde({16});
-    modDaten::LoescheGeaendert();
-    modDaten::SetzeStrahlzustaende(1, 0, {1});
-    EXPECT_EQ(modDaten::IstGeaendert(), False);
-}
-
 } // namespace varnoth

@@ -111,6 +111,12 @@ TEST_F(KonfigurationEditTest, Without_parts_3_and_4_only_Global_K1_K2_and_Kommun
     EXPECT_EQ(Reiter(), QStringList({"Global", "K1", "K2", "Kommunikation"}));
 }
 
+TEST_F(KonfigurationEditTest, Without_any_beams_only_Global_and_Kommunikation_remain) {
+    SetzeStrahlen({0, 0, 0, 0});
+    Oeffne();
+    EXPECT_EQ(Reiter(), QStringList({"Global", "Kommunikation"}));
+}
+
 TEST_F(KonfigurationEditTest, The_pages_of_absent_parts_between_present_ones_are_missing) {
     SetzeStrahlen({0, 64, 0, 64});
     Oeffne();

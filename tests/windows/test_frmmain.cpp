@@ -187,6 +187,7 @@ TEST_F(FrmMainTest, Choosing_the_checked_port_changes_and_writes_nothing) {
     const int vorher = einstellungen.geschrieben;
     Waehle("mnuCom_1");
     EXPECT_TRUE(Aktion("mnuCom_1").isChecked());
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 1);
     EXPECT_EQ(einstellungen.geschrieben, vorher);
 }
 
@@ -229,10 +230,11 @@ TEST_F(FrmMainTest, Closing_stores_the_place_as_decimal_text) {
 
 TEST_F(FrmMainTest, A_window_closed_while_minimised_keeps_the_stored_place) {
     einstellungen.texte[{"MDIForm", "Left"}] = "300";
+    Fenster().move(70, 80);
     Fenster().showMinimized();
+    const auto vorher = einstellungen.texte;
     Fenster().close();
-    EXPECT_EQ((einstellungen.texte[{"MDIForm", "Left"}]), "300");
-    EXPECT_FALSE((einstellungen.texte.contains({"MDIForm", "WindowState"})));
+    EXPECT_EQ(einstellungen.texte, vorher);
 }
 
 TEST_F(FrmMainTest, A_connection_identifies_reads_and_shows_the_parts_online) {
