@@ -10,6 +10,10 @@ namespace varnoth {
 inline constexpr std::int16_t Deutsch = 0;
 inline constexpr std::int16_t Englisch = 10000;
 
+/// Titles of message boxes: the program's, and that of what needs attention.
+inline constexpr std::int16_t TextProgrammtitel = 6000;
+inline constexpr std::int16_t TextAchtung = 6109;
+
 /// The current language offset.
 std::int16_t GetSprachoffset();
 /// Sets the language offset. Other values than Deutsch and Englisch are kept as they are and find no texts.

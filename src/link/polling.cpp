@@ -27,7 +27,6 @@ constexpr std::int16_t TextVerbindungUnterbrochen = 3000;
 constexpr std::int16_t TextAusgangAktiv = 3001;
 constexpr std::int16_t TextAusgangNichtAktiv = 3002;
 constexpr std::int16_t TextAnzahlGeaendert = 3004;
-constexpr std::int16_t TextAchtung = 6109;
 
 struct Zustand {
     Boolean pollingAktiv = False;

@@ -11,8 +11,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextProgrammtitel = 6000;
-
 QMessageBox::Icon AlsIcon(Symbol symbol) {
     switch (symbol) {
     case Symbol::Warnung:

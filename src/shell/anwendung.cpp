@@ -28,7 +28,6 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextSchonGestartet = 6001;
-constexpr std::int16_t TextAchtung = 6109;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
 
 /// Every module as it is before the program runs.

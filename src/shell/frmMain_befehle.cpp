@@ -27,7 +27,6 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextAutosendFrage = 6003;
-constexpr std::int16_t TextAchtung = 6109;
 
 } // namespace
 

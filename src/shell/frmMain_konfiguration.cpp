@@ -8,7 +8,6 @@
 #include "konfigurationsbefehle.h"
 #include "letzterdatensatz.h"
 #include "registerabbild.h"
-#include "standardkonfiguration.h"
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 #include "zykluszeiten.h"

@@ -21,7 +21,6 @@ constexpr std::int16_t TextErsetzen = 2001;
 constexpr std::int16_t TextOeffnen = 2004;
 constexpr std::int16_t TextSpeichernUnter = 2005;
 constexpr std::int16_t TextAenderungenSpeichern = 6002;
-constexpr std::int16_t TextAchtung = 6109;
 
 constexpr const char* Abschnitt = "frmMain";
 constexpr const char* Schluessel = "mnuSpeichernUnter";

@@ -12,7 +12,6 @@ namespace {
 
 constexpr int Versuche = 10;
 
-constexpr std::int16_t TextAchtung = 6109;
 constexpr std::int16_t TextKeineVerbindung = 7209;
 
 } // namespace

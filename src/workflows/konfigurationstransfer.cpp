@@ -84,7 +84,8 @@ bool Konfigurationstransfer::Waehle(std::int16_t textId, std::int16_t auswahlreg
 }
 
 bool Konfigurationstransfer::UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil) {
-    anzeige.ZeigeBereich(LadeText(Bereichstext(bereich)));
+    anzeige.ZeigeBereich(
+        LadeText(static_cast<std::int16_t>(ErsterBereichstext() + static_cast<int>(bereich))));
     for (Transferparameter parameter : Parameter(bereich)) {
         parameter.optikteil = optikteil;
         if (!Uebertrage(parameter))

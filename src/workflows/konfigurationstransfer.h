@@ -63,8 +63,8 @@ protected:
 private:
     virtual Eintragsiterator ErsterEintrag() const = 0;
     virtual Eintragsiterator NaechsterEintrag() const = 0;
-    /// The string id of a range's name.
-    virtual std::int16_t Bereichstext(Speicherbereich bereich) const = 0;
+    /// The string id of the global range's name; the names of the other two ranges follow it.
+    virtual std::int16_t ErsterBereichstext() const = 0;
     /// Transfers one parameter. False = cancelled.
     virtual bool Uebertrage(const Transferparameter& parameter) = 0;
 

@@ -12,8 +12,6 @@ namespace {
 using namespace modDaten;
 
 constexpr std::int16_t TextGlobaleGeraetedaten = 7005;
-constexpr std::int16_t TextSpezifischeGeraetedaten = 7006;
-constexpr std::int16_t TextKommunikationsdaten = 7007;
 constexpr std::int16_t TextUebertragungBeendet = 7009;
 
 void Speichere(const Transferparameter& parameter, const Werte& werte) {
@@ -37,21 +35,9 @@ public:
 private:
     Eintragsiterator ErsterEintrag() const override { return ErsterLesbarerEintrag; }
     Eintragsiterator NaechsterEintrag() const override { return NaechsterLesbarerEintrag; }
-    std::int16_t Bereichstext(Speicherbereich bereich) const override;
+    std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
     bool Uebertrage(const Transferparameter& parameter) override;
 };
-
-std::int16_t Lesetransfer::Bereichstext(Speicherbereich bereich) const {
-    switch (bereich) {
-    case Speicherbereich::GlobaleGeraetedaten:
-        return TextGlobaleGeraetedaten;
-    case Speicherbereich::SpezifischeGeraetedaten:
-        return TextSpezifischeGeraetedaten;
-    case Speicherbereich::Kommunikationsdaten:
-        return TextKommunikationsdaten;
-    }
-    return TextGlobaleGeraetedaten;
-}
 
 bool Lesetransfer::Uebertrage(const Transferparameter& parameter) {
     Werte werte(static_cast<std::size_t>(parameter.anzahl));

@@ -11,8 +11,6 @@ namespace {
 using namespace modDaten;
 
 constexpr std::int16_t TextGlobaleGeraetedaten = 7105;
-constexpr std::int16_t TextSpezifischeGeraetedaten = 7106;
-constexpr std::int16_t TextKommunikationsdaten = 7107;
 constexpr std::int16_t TextUebertragungBeendet = 7109;
 constexpr std::int16_t TextSpeichern = 7112;
 
@@ -46,25 +44,13 @@ public:
 private:
     Eintragsiterator ErsterEintrag() const override { return ErsterSchreibbarerEintrag; }
     Eintragsiterator NaechsterEintrag() const override { return NaechsterSchreibbarerEintrag; }
-    std::int16_t Bereichstext(Speicherbereich bereich) const override;
+    std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
     bool Uebertrage(const Transferparameter& parameter) override;
     bool Speichere();
 
     Transferanzeige& anzeige;
     Ablage ablage;
 };
-
-std::int16_t Schreibtransfer::Bereichstext(Speicherbereich bereich) const {
-    switch (bereich) {
-    case Speicherbereich::GlobaleGeraetedaten:
-        return TextGlobaleGeraetedaten;
-    case Speicherbereich::SpezifischeGeraetedaten:
-        return TextSpezifischeGeraetedaten;
-    case Speicherbereich::Kommunikationsdaten:
-        return TextKommunikationsdaten;
-    }
-    return TextGlobaleGeraetedaten;
-}
 
 bool Schreibtransfer::Uebertrage(const Transferparameter& parameter) {
     const Werte werte = HoleWerte(parameter);

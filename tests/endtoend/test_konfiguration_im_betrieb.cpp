@@ -259,40 +259,46 @@ TEST_F(KonfigurationImBetrieb, Without_a_controller_a_configuration_is_made_edit
     EXPECT_THAT(Meldungen(), IsEmpty());
 }
 
-TEST_F(KonfigurationImBetrieb, When_no_controller_answers_the_last_saved_file_can_be_loaded) {
+/// No controller answers, and a configuration of four parts of 32 beams was saved last.
+class OhneGeraet : public KonfigurationImBetrieb {
+protected:
+    OhneGeraet() {
+        SetzeDateiantwort([this](const Dateifrage&) { return pfad; });
+        SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("no-line").toUtf8() + "\n");
+        Starte();
+        InFenster("frmStrahlenBestimmen", [](QWidget& dialog) { Klicke(dialog, "cmdOK"); });
+        EXPECT_TRUE(FuehreAus("mnuNeu"));
+        EXPECT_TRUE(FuehreAus("mnuSpeichernUnter"));
+    }
+    /// Tries to connect, and goes this way on when that fails.
+    bool VerbindeUndWaehle(const QString& option) {
+        InFenster("frmIdentifikationsAnforderung", [](QWidget& dialog) { Klicke(dialog, "cmdCancel"); });
+        InFenster("frmKeinKonturAngeschlossen", [option](QWidget& dialog) {
+            Klicke(dialog, option);
+            Klicke(dialog, "cmdOK");
+        });
+        return FuehreAus("mnuMessdatenVisualisierenStart");
+    }
+
     const std::string pfad = Pfad("last.con").toStdString();
-    SetzeDateiantwort([pfad](const Dateifrage&) { return pfad; });
-    SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("no-line").toUtf8() + "\n");
-    Starte();
-    InFenster("frmStrahlenBestimmen", [](QWidget& dialog) { Klicke(dialog, "cmdOK"); });
-    ASSERT_TRUE(FuehreAus("mnuNeu"));
-    ASSERT_TRUE(FuehreAus("mnuSpeichernUnter"));
-    InFenster("frmIdentifikationsAnforderung", [](QWidget& dialog) { Klicke(dialog, "cmdCancel"); });
-    InFenster("frmKeinKonturAngeschlossen", [](QWidget& dialog) {
-        Klicke(dialog, "optLadeletztenKonfigurationsdatensatz");
-        Klicke(dialog, "cmdOK");
-    });
-    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
+};
+
+TEST_F(OhneGeraet, The_last_saved_file_can_be_loaded) {
+    ASSERT_TRUE(VerbindeUndWaehle("optLadeletztenKonfigurationsdatensatz"));
     EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
     EXPECT_EQ(modDaten::GetDateiname(), pfad);
 }
 
-TEST_F(KonfigurationImBetrieb, When_no_controller_answers_a_file_can_be_opened) {
-    const std::string pfad = Pfad("other.con").toStdString();
-    SetzeDateiantwort([pfad](const Dateifrage&) { return pfad; });
-    SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("no-line").toUtf8() + "\n");
-    Starte();
-    InFenster("frmStrahlenBestimmen", [](QWidget& dialog) { Klicke(dialog, "cmdOK"); });
-    ASSERT_TRUE(FuehreAus("mnuNeu"));
-    ASSERT_TRUE(FuehreAus("mnuSpeichernUnter"));
-    InFenster("frmIdentifikationsAnforderung", [](QWidget& dialog) { Klicke(dialog, "cmdCancel"); });
-    InFenster("frmKeinKonturAngeschlossen", [](QWidget& dialog) {
-        Klicke(dialog, QStringLiteral("optKonfigurationöffnen"));
-        Klicke(dialog, "cmdOK");
-    });
-    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
+TEST_F(OhneGeraet, A_file_can_be_opened) {
+    ASSERT_TRUE(VerbindeUndWaehle(QStringLiteral("optKonfigurationöffnen")));
     EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
     EXPECT_EQ(modDaten::GetDateiname(), pfad);
+}
+
+TEST_F(OhneGeraet, Beam_counts_can_be_entered) {
+    ASSERT_TRUE(VerbindeUndWaehle("optStrahlenanzahl"));
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
+    EXPECT_EQ(modDaten::GetDateiname(), "");
 }
 
 } // namespace varnoth::pruefung
