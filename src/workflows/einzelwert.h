@@ -11,7 +11,7 @@ namespace varnoth {
 struct Einzelregister {
     int optikteil = 0;             ///< 0..3; it is selected for every access, whatever the range
     std::int32_t adressOffset = 0; ///< device address of the range's first register
-    std::string adresse;           ///< the address within the range, as typed
+    std::string adresse{};         ///< the address within the range, as typed
 };
 
 /// The device address of a memory range's first register: 0 = global, 1 = specific, 2 = communication data.

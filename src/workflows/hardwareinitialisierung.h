@@ -10,12 +10,12 @@ namespace varnoth {
 
 /// The factory data as typed, one byte (Latin-1) a character.
 struct Werksdaten {
-    std::string seriennummer; ///< at most 20 characters are written
-    std::string jahr;         ///< at most 4
-    std::string monat;        ///< at most 2
-    std::string tag;          ///< at most 2
-    std::string hauptversion; ///< the number it begins with
-    std::string unterversion; ///< the number it begins with
+    std::string seriennummer{}; ///< at most 20 characters are written
+    std::string jahr{};         ///< at most 4
+    std::string monat{};        ///< at most 2
+    std::string tag{};          ///< at most 2
+    std::string hauptversion{}; ///< the number it begins with
+    std::string unterversion{}; ///< the number it begins with
 };
 
 /// Where the settings keep the factory data that were written last; the texts there are UTF-8.
