@@ -1,26 +1,17 @@
 #include "frmResetHardware.h"
 
+#include "feldtext.h"
 #include "ui_frmResetHardware.h"
 
 namespace varnoth {
 
-namespace {
-
-/// Nothing around the label moves when it comes.
-void Verbirg(QLabel& label) {
-    QSizePolicy platz = label.sizePolicy();
-    platz.setRetainSizeWhenHidden(true);
-    label.setSizePolicy(platz);
-    label.hide();
-}
-
-} // namespace
-
 frmResetHardware::frmResetHardware(QWidget* parent)
     : Ablaufdialog(Beginn::AufKnopfdruck, parent), ui(std::make_unique<Ui::frmResetHardware>()) {
     ui->setupUi(this);
-    Verbirg(*ui->lblSchreibversuch);
-    Verbirg(*ui->lblAnzahlDerVersuche);
+    for (QLabel* const label : {ui->lblSchreibversuch, ui->lblAnzahlDerVersuche}) {
+        BehaltePlatz(*label);
+        label->hide();
+    }
     connect(ui->cmdOK, &QPushButton::clicked, this, [this] { FuehreAus(); });
     SetWeiter(True);
     Lade(*ui->cmdCancel);

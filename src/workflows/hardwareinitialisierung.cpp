@@ -28,7 +28,6 @@ constexpr std::int16_t Passwortregister = 178;
 
 constexpr std::size_t Passwortlaenge = 16; // characters
 constexpr std::size_t Seriennummerlaenge = 20;
-constexpr std::size_t Datumslaenge = 8;
 constexpr std::size_t Jahreslaenge = 4;
 constexpr std::size_t Monatslaenge = 2;
 constexpr std::size_t Tageslaenge = 2;
