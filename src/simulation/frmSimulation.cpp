@@ -7,6 +7,7 @@
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "strahlfarben.h"
 #include "texte.h"
 #include "zahlentext.h"
 #include "zykluszeiten.h"
@@ -23,8 +24,11 @@ constexpr std::int16_t TextDiagramm = 8001;
 constexpr std::int16_t ErsterLochtext = 8040;
 constexpr std::int16_t LetzterLochtext = 8047;
 
-// As wide as a number can become here: 15 digits, a separator, an exponent.
-constexpr auto LaengsteZahl = "0,00000000000000E+00";
+// As wide as a number becomes here: 15 digits after "0,0".
+constexpr auto LaengsteZahl = "0,0000000000000000";
+
+// By so much a text field would be wider than a number that can be typed.
+const auto Ueberlaenge = QStringLiteral("xxxxx");
 
 QString Text(std::int16_t id) {
     return QString::fromStdString(LadeText(id));
@@ -35,10 +39,28 @@ void BietePlatz(QWidget& element, const QString& text) {
     element.setMinimumWidth(std::max(element.minimumWidth(), breite));
 }
 
+/// Makes labels in one column equally wide, also where they stand in different frames.
+void GleicheAn(std::initializer_list<QLabel*> spalte) {
+    int breite = 0;
+    for (const QLabel* const feld : spalte)
+        breite = std::max(breite, feld->sizeHint().width());
+    for (QLabel* const feld : spalte)
+        feld->setMinimumWidth(breite);
+}
+
 std::int32_t Strahlabstand(int optikteil) {
     Werte werte{0};
     modDaten::HoleSpezifischeDaten(spezifisch::Aufloesung, 1, static_cast<std::int16_t>(optikteil), werte);
     return werte[0];
+}
+
+/// What is no number gets the colour that elsewhere means interrupted.
+void ZeigeLesbar(QLineEdit& feld, bool lesbar) {
+    QPalette farben = feld.parentWidget()->palette();
+    if (!lesbar)
+        farben.setColor(QPalette::Text, FarbenAus(farben).unterbrochen);
+    if (feld.palette().color(QPalette::Text) != farben.color(QPalette::Text))
+        feld.setPalette(lesbar ? QPalette() : farben);
 }
 
 std::int32_t Baudrate() {
@@ -59,6 +81,7 @@ frmSimulation::frmSimulation(QWidget* parent, const QLocale& gebiet_)
     Verbinde();
     ZeigeAutosend();
     WaehleErstenTeil();
+    ui->txtFormel1L->setFocus();
 }
 
 frmSimulation::~frmSimulation() = default;
@@ -70,6 +93,11 @@ void frmSimulation::ReservierePlatz() {
         BietePlatz(*ergebnis, QString::fromLatin1(LaengsteZahl));
     for (std::int16_t id = ErsterLochtext; id <= LetzterLochtext; ++id)
         BietePlatz(*ui->lblFormel4, Text(id));
+    for (QLineEdit* const feld :
+         {ui->txtFormel1L, ui->txtFormel2v, ui->txtFormel4, ui->txtlblGeschwindigkeit})
+        feld->setFixedWidth(feld->sizeHint().width() - feld->fontMetrics().horizontalAdvance(Ueberlaenge));
+    GleicheAn({ui->lblFormel1Eingabe, ui->lblFormel2Eingabe, ui->lblFormel3Eingabe, ui->lblFormel4Eingabe});
+    GleicheAn({ui->lblFormel1Einheit, ui->lblFormel2Einheit, ui->lblFormel3Einheit, ui->lblFormel4Einheit});
 }
 
 std::array<QRadioButton*, AnzahlOptikteile> frmSimulation::Optionen() const {
@@ -156,8 +184,10 @@ void frmSimulation::RechneLochgeschwindigkeit() {
     Markiere(Lochgeschwindigkeit, Kurvenart::Loch, durchmesser, v);
 }
 
-std::optional<double> frmSimulation::Eingabe(const QLineEdit& feld) const {
-    return LiesEingabe(feld.text(), gebiet);
+std::optional<double> frmSimulation::Eingabe(QLineEdit& feld) const {
+    const auto zahl = LiesEingabe(feld.text(), gebiet);
+    ZeigeLesbar(feld, zahl || feld.text().isEmpty());
+    return zahl;
 }
 
 void frmSimulation::ZeigeZahl(QLabel& feld, std::optional<double> zahl) const {

@@ -44,7 +44,7 @@ private:
     void RechneGeschwindigkeit();
     void RechneLochdurchmesser();
     void RechneLochgeschwindigkeit();
-    std::optional<double> Eingabe(const QLineEdit& feld) const;
+    std::optional<double> Eingabe(QLineEdit& feld) const;
     void ZeigeZahl(QLabel& feld, std::optional<double> zahl) const;
     void Markiere(Feldindex feld, Kurvenart art, std::optional<double> groesse,
                   std::optional<double> geschwindigkeit);

@@ -7,14 +7,10 @@
 namespace varnoth {
 
 namespace {
-constexpr int WunschbreiteZeichen = 60;
+constexpr int WunschbreiteZeichen = 75;
 constexpr int WunschhoeheZeilen = 22;
-constexpr int MindestbreiteZeichen = 45;
+constexpr int RandZeichen = 27; // the numbers and units on both sides
 constexpr int MindesthoeheZeilen = 10;
-
-QSize Platz(const QFontMetrics& masse, int zeichen, int zeilen) {
-    return {masse.averageCharWidth() * zeichen, masse.height() * zeilen};
-}
 } // namespace
 
 Kurvenbild::Kurvenbild(QWidget* eltern) : QWidget(eltern) {
@@ -43,11 +39,15 @@ QPointF Kurvenbild::Stelle(const Diagrammpunkt& punkt) const {
 }
 
 QSize Kurvenbild::sizeHint() const {
-    return Platz(fontMetrics(), WunschbreiteZeichen, WunschhoeheZeilen);
+    const QFontMetrics masse = fontMetrics();
+    const QSize wunsch(masse.averageCharWidth() * WunschbreiteZeichen, masse.height() * WunschhoeheZeilen);
+    return wunsch.expandedTo(minimumSizeHint());
 }
 
 QSize Kurvenbild::minimumSizeHint() const {
-    return Platz(fontMetrics(), MindestbreiteZeichen, MindesthoeheZeilen);
+    const QFontMetrics masse = fontMetrics();
+    const double breite = Legendenbreite(masse) + RandZeichen * masse.averageCharWidth();
+    return {static_cast<int>(breite), masse.height() * MindesthoeheZeilen};
 }
 
 void Kurvenbild::paintEvent(QPaintEvent* /*ereignis*/) {

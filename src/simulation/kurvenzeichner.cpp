@@ -17,12 +17,13 @@ constexpr std::int16_t TextMeterJeSekunde = 8010;
 
 // Lengths in device independent pixels.
 constexpr double Abstand = 6;
+constexpr double Eintragsabstand = 3 * Abstand;
 constexpr double Linienbreite = 2;
 constexpr double Markenradius = 5;
 constexpr double Musterlaenge = 28;
 
-constexpr double ZeilenJeZahl = 2;     // on the axis of speeds
-constexpr double BreitenJeZahl = 1.75; // on the axis of sizes
+constexpr double ZeilenJeZahl = 2;    // on the axis of speeds
+constexpr double BreitenJeZahl = 1.4; // on the axis of sizes
 
 QString Text(std::int16_t id) {
     return QString::fromStdString(LadeText(id));
@@ -80,6 +81,13 @@ Kurvenfeld FeldFuer(const Diagramm& diagramm, const QSize& groesse, const QFontM
     return feld;
 }
 
+double Legendenbreite(const QFontMetricsF& masse) {
+    const auto eintrag = [&](Kurvenart art) {
+        return masse.horizontalAdvance(Kurvenname(art)) + Abstand + Musterlaenge;
+    };
+    return eintrag(Kurvenart::Objekt) + Eintragsabstand + eintrag(Kurvenart::Loch);
+}
+
 Kurvenzeichner::Kurvenzeichner(QPainter& maler_, const Diagramm& diagramm_, const Kurvenfeld& feld_,
                                const Kurvenfarben& farben_, const QLocale& gebiet_)
     : maler(maler_), diagramm(diagramm_), feld(feld_), farben(farben_), gebiet(gebiet_),
@@ -94,9 +102,9 @@ double Kurvenzeichner::Strichbreite() const {
 }
 
 void Kurvenzeichner::Zeichne() const {
-    maler.setRenderHint(QPainter::Antialiasing);
     ZeichneSpalten();
     ZeichneZeilen();
+    maler.setRenderHint(QPainter::Antialiasing);
     ZeichneKurve(diagramm.objekt, Kurvenart::Objekt);
     ZeichneKurve(diagramm.loch, Kurvenart::Loch);
     for (const Marke& marke : diagramm.marken)
@@ -172,7 +180,7 @@ void Kurvenzeichner::ZeichneMarke(const Marke& marke) const {
 void Kurvenzeichner::ZeichneLegende() const {
     double rechts = feld.Rechts();
     if (!diagramm.loch.empty())
-        rechts = ZeichneEintrag(rechts, Kurvenart::Loch) - 3 * Abstand;
+        rechts = ZeichneEintrag(rechts, Kurvenart::Loch) - Eintragsabstand;
     if (!diagramm.objekt.empty())
         ZeichneEintrag(rechts, Kurvenart::Objekt);
 }

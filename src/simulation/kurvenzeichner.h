@@ -16,6 +16,9 @@ namespace varnoth {
 Kurvenfeld FeldFuer(const Diagramm& diagramm, const QSize& groesse, const QFontMetricsF& masse,
                     const QLocale& gebiet);
 
+/// The width that a legend of both curves needs.
+double Legendenbreite(const QFontMetricsF& masse);
+
 /// Draws a diagram.
 class Kurvenzeichner {
 public:
