@@ -13,6 +13,7 @@
 #include "zykluszeiten.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 namespace varnoth {
@@ -25,10 +26,10 @@ constexpr std::int16_t ErsterLochtext = 8040;
 constexpr std::int16_t LetzterLochtext = 8047;
 
 // As wide as a number becomes here: 15 digits after "0,0".
-constexpr auto LaengsteZahl = "0,0000000000000000";
+constexpr QLatin1String LaengsteZahl("0,0000000000000000");
 
 // By so much a text field would be wider than a number that can be typed.
-const auto Ueberlaenge = QStringLiteral("xxxxx");
+constexpr QLatin1String Ueberlaenge("xxxxx");
 
 QString Text(std::int16_t id) {
     return QString::fromStdString(LadeText(id));
@@ -90,7 +91,7 @@ frmSimulation::~frmSimulation() = default;
 void frmSimulation::ReservierePlatz() {
     for (QLabel* const ergebnis :
          {ui->lblFormel1vmax, ui->lblFormel2Lmin, ui->lblMinimalerLochdurchmesser, ui->lblFormel4vmax})
-        BietePlatz(*ergebnis, QString::fromLatin1(LaengsteZahl));
+        BietePlatz(*ergebnis, LaengsteZahl);
     for (std::int16_t id = ErsterLochtext; id <= LetzterLochtext; ++id)
         BietePlatz(*ui->lblFormel4, Text(id));
     for (QLineEdit* const feld :
