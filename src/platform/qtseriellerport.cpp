@@ -3,6 +3,8 @@
 #include "geraetepfade.h"
 #include "porteinstellungen.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -76,8 +78,8 @@ std::string LiesAusSystem([[maybe_unused]] QSerialPort& port) {
     std::string bytes(BytesImSystem(port), '\0');
 #ifdef Q_OS_UNIX
     if (!bytes.empty())
-        bytes.resize(
-            static_cast<std::size_t>(std::max<ssize_t>(::read(port.handle(), bytes.data(), bytes.size()), 0)));
+        bytes.resize(static_cast<std::size_t>(
+            std::max<ssize_t>(::read(port.handle(), bytes.data(), bytes.size()), 0)));
 #endif
     return bytes;
 }
@@ -157,6 +159,7 @@ std::string QtSeriellerPort::LiesAlles() {
 void QtSeriellerPort::Schreibe(std::string_view bytes) {
     if (!port.isOpen())
         return;
+    naechsterFensterblick = Zeit{0};
     if (port.bytesToWrite() == 0)
         bytes.remove_prefix(SchreibeSofort(port, bytes));
     if (bytes.empty())
@@ -175,7 +178,7 @@ void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
     }
     const Zeit jetzt = DieUmgebung().Uhr();
     if (jetzt >= naechsterFensterblick) {
-        DieUmgebung().WarteAufEreignis(Zeit{0});
+        QCoreApplication::processEvents();
         naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
     }
     if (port.isOpen() && BytesWartend() == 0)
