@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     using namespace varnoth;
     using namespace varnoth::bench;
     constexpr int Lesungen = 9;
-    constexpr double Zielanteil = 98;
+    constexpr double Zielanteil = 98.4;
 
     QApplication anwendung(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

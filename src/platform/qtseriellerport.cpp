@@ -3,12 +3,15 @@
 #include "geraetepfade.h"
 #include "porteinstellungen.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #ifdef Q_OS_UNIX
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 
@@ -36,6 +39,9 @@ void Stelle(QSerialPort& port, const Porteinstellungen& einstellungen) {
     port.setReadBufferSize(static_cast<qint64>(Eingabepuffergroesse));
 }
 
+// While a reply comes in, window events are served this often.
+constexpr Zeit Fensterblick = std::chrono::milliseconds(4);
+
 /// Whether the line behind an open port is gone. Qt does not tell in every version and for every kind of
 /// device.
 bool LeitungIstWeg([[maybe_unused]] QSerialPort& port) {
@@ -45,6 +51,37 @@ bool LeitungIstWeg([[maybe_unused]] QSerialPort& port) {
 #else
     return false;
 #endif
+}
+
+/// Sleeps on the line itself until something has arrived or the time has passed: the way through the event
+/// loop costs tens of microseconds for each lot of bytes.
+void SchlafeAnDerLeitung([[maybe_unused]] QSerialPort& port, [[maybe_unused]] Zeit hoechstens) {
+#ifdef Q_OS_UNIX
+    pollfd anschluss{port.handle(), POLLIN, 0};
+    ::poll(&anschluss, 1, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(hoechstens).count()));
+#else
+    DieUmgebung().WarteAufEreignis(hoechstens);
+#endif
+}
+
+/// Number of bytes that wait in the system, not yet in the port's own buffer.
+std::size_t BytesImSystem([[maybe_unused]] QSerialPort& port) {
+    int anzahl = 0;
+#ifdef Q_OS_UNIX
+    ::ioctl(port.handle(), FIONREAD, &anzahl);
+#endif
+    return static_cast<std::size_t>(std::max(anzahl, 0));
+}
+
+/// The bytes that wait in the system.
+std::string LiesAusSystem([[maybe_unused]] QSerialPort& port) {
+    std::string bytes(BytesImSystem(port), '\0');
+#ifdef Q_OS_UNIX
+    if (!bytes.empty())
+        bytes.resize(static_cast<std::size_t>(
+            std::max<ssize_t>(::read(port.handle(), bytes.data(), bytes.size()), 0)));
+#endif
+    return bytes;
 }
 
 /// Hands over what the system takes at once, which is all but always the whole request, and gives how many
@@ -107,16 +144,22 @@ void QtSeriellerPort::Verwirf() {
 }
 
 std::size_t QtSeriellerPort::BytesWartend() {
-    return port.isOpen() ? static_cast<std::size_t>(port.bytesAvailable()) : 0;
+    return port.isOpen() ? static_cast<std::size_t>(port.bytesAvailable()) + BytesImSystem(port) : 0;
 }
 
 std::string QtSeriellerPort::LiesAlles() {
-    return port.isOpen() ? port.readAll().toStdString() : std::string();
+    if (!port.isOpen())
+        return {};
+    std::string bytes;
+    if (port.bytesAvailable() > 0)
+        bytes = port.readAll().toStdString();
+    return bytes + LiesAusSystem(port);
 }
 
 void QtSeriellerPort::Schreibe(std::string_view bytes) {
     if (!port.isOpen())
         return;
+    naechsterFensterblick = Zeit{0};
     if (port.bytesToWrite() == 0)
         bytes.remove_prefix(SchreibeSofort(port, bytes));
     if (bytes.empty())
@@ -127,8 +170,19 @@ void QtSeriellerPort::Schreibe(std::string_view bytes) {
 }
 
 void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
-    if (BytesWartend() == 0)
+    if (BytesWartend() > 0)
+        return;
+    if (!IstOffen()) {
         DieUmgebung().WarteAufEreignis(hoechstens);
+        return;
+    }
+    const Zeit jetzt = DieUmgebung().Uhr();
+    if (jetzt >= naechsterFensterblick) {
+        QCoreApplication::processEvents();
+        naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
+    }
+    if (port.isOpen() && BytesWartend() == 0)
+        SchlafeAnDerLeitung(port, std::min(hoechstens, Fensterblick));
 }
 
 void QtSeriellerPort::SetzeEreignisbehandlung(std::function<void(int)> behandlung) {

@@ -32,6 +32,7 @@ private:
     std::function<void(int)> ereignisbehandlung;
     std::string fehlertext;
     bool leitungenWerdenGeschaltet = false;
+    Zeit naechsterFensterblick{0};
 };
 
 } // namespace varnoth

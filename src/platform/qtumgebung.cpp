@@ -17,7 +17,7 @@ namespace varnoth {
 namespace {
 
 // Timers of the event loop count whole milliseconds. Waits that end sooner than this sleep to the
-// microsecond.
+// microsecond; a window's painting does not fit into them.
 constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
 constexpr Zeit LaengsteWeckdauer = std::chrono::microseconds(200);
 constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
@@ -50,7 +50,7 @@ int QtUmgebung::LasseEreignisseLaufen() {
 void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
-        QCoreApplication::processEvents();
+        malen.LasseEreignisseLaufen();
         SchlafeBis(ende);
         return;
     }

@@ -3,30 +3,70 @@
 #include "ablaufdialog.h"
 #include "feldtext.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLineEdit>
 #include <QProgressBar>
 
+#include <utility>
+
 namespace varnoth {
 
+Transferansicht::Transferansicht(Ablaufdialog& der, const Transferfelder& die) : dialog(der), felder(die) {
+    dialog.installEventFilter(this);
+}
+
+Transferansicht::~Transferansicht() {
+    Zeige();
+}
+
 void Transferansicht::ZeigeBereich(const std::string& text) {
-    ZeigeText(*felder.speicherbereich, QString::fromStdString(text));
+    stand.bereich = QString::fromStdString(text);
+    ZeigeSpaeter();
 }
 
 void Transferansicht::ZeigeRegister(const std::string& registertext, int anzahl, int versuch) {
-    ZeigeText(*felder.aktuellesRegister, QString::fromStdString(registertext));
-    ZeigeText(*felder.registeranzahl, QString::number(anzahl));
-    ZeigeText(*felder.versuch, QString::number(versuch));
+    stand.registertext = QString::fromStdString(registertext);
+    stand.anzahl = QString::number(anzahl);
+    stand.versuch = QString::number(versuch);
+    ZeigeSpaeter();
 }
 
 void Transferansicht::ZeigeFortschritt(int erledigt, int gesamt) {
-    felder.fortschritt->setMaximum(gesamt);
-    ZeigeStand(*felder.fortschritt, erledigt);
+    stand.erledigt = erledigt;
+    stand.gesamt = gesamt;
+    ZeigeSpaeter();
 }
 
 void Transferansicht::ZeigeEnde(const std::string& text) {
-    ZeigeBereich(text);
-    for (QLineEdit* const feld : {felder.aktuellesRegister, felder.registeranzahl, felder.versuch})
-        ZeigeText(*feld, {});
+    stand.bereich = QString::fromStdString(text);
+    stand.registertext.clear();
+    stand.anzahl.clear();
+    stand.versuch.clear();
+    ausstehend = true;
+    Zeige();
+}
+
+bool Transferansicht::eventFilter(QObject* /*ziel*/, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::LayoutRequest)
+        Zeige();
+    return false;
+}
+
+void Transferansicht::ZeigeSpaeter() {
+    if (!std::exchange(ausstehend, true))
+        QCoreApplication::postEvent(&dialog, new QEvent(QEvent::LayoutRequest));
+}
+
+void Transferansicht::Zeige() {
+    if (!std::exchange(ausstehend, false))
+        return;
+    ZeigeText(*felder.speicherbereich, stand.bereich);
+    ZeigeText(*felder.aktuellesRegister, stand.registertext);
+    ZeigeText(*felder.registeranzahl, stand.anzahl);
+    ZeigeText(*felder.versuch, stand.versuch);
+    felder.fortschritt->setMaximum(stand.gesamt);
+    ZeigeStand(*felder.fortschritt, stand.erledigt);
 }
 
 bool Transferansicht::Abgebrochen() {

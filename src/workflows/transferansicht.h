@@ -2,6 +2,9 @@
 
 #include "konfigurationstransfer.h"
 
+#include <QObject>
+#include <QString>
+
 class QLineEdit;
 class QProgressBar;
 
@@ -18,20 +21,38 @@ struct Transferfelder {
     QProgressBar* fortschritt;
 };
 
-/// Shows a transfer in the fields of its dialog and passes on the dialog's cancel.
-class Transferansicht : public Transferanzeige {
+/// Shows a transfer in the fields of its dialog and passes on the dialog's cancel. Steps are shown when the
+/// dialog next lays itself out, which waits until a request is under way: filling fields between a reply and
+/// the next request would make every transfer slower.
+class Transferansicht : public QObject, public Transferanzeige {
 public:
-    Transferansicht(const Ablaufdialog& der, const Transferfelder& die) : dialog(der), felder(die) {}
+    Transferansicht(Ablaufdialog& der, const Transferfelder& die);
+    ~Transferansicht() override;
 
     void ZeigeBereich(const std::string& text) override;
     void ZeigeRegister(const std::string& registertext, int anzahl, int versuch) override;
     void ZeigeFortschritt(int erledigt, int gesamt) override;
     void ZeigeEnde(const std::string& text) override;
     bool Abgebrochen() override;
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
-    const Ablaufdialog& dialog;
+    struct Stand {
+        QString bereich;
+        QString registertext;
+        QString anzahl;
+        QString versuch;
+        int erledigt = 0;
+        int gesamt = 1;
+    };
+
+    void ZeigeSpaeter();
+    void Zeige();
+
+    Ablaufdialog& dialog;
     Transferfelder felder;
+    Stand stand;
+    bool ausstehend = false;
 };
 
 } // namespace varnoth

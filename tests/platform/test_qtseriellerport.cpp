@@ -5,6 +5,8 @@
 #include "pruefumgebung.h"
 #include "qtumgebung.h"
 
+#include <QCoreApplication>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <pty.h>
@@ -103,6 +105,39 @@ TEST_F(QtSeriellerPortTest, A_wait_ends_when_bytes_arrive) {
     while (port.BytesWartend() == 0 && umgebung.Uhr() - beginn < 10s)
         port.WarteAufEingang(10s);
     EXPECT_LT(umgebung.Uhr() - beginn, 5s);
+}
+
+TEST_F(QtSeriellerPortTest, Bytes_taken_up_while_events_ran_come_before_those_that_arrived_later) {
+    port.Oeffne(1, Standard);
+    Sende("first");
+    EXPECT_TRUE(WarteBis([&] { return port.BytesWartend() == 5; }));
+    QCoreApplication::processEvents();
+    Sende("second");
+    EXPECT_TRUE(WarteBis([&] { return port.BytesWartend() == 11; }));
+    EXPECT_EQ(port.LiesAlles(), "firstsecond");
+}
+
+TEST_F(QtSeriellerPortTest, Window_events_are_served_while_nothing_arrives) {
+    port.Oeffne(1, Standard);
+    bool gelaufen = false;
+    QTimer::singleShot(20, [&gelaufen] { gelaufen = true; });
+    const Zeit beginn = umgebung.Uhr();
+    while (!gelaufen && umgebung.Uhr() - beginn < 10s)
+        port.WarteAufEingang(10s);
+    EXPECT_TRUE(gelaufen);
+}
+
+TEST_F(QtSeriellerPortTest, Window_events_are_served_while_bytes_keep_arriving) {
+    port.Oeffne(1, Standard);
+    bool gelaufen = false;
+    QTimer::singleShot(20, [&gelaufen] { gelaufen = true; });
+    const Zeit beginn = umgebung.Uhr();
+    while (!gelaufen && umgebung.Uhr() - beginn < 10s) {
+        port.LiesAlles();
+        port.WarteAufEingang(10s);
+        Sende("x");
+    }
+    EXPECT_TRUE(gelaufen);
 }
 
 TEST_F(QtSeriellerPortTest, Discarding_leaves_nothing_to_read) {
