@@ -95,7 +95,7 @@ bool Anwendung::IstErsteInstanz() {
 }
 
 void Anwendung::LadeHauptfenster() {
-    hauptfenster = std::make_unique<frmMain>();
+    hauptfenster = std::make_unique<frmMain>(bedingungen.programmordner);
     hauptfenster->ZeigeSprache();
     umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
     umgebung.SetzeStatusanzeige(

@@ -19,6 +19,8 @@
 #include <QDialog>
 #include <QLabel>
 
+#include <utility>
+
 namespace varnoth {
 
 namespace {
@@ -40,7 +42,7 @@ struct frmMain::Menuezeile {
     int index = 0;
 };
 
-frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>()) {
+frmMain::frmMain(QString ordner) : ui(std::make_unique<Ui::frmMain>()), programmordner(std::move(ordner)) {
     ui->setupUi(this);
     QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));

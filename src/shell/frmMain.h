@@ -1,12 +1,14 @@
 #pragma once
 
 #include "fensteranordnung.h"
+#include "firmware.h"
 #include "menuebefehle.h"
 #include "menuezustand.h"
 #include "polling.h"
 #include "verbindung.h"
 
 #include <QMainWindow>
+#include <QString>
 
 #include <array>
 #include <memory>
@@ -25,11 +27,16 @@ class frmDocument;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
 /// A click only stores a command; the main loop runs it through MenuAusführen between two polling passes.
-class frmMain : public QMainWindow, private Befehlsziel, private PollingZiel, private Verbindungsziel {
+class frmMain : public QMainWindow,
+                private Befehlsziel,
+                private PollingZiel,
+                private Verbindungsziel,
+                private Firmwareziel {
     Q_OBJECT
 
 public:
-    frmMain();
+    /// @param programmordner where the program that transfers firmware lies
+    explicit frmMain(QString programmordner = {});
     ~frmMain() override;
 
     /// Runs the command that waits, if any.
@@ -96,6 +103,8 @@ private:
     void ZeigeLichtleistenmenue() override;
     bool Beendet() const override { return entladen || befehle.WartetAuf(Befehl::Beenden); }
 
+    std::string StarteFlasher(const std::string& parameter) override;
+
     void VerbindeMenue();
     void VerbindeAktion(const QString& name, Befehl befehl, int index);
     void RichteStatusleisteEin();
@@ -114,6 +123,8 @@ private:
     void WaehleComPort(int nummer);
     void SchalteSprache(std::int16_t offset);
     void ZeigeInfo();
+    template<class Dienstdialog>
+    void OeffneDienst();
 
     void ZeigeKonfiguration();
     void NeueKonfiguration();
@@ -121,6 +132,7 @@ private:
     void SchreibeKonfiguration();
 
     std::unique_ptr<Ui::frmMain> ui;
+    QString programmordner;
     std::array<frmDocument*, AnzahlOptikteile> Fensterliste{};
     std::array<QMdiSubWindow*, AnzahlOptikteile> rahmen{};
     std::array<bool, AnzahlOptikteile> hatPlatz{}; // stands where the user or an arrangement has put it

@@ -3,14 +3,19 @@
 #include "ansichtstitel.h"
 #include "einstellungen.h"
 #include "frmDocument.h"
+#include "frmEinzelwerteLesenSchreiben.h"
 #include "frmHoleLichtleistenInfo.h"
 #include "frmIdentifikationsAnforderung.h"
 #include "frmInfo.h"
+#include "frmInitHardware.h"
 #include "frmKonfigurationLesenAusHardware.h"
 #include "frmMain.h"
+#include "frmResetHardware.h"
+#include "frmSimulation.h"
 #include "konfigurationsbefehle.h"
 #include "lesevorgang.h"
 #include "lokalisiereform.h"
+#include "programmstart.h"
 #include "qttexte.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -20,6 +25,8 @@
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 namespace varnoth {
@@ -27,6 +34,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextAutosendFrage = 6003;
+constexpr const char* Flasher = "Flasher.exe";
 
 } // namespace
 
@@ -35,21 +43,34 @@ struct frmMain::Befehlszeile {
     void (*ablauf)(frmMain& fenster, int index);
 };
 
+/// The dialog of a service command, for a controller that does not send by itself and has said who it is.
+template<class Dienstdialog>
+void frmMain::OeffneDienst() {
+    modModbus::SchreibeSteuerwert4();
+    if (Identifiziere() && !Beendet())
+        Dienstdialog(this).exec();
+}
+
 void frmMain::FuehreAus(Befehl befehl, int index) {
     static constexpr Befehlszeile zeilen[] = {
         {Befehl::VisualisierenStart, [](frmMain& f, int) { f.Autostart(); }},
         {Befehl::VisualisierenStop, [](frmMain& f, int) { f.SubMessdatenVisualisierenStop(); }},
         {Befehl::LichtleisteAnzeigen, [](frmMain& f, int i) { f.ZeigeLichtleiste(i); }},
         {Befehl::Beenden, [](frmMain& f, int) { f.SubBeenden(); }},
+        {Befehl::Einzelwerte, [](frmMain& f, int) { f.OeffneDienst<frmEinzelwerteLesenSchreiben>(); }},
         {Befehl::FensterNebeneinander, [](frmMain& f, int) { f.Ordne(Anordnung::Nebeneinander); }},
         {Befehl::FensterUeberlappend, [](frmMain& f, int) { f.ui->mdiBereich->cascadeSubWindows(); }},
         {Befehl::FensterUntereinander, [](frmMain& f, int) { f.Ordne(Anordnung::Untereinander); }},
+        {Befehl::FirmwareUpdate, [](frmMain& f, int) { AktualisiereFirmware(f); }},
+        {Befehl::InitHardware, [](frmMain& f, int) { f.OeffneDienst<frmInitHardware>(); }},
         {Befehl::KonfigurationAnzeigen, [](frmMain& f, int) { f.BearbeiteKonfiguration(); }},
         {Befehl::KonfigurationOeffnen, [](frmMain& f, int) { f.SubOeffnen(); }},
         {Befehl::KonfigurationSpeichernUnter, [](frmMain&, int) { KonfigurationSpeichernUnter(); }},
         {Befehl::NeueKonfiguration, [](frmMain& f, int) { f.NeueKonfiguration(); }},
         {Befehl::UebertragenerWert, [](frmMain& f, int) { f.ui->mnuUebertragenerWert->toggle(); }},
+        {Befehl::ResetHardware, [](frmMain& f, int) { f.OeffneDienst<frmResetHardware>(); }},
         {Befehl::ComPort, [](frmMain& f, int i) { f.WaehleComPort(i); }},
+        {Befehl::Simulation, [](frmMain& f, int) { frmSimulation(&f).exec(); }},
         {Befehl::Info, [](frmMain& f, int) { f.ZeigeInfo(); }},
         {Befehl::AutosendStarten, [](frmMain& f, int) { f.SubAutosendStarten(); }},
         {Befehl::Deutsch, [](frmMain& f, int) { f.SchalteSprache(varnoth::Deutsch); }},
@@ -156,6 +177,11 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         SetzeTitel(teil, titeltexte.at(static_cast<std::size_t>(teil)));
     ZeigeStatustext(FeldSchaltausgang, "");
+}
+
+std::string frmMain::StarteFlasher(const std::string& parameter) {
+    return StarteProgramm(QDir(programmordner).filePath(QLatin1String(Flasher)),
+                          QString::fromStdString(parameter));
 }
 
 void frmMain::ZeigeInfo() {

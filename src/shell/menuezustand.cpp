@@ -12,11 +12,6 @@ bool Immer(const Programmzustand& /*zustand*/) {
     return true;
 }
 
-// The windows of these items are not built yet.
-bool NochNicht(const Programmzustand& /*zustand*/) {
-    return false;
-}
-
 bool Service(const Programmzustand& zustand) {
     return zustand.service;
 }
@@ -51,13 +46,9 @@ constexpr Zeile tabelle[] = {
     {"mnuAnzeigeLichtleiste_3", Immer, HatStrahlen<3>},
     {"mnuMessdatenVisualisierenStart", LaeuftNicht, Immer},
     {"mnuMessdatenVisualisierenStop", Laeuft, Immer},
-    {"mnuEinzelwerteLesenSchreiben", NochNicht, Service},
-    {"mnuSimulation", NochNicht, Immer},
-    {"mnuInitHardware", NochNicht, Service},
-    {"mnuResetHardware", NochNicht, Immer},
-    {"mnuFlasher", NochNicht, Immer},
+    {"mnuEinzelwerteLesenSchreiben", Immer, Service},
+    {"mnuInitHardware", Immer, Service},
     {"mnuAutosendStarten", Autosend, Immer},
-    {"mnuHilfethemen", NochNicht, Immer},
 };
 
 } // namespace

@@ -44,6 +44,11 @@ void Fahrer::Beantworte(QMessageBox& meldung) {
     (knopf != nullptr ? knopf : meldung.buttons().constFirst())->click();
 }
 
+void Klicke(QWidget& fenster, const QString& knopf) {
+    QMetaObject::invokeMethod(&Kind<QAbstractButton>(fenster, knopf), &QAbstractButton::click,
+                              Qt::QueuedConnection);
+}
+
 QWidget* SichtbaresFenster(const QString& name) {
     for (QWidget* fenster : QApplication::topLevelWidgets())
         if (fenster->isVisible() && fenster->objectName() == name)

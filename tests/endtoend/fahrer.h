@@ -35,6 +35,10 @@ private:
     std::vector<std::string> meldungen;
 };
 
+/// Clicks a button as soon as the action that asks for it is over: what the click begins may wait for more
+/// actions.
+void Klicke(QWidget& fenster, const QString& knopf);
+
 /// The visible window of that name, nullptr when there is none.
 QWidget* SichtbaresFenster(const QString& name);
 

@@ -70,6 +70,17 @@ protected:
     /// Chooses a menu item as a user does; the main loop runs its command.
     void Waehle(const QString& aktion) { Aktion(aktion).trigger(); }
 
+    /// Chooses a menu item and runs the main loop until its command is done.
+    bool FuehreAus(const QString& aktion) {
+        Waehle(aktion);
+        return LaufeBis([this] { return !Hauptfenster().BefehlWartet(); });
+    }
+    /// Does something with a window as soon as it is shown.
+    void InFenster(const QString& name, std::function<void(QWidget&)> tat) {
+        fahrer.Sobald([name] { return SichtbaresFenster(name) != nullptr; },
+                      [name, tat = std::move(tat)] { tat(*SichtbaresFenster(name)); });
+    }
+
     frmMain& Hauptfenster() { return programm->Hauptfenster(); }
     QAction& Aktion(const QString& name);
     frmDocument& Ansicht(int teil) { return Hauptfenster().Fenster(teil); }

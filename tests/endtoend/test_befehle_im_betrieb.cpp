@@ -21,11 +21,6 @@ using testing::StartsWith;
 
 class BefehleImBetrieb : public ProgrammTest {
 protected:
-    /// Chooses a menu item and runs the main loop until its command is done.
-    bool FuehreAus(const QString& aktion) {
-        Waehle(aktion);
-        return LaufeBis([this] { return !Hauptfenster().BefehlWartet(); });
-    }
     bool StarteLiveDaten() { return FuehreAus("mnuMessdatenVisualisierenStart") && LaufeBis(IstLive); }
     QMdiSubWindow& Rahmen(int teil) { return *qobject_cast<QMdiSubWindow*>(Ansicht(teil).parentWidget()); }
     /// Interrupts just this beam (numbered from 1) of part 1.

@@ -53,20 +53,6 @@ class KonfigurationImBetrieb : public ProgrammTest {
 protected:
     ~KonfigurationImBetrieb() override { SetzeDateiantwort({}); }
 
-    bool FuehreAus(const QString& aktion) {
-        Waehle(aktion);
-        return LaufeBis([this] { return !Hauptfenster().BefehlWartet(); });
-    }
-    /// Does something with a window as soon as it is shown.
-    void InFenster(const QString& name, std::function<void(QWidget&)> tat) {
-        fahrer.Sobald([name] { return SichtbaresFenster(name) != nullptr; },
-                      [name, tat = std::move(tat)] { tat(*SichtbaresFenster(name)); });
-    }
-    /// Clicks as soon as the action that plans it is over: what the click begins may wait for more actions.
-    static void Klicke(QWidget& fenster, const QString& knopf) {
-        QMetaObject::invokeMethod(&Kind<QAbstractButton>(fenster, knopf), &QAbstractButton::click,
-                                  Qt::QueuedConnection);
-    }
     static void WaehlePosten(QWidget& fenster, const QString& liste, int posten) {
         Kind<QComboBox>(fenster, liste).setCurrentIndex(posten);
     }

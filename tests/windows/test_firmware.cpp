@@ -1,0 +1,109 @@
+#include "firmware.h"
+
+#include "crc.h"
+#include "pruefgeraet.h"
+#include "schnittstelle.h"
+#include "texte.h"
+#include "transaktionen.h"
+
+#include <gmock/gmock.h>
+
+namespace varnoth {
+
+using pruefung::Bytes;
+using pruefung::MitPruefsumme;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Firmware : public testing::Test, private Firmwareziel {
+protected:
+    Firmware() {
+        CrcTabelleAufbauen();
+        modModbus::IdentReset();
+        SetzeSprachoffset(Deutsch);
+        einstellungen.texte[{"Flasher", "Parameter"}] = "COM1 varnoth.bin";
+    }
+    ~Firmware() override {
+        modModbus::IdentReset();
+        modSchnittstelle::Zuruecksetzen();
+    }
+
+    void Aktualisiere() { AktualisiereFirmware(*this); }
+    std::vector<std::string> Gezeigt() const {
+        std::vector<std::string> texte;
+        for (const Meldung& meldung : umgebung.meldungen)
+            texte.push_back(meldung.text);
+        return texte;
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
+    pruefung::PruefPort port{umgebung};
+    pruefung::PruefGeraet geraet{port};
+    bool identGelingt = true;
+    std::string startfehler;
+    std::vector<std::string> gestartet;
+    bool offenBeimStart = false;
+
+private:
+    bool Identifiziere() override {
+        if (!identGelingt)
+            return false;
+        modSchnittstelle::OpenCommPort();
+        modModbus::RTUModeH11IndentifikationsAnforderung();
+        modSchnittstelle::CloseCommPort();
+        port.gesendet.clear();
+        return true;
+    }
+    std::string StarteFlasher(const std::string& parameter) override {
+        gestartet.push_back(parameter);
+        offenBeimStart = port.offen;
+        return startfehler;
+    }
+};
+
+TEST_F(Firmware, Without_a_parameter_in_the_settings_nothing_happens) {
+    einstellungen.texte.clear();
+    Aktualisiere();
+    EXPECT_THAT(Gezeigt(), IsEmpty());
+    EXPECT_THAT(gestartet, IsEmpty());
+}
+
+TEST_F(Firmware, It_asks_first_with_OK_and_Cancel) {
+    Aktualisiere();
+    ASSERT_FALSE(umgebung.meldungen.empty());
+    EXPECT_EQ(umgebung.meldungen.front(), (Meldung{.text = "Soll das Firmware update durchgeführt werden?",
+                                                   .titel = LadeText(TextAchtung),
+                                                   .symbol = Symbol::Warnung,
+                                                   .knoepfe = Knoepfe::OkAbbrechen}));
+}
+
+TEST_F(Firmware, Cancel_at_the_question_leaves_the_controller_alone) {
+    umgebung.antworten = {Antwort::Abbrechen};
+    Aktualisiere();
+    EXPECT_THAT(port.gesendet, IsEmpty());
+    EXPECT_THAT(gestartet, IsEmpty());
+}
+
+TEST_F(Firmware, A_cancelled_identification_ends_the_command) {
+    identGelingt = false;
+    Aktualisiere();
+    EXPECT_THAT(port.gesendet, IsEmpty());
+    EXPECT_THAT(gestartet, IsEmpty());
+}
+
+TEST_F(Firmware, The_controller_is_made_ready_before_the_program_starts_with_the_port_free) {
+    Aktualisiere();
+    EXPECT_THAT(port.gesendet, ElementsAre(MitPruefsumme(Bytes({modModbus::GetSlaveAdresse(), 0x09}))));
+    EXPECT_THAT(gestartet, ElementsAre("COM1 varnoth.bin"));
+    EXPECT_FALSE(offenBeimStart);
+}
+
+TEST_F(Firmware, A_program_that_cannot_be_started_gives_the_reason_in_a_warning) {
+    startfehler = "Flasher.exe: no such file";
+    Aktualisiere();
+    EXPECT_EQ(umgebung.meldungen.back(),
+              (Meldung{.text = "Flasher.exe: no such file", .titel = LadeText(TextAchtung)}));
+}
+
+} // namespace varnoth
