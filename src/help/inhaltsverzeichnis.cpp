@@ -10,9 +10,10 @@ namespace {
 
 enum Spalte { Ebene, Name, Titel, Fenster, AnzahlSpalten };
 
-QString OhneIndex(QString objectName) {
-    static const QRegularExpression index(QStringLiteral("_[0-9]+$"));
-    return objectName.remove(index);
+const Hilfeseite* SeiteMit(const Inhaltsverzeichnis& inhalt, const QString& fenster) {
+    const auto seite =
+        std::ranges::find_if(inhalt, [&](const Hilfeseite& s) { return s.fenster.contains(fenster); });
+    return seite == inhalt.end() ? nullptr : &*seite;
 }
 
 } // namespace
@@ -21,7 +22,7 @@ Inhaltsverzeichnis LiesInhalt(const QByteArray& tsv) {
     Inhaltsverzeichnis inhalt;
     const QStringList zeilen = QString::fromUtf8(tsv).split(u'\n');
     for (const QString& zeile : zeilen) {
-        const QStringList felder = zeile.trimmed().isEmpty() ? QStringList() : zeile.split(u'\t');
+        const QStringList felder = zeile.split(u'\t');
         if (felder.size() >= AnzahlSpalten)
             inhalt.append({felder[Ebene].toInt(), felder[Name], felder[Titel],
                            felder[Fenster].trimmed().split(u',', Qt::SkipEmptyParts)});
@@ -29,11 +30,14 @@ Inhaltsverzeichnis LiesInhalt(const QByteArray& tsv) {
     return inhalt;
 }
 
+QString OhneIndex(const QString& objectName) {
+    static const QRegularExpression index(QStringLiteral("_[0-9]+$"));
+    return QString(objectName).remove(index);
+}
+
 const Hilfeseite* SeiteZuFenster(const Inhaltsverzeichnis& inhalt, const QString& objectName) {
-    const QString fenster = OhneIndex(objectName);
-    const auto seite =
-        std::ranges::find_if(inhalt, [&](const Hilfeseite& s) { return s.fenster.contains(fenster); });
-    return seite == inhalt.end() ? nullptr : &*seite;
+    const Hilfeseite* const seite = SeiteMit(inhalt, objectName);
+    return seite != nullptr ? seite : SeiteMit(inhalt, OhneIndex(objectName));
 }
 
 } // namespace varnoth

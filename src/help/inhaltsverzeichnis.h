@@ -12,7 +12,7 @@ struct Hilfeseite {
     int ebene = 0; ///< 0: a chapter, 1: a page of the chapter before it
     QString name;  ///< file name without ending
     QString titel;
-    QStringList fenster; ///< object names of the windows that the page tells of
+    QStringList fenster; ///< object names of the windows, or parts of them, that the page tells of
 
     bool operator==(const Hilfeseite&) const = default;
 };
@@ -23,8 +23,10 @@ using Inhaltsverzeichnis = QList<Hilfeseite>;
 /// between tabs. Lines with fewer fields are passed over.
 Inhaltsverzeichnis LiesInhalt(const QByteArray& tsv);
 
-/// The page of a window; nullptr when none tells of it. An index behind the window's name does not count:
-/// "frmDocument_2" is a "frmDocument".
+/// An object name without the index of a control array: "frmDocument_2" is a "frmDocument".
+QString OhneIndex(const QString& objectName);
+
+/// The page of a window, by its object name or that without the index; nullptr when none tells of it.
 const Hilfeseite* SeiteZuFenster(const Inhaltsverzeichnis& inhalt, const QString& objectName);
 
 } // namespace varnoth

@@ -1,0 +1,67 @@
+#include "hilfesuche.h"
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+
+constexpr qsizetype AuszugVorher = 30; // characters before the first find
+constexpr qsizetype AuszugLaenge = 110;
+
+bool Enthaelt(const QString& text, const QString& wort) {
+    return text.contains(wort, Qt::CaseInsensitive);
+}
+
+bool EnthaeltAlle(const Seitentext& seite, const QStringList& worte) {
+    return std::ranges::all_of(worte, [&](const QString& wort) {
+        return Enthaelt(seite.titel, wort) || Enthaelt(seite.text, wort);
+    });
+}
+
+bool TitelEnthaeltEines(const Seitentext& seite, const QStringList& worte) {
+    return std::ranges::any_of(worte, [&](const QString& wort) { return Enthaelt(seite.titel, wort); });
+}
+
+qsizetype ErsteStelle(const QString& text, const QStringList& worte) {
+    qsizetype erste = text.size();
+    for (const QString& wort : worte)
+        if (const qsizetype stelle = text.indexOf(wort, 0, Qt::CaseInsensitive); stelle >= 0)
+            erste = std::min(erste, stelle);
+    return erste == text.size() ? 0 : erste;
+}
+
+/// Whole words from about AuszugVorher characters before the first find; dots where text was left out.
+QString Auszug(const QString& seitentext, const QStringList& worte) {
+    const QString text = seitentext.simplified();
+    const qsizetype stelle = ErsteStelle(text, worte);
+    qsizetype anfang = 0;
+    if (stelle > AuszugVorher)
+        anfang = std::min(stelle, text.indexOf(u' ', stelle - AuszugVorher) + 1);
+    qsizetype ende = text.size();
+    if (ende - anfang > AuszugLaenge)
+        ende = std::max(stelle, text.lastIndexOf(u' ', anfang + AuszugLaenge));
+    const QString punkte = QStringLiteral("…");
+    return (anfang > 0 ? punkte : QString()) + text.mid(anfang, ende - anfang) +
+           (ende < text.size() ? punkte : QString());
+}
+
+} // namespace
+
+QStringList Suchworte(const QString& eingabe) {
+    return eingabe.simplified().split(u' ', Qt::SkipEmptyParts);
+}
+
+QList<Fundstelle> Suche(const QList<Seitentext>& seiten, const QStringList& worte) {
+    QList<Fundstelle> imTitel;
+    QList<Fundstelle> imText;
+    for (const Seitentext& seite : seiten) {
+        if (worte.isEmpty() || !EnthaeltAlle(seite, worte))
+            continue;
+        QList<Fundstelle>& liste = TitelEnthaeltEines(seite, worte) ? imTitel : imText;
+        liste.append({seite.seite, seite.titel, Auszug(seite.text, worte)});
+    }
+    return imTitel + imText;
+}
+
+} // namespace varnoth
