@@ -28,6 +28,10 @@ QTreeWidgetItem* NeuerEintrag(const Hilfeseite& seite) {
     return eintrag;
 }
 
+QString Seitenname(const QUrl& adresse) {
+    return adresse.fileName().section(u'.', 0, 0);
+}
+
 /// Every place of the words in the page, in the colours of a selection.
 QList<QTextEdit::ExtraSelection> Stellen(const QTextDocument& dokument, const QString& wort,
                                          const QTextCharFormat& format) {
@@ -51,7 +55,8 @@ frmHilfe::frmHilfe() : ui(std::make_unique<Ui::frmHilfe>()) {
     connect(ui->cmdVor, &QPushButton::clicked, ui->brwSeite, &QTextBrowser::forward);
     connect(ui->brwSeite, &QTextBrowser::backwardAvailable, ui->cmdZurück, &QWidget::setEnabled);
     connect(ui->brwSeite, &QTextBrowser::forwardAvailable, ui->cmdVor, &QWidget::setEnabled);
-    connect(ui->brwSeite, &QTextBrowser::sourceChanged, this, [this] { MarkiereImInhalt(); });
+    connect(ui->brwSeite, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl& adresse) { MarkiereImInhalt(Seitenname(adresse)); });
     connect(ui->trvInhalt, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* eintrag) {
         ZeigeSeite(eintrag->data(0, SeitennameRolle).toString());
     });
@@ -104,14 +109,14 @@ void frmHilfe::ZeigeSeite(const QString& seite, const QString& anker) {
 }
 
 QString frmHilfe::Seite() const {
-    return ui->brwSeite->source().fileName().section(u'.', 0, 0);
+    return Seitenname(ui->brwSeite->source());
 }
 
-void frmHilfe::MarkiereImInhalt() {
+void frmHilfe::MarkiereImInhalt(const QString& seite) {
     ui->brwSeite->setExtraSelections({});
     const QSignalBlocker stumm(ui->trvInhalt);
     for (QTreeWidgetItemIterator i(ui->trvInhalt); *i != nullptr; ++i)
-        if ((*i)->data(0, SeitennameRolle) == Seite())
+        if ((*i)->data(0, SeitennameRolle) == seite)
             ui->trvInhalt->setCurrentItem(*i);
 }
 

@@ -39,7 +39,7 @@ public:
 private:
     void VerbindeTasten();
     void FuelleInhalt();
-    void MarkiereImInhalt();
+    void MarkiereImInhalt(const QString& seite);
     void SucheSeiten(const QString& eingabe);
     void ZeigeFund(const QListWidgetItem* fund);
     void GehoereZu(QWindow* besitzer);

@@ -31,17 +31,29 @@ qsizetype ErsteStelle(const QString& text, const QStringList& worte) {
     return erste == text.size() ? 0 : erste;
 }
 
-/// Whole words from about AuszugVorher characters before the first find; dots where text was left out.
+/// Where the excerpt for a find begins: at a whole word about AuszugVorher characters before it.
+qsizetype Anfang(const QString& text, qsizetype fund) {
+    if (fund <= AuszugVorher)
+        return 0;
+    const qsizetype luecke = text.indexOf(u' ', fund - AuszugVorher);
+    return luecke < 0 || luecke > fund ? fund : luecke + 1;
+}
+
+qsizetype Ende(const QString& text, qsizetype anfang, qsizetype fund) {
+    const qsizetype spaetestens = anfang + AuszugLaenge;
+    if (text.size() <= spaetestens)
+        return text.size();
+    const qsizetype luecke = text.lastIndexOf(u' ', spaetestens);
+    return luecke > fund ? luecke : spaetestens;
+}
+
+/// Dots stand where text was left out.
 QString Auszug(const QString& seitentext, const QStringList& worte) {
     const QString text = seitentext.simplified();
-    const qsizetype stelle = ErsteStelle(text, worte);
-    qsizetype anfang = 0;
-    if (stelle > AuszugVorher)
-        anfang = std::min(stelle, text.indexOf(u' ', stelle - AuszugVorher) + 1);
-    qsizetype ende = text.size();
-    if (ende - anfang > AuszugLaenge)
-        ende = std::max(stelle, text.lastIndexOf(u' ', anfang + AuszugLaenge));
     const QString punkte = QStringLiteral("…");
+    const qsizetype fund = ErsteStelle(text, worte);
+    const qsizetype anfang = Anfang(text, fund);
+    const qsizetype ende = Ende(text, anfang, fund);
     return (anfang > 0 ? punkte : QString()) + text.mid(anfang, ende - anfang) +
            (ende < text.size() ? punkte : QString());
 }

@@ -37,6 +37,15 @@ Hilfeziel ZielAuf(const Hilfedatei& datei, const QString& seite, const QStringLi
     return {seite};
 }
 
+/// The dialog in front or the active window; of an open list the window that the list belongs to.
+QWidget* FensterVorn() {
+    QWidget* const modal = QApplication::activeModalWidget();
+    QWidget* fenster = modal != nullptr ? modal : QApplication::activeWindow();
+    while (fenster != nullptr && fenster->windowType() == Qt::Popup && fenster->parentWidget() != nullptr)
+        fenster = fenster->parentWidget()->window();
+    return fenster;
+}
+
 } // namespace
 
 Hilfeziel ZielZu(const Hilfedatei& datei, const QWidget* stelle) {
@@ -50,8 +59,7 @@ Hilfeziel ZielZu(const Hilfedatei& datei, const QWidget* stelle) {
 }
 
 QWidget* StelleVorn() {
-    QWidget* const modal = QApplication::activeModalWidget();
-    QWidget* const fenster = modal != nullptr ? modal : QApplication::activeWindow();
+    QWidget* const fenster = FensterVorn();
     if (fenster == nullptr)
         return nullptr;
     const auto* const bereich = fenster->findChild<QMdiArea*>();
