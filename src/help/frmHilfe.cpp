@@ -1,5 +1,6 @@
 #include "frmHilfe.h"
 
+#include "funddarstellung.h"
 #include "hilfedatei.h"
 #include "lokalisiereform.h"
 #include "ui_frmHilfe.h"
@@ -21,6 +22,7 @@ namespace {
 constexpr int SeitennameRolle = Qt::UserRole;
 constexpr QSize Anfangsgroesse(1080, 720);
 constexpr int Inhaltsbreite = 280;
+constexpr int Seitenrand = 14;
 
 QTreeWidgetItem* NeuerEintrag(const Hilfeseite& seite) {
     auto* const eintrag = new QTreeWidgetItem({seite.titel});
@@ -50,7 +52,9 @@ frmHilfe::frmHilfe() : ui(std::make_unique<Ui::frmHilfe>()) {
     ui->setupUi(this);
     resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
     ui->Teiler->setSizes({Inhaltsbreite, width() - Inhaltsbreite});
+    ui->lstFunde->setItemDelegate(new Funddarstellung(this));
     ui->lstFunde->hide();
+    ui->brwSeite->document()->setDocumentMargin(Seitenrand);
     connect(ui->cmdZurück, &QPushButton::clicked, ui->brwSeite, &QTextBrowser::backward);
     connect(ui->cmdVor, &QPushButton::clicked, ui->brwSeite, &QTextBrowser::forward);
     connect(ui->brwSeite, &QTextBrowser::backwardAvailable, ui->cmdZurück, &QWidget::setEnabled);
@@ -127,7 +131,8 @@ void frmHilfe::SucheSeiten(const QString& eingabe) {
     const QSignalBlocker stumm(ui->lstFunde);
     ui->lstFunde->clear();
     for (const Fundstelle& fund : Suche(datei->Seitentexte(), worte)) {
-        auto* const eintrag = new QListWidgetItem(fund.titel + u'\n' + fund.auszug, ui->lstFunde);
+        auto* const eintrag = new QListWidgetItem(fund.titel, ui->lstFunde);
+        eintrag->setData(Funddarstellung::AuszugRolle, fund.auszug);
         eintrag->setData(SeitennameRolle, fund.seite);
     }
 }

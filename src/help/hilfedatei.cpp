@@ -19,6 +19,11 @@ QString NeueWurzel() {
     return QStringLiteral("/hilfe%1").arg(++zaehler);
 }
 
+QString TextOhneTitel(const QString& html, const QString& titel) {
+    const QString text = QTextDocumentFragment::fromHtml(html).toPlainText();
+    return text.startsWith(titel) ? text.mid(titel.size()) : text;
+}
+
 } // namespace
 
 std::unique_ptr<Hilfedatei> Hilfedatei::Oeffne(const QString& pfad) {
@@ -68,8 +73,7 @@ QImage Hilfedatei::Bild(const QString& name) const {
 const QList<Seitentext>& Hilfedatei::Seitentexte() const {
     if (seitentexte.isEmpty())
         for (const Hilfeseite& seite : inhalt)
-            seitentexte.append(
-                {seite.name, seite.titel, QTextDocumentFragment::fromHtml(Html(seite.name)).toPlainText()});
+            seitentexte.append({seite.name, seite.titel, TextOhneTitel(Html(seite.name), seite.titel)});
     return seitentexte;
 }
 

@@ -1,5 +1,6 @@
 #include "frmHilfe.h"
 
+#include "funddarstellung.h"
 #include "hilfedatei.h"
 #include "hilfetest.h"
 
@@ -35,7 +36,7 @@ protected:
     QStringList Fundtitel() {
         QStringList titel;
         for (int i = 0; i < Funde().count(); ++i)
-            titel.append(Funde().item(i)->text().section(u'\n', 0, 0));
+            titel.append(Funde().item(i)->text());
         return titel;
     }
     QStringList Hervorgehoben() {
@@ -142,7 +143,7 @@ TEST_F(FrmHilfeTest, Typing_shows_the_finds_in_place_of_the_contents) {
     EXPECT_EQ(Fundtitel(), (QStringList{"Das Hauptfenster", "Ein Dialog"}));
     EXPECT_TRUE(Funde().isVisible());
     EXPECT_FALSE(Inhalt().isVisible());
-    EXPECT_TRUE(Funde().item(0)->text().contains(QStringLiteral("Ein Lichtgitter")));
+    EXPECT_TRUE(Funde().item(0)->data(Funddarstellung::AuszugRolle).toString().contains("Ein Lichtgitter"));
 }
 
 TEST_F(FrmHilfeTest, An_empty_search_field_brings_the_contents_back) {

@@ -69,6 +69,10 @@ TEST_F(HilfedateiTest, Texts_for_the_search_have_no_markup) {
     EXPECT_TRUE(seite.text.contains(QStringLiteral("Prüfgerät und ein Feld.")));
 }
 
+TEST_F(HilfedateiTest, Texts_for_the_search_do_not_repeat_the_title) {
+    EXPECT_FALSE(Probe()->Seitentexte().first().text.contains("Anfang"));
+}
+
 TEST_F(HilfedateiTest, Two_open_files_do_not_mix) {
     const auto deutsch = Probe();
     const auto englisch = Hilfedatei::Oeffne(QStringLiteral(HILFEPROBE_ENGLISCH));
