@@ -10,7 +10,7 @@
 namespace varnoth {
 
 namespace {
-constexpr int Feldbreite = 34; // characters
+constexpr int Feldbreite = 34; // characters of a field that shows a step
 }
 
 Ablaufdialog::Ablaufdialog(Beginn wann, QWidget* parent) : QDialog(parent), beginn(wann) {}
@@ -24,7 +24,8 @@ void Ablaufdialog::Lade(QPushButton& abbrechen) {
     connect(abbruchknopf, &QPushButton::clicked, this, &Ablaufdialog::reject);
     abbruchknopf->setFocus();
     for (QLineEdit* const feld : findChildren<QLineEdit*>())
-        BietePlatz(*feld, Feldbreite);
+        if (feld->isReadOnly())
+            BietePlatz(*feld, Feldbreite);
     LokalisiereForm(*this);
     modSchnittstelle::OpenCommPort();
     geladen = true;

@@ -25,4 +25,10 @@ void BietePlatz(QWidget& element, int zeichen) {
     element.setMinimumWidth(std::max(element.minimumWidth(), breite));
 }
 
+void BehaltePlatz(QWidget& element) {
+    QSizePolicy platz = element.sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    element.setSizePolicy(platz);
+}
+
 } // namespace varnoth

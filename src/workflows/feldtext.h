@@ -19,4 +19,7 @@ void ZeigeStand(QProgressBar& balken, int wert);
 /// already.
 void BietePlatz(QWidget& element, int zeichen);
 
+/// Keeps the place of an element that is hidden, so that nothing around it moves when it comes and goes.
+void BehaltePlatz(QWidget& element);
+
 } // namespace varnoth

@@ -1,5 +1,6 @@
 #include "schreibvorgang.h"
 
+#include "kommandoregister.h"
 #include "registerabbild.h"
 #include "texte.h"
 #include "transaktionen.h"
@@ -13,10 +14,6 @@ using namespace modDaten;
 constexpr std::int16_t TextGlobaleGeraetedaten = 7105;
 constexpr std::int16_t TextUebertragungBeendet = 7109;
 constexpr std::int16_t TextSpeichern = 7112;
-
-/// Global register that has the controller store its configuration, and the value that starts it.
-constexpr std::int16_t Speicherregister = 189;
-constexpr std::int32_t Speicherbefehl = 1;
 
 Werte HoleWerte(const Transferparameter& parameter) {
     Werte werte(static_cast<std::size_t>(parameter.anzahl));
@@ -63,10 +60,8 @@ bool Schreibtransfer::Uebertrage(const Transferparameter& parameter) {
 bool Schreibtransfer::Speichere() {
     constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
     anzeige.ZeigeBereich(LadeText(TextSpeichern));
-    return Versuche(Registertext(Global, Speicherregister), 1, [] {
-        return modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(Global, Speicherregister), 1,
-                                                         {Speicherbefehl});
-    });
+    return Versuche(Registertext(Global, Kommandoregister), 1,
+                    [] { return SendeKommando(Kommando::SpeichereKonfiguration); });
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "strahlengruppe.h"
 
+#include "feldtext.h"
 #include "texte.h"
 #include "ui_strahlengruppe.h"
 #include "umgebung.h"
@@ -14,13 +15,6 @@ namespace {
 
 void SetzeTag(QLabel& beschriftung, int id) {
     beschriftung.setProperty("Tag", QString::number(id));
-}
-
-/// Nothing around the element moves when it comes and goes.
-void BehaltePlatz(QWidget& element) {
-    QSizePolicy platz = element.sizePolicy();
-    platz.setRetainSizeWhenHidden(true);
-    element.setSizePolicy(platz);
 }
 
 QStringList Listeneintraege(int optikteil) {

@@ -1,0 +1,76 @@
+#include "einzelwert.h"
+
+#include "transaktionen.h"
+#include "zahlen.h"
+
+#include <array>
+#include <cmath>
+
+namespace varnoth {
+
+namespace {
+
+constexpr const char* Fehlanzeige = "???";
+constexpr const char* Bestaetigung = "OK";
+
+constexpr std::int32_t GroessterWert = 0xFFFF;
+constexpr std::int32_t KleinsterWert = -0x8000;
+
+constexpr std::array<std::uint16_t, 3> Bereichsanfaenge = {
+    modModbus::GlobaleBasis, modModbus::SpezifischeBasis, modModbus::KommunikationsBasis};
+
+/// Val gives 0 for a number that it cannot hold, which must not pass for the number 0.
+bool IstUebergelaufen(std::string_view text) {
+    if (Val(text) != 0)
+        return false;
+    for (std::size_t laenge = 1; laenge < text.size(); ++laenge)
+        if (Val(text.substr(0, laenge)) != 0)
+            return true;
+    return false;
+}
+
+/// The number typed, rounded to a whole one, of two equally near ones to the even. Nothing when it lies
+/// outside the limits.
+std::optional<std::int32_t> GanzeZahl(std::string_view text, std::int32_t kleinste, std::int32_t groesste) {
+    const double zahl = std::nearbyint(Val(text));
+    if (zahl < kleinste || zahl > groesste || IstUebergelaufen(text))
+        return std::nullopt;
+    return static_cast<std::int32_t>(zahl);
+}
+
+} // namespace
+
+std::int32_t BereichsOffset(int bereich) {
+    const auto stelle = static_cast<std::size_t>(bereich);
+    return stelle < Bereichsanfaenge.size() ? Bereichsanfaenge.at(stelle) : modModbus::GlobaleBasis;
+}
+
+std::optional<std::uint16_t> Registeradresse(const Einzelregister& register_) {
+    const std::int32_t offset = register_.adressOffset;
+    const auto adresse = GanzeZahl(register_.adresse, -offset, GroessterWert - offset);
+    if (!adresse)
+        return std::nullopt;
+    return static_cast<std::uint16_t>(offset + *adresse);
+}
+
+std::optional<std::int32_t> Registerwert(std::string_view inhalt) {
+    return GanzeZahl(inhalt, KleinsterWert, GroessterWert);
+}
+
+std::string LiesEinzelwert(const Einzelregister& register_) {
+    const auto adresse = Registeradresse(register_);
+    Werte werte(1);
+    const bool gelesen = adresse && modModbus::WaehleOptikteil(register_.optikteil) != False &&
+                         modModbus::RTUModeH03LeseAnforderung(*adresse, 1, werte) != False;
+    return gelesen ? "&H" + AlsHex(static_cast<unsigned>(werte[0])) : Fehlanzeige;
+}
+
+std::string SchreibeEinzelwert(const Einzelregister& register_, std::string_view inhalt) {
+    const auto adresse = Registeradresse(register_);
+    const auto wert = Registerwert(inhalt);
+    const bool geschrieben = adresse && wert && modModbus::WaehleOptikteil(register_.optikteil) != False &&
+                             modModbus::RTUModeH10SchreibenAnforderung(*adresse, 1, {*wert}) != False;
+    return geschrieben ? Bestaetigung : Fehlanzeige;
+}
+
+} // namespace varnoth
