@@ -19,8 +19,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QStandardPaths>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace varnoth {
@@ -29,6 +33,7 @@ namespace {
 
 constexpr std::int16_t TextSchonGestartet = 6001;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
+constexpr const char* Datenordner = "../share/varnoth/"; // of an installed program, from its own folder
 
 /// Every module as it is before the program runs.
 void SetzeModuleZurueck() {
@@ -160,8 +165,15 @@ int Anwendung::Laufe() {
 }
 
 QString Anwendung::Hilfedatei() const {
-    const QString zusatz = GetSprachoffset() == Englisch ? QStringLiteral("E.hlp") : QStringLiteral(".hlp");
-    return QDir(bedingungen.programmordner).filePath(bedingungen.programmname + zusatz);
+    const QString name =
+        bedingungen.programmname + QLatin1String(GetSprachoffset() == Englisch ? "E.hlp" : ".hlp");
+    const QDir ordner(bedingungen.programmordner);
+    const QString daneben = ordner.filePath(name);
+    const QString orte[] = {
+        daneben, ordner.filePath(QLatin1String(Datenordner) + name),
+        QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("varnoth/") + name)};
+    const auto ort = std::ranges::find_if(orte, [](const QString& pfad) { return QFile::exists(pfad); });
+    return ort == std::end(orte) ? daneben : QDir::cleanPath(*ort);
 }
 
 } // namespace varnoth

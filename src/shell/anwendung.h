@@ -44,7 +44,8 @@ public:
     frmMain& Hauptfenster() { return *hauptfenster; }
     QtUmgebung& DieQtUmgebung() { return umgebung; }
     const Kommandozeile& Worte() const { return kommandozeile; }
-    /// The help file of the current language.
+    /// The help file of the current language: beside the executable, else in the data folder of an installed
+    /// program, else in the system's. Where none is there, the path beside the executable.
     QString Hilfedatei() const;
 
 private:

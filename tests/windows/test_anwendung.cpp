@@ -58,6 +58,14 @@ protected:
             return Antwort::Ok;
         });
     }
+    /// The help file of a program that is installed in the folder's "bin".
+    QString LegeInstallierteHilfeAn() const {
+        QDir().mkpath(ordner.filePath(QStringLiteral("bin")));
+        QDir().mkpath(ordner.filePath(QStringLiteral("share/varnoth")));
+        QFile datei(ordner.filePath(QStringLiteral("share/varnoth/varnoth.hlp")));
+        EXPECT_TRUE(datei.open(QIODevice::WriteOnly));
+        return datei.fileName();
+    }
     QByteArray Trace() const {
         QFile datei(ordner.filePath(QStringLiteral("Test.txt")));
         return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray("missing");
@@ -85,6 +93,29 @@ TEST_F(AnwendungTest, The_language_in_the_settings_file_selects_English_texts_an
     EXPECT_EQ(anwendung->Hauptfenster().findChild<QAction*>("mnuBeenden")->text(), "&Exit");
     EXPECT_EQ(anwendung->Hilfedatei(), ordner.filePath(QStringLiteral("varnothE.hlp")));
     EXPECT_TRUE(anwendung->Hauptfenster().findChild<QAction*>("mnuEnglisch")->isChecked());
+}
+
+TEST_F(AnwendungTest, A_help_file_beside_the_executable_comes_before_an_installed_one) {
+    const QString installiert = LegeInstallierteHilfeAn();
+    Startbedingungen bedingungen = Bedingungen({});
+    bedingungen.programmordner = ordner.filePath(QStringLiteral("bin"));
+    anwendung = std::make_unique<Anwendung>(bedingungen);
+    EXPECT_EQ(anwendung->Hilfedatei(), installiert);
+
+    const QString daneben = ordner.filePath(QStringLiteral("bin/varnoth.hlp"));
+    ASSERT_TRUE(QFile::copy(installiert, daneben));
+    EXPECT_EQ(anwendung->Hilfedatei(), daneben);
+}
+
+TEST_F(AnwendungTest, A_help_file_among_the_data_of_the_system_is_found) {
+    const QByteArray vorherige = qgetenv("XDG_DATA_HOME");
+    const QString installiert = LegeInstallierteHilfeAn();
+    qputenv("XDG_DATA_HOME", ordner.filePath(QStringLiteral("share")).toUtf8());
+    Startbedingungen bedingungen = Bedingungen({});
+    bedingungen.programmordner = ordner.filePath(QStringLiteral("a/place/elsewhere"));
+    anwendung = std::make_unique<Anwendung>(bedingungen);
+    EXPECT_EQ(anwendung->Hilfedatei(), installiert);
+    qputenv("XDG_DATA_HOME", vorherige);
 }
 
 TEST_F(AnwendungTest, Any_other_language_in_the_settings_file_counts_as_German) {
