@@ -61,7 +61,9 @@ double Sekundenuhr() {
 Anwendung::Anwendung(Startbedingungen die)
     : bedingungen(std::move(die)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
       einstellungen(Einstellungspfad(bedingungen.programmordner, bedingungen.programmname)),
-      sperre(bedingungen.programmname, bedingungen.sperrordner), port(MachePort(kommandozeile)) {
+      sperre(bedingungen.programmname, bedingungen.sperrordner), port(MachePort(kommandozeile)),
+      hilfe([this] { return Hilfedatei(); }),
+      hilfetaste([this](QWidget* stelle) { hilfe.ZeigeSeiteZu(stelle); }) {
     SetzeGeraetepfad(kommandozeile.geraet.toStdString());
     modSchnittstelle::SetzePort(port.get());
     SetzeModuleZurueck();
@@ -102,6 +104,7 @@ bool Anwendung::IstErsteInstanz() {
 void Anwendung::LadeHauptfenster() {
     hauptfenster = std::make_unique<frmMain>(bedingungen.programmordner);
     hauptfenster->ZeigeSprache();
+    hauptfenster->SetzeHilfe([this] { hilfe.ZeigeThemen(hauptfenster.get()); });
     umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
     umgebung.SetzeStatusanzeige(
         [this](int feld, const std::string& text) { hauptfenster->ZeigeStatustext(feld, text); });

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "frmMain.h"
+#include "hilfe.h"
+#include "hilfetaste.h"
 #include "inieinstellungen.h"
 #include "instanzsperre.h"
 #include "kommandozeile.h"
@@ -63,6 +65,8 @@ private:
     Instanzsperre sperre;
     std::unique_ptr<SeriellerPort> port;
     std::unique_ptr<frmMain> hauptfenster;
+    Hilfe hilfe;
+    Hilfetaste hilfetaste;
 };
 
 } // namespace varnoth

@@ -11,8 +11,10 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 class QLabel;
 class QMdiSubWindow;
@@ -68,6 +70,8 @@ public:
     void ZeigeSprache();
     /// Shows the two menu items of the service mode.
     void ZeigeServicemenue();
+    /// Sets what shows the help topics.
+    void SetzeHilfe(std::function<void()> die) { hilfe = std::move(die); }
     /// Uses serial port 1..4 for this run, whatever the settings say.
     void NimmComPort(int nummer);
     /// Writes into panel 1..3 of the status bar.
@@ -133,6 +137,7 @@ private:
 
     std::unique_ptr<Ui::frmMain> ui;
     QString programmordner;
+    std::function<void()> hilfe;
     std::array<frmDocument*, AnzahlOptikteile> Fensterliste{};
     std::array<QMdiSubWindow*, AnzahlOptikteile> rahmen{};
     std::array<bool, AnzahlOptikteile> hatPlatz{}; // stands where the user or an arrangement has put it

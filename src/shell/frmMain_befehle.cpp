@@ -71,6 +71,7 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
         {Befehl::ResetHardware, [](frmMain& f, int) { f.OeffneDienst<frmResetHardware>(); }},
         {Befehl::ComPort, [](frmMain& f, int i) { f.WaehleComPort(i); }},
         {Befehl::Simulation, [](frmMain& f, int) { frmSimulation(&f).exec(); }},
+        {Befehl::Hilfethemen, [](frmMain& f, int) { f.hilfe(); }},
         {Befehl::Info, [](frmMain& f, int) { f.ZeigeInfo(); }},
         {Befehl::AutosendStarten, [](frmMain& f, int) { f.SubAutosendStarten(); }},
         {Befehl::Deutsch, [](frmMain& f, int) { f.SchalteSprache(varnoth::Deutsch); }},
