@@ -47,6 +47,8 @@ TEST_F(HilfeImBetrieb, The_menu_item_shows_the_first_page_and_ends_live_data) {
 TEST_F(HilfeImBetrieb, F1_in_a_view_shows_its_page_and_leaves_live_data_running) {
     LegeHilfeBei();
     GeheLive();
+    Hauptfenster().activateWindow();
+    ASSERT_TRUE(LaufeBis([this] { return Hauptfenster().isActiveWindow(); }));
     DrueckeF1(Ansicht(0));
     ASSERT_TRUE(LaufeBis([] { return !Ueberschrift().empty(); }));
     EXPECT_THAT(Ueberschrift(), HasSubstr("Optikteil"));
