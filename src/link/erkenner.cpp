@@ -5,13 +5,29 @@
 namespace varnoth {
 
 namespace {
+
 constexpr int HoechstensAbgelehnt = 10;
+
+/// Length of the whole valid identification reply that the bytes begin with, 0 when they do not.
+std::size_t LaengeDerIdentAntwort(std::string_view bytes) {
+    constexpr std::size_t Kopf = 3, Pruefsumme = 2;
+    if (bytes.size() < Kopf || static_cast<Funktion>(bytes[1]) != Funktion::Identifikation)
+        return 0;
+    const std::size_t laenge = Kopf + static_cast<std::uint8_t>(bytes[2]) + Pruefsumme;
+    if (bytes.size() < laenge)
+        return 0;
+    // The CRC of a frame together with its own CRC is 0.
+    return CrcVon(bytes.substr(0, laenge)) == 0 ? laenge : 0;
 }
+
+} // namespace
 
 bool Erkenner::Verarbeite(std::string_view bytes) {
     for (const char byte : bytes) {
-        if (Fertig())
+        if (Fertig()) {
+            ueberzaehlig = true;
             break;
+        }
         VerarbeiteByte(static_cast<std::uint8_t>(byte));
         if (abgelehnt > HoechstensAbgelehnt)
             return false;
@@ -125,6 +141,17 @@ int IdentErkenner::NachFunktionscode(std::uint8_t byte) {
 
 int IdentErkenner::NachDatenbyte(int naechster) {
     return ++empfangen < erwartet ? naechster : CrcLow;
+}
+
+bool NimmIdentAntwort(std::string& strom) {
+    for (std::size_t beginn = 0; beginn < strom.size(); ++beginn) {
+        const std::size_t laenge = LaengeDerIdentAntwort(std::string_view(strom).substr(beginn));
+        if (laenge == 0)
+            continue;
+        strom.erase(0, beginn + laenge);
+        return true;
+    }
+    return false;
 }
 
 } // namespace varnoth

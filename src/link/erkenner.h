@@ -28,6 +28,8 @@ public:
     bool Fertig() const { return zustand == Ende; }
     /// Whether the received CRC is that of the received bytes; meaningful once Fertig.
     bool CrcStimmt() const;
+    /// Whether bytes followed the end of the reply.
+    bool Ueberzaehlig() const { return ueberzaehlig; }
 
 protected:
     static constexpr int Adresse = 0;
@@ -53,6 +55,7 @@ private:
     Crc crc = CrcInit();
     std::uint8_t empfangenLow = 0;
     std::uint8_t empfangenHigh = 0;
+    bool ueberzaehlig = false;
 };
 
 /// Reply to a read of `anzahl` registers at the given slave address.
@@ -106,5 +109,9 @@ private:
     int empfangen = 0;
     std::string text;
 };
+
+/// Looks for a whole valid reply to the identification request anywhere in a stream of bytes. When there is
+/// one, it is taken out together with all that came before it.
+bool NimmIdentAntwort(std::string& strom);
 
 } // namespace varnoth

@@ -10,6 +10,8 @@ namespace varnoth::modSchnittstelle {
 namespace {
 
 constexpr Zeit Sendepause = std::chrono::milliseconds(2);
+constexpr Zeit Ruhezeit = std::chrono::milliseconds(20); // USB adapters hand over every 16 ms
+constexpr Zeit LaengsteUnruhe = std::chrono::seconds(1);
 
 struct Zustand {
     std::int16_t comPort = 1;
@@ -17,6 +19,7 @@ struct Zustand {
     Boolean portIstOffen = False;
     bool sollOffenSein = false;
     Zeit letzteAktivitaet{0};
+    Zeit letzterEingang{0};
 };
 
 Zustand zustand;
@@ -35,6 +38,13 @@ void OeffnePort() {
     if (derPort != nullptr && !LiesOffenstand())
         derPort->Oeffne(zustand.comPort, zustand.comSettings);
     LiesOffenstand();
+}
+
+void SchlafeBisEingang(Zeit hoechstens) {
+    if (derPort != nullptr)
+        derPort->WarteAufEingang(hoechstens);
+    else
+        DieUmgebung().WarteAufEreignis(hoechstens);
 }
 
 void MeldeZeitueberschreitung() {
@@ -122,6 +132,8 @@ std::string CommPortReadInput() {
     std::string bytes = derPort->LiesAlles();
     modTrace::SchreibeLesung(bytes);
     MerkeAktivitaet();
+    if (!bytes.empty())
+        zustand.letzterEingang = zustand.letzteAktivitaet;
     return bytes;
 }
 
@@ -140,13 +152,23 @@ void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
     for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < ende; jetzt = DieUmgebung().Uhr()) {
         if (AufZeichenWarten == True && CommPortBytesAvailable() > 0)
             return;
-        if (derPort != nullptr)
-            derPort->WarteAufEingang(ende - jetzt);
-        else
-            DieUmgebung().WarteAufEreignis(ende - jetzt);
+        SchlafeBisEingang(ende - jetzt);
     }
     if (AufZeichenWarten != True || CommPortBytesAvailable() == 0)
         MeldeZeitueberschreitung();
+}
+
+void WarteAufRuhe() {
+    const Zeit spaetestens = DieUmgebung().Uhr() + LaengsteUnruhe;
+    for (;;) {
+        if (CommPortBytesAvailable() > 0)
+            CommPortReadInput();
+        const Zeit ende = std::min(zustand.letzterEingang + Ruhezeit, spaetestens);
+        const Zeit jetzt = DieUmgebung().Uhr();
+        if (jetzt >= ende)
+            return;
+        SchlafeBisEingang(ende - jetzt);
+    }
 }
 
 void BehandleCommEreignis(int ereignis) {

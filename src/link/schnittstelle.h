@@ -50,6 +50,9 @@ void CommPortWriteOutput(std::string_view daten);
 /// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
 /// asks CommPortBytesAvailable whether the time ran out.
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);
+/// Discards what arrives until nothing has for 20 ms, at most for one second. Returns at once when the line
+/// has been quiet for so long already.
+void WarteAufRuhe();
 /// Acts on the port's error events: an overflow of the receive buffer discards the input, all others pass.
 void BehandleCommEreignis(int ereignis);
 

@@ -1,5 +1,6 @@
 #include "transaktionen.h"
 
+#include "austausch.h"
 #include "erkenner.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
@@ -11,28 +12,13 @@ namespace varnoth::modModbus {
 namespace {
 
 using namespace modSchnittstelle;
-
-constexpr int Antwortzeit = 1000; // milliseconds of silence that end a transaction
+using modAustausch::Tausche;
+using modAustausch::Verlass;
 
 constexpr std::int32_t SteuerwertAutosendEin = 2;
 constexpr std::int32_t SteuerwertAutosendAus = 4;
 
 Identifikation ident;
-
-/// Sends the request and feeds the reply to the recogniser. True when a whole reply with a valid CRC arrived.
-bool Tausche(const std::string& anforderung, Erkenner& erkenner) {
-    HoleVerlorenenPortZurueck();
-    ClearCommPort();
-    CommPortWriteOutput(anforderung);
-    while (!erkenner.Fertig()) {
-        WarteAufZeichen(Antwortzeit, True);
-        if (CommPortBytesAvailable() == 0)
-            return false;
-        if (!erkenner.Verarbeite(CommPortReadInput()))
-            return false;
-    }
-    return erkenner.CrcStimmt();
-}
 
 /// Runs a transaction; an error inside it becomes a warning box titled with the procedure's name.
 template<class Ablauf>
@@ -51,6 +37,18 @@ std::int32_t Registerwert(const std::string& daten, std::size_t register_) {
     return high * 256 + low;
 }
 
+Boolean Schreibe(std::uint16_t start, std::uint16_t anzahl, const Werte& werte, Verlass verlass) {
+    return MitFehlermeldung("RTUModeH10SchreibenAnforderung", [&] {
+        SchreibErkenner erkenner(ident.slaveAdresse, start, anzahl);
+        return Tausche(SchreibAnforderung(ident.slaveAdresse, start, anzahl, werte), erkenner, verlass);
+    });
+}
+
+/// The controller must hear of it whatever the line is like; nobody looks at the reply.
+Boolean SendeSteuerwert(std::int32_t wert) {
+    return Schreibe(SteuerwertAdresse, 1, {wert}, Verlass::Keiner);
+}
+
 /// One exchange of a command that has the port for itself.
 template<class Ablauf>
 Boolean MitEigenemPort(Ablauf ablauf) {
@@ -67,7 +65,7 @@ void SchreibeSteuerwert(std::int32_t wert) {
         // Without a line there is nobody to wait for.
         if (GetPortIstOffen() == False)
             return False;
-        return RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {wert});
+        return SendeSteuerwert(wert);
     });
 }
 
@@ -85,10 +83,7 @@ Boolean RTUModeH03LeseAnforderung(std::uint16_t Startadresse, std::uint16_t Anza
 }
 
 Boolean RTUModeH10SchreibenAnforderung(std::uint16_t Startadresse, std::uint16_t Anzahl, const Werte& werte) {
-    return MitFehlermeldung("RTUModeH10SchreibenAnforderung", [&] {
-        SchreibErkenner erkenner(ident.slaveAdresse, Startadresse, Anzahl);
-        return Tausche(SchreibAnforderung(ident.slaveAdresse, Startadresse, Anzahl, werte), erkenner);
-    });
+    return Schreibe(Startadresse, Anzahl, werte, Verlass::Voll);
 }
 
 Boolean RTUModeH11IndentifikationsAnforderung() {
@@ -104,8 +99,7 @@ Boolean RTUModeH11IndentifikationsAnforderung() {
 }
 
 Boolean SendeFunktion09() {
-    ClearCommPort();
-    CommPortWriteOutput(KommandoRahmen(ident.slaveAdresse));
+    modAustausch::SendeOhneAntwort(KommandoRahmen(ident.slaveAdresse));
     return True;
 }
 
@@ -115,6 +109,11 @@ Boolean WaehleOptikteil(int optikteil) {
 
 Boolean WaehleKanal(int kanal) {
     return RTUModeH10SchreibenAnforderung(KanalAuswahlRegister, 1, {kanal});
+}
+
+void Zuruecksetzen() {
+    IdentReset();
+    modAustausch::Zuruecksetzen();
 }
 
 void IdentReset() {
@@ -165,7 +164,7 @@ void BeendeAutosendAmOffenenPort() {
     if (GetPortIstOffen() == False)
         return;
     OpenCommPort();
-    RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {SteuerwertAutosendAus});
+    SendeSteuerwert(SteuerwertAutosendAus);
     CloseCommPort();
 }
 

@@ -9,7 +9,9 @@
 
 /// The blocking exchanges with the controller. Each sends one request, waits for the reply at most one second
 /// from byte to byte, and stores results only when the whole reply is valid. They never retry. A failure is a
-/// silent False; only an error inside the program shows a box titled with the procedure's name.
+/// silent False, also when a reply that is still on its way could be mistaken for this one and nothing could
+/// be done about it; the request is not sent then. Only an error inside the program shows a box titled with
+/// the procedure's name.
 namespace varnoth::modModbus {
 
 /// Device addresses of the memory ranges' first registers.
@@ -39,6 +41,8 @@ Boolean WaehleOptikteil(int optikteil);
 /// Selects the communication channel that communication addresses mean from now on.
 Boolean WaehleKanal(int kanal);
 
+/// Back to the start: no controller identified, no request without its reply.
+void Zuruecksetzen();
 /// Empties the identification record; every identification begins with it.
 void IdentReset();
 Boolean GetIdentGueltig();

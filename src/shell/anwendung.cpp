@@ -39,7 +39,7 @@ constexpr const char* Datenordner = "../share/varnoth/"; // of an installed prog
 void SetzeModuleZurueck() {
     modDaten::Zuruecksetzen();
     modHilfsFunktionen::Zuruecksetzen();
-    modModbus::IdentReset();
+    modModbus::Zuruecksetzen();
     modPolling::Zuruecksetzen();
     modSchnittstelle::Zuruecksetzen();
     modService::Zuruecksetzen();

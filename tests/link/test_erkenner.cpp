@@ -200,4 +200,42 @@ TEST_F(ErkennerTest, A_failed_identification_keeps_what_the_bytes_set_before) {
     EXPECT_EQ(ident.byte1, 5);
 }
 
+TEST_F(ErkennerTest, Bytes_behind_the_reply_are_noticed) {
+    LeseErkenner erkenner(Slave, 2);
+    erkenner.Verarbeite(LeseAntwort());
+    EXPECT_FALSE(erkenner.Ueberzaehlig());
+    erkenner.Verarbeite("x");
+    EXPECT_TRUE(erkenner.Ueberzaehlig());
+}
+
+TEST_F(ErkennerTest, An_identification_is_found_in_a_stream_and_taken_out_with_what_was_before_it) {
+    std::string strom = LeseAntwort() + std::string(20, '\x11') + IdentAntwort("\x05\x06") + "rest";
+    EXPECT_TRUE(NimmIdentAntwort(strom));
+    EXPECT_EQ(strom, "rest");
+}
+
+TEST_F(ErkennerTest, An_identification_is_found_with_its_last_byte) {
+    const std::string antwort = "x" + IdentAntwort("\x05\x06");
+    for (std::size_t laenge = 0; laenge < antwort.size(); ++laenge) {
+        std::string strom = antwort.substr(0, laenge);
+        EXPECT_FALSE(NimmIdentAntwort(strom)) << laenge << " bytes";
+        EXPECT_EQ(strom.size(), laenge);
+    }
+    std::string strom = antwort;
+    EXPECT_TRUE(NimmIdentAntwort(strom));
+}
+
+TEST_F(ErkennerTest, Two_identifications_in_a_stream_are_found_one_after_the_other) {
+    std::string strom = IdentAntwort("\x05\x06") + IdentAntwort("\x05\x06");
+    EXPECT_TRUE(NimmIdentAntwort(strom));
+    EXPECT_TRUE(NimmIdentAntwort(strom));
+    EXPECT_FALSE(NimmIdentAntwort(strom));
+}
+
+TEST_F(ErkennerTest, An_identification_with_a_wrong_checksum_is_not_found_in_a_stream) {
+    std::string strom = IdentAntwort("\x05\x06");
+    strom.back() = static_cast<char>(strom.back() ^ 1);
+    EXPECT_FALSE(NimmIdentAntwort(strom));
+}
+
 } // namespace varnoth

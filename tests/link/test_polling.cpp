@@ -56,7 +56,7 @@ protected:
         modDaten::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
         modPolling::Zuruecksetzen();
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         SetzeZiel(&ziel);
         StartePolling();
         modModbus::RTUModeH11IndentifikationsAnforderung();
@@ -65,7 +65,7 @@ protected:
         SetzeZiel(nullptr);
         modPolling::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modDaten::Zuruecksetzen();
     }
 

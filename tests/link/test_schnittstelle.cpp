@@ -171,4 +171,37 @@ TEST_F(SchnittstelleTest, A_port_that_was_closed_on_purpose_is_not_opened_anew) 
     EXPECT_EQ(port.geoeffnet.size(), 1U);
 }
 
+TEST_F(SchnittstelleTest, Quiet_is_twenty_milliseconds_without_a_byte) {
+    OpenCommPort();
+    umgebung.uhr += 1s;
+    port.eingang = "x";
+    const Zeit davor = umgebung.uhr;
+    for (const auto nach : {10ms, 25ms, 40ms})
+        umgebung.Plane(davor + nach, [this] { port.eingang += 'x'; });
+    WarteAufRuhe();
+    EXPECT_EQ(umgebung.uhr - davor, 60ms);
+    EXPECT_EQ(CommPortBytesAvailable(), 0);
+}
+
+TEST_F(SchnittstelleTest, A_line_that_is_quiet_already_needs_no_wait) {
+    OpenCommPort();
+    port.eingang = "x";
+    CommPortReadInput();
+    umgebung.uhr += 20ms;
+    const Zeit davor = umgebung.uhr;
+    WarteAufRuhe();
+    EXPECT_EQ(umgebung.uhr, davor);
+}
+
+TEST_F(SchnittstelleTest, The_wait_for_quiet_ends_after_a_second) {
+    OpenCommPort();
+    umgebung.uhr += 1s;
+    const Zeit davor = umgebung.uhr;
+    port.eingang = "x";
+    for (auto nach = 10ms; nach < 2s; nach += 10ms)
+        umgebung.Plane(davor + nach, [this] { port.eingang += 'x'; });
+    WarteAufRuhe();
+    EXPECT_EQ(umgebung.uhr - davor, 1000ms);
+}
+
 } // namespace varnoth

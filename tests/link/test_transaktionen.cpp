@@ -18,12 +18,12 @@ class TransaktionenTest : public testing::Test {
 protected:
     TransaktionenTest() {
         CrcTabelleAufbauen();
-        IdentReset();
+        Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::OpenCommPort();
     }
     ~TransaktionenTest() override {
-        IdentReset();
+        Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
     }
 

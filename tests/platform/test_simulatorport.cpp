@@ -15,14 +15,14 @@ class SimulatorPortTest : public testing::Test {
 protected:
     SimulatorPortTest() {
         CrcTabelleAufbauen();
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modSchnittstelle::SetzePort(&port);
         modSchnittstelle::Zuruecksetzen();
     }
     ~SimulatorPortTest() override {
         modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::SetzePort(nullptr);
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
     }
 
     pruefung::PruefUmgebung umgebung;

@@ -31,7 +31,7 @@ protected:
         umgebung.beiEreignissen = [] { QCoreApplication::processEvents(); };
     }
     ~DialogTest() override {
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
         modDaten::Zuruecksetzen();
         SetzeSprachoffset(Deutsch);

@@ -48,7 +48,7 @@ protected:
     static void ModuleZuruecksetzen() {
         modDaten::Zuruecksetzen();
         modHilfsFunktionen::Zuruecksetzen();
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modPolling::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
     }

@@ -27,7 +27,7 @@ protected:
         port.gesendet.clear();
     }
     ~AblaufTest() override {
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
         modDaten::Zuruecksetzen();
         SetzeSprachoffset(Deutsch);

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "proberegler.h"
+#include "werte.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <random>
+#include <string>
+
+namespace varnoth::pruefung {
+
+/// What a run has seen.
+struct Probezahlen {
+    long austausche = 0;
+    long gescheiterte = 0;
+    long rueckfragen = 0;     ///< identifications that the exchange put in between
+    long falscheWerte = 0;    ///< values believed that are not the controller's
+    long verloreneWrites = 0; ///< writes believed that the controller does not hold
+    long nichtErholt = 0;     ///< exchanges that failed though the only disturbance was over
+    Zeit laengsterVorlauf{0}; ///< from the start of an exchange to its request, or to giving it up
+    long fehler = 0;
+    std::map<std::string_view, long> fehlerarten; ///< faults by kind
+};
+
+/// Random exchanges with a controller on a disturbed line, each checked against what the controller holds.
+class Probelauf {
+public:
+    explicit Probelauf(std::uint64_t startwert, bool ausserDerReihe);
+    ~Probelauf();
+    Probelauf(const Probelauf&) = delete;
+    Probelauf& operator=(const Probelauf&) = delete;
+
+    /// Runs about so many exchanges.
+    void Laufe(long austausche);
+    const Probezahlen& Zahlen() const { return zahlen; }
+
+private:
+    enum class Wetter { Ruhig, EinFehler, Sturm };
+
+    int Zufall(int von, int bis);
+    bool Manchmal(int prozent) { return Zufall(1, 100) <= prozent; }
+    std::optional<Probefehler> ZieheFehler();
+    std::optional<Probefehler> NaechsterFehler();
+
+    void LaufeAbschnitt(Wetter art, int schritte);
+    void Beruhige();
+    void Schritt();
+    void Identifiziere();
+    void Waehle(int teil);
+    void Lies();
+    void Schreib();
+    void Stoere();
+
+    struct Block {
+        int adresse;
+        int anzahl;
+    };
+    Block ZieheBlock();
+    bool BereiteTeilVor(Block block);
+    void PruefeGelesenes(Block block, const Werte& werte);
+    void PruefeGeschriebenes(Block block, const Werte& werte);
+
+    /// One attempt; `eigene` is how many identification requests it sends of its own.
+    template<class Austausch>
+    bool TauscheEinmal(Austausch austausch, int eigene = 0);
+    template<class Austausch>
+    bool MitVersuchen(Austausch austausch);
+    bool MussGelingen();
+    void ZaehleVorlauf(Zeit beginn, int eigene, int identifikationenDavor);
+
+    std::mt19937_64 zufall;
+    PruefUmgebung umgebung;
+    Proberegler regler{umgebung};
+    Probezahlen zahlen;
+    Wetter wetter = Wetter::Ruhig;
+    int bisFehler = 0;
+    bool zuletztGescheitert = false;
+    std::optional<int> teil; ///< the optical part that is certain to be selected
+};
+
+} // namespace varnoth::pruefung
