@@ -126,7 +126,7 @@ bool Probelauf::TauscheEinmal(Austausch austausch, int eigene) {
 
 template<class Austausch>
 bool Probelauf::MitVersuchen(Austausch austausch) {
-    for (int versuche = Zufall(1, 10); versuche > 0; --versuche)
+    for (int versuche = Manchmal(50) ? 1 : Zufall(2, 10); versuche > 0; --versuche)
         if (TauscheEinmal(austausch))
             return true;
     return false;
@@ -166,13 +166,16 @@ void Probelauf::Waehle(int neu) {
         ++zahlen.verloreneWrites;
 }
 
+/// Often the block of the last exchange again, as a read behind a write or the other way round.
 Probelauf::Block Probelauf::ZieheBlock() {
     static constexpr Block gepollte[] = {{0x2161, 18}, {0x214F, 18}, {0x202C, 1}, {0x00C4, 1}, {0x4004, 1}};
     static constexpr int anzahlen[] = {1, 1, 2, 10, 18, 32};
     static constexpr int anfaenge[] = {0x0000, 0x2000, 0x4000};
-    if (Manchmal(50))
-        return gepollte[Zufall(0, 4)];
-    return {anfaenge[Zufall(0, 2)] + Zufall(0, 120), anzahlen[Zufall(0, 5)]};
+    if (Manchmal(30))
+        return letzter;
+    letzter = Manchmal(50) ? gepollte[Zufall(0, 4)]
+                           : Block{anfaenge[Zufall(0, 2)] + Zufall(0, 120), anzahlen[Zufall(0, 5)]};
+    return letzter;
 }
 
 /// Specific registers are touched only while it is certain which part is selected.

@@ -77,6 +77,7 @@ private:
     Wetter wetter = Wetter::Ruhig;
     int bisFehler = 0;
     bool zuletztGescheitert = false;
+    Block letzter{0, 1};
     std::optional<int> teil; ///< the optical part that is certain to be selected
 };
 

@@ -228,6 +228,21 @@ TEST_F(VerwechslungTest, Bytes_that_lie_in_the_input_make_the_next_request_wait_
     EXPECT_EQ(port.sendezeiten.back() - davor, 20ms + 2ms);
 }
 
+TEST_F(VerwechslungTest, Bytes_that_lie_in_the_input_may_be_a_second_reply_to_the_last_request) {
+    EXPECT_EQ(Lies(Strahlen), True);
+    port.eingang = "x";
+    EXPECT_EQ(Lies(Messwerte), True);
+    EXPECT_EQ(Fragen(), 1);
+}
+
+TEST_F(VerwechslungTest, A_second_answer_to_the_question_does_not_disturb_the_request_behind_it) {
+    verspaetete[1] = 2500ms;
+    EXPECT_EQ(Lies(Strahlen), False);
+    EXPECT_EQ(Lies(Messwerte), False);
+    verspaetete[3] = 505ms;
+    EXPECT_EQ(Lies(Messwerte), True);
+}
+
 TEST_F(VerwechslungTest, A_line_that_never_falls_quiet_holds_a_request_up_for_a_second) {
     EXPECT_EQ(Lies(100, 1), True);
     port.eingang = "U";
