@@ -19,12 +19,12 @@ class Firmware : public testing::Test, private Firmwareziel {
 protected:
     Firmware() {
         CrcTabelleAufbauen();
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         SetzeSprachoffset(Deutsch);
         einstellungen.texte[{"Flasher", "Parameter"}] = "COM1 varnoth.bin";
     }
     ~Firmware() override {
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
     }
 

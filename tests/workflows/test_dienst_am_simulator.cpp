@@ -43,7 +43,7 @@ protected:
     }
     ~DienstAmSimulator() override {
         modService::Zuruecksetzen();
-        modModbus::IdentReset();
+        modModbus::Zuruecksetzen();
         modSchnittstelle::Zuruecksetzen();
     }
 
