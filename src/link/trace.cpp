@@ -20,10 +20,24 @@ constexpr const char* Zeitueberschreitung = "Zeit\xFC"
 constexpr const char* WirdGeschlossen = "\r\nDie Datei wird geschlossen. Sie wird zu gro\xDF.";
 
 std::ofstream datei;
+std::string schreibfehler; // why the file takes no more; empty while it does
+
+std::string Systemfehler() {
+    return std::error_code(errno != 0 ? errno : EIO, std::generic_category()).message();
+}
 
 void Schreibe(std::string_view text) {
+    errno = 0;
     datei.write(text.data(), static_cast<std::streamsize>(text.size()));
     datei.flush();
+    if (!datei && schreibfehler.empty())
+        schreibfehler = Systemfehler();
+}
+
+void Beende(const std::string& grund, Symbol symbol) {
+    const std::string text = "Die Datei Test.txt wird geschlossen. " + grund;
+    Schliesse();
+    DieUmgebung().ZeigeMeldung({.text = text, .symbol = symbol});
 }
 
 void SchreibeZeile(std::string_view art, std::string_view bytes) {
@@ -39,20 +53,24 @@ void SchreibeZeile(std::string_view art, std::string_view bytes) {
 
 std::string Starte(const std::filesystem::path& pfad) {
     Schliesse();
-    std::error_code fehler;
-    std::filesystem::remove(pfad, fehler);
+    std::error_code ohneBelang;
+    std::filesystem::remove(pfad, ohneBelang);
     errno = 0;
     datei.open(pfad, std::ios::binary | std::ios::trunc);
     if (!datei.is_open())
-        return std::error_code(errno, std::generic_category()).message();
+        return Systemfehler();
     Schreibe("Start\r\n");
-    return {};
+    const std::string fehler = schreibfehler;
+    if (!fehler.empty())
+        Schliesse();
+    return fehler;
 }
 
 void Schliesse() {
     if (datei.is_open())
         datei.close();
     datei.clear();
+    schreibfehler.clear();
 }
 
 bool Aktiv() {
@@ -71,12 +89,12 @@ void SchreibeLeerung() {
     if (!Aktiv())
         return;
     Schreibe("ClearCommPort, ");
-    if (datei.tellp() <= HoechsteGroesse)
-        return;
-    Schreibe(WirdGeschlossen);
-    Schliesse();
-    DieUmgebung().ZeigeMeldung(
-        {.text = "Die Datei Test.txt wird geschlossen. Sie wird zu groß.", .symbol = Symbol::Ohne});
+    if (!schreibfehler.empty()) {
+        Beende(schreibfehler, Symbol::Warnung);
+    } else if (datei.tellp() > HoechsteGroesse) {
+        Schreibe(WirdGeschlossen);
+        Beende("Sie wird zu groß.", Symbol::Ohne);
+    }
 }
 
 void SchreibeZeitueberschreitung() {

@@ -11,7 +11,8 @@ namespace varnoth::modTrace {
 inline constexpr const char* Dateiname = "Test.txt";
 
 /// Deletes an old trace file, opens a new one and writes its first line.
-/// @return empty, or the error's description when the file cannot be opened; nothing is traced then
+/// @return empty, or the error's description when the file cannot be opened or written; nothing is traced
+/// then
 std::string Starte(const std::filesystem::path& datei);
 /// Closes the trace file; tracing ends.
 void Schliesse();
@@ -23,7 +24,7 @@ void SchreibeLesung(std::string_view bytes);
 /// The same for bytes that were sent.
 void SchreibeSendung(std::string_view bytes);
 /// The mark of a cleared port, without a line end. A file above 1000000 bytes is closed here, after a line
-/// that says so and with a message to the user.
+/// that says so and with a message to the user; so is one that could no longer be written, with the reason.
 void SchreibeLeerung();
 /// The line of a time-out.
 void SchreibeZeitueberschreitung();

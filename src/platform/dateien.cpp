@@ -1,9 +1,15 @@
 #include "dateien.h"
 
+#include "dauerhaft.h"
+
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QRandomGenerator>
 
+#include <cstdlib>
+#include <filesystem>
 #include <system_error>
 
 namespace varnoth {
@@ -23,7 +29,7 @@ std::string Hindernis(const QString& pfad) {
 }
 
 /// Unbuffered and to the last byte: a disk that fills up in the middle then tells at once, and why.
-bool SchreibAlles(QSaveFile& datei, std::string_view bytes) {
+bool SchreibAlles(QFile& datei, std::string_view bytes) {
     while (!bytes.empty()) {
         const qint64 geschrieben = datei.write(bytes.data(), static_cast<qint64>(bytes.size()));
         if (geschrieben <= 0)
@@ -35,6 +41,49 @@ bool SchreibAlles(QSaveFile& datei, std::string_view bytes) {
 
 std::string Fehlertext(const QFileDevice& datei) {
     return datei.errorString().toStdString();
+}
+
+/// Where a link leads, the path itself when it is none.
+QString Linkziel(const QString& pfad) {
+    const QFileInfo info(pfad);
+    if (!info.isSymLink())
+        return pfad;
+    return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+}
+
+/// A name beside a file, free and not too long whatever the file is called.
+QString FreierName(const QString& ordner) {
+    const quint64 zahl = QRandomGenerator::system()->generate64();
+    return QDir(ordner).filePath(QStringLiteral(".varnoth-%1.neu").arg(zahl, 16, 16, QLatin1Char('0')));
+}
+
+/// Removes what programs that died while they wrote have left in a folder. What is younger may be another
+/// program's that writes just now.
+void EntferneReste(const QString& ordner) {
+    constexpr qint64 mindestalter = 60;
+    const QString muster = QStringLiteral(".varnoth-") + QString(16, QLatin1Char('?')) + ".neu";
+    const auto jetzt = QDateTime::currentDateTimeUtc();
+    for (const QFileInfo& rest : QDir(ordner).entryInfoList({muster}, QDir::Files | QDir::Hidden))
+        if (std::abs(rest.lastModified().secsTo(jetzt)) > mindestalter)
+            QFile::remove(rest.filePath());
+}
+
+/// Fills a new file that is to take the place of an old one, and closes it.
+std::string Fuelle(QFile& datei, std::string_view bytes, const QFileInfo& alte) {
+    if (alte.exists())
+        datei.setPermissions(alte.permissions());
+    if (!SchreibAlles(datei, bytes))
+        return Fehlertext(datei);
+    if (auto fehler = BringeAufDatentraeger(datei); !fehler.empty())
+        return fehler;
+    datei.close();
+    return datei.error() == QFileDevice::NoError ? std::string() : Fehlertext(datei);
+}
+
+std::string BenenneUm(const QString& von, const QFileInfo& nach) {
+    std::error_code fehler;
+    std::filesystem::rename(QFileInfo(von).filesystemFilePath(), nach.filesystemFilePath(), fehler);
+    return fehler ? fehler.message() : std::string();
 }
 
 } // namespace
@@ -60,10 +109,21 @@ std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes) {
     const QString name = QString::fromStdString(pfad);
     if (auto hindernis = Hindernis(name); !hindernis.empty())
         return hindernis;
-    QSaveFile datei(name);
-    const bool gelungen = datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-                          SchreibAlles(datei, bytes) && datei.commit();
-    return gelungen ? std::string() : Fehlertext(datei);
+    const QFileInfo ziel(Linkziel(name));
+    if (ziel.exists() && !ziel.isWritable())
+        return std::make_error_code(std::errc::permission_denied).message();
+    EntferneReste(ziel.path());
+    QFile neue(FreierName(ziel.path()));
+    if (!neue.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return Fehlertext(neue);
+    std::string fehler = Fuelle(neue, bytes, ziel);
+    if (fehler.empty())
+        fehler = BenenneUm(neue.fileName(), ziel);
+    if (fehler.empty())
+        BringeOrdnerAufDatentraeger(ziel.path());
+    else
+        neue.remove();
+    return fehler;
 }
 
 } // namespace varnoth

@@ -23,8 +23,9 @@ Leseergebnis LiesDatei(const std::string& pfad, std::size_t hoechstens);
 bool GibtEsDatei(const std::string& pfad);
 
 /// Puts a file with these bytes in place of the one that is there, or creates it. At every moment, also when
-/// the program or the computer dies, the path leads to the old file or the new one, whole. Gives the
-/// system's error text, empty when all went well; after an error the old file is still there.
+/// the program or the computer dies, the path leads to the old file or the new one, whole; what a program
+/// that died has left beside it goes with a later call. Gives the system's error text, empty when all went
+/// well and the disk holds the new file; after an error the old one is still there.
 std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes);
 
 } // namespace varnoth

@@ -11,27 +11,49 @@
 #include <algorithm>
 #include <limits>
 
-#define SI_NO_CONVERSION
-#include <SimpleIni.h>
-
 namespace varnoth {
 
 namespace {
 
 // A settings file has some hundred bytes; what is larger than this is something else.
-constexpr qint64 HoechsteGroesse = 1 << 20;
+constexpr std::size_t HoechsteGroesse = 1 << 20;
 
 constexpr const char* ZusatzDefekt = ".defekt";
 
-} // namespace
+enum class Befund { Fehlt, Gut, Unlesbar, KeinText };
 
-struct IniEinstellungen::Inhalt {
-    CSimpleIniA ini{true, false, false};
+struct Dateistand {
+    Befund befund = Befund::Fehlt;
+    Initext inhalt{};
 };
 
-IniEinstellungen::IniEinstellungen(const QString& datei) : pfad(datei), inhalt(std::make_unique<Inhalt>()) {
-    inhalt->ini.SetSpaces(false);
-    Lade();
+Dateistand Lies(const std::string& pfad) {
+    if (!GibtEsDatei(pfad))
+        return {};
+    auto datei = LiesDatei(pfad, HoechsteGroesse + 1);
+    if (!datei.gelungen)
+        return {.befund = Befund::Unlesbar};
+    if (datei.bytes.size() > HoechsteGroesse || datei.bytes.find('\0') != std::string::npos)
+        return {.befund = Befund::KeinText};
+    return {.befund = Befund::Gut, .inhalt = Initext(std::move(datei.bytes))};
+}
+
+/// Renames a file to the first free name of its own, ".defekt", ".defekt2" ...; false when that is not
+/// possible.
+bool LegeBeiseite(const std::string& pfad) {
+    constexpr int hoechsteNummer = 99;
+    for (int nummer = 1; nummer <= hoechsteNummer; ++nummer) {
+        const std::string name = pfad + ZusatzDefekt + (nummer > 1 ? std::to_string(nummer) : "");
+        if (!GibtEsDatei(name))
+            return QFile::rename(QString::fromStdString(pfad), QString::fromStdString(name));
+    }
+    return false;
+}
+
+} // namespace
+
+IniEinstellungen::IniEinstellungen(const QString& datei)
+    : pfad(datei.toStdString()), inhalt(Lies(pfad).inhalt) {
     SetzeEinstellungen(this);
 }
 
@@ -39,48 +61,36 @@ IniEinstellungen::~IniEinstellungen() {
     SetzeEinstellungen(nullptr);
 }
 
-void IniEinstellungen::Lade() {
-    QFile datei(pfad);
-    if (!datei.open(QIODevice::ReadOnly)) {
-        unleserlich = datei.exists();
-        return;
-    }
-    const QByteArray bytes = datei.read(HoechsteGroesse + 1);
-    unleserlich = bytes.size() > HoechsteGroesse || bytes.contains('\0') ||
-                  inhalt->ini.LoadData(bytes.constData(), static_cast<std::size_t>(bytes.size())) < 0;
-}
-
-bool IniEinstellungen::Speichere() {
-    if (unleserlich) {
-        QFile::rename(pfad, pfad + QLatin1String(ZusatzDefekt));
-        unleserlich = false;
-    }
-    std::string text;
-    if (inhalt->ini.Save(text) < 0)
+bool IniEinstellungen::Speichere(const std::string& abschnitt, const std::string& schluessel,
+                                 const std::string& text) const {
+    Dateistand stand = Lies(pfad);
+    if (stand.befund == Befund::Unlesbar || (stand.befund == Befund::KeinText && !LegeBeiseite(pfad)))
         return false;
-    return ErsetzeDatei(pfad.toStdString(), text).empty();
+    if (stand.befund != Befund::Gut)
+        stand.inhalt = inhalt;
+    stand.inhalt.Setze(abschnitt, schluessel, text);
+    return ErsetzeDatei(pfad, stand.inhalt.Text()).empty();
 }
 
 int IniEinstellungen::LiesZahl(const std::string& abschnitt, const std::string& schluessel, int standard) {
-    const char* text = inhalt->ini.GetValue(abschnitt.c_str(), schluessel.c_str());
-    if (text == nullptr)
+    const auto text = inhalt.Lies(abschnitt, schluessel);
+    if (!text)
         return standard;
     constexpr double kleinste = std::numeric_limits<int>::min();
     constexpr double groesste = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(Val(text), kleinste, groesste));
+    return static_cast<int>(std::clamp(Val(*text), kleinste, groesste));
 }
 
 std::string IniEinstellungen::LiesText(const std::string& abschnitt, const std::string& schluessel,
                                        const std::string& standard) {
-    return inhalt->ini.GetValue(abschnitt.c_str(), schluessel.c_str(), standard.c_str());
+    return inhalt.Lies(abschnitt, schluessel).value_or(standard);
 }
 
 bool IniEinstellungen::SchreibText(const std::string& abschnitt, const std::string& schluessel,
                                    const std::string& text) {
-    const char* alt = inhalt->ini.GetValue(abschnitt.c_str(), schluessel.c_str());
-    if (alt != nullptr && text == alt)
+    if (inhalt.Lies(abschnitt, schluessel) == text)
         return true;
-    return inhalt->ini.SetValue(abschnitt.c_str(), schluessel.c_str(), text.c_str()) >= 0 && Speichere();
+    return inhalt.Setze(abschnitt, schluessel, text) && Speichere(abschnitt, schluessel, text);
 }
 
 QString Einstellungspfad(const QString& ordner, const QString& name) {

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "einstellungen.h"
+#include "initext.h"
 
 #include <QString>
 
-#include <memory>
-
 namespace varnoth {
 
-/// Settings in an INI file of the classic kind, unquoted, with comments and order kept. Each change is stored
-/// at once and whole: a reader finds the old file or the new one. A file that is no such file is set aside
-/// under its name and ".defekt" before the first change.
+/// Settings in an INI file of the classic kind, unquoted. Each change is stored at once and whole: a reader
+/// finds the old file or the new one, with every other line as it was, also those that others wrote
+/// meanwhile. A file that is no text (it holds NULs or is far too large) gives the defaults and is set aside
+/// under its name and ".defekt" before the first change. What cannot be read at all is left alone, and
+/// changes last for the run.
 class IniEinstellungen : public Einstellungen {
 public:
     explicit IniEinstellungen(const QString& pfad);
@@ -23,14 +24,11 @@ public:
                      const std::string& text) override;
 
 private:
-    struct Inhalt;
+    bool Speichere(const std::string& abschnitt, const std::string& schluessel,
+                   const std::string& text) const;
 
-    void Lade();
-    bool Speichere();
-
-    QString pfad;
-    std::unique_ptr<Inhalt> inhalt;
-    bool unleserlich = false;
+    std::string pfad;
+    Initext inhalt;
 };
 
 /// Where the settings file of a program lies: `<ordner>/<name>.ini`, or in the user's configuration folder

@@ -1,97 +1,23 @@
 #include "dateien.h"
 
+#include "kindprozess.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <sched.h>
-#include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <chrono>
 #include <csignal>
-#include <functional>
-#include <random>
-#include <thread>
 
 namespace varnoth {
 
 namespace {
 
+using namespace pruefung;
+
 constexpr std::size_t Laenge = 10262;
-
-/// How a child process ended and what it said.
-struct Kindergebnis {
-    int zustand = 0;
-    std::string text;
-};
-
-/// A child process that runs a function; what the function gives, and all it says meanwhile, can be read.
-class Kind {
-public:
-    explicit Kind(const std::function<std::string(int rohr)>& tat) {
-        int rohr[2] = {-1, -1};
-        EXPECT_EQ(pipe(rohr), 0);
-        pid = fork();
-        if (pid == 0) {
-            const std::string text = tat(rohr[1]);
-            const bool gesagt = write(rohr[1], text.data(), text.size()) >= 0;
-            _exit(gesagt ? 0 : 1);
-        }
-        close(rohr[1]);
-        lesende = rohr[0];
-    }
-    Kind(const Kind&) = delete;
-    Kind& operator=(const Kind&) = delete;
-    ~Kind() { close(lesende); }
-
-    /// Waits until the child has said something.
-    void WarteAufWort() const {
-        char zeichen = 0;
-        EXPECT_EQ(read(lesende, &zeichen, 1), 1);
-    }
-    void Toete() const { kill(pid, SIGKILL); }
-    Kindergebnis Ende() const {
-        Kindergebnis ergebnis;
-        char puffer[4096];
-        for (ssize_t n = 0; (n = read(lesende, puffer, sizeof puffer)) > 0;)
-            ergebnis.text.append(puffer, static_cast<std::size_t>(n));
-        waitpid(pid, &ergebnis.zustand, 0);
-        return ergebnis;
-    }
-
-private:
-    pid_t pid = -1;
-    int lesende = -1;
-};
-
-/// What the function gives in a process that permissions hold for, whoever runs the tests.
-std::string AlsNutzer(const std::function<std::string()>& tat) {
-    constexpr uid_t niemand = 65534;
-    return Kind([&](int) {
-               const bool bereit = geteuid() != 0 || (setgid(niemand) == 0 && setuid(niemand) == 0);
-               return bereit ? tat() : std::string("could not become another user");
-           })
-        .Ende()
-        .text;
-}
-
-void BegrenzeDateigroesse(rlim_t bytes) {
-    const rlimit groesse{bytes, bytes};
-    const rlimit keinAbbild{0, 0};
-    setrlimit(RLIMIT_FSIZE, &groesse);
-    setrlimit(RLIMIT_CORE, &keinAbbild);
-}
-
-/// A file system of two pages, seen by the calling process alone; only root may.
-bool HaengeKleinenDatentraegerEin(const std::string& ordner) {
-    return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           mount("tmpfs", ordner.c_str(), "tmpfs", 0, "size=8k") == 0;
-}
 
 } // namespace
 
@@ -242,27 +168,6 @@ TEST_F(Dateien, A_program_that_dies_at_any_byte_of_a_save_leaves_the_old_file) {
                           }).Ende();
         EXPECT_TRUE(WIFSIGNALED(kind.zustand)) << stelle;
         EXPECT_EQ(Inhalt(Pfad("a.con")), alt) << stelle;
-    }
-}
-
-TEST_F(Dateien, A_program_killed_at_any_moment_leaves_the_old_file_or_the_new_one) {
-    std::mt19937 zufall(1);
-    std::uniform_int_distribution<int> wartezeit(0, 3000);
-    for (int runde = 0; runde < 40; ++runde) {
-        const Kind kind([&](int rohr) {
-            for (bool erster = true;; erster = false) {
-                ErsetzeDatei(Pfad("a.con"), alt);
-                ErsetzeDatei(Pfad("a.con"), neu);
-                if (erster && write(rohr, "x", 1) != 1)
-                    return std::string();
-            }
-        });
-        kind.WarteAufWort();
-        std::this_thread::sleep_for(std::chrono::microseconds(wartezeit(zufall)));
-        kind.Toete();
-        kind.Ende();
-        const std::string inhalt = Inhalt(Pfad("a.con"));
-        ASSERT_TRUE(inhalt == alt || inhalt == neu) << inhalt.size();
     }
 }
 
