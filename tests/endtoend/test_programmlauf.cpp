@@ -96,6 +96,16 @@ TEST_F(Programmlauf, Settings_that_lead_to_no_controller_end_with_one_clear_sent
     }
 }
 
+TEST_F(Programmlauf, A_settings_file_of_ten_megabytes_does_not_keep_the_program_from_measuring) {
+    const QByteArray riesig(10 << 20, '\0');
+    Schreibe(Pfad("varnoth.ini"), riesig);
+    Programmprozess programm(ordner.path(), {"/Simulator", Selbsttest()});
+    ASSERT_EQ(programm.WarteAufEnde(), 0) << programm.Fehlerausgabe();
+    QFile beiseite(Pfad("varnoth.ini.defekt"));
+    ASSERT_TRUE(beiseite.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(beiseite.readAll() == riesig);
+}
+
 TEST_F(Programmlauf, A_port_that_is_not_permitted_ends_with_the_same_sentence) {
     if (::geteuid() == 0)
         GTEST_SKIP() << "everything is permitted to root";

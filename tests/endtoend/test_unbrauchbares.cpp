@@ -14,11 +14,15 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <gmock/gmock.h>
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <vector>
 
 namespace varnoth::pruefung {
@@ -155,6 +159,66 @@ TEST_F(Unbrauchbares, Switches_that_nobody_knows_are_ignored) {
     Starte({"/Quatsch", "-x", "/Com=9", "/Com=", "/Simula", "/", ""});
     Verbinde();
     EXPECT_TRUE(LaufeBis([] { return IstLive(); }));
+}
+
+TEST_F(Unbrauchbares, Settings_that_another_program_left_broken_start_with_defaults_and_are_not_lost) {
+    const QByteArray faelle[] = {
+        QByteArray(1000, '\0'),
+        "[Settings]\nSprache=10000\n" + QByteArray(10 << 20, 'x'),
+        QByteArray("\xFF\xFE[\0S\0]\0", 8),
+    };
+    int nummer = 0;
+    for (const QByteArray& kaputt : faelle) {
+        SchreibeEinstellungen(kaputt);
+        Starte();
+        EXPECT_EQ(Aktion("mnuBeenden").text(), "&Beenden");
+        Waehle("mnuEnglisch");
+        EXPECT_TRUE(LaufeBis([this] { return Aktion("mnuBeenden").text() == "&Exit"; }));
+        Beende();
+        QFile beiseite(Pfad("varnoth.ini.defekt") + (++nummer > 1 ? QString::number(nummer) : QString()));
+        ASSERT_TRUE(beiseite.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(beiseite.readAll() == kaputt) << nummer;
+        EXPECT_THAT(LiesEinstellungen().toStdString(), HasSubstr("Sprache=10000"));
+    }
+}
+
+TEST_F(Unbrauchbares, A_settings_file_without_sense_starts_with_defaults_and_keeps_its_lines) {
+    const std::string wirr = "Settings]\nSprache=10000\n[Settings\nComPort=9\n\xFF==[[\n";
+    SchreibeEinstellungen(QByteArray::fromStdString(wirr));
+    Starte();
+    EXPECT_EQ(Aktion("mnuBeenden").text(), "&Beenden");
+    Hauptfenster().close();
+    Beende();
+    EXPECT_THAT(LiesEinstellungen().toStdString(), AllOf(StartsWith(wirr), HasSubstr("[MDIForm]")));
+}
+
+TEST_F(Unbrauchbares, A_folder_in_place_of_the_settings_file_starts_with_defaults) {
+    ASSERT_TRUE(QDir().mkdir(Pfad("varnoth.ini")));
+    Starte();
+    EXPECT_EQ(Aktion("mnuBeenden").text(), "&Beenden");
+    Hauptfenster().close();
+    Beende();
+    EXPECT_TRUE(QFileInfo(Pfad("varnoth.ini")).isDir());
+}
+
+TEST_F(Unbrauchbares, A_trace_that_the_disk_takes_no_more_of_ends_with_one_message_and_live_data_goes_on) {
+    constexpr rlim_t platz = 20000;
+    const auto ordnerZurueck = qScopeGuard([vorher = QDir::currentPath()] { QDir::setCurrent(vorher); });
+    QDir::setCurrent(ordner.path());
+    SchliesseGeraetAn();
+    Starte({"/Tlogfile"});
+    rlimit grenze{};
+    getrlimit(RLIMIT_FSIZE, &grenze);
+    const auto platzZurueck = qScopeGuard([grenze] { setrlimit(RLIMIT_FSIZE, &grenze); });
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit eng{platz, grenze.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &eng);
+    Verbinde();
+    ASSERT_TRUE(LaufeBis([this] { return !Meldungen().empty(); }));
+    EXPECT_TRUE(LaufeDurchgaenge(5));
+    EXPECT_THAT(Meldungen(), ElementsAre("Die Datei Test.txt wird geschlossen. File too large"));
+    EXPECT_LE(LiesTrace().size(), platz);
+    EXPECT_TRUE(IstLive());
 }
 
 TEST_F(Unbrauchbares, An_unknown_language_in_the_settings_file_gives_German) {

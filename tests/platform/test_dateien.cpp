@@ -1,9 +1,11 @@
 #include "dateien.h"
 
+#include "inieinstellungen.h"
 #include "kindprozess.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -169,6 +171,77 @@ TEST_F(Dateien, A_program_that_dies_at_any_byte_of_a_save_leaves_the_old_file) {
         EXPECT_TRUE(WIFSIGNALED(kind.zustand)) << stelle;
         EXPECT_EQ(Inhalt(Pfad("a.con")), alt) << stelle;
     }
+}
+
+TEST_F(Dateien, A_link_stays_a_link_and_the_file_it_leads_to_is_replaced) {
+    ErsetzeDatei(Pfad("a.con"), alt);
+    ASSERT_TRUE(QFile::link(ordner.filePath("a.con"), ordner.filePath("link.con")));
+    EXPECT_EQ(ErsetzeDatei(Pfad("link.con"), neu), "");
+    EXPECT_TRUE(QFileInfo(ordner.filePath("link.con")).isSymLink());
+    EXPECT_EQ(Inhalt(Pfad("a.con")), neu);
+}
+
+TEST_F(Dateien, A_replaced_file_keeps_its_permissions) {
+    ErsetzeDatei(Pfad("a.con"), alt);
+    chmod(Pfad("a.con").c_str(), 0640);
+    ErsetzeDatei(Pfad("a.con"), neu);
+    struct stat stand {};
+    ASSERT_EQ(stat(Pfad("a.con").c_str(), &stand), 0);
+    EXPECT_EQ(stand.st_mode & 0777U, 0640U);
+}
+
+TEST_F(Dateien, A_name_as_long_as_the_file_system_takes_works) {
+    const std::string pfad = Pfad((std::string(251, 'x') + ".con").c_str());
+    EXPECT_EQ(ErsetzeDatei(pfad, neu), "");
+    EXPECT_EQ(Inhalt(pfad), neu);
+}
+
+TEST_F(Dateien, Unreadable_settings_give_defaults_and_are_left_alone) {
+    ErsetzeDatei(Pfad("varnoth.ini"), "[Settings]\nSprache=10000\n");
+    chmod(Pfad("varnoth.ini").c_str(), 0);
+    const std::string gelesen = AlsNutzer([&] {
+        IniEinstellungen einstellungen(ordner.filePath("varnoth.ini"));
+        const int sprache = einstellungen.LiesZahl("Settings", "Sprache", 0);
+        const bool gespeichert = einstellungen.SchreibText("Settings", "ComPort", "2");
+        return std::to_string(sprache) + (gespeichert ? " stored" : " not stored");
+    });
+    EXPECT_EQ(gelesen, "0 not stored");
+    chmod(Pfad("varnoth.ini").c_str(), 0666);
+    EXPECT_EQ(Inhalt(Pfad("varnoth.ini")), "[Settings]\nSprache=10000\n");
+    EXPECT_EQ(Namen(), QStringList{"varnoth.ini"});
+}
+
+TEST_F(Dateien, Settings_in_a_pipe_or_device_are_neither_waited_for_nor_replaced) {
+    const std::string rohr = Pfad("varnoth.ini");
+    ASSERT_EQ(mkfifo(rohr.c_str(), 0600), 0);
+    for (const std::string& pfad : {rohr, std::string("/dev/zero")}) {
+        IniEinstellungen einstellungen(QString::fromStdString(pfad));
+        EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 7), 7);
+        EXPECT_FALSE(einstellungen.SchreibText("Settings", "ComPort", "2"));
+        EXPECT_TRUE(GibtEsDatei(pfad));
+    }
+}
+
+TEST_F(Dateien, Settings_on_a_full_disk_stay_as_they_were_and_a_change_lasts_for_this_run) {
+    const std::string text = Kind([&](int) -> std::string {
+                                 if (!HaengeKleinenDatentraegerEin(ordner.path().toStdString()))
+                                     return "not allowed";
+                                 ErsetzeDatei(Pfad("varnoth.ini"), "[S]\na=1\n");
+                                 QFile fueller(ordner.filePath("fueller"));
+                                 if (!fueller.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+                                     return "no filler";
+                                 fueller.write(QByteArray(8192, 'x'));
+                                 IniEinstellungen einstellungen(ordner.filePath("varnoth.ini"));
+                                 const bool gespeichert = einstellungen.SchreibText("S", "a", "2");
+                                 return einstellungen.LiesText("S", "a", "") +
+                                        (gespeichert ? " stored " : " not stored ") +
+                                        Inhalt(Pfad("varnoth.ini"));
+                             })
+                                 .Ende()
+                                 .text;
+    if (text == "not allowed")
+        GTEST_SKIP() << "only root may mount a small disk";
+    EXPECT_EQ(text, "2 not stored [S]\na=1\n");
 }
 
 } // namespace varnoth

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -10,8 +11,9 @@ namespace varnoth {
 class IniEinstellungenTest : public testing::Test {
 protected:
     QString Pfad() const { return ordner.filePath(QStringLiteral("varnoth.ini")); }
-    void Schreibe(const QByteArray& inhalt) const {
-        QFile datei(Pfad());
+    void Schreibe(const QByteArray& inhalt) const { SchreibeNach(Pfad(), inhalt); }
+    static void SchreibeNach(const QString& pfad, const QByteArray& inhalt) {
+        QFile datei(pfad);
         ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
         datei.write(inhalt);
     }
@@ -93,6 +95,85 @@ TEST_F(IniEinstellungenTest, A_broken_file_gives_defaults_and_is_set_aside_not_l
 TEST_F(IniEinstellungenTest, A_file_of_ten_megabytes_gives_defaults) {
     Schreibe("[Settings]\nSprache=10000\n" + QByteArray(10 << 20, 'x'));
     EXPECT_EQ(IniEinstellungen(Pfad()).LiesZahl("Settings", "Sprache", 0), 0);
+}
+
+TEST_F(IniEinstellungenTest, A_file_of_ten_megabytes_is_set_aside_before_the_first_change) {
+    const QByteArray riesig = "[Settings]\nSprache=10000\n" + QByteArray(10 << 20, 'x');
+    Schreibe(riesig);
+    EXPECT_TRUE(IniEinstellungen(Pfad()).SchreibText("Settings", "ComPort", "2"));
+    EXPECT_EQ(Inhalt(Pfad()), "[Settings]\nComPort=2\n");
+    EXPECT_TRUE(Inhalt(Pfad() + ".defekt") == riesig);
+}
+
+TEST_F(IniEinstellungenTest, A_second_broken_file_does_not_take_the_place_of_the_first) {
+    const QByteArray kaputt("\0", 1);
+    for (const char* zusatz : {"", ".defekt", ".defekt2"})
+        SchreibeNach(Pfad() + zusatz, kaputt + zusatz);
+    EXPECT_TRUE(IniEinstellungen(Pfad()).SchreibText("Settings", "ComPort", "2"));
+    EXPECT_EQ(Inhalt(Pfad() + ".defekt"), kaputt + ".defekt");
+    EXPECT_EQ(Inhalt(Pfad() + ".defekt2"), kaputt + ".defekt2");
+    EXPECT_EQ(Inhalt(Pfad() + ".defekt3"), kaputt);
+}
+
+TEST_F(IniEinstellungenTest, A_text_in_two_bytes_a_character_gives_defaults_and_is_set_aside) {
+    const QString text = QStringLiteral("[Settings]\r\nSprache=10000\r\n");
+    const QByteArray breit("\xFF\xFE" +
+                           QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size()));
+    Schreibe(breit);
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 0);
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
+    EXPECT_EQ(Inhalt(Pfad() + ".defekt"), breit);
+}
+
+TEST_F(IniEinstellungenTest, Bytes_of_another_encoding_stay_as_they_are) {
+    Schreibe("; Gr\xF6\xDF"
+             "e\n[Settings]\nName=M\xFCller\nSprache=0\n");
+    EXPECT_TRUE(IniEinstellungen(Pfad()).SchreibText("Settings", "Sprache", "10000"));
+    EXPECT_EQ(Inhalt(Pfad()), "; Gr\xF6\xDF"
+                              "e\n[Settings]\nName=M\xFCller\nSprache=10000\n");
+}
+
+TEST_F(IniEinstellungenTest, Lines_without_sense_give_defaults_and_stay_as_they_are) {
+    const QByteArray wirr = "Settings]\nSprache=10000\n[Settings\nComPort=4\n]]==[[\n\n\xFF\x01\n=\n";
+    Schreibe(wirr);
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 0);
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "ComPort", 1), 1);
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "ComPort", "2"));
+    EXPECT_EQ(Inhalt(Pfad()), wirr + "\n[Settings]\nComPort=2\n");
+}
+
+TEST_F(IniEinstellungenTest, A_folder_in_its_place_gives_defaults_is_kept_and_changes_last_for_this_run) {
+    ASSERT_TRUE(QDir().mkdir(Pfad()));
+    IniEinstellungen einstellungen(Pfad());
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 0);
+    EXPECT_FALSE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
+    EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 10000);
+    EXPECT_TRUE(QFileInfo(Pfad()).isDir());
+}
+
+TEST_F(IniEinstellungenTest, What_others_change_while_the_program_runs_is_kept) {
+    Schreibe("[Settings]\nSprache=0\n");
+    IniEinstellungen einstellungen(Pfad());
+    Schreibe("; by hand\n[Settings]\nSprache=0\nComSettings=9600,e,8,1\n");
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
+    EXPECT_EQ(Inhalt(Pfad()), "; by hand\n[Settings]\nSprache=10000\nComSettings=9600,e,8,1\n");
+}
+
+TEST_F(IniEinstellungenTest, A_file_that_breaks_while_the_program_runs_is_set_aside_and_all_values_are_kept) {
+    Schreibe("[Settings]\nComPort=3\nSprache=0\n");
+    IniEinstellungen einstellungen(Pfad());
+    Schreibe(QByteArray(1000, '\0'));
+    EXPECT_TRUE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
+    EXPECT_EQ(Inhalt(Pfad()), "[Settings]\nComPort=3\nSprache=10000\n");
+    EXPECT_EQ(Inhalt(Pfad() + ".defekt"), QByteArray(1000, '\0'));
+}
+
+TEST_F(IniEinstellungenTest, A_value_that_does_not_fit_in_a_line_is_refused) {
+    Schreibe("[Settings]\nSprache=0\n");
+    EXPECT_FALSE(IniEinstellungen(Pfad()).SchreibText("frmMain", "mnuSpeichernUnter", "/a\nSprache=10000"));
+    EXPECT_EQ(Inhalt(Pfad()), "[Settings]\nSprache=0\n");
 }
 
 TEST_F(IniEinstellungenTest, A_file_that_cannot_be_written_is_reported_and_the_value_lasts_for_this_run) {

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -25,6 +26,12 @@ namespace varnoth {
 namespace {
 
 using namespace pruefung;
+
+/// In memory where the system has such a place: hundreds of saves would wait for a disk each time.
+QString OrtDerProben() {
+    const QFileInfo speicher(QStringLiteral("/dev/shm"));
+    return QDir(speicher.isWritable() ? speicher.filePath() : QDir::tempPath()).filePath("varnoth-XXXXXX");
+}
 
 constexpr const char* NichtVerfolgbar = "a process may not follow its child here";
 constexpr const char* Resteverzeichnis = ".varnoth-*.neu";
@@ -54,7 +61,7 @@ protected:
             QFile::remove(ordner.filePath(name));
     }
 
-    QTemporaryDir ordner;
+    QTemporaryDir ordner{OrtDerProben()};
 };
 
 /// Saves with the menu's own command what the image holds.

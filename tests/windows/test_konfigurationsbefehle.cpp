@@ -12,6 +12,8 @@
 #include "zykluszeiten.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -196,6 +198,50 @@ TEST_F(Speichern, A_folder_is_not_replaced) {
     EXPECT_FALSE(KonfigurationSpeichernUnter());
     ASSERT_EQ(umgebung.meldungen.size(), 2U);
     EXPECT_EQ(umgebung.meldungen[1].text, "Is a directory\n" + Pfad("Ordner"));
+}
+
+TEST_F(Speichern, A_file_that_vanishes_after_the_question_is_written_anew_without_a_message) {
+    const std::string pfad = Gespeichert("da.con");
+    gewaehlt = {pfad};
+    umgebung.beiMeldung = [&](const Meldung&) { QFile::remove(QString::fromStdString(pfad)); };
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(Inhalt(pfad), modDaten::SpeichereKonfigurationsdatei());
+}
+
+TEST_F(Speichern, A_folder_that_vanishes_after_the_question_gives_the_systems_text_and_stays_unsaved) {
+    ASSERT_TRUE(QDir(ordner.path()).mkdir("weg"));
+    const std::string pfad = Gespeichert("weg/da.con");
+    modDaten::SetzeGeaendert();
+    gewaehlt = {pfad};
+    umgebung.beiMeldung = [&](const Meldung&) { QDir(ordner.filePath("weg")).removeRecursively(); };
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[1], Meldung{.text = "No such file or directory\n" + pfad});
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(Speichern, A_folder_in_place_of_the_file_after_the_question_is_kept) {
+    const std::string pfad = Gespeichert("da.con");
+    const QString name = QString::fromStdString(pfad);
+    gewaehlt = {pfad};
+    umgebung.beiMeldung = [&](const Meldung&) {
+        QFile::remove(name);
+        QDir().mkdir(name);
+    };
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[1], Meldung{.text = "Is a directory\n" + pfad});
+    EXPECT_TRUE(QFileInfo(name).isDir());
+}
+
+TEST_F(Speichern, A_file_in_place_of_the_folder_gives_the_systems_text) {
+    Gespeichert("da.con");
+    const std::string pfad = Pfad("da.con/neu.con");
+    gewaehlt = {pfad};
+    EXPECT_FALSE(KonfigurationSpeichernUnter());
+    ErwarteEineWarnung("Not a directory\n" + pfad);
+    EXPECT_EQ(Inhalt(Pfad("da.con")), modDaten::SpeichereKonfigurationsdatei());
 }
 
 TEST_F(Oeffnen, The_dialog_bears_title_and_filters) {
