@@ -27,9 +27,10 @@ double Val(std::string_view text) {
         return static_cast<double>(LiesAnfang<std::uint32_t>(text.substr(2), 16));
     if (BeginntMitBasis(text, 'o'))
         return static_cast<double>(LiesAnfang<std::uint32_t>(text.substr(2), 8));
+    const std::size_t vorzeichen = text.starts_with('+') || text.starts_with('-') ? 1 : 0;
+    const bool zahlMoeglich = text.find_first_of("0123456789.") == vorzeichen;
     if (text.starts_with('+'))
         text.remove_prefix(1);
-    const bool zahlMoeglich = text.find_first_of("0123456789.") <= (text.starts_with('-') ? 1U : 0U);
     return zahlMoeglich ? LiesAnfang<double>(text, std::chars_format::general) : 0.0;
 }
 

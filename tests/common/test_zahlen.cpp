@@ -14,6 +14,16 @@ TEST(Val, Reads_the_number_a_text_begins_with) {
         EXPECT_EQ(Val(text), wert) << '"' << text << '"';
 }
 
+TEST(Val, A_second_sign_does_not_belong_to_a_number) {
+    for (const char* text : {"+-5", "-+5", "--5", "++5", "+ 5", "-&H5"})
+        EXPECT_EQ(Val(text), 0) << '"' << text << '"';
+}
+
+TEST(Val, A_number_beyond_all_bounds_is_zero) {
+    for (const char* text : {"1e999", "-1e999", "&HFFFFFFFFF", "&O77777777777777"})
+        EXPECT_EQ(Val(text), 0) << '"' << text << '"';
+}
+
 TEST(AlsHex, Is_upper_case_without_leading_zeros) {
     EXPECT_EQ(AlsHex(0), "0");
     EXPECT_EQ(AlsHex(10), "A");
