@@ -20,7 +20,7 @@ namespace varnoth {
 namespace {
 
 constexpr int SeitennameRolle = Qt::UserRole;
-constexpr QSize Anfangsgroesse(1080, 720);
+constexpr QSize Anfangsgroesse(1240, 780);
 constexpr int Inhaltsbreite = 280;
 constexpr int Seitenrand = 14;
 
