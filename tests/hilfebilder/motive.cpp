@@ -51,7 +51,7 @@ QImage Ansicht(Buehne& buehne) {
         qobject_cast<QMdiSubWindow*>(buehne.Hauptfenster().Fenster(Optikteil).parentWidget());
     rahmen->resize(Ansichtsgroesse);
     rahmen->raise();
-    const QImage bild = Foto(*rahmen);
+    QImage bild = Foto(*rahmen);
     buehne.HalteAn();
     return bild;
 }
