@@ -12,6 +12,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <utility>
 
@@ -19,8 +20,9 @@ namespace varnoth {
 
 namespace {
 
+constexpr std::int16_t TextInhalt = 1711;
 constexpr int SeitennameRolle = Qt::UserRole;
-constexpr QSize Anfangsgroesse(1080, 720);
+constexpr QSize Anfangsgroesse(1240, 780);
 constexpr int Inhaltsbreite = 280;
 constexpr int Seitenrand = 14;
 
@@ -50,6 +52,7 @@ QList<QTextEdit::ExtraSelection> Stellen(const QTextDocument& dokument, const QS
 
 frmHilfe::frmHilfe() : ui(std::make_unique<Ui::frmHilfe>()) {
     ui->setupUi(this);
+    ui->trvInhalt->setHeaderLabel(QString::number(TextInhalt));
     resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
     ui->Teiler->setSizes({Inhaltsbreite, width() - Inhaltsbreite});
     ui->lstFunde->setItemDelegate(new Funddarstellung(this));

@@ -7,6 +7,7 @@
 #include "umgebung.h"
 
 #include <QDir>
+#include <QMessageBox>
 
 #include <utility>
 
@@ -33,7 +34,7 @@ void Hilfe::ZeigeThemen(QWidget* davor) {
 
 void Hilfe::ZeigeSeiteZu(QWidget* stelle) {
     if (!Oeffne()) {
-        MeldeOhneZuWarten(stelle);
+        MeldeOhneZuWarten();
         return;
     }
     const Hilfeziel ziel = ZielZu(*datei, stelle);
@@ -73,15 +74,15 @@ void Hilfe::ZeigeVor(const QWidget* davor) {
 
 /// The key may be pressed in the middle of an exchange with the controller, which must not wait until
 /// somebody has read a box.
-void Hilfe::MeldeOhneZuWarten(QWidget* davor) {
-    if (warnung)
+void Hilfe::MeldeOhneZuWarten() {
+    if (warnung && warnung->isVisible())
         return;
-    warnung = new QMessageBox(QMessageBox::Warning, QString::fromStdString(LadeText(TextAchtung)),
-                              QString::fromStdString(Fehlertext()), QMessageBox::Ok,
-                              davor != nullptr ? davor->window() : nullptr);
-    warnung->setAttribute(Qt::WA_DeleteOnClose);
+    warnung =
+        std::make_unique<QMessageBox>(QMessageBox::Warning, QString::fromStdString(LadeText(TextAchtung)),
+                                      QString::fromStdString(Fehlertext()), QMessageBox::Ok);
     warnung->setTextFormat(Qt::PlainText);
-    warnung->open();
+    warnung->setModal(true);
+    warnung->show();
 }
 
 } // namespace varnoth

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QMessageBox>
-#include <QPointer>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <string>
 
+class QMessageBox;
 class QWidget;
 
 namespace varnoth {
@@ -35,13 +35,13 @@ private:
     bool Oeffne();
     std::string Fehlertext() const;
     void ZeigeVor(const QWidget* davor);
-    void MeldeOhneZuWarten(QWidget* davor);
+    void MeldeOhneZuWarten();
 
     std::function<QString()> dateipfad;
     QString offenerPfad;
     std::unique_ptr<Hilfedatei> datei;
     std::unique_ptr<frmHilfe> fenster;
-    QPointer<QMessageBox> warnung;
+    std::unique_ptr<QMessageBox> warnung;
 };
 
 } // namespace varnoth

@@ -1,6 +1,7 @@
 #include "hilfedatei.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QResource>
 #include <QTextDocumentFragment>
 
@@ -28,7 +29,7 @@ QString TextOhneTitel(const QString& html, const QString& titel) {
 
 std::unique_ptr<Hilfedatei> Hilfedatei::Oeffne(const QString& pfad) {
     const QString wurzel = NeueWurzel();
-    if (!QResource::registerResource(pfad, wurzel))
+    if (QFileInfo(pfad).size() == 0 || !QResource::registerResource(pfad, wurzel))
         return nullptr;
     std::unique_ptr<Hilfedatei> datei(new Hilfedatei(pfad, wurzel));
     return datei->Inhalt().isEmpty() ? nullptr : std::move(datei);

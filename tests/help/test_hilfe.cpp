@@ -12,6 +12,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace varnoth {
 
 using pruefung::Kind;
@@ -210,15 +212,25 @@ TEST_F(HilfeTest, A_second_key_press_opens_no_second_box) {
     pfad = QStringLiteral("/nowhere/varnoth.hlp");
     hilfe.ZeigeSeiteZu(&hauptfenster);
     hilfe.ZeigeSeiteZu(Warnung());
-    EXPECT_EQ(hauptfenster.findChildren<QMessageBox*>().size(), 1);
-    EXPECT_TRUE(Warnung()->findChildren<QMessageBox*>().isEmpty());
+    EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(),
+                                    [](QWidget* fenster) { return qobject_cast<QMessageBox*>(fenster); }),
+              1);
 }
 
-TEST_F(HilfeTest, The_box_may_go_with_the_dialog_it_stands_before) {
+TEST_F(HilfeTest, The_box_stays_when_the_dialog_behind_it_goes) {
     pfad = QStringLiteral("/nowhere/varnoth.hlp");
     OeffneDialog();
     hilfe.ZeigeSeiteZu(dialog.get());
     dialog.reset();
+    ASSERT_NE(Warnung(), nullptr);
+    EXPECT_TRUE(Warnung()->isVisible());
+}
+
+TEST_F(HilfeTest, A_box_that_was_answered_comes_again_at_the_next_key_press) {
+    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    hilfe.ZeigeSeiteZu(&hauptfenster);
+    Warnung()->accept();
+    EXPECT_EQ(Warnung(), nullptr);
     hilfe.ZeigeSeiteZu(&hauptfenster);
     EXPECT_NE(Warnung(), nullptr);
 }

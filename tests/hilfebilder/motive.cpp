@@ -1,0 +1,164 @@
+#include "motive.h"
+
+#include "frmBlankingmuster.h"
+#include "frmDocument.h"
+#include "frmEinzelwerteLesenSchreiben.h"
+#include "frmIdentifikationsAnforderung.h"
+#include "frmInfo.h"
+#include "frmInitHardware.h"
+#include "frmKeinKonturAngeschlossen.h"
+#include "frmKonfigurationEdit.h"
+#include "frmKonfigurationLesenAusHardware.h"
+#include "frmKonfigurationSchreibenInHardware.h"
+#include "frmReihenfolge.h"
+#include "frmResetHardware.h"
+#include "frmSimulation.h"
+#include "frmStrahlenBestimmen.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "servicetext.h"
+
+#include <QLineEdit>
+#include <QLocale>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+
+namespace varnoth::hilfebilder {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr Zeit Sofort{0};
+constexpr Zeit MittenImLesen = milliseconds(300);
+constexpr Zeit MittenImSchreiben = milliseconds(300);
+constexpr QSize Ansichtsgroesse(480, 380);
+constexpr QSize Blankinggroesse(520, 560);
+constexpr int Seitenbreite = 840; // that a page of the help has in its window
+constexpr int SeiteGlobal = 0;
+constexpr int SeiteK1 = 1;
+constexpr int SeiteKommunikation = 5;
+
+QImage Hauptfenster(Buehne& buehne) {
+    return Foto(buehne.Hauptfenster());
+}
+
+QImage Ansicht(Buehne& buehne) {
+    constexpr int Optikteil = 1;
+    auto* const rahmen =
+        qobject_cast<QMdiSubWindow*>(buehne.Hauptfenster().Fenster(Optikteil).parentWidget());
+    rahmen->resize(Ansichtsgroesse);
+    rahmen->raise();
+    QImage bild = Foto(*rahmen);
+    buehne.HalteAn();
+    return bild;
+}
+
+template<class Dialog>
+QImage WieEsAufgeht(Buehne& buehne) {
+    Dialog dialog;
+    return buehne.BildNach(dialog, Sofort);
+}
+
+QImage Identifikation(Buehne& buehne) {
+    frmIdentifikationsAnforderung dialog;
+    return buehne.Bild(dialog, [&] { return dialog.GetVollstaendig() != False; });
+}
+
+QImage Lesen(Buehne& buehne) {
+    frmKonfigurationLesenAusHardware dialog;
+    return buehne.BildNach(dialog, MittenImLesen);
+}
+
+QImage Schreiben(Buehne& buehne) {
+    frmKonfigurationSchreibenInHardware dialog;
+    QMetaObject::invokeMethod(&Kind<QPushButton>(dialog, "cmdStart"), &QPushButton::click,
+                              Qt::QueuedConnection);
+    return buehne.BildNach(dialog, MittenImSchreiben);
+}
+
+template<int Seite>
+QImage Editorseite(Buehne& buehne) {
+    frmKonfigurationEdit editor;
+    editor.InitKonfiguration({});
+    Kind<QTabWidget>(editor, "tbsOptions").setCurrentIndex(Seite);
+    return buehne.Bild(editor, [&] { return Kind<QPushButton>(editor, "cmdDownLoad").isEnabled(); });
+}
+
+/// The machine's frame covers beams 1 to 4 of the second part, a cable beam 30.
+QImage Blankingmuster(Buehne& buehne) {
+    constexpr std::int16_t Optikteil = 1;
+    Werte muster(Blankingregister);
+    muster.at(0) = 0x0F00;
+    muster.at(1) = 0x0020;
+    modDaten::SetzeSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Optikteil, muster);
+    frmBlankingmuster dialog;
+    dialog.InitFormBlankingmuster(Optikteil);
+    dialog.resize(Blankinggroesse);
+    return buehne.BildNach(dialog, Sofort);
+}
+
+/// The number of beams of the second part.
+QImage Einzelwert(Buehne& buehne) {
+    frmEinzelwerteLesenSchreiben dialog;
+    Kind<QRadioButton>(dialog, "OptAdressOffset_1").click();
+    Kind<QRadioButton>(dialog, "optSubUnit_1").click();
+    Kind<QLineEdit>(dialog, "txtAdresse").setText("12");
+    auto& inhalt = Kind<QLineEdit>(dialog, "txtInhalt");
+    QMetaObject::invokeMethod(&Kind<QPushButton>(dialog, "cmdLesen"), &QPushButton::click,
+                              Qt::QueuedConnection);
+    return buehne.Bild(dialog, [&] { return !inhalt.text().isEmpty(); });
+}
+
+QImage Werksdaten(Buehne& buehne) {
+    modService::SetzeServiceText("Varnoth-Service1");
+    frmInitHardware dialog(nullptr, QDate(2024, 3, 1));
+    Kind<QLineEdit>(dialog, "txtSeriennummer").setText("VM-2024-00017");
+    Kind<QLineEdit>(dialog, "txtHauptversion").setText("2");
+    Kind<QLineEdit>(dialog, "txtUnterversion").setText("1");
+    return buehne.BildNach(dialog, Sofort);
+}
+
+/// The values of the worked examples.
+QImage Rechner(Buehne& buehne) {
+    frmSimulation dialog(nullptr, QLocale());
+    Kind<QLineEdit>(dialog, "txtFormel1L").setText("40");
+    Kind<QLineEdit>(dialog, "txtFormel2v").setText("2");
+    Kind<QLineEdit>(dialog, "txtFormel4").setText("15");
+    Kind<QLineEdit>(dialog, "txtlblGeschwindigkeit").setText("2");
+    return buehne.BildNach(dialog, Sofort).scaledToWidth(Seitenbreite, Qt::SmoothTransformation);
+}
+
+QImage Info(Buehne& buehne) {
+    frmInfo dialog(nullptr);
+    return buehne.BildNach(dialog, Sofort);
+}
+
+} // namespace
+
+std::span<const Motiv> AlleMotive() {
+    static constexpr Motiv motive[] = {
+        {"frmMain", Hauptfenster},
+        {"frmDocument", Ansicht},
+        {"frmIdentifikationsAnforderung", Identifikation},
+        {"frmKonfigurationLesenAusHardware", Lesen},
+        {"frmKonfigurationEdit_global", Editorseite<SeiteGlobal>},
+        {"frmKonfigurationEdit_optik", Editorseite<SeiteK1>},
+        {"frmKonfigurationEdit_kommunikation", Editorseite<SeiteKommunikation>},
+        {"frmReihenfolge", WieEsAufgeht<frmReihenfolge>},
+        {"frmBlankingmuster", Blankingmuster},
+        {"frmKonfigurationSchreibenInHardware", Schreiben},
+        {"frmEinzelwerteLesenSchreiben", Einzelwert},
+        {"frmResetHardware", WieEsAufgeht<frmResetHardware>},
+        {"frmInitHardware", Werksdaten},
+        {"frmSimulation", Rechner},
+        {"frmKeinKonturAngeschlossen", WieEsAufgeht<frmKeinKonturAngeschlossen>},
+        {"frmStrahlenBestimmen", WieEsAufgeht<frmStrahlenBestimmen>},
+        {"frmInfo", Info},
+    };
+    return motive;
+}
+
+} // namespace varnoth::hilfebilder
