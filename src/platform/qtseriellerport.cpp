@@ -159,14 +159,19 @@ std::string QtSeriellerPort::LiesAlles() {
 void QtSeriellerPort::Schreibe(std::string_view bytes) {
     if (!port.isOpen())
         return;
-    naechsterFensterblick = Zeit{0};
     if (port.bytesToWrite() == 0)
         bytes.remove_prefix(SchreibeSofort(port, bytes));
-    if (bytes.empty())
-        return;
-    port.write(bytes.data(), static_cast<qint64>(bytes.size()));
-    if (port.isOpen())
+    if (!bytes.empty())
+        port.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    if (port.isOpen() && !bytes.empty())
         port.flush();
+    SchaueNachDemFenster();
+}
+
+/// The window's turn to paint: no reply is due yet.
+void QtSeriellerPort::SchaueNachDemFenster() {
+    QCoreApplication::processEvents();
+    naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
 }
 
 void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
@@ -176,11 +181,8 @@ void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
         DieUmgebung().WarteAufEreignis(hoechstens);
         return;
     }
-    const Zeit jetzt = DieUmgebung().Uhr();
-    if (jetzt >= naechsterFensterblick) {
-        QCoreApplication::processEvents();
-        naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
-    }
+    if (DieUmgebung().Uhr() >= naechsterFensterblick)
+        SchaueNachDemFenster();
     if (port.isOpen() && BytesWartend() == 0)
         SchlafeAnDerLeitung(port, std::min(hoechstens, Fensterblick));
 }

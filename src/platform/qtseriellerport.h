@@ -27,6 +27,7 @@ private:
     void BeiFehler(QSerialPort::SerialPortError fehler);
     void BeiEingang();
     void SchalteLeitungenEin();
+    void SchaueNachDemFenster();
 
     QSerialPort port;
     std::function<void(int)> ereignisbehandlung;

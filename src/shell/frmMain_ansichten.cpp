@@ -115,8 +115,10 @@ void frmMain::ZeigeLichtleiste(int optikteil) {
 }
 
 QSize frmMain::KleinsterRahmen() const {
-    return rahmen[0]->minimumSizeHint().expandedTo(Fensterliste[0]->minimumSize() + rahmen[0]->size() -
-                                                   Fensterliste[0]->size());
+    return rahmen[0]
+        ->minimumSizeHint()
+        .expandedTo(rahmen[0]->minimumSize())
+        .expandedTo(Fensterliste[0]->minimumSize() + rahmen[0]->size() - Fensterliste[0]->size());
 }
 
 void frmMain::Ordne(Anordnung art) {

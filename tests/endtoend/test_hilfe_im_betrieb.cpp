@@ -23,7 +23,8 @@ protected:
     /// Puts the help files beside the program, as a build does.
     void LegeHilfeBei() const {
         for (const char* name : {"varnoth.hlp", "varnothE.hlp"})
-            ASSERT_TRUE(QFile::copy(QCoreApplication::applicationDirPath() + "/" + name, Pfad(QLatin1String(name))));
+            ASSERT_TRUE(
+                QFile::copy(QCoreApplication::applicationDirPath() + "/" + name, Pfad(QLatin1String(name))));
     }
     static void DrueckeF1(QWidget& fenster) {
         QCoreApplication::postEvent(&fenster, new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
@@ -31,8 +32,9 @@ protected:
     /// The heading of the page that the help shows; empty when it is closed.
     static std::string Ueberschrift() {
         QWidget* hilfe = SichtbaresFenster("frmHilfe");
-        return hilfe == nullptr ? std::string()
-                                : hilfe->findChild<QTextBrowser*>()->toPlainText().section('\n', 0, 0).toStdString();
+        return hilfe == nullptr
+                   ? std::string()
+                   : hilfe->findChild<QTextBrowser*>()->toPlainText().section('\n', 0, 0).toStdString();
     }
 };
 

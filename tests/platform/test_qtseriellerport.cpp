@@ -117,6 +117,15 @@ TEST_F(QtSeriellerPortTest, Bytes_taken_up_while_events_ran_come_before_those_th
     EXPECT_EQ(port.LiesAlles(), "firstsecond");
 }
 
+TEST_F(QtSeriellerPortTest, Window_events_are_served_once_a_request_is_out) {
+    port.Oeffne(1, Standard);
+    bool gelaufen = false;
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [&gelaufen] { gelaufen = true; }, Qt::QueuedConnection);
+    port.Schreibe("request");
+    EXPECT_TRUE(gelaufen);
+}
+
 TEST_F(QtSeriellerPortTest, Window_events_are_served_while_nothing_arrives) {
     port.Oeffne(1, Standard);
     bool gelaufen = false;
