@@ -13,6 +13,9 @@ namespace varnoth::simulator {
 
 namespace {
 
+constexpr Zeit LaengsteWeckdauer = std::chrono::microseconds(200);
+constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
+
 volatile sig_atomic_t sollEnden = 0;
 
 void MerkeEnde(int) {
@@ -85,12 +88,18 @@ void Ablauf::Laufe() {
     }
 }
 
+/// Sleeps a little shorter by what waking took lately, and does not sleep at all that shortly before bytes are
+/// due: a wire is not late.
 void Ablauf::Schlafe(std::vector<pollfd>& liste) {
     const auto faellig = simulator_.NaechsteFaelligkeit();
-    const timespec frist = AlsTimespec(std::max(faellig.value_or(Zeit{0}) - Jetzt(), Zeit{0}));
-    if (::ppoll(liste.data(), liste.size(), faellig ? &frist : nullptr, &schlafmaske_) < 0)
+    const Zeit weckzeit = faellig.value_or(Zeit{0}) - weckdauer_;
+    const timespec frist = AlsTimespec(std::max(weckzeit - Jetzt(), Zeit{0}));
+    const int bereit = ::ppoll(liste.data(), liste.size(), faellig ? &frist : nullptr, &schlafmaske_);
+    if (bereit < 0)
         for (pollfd& eines : liste)
             eines.revents = 0;
+    if (bereit == 0 && frist.tv_nsec > 0)
+        weckdauer_ += (std::min(Jetzt() - weckzeit, LaengsteWeckdauer) - weckdauer_) / Weckgedaechtnis;
 }
 
 void Ablauf::LiesAnfragen(const std::vector<pollfd>& liste) {

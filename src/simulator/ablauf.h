@@ -38,6 +38,7 @@ private:
     Simulator simulator_;
     Ptyserver pty_;
     Steuerkanal kanal_;
+    Zeit weckdauer_{0};
 };
 
 } // namespace varnoth::simulator
