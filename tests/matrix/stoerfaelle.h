@@ -16,14 +16,14 @@ enum class Wirkung {
 
 /// What a place can bear and how long its replies are.
 struct Belastung {
-    const char* nur;  ///< the function that faults are limited to, such as "@17"; empty = every one
-    int lesen;        ///< bytes of its longest reply to a read request, 0 = there is none
-    int schreiben;    ///< of its reply to a write request
-    int kennung;      ///< of the identification
-    int amStueck;     ///< failing replies that it bears in one go
-    bool abwechselnd; ///< faults in one go reach one exchange after another instead of the same again
-    bool vonVorn;     ///< must be prepared anew for each portion
-    int austausche;   ///< how many exchanges, from its first on, get a fault of their own in turn
+    const char* nur = "";     ///< the function that faults are limited to, such as "@17"; empty = every one
+    int lesen = 0;            ///< bytes of its longest reply to a read request, 0 = there is none
+    int schreiben = 0;        ///< of its reply to a write request
+    int kennung = 0;          ///< of the identification
+    int amStueck = 1;         ///< failing replies that it bears in one go
+    bool abwechselnd = false; ///< faults in one go reach one exchange after another instead of the same again
+    bool vonVorn = false;     ///< must be prepared anew for each portion
+    int austausche = 1;       ///< how many exchanges, from its first on, get a fault of their own in turn
 };
 
 using Befehle = std::vector<std::string>;
