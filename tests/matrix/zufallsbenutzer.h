@@ -1,0 +1,42 @@
+#pragma once
+
+#include "betrieb.h"
+
+#include <QDialog>
+
+#include <map>
+#include <random>
+#include <string>
+
+namespace varnoth::pruefung {
+
+/// A user without a plan: chooses commands, opens, changes and cancels dialogs, closes, minimises and opens
+/// views, whatever the program is doing. He never ends it.
+class Zufallsbenutzer {
+public:
+    Zufallsbenutzer(Betrieb& der, unsigned seed);
+
+    /// Does one thing.
+    void Handle();
+    /// Whether he had a hand in what the controller or the image holds since he was last asked.
+    bool HatEingegriffen();
+    /// How often he did what.
+    const std::map<std::string, int>& Taten() const { return taten; }
+
+private:
+    struct Tat;
+
+    void BedieneDialog(QDialog& dialog);
+    void BedieneFenster();
+    void WaehleCommand();
+    void AendereFeld(QWidget& dialog);
+    void Zaehle(const std::string& was) { ++taten[was]; }
+    int Zufall(int anzahl);
+
+    Betrieb& betrieb;
+    std::mt19937 zufall;
+    std::map<std::string, int> taten;
+    bool eingegriffen = false;
+};
+
+} // namespace varnoth::pruefung
