@@ -19,14 +19,11 @@ constexpr std::int32_t KleinsterWert = -0x8000;
 constexpr std::array<std::uint16_t, 3> Bereichsanfaenge = {
     modModbus::GlobaleBasis, modModbus::SpezifischeBasis, modModbus::KommunikationsBasis};
 
-/// Val gives 0 for a number that it cannot hold, which must not pass for the number 0.
+/// Val gives 0 for a number that it cannot hold, which must not pass for the number 0: what such a number
+/// begins with, up to its first digit other than 0, is not 0.
 bool IstUebergelaufen(std::string_view text) {
-    if (Val(text) != 0)
-        return false;
-    for (std::size_t laenge = 1; laenge < text.size(); ++laenge)
-        if (Val(text.substr(0, laenge)) != 0)
-            return true;
-    return false;
+    const std::size_t ziffer = text.find_first_of("123456789ABCDEFabcdef");
+    return ziffer != std::string_view::npos && Val(text) == 0 && Val(text.substr(0, ziffer + 1)) != 0;
 }
 
 /// The number typed, rounded to a whole one, of two equally near ones to the even. Nothing when it lies

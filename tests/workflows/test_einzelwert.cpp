@@ -72,6 +72,14 @@ TEST(Registerwert, That_no_register_holds_is_none) {
         EXPECT_EQ(Registerwert(text), std::nullopt) << text;
 }
 
+TEST(Registerwert, Of_a_very_long_text_is_known_at_once) {
+    constexpr std::size_t laenge = 1'000'000;
+    EXPECT_EQ(Registerwert(std::string(laenge, 'x')), 0);
+    EXPECT_EQ(Registerwert(std::string(laenge, '0')), 0);
+    EXPECT_EQ(Registerwert(std::string(laenge, '0') + '7'), 7);
+    EXPECT_EQ(Registerwert(std::string(laenge, '9')), std::nullopt);
+}
+
 class EinzelwertTest : public pruefung::AblaufTest {};
 
 TEST_F(EinzelwertTest, Reading_global_register_0_of_a_device_holding_1234_hex_shows_it) {
