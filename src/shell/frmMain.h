@@ -105,6 +105,7 @@ private:
     void BaueAnsichtenAuf() override;
     void LiveDatenLaufenAn() override;
     void ZeigeLichtleistenmenue() override;
+    bool IstZuSpaet(Befehl befehl) const;
     bool Beendet() const override { return entladen || befehle.WartetAuf(Befehl::Beenden); }
 
     std::string StarteFlasher(const std::string& parameter) override;

@@ -43,6 +43,11 @@ struct frmMain::Befehlszeile {
     void (*ablauf)(frmMain& fenster, int index);
 };
 
+/// The user has ended the program while the command waited for live data to stop: no dialog may open now.
+bool frmMain::IstZuSpaet(Befehl befehl) const {
+    return Beendet() && befehl != Befehl::Beenden && ZeigtFenster(befehl);
+}
+
 /// The dialog of a service command, for a controller that does not send by itself and has said who it is.
 template<class Dienstdialog>
 void frmMain::OeffneDienst() {
@@ -52,6 +57,8 @@ void frmMain::OeffneDienst() {
 }
 
 void frmMain::FuehreAus(Befehl befehl, int index) {
+    if (IstZuSpaet(befehl))
+        return;
     static constexpr Befehlszeile zeilen[] = {
         {Befehl::VisualisierenStart, [](frmMain& f, int) { f.Autostart(); }},
         {Befehl::VisualisierenStop, [](frmMain& f, int) { f.SubMessdatenVisualisierenStop(); }},
@@ -99,6 +106,8 @@ void frmMain::Autostart() {
 }
 
 bool frmMain::Identifiziere() {
+    if (Beendet())
+        return false;
     frmIdentifikationsAnforderung dialog(this);
     dialog.SetWeiter(True);
     dialog.exec();

@@ -28,6 +28,18 @@ constexpr std::array stoppende{
 constexpr std::array wiederStartende{Befehl::Einzelwerte, Befehl::InitHardware,
                                      Befehl::KonfigurationAnzeigen};
 
+constexpr std::array ohneFenster{
+    Befehl::VisualisierenStop,
+    Befehl::LichtleisteAnzeigen,
+    Befehl::FensterNebeneinander,
+    Befehl::FensterUeberlappend,
+    Befehl::FensterUntereinander,
+    Befehl::UebertragenerWert,
+    Befehl::ComPort,
+    Befehl::Deutsch,
+    Befehl::Englisch,
+};
+
 } // namespace
 
 bool StopptLiveDaten(Befehl befehl) {
@@ -36,6 +48,10 @@ bool StopptLiveDaten(Befehl befehl) {
 
 bool StartetLiveDatenWieder(Befehl befehl) {
     return std::ranges::find(wiederStartende, befehl) != wiederStartende.end();
+}
+
+bool ZeigtFenster(Befehl befehl) {
+    return std::ranges::find(ohneFenster, befehl) == ohneFenster.end();
 }
 
 void Befehlsspeicher::Klick(Befehl befehl, int index) {
@@ -48,11 +64,12 @@ void Befehlsspeicher::FuehreAus(Befehlsziel& ziel) {
     if (!Wartet())
         return;
     const Befehl befehl = befehlscode;
+    const int index = menueindex;
     const unsigned klicksVorher = klicks;
     const bool liefLive = ziel.LiveDatenLaufen();
     if (liefLive && StopptLiveDaten(befehl))
         ziel.StoppeLiveDaten();
-    ziel.FuehreAus(befehl, menueindex);
+    ziel.FuehreAus(befehl, index);
     if (klicks != klicksVorher)
         return;
     befehlscode = liefLive && StartetLiveDatenWieder(befehl) ? Befehl::VisualisierenStart : Befehl::Keiner;

@@ -35,6 +35,9 @@ bool StopptLiveDaten(Befehl befehl);
 /// Whether live data that ran before the command starts again after it.
 bool StartetLiveDatenWieder(Befehl befehl);
 
+/// Whether the command opens a dialog or asks a question; the others do their work without the user.
+bool ZeigtFenster(Befehl befehl);
+
 /// What the command queue asks of the main window.
 class Befehlsziel {
 public:

@@ -99,6 +99,30 @@ protected:
         });
         blick->start(1);
     }
+    /// Live data runs, nothing is changed, and from now on the controller is silent.
+    void GeheLiveUndVerstumme() {
+        geraet.schweige = nullptr;
+        SchliesseAn({32, 0, 0, 0});
+        Fenster().Autostart();
+        modDaten::LoescheGeaendert();
+        geraet.schweige = [](const std::string&) { return true; };
+    }
+    /// Runs a command whose first request to the silent controller is cut short by a click on the close box.
+    /// @return the dialog that showed nevertheless; it is closed
+    QString DialogNachSchliessen(const char* befehl) {
+        QString gezeigt;
+        QTimer blick;
+        QObject::connect(&blick, &QTimer::timeout, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                gezeigt = dialog->objectName();
+                dialog->reject();
+            }
+        });
+        blick.start(1);
+        umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(300), [this] { Fenster().close(); });
+        Waehle(befehl);
+        return gezeigt;
+    }
     QString Titel(int teil) { return Fenster().Fenster(teil).windowTitle(); }
     QLabel& Statusfeld(int nummer) {
         return *Fenster().statusBar()->findChild<QLabel*>(QStringLiteral("sbStatusBar_%1").arg(nummer));
@@ -436,6 +460,44 @@ TEST_F(FrmMainTest, Closing_while_a_dialog_asks_the_controller_ends_the_dialog_a
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(umgebung.meldungen.empty());
     EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+}
+
+TEST_F(FrmMainTest, Closing_while_a_command_waits_for_live_data_to_stop_ends_the_program_without_its_dialog) {
+    for (const char* name : {"mnuInfo", "mnuSimulation", "mnuResetHardware", "mnuAutosendStarten"}) {
+        GeheLiveUndVerstumme();
+        const auto dialog = DialogNachSchliessen(name);
+        EXPECT_EQ(dialog, QString()) << name;
+        EXPECT_EQ(Fenster().OffeneFormulare(), 0) << name;
+        EXPECT_TRUE(umgebung.meldungen.empty()) << name;
+        fenster.reset();
+    }
+}
+
+TEST_F(FrmMainTest,
+       Closing_while_the_controller_is_taken_out_of_autosend_ends_the_program_without_the_service) {
+    GeheLiveUndVerstumme();
+    Waehle("mnuMessdatenVisualisierenStop");
+    EXPECT_EQ(DialogNachSchliessen("mnuResetHardware"), QString());
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(FrmMainTest, A_port_chosen_right_before_closing_is_stored) {
+    GeheLiveUndVerstumme();
+    DialogNachSchliessen("mnuCom_2");
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+    EXPECT_EQ((einstellungen.texte[{"Settings", "ComPort"}]), "2");
+}
+
+TEST_F(FrmMainTest, Closing_with_unsaved_changes_while_a_command_waits_asks_without_its_dialog) {
+    GeheLiveUndVerstumme();
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Abbrechen};
+    EXPECT_EQ(DialogNachSchliessen("mnuSimulation"), QString());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    Fenster().MenuAusführen();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(6002));
 }
 
 TEST_F(FrmMainTest, The_exit_command_ends_the_program) {

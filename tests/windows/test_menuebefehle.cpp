@@ -15,6 +15,8 @@ struct PruefBefehlsziel : Befehlsziel {
     void StoppeLiveDaten() override {
         live = false;
         ablauf.push_back("stop");
+        if (waehrendStop)
+            waehrendStop();
     }
     void FuehreAus(Befehl befehl, int index) override {
         ablauf.push_back(std::to_string(static_cast<int>(befehl)) + "/" + std::to_string(index));
@@ -25,6 +27,7 @@ struct PruefBefehlsziel : Befehlsziel {
     bool live = false;
     std::vector<std::string> ablauf;
     std::function<void()> waehrend;
+    std::function<void()> waehrendStop;
 };
 
 using Ablauf = std::vector<std::string>;
@@ -74,6 +77,15 @@ TEST_F(MenuebefehleTest, A_click_during_a_long_command_runs_right_after_it) {
     EXPECT_EQ(ziel.ablauf, (Ablauf{"1/0", "20/0"}));
 }
 
+TEST_F(MenuebefehleTest, A_click_while_live_data_stops_leaves_the_command_its_own_index) {
+    ziel.live = true;
+    ziel.waehrendStop = [this] { speicher.Klick(Befehl::LichtleisteAnzeigen, 1); };
+    speicher.Klick(Befehl::ComPort, 4);
+    speicher.FuehreAus(ziel);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"stop", "17/4", "3/1"}));
+}
+
 TEST_F(MenuebefehleTest, The_same_command_clicked_again_while_it_runs_runs_again) {
     speicher.Klick(Befehl::VisualisierenStart);
     ziel.waehrend = [this] {
@@ -119,6 +131,14 @@ TEST(Menuebefehle, Exactly_three_commands_start_live_data_again) {
     for (int code = 1; code <= 23; ++code)
         EXPECT_EQ(StartetLiveDatenWieder(static_cast<Befehl>(code)), code == 5 || code == 10 || code == 11)
             << "code " << code;
+}
+
+TEST(Menuebefehle, Exactly_these_commands_do_without_a_window) {
+    for (int code = 1; code <= 23; ++code) {
+        const bool ohneFenster =
+            code == 2 || code == 3 || (code >= 6 && code <= 8) || code == 14 || code == 17 || code >= 22;
+        EXPECT_EQ(ZeigtFenster(static_cast<Befehl>(code)), !ohneFenster) << "code " << code;
+    }
 }
 
 } // namespace varnoth
