@@ -41,14 +41,15 @@ protected:
     pruefung::PruefPort port{umgebung};
     pruefung::PruefGeraet geraet{port};
     bool identGelingt = true;
+    bool identGueltig = true;
     std::string startfehler;
     std::vector<std::string> gestartet;
     bool offenBeimStart = false;
 
 private:
     bool Identifiziere() override {
-        if (!identGelingt)
-            return false;
+        if (!identGelingt || !identGueltig)
+            return identGelingt;
         modSchnittstelle::OpenCommPort();
         modModbus::RTUModeH11IndentifikationsAnforderung();
         modSchnittstelle::CloseCommPort();
@@ -97,6 +98,13 @@ TEST_F(Firmware, The_controller_is_made_ready_before_the_program_starts_with_the
     EXPECT_THAT(port.gesendet, ElementsAre(MitPruefsumme(Bytes({modModbus::GetSlaveAdresse(), 0x09}))));
     EXPECT_THAT(gestartet, ElementsAre("COM1 varnoth.bin"));
     EXPECT_FALSE(offenBeimStart);
+}
+
+TEST_F(Firmware, Without_a_valid_identification_the_program_starts_at_once_and_nothing_is_sent) {
+    identGueltig = false;
+    Aktualisiere();
+    EXPECT_THAT(port.gesendet, IsEmpty());
+    EXPECT_THAT(gestartet, ElementsAre("COM1 varnoth.bin"));
 }
 
 TEST_F(Firmware, A_program_that_cannot_be_started_gives_the_reason_in_a_warning) {

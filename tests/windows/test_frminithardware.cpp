@@ -210,6 +210,23 @@ TEST_F(frmInitHardwareTest, A_cancel_during_the_date_leaves_the_serial_number_wr
     EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False);
 }
 
+TEST_F(frmInitHardwareTest, A_line_pulled_and_plugged_in_again_is_survived) {
+    Dialog dialog(nullptr, Heute);
+    BeiAnforderung([this](int anforderung) {
+        if (anforderung != 2)
+            return;
+        port.offen = false;
+        port.oeffnenGelingt = false;
+        umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(2500),
+                       [this] { port.oeffnenGelingt = true; });
+    });
+    FuelleAus(dialog);
+    dialog.show();
+    Schreibe(dialog);
+    EXPECT_EQ(dialog.GetCancel(), False);
+    EXPECT_EQ(Geschrieben(189), std::vector<int>{2});
+}
+
 TEST_F(frmInitHardwareTest, While_the_procedure_runs_only_cancel_can_be_used) {
     Dialog dialog(nullptr, Heute);
     bool felder = false;
