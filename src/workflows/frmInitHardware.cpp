@@ -66,8 +66,10 @@ void frmInitHardware::FuelleFelder(QDate heute) {
     ui->txtTag->setText(heute.toString(QStringLiteral("dd")));
 }
 
+/// The focus must not fall on the cancel button: the key that pressed Write, pressed once more, would end the
+/// procedure half-way, and a dialog that closes looks like one that has done its work.
 void frmInitHardware::SperreEingaben() {
-    ui->cmdCancel->setFocus();
+    ui->txtUebertragungszustand->setFocus();
     ui->cmdSchreiben->setEnabled(false);
     for (QLineEdit* const feld : {ui->txtSeriennummer, ui->txtJahr, ui->txtMonat, ui->txtTag,
                                   ui->txtHauptversion, ui->txtUnterversion})

@@ -244,6 +244,21 @@ TEST_F(frmInitHardwareTest, While_the_procedure_runs_only_cancel_can_be_used) {
     EXPECT_EQ(AnzahlAnforderungen(), 7);
 }
 
+TEST_F(frmInitHardwareTest, A_key_pressed_again_while_the_procedure_runs_does_not_cancel_it) {
+    Dialog dialog(nullptr, Heute);
+    dialog.show();
+    Kind<QPushButton>(dialog, "cmdSchreiben").setFocus();
+    BeiAnforderung([&](int) {
+        for (const auto art : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent taste(art, Qt::Key_Space, Qt::NoModifier, " ");
+            QCoreApplication::sendEvent(dialog.focusWidget(), &taste);
+        }
+    });
+    Schreibe(dialog);
+    EXPECT_EQ(dialog.GetCancel(), False);
+    EXPECT_EQ(AnzahlAnforderungen(), 7);
+}
+
 TEST_F(frmInitHardwareTest, A_password_of_another_length_closes_the_dialog_without_any_traffic) {
     for (const std::string passwort : {"", "ABCDEFGHIJKLMNO", "ABCDEFGHIJKLMNOPQ"}) {
         modService::SetzeServiceText(passwort);
