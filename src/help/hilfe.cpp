@@ -42,11 +42,6 @@ void Hilfe::ZeigeSeiteZu(QWidget* stelle) {
     ZeigeVor(stelle);
 }
 
-void Hilfe::Schliesse() {
-    if (fenster)
-        fenster->close();
-}
-
 /// Has the file of the current language in the window. The old file goes last: the window shows it until
 /// then.
 bool Hilfe::Oeffne() {

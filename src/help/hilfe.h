@@ -28,8 +28,6 @@ public:
     /// one. When the file cannot be read, a warning box names it; the call does not wait for it.
     /// @param stelle the control that help is asked for, or a window; nullptr: the first page
     void ZeigeSeiteZu(QWidget* stelle);
-    /// Closes the help window, if it is open.
-    void Schliesse();
 
 private:
     bool Oeffne();

@@ -162,7 +162,7 @@ TEST_F(HilfeTest, The_dialog_can_be_used_while_help_is_open) {
 TEST_F(HilfeTest, The_dialog_goes_on_when_help_is_closed_first) {
     OeffneDialog();
     hilfe.ZeigeSeiteZu(dialog.get());
-    hilfe.Schliesse();
+    OffeneHilfe()->close();
     KlickeAuf(*knopf);
     EXPECT_EQ(klicks, 1);
     EXPECT_TRUE(dialog->isVisible());
@@ -184,7 +184,7 @@ TEST_F(HilfeTest, The_main_window_can_be_used_beside_it) {
 
 TEST_F(HilfeTest, A_closed_window_comes_back) {
     hilfe.ZeigeThemen(&hauptfenster);
-    hilfe.Schliesse();
+    OffeneHilfe()->close();
     EXPECT_EQ(OffeneHilfe(), nullptr);
     hilfe.ZeigeSeiteZu(&hauptfenster);
     EXPECT_EQ(Stelle(*OffeneHilfe()), "haupt");
