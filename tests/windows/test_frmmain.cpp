@@ -482,6 +482,18 @@ TEST_F(FrmMainTest,
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
+TEST_F(FrmMainTest, Closing_with_the_about_box_or_the_calculator_open_ends_the_program) {
+    const std::pair<const char*, const char*> faelle[] = {{"mnuInfo", "frmInfo"},
+                                                          {"mnuSimulation", "frmSimulation"}};
+    for (const auto& [befehl, dialog] : faelle) {
+        Sobald(dialog, [this](QDialog&) { Fenster().close(); });
+        Waehle(befehl);
+        EXPECT_EQ(Fenster().OffeneFormulare(), 0) << befehl;
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << befehl;
+        fenster.reset();
+    }
+}
+
 TEST_F(FrmMainTest, A_port_chosen_right_before_closing_is_stored) {
     GeheLiveUndVerstumme();
     DialogNachSchliessen("mnuCom_2");
