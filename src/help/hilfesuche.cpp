@@ -61,7 +61,9 @@ QString Auszug(const QString& seitentext, const QStringList& worte) {
 } // namespace
 
 QStringList Suchworte(const QString& eingabe) {
-    return eingabe.simplified().split(u' ', Qt::SkipEmptyParts);
+    QStringList worte = eingabe.simplified().split(u' ', Qt::SkipEmptyParts);
+    worte.removeDuplicates();
+    return worte;
 }
 
 QList<Fundstelle> Suche(const QList<Seitentext>& seiten, const QStringList& worte) {

@@ -22,7 +22,7 @@ struct Fundstelle {
     bool operator==(const Fundstelle&) const = default;
 };
 
-/// The single words of what was typed.
+/// The single words of what was typed, each once.
 QStringList Suchworte(const QString& eingabe);
 
 /// The pages that hold all the words, in title or text, upper and lower case alike; a word may be part of a

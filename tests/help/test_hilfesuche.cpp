@@ -50,6 +50,10 @@ TEST(Hilfesuche, Blanks_between_words_do_not_count) {
     EXPECT_EQ(Suchworte("  strahl\t leitung "), (QStringList{"strahl", "leitung"}));
 }
 
+TEST(Hilfesuche, A_word_typed_twice_counts_once) {
+    EXPECT_EQ(Suchworte(QStringLiteral("port  com port")), QStringList({"port", "com"}));
+}
+
 TEST(Hilfesuche, No_word_finds_nothing) {
     EXPECT_EQ(Gefunden("   "), QStringList());
 }
