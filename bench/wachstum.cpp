@@ -5,6 +5,29 @@
 
 namespace varnoth::bench {
 
+namespace {
+
+QString Spaltenkopf(const Kostenart& art) {
+    return QLatin1String(art.name) + QStringLiteral(", ms");
+}
+
+/// The line below a column's head, which aligns the column to the right.
+QString Trennlinie(const QString& kopf) {
+    return u'|' + QString(kopf.size() + 1, u'-') + QStringLiteral(":|");
+}
+
+/// A size with its costs; cells as wide as the head above them, so that the table reads well as plain text.
+QString Zeile(const Messreihe& reihe, const Kosten& punkt) {
+    QString zeile = QStringLiteral("| ") + QString::number(punkt.groesse).rightJustified(reihe.name.size()) +
+                    QStringLiteral(" |");
+    for (const Kostenart& art : Kostenarten)
+        zeile += u' ' + QString::number(punkt.*art.wert, 'f', 2).rightJustified(Spaltenkopf(art).size()) +
+                 QStringLiteral(" |");
+    return zeile + u'\n';
+}
+
+} // namespace
+
 double Exponent(const Messreihe& reihe, double Kosten::*wert) {
     const auto anzahl = static_cast<double>(reihe.punkte.size());
     double mitteX = 0;
@@ -36,18 +59,15 @@ double SteilsterSchritt(const Messreihe& reihe, double Kosten::*wert) {
 
 QString Tabelle(const Messreihe& reihe) {
     QString kopf = QStringLiteral("| ") + reihe.name + QStringLiteral(" |");
-    QString linie = QStringLiteral("|---:|");
+    QString linie = Trennlinie(reihe.name);
     for (const Kostenart& art : Kostenarten) {
-        kopf += QStringLiteral(" %1, ms |").arg(QLatin1String(art.name));
-        linie += QStringLiteral("---:|");
+        const QString name = Spaltenkopf(art);
+        kopf += u' ' + name + QStringLiteral(" |");
+        linie += Trennlinie(name).sliced(1);
     }
     QString tabelle = kopf + u'\n' + linie + u'\n';
-    for (const Kosten& punkt : reihe.punkte) {
-        tabelle += QStringLiteral("| %1 |").arg(punkt.groesse);
-        for (const Kostenart& art : Kostenarten)
-            tabelle += QStringLiteral(" %1 |").arg(punkt.*art.wert, 0, 'f', 2);
-        tabelle += u'\n';
-    }
+    for (const Kosten& punkt : reihe.punkte)
+        tabelle += Zeile(reihe, punkt);
     return tabelle;
 }
 

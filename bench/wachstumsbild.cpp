@@ -11,7 +11,7 @@ namespace varnoth::bench {
 namespace {
 
 constexpr double Breite = 900;
-constexpr double Hoehe = 440;
+constexpr double Hoehe = 456;
 constexpr QSizeF Feldgroesse(360, 310);
 constexpr double RandLinks = 60;
 constexpr double RandOben = 90;
@@ -92,7 +92,7 @@ QString Feld::Kostenlinien() const {
         const double y = Ort(reihe.punkte.front().groesse, kosten).y();
         svg += Linie({flaeche.left(), y}, {flaeche.right(), y}, QStringLiteral("gitter")) +
                Text({flaeche.left() - Abstand, y + Grundlinie}, QStringLiteral("end"),
-                    QString::number(kosten, 'g', 3));
+                    QString::number(kosten, 'g', 4));
     }
     return svg;
 }
@@ -153,7 +153,7 @@ QString Kopf() {
 /// A sample of each line with its name, in one row above the panels.
 QString Legende() {
     constexpr double Zeile = 58;
-    constexpr double Spalte = 166;
+    constexpr double Spalte = 180;
     constexpr double Probe = 24;
     constexpr double Grundlinie = 4;
     QString svg;
