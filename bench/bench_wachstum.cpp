@@ -63,6 +63,7 @@ double MissZeichnen(const std::vector<int>& strahlen) {
     constexpr int Scans = 300;
     constexpr QSize Groesse(320, 420);
     std::vector<std::unique_ptr<Scanmaler>> maler;
+    maler.reserve(strahlen.size());
     for (const int anzahl : strahlen)
         maler.push_back(std::make_unique<Scanmaler>(anzahl, Groesse));
     return MedianVon(Scans, [&] {

@@ -3,8 +3,6 @@
 #include "bericht.h"
 #include "zaehlport.h"
 
-#include <modbus/modbus.h>
-
 #include <array>
 #include <cerrno>
 #include <ctime>
@@ -36,7 +34,7 @@ void Pausiere() {
 
 } // namespace
 
-void Libmodbusmaster::Freigabe::operator()(_modbus* alte) const {
+void Libmodbusmaster::Freigabe::operator()(modbus_t* alte) const {
     modbus_close(alte);
     modbus_free(alte);
 }

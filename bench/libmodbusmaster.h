@@ -4,9 +4,9 @@
 
 #include <QString>
 
-#include <memory>
+#include <modbus/modbus.h>
 
-struct _modbus;
+#include <memory>
 
 namespace varnoth::bench {
 
@@ -19,12 +19,12 @@ public:
 
 private:
     struct Freigabe {
-        void operator()(_modbus* verbindung) const;
+        void operator()(modbus_t* verbindung) const;
     };
 
     void Tausche(const Anfrage& anfrage);
 
-    std::unique_ptr<_modbus, Freigabe> verbindung;
+    std::unique_ptr<modbus_t, Freigabe> verbindung;
 };
 
 } // namespace varnoth::bench

@@ -28,9 +28,9 @@ std::uint16_t Wort(std::string_view rahmen, std::size_t stelle) {
 
 Anfrage LiesAnfrage(std::string_view rahmen) {
     const std::uint8_t funktion = Byte(rahmen, StelleFunktion);
-    const bool schreibt = funktion == Schreiben;
     const std::uint16_t anzahl = Wort(rahmen, StelleAnzahl);
-    if (!(funktion == Lesen || (schreibt && anzahl == 1)))
+    const bool schreibt = funktion == Schreiben && anzahl == 1;
+    if (!schreibt && funktion != Lesen)
         Scheitere(QStringLiteral("a polling pass sends something that no read and no single write is"));
     return {.schreibt = schreibt,
             .geraet = Byte(rahmen, StelleGeraet),

@@ -16,8 +16,10 @@ constexpr QSizeF Feldgroesse(360, 310);
 constexpr double RandLinks = 60;
 constexpr double RandOben = 90;
 constexpr double Feldabstand = 440;
-constexpr double KleinsteKosten = 0.01; // ms
-constexpr double GroessteKosten = 1000;
+constexpr int KleinstePotenz = -2; // of ten, ms
+constexpr int GroesstePotenz = 3;
+const double KleinsteKosten = std::pow(10, KleinstePotenz);
+const double GroessteKosten = std::pow(10, GroesstePotenz);
 constexpr double Punktradius = 3.5;
 
 /// Distinct without colours too: the lines have labels, and the order of lightness differs.
@@ -88,7 +90,8 @@ QString Feld::Kostenlinien() const {
     constexpr double Abstand = 8;
     constexpr double Grundlinie = 4;
     QString svg;
-    for (double kosten = KleinsteKosten; kosten < 1.5 * GroessteKosten; kosten *= 10) {
+    for (int potenz = KleinstePotenz; potenz <= GroesstePotenz; ++potenz) {
+        const double kosten = std::pow(10, potenz);
         const double y = Ort(reihe.punkte.front().groesse, kosten).y();
         svg += Linie({flaeche.left(), y}, {flaeche.right(), y}, QStringLiteral("gitter")) +
                Text({flaeche.left() - Abstand, y + Grundlinie}, QStringLiteral("end"),
