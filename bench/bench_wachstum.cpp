@@ -4,17 +4,17 @@
 
 #include "bericht.h"
 #include "messplatz.h"
-#include "scanmaler.h"
+#include "scan.h"
 #include "statistik.h"
 #include "wachstumsbild.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QList>
 #include <QTextStream>
 
 #include <functional>
-#include <memory>
 
 namespace {
 
@@ -59,16 +59,17 @@ double MissSprachwechsel(Messplatz& platz) {
     });
 }
 
-double MissZeichnen(const std::vector<int>& strahlen) {
+/// Draws scans in the views that are shown, as the program does: all of them with one paint of the window.
+double MissZeichnen(Messplatz& platz) {
     constexpr int Scans = 300;
-    constexpr QSize Groesse(320, 420);
-    std::vector<std::unique_ptr<Scanmaler>> maler;
-    maler.reserve(strahlen.size());
-    for (const int anzahl : strahlen)
-        maler.push_back(std::make_unique<Scanmaler>(anzahl, Groesse));
+    QList<BeamBarControl*> balken = platz.Programm().Hauptfenster().findChildren<BeamBarControl*>();
+    balken.removeIf([](const BeamBarControl* einer) { return !einer->isVisible(); });
+    int scan = 0;
     return MedianVon(Scans, [&] {
-        for (const auto& einer : maler)
-            einer->Zeichne();
+        ++scan;
+        for (BeamBarControl* einer : balken)
+            ZeigeScan(*einer, scan);
+        QCoreApplication::processEvents();
     });
 }
 
@@ -84,7 +85,7 @@ Kosten Miss(double groesse, const std::vector<int>& strahlen) {
     MissDurchgaenge(platz, kosten);
     platz.Stoppe();
     kosten.sprache = MissSprachwechsel(platz);
-    kosten.zeichnen = MissZeichnen(strahlen);
+    kosten.zeichnen = MissZeichnen(platz);
     return kosten;
 }
 

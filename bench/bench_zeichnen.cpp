@@ -1,22 +1,28 @@
 // Drawing one whole scan of 512 beams of which every one has changed.
 
 #include "bericht.h"
-#include "scanmaler.h"
+#include "scan.h"
 #include "statistik.h"
 
 #include <QApplication>
+#include <QImage>
 
 namespace {
 
 void Miss(const QSize& groesse) {
     using namespace varnoth::bench;
     constexpr int Scans = 500;
-    constexpr int Strahlen = 512;
-    Scanmaler maler(Strahlen, groesse);
+    varnoth::BeamBarControl balken;
+    balken.SetzeStrahlabstand(5);
+    balken.SetzeStrahlanzahl(512);
+    balken.resize(groesse);
+    QImage bild(groesse, QImage::Format_RGB32);
+    balken.render(&bild);
     std::vector<double> dauern;
-    for (int scan = 0; scan < Scans; ++scan) {
+    for (int scan = 1; scan <= Scans; ++scan) {
         const double beginn = Uhrzeit();
-        maler.Zeichne();
+        ZeigeScan(balken, scan);
+        balken.render(&bild);
         dauern.push_back(1e3 * (Uhrzeit() - beginn));
     }
     Berichte(QStringLiteral("drawing one scan of 512 beams, %1 x %2 pixels")
