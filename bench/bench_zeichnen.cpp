@@ -1,33 +1,18 @@
 // Drawing one whole scan of 512 beams of which every one has changed.
 
-#include "beambarcontrol.h"
 #include "bericht.h"
+#include "scan.h"
 #include "statistik.h"
 
 #include <QApplication>
 #include <QImage>
 
-#include <array>
-
 namespace {
-
-using namespace varnoth;
-
-/// Another state for each beam than the scan before had it.
-void ZeigeScan(BeamBarControl& balken, int scan) {
-    constexpr std::array zustaende{Strahlzustand::Frei, Strahlzustand::Unterbrochen, Strahlzustand::Geblankt};
-    balken.SetzeAutomatischesZeichnen(false);
-    for (int strahl = 0; strahl < balken.Strahlanzahl(); ++strahl) {
-        balken.WaehleStrahl(strahl);
-        balken.SetzeZustand(zustaende.at(static_cast<std::size_t>(strahl + scan) % zustaende.size()));
-    }
-    balken.SetzeAutomatischesZeichnen(true);
-}
 
 void Miss(const QSize& groesse) {
     using namespace varnoth::bench;
     constexpr int Scans = 500;
-    BeamBarControl balken;
+    varnoth::BeamBarControl balken;
     balken.SetzeStrahlabstand(5);
     balken.SetzeStrahlanzahl(512);
     balken.resize(groesse);

@@ -4,24 +4,39 @@
 #include "polling.h"
 #include "schnittstelle.h"
 
+#include <QDir>
+#include <QFile>
+
 namespace varnoth::bench {
 
 namespace {
 
 constexpr QSize Fenstergroesse(1280, 800);
 
-Startbedingungen Bedingungen(const QString& ordner, const QString& geraet) {
+const QString Programmname = QStringLiteral("bench");
+
+void SchreibeEinstellungen(const QString& ordner, int baud) {
+    QFile datei(QDir(ordner).filePath(Programmname + QStringLiteral(".ini")));
+    const QString zeilen = QStringLiteral("[Settings]\nComSettings=%1,n,8,2\n").arg(baud);
+    if (!datei.open(QIODevice::WriteOnly) || datei.write(zeilen.toLatin1()) < 0 || !datei.flush())
+        Scheitere(QStringLiteral("the settings file cannot be written"));
+}
+
+/// Where the program starts; its settings are there then.
+Startbedingungen Bedingungen(const QString& ordner, const QString& geraet, int baud) {
+    SchreibeEinstellungen(ordner, baud);
     return {.worte = {QStringLiteral("/Geraet=") + geraet},
             .programmordner = ordner,
-            .programmname = QStringLiteral("bench"),
+            .programmname = Programmname,
             .sperrordner = ordner,
             .splashSekunden = 0};
 }
 
 } // namespace
 
-Messplatz::Messplatz(const QStringList& simulatorworte)
-    : simulator(simulatorworte), programm(Bedingungen(ordner.path(), simulator.Geraet())) {
+Messplatz::Messplatz(const QStringList& simulatorworte, int baud)
+    : simulator(simulatorworte + QStringList{QStringLiteral("--baud"), QString::number(baud)}),
+      programm(Bedingungen(ordner.path(), simulator.Geraet(), baud)) {
     modSchnittstelle::SetzePort(&port);
     programm.DieQtUmgebung().SetzeMeldungsweg(
         [](const Meldung& meldung) -> Antwort { Scheitere(QString::fromStdString(meldung.text)); });
@@ -39,6 +54,12 @@ void Messplatz::Verbinde() {
     programm.Verbinde();
     if (modPolling::GetPollingAktiv() == False)
         Scheitere(QStringLiteral("no live data"));
+}
+
+void Messplatz::Durchlaufe() {
+    const unsigned durchgaenge = modPolling::GetDurchgaenge();
+    while (modPolling::GetDurchgaenge() == durchgaenge)
+        programm.Runde();
 }
 
 void Messplatz::Stoppe() {

@@ -11,13 +11,15 @@ namespace varnoth::bench {
 /// The whole program beside a simulated controller on a pseudo terminal, with settings of its own.
 class Messplatz {
 public:
-    /// Starts both; the main window is shown, nothing is connected. `simulatorworte` go to the controller. A
-    /// message to the user fails the bench.
-    explicit Messplatz(const QStringList& simulatorworte);
+    /// Starts both, set to so many baud; the main window is shown, nothing is connected. `simulatorworte` go
+    /// to the controller. A message to the user fails the bench.
+    explicit Messplatz(const QStringList& simulatorworte, int baud = Standardbaud);
     ~Messplatz();
 
     /// Connects; fails the bench unless live data runs then.
     void Verbinde();
+    /// Runs the main loop until the next polling pass has ended.
+    void Durchlaufe();
     /// Stops live data as a click on the menu item does.
     void Stoppe();
     /// Answers messages with OK from now on instead of failing.

@@ -3,10 +3,16 @@
 #include "qtseriellerport.h"
 #include "statistik.h"
 
+#include <string>
+#include <vector>
+
 namespace varnoth::bench {
 
 /// The pause before each request, in seconds.
 inline constexpr double Sendepause = 0.002;
+/// Bits that a character takes on the wire.
+inline constexpr double BitsJeZeichen = 11;
+inline constexpr int Standardbaud = 38400;
 
 /// What went over the line.
 struct Verkehr {
@@ -16,14 +22,15 @@ struct Verkehr {
     Verkehr operator-(const Verkehr& frueher) const {
         return {bytes - frueher.bytes, sendungen - frueher.sendungen};
     }
-    /// The least time, in seconds, that this takes at 38400 baud: 11 bits a character and 2 ms before each
-    /// request.
-    double Grenze() const {
-        return static_cast<double>(bytes) * 11 / 38400 + static_cast<double>(sendungen) * Sendepause;
+    /// The least time, in seconds, that this takes at so many baud: the characters on the wire and 2 ms
+    /// before each request.
+    double Grenze(int baud = Standardbaud) const {
+        return static_cast<double>(bytes) * BitsJeZeichen / baud +
+               static_cast<double>(sendungen) * Sendepause;
     }
 };
 
-/// The system's serial port, counting.
+/// The system's serial port, counting and, when told to, keeping what is sent.
 class Zaehlport : public QtSeriellerPort {
 public:
     std::string LiesAlles() override {
@@ -38,6 +45,8 @@ public:
         if (ersteSendung == 0)
             ersteSendung = Uhrzeit();
         ++verkehr.sendungen;
+        if (zeichnetAuf)
+            aufzeichnung.emplace_back(bytes);
         QtSeriellerPort::Schreibe(bytes);
     }
     const Verkehr& Bisher() const { return verkehr; }
@@ -46,10 +55,16 @@ public:
     /// When bytes were sent for the first time since the last call of VergissSendungen, in seconds.
     double ErsteSendung() const { return ersteSendung; }
     void VergissSendungen() { ersteSendung = 0; }
+    /// Keeps every request from now on, or no longer.
+    void ZeichneAuf(bool an) { zeichnetAuf = an; }
+    /// The requests that were kept, whole frames.
+    const std::vector<std::string>& Aufzeichnung() const { return aufzeichnung; }
 
 private:
     double ersteSendung = 0;
     double letzteLesung = 0;
+    bool zeichnetAuf = false;
+    std::vector<std::string> aufzeichnung;
     Verkehr verkehr;
 };
 

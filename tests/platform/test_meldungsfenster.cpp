@@ -39,6 +39,16 @@ TEST(Meldungsfenster, Shows_text_title_and_sign) {
     });
 }
 
+TEST(Meldungsfenster, A_question_shows_a_question_mark_and_a_plain_notice_no_sign) {
+    const std::pair<Symbol, QMessageBox::Icon> faelle[] = {{Symbol::Frage, QMessageBox::Question},
+                                                           {Symbol::Ohne, QMessageBox::NoIcon}};
+    for (const auto& [symbol, zeichen] : faelle)
+        Beantworte({.text = "x", .symbol = symbol}, [z = zeichen](QMessageBox& fenster) {
+            EXPECT_EQ(fenster.icon(), z);
+            fenster.accept();
+        });
+}
+
 TEST(Meldungsfenster, Without_a_title_it_bears_the_programs_title) {
     Beantworte({.text = "x"}, [](QMessageBox& fenster) {
         EXPECT_EQ(fenster.windowTitle(), "Varnoth Monitor");

@@ -287,6 +287,24 @@ TEST_F(BeamBar, Leaving_the_widget_reports_no_beam) {
     EXPECT_EQ(gemeldet, std::vector{-1});
 }
 
+TEST_F(BeamBar, The_beam_under_the_pointer_is_marked_beside_its_row) {
+    Stelle(32, 300, 400);
+    const QImage ohne = Bild();
+    Maus(QEvent::MouseMove, balken.Strahlmitte(7), Qt::NoButton);
+    const std::set<int> marke = VerschiedeneZeilen(ohne, Bild());
+    ASSERT_FALSE(marke.empty());
+    EXPECT_NEAR((*marke.begin() + *marke.rbegin()) / 2.0, balken.Strahlmitte(7).y(), 1);
+}
+
+TEST_F(BeamBar, The_mark_of_the_pointer_goes_with_the_pointer) {
+    Stelle(32, 300, 400);
+    const QImage ohne = Bild();
+    Maus(QEvent::MouseMove, balken.Strahlmitte(7), Qt::NoButton);
+    QEvent weg(QEvent::Leave);
+    QApplication::sendEvent(&balken, &weg);
+    EXPECT_TRUE(VerschiedeneZeilen(ohne, Bild()).empty());
+}
+
 TEST_F(BeamBar, Every_beam_is_hit_in_its_middle) {
     Stelle(64, 300, 400);
     for (int strahl = 0; strahl < 64; ++strahl)
@@ -311,6 +329,18 @@ TEST_F(BeamBar, A_dragged_band_is_zoomed_in) {
     Stelle(100, 300, 400);
     Ziehe(balken.Strahlmitte(20), balken.Strahlmitte(39));
     EXPECT_EQ(balken.SichtbarerAusschnitt(), (Ausschnitt{20, 20}));
+}
+
+TEST_F(BeamBar, A_band_is_shown_over_the_rows_that_it_was_dragged_over) {
+    Stelle(100, 300, 400);
+    const int unten = static_cast<int>(balken.Strahlmitte(20).y());
+    const int oben = static_cast<int>(balken.Strahlmitte(39).y());
+    Maus(QEvent::MouseButtonPress, balken.Strahlmitte(20));
+    const QImage ohne = Bild();
+    Maus(QEvent::MouseMove, balken.Strahlmitte(39));
+    const std::set<int> band = VerschiedeneZeilen(ohne, Bild());
+    for (int y = oben + 1; y < unten; ++y)
+        EXPECT_TRUE(band.contains(y)) << "row " << y;
 }
 
 TEST_F(BeamBar, A_click_in_zoom_mode_zooms_and_blanks_nothing) {
