@@ -88,8 +88,8 @@ void Ablauf::Laufe() {
     }
 }
 
-/// Sleeps a little shorter by what waking took lately, and does not sleep at all that shortly before bytes are
-/// due: a wire is not late.
+/// Sleeps a little shorter by what waking took lately, and does not sleep at all that shortly before bytes
+/// are due: a wire is not late.
 void Ablauf::Schlafe(std::vector<pollfd>& liste) {
     const auto faellig = simulator_.NaechsteFaelligkeit();
     const Zeit weckzeit = faellig.value_or(Zeit{0}) - weckdauer_;
