@@ -41,6 +41,8 @@ void Stelle(QSerialPort& port, const Porteinstellungen& einstellungen) {
 
 // While a reply comes in, window events are served this often.
 constexpr Zeit Fensterblick = std::chrono::milliseconds(4);
+// The system hands a request on once this thread sleeps; painting right after sending would hold it up.
+constexpr Zeit Uebergabe = std::chrono::microseconds(200);
 
 /// Whether the line behind an open port is gone. Qt does not tell in every version and for every kind of
 /// device.
@@ -56,9 +58,12 @@ bool LeitungIstWeg([[maybe_unused]] QSerialPort& port) {
 /// Sleeps on the line itself until something has arrived or the time has passed: the way through the event
 /// loop costs tens of microseconds for each lot of bytes.
 void SchlafeAnDerLeitung([[maybe_unused]] QSerialPort& port, [[maybe_unused]] Zeit hoechstens) {
-#ifdef Q_OS_UNIX
+#ifdef Q_OS_LINUX
     pollfd anschluss{port.handle(), POLLIN, 0};
-    ::poll(&anschluss, 1, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(hoechstens).count()));
+    const auto sekunden = std::chrono::floor<std::chrono::seconds>(hoechstens);
+    const timespec frist{static_cast<time_t>(sekunden.count()),
+                         static_cast<long>(std::chrono::nanoseconds(hoechstens - sekunden).count())};
+    ::ppoll(&anschluss, 1, &frist, nullptr);
 #else
     DieUmgebung().WarteAufEreignis(hoechstens);
 #endif
@@ -165,6 +170,8 @@ void QtSeriellerPort::Schreibe(std::string_view bytes) {
         port.write(bytes.data(), static_cast<qint64>(bytes.size()));
     if (port.isOpen() && !bytes.empty())
         port.flush();
+    if (port.isOpen())
+        SchlafeAnDerLeitung(port, Uebergabe);
     SchaueNachDemFenster();
 }
 

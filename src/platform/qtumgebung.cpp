@@ -59,15 +59,17 @@ void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     wecker.stop();
 }
 
-/// Sleeps a little shorter by what waking took lately; who needs the rest of the time waits on.
+/// Sleeps a little shorter by what waking took lately, and watches the clock for the rest.
 void QtUmgebung::SchlafeBis(Zeit ende) {
     const Zeit weckzeit = ende - weckdauer;
     const Zeit jetzt = Uhr();
-    if (weckzeit <= jetzt)
-        return;
-    std::this_thread::sleep_for(weckzeit - jetzt);
-    const Zeit verspaetung = std::min(Uhr() - weckzeit, LaengsteWeckdauer);
-    weckdauer += (verspaetung - weckdauer) / Weckgedaechtnis;
+    if (weckzeit > jetzt) {
+        std::this_thread::sleep_for(weckzeit - jetzt);
+        const Zeit verspaetung = std::min(Uhr() - weckzeit, LaengsteWeckdauer);
+        weckdauer += (verspaetung - weckdauer) / Weckgedaechtnis;
+    }
+    while (Uhr() < ende)
+        std::this_thread::yield();
 }
 
 Zeit QtUmgebung::Uhr() {
