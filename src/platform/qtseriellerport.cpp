@@ -175,8 +175,9 @@ void QtSeriellerPort::Schreibe(std::string_view bytes) {
     SchaueNachDemFenster();
 }
 
-/// The window's turn to paint: no reply is due yet.
+/// The window's turn to paint: no reply is due yet. What the first round sets, the second paints.
 void QtSeriellerPort::SchaueNachDemFenster() {
+    QCoreApplication::processEvents();
     QCoreApplication::processEvents();
     naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
 }
