@@ -2,6 +2,7 @@
 
 #include "geraetetexte.h"
 #include "pnpausgang.h"
+#include "pnpspeicherung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "registerzugriff.h"

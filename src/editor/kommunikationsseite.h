@@ -1,6 +1,7 @@
 #pragma once
 
 #include "autosend.h"
+#include "autosendbedienung.h"
 
 #include <QWidget>
 

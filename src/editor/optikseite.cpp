@@ -17,9 +17,8 @@ constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
 Optikseite::Optikseite(QWidget* eltern) : QWidget(eltern), ui(std::make_unique<Ui::Optikseite>()) {
     ui->setupUi(this);
-    for (const Auswahlliste& liste : AlleTeillisten())
-        boxen.push_back(findChild<QComboBox*>(
-            QString::fromUtf8(liste.name.data(), static_cast<qsizetype>(liste.name.size()))));
+    boxen = {ui->cboAuflösung,       ui->cboReichweite, ui->cboAnzahlDurchlaeufeFilter, ui->cboGruppenzähler,
+             ui->cboMinMaxHaltezeit, ui->cboLochgröße,  ui->cboMittentoleranz};
     connect(ui->cmdBlankingmuster, &QPushButton::clicked, this,
             [this] { emit BlankingmusterVerlangt(optikteil); });
 }

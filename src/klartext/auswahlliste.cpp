@@ -17,6 +17,16 @@ constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
 constexpr std::int16_t TextWertImGeraet = 5118;
+constexpr std::int16_t TextAufloesung = 5207;
+constexpr std::int16_t TextReichweite = 5208;
+constexpr std::int16_t TextIntegrationszeit = 5209;
+constexpr std::int16_t TextGruppenzaehler = 5210;
+constexpr std::int16_t TextHaltezeit = 5211;
+constexpr std::int16_t TextLochgroesse = 5212;
+constexpr std::int16_t TextMittentoleranz = 5213;
+constexpr std::int16_t TextStationsadresse = 5602;
+constexpr std::int16_t TextAutosendbaudrate = 5605;
+constexpr std::int16_t TextWiederholzeit = 5611;
 
 constexpr std::int32_t Filterbits = 0x3F;
 constexpr std::int32_t Ratenbits = 0xFF;
@@ -38,18 +48,17 @@ const Werteregel& Regel(Speicherbereich bereich, std::int16_t adresse) {
 }
 
 /// A list that offers exactly what the register's rule allows.
-Auswahlliste NachRegel(std::string_view name, std::int16_t adresse, Postenart posten,
+Auswahlliste NachRegel(std::int16_t titel, std::int16_t adresse, Postenart posten,
                        std::span<const std::string_view> texte = {}) {
     const Werteregel& regel = Regel(Spezifisch, adresse);
     const int anzahl = regel.auswahl.empty() ? regel.groesster - regel.kleinster + 1
                                              : static_cast<int>(regel.auswahl.size());
-    return {name, Spezifisch, adresse, regel.maske, regel.kleinster, anzahl, posten, texte, regel.auswahl};
+    return {titel, Spezifisch, adresse, regel.maske, regel.kleinster, anzahl, posten, texte, regel.auswahl};
 }
 
 /// Only the low bits of the register select; the list nevertheless owns them all.
 Auswahlliste Filterliste() {
-    Auswahlliste liste =
-        NachRegel("cboAnzahlDurchlaeufeFilter", spezifisch::Filterdurchlaeufe, Postenart::Dauer);
+    Auswahlliste liste = NachRegel(TextIntegrationszeit, spezifisch::Filterdurchlaeufe, Postenart::Dauer);
     liste.feld = liste.maske;
     liste.maske = Filterbits;
     return liste;
@@ -77,13 +86,13 @@ std::string Postentext(const Auswahlliste& liste, int auswahl, std::int32_t zykl
 
 std::span<const Auswahlliste> AlleTeillisten() {
     static const std::array listen = {
-        NachRegel("cboAuflösung", spezifisch::Aufloesung, Postenart::Millimeter),
-        NachRegel("cboReichweite", spezifisch::Reichweite, Postenart::Texte, Reichweiten),
+        NachRegel(TextAufloesung, spezifisch::Aufloesung, Postenart::Millimeter),
+        NachRegel(TextReichweite, spezifisch::Reichweite, Postenart::Texte, Reichweiten),
         Filterliste(),
-        NachRegel("cboGruppenzähler", spezifisch::Gruppenzaehler, Postenart::Zahl),
-        NachRegel("cboMinMaxHaltezeit", spezifisch::MinMaxHaltezeit, Postenart::Dauer),
-        NachRegel("cboLochgröße", spezifisch::Lochgroesse, Postenart::Zahl),
-        NachRegel("cboMittentoleranz", spezifisch::Mittentoleranz, Postenart::Zahl),
+        NachRegel(TextGruppenzaehler, spezifisch::Gruppenzaehler, Postenart::Zahl),
+        NachRegel(TextHaltezeit, spezifisch::MinMaxHaltezeit, Postenart::Dauer),
+        NachRegel(TextLochgroesse, spezifisch::Lochgroesse, Postenart::Zahl),
+        NachRegel(TextMittentoleranz, spezifisch::Mittentoleranz, Postenart::Zahl),
     };
     return listen;
 }
@@ -94,26 +103,25 @@ const Auswahlliste& Beschreibung(Teilliste liste) {
 
 Auswahlliste Stationsadressen(int groesste) {
     const Werteregel& regel = Regel(Kommunikation, kommunikation::Stationsadresse);
-    return {"cboStationsAdresse", Kommunikation,   kommunikation::Stationsadresse,
-            regel.maske,          regel.kleinster, groesste,
+    return {TextStationsadresse, Kommunikation,   kommunikation::Stationsadresse,
+            regel.maske,         regel.kleinster, groesste,
             Postenart::Hex};
 }
 
 Auswahlliste Autosendraten(int groesste) {
-    return {"cbolOhneTriggerAutosendrate",
-            Kommunikation,
-            kommunikation::Autosend,
-            Ratenbits,
-            1,
-            groesste,
-            Postenart::Dauer};
+    return {TextWiederholzeit, Kommunikation,   kommunikation::Autosend, Ratenbits, 1,
+            groesste,          Postenart::Dauer};
 }
 
 const Auswahlliste& Autosendbaudraten() {
-    static const Auswahlliste liste = {
-        "cboBaudrate",    Kommunikation, kommunikation::Autosendformat,
-        Baudbits,         ErsteBaudrate, static_cast<int>(std::size(Baudraten)),
-        Postenart::Texte, Baudraten};
+    static const Auswahlliste liste = {TextAutosendbaudrate,
+                                       Kommunikation,
+                                       kommunikation::Autosendformat,
+                                       Baudbits,
+                                       ErsteBaudrate,
+                                       static_cast<int>(std::size(Baudraten)),
+                                       Postenart::Texte,
+                                       Baudraten};
     return liste;
 }
 

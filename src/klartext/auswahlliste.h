@@ -28,7 +28,7 @@ enum class Postenart {
 
 /// A list from which one register, or a part of its bits, takes its value.
 struct Auswahlliste {
-    std::string_view name; ///< of the control, without the index of an optical part
+    std::int16_t titel; ///< the text id of its caption
     Speicherbereich bereich;
     std::int16_t adresse;
     std::int32_t maske;  ///< the bits that select the item

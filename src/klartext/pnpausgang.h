@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 
 namespace varnoth {
 
@@ -14,7 +13,6 @@ struct PnpAusgang {
     bool operator==(const PnpAusgang&) const = default;
 };
 
-inline constexpr int AnzahlPnpFunktionen = 9;
 /// The function that exists in no controller; its option is hidden.
 inline constexpr int VerborgenePnpFunktion = 7;
 
@@ -24,8 +22,5 @@ PnpAusgang PnpAusgangAus(std::int32_t registerwert);
 
 /// The register value that the options stand for.
 std::int32_t Registerwert(const PnpAusgang& ausgang);
-
-/// Stores the register value in the given way; a box tells the programmer when it was refused.
-void SpeicherePnpAusgang(std::int32_t registerwert, const std::function<bool(std::int32_t)>& speichere);
 
 } // namespace varnoth

@@ -1,7 +1,5 @@
 #include "autosend.h"
 
-#include "bustyp.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -24,19 +22,6 @@ constexpr Artzeile Arten[] = {
     {Autosendart::OhneTrigger, autosendklasse::OhneTrigger},
     {Autosendart::OhneTriggerModbus, autosendklasse::OhneTrigger},
     {Autosendart::MitTriggerModbus, autosendklasse::MitTrigger},
-};
-
-struct Bedienzeile {
-    std::int16_t klasse;
-    bool trigger;
-    bool rate;
-    bool strahldatenMerken;
-};
-
-constexpr Bedienzeile Bedienzeilen[] = {
-    {autosendklasse::Keines, false, false, false},
-    {autosendklasse::OhneTrigger, false, true, true},
-    {autosendklasse::MitTrigger, true, false, true},
 };
 
 constexpr std::int32_t Formatbits = 0xF00;
@@ -107,14 +92,6 @@ std::int16_t AutosendKlasse(std::optional<Autosendart> art) {
 
 bool IstStartbar(std::optional<Autosendart> art) {
     return AutosendKlasse(art) == autosendklasse::OhneTrigger;
-}
-
-Autosendbedienung BedienungFuer(std::int16_t klasse, std::int32_t typ) {
-    const bool profibus = typ == bustyp::Profibus;
-    const auto* const zeile = std::ranges::find(Bedienzeilen, klasse, &Bedienzeile::klasse);
-    if (zeile == std::end(Bedienzeilen))
-        return {false, false, false, !profibus};
-    return {zeile->trigger, zeile->rate, zeile->strahldatenMerken && !profibus, !profibus};
 }
 
 std::optional<Byteformat> ByteformatAus(std::int32_t registerwert) {

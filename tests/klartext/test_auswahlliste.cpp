@@ -50,7 +50,7 @@ protected:
 TEST_F(AuswahllisteTest, Every_item_of_every_list_gives_a_value_that_selects_it) {
     for (const auto& liste : AlleListen())
         for (int auswahl = 0; auswahl < liste.anzahl; ++auswahl)
-            EXPECT_EQ(AuswahlFuer(liste, WertFuer(liste, auswahl)), auswahl) << liste.name;
+            EXPECT_EQ(AuswahlFuer(liste, WertFuer(liste, auswahl)), auswahl) << liste.titel;
 }
 
 TEST_F(AuswahllisteTest, The_values_at_the_ends_select_the_first_and_the_last_item) {
@@ -79,7 +79,7 @@ TEST_F(AuswahllisteTest, The_values_at_the_ends_select_the_first_and_the_last_it
         {Autosendbaudraten(), 16, 4},
     };
     for (const auto& [liste, wert, auswahl] : faelle)
-        EXPECT_EQ(AuswahlFuer(liste, wert), auswahl) << liste.name << ' ' << wert;
+        EXPECT_EQ(AuswahlFuer(liste, wert), auswahl) << liste.titel << ' ' << wert;
 }
 
 TEST_F(AuswahllisteTest, A_value_outside_the_list_selects_nothing) {
@@ -103,7 +103,7 @@ TEST_F(AuswahllisteTest, A_value_outside_the_list_selects_nothing) {
         {Autosendbaudraten(), 17, KeineAuswahl},
     };
     for (const auto& [liste, wert, auswahl] : faelle)
-        EXPECT_EQ(AuswahlFuer(liste, wert), auswahl) << liste.name << ' ' << wert;
+        EXPECT_EQ(AuswahlFuer(liste, wert), auswahl) << liste.titel << ' ' << wert;
 }
 
 TEST_F(AuswahllisteTest, Only_the_low_six_bits_select_the_integration_time) {
@@ -173,7 +173,7 @@ TEST_F(AuswahllisteTest, The_autosend_baud_rates_begin_at_4_8_KB) {
 
 TEST_F(AuswahllisteTest, Every_list_belongs_to_a_parameter_that_is_written_to_the_controller) {
     for (const auto& liste : AlleListen())
-        EXPECT_TRUE(IstSchreibbar(Beschreibung(liste.bereich, liste.adresse))) << liste.name;
+        EXPECT_TRUE(IstSchreibbar(Beschreibung(liste.bereich, liste.adresse))) << liste.titel;
 }
 
 TEST_F(AuswahllisteTest, The_lists_of_an_optical_part_are_written_in_the_order_of_their_registers) {

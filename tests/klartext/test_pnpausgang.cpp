@@ -1,8 +1,8 @@
 #include "pnpausgang.h"
 
-#include "pruefumgebung.h"
-
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace varnoth {
 
@@ -54,24 +54,6 @@ TEST(PnpAusgang, Reading_and_putting_together_changes_no_value_with_one_function
             for (const std::int32_t pegel : {0, 0x8000})
                 EXPECT_EQ(Registerwert(PnpAusgangAus(bits + teil * 0x100 + pegel)),
                           bits + teil * 0x100 + pegel);
-}
-
-TEST(PnpAusgang, A_refused_store_is_told) {
-    pruefung::PruefUmgebung umgebung;
-    SpeicherePnpAusgang(0x8000, [](std::int32_t) { return false; });
-    const Meldung erwartet{.text = "Error in frmKonfigurationEdit,  PNP-Ausgang", .symbol = Symbol::Ohne};
-    EXPECT_EQ(umgebung.meldungen, std::vector{erwartet});
-}
-
-TEST(PnpAusgang, A_store_that_succeeds_is_silent) {
-    pruefung::PruefUmgebung umgebung;
-    std::int32_t gespeichert = 0;
-    SpeicherePnpAusgang(0x8000, [&](std::int32_t wert) {
-        gespeichert = wert;
-        return true;
-    });
-    EXPECT_EQ(gespeichert, 0x8000);
-    EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 } // namespace varnoth

@@ -1,7 +1,6 @@
 #include "pnpausgang.h"
 
 #include "bitsunddatum.h"
-#include "umgebung.h"
 
 namespace varnoth {
 
@@ -42,12 +41,6 @@ std::int32_t Registerwert(const PnpAusgang& ausgang) {
     modDaten::SetBit(wert, OptikteilBit + 1, Bit(ausgang.optikteil, 1));
     modDaten::SetBit(wert, PegelBit, AlsBoolean(ausgang.pegel == 0));
     return wert;
-}
-
-void SpeicherePnpAusgang(std::int32_t registerwert, const std::function<bool(std::int32_t)>& speichere) {
-    if (!speichere(registerwert))
-        DieUmgebung().ZeigeMeldung(
-            {.text = "Error in frmKonfigurationEdit,  PNP-Ausgang", .symbol = Symbol::Ohne});
 }
 
 } // namespace varnoth

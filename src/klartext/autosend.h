@@ -49,17 +49,6 @@ std::int16_t AutosendKlasse(std::optional<Autosendart> art);
 /// Whether the controller can be told to start sending in this mode.
 bool IstStartbar(std::optional<Autosendart> art);
 
-/// Which of the controls that depend on the mode and the bus can be used.
-struct Autosendbedienung {
-    bool trigger;           ///< the two trigger options
-    bool rate;              ///< the rate and its label
-    bool strahldatenMerken; ///< the check box
-    bool nurModbus;         ///< everything that only a Modbus has is visible
-
-    bool operator==(const Autosendbedienung&) const = default;
-};
-Autosendbedienung BedienungFuer(std::int16_t klasse, std::int32_t typ);
-
 /// The byte formats of the line on which the controller sends; the values are those of its register.
 enum class Byteformat : std::int32_t {
     ZweiStopbitsOhneParitaet = 0x300,
