@@ -142,6 +142,7 @@ std::int32_t WertFuer(const Auswahlliste& liste, int auswahl) {
 std::vector<std::string> Postentexte(const Auswahlliste& liste, std::int32_t zyklus,
                                      const Zahlformat& zahlformat) {
     std::vector<std::string> texte;
+    texte.reserve(static_cast<std::size_t>(liste.anzahl));
     for (int auswahl = 0; auswahl < liste.anzahl; ++auswahl)
         texte.push_back(Postentext(liste, auswahl, zyklus, zahlformat));
     return texte;
