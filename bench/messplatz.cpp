@@ -38,7 +38,7 @@ Messplatz::Messplatz(const QStringList& simulatorworte, int baud)
     : simulator(simulatorworte + QStringList{QStringLiteral("--baud"), QString::number(baud)}),
       programm(Bedingungen(ordner.path(), simulator.Geraet(), baud)) {
     modSchnittstelle::SetzePort(&port);
-    programm.DieQtUmgebung().SetzeMeldungsweg(
+    programm.DieFensterumgebung().SetzeMeldungsweg(
         [](const Meldung& meldung) -> Antwort { Scheitere(QString::fromStdString(meldung.text)); });
     if (!programm.Starte())
         Scheitere(QStringLiteral("the program does not start"));
@@ -69,7 +69,7 @@ void Messplatz::Stoppe() {
 }
 
 void Messplatz::UebergeheMeldungen() {
-    programm.DieQtUmgebung().SetzeMeldungsweg([](const Meldung&) { return Antwort::Ok; });
+    programm.DieFensterumgebung().SetzeMeldungsweg([](const Meldung&) { return Antwort::Ok; });
 }
 
 } // namespace varnoth::bench

@@ -18,13 +18,17 @@ if(VARNOTH_FUZZ)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-# varnoth_room(NAME SOURCES file... [ROOMS room...] [LIBS library...]): the static library varnoth_NAME.
+# varnoth_room(NAME SOURCES file... [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...]): the static library
+# varnoth_NAME. Who uses a room also sees its ROOMS, because its headers name them; PRIVATE_ROOMS only its own sources see.
 function(varnoth_room name)
-    cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;LIBS" ${ARGN})
+    cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;PRIVATE_ROOMS;LIBS" ${ARGN})
     add_library(varnoth_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(varnoth_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     list(TRANSFORM ROOM_ROOMS PREPEND varnoth_)
-    target_link_libraries(varnoth_${name} PUBLIC ${ROOM_ROOMS} ${ROOM_LIBS} PRIVATE varnoth_warnings)
+    list(TRANSFORM ROOM_PRIVATE_ROOMS PREPEND varnoth_)
+    target_link_libraries(varnoth_${name}
+        PUBLIC ${ROOM_ROOMS} ${ROOM_LIBS}
+        PRIVATE ${ROOM_PRIVATE_ROOMS} varnoth_warnings)
     if(ROOM_LIBS MATCHES "Qt6::Widgets")
         set_target_properties(varnoth_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
     endif()

@@ -1,7 +1,5 @@
 #include "qtumgebung.h"
 
-#include "meldungsfenster.h"
-
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -42,15 +40,19 @@ QtUmgebung::~QtUmgebung() {
     SetzeUmgebung(nullptr);
 }
 
+void QtUmgebung::BedieneEreignisse() {
+    QCoreApplication::processEvents();
+}
+
 int QtUmgebung::LasseEreignisseLaufen() {
-    malen.LasseEreignisseLaufen();
+    BedieneEreignisse();
     return formularzaehler ? formularzaehler() : 0;
 }
 
 void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
-        malen.LasseEreignisseLaufen();
+        BedieneEreignisse();
         SchlafeBis(ende);
         return;
     }
@@ -77,7 +79,11 @@ Zeit QtUmgebung::Uhr() {
 }
 
 Antwort QtUmgebung::ZeigeMeldung(const Meldung& meldung) {
-    return meldungsweg ? meldungsweg(meldung) : ZeigeMeldungsfenster(meldung);
+    return meldungsweg ? meldungsweg(meldung) : Frage(meldung);
+}
+
+Antwort QtUmgebung::Frage(const Meldung& meldung) {
+    return meldung.knoepfe == Knoepfe::Ok ? Antwort::Ok : Antwort::Abbrechen;
 }
 
 void QtUmgebung::ZeigeStatustext(int feld, const std::string& text) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "malaufschub.h"
 #include "umgebung.h"
 
 #include <QTimer>
@@ -10,7 +9,7 @@
 
 namespace varnoth {
 
-/// The environment of the running program: Qt's events, message boxes and clock.
+/// The environment of a running program: Qt's events and clock. It needs no window.
 class QtUmgebung : public Umgebung {
 public:
     QtUmgebung();
@@ -26,14 +25,19 @@ public:
     void SetzeFormularzaehler(std::function<int()> zaehler);
     /// Sets who shows status texts; panels are numbered from 1.
     void SetzeStatusanzeige(std::function<void(int feld, const std::string& text)> anzeige);
-    /// Sets who answers message boxes instead of a real box (an empty function: the box again).
+    /// Sets who answers messages (an empty function: whoever this environment asks by itself).
     void SetzeMeldungsweg(std::function<Antwort(const Meldung&)> weg);
+
+protected:
+    /// Runs the pending events that cannot wait.
+    virtual void BedieneEreignisse();
+    /// Asks a person. Nobody is there without windows: the answer is that of a box that is closed.
+    virtual Antwort Frage(const Meldung& meldung);
 
 private:
     void SchlafeBis(Zeit ende);
 
     QTimer wecker;
-    Malaufschub malen;
     Zeit weckdauer{0};
     std::function<int()> formularzaehler;
     std::function<void(int, const std::string&)> statusanzeige;

@@ -1,11 +1,16 @@
 #include "simulatorport.h"
 
 #include "porteinstellungen.h"
+#include "simulator.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace varnoth {
+
+SimulatorPort::SimulatorPort() : geraet(std::make_unique<simulator::Simulator>(simulator::Aufbau{})) {}
+
+SimulatorPort::~SimulatorPort() = default;
 
 bool SimulatorPort::Oeffne(int /*nummer*/, const std::string& einstellungen) {
     offen = LiesPorteinstellungen(einstellungen).has_value();
@@ -17,11 +22,11 @@ bool SimulatorPort::Oeffne(int /*nummer*/, const std::string& einstellungen) {
 void SimulatorPort::Schliesse() {
     offen = false;
     eingang.clear();
-    geraet.TrenneLeitung();
+    geraet->TrenneLeitung();
 }
 
 void SimulatorPort::NimmAngekommenes() {
-    for (const std::uint8_t byte : geraet.Entnimm(DieUmgebung().Uhr()))
+    for (const std::uint8_t byte : geraet->Entnimm(DieUmgebung().Uhr()))
         eingang += static_cast<char>(byte);
 }
 
@@ -42,12 +47,12 @@ std::string SimulatorPort::LiesAlles() {
 
 void SimulatorPort::Schreibe(std::string_view bytes) {
     if (offen)
-        geraet.Empfange({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()},
-                        DieUmgebung().Uhr());
+        geraet->Empfange({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()},
+                         DieUmgebung().Uhr());
 }
 
 void SimulatorPort::WarteAufEingang(Zeit hoechstens) {
-    const auto faellig = geraet.NaechsteFaelligkeit();
+    const auto faellig = geraet->NaechsteFaelligkeit();
     const Zeit bisEingang = faellig ? *faellig - DieUmgebung().Uhr() : hoechstens;
     DieUmgebung().WarteAufEreignis(std::clamp(bisEingang, Zeit{0}, hoechstens));
 }

@@ -1,15 +1,21 @@
 #pragma once
 
 #include "seriellerport.h"
-#include "simulator.h"
+
+#include <memory>
 
 namespace varnoth {
+
+namespace simulator {
+class Simulator;
+}
 
 /// A port behind which the built-in controller answers, with the timing of a real line. Every port number
 /// leads to it.
 class SimulatorPort : public SeriellerPort {
 public:
-    SimulatorPort() = default;
+    SimulatorPort();
+    ~SimulatorPort() override;
 
     bool Oeffne(int nummer, const std::string& einstellungen) override;
     void Schliesse() override;
@@ -26,7 +32,7 @@ public:
 private:
     void NimmAngekommenes();
 
-    simulator::Simulator geraet{simulator::Aufbau{}};
+    std::unique_ptr<simulator::Simulator> geraet;
     std::string eingang;
     std::string fehlertext;
     bool offen = false;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "fensterumgebung.h"
 #include "frmMain.h"
 #include "hilfe.h"
 #include "hilfetaste.h"
 #include "inieinstellungen.h"
 #include "instanzsperre.h"
 #include "kommandozeile.h"
-#include "qtumgebung.h"
 #include "seriellerport.h"
 
 #include <QString>
@@ -44,7 +44,7 @@ public:
     int Laufe();
 
     frmMain& Hauptfenster() { return *hauptfenster; }
-    QtUmgebung& DieQtUmgebung() { return umgebung; }
+    Fensterumgebung& DieFensterumgebung() { return umgebung; }
     const Kommandozeile& Worte() const { return kommandozeile; }
     /// The help file of the current language: beside the executable, else in the data folder of an installed
     /// program, else in the system's. Where none is there, the path beside the executable.
@@ -60,7 +60,7 @@ private:
 
     Startbedingungen bedingungen;
     Kommandozeile kommandozeile;
-    QtUmgebung umgebung;
+    Fensterumgebung umgebung;
     IniEinstellungen einstellungen;
     Instanzsperre sperre;
     std::unique_ptr<SeriellerPort> port;

@@ -75,7 +75,7 @@ void BerichteMesswerte(QTextStream& aus, int optikteil) {
 
 } // namespace
 
-Selbsttest::Selbsttest(QtUmgebung& die, const QString& ordner) : umgebung(die), bildordner(ordner) {
+Selbsttest::Selbsttest(Fensterumgebung& die, const QString& ordner) : umgebung(die), bildordner(ordner) {
     umgebung.SetzeMeldungsweg([this](const Meldung& meldung) {
         Scheitere(Text(meldung.text));
         return meldung.knoepfe == Knoepfe::Ok ? Antwort::Ok : Antwort::Abbrechen;

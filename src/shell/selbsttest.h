@@ -1,7 +1,7 @@
 #pragma once
 
+#include "fensterumgebung.h"
 #include "frmMain.h"
-#include "qtumgebung.h"
 
 #include <QElapsedTimer>
 #include <QString>
@@ -15,7 +15,7 @@ namespace varnoth {
 class Selbsttest {
 public:
     /// From now on messages open no box; the first one is the reason of the failure.
-    Selbsttest(QtUmgebung& umgebung, const QString& ordner);
+    Selbsttest(Fensterumgebung& umgebung, const QString& ordner);
     ~Selbsttest();
 
     /// Watches from now on what the main window, which must outlive this object, shows.
@@ -32,7 +32,7 @@ private:
     void Beende();
 
     frmMain* fenster = nullptr;
-    QtUmgebung& umgebung;
+    Fensterumgebung& umgebung;
     QString bildordner;
     QTimer takt;
     QElapsedTimer seitStart;

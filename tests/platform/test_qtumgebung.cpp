@@ -51,6 +51,12 @@ TEST_F(QtUmgebungTest, Messages_take_the_way_that_was_set) {
     EXPECT_EQ(gezeigt, "x");
 }
 
+TEST_F(QtUmgebungTest, Without_windows_a_message_gets_the_answer_of_a_box_that_is_closed) {
+    EXPECT_EQ(umgebung.ZeigeMeldung({.text = "x", .knoepfe = Knoepfe::Ok}), Antwort::Ok);
+    EXPECT_EQ(umgebung.ZeigeMeldung({.text = "x", .knoepfe = Knoepfe::OkAbbrechen}), Antwort::Abbrechen);
+    EXPECT_EQ(umgebung.ZeigeMeldung({.text = "x", .knoepfe = Knoepfe::JaNeinAbbrechen}), Antwort::Abbrechen);
+}
+
 TEST_F(QtUmgebungTest, Status_texts_reach_who_shows_them) {
     int gezeigtesFeld = 0;
     umgebung.SetzeStatusanzeige([&gezeigtesFeld](int feld, const std::string&) { gezeigtesFeld = feld; });

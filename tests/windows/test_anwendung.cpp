@@ -53,7 +53,7 @@ protected:
         return *anwendung;
     }
     void ZeichneAuf(Anwendung& programm) {
-        programm.DieQtUmgebung().SetzeMeldungsweg([this](const Meldung& meldung) {
+        programm.DieFensterumgebung().SetzeMeldungsweg([this](const Meldung& meldung) {
             meldungen.push_back(meldung.text);
             return Antwort::Ok;
         });
