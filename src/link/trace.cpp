@@ -3,23 +3,33 @@
 #include "umgebung.h"
 #include "zahlen.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdint>
-#include <fstream>
+#include <cstdio>
+#include <memory>
 #include <system_error>
 
 namespace varnoth::modTrace {
 
 namespace {
 
-constexpr std::streamoff HoechsteGroesse = 1000000;
+constexpr long HoechsteGroesse = 1000000;
+constexpr mode_t NurEigentuemer = 0600; // passwords go over the line too
 
 // The file has one byte a character (Windows-1252).
 constexpr const char* Zeitueberschreitung = "Zeit\xFC"
                                             "berschreitung\r\n";
 constexpr const char* WirdGeschlossen = "\r\nDie Datei wird geschlossen. Sie wird zu gro\xDF.";
 
-std::ofstream datei;
+struct Schliesser {
+    void operator()(std::FILE* offene) const { std::fclose(offene); }
+};
+
+std::unique_ptr<std::FILE, Schliesser> datei;
 std::string schreibfehler; // why the file takes no more; empty while it does
 
 std::string Systemfehler() {
@@ -28,10 +38,24 @@ std::string Systemfehler() {
 
 void Schreibe(std::string_view text) {
     errno = 0;
-    datei.write(text.data(), static_cast<std::streamsize>(text.size()));
-    datei.flush();
-    if (!datei && schreibfehler.empty())
+    if (std::fwrite(text.data(), 1, text.size(), datei.get()) != text.size() && schreibfehler.empty())
         schreibfehler = Systemfehler();
+}
+
+/// Makes the file anew, from its first moment for the user alone, whatever the umask. False, with the reason
+/// in errno, when something stands there or nothing can be made.
+bool LegeAn(const std::filesystem::path& pfad) {
+    const int nummer = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, NurEigentuemer);
+    if (nummer < 0)
+        return false;
+    ::fchmod(nummer, NurEigentuemer);
+    datei.reset(::fdopen(nummer, "wb"));
+    if (datei == nullptr) {
+        ::close(nummer);
+        return false;
+    }
+    std::setvbuf(datei.get(), nullptr, _IONBF, 0);
+    return true;
 }
 
 void Beende(const std::string& grund, Symbol symbol) {
@@ -56,8 +80,7 @@ std::string Starte(const std::filesystem::path& pfad) {
     std::error_code ohneBelang;
     std::filesystem::remove(pfad, ohneBelang);
     errno = 0;
-    datei.open(pfad, std::ios::binary | std::ios::trunc);
-    if (!datei.is_open())
+    if (!LegeAn(pfad))
         return Systemfehler();
     Schreibe("Start\r\n");
     const std::string fehler = schreibfehler;
@@ -67,14 +90,12 @@ std::string Starte(const std::filesystem::path& pfad) {
 }
 
 void Schliesse() {
-    if (datei.is_open())
-        datei.close();
-    datei.clear();
+    datei.reset();
     schreibfehler.clear();
 }
 
 bool Aktiv() {
-    return datei.is_open();
+    return datei != nullptr;
 }
 
 void SchreibeLesung(std::string_view bytes) {
@@ -91,7 +112,7 @@ void SchreibeLeerung() {
     Schreibe("ClearCommPort, ");
     if (!schreibfehler.empty()) {
         Beende(schreibfehler, Symbol::Warnung);
-    } else if (datei.tellp() > HoechsteGroesse) {
+    } else if (std::ftell(datei.get()) > HoechsteGroesse) {
         Schreibe(WirdGeschlossen);
         Beende("Sie wird zu groß.", Symbol::Ohne);
     }

@@ -10,7 +10,7 @@ namespace varnoth::modTrace {
 /// The trace file's name, in the current directory.
 inline constexpr const char* Dateiname = "Test.txt";
 
-/// Deletes an old trace file, opens a new one and writes its first line.
+/// Deletes an old trace file, opens a new one, which only the user may read, and writes its first line.
 /// @return empty, or the error's description when the file cannot be opened or written; nothing is traced
 /// then
 std::string Starte(const std::filesystem::path& datei);

@@ -1,11 +1,15 @@
 #include "ablauf.h"
 
+#include "eigenedatei.h"
+
 #include <poll.h>
 #ifdef __linux__
 #include <sys/prctl.h>
 #endif
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 #include <stdexcept>
 
@@ -61,14 +65,16 @@ Ablauf::Ablauf(Optionen optionen)
 
 Aufbau Ablauf::MitProtokoll(const Optionen& optionen) {
     Aufbau aufbau = optionen.aufbau;
-    if (optionen.protokoll.empty())
-        return aufbau;
-    if (optionen.protokoll != "-")
-        protokoll_.open(optionen.protokoll);
-    if (!protokoll_)
-        throw std::runtime_error("--log: " + optionen.protokoll + " cannot be written");
-    std::ostream& ziel = optionen.protokoll == "-" ? std::cout : protokoll_;
-    aufbau.protokoll = [&ziel](std::string_view zeile) { ziel << zeile << std::endl; };
+    if (optionen.protokoll == "-") {
+        aufbau.protokoll = [](std::string_view zeile) { std::cout << zeile << std::endl; };
+    } else if (!optionen.protokoll.empty()) {
+        protokoll_ = OeffneZumSchreiben(optionen.protokoll);
+        if (protokoll_.Nummer() < 0)
+            throw std::runtime_error("--log " + optionen.protokoll + ": " + std::strerror(errno));
+        aufbau.protokoll = [this](std::string_view zeile) {
+            SchreibeAlles(protokoll_, std::string(zeile) + '\n');
+        };
+    }
     return aufbau;
 }
 

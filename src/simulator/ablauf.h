@@ -7,8 +7,6 @@
 
 #include <signal.h>
 
-#include <fstream>
-
 namespace varnoth::simulator {
 
 /// The program's work: serves terminal and control channel until a signal asks it to end. Between events it
@@ -34,7 +32,7 @@ private:
 
     std::chrono::steady_clock::time_point anfang_ = std::chrono::steady_clock::now();
     sigset_t schlafmaske_{};
-    std::ofstream protokoll_;
+    Dateideskriptor protokoll_;
     Simulator simulator_;
     Ptyserver pty_;
     Steuerkanal kanal_;

@@ -139,7 +139,7 @@ std::string Zustand(const Werkbank& bank, Woerterliste) {
 std::string Hilfe(const Werkbank& bank, Woerterliste woerter);
 
 constexpr Befehl Befehle[] = {
-    {"fault", "fault NAME[=ARGUMENT][:COUNT][@FUNCTION]|none", 1, 1, Fehler},
+    {"fault", "fault NAME[=ARGUMENT[,MS]][:COUNT][@FUNCTION]|none", 1, 1, Fehler},
     {"part", "part PART add|remove", 2, 2, Teil},
     {"beams", "beams PART COUNT", 2, 2, Strahlen},
     {"restart", "restart", 0, 0, Neustart},

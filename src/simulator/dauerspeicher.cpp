@@ -1,9 +1,10 @@
 #include "dauerspeicher.h"
 
+#include "eigenedatei.h"
 #include "registername.h"
 #include "zahltext.h"
 
-#include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -29,6 +30,11 @@ void FuerJedesRegister(Speicher& speicher, Tun tun) {
     }
 }
 
+bool SchreibeNeu(const std::filesystem::path& pfad, std::string_view text) {
+    const Dateideskriptor datei = OeffneZumSchreiben(pfad);
+    return datei.Nummer() >= 0 && SchreibeAlles(datei, text);
+}
+
 bool WirdBehalten(Ort ort) {
     const Eintrag* eintrag = FindeSchreibbar(ort);
     return (ort.bereich == Bereich::Spezifisch && ort.adresse == reg::Strahlenzahl) ||
@@ -49,6 +55,8 @@ void LiesZeile(Registerspeicher& speicher, std::string_view zeile) {
 
 Dauerspeicher::Dauerspeicher(const Registerspeicher& anfang, std::filesystem::path datei)
     : inhalt_(anfang), datei_(std::move(datei)) {
+    if (IstVerweis(datei_))
+        throw std::runtime_error(datei_.string() + " is a symbolic link: choose another path");
     if (!datei_.empty() && std::filesystem::exists(datei_))
         Lies();
 }
@@ -62,9 +70,10 @@ bool Dauerspeicher::Behalte(const Registerspeicher& speicher, Art art) {
 }
 
 void Dauerspeicher::Lies() {
-    std::ifstream strom(datei_);
-    std::string zeile;
-    if (!std::getline(strom, zeile) || zeile != Kopf)
+    std::string inhalt, zeile;
+    const bool gelesen = LiesAlles(datei_, inhalt);
+    std::istringstream strom(inhalt);
+    if (!gelesen || !std::getline(strom, zeile) || zeile != Kopf)
         throw std::runtime_error(datei_.string() + " is not a store of this program, or cannot be read");
     for (int nummer = 2; std::getline(strom, zeile); ++nummer)
         try {
@@ -75,19 +84,20 @@ void Dauerspeicher::Lies() {
         }
 }
 
+/// Replaces the file in one step. Neither it nor what stands beside it under the new name may be a link.
 bool Dauerspeicher::Schreibe() const {
+    std::ostringstream text;
+    text << Kopf << '\n';
+    FuerJedesRegister(inhalt_, [&text](const Registername& name, std::uint16_t wert) {
+        text << Text(name) << ' ' << wert << '\n';
+    });
     std::filesystem::path neu = datei_;
     neu += ".new";
-    std::ofstream strom(neu, std::ios::trunc);
-    strom << Kopf << '\n';
-    FuerJedesRegister(inhalt_, [&strom](const Registername& name, std::uint16_t wert) {
-        strom << Text(name) << ' ' << wert << '\n';
-    });
-    strom.close();
     std::error_code fehler;
-    if (strom)
-        std::filesystem::rename(neu, datei_, fehler);
-    return strom && !fehler;
+    if (IstVerweis(datei_) || !SchreibeNeu(neu, text.str()))
+        return false;
+    std::filesystem::rename(neu, datei_, fehler);
+    return !fehler;
 }
 
 } // namespace varnoth::simulator

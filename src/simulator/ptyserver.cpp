@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <termios.h>
 
 #include <array>
@@ -9,6 +10,7 @@
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
+#include <string_view>
 
 namespace varnoth::simulator {
 
@@ -38,6 +40,21 @@ Dateideskriptor OeffneSlave(const std::string& geraet) {
     return slave;
 }
 
+constexpr std::string_view Geraeteordner = "/dev/";
+constexpr std::string_view Zielordner = "/dev/./"; // nobody else writes it like this
+
+/// The terminal's path in a spelling by which this program knows its own links again.
+std::string Linkziel(const std::string& geraet) {
+    return std::string(Zielordner) + geraet.substr(Geraeteordner.size());
+}
+
+bool IstEigene(const std::string& verknuepfung) {
+    struct stat da {};
+    std::error_code fehler;
+    return ::lstat(verknuepfung.c_str(), &da) == 0 && S_ISLNK(da.st_mode) && da.st_uid == ::geteuid() &&
+           fs::read_symlink(verknuepfung, fehler).string().starts_with(Zielordner);
+}
+
 } // namespace
 
 void Ptyserver::Stecke() {
@@ -52,31 +69,37 @@ void Ptyserver::Stecke() {
 
 void Ptyserver::Ziehe() {
     std::error_code fehler;
-    if (VerknuepfungIstUnsere())
+    if (VerknuepfungFuehrtHierher())
         fs::remove(verknuepfung_, fehler);
     slave_.Schliesse();
     master_.Schliesse();
     geraet_.clear();
 }
 
-/// Replaces the link in one step: at no time is there none.
+/// A link that an earlier run has left is replaced in one step: at no time is there none. Anything else that
+/// stands in the link's place, or in that of the new one, is not ours.
 void Ptyserver::Verknuepfe() const {
-    const fs::file_status da = fs::symlink_status(verknuepfung_);
-    if (fs::exists(da) && !fs::is_symlink(da))
-        throw std::runtime_error(verknuepfung_ + " exists and is no symbolic link: choose another path");
-    const std::string neu = verknuepfung_ + ".new";
     std::error_code fehler;
-    fs::remove(neu, fehler);
-    fs::create_symlink(geraet_, neu, fehler);
-    if (!fehler)
-        fs::rename(neu, verknuepfung_, fehler);
+    fs::create_symlink(Linkziel(geraet_), verknuepfung_, fehler);
+    if (fehler == std::errc::file_exists) {
+        if (!IstEigene(verknuepfung_))
+            throw std::runtime_error(verknuepfung_ +
+                                     " exists and is no link of this program: choose another path");
+        const std::string neu = verknuepfung_ + ".new";
+        if (IstEigene(neu))
+            fs::remove(neu, fehler);
+        fs::create_symlink(Linkziel(geraet_), neu, fehler);
+        if (!fehler)
+            fs::rename(neu, verknuepfung_, fehler);
+    }
     if (fehler)
         throw std::runtime_error(verknuepfung_ + ": " + fehler.message());
 }
 
-bool Ptyserver::VerknuepfungIstUnsere() const {
+bool Ptyserver::VerknuepfungFuehrtHierher() const {
     std::error_code fehler;
-    return !verknuepfung_.empty() && !geraet_.empty() && fs::read_symlink(verknuepfung_, fehler) == geraet_;
+    return !verknuepfung_.empty() && !geraet_.empty() &&
+           fs::read_symlink(verknuepfung_, fehler) == Linkziel(geraet_);
 }
 
 std::vector<std::uint8_t> Ptyserver::Lies() {

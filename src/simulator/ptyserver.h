@@ -18,7 +18,8 @@ public:
     Ptyserver& operator=(const Ptyserver&) = delete;
     ~Ptyserver() { Ziehe(); }
 
-    /// Opens a new terminal and makes the link; nothing when it is open already.
+    /// Opens a new terminal and makes the link; nothing when it is open already. Of what stands in the link's
+    /// place only a link of this program's own making, of an earlier run, is replaced.
     /// @throws std::runtime_error with a sentence for the user
     void Stecke();
     /// Closes the terminal, so that whoever has it open is hung up, and removes the link.
@@ -35,7 +36,7 @@ public:
 
 private:
     void Verknuepfe() const;
-    bool VerknuepfungIstUnsere() const;
+    bool VerknuepfungFuehrtHierher() const;
 
     std::string verknuepfung_;
     std::string geraet_;

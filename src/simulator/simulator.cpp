@@ -52,10 +52,11 @@ void Simulator::Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt) {
                               : geraet_.Bearbeite(anfrage, jetzt);
     if (antwort.empty())
         return;
+    verlauf_.Nimm(antwort);
     Sendung sendung;
     sendung.push_back({.zeichen = std::move(antwort)});
     if (stoerung) {
-        stoerung->art->verfaelsche(sendung, stoerung->wert);
+        stoerung->Verfaelsche(sendung, verlauf_);
         protokoll_.Zeile([&] {
             return "fault " + std::string(stoerung->art->name) + " at function " + std::to_string(funktion);
         });

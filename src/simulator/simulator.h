@@ -37,6 +37,7 @@ private:
     Optik optik_;
     Steuergeraet geraet_;
     Stoerungen stoerungen_{};
+    Antwortverlauf verlauf_{};
     Leitung leitung_;
     Anfragenleser leser_{};
     Zeit bedenkzeit_;

@@ -63,8 +63,9 @@ constexpr Option AlleOptionen[] = {
      [](Optionen& o, std::string_view wert) { o.protokoll = wert; }},
     {"--control", "PATH", "take commands, one a line, at a Unix socket; the command help lists them",
      [](Optionen& o, std::string_view wert) { o.steuerkanal = wert; }},
-    {"--fault", "NAME[=ARG][:COUNT][@FUNCTION]",
-     "silence, crc, address, exception=CODE, stray=BYTES, pieces=MS, surplus=BYTES, late=MS, flip=BIT",
+    {"--fault", "NAME[=ARG[,MS]][:COUNT][@FUNCTION]",
+     "silence, crc, address, exception=CODE, stray=BYTES, pieces=MS, surplus=BYTES, late=MS, flip=BIT, "
+     "repeat=MS, repeat-twice=MS, repeat-flip=BIT,MS, repeat-earlier=BACK,MS",
      [](Optionen& o, std::string_view wert) { o.aufbau.stoerungen.push_back(LiesStoerung(wert)); }},
     {"--exit-with-parent", "", "end when the program that started this one ends",
      [](Optionen& o, std::string_view) { o.endetMitEltern = true; }},

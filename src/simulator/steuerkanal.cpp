@@ -1,6 +1,7 @@
 #include "steuerkanal.h"
 
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 
 #include <algorithm>
@@ -41,6 +42,15 @@ void RaeumeAuf(const sockaddr_un& adresse) {
         ::unlink(adresse.sun_path);
 }
 
+/// Gives the socket its place. From its first moment nobody but the owner may connect, whatever the umask.
+bool Binde(const Dateideskriptor& tuer, const sockaddr_un& adresse) {
+    constexpr mode_t AllesAusserLesenUndSchreibenDesEigentuemers = 0177;
+    const mode_t vorher = ::umask(AllesAusserLesenUndSchreibenDesEigentuemers);
+    const int ergebnis = ::bind(tuer.Nummer(), reinterpret_cast<const sockaddr*>(&adresse), sizeof adresse);
+    ::umask(vorher);
+    return ergebnis == 0;
+}
+
 bool Antworte(const Dateideskriptor& leitung, const std::string& zeile) {
     const std::string text = zeile + '\n';
     return ::send(leitung.Nummer(), text.data(), text.size(), MSG_NOSIGNAL) ==
@@ -55,8 +65,7 @@ Steuerkanal::Steuerkanal(std::string pfad) : pfad_(std::move(pfad)) {
     const sockaddr_un adresse = Socketadresse(pfad_);
     RaeumeAuf(adresse);
     Dateideskriptor tuer = NeuerSocket();
-    if (::bind(tuer.Nummer(), reinterpret_cast<const sockaddr*>(&adresse), sizeof adresse) != 0 ||
-        ::listen(tuer.Nummer(), Wartende) != 0)
+    if (!Binde(tuer, adresse) || ::listen(tuer.Nummer(), Wartende) != 0)
         throw std::runtime_error("--control " + pfad_ + ": " + std::strerror(errno));
     tuer_ = std::move(tuer);
 }

@@ -24,30 +24,31 @@ void ErneuereCrc(Bytes& rahmen) {
     HaengeCrcAn(rahmen);
 }
 
-void Schweige(Sendung& sendung, int) {
+void Schweige(Sendung& sendung, const Umstaende&) {
     sendung.clear();
 }
 
-void VerdirbCrc(Sendung& sendung, int) {
+void VerdirbCrc(Sendung& sendung, const Umstaende&) {
     Rahmen(sendung).back() ^= 0xFF;
 }
 
-void TauscheAdresse(Sendung& sendung, int) {
+void TauscheAdresse(Sendung& sendung, const Umstaende&) {
     ++Rahmen(sendung)[0];
     ErneuereCrc(Rahmen(sendung));
 }
 
-void LehneAb(Sendung& sendung, int code) {
+void LehneAb(Sendung& sendung, const Umstaende& umstaende) {
     Bytes& rahmen = Rahmen(sendung);
-    rahmen = {rahmen[0], static_cast<std::uint8_t>(rahmen[1] | 0x80), static_cast<std::uint8_t>(code)};
+    rahmen = {rahmen[0], static_cast<std::uint8_t>(rahmen[1] | 0x80),
+              static_cast<std::uint8_t>(umstaende.wert)};
     HaengeCrcAn(rahmen);
 }
 
-void StreueDavor(Sendung& sendung, int anzahl) {
-    Rahmen(sendung).insert(Rahmen(sendung).begin(), static_cast<std::size_t>(anzahl), Streuzeichen);
+void StreueDavor(Sendung& sendung, const Umstaende& umstaende) {
+    Rahmen(sendung).insert(Rahmen(sendung).begin(), static_cast<std::size_t>(umstaende.wert), Streuzeichen);
 }
 
-void Zerteile(Sendung& sendung, int pause) {
+void Zerteile(Sendung& sendung, const Umstaende& umstaende) {
     constexpr std::size_t StueckZahl = 3;
     const Bytes ganz = Rahmen(sendung);
     sendung.clear();
@@ -55,24 +56,48 @@ void Zerteile(Sendung& sendung, int pause) {
         const auto grenze = [&ganz](std::size_t k) {
             return ganz.begin() + static_cast<std::ptrdiff_t>(ganz.size() * k / StueckZahl);
         };
-        sendung.push_back({std::chrono::milliseconds{i == 0 ? 0 : pause}, Bytes(grenze(i), grenze(i + 1))});
+        sendung.push_back(
+            {std::chrono::milliseconds{i == 0 ? 0 : umstaende.wert}, Bytes(grenze(i), grenze(i + 1))});
     }
 }
 
-void HaengeUeberzaehligeAn(Sendung& sendung, int anzahl) {
-    Rahmen(sendung).insert(Rahmen(sendung).end(), static_cast<std::size_t>(anzahl), Streuzeichen);
+void HaengeUeberzaehligeAn(Sendung& sendung, const Umstaende& umstaende) {
+    Rahmen(sendung).insert(Rahmen(sendung).end(), static_cast<std::size_t>(umstaende.wert), Streuzeichen);
 }
 
-void Verspaete(Sendung& sendung, int millisekunden) {
-    sendung.front().pause = std::chrono::milliseconds{millisekunden};
+void Verspaete(Sendung& sendung, const Umstaende& umstaende) {
+    sendung.front().pause = std::chrono::milliseconds{umstaende.wert};
 }
 
-void KippeBit(Sendung& sendung, int bit) {
-    const auto stelle = static_cast<std::size_t>(bit / 8) % Rahmen(sendung).size();
-    Rahmen(sendung)[stelle] ^= static_cast<std::uint8_t>(1U << (bit % 8));
+void Kippe(Bytes& rahmen, int bit) {
+    rahmen[static_cast<std::size_t>(bit / 8) % rahmen.size()] ^= static_cast<std::uint8_t>(1U << (bit % 8));
+}
+
+void KippeBit(Sendung& sendung, const Umstaende& umstaende) {
+    Kippe(Rahmen(sendung), umstaende.wert);
+}
+
+void Wiederhole(Sendung& sendung, const Umstaende& umstaende) {
+    sendung.push_back({std::chrono::milliseconds{umstaende.wert}, Rahmen(sendung)});
+}
+
+void WiederholeZweimal(Sendung& sendung, const Umstaende& umstaende) {
+    Wiederhole(sendung, umstaende);
+    Wiederhole(sendung, umstaende);
+}
+
+void WiederholeGekippt(Sendung& sendung, const Umstaende& umstaende) {
+    sendung.push_back({umstaende.nach, Rahmen(sendung)});
+    Kippe(sendung.back().zeichen, umstaende.wert);
+}
+
+void WiederholeFruehere(Sendung& sendung, const Umstaende& umstaende) {
+    if (const Bytes* fruehere = umstaende.verlauf.Frueher(umstaende.wert))
+        sendung.push_back({umstaende.nach, *fruehere});
 }
 
 constexpr int LaengstePause = 60000;
+constexpr int HoechstesBit = 8 * 256 - 1;
 constexpr Stoerungsart Arten[] = {
     {"silence", 0, 0, false, Schweige},
     {"crc", 0, 0, false, VerdirbCrc},
@@ -82,7 +107,12 @@ constexpr Stoerungsart Arten[] = {
     {"pieces", 50, LaengstePause, false, Zerteile},
     {"surplus", 1, 255, false, HaengeUeberzaehligeAn},
     {"late", 1500, LaengstePause, false, Verspaete},
-    {"flip", 24, 8 * 256 - 1, false, KippeBit},
+    {"flip", 24, HoechstesBit, false, KippeBit},
+    {"repeat", 50, LaengstePause, false, Wiederhole},
+    {"repeat-twice", 50, LaengstePause, false, WiederholeZweimal},
+    {"repeat-flip", 24, HoechstesBit, false, WiederholeGekippt, 50, LaengstePause},
+    {"repeat-earlier", 1, static_cast<int>(Antwortverlauf::Laenge) - 1, false, WiederholeFruehere, 50,
+     LaengstePause},
 };
 
 const Stoerungsart& FindeArt(std::string_view name) {
@@ -107,12 +137,30 @@ std::optional<std::string_view> SchneideAb(std::string_view& text, char trenner)
 
 } // namespace
 
+void Antwortverlauf::Nimm(const Bytes& antwort) {
+    if (antworten_.size() == Laenge)
+        antworten_.pop_front();
+    antworten_.push_back(antwort);
+}
+
+const Bytes* Antwortverlauf::Frueher(int zurueck) const {
+    const auto davor = static_cast<std::size_t>(zurueck);
+    return davor < antworten_.size() ? &antworten_[antworten_.size() - 1 - davor] : nullptr;
+}
+
+void Stoerung::Verfaelsche(Sendung& sendung, const Antwortverlauf& verlauf) const {
+    art->verfaelsche(sendung, {wert, std::chrono::milliseconds{nach}, verlauf});
+}
+
 Stoerung LiesStoerung(std::string_view text) {
     const auto funktion = SchneideAb(text, '@');
     const auto anzahl = SchneideAb(text, ':');
+    const auto nach = SchneideAb(text, ',');
     const auto wert = SchneideAb(text, '=');
     const Stoerungsart& art = FindeArt(text);
-    Stoerung stoerung{&art, art.vorgabe};
+    Stoerung stoerung{.art = &art, .wert = art.vorgabe, .nach = art.vorgabeNach};
+    if (nach)
+        stoerung.nach = LiesZahl(*nach, "fault " + std::string(text), 0, art.groesstesNach);
     if (wert)
         stoerung.wert = LiesZahl(*wert, "fault " + std::string(text), 0, art.groesste);
     if (anzahl)

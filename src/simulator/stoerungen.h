@@ -3,6 +3,8 @@
 #include "geraetecrc.h"
 
 #include <chrono>
+#include <cstddef>
+#include <deque>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -18,13 +20,35 @@ struct Stueck {
 /// A reply on its way: usually one piece without a pause; none at all is silence.
 using Sendung = std::vector<Stueck>;
 
+/// The last whole replies as they should have been, the newest at the end.
+class Antwortverlauf {
+public:
+    static constexpr std::size_t Laenge = 32;
+
+    void Nimm(const Bytes& antwort);
+    /// The reply before the newest one by so many, from 1; nullptr when there is none.
+    const Bytes* Frueher(int zurueck) const;
+
+private:
+    std::deque<Bytes> antworten_;
+};
+
+/// What a fault does its work with.
+struct Umstaende {
+    int wert;                       ///< the argument
+    std::chrono::milliseconds nach; ///< after which a repeated reply comes
+    const Antwortverlauf& verlauf;  ///< its newest reply is the one that goes wrong
+};
+
 /// A way for a reply to go wrong.
 struct Stoerungsart {
     std::string_view name;
     int vorgabe;  ///< argument when none is given
     int groesste; ///< greatest argument
     bool lehntAb; ///< the request is refused and not carried out
-    void (*verfaelsche)(Sendung& sendung, int wert);
+    void (*verfaelsche)(Sendung& sendung, const Umstaende& umstaende);
+    int vorgabeNach = 0;   ///< milliseconds when none are given
+    int groesstesNach = 0; ///< 0 = it takes none
 };
 
 /// One fault on demand.
@@ -33,10 +57,15 @@ struct Stoerung {
     int wert;
     std::optional<int> anzahl{};   ///< for so many replies, without a number until it is taken back
     std::optional<int> funktion{}; ///< only for replies to this function
+    int nach = 0;                  ///< milliseconds
+
+    void Verfaelsche(Sendung& sendung, const Antwortverlauf& verlauf) const;
 };
 
-/// Reads "NAME[=ARGUMENT][:COUNT][@FUNCTION]", for example "late=1500:3@0x03". Names: silence, crc, address,
-/// exception=CODE, stray=BYTES, pieces=MS, surplus=BYTES, late=MS, flip=BIT.
+/// Reads "NAME[=ARGUMENT[,MS]][:COUNT][@FUNCTION]", for example "late=1500:3@0x03". Names: silence, crc,
+/// address, exception=CODE, stray=BYTES, pieces=MS, surplus=BYTES, late=MS, flip=BIT, and what sends a reply
+/// again behind itself: repeat=MS, repeat-twice=MS, repeat-flip=BIT,MS (with one bit changed),
+/// repeat-earlier=BACK,MS (the one sent so many replies earlier).
 /// @throws std::invalid_argument with a sentence for the user
 Stoerung LiesStoerung(std::string_view text);
 

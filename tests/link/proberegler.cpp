@@ -86,15 +86,19 @@ void Proberegler::Verarbeite() {
 }
 
 void Proberegler::Beantworte(const Wartende& eine) {
-    const auto* art = eine.fehler ? simulator::LiesStoerung(eine.fehler->name).art : nullptr;
-    const bool lehntAb = art != nullptr && art->lehntAb;
+    auto stoerung = eine.fehler ? std::optional(simulator::LiesStoerung(eine.fehler->name)) : std::nullopt;
+    const bool lehntAb = stoerung && stoerung->art->lehntAb;
     simulator::Sendung sendung(1);
     sendung[0].zeichen = AlsBytes(lehntAb ? eine.anforderung.substr(0, 2) : Antwort(eine.anforderung));
     antwortlaenge = sendung[0].zeichen.size();
     if (antwortlaenge == 0)
         return;
-    if (art != nullptr)
-        art->verfaelsche(sendung, eine.fehler->wert);
+    verlauf.Nimm(sendung[0].zeichen);
+    if (stoerung) {
+        stoerung->wert = eine.fehler->wert;
+        stoerung->nach = eine.fehler->nach;
+        stoerung->Verfaelsche(sendung, verlauf);
+    }
     const bool verspaetet = eine.fehler && (eine.fehler->name == "late" || eine.fehler->name == "pieces");
     leitung.Sende(sendung, eine.faellig, ausserDerReihe && verspaetet);
 }

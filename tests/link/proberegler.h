@@ -17,6 +17,7 @@ namespace varnoth::pruefung {
 struct Probefehler {
     std::string_view name;
     int wert = 0;
+    int nach = 0; ///< milliseconds until a repeated reply comes, where `wert` is something else
 };
 
 /// A controller behind a port, on the jumping clock. It works requests off one after the other; it can be
@@ -72,6 +73,7 @@ private:
     PruefUmgebung& umgebung;
     bool offen = false;
     std::deque<Wartende> wartende;
+    simulator::Antwortverlauf verlauf;
     Zeit frei{0};
     std::size_t gelesen = 0;
     std::size_t antwortlaenge = 0;

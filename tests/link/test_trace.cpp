@@ -3,6 +3,7 @@
 #include "pruefumgebung.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <iterator>
@@ -98,6 +99,25 @@ TEST_F(TraceTest, One_byte_more_than_a_million_closes_the_file_at_the_next_clear
     EXPECT_TRUE(Inhalt().ends_with("ClearCommPort, \r\nDie Datei wird geschlossen. Sie wird zu gro\xDF."));
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0].text, "Die Datei Test.txt wird geschlossen. Sie wird zu groß.");
+}
+
+TEST_F(TraceTest, Only_the_user_may_read_the_file_whatever_the_umask) {
+    for (const mode_t maske : {0000, 0022, 0777}) {
+        const mode_t vorher = ::umask(maske);
+        modTrace::Starte(pfad);
+        ::umask(vorher);
+        EXPECT_EQ(std::filesystem::status(pfad).permissions(), static_cast<std::filesystem::perms>(0600))
+            << maske;
+    }
+}
+
+TEST_F(TraceTest, A_link_in_the_files_place_is_replaced_and_what_it_leads_to_kept) {
+    const auto fremde = ordner / "foreign";
+    std::ofstream(fremde) << "precious";
+    std::filesystem::create_symlink(fremde, pfad);
+    EXPECT_EQ(modTrace::Starte(pfad), "");
+    EXPECT_FALSE(std::filesystem::is_symlink(pfad));
+    EXPECT_EQ(std::filesystem::file_size(fremde), 8U);
 }
 
 TEST_F(TraceTest, A_file_that_cannot_be_created_gives_the_reason) {

@@ -148,6 +148,31 @@ TEST_F(Speicherdatei, That_cannot_be_written_gives_a_device_failure) {
     EXPECT_EQ(Probe(aufbau).Frage(Schreibanfrage(Kommando, {1})), Ausnahme(0x10, 4));
 }
 
+TEST_F(Speicherdatei, That_is_a_link_is_refused_at_the_start_and_what_it_leads_to_kept) {
+    Probe(MitDatei()).Schreibe(Kommando, {1});
+    Aufbau aufbau = MitDatei();
+    aufbau.speicherdatei = ordner / "link";
+    for (const fs::path& ziel : {datei, ordner / "missing"}) {
+        fs::create_symlink(ziel, aufbau.speicherdatei);
+        EXPECT_THROW(Simulator{aufbau}, std::runtime_error) << ziel;
+        EXPECT_EQ(fs::exists(ziel), ziel == datei);
+        fs::remove(aufbau.speicherdatei);
+    }
+}
+
+TEST_F(Speicherdatei, That_a_link_has_replaced_meanwhile_is_not_written) {
+    const fs::path fremde = ordner / "foreign";
+    std::ofstream(fremde) << "precious";
+    for (const char* verweis : {"store.txt", "store.txt.new"}) {
+        Probe probe(MitDatei());
+        fs::create_symlink(fremde, ordner / verweis);
+        EXPECT_EQ(probe.Frage(Schreibanfrage(Kommando, {1})), Ausnahme(0x10, 4)) << verweis;
+        EXPECT_EQ(fs::read_symlink(ordner / verweis), fremde);
+        EXPECT_EQ(fs::file_size(fremde), 8U);
+        fs::remove(ordner / verweis);
+    }
+}
+
 TEST_F(Speicherdatei, That_is_not_one_is_refused_and_kept) {
     for (const char* inhalt : {"", "something else\n", "varnoth-simulator 1\nglobal 0 1\n",
                                "varnoth-simulator 1\nglobal 193\n", "varnoth-simulator 1\nglobal 193 x\n"}) {

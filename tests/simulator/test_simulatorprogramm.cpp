@@ -5,12 +5,15 @@
 #include <poll.h>
 #include <signal.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <functional>
 
 namespace varnoth::simulator {
 
@@ -60,16 +63,22 @@ protected:
         fs::remove_all(ordner);
     }
 
-    void Starte() {
+    void Starte(std::vector<std::string> weitere = {}) {
         int rohr[2];
         ASSERT_EQ(::pipe2(rohr, O_CLOEXEC), 0);
         ausgabe = Dateideskriptor(rohr[0]);
         const Dateideskriptor ende(rohr[1]);
+        std::vector<std::string> optionen = {
+            SIMULATORPROGRAMM, "--link", link, "--control", kanal, "--unpaced", "--exit-with-parent"};
+        optionen.insert(optionen.end(), weitere.begin(), weitere.end());
+        std::vector<char*> worte;
+        for (std::string& wort : optionen)
+            worte.push_back(wort.data());
+        worte.push_back(nullptr);
         kind = ::fork();
         if (kind == 0) {
             ::dup2(ende.Nummer(), STDOUT_FILENO);
-            ::execl(SIMULATORPROGRAMM, SIMULATORPROGRAMM, "--link", link.c_str(), "--control", kanal.c_str(),
-                    "--unpaced", "--exit-with-parent", nullptr);
+            ::execv(SIMULATORPROGRAMM, worte.data());
             ::_exit(127);
         }
     }
@@ -102,8 +111,8 @@ protected:
     }
 
     const fs::path ordner = fs::path(testing::TempDir()) / ("simulator-" + std::to_string(::getpid()));
-    const std::string link = (ordner / "line").string();
-    const std::string kanal = (ordner / "control").string();
+    std::string link = (ordner / "line").string();
+    std::string kanal = (ordner / "control").string();
     Dateideskriptor ausgabe{};
     std::string ersteZeile{};
     pid_t kind = -1;
@@ -112,7 +121,7 @@ protected:
 } // namespace
 
 TEST_F(Simulatorprogramm, Says_first_what_it_serves) {
-    EXPECT_EQ(ersteZeile, "serving " + fs::read_symlink(link).string() + " as " + link + "\n");
+    EXPECT_EQ(ersteZeile, "serving " + fs::canonical(link).string() + " as " + link + "\n");
 }
 
 TEST_F(Simulatorprogramm, Answers_over_the_terminal_to_one_client_after_the_other) {
@@ -138,7 +147,7 @@ TEST_F(Simulatorprogramm, Hangs_the_client_up_when_unplugged_and_serves_again_wh
         EXPECT_FALSE(fs::exists(fs::symlink_status(link)));
     }
     const std::string antwort = Befehl("plug");
-    EXPECT_EQ(antwort, "ok " + fs::read_symlink(link).string() + "\n");
+    EXPECT_EQ(antwort, "ok " + fs::canonical(link).string() + "\n");
     const Dateideskriptor leitung = OeffneLeitung();
     EXPECT_EQ(Frage(leitung.Nummer(), Leseanfrage(0, 1), 7), MitCrc({1, 3, 2, 0, 50}));
 }
@@ -147,6 +156,88 @@ TEST_F(Simulatorprogramm, Cleans_up_when_it_is_asked_to_end) {
     ::kill(kind, SIGTERM);
     EXPECT_EQ(Warte(), 0);
     EXPECT_TRUE(fs::is_empty(ordner));
+}
+
+TEST_F(Simulatorprogramm, Takes_over_the_link_that_a_killed_one_has_left) {
+    ::kill(kind, SIGKILL);
+    Warte();
+    const fs::path liegengebliebene = fs::read_symlink(link);
+    fs::create_symlink(liegengebliebene, link + ".new");
+    Starte();
+    EXPECT_TRUE(LiesZeileVon(ausgabe.Nummer()).starts_with("serving "));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(link + ".new")));
+    const Dateideskriptor leitung = OeffneLeitung();
+    EXPECT_EQ(Frage(leitung.Nummer(), Leseanfrage(0, 1), 7), MitCrc({1, 3, 2, 0, 50}));
+}
+
+TEST_F(Simulatorprogramm, Replaces_neither_a_file_nor_a_foreign_link_with_its_own) {
+    ::kill(kind, SIGTERM);
+    Warte();
+    std::ofstream(ordner / "precious") << "precious";
+    const std::vector<std::function<void()>> hindernisse = {
+        [this] { fs::copy(ordner / "precious", link); },
+        [this] { fs::create_symlink(ordner / "precious", link); },
+        [this] { fs::create_symlink(ordner / "missing", link); },
+        [this] { fs::create_symlink("/dev/pts/0", link); },
+    };
+    for (std::size_t i = 0; i < hindernisse.size(); ++i) {
+        hindernisse[i]();
+        const fs::file_status vorher = fs::symlink_status(link);
+        const auto ziel = fs::is_symlink(vorher) ? fs::read_symlink(link) : fs::path();
+        Starte();
+        EXPECT_EQ(Warte(), 256) << i;
+        EXPECT_EQ(fs::symlink_status(link).type(), vorher.type()) << i;
+        EXPECT_EQ(fs::is_symlink(vorher) ? fs::read_symlink(link) : fs::path(), ziel) << i;
+        fs::remove(link);
+    }
+}
+
+TEST_F(Simulatorprogramm, Overwrites_nothing_beside_its_link) {
+    ::kill(kind, SIGKILL);
+    Warte();
+    std::ofstream(link + ".new") << "precious";
+    Starte();
+    EXPECT_EQ(Warte(), 256);
+    EXPECT_EQ(fs::file_size(link + ".new"), 8U);
+}
+
+TEST_F(Simulatorprogramm, Writes_no_log_through_a_link) {
+    std::ofstream(ordner / "precious") << "precious";
+    fs::create_symlink(ordner / "precious", ordner / "log");
+    link = (ordner / "other").string();
+    kanal = (ordner / "other control").string();
+    const pid_t erster = std::exchange(kind, -1);
+    Starte({"--log", (ordner / "log").string()});
+    EXPECT_EQ(Warte(), 256);
+    EXPECT_EQ(fs::file_size(ordner / "precious"), 8U);
+    kind = erster;
+}
+
+TEST_F(Simulatorprogramm, Writes_its_log_to_a_file_for_the_user_alone) {
+    ::kill(kind, SIGTERM);
+    Warte();
+    const fs::path log = ordner / "log";
+    Starte({"--log", log.string()});
+    LiesZeileVon(ausgabe.Nummer());
+    const Dateideskriptor leitung = OeffneLeitung();
+    Frage(leitung.Nummer(), Leseanfrage(0, 1), 7);
+    std::string zeile;
+    std::ifstream strom(log);
+    std::getline(strom, zeile);
+    EXPECT_TRUE(zeile.ends_with("read global 0 = 50")) << zeile;
+    EXPECT_EQ(fs::status(log).permissions(), static_cast<fs::perms>(0600));
+}
+
+TEST_F(Simulatorprogramm, Lets_only_its_user_at_the_control_channel_whatever_the_umask) {
+    for (const mode_t maske : {0000, 0022, 0777}) {
+        ::kill(kind, SIGTERM);
+        Warte();
+        const mode_t vorher = ::umask(maske);
+        Starte();
+        ::umask(vorher);
+        LiesZeileVon(ausgabe.Nummer());
+        EXPECT_EQ(fs::status(kanal).permissions(), static_cast<fs::perms>(0600)) << maske;
+    }
 }
 
 } // namespace varnoth::simulator

@@ -10,6 +10,26 @@ namespace {
 
 const Bytes Richtig = MitCrc({1, 3, 2, 0, 50});
 
+Bytes Hintereinander(std::initializer_list<Bytes> antworten) {
+    Bytes alle;
+    for (const Bytes& antwort : antworten)
+        alle.insert(alle.end(), antwort.begin(), antwort.end());
+    return alle;
+}
+
+using Ankuenfte = std::vector<std::pair<Zeit, std::size_t>>;
+
+/// When how many bytes of the reply to a read of one register come.
+Ankuenfte AnkuenfteBei(const std::string& stoerung) {
+    Simulator simulator(OhneTakt());
+    simulator.Befehl("fault " + stoerung, Zeit{0});
+    simulator.Empfange(Leseanfrage(0, 1), Zeit{0});
+    Ankuenfte ankuenfte;
+    while (const auto faellig = simulator.NaechsteFaelligkeit())
+        ankuenfte.emplace_back(*faellig, simulator.Entnimm(*faellig).size());
+    return ankuenfte;
+}
+
 Bytes Gestoert(const std::string& stoerung) {
     Probe probe;
     EXPECT_EQ(probe.Befehl("fault " + stoerung), "ok");
@@ -34,20 +54,59 @@ TEST(Stoerung, Changes_the_reply_as_its_name_says) {
         {"surplus=2", {1, 3, 2, 0, 50, Richtig[5], Richtig[6], 0x55, 0x55}},
         {"late", Richtig},
         {"flip=33", gekippt},
+        {"repeat", Hintereinander({Richtig, Richtig})},
+        {"repeat-twice", Hintereinander({Richtig, Richtig, Richtig})},
+        {"repeat-flip=33", Hintereinander({Richtig, gekippt})},
+        {"repeat-earlier", Richtig},
     };
     for (const auto& [stoerung, antwort] : faelle)
         EXPECT_EQ(Gestoert(stoerung), antwort) << stoerung;
 }
 
 TEST(Stoerung, Pieces_come_with_gaps) {
+    EXPECT_EQ(AnkuenfteBei("pieces=40"), (Ankuenfte{{Zeit{0}, 2}, {Zeit{40000}, 2}, {Zeit{80000}, 3}}));
+}
+
+TEST(Stoerung, A_repeated_reply_comes_after_its_time) {
+    EXPECT_EQ(AnkuenfteBei("repeat=500"), (Ankuenfte{{Zeit{0}, 7}, {Zeit{500000}, 7}}));
+    EXPECT_EQ(AnkuenfteBei("repeat=0"), (Ankuenfte{{Zeit{0}, 14}}));
+    EXPECT_EQ(AnkuenfteBei("repeat-twice=30"), (Ankuenfte{{Zeit{0}, 7}, {Zeit{30000}, 7}, {Zeit{60000}, 7}}));
+    EXPECT_EQ(AnkuenfteBei("repeat-flip=9,120"), (Ankuenfte{{Zeit{0}, 7}, {Zeit{120000}, 7}}));
+}
+
+TEST(Stoerung, A_repeated_reply_lets_the_next_one_wait) {
     Simulator simulator(OhneTakt());
-    simulator.Befehl("fault pieces=40", Zeit{0});
+    simulator.Befehl("fault repeat=100:1", Zeit{0});
     simulator.Empfange(Leseanfrage(0, 1), Zeit{0});
-    std::vector<std::pair<Zeit, std::size_t>> stuecke;
-    while (const auto faellig = simulator.NaechsteFaelligkeit())
-        stuecke.emplace_back(*faellig, simulator.Entnimm(*faellig).size());
-    EXPECT_EQ(stuecke,
-              (std::vector<std::pair<Zeit, std::size_t>>{{Zeit{0}, 2}, {Zeit{40000}, 2}, {Zeit{80000}, 3}}));
+    simulator.Empfange(Leseanfrage(24, 1), Zeit{10000});
+    EXPECT_EQ(simulator.Entnimm(Zeit{99999}), Richtig);
+    EXPECT_EQ(simulator.Entnimm(Zeit{100000}), Hintereinander({Richtig, MitCrc({1, 3, 2, 1, 2})}));
+}
+
+TEST(Stoerung, Every_reply_is_repeated_for_a_while) {
+    Probe probe;
+    probe.Befehl("fault repeat:3");
+    for (const std::size_t laenge : {14U, 14U, 14U, 7U})
+        EXPECT_EQ(probe.Frage(Leseanfrage(0, 1)).size(), laenge);
+}
+
+TEST(Stoerung, A_reply_of_earlier_comes_behind_this_one) {
+    const Bytes version = MitCrc({1, 3, 2, 1, 2});
+    for (const auto& [zurueck, frueher] : {std::pair{1, version}, {2, Richtig}, {3, Bytes{}}}) {
+        Probe probe;
+        probe.Frage(Leseanfrage(0, 1));
+        probe.Frage(Leseanfrage(24, 1));
+        probe.Befehl("fault repeat-earlier=" + std::to_string(zurueck) + ",0");
+        EXPECT_EQ(probe.Frage(Leseanfrage(0, 1)), Hintereinander({Richtig, frueher})) << zurueck;
+    }
+}
+
+TEST(Stoerung, A_reply_of_earlier_is_the_one_that_should_have_been) {
+    Probe probe;
+    probe.Befehl("fault crc:1");
+    probe.Frage(Leseanfrage(0, 1));
+    probe.Befehl("fault repeat-earlier=1");
+    EXPECT_EQ(probe.Frage(Leseanfrage(0, 1)), Hintereinander({Richtig, Richtig}));
 }
 
 TEST(Stoerung, Late_comes_after_its_time) {
@@ -131,7 +190,8 @@ TEST(Stoerung, Is_noted_in_the_log) {
 
 TEST(Stoerung, Written_wrongly_is_refused) {
     for (const char* text :
-         {"", "bogus", "late=x", "late=-1", "late=60001", "crc:0", "crc@0", "crc=1", "crc:", "late=1500:3@x"})
+         {"", "bogus", "late=x", "late=-1", "late=60001", "crc:0", "crc@0", "crc=1", "crc:", "late=1500:3@x",
+          "repeat=60001", "repeat=1,2", "repeat-earlier=32", "repeat-flip=1,60001", "repeat-flip=1,"})
         EXPECT_THROW(LiesStoerung(text), std::invalid_argument) << text;
 }
 
