@@ -4,13 +4,11 @@
 #include "konfigurationsdatei.h"
 
 #include "pruefe.h"
-#include "registerabbild.h"
 
 namespace {
 
 using namespace varnoth;
 using namespace varnoth::fuzzing;
-using namespace varnoth::modDaten;
 
 Dateibefund Erwartet(std::string_view bytes) {
     constexpr std::string_view kennung = "Varnoth Konfiguration";
@@ -22,22 +20,15 @@ Dateibefund Erwartet(std::string_view bytes) {
     return bytes.size() < laenge ? Dateibefund::UnbekanntesFormat : Dateibefund::Gut;
 }
 
-void PruefeInhalt(const Dateiinhalt& inhalt, std::string_view bytes) {
-    for (const auto bereich : AlleSpeicherbereiche)
-        Pruefe(ErsetzeBereich(bereich, inhalt[static_cast<std::size_t>(bereich)]) == True,
-               "every range goes into the image");
-    Pruefe(SpeichereKonfigurationsdatei() == bytes.substr(0, LaengeKonfigurationsdatei),
-           "what is written is what was read");
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
     const std::string_view bytes = AlsText(daten, laenge);
-    Dateiinhalt inhalt;
+    Abbild inhalt;
     const auto befund = ZerlegeKonfigurationsdatei(bytes, inhalt);
     Pruefe(befund == Erwartet(bytes), "the verdict is right");
     if (befund == Dateibefund::Gut)
-        PruefeInhalt(inhalt, bytes);
+        Pruefe(AlsKonfigurationsdatei(inhalt) == bytes.substr(0, LaengeKonfigurationsdatei),
+               "what is written is what was read");
     return 0;
 }

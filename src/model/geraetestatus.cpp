@@ -15,6 +15,8 @@ constexpr std::int32_t KeinOptikteilMaske = 1 << 2;
 constexpr int StrahlenzahlGeaendertBit = 4;
 constexpr int NichtLesbarBit = 12;
 
+constexpr std::int32_t VorhandenMaske = 1 << 7;
+
 constexpr std::int16_t TextKeinOptikteil = 3103;
 constexpr std::int16_t TextOptikteil = 3104;
 constexpr std::int16_t TextStrahlenzahlGeaendert = 3105;
@@ -52,10 +54,13 @@ std::string Geraetestatustext(std::int32_t statuswort) {
     return meldung;
 }
 
+bool IstOptikteilVorhanden(std::int32_t statuswort) {
+    return (statuswort & VorhandenMaske) != 0;
+}
+
 void ZeigeGeraetestatus() {
-    Werte werte;
-    HoleGlobaleDaten(global::Geraetestatus, 1, werte);
-    const std::string meldung = Geraetestatustext(werte.at(0));
+    const std::string meldung =
+        Geraetestatustext(HoleRegister(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus));
     if (!meldung.empty())
         ZeigeWarnung(meldung);
 }

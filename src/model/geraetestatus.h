@@ -10,6 +10,9 @@ namespace varnoth::modDaten {
 /// nothing.
 std::string Geraetestatustext(std::int32_t statuswort);
 
+/// Whether an optical part's status word (specific register 44) says that the part is present.
+bool IstOptikteilVorhanden(std::int32_t statuswort);
+
 /// Shows the text of the status word in the image in a warning box, unless it is empty.
 void ZeigeGeraetestatus();
 

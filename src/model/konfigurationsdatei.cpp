@@ -7,20 +7,13 @@
 #include <bit>
 #include <cstdint>
 
-namespace varnoth::modDaten {
+namespace varnoth {
 
 namespace {
 
 constexpr std::string_view Kennung = "Varnoth Konfiguration";
 constexpr char Version = 0;
 constexpr std::size_t BytesJeWert = 4;
-
-constexpr std::int16_t TextUnbekanntesFormat = 3100;
-constexpr std::int16_t TextUnbekannteVersion = 3101;
-
-constexpr std::size_t AnzahlWerte(Speicherbereich bereich) {
-    return Stelle(bereich, AnzahlAdressen(bereich));
-}
 
 constexpr std::size_t LaengeAllerBereiche() {
     std::size_t laenge = 0;
@@ -52,52 +45,66 @@ void HaengeAn(std::string& bytes, std::int32_t wert) {
 }
 
 /// False when the file ends inside the range.
-bool LiesBereich(std::string_view& bytes, Speicherbereich bereich, Werte& werte) {
-    const std::size_t anzahl = AnzahlWerte(bereich);
-    const auto block = Nimm(bytes, anzahl * BytesJeWert);
-    if (block.size() < anzahl * BytesJeWert)
+bool LiesBereich(std::string_view& bytes, std::span<std::int32_t> werte) {
+    const auto block = Nimm(bytes, werte.size() * BytesJeWert);
+    if (block.size() < werte.size() * BytesJeWert)
         return false;
-    werte.resize(anzahl);
-    for (std::size_t i = 0; i < anzahl; ++i)
+    for (std::size_t i = 0; i < werte.size(); ++i)
         werte[i] = AlsWert(block.substr(i * BytesJeWert, BytesJeWert));
     return true;
 }
 
 } // namespace
 
-Dateibefund ZerlegeKonfigurationsdatei(std::string_view bytes, Dateiinhalt& inhalt) {
+Dateibefund ZerlegeKonfigurationsdatei(std::string_view bytes, Abbild& abbild) {
     if (Nimm(bytes, Kennung.size()) != Kennung || bytes.empty())
         return Dateibefund::UnbekanntesFormat;
     if (Nimm(bytes, sizeof Version).front() != Version)
         return Dateibefund::UnbekannteVersion;
+    Abbild gelesen;
     for (const auto bereich : AlleSpeicherbereiche)
-        if (!LiesBereich(bytes, bereich, inhalt[static_cast<std::size_t>(bereich)]))
+        if (!LiesBereich(bytes, gelesen.Bereich(bereich)))
             return Dateibefund::UnbekanntesFormat;
+    abbild = gelesen;
     return Dateibefund::Gut;
 }
 
-std::string SpeichereKonfigurationsdatei() {
+std::string AlsKonfigurationsdatei(const Abbild& abbild) {
     std::string bytes(Kennung);
     bytes.reserve(LaengeKonfigurationsdatei);
     bytes += Version;
     for (const auto bereich : AlleSpeicherbereiche)
-        for (const auto wert : Bereich(bereich))
+        for (const auto wert : abbild.Bereich(bereich))
             HaengeAn(bytes, wert);
     return bytes;
 }
 
+namespace modDaten {
+
+namespace {
+
+constexpr std::int16_t TextUnbekanntesFormat = 3100;
+constexpr std::int16_t TextUnbekannteVersion = 3101;
+
+} // namespace
+
+std::string SpeichereKonfigurationsdatei() {
+    return AlsKonfigurationsdatei(DasAbbild());
+}
+
 Boolean LadeKonfigurationsdatei(std::string_view bytes) {
-    Dateiinhalt inhalt;
-    const auto befund = ZerlegeKonfigurationsdatei(bytes, inhalt);
+    Abbild gelesen;
+    const auto befund = ZerlegeKonfigurationsdatei(bytes, gelesen);
     if (befund != Dateibefund::Gut) {
         ZeigeWarnung(LadeText(befund == Dateibefund::UnbekannteVersion ? TextUnbekannteVersion
                                                                        : TextUnbekanntesFormat));
         return False;
     }
-    for (const auto bereich : AlleSpeicherbereiche)
-        ErsetzeBereich(bereich, inhalt[static_cast<std::size_t>(bereich)]);
+    ErsetzeAbbild(gelesen);
     SetzeGeaendert();
     return True;
 }
 
-} // namespace varnoth::modDaten
+} // namespace modDaten
+
+} // namespace varnoth

@@ -9,16 +9,14 @@
 #include <algorithm>
 #include <utility>
 
-namespace varnoth::modDaten {
+namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextUnplausibel = 3102;
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
-std::function<void()> dieReaktion;
-
-bool IstErfuellt(const Werteregel& regel) {
-    const auto werte = Bereich(regel.bereich);
+bool IstErfuellt(const Werteregel& regel, const Abbild& abbild) {
+    const auto werte = abbild.Bereich(regel.bereich);
     for (int teil = 0; teil < Exemplare(regel.bereich); ++teil)
         if (!Erfuellt(regel, werte[Stelle(regel.bereich, regel.adresse, teil)]))
             return false;
@@ -27,8 +25,39 @@ bool IstErfuellt(const Werteregel& regel) {
 
 } // namespace
 
+bool IstPlausibel(const Abbild& abbild) {
+    return std::ranges::all_of(AlleWerteregeln(),
+                               [&](const Werteregel& regel) { return IstErfuellt(regel, abbild); });
+}
+
+bool KorrigiereStrahlenzahlen(Abbild& abbild) {
+    bool korrigiert = false;
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        if (abbild.HoleRegister(Spezifisch, spezifisch::Strahlenzahl, teil) > MaxStrahlen)
+            korrigiert |= abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 0, teil);
+    return korrigiert;
+}
+
+namespace modDaten {
+
+namespace {
+
+constexpr std::int16_t TextUnplausibel = 3102;
+
+std::function<void()> dieReaktion;
+
+} // namespace
+
 bool IstPlausibel() {
-    return std::ranges::all_of(AlleWerteregeln(), IstErfuellt);
+    return varnoth::IstPlausibel(DasAbbild());
+}
+
+void KorrigiereStrahlenzahlen() {
+    Abbild abbild = DasAbbild();
+    if (!varnoth::KorrigiereStrahlenzahlen(abbild))
+        return;
+    ErsetzeAbbild(abbild);
+    SetzeGeaendert();
 }
 
 Boolean PruefeKonfiguration() {
@@ -45,10 +74,6 @@ void SetzeReaktionAufUnplausiblesAbbild(std::function<void()> reaktion) {
     dieReaktion = std::move(reaktion);
 }
 
-void KorrigiereStrahlenzahlen() {
-    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
-        if (Strahlenzahl(teil) > MaxStrahlen)
-            SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, teil, {0});
-}
+} // namespace modDaten
 
-} // namespace varnoth::modDaten
+} // namespace varnoth

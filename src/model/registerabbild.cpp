@@ -9,104 +9,70 @@ namespace varnoth::modDaten {
 
 namespace {
 
-/// The values of one range and the next address that its iterators examine.
-struct Speicher {
-    std::vector<std::int32_t> werte;
-    std::int16_t zeiger = 0;
-};
+constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
 struct Modul {
-    std::array<Speicher, std::size(AlleSpeicherbereiche)> speicher;
+    Abbild abbild;
+    /// The next address that the iterators of a range examine.
+    std::array<std::int16_t, std::size(AlleSpeicherbereiche)> zeiger{};
     std::string konfigurationsdateiname;
     Boolean konfigurationGeaendert = False;
 };
 
-Modul NeuesModul() {
-    Modul modul;
-    for (const auto bereich : AlleSpeicherbereiche)
-        modul.speicher[static_cast<std::size_t>(bereich)].werte.resize(
-            Stelle(bereich, AnzahlAdressen(bereich)));
-    return modul;
+Modul dasModul;
+
+std::int16_t& Zeiger(Speicherbereich bereich) {
+    return dasModul.zeiger[static_cast<std::size_t>(bereich)];
 }
 
-Modul dasModul = NeuesModul();
-
-Speicher& DerSpeicher(Speicherbereich bereich) {
-    return dasModul.speicher[static_cast<std::size_t>(bereich)];
-}
-
-/// Some registers of the image, one after the other.
-struct Block {
-    Speicherbereich bereich;
-    std::int16_t adresse;
-    std::int16_t anzahl;
-    int optikteil = 0;
-
-    std::int32_t& operator[](std::int16_t i) const {
-        return DerSpeicher(bereich).werte[Stelle(bereich, static_cast<std::int16_t>(adresse + i), optikteil)];
-    }
-};
-
-bool IstOptikteil(int optikteil, Speicherbereich bereich = Speicherbereich::SpezifischeGeraetedaten) {
-    return optikteil >= 0 && optikteil < Exemplare(bereich);
-}
-
-bool IstGanzerParameter(const Block& block) {
-    return IstOptikteil(block.optikteil, block.bereich) && block.anzahl >= 1 &&
-           Beschreibung(block.bereich, block.adresse).Laenge == block.anzahl;
-}
-
-void Hole(const Block& block, Werte& werte) {
-    const auto anzahl = static_cast<std::size_t>(block.anzahl);
-    werte.resize(std::max(werte.size(), anzahl));
-    for (std::int16_t i = 0; i < block.anzahl; ++i)
-        werte[static_cast<std::size_t>(i)] = block[i];
-}
-
-Boolean Setze(const Block& block, const Werte& werte) {
-    if (werte.size() < static_cast<std::size_t>(block.anzahl))
+Boolean Ueberlasse(const Werte& geholte, Werte& werte) {
+    if (geholte.empty())
         return False;
-    for (std::int16_t i = 0; i < block.anzahl; ++i)
-        block[i] = werte[static_cast<std::size_t>(i)];
+    werte.resize(std::max(werte.size(), geholte.size()));
+    std::ranges::copy(geholte, werte.begin());
     return True;
 }
 
-Boolean HoleParameter(const Block& block, Werte& werte) {
-    if (!IstGanzerParameter(block))
+bool IstLaenge(Speicherbereich bereich, std::int16_t adresse, std::int16_t anzahl) {
+    return Beschreibung(bereich, adresse).Laenge == anzahl;
+}
+
+Boolean Hole(Speicherbereich bereich, std::int16_t adresse, std::int16_t anzahl, int optikteil,
+             Werte& werte) {
+    if (!IstLaenge(bereich, adresse, anzahl))
         return False;
-    Hole(block, werte);
-    return True;
+    return Ueberlasse(HoleParameter(bereich, adresse, optikteil), werte);
 }
 
-Boolean SetzeParameter(const Block& block, const Werte& werte) {
-    if (!IstGanzerParameter(block) || Setze(block, werte) == False)
-        return False;
-    SetzeGeaendert();
-    return True;
+Boolean Setze(Speicherbereich bereich, std::int16_t adresse, std::int16_t anzahl, int optikteil,
+              const Werte& werte) {
+    return AlsBoolean(IstLaenge(bereich, adresse, anzahl) &&
+                      SetzeParameter(bereich, adresse, werte, optikteil));
 }
 
-Block Strahlregister(std::int16_t anzahl, int optikteil) {
-    return {Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlzustaende, anzahl, optikteil};
-}
-
-bool IstStrahlblock(const Block& block) {
-    return IstOptikteil(block.optikteil) && block.anzahl >= 1 && block.anzahl <= MaxStrahlregister;
+/// A configuration in which something was stored is a changed one.
+bool Gespeichert(bool gelungen) {
+    if (gelungen)
+        SetzeGeaendert();
+    return gelungen;
 }
 
 /// Moves the cursor past the next parameter that qualifies, or to the end of the range.
 template<class Bedingung>
 Boolean NaechsterEintrag(Speicherbereich bereich, Bedingung qualifiziert, std::int16_t& adresse,
                          std::int16_t& anzahl) {
-    std::int16_t& zeiger = DerSpeicher(bereich).zeiger;
-    while (zeiger < AnzahlAdressen(bereich)) {
-        const std::int16_t geprueft = zeiger++;
-        const auto beschreibung = Beschreibung(bereich, geprueft);
-        if (qualifiziert(beschreibung)) {
-            adresse = geprueft;
-            anzahl = beschreibung.Laenge;
-            return True;
-        }
+    std::int16_t& zeiger = Zeiger(bereich);
+    for (const Parameter& parameter : ParameterMit(bereich, qualifiziert)) {
+        if (parameter.adresse < zeiger)
+            continue;
+        adresse = parameter.adresse;
+        anzahl = parameter.beschreibung.Laenge;
+        zeiger = static_cast<std::int16_t>(adresse + 1);
+        return True;
     }
+    zeiger = AnzahlAdressen(bereich);
     return False;
 }
 
@@ -118,56 +84,89 @@ void InitRegisterbeschreibung() {
 }
 
 void Zuruecksetzen() {
-    dasModul = NeuesModul();
+    dasModul = {};
+}
+
+const Abbild& DasAbbild() {
+    return dasModul.abbild;
+}
+
+void ErsetzeAbbild(const Abbild& neues) {
+    dasModul.abbild = neues;
+}
+
+std::span<const std::int32_t> Bereich(Speicherbereich bereich) {
+    return DasAbbild().Bereich(bereich);
+}
+
+Boolean ErsetzeBereich(Speicherbereich bereich, std::span<const std::int32_t> werte) {
+    const auto ziel = dasModul.abbild.Bereich(bereich);
+    if (werte.size() != ziel.size())
+        return False;
+    std::ranges::copy(werte, ziel.begin());
+    return True;
+}
+
+void LeereAbbild() {
+    dasModul.abbild = {};
+}
+
+Werte HoleParameter(Speicherbereich bereich, std::int16_t adresse, int optikteil) {
+    return dasModul.abbild.HoleParameter(bereich, adresse, optikteil);
+}
+
+bool SetzeParameter(Speicherbereich bereich, std::int16_t adresse, const Werte& werte, int optikteil) {
+    return Gespeichert(dasModul.abbild.SetzeParameter(bereich, adresse, werte, optikteil));
+}
+
+std::int32_t HoleRegister(Speicherbereich bereich, std::int16_t adresse, int optikteil) {
+    return dasModul.abbild.HoleRegister(bereich, adresse, optikteil);
+}
+
+bool SetzeRegister(Speicherbereich bereich, std::int16_t adresse, std::int32_t wert, int optikteil) {
+    return Gespeichert(dasModul.abbild.SetzeRegister(bereich, adresse, wert, optikteil));
 }
 
 Boolean HoleGlobaleDaten(std::int16_t adresse, std::int16_t anzahl, Werte& werte) {
-    return HoleParameter({Speicherbereich::GlobaleGeraetedaten, adresse, anzahl}, werte);
+    return Hole(Global, adresse, anzahl, 0, werte);
 }
 
 Boolean SetzeGlobaleDaten(std::int16_t adresse, std::int16_t anzahl, const Werte& werte) {
-    return SetzeParameter({Speicherbereich::GlobaleGeraetedaten, adresse, anzahl}, werte);
+    return Setze(Global, adresse, anzahl, 0, werte);
 }
 
 Boolean HoleSpezifischeDaten(std::int16_t adresse, std::int16_t anzahl, std::int16_t optikteil,
                              Werte& werte) {
-    return HoleParameter({Speicherbereich::SpezifischeGeraetedaten, adresse, anzahl, optikteil}, werte);
+    return Hole(Spezifisch, adresse, anzahl, optikteil, werte);
 }
 
 Boolean SetzeSpezifischeDaten(std::int16_t adresse, std::int16_t anzahl, std::int16_t optikteil,
                               const Werte& werte) {
-    return SetzeParameter({Speicherbereich::SpezifischeGeraetedaten, adresse, anzahl, optikteil}, werte);
+    return Setze(Spezifisch, adresse, anzahl, optikteil, werte);
 }
 
 Boolean HoleKommunikationsdaten(std::int16_t adresse, std::int16_t anzahl, Werte& werte) {
-    return HoleParameter({Speicherbereich::Kommunikationsdaten, adresse, anzahl}, werte);
+    return Hole(Kommunikation, adresse, anzahl, 0, werte);
 }
 
 Boolean SetzeKommunikationsdaten(std::int16_t adresse, std::int16_t anzahl, const Werte& werte) {
-    return SetzeParameter({Speicherbereich::Kommunikationsdaten, adresse, anzahl}, werte);
+    return Setze(Kommunikation, adresse, anzahl, 0, werte);
 }
 
 Boolean HoleStrahlzustaende(std::int16_t anzahl, std::int16_t optikteil, Werte& werte) {
-    const Block block = Strahlregister(anzahl, optikteil);
-    if (!IstStrahlblock(block))
-        return False;
-    Hole(block, werte);
-    return True;
+    return Ueberlasse(dasModul.abbild.HoleStrahlzustaende(anzahl, optikteil), werte);
 }
 
 Boolean SetzeStrahlzustaende(std::int16_t anzahl, std::int16_t optikteil, const Werte& werte) {
-    const Block block = Strahlregister(anzahl, optikteil);
-    return IstStrahlblock(block) ? Setze(block, werte) : False;
+    return AlsBoolean(dasModul.abbild.SetzeStrahlzustaende(anzahl, optikteil, werte));
 }
 
 std::int32_t Strahlenzahl(int optikteil) {
-    if (!IstOptikteil(optikteil))
-        return 0;
-    return Block{Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 1, optikteil}[0];
+    return HoleRegister(Spezifisch, spezifisch::Strahlenzahl, optikteil);
 }
 
 Boolean ErsterLesbarerEintrag(Speicherbereich bereich, std::int16_t& adresse, std::int16_t& anzahl) {
-    DerSpeicher(bereich).zeiger = 0;
+    Zeiger(bereich) = 0;
     return NaechsterLesbarerEintrag(bereich, adresse, anzahl);
 }
 
@@ -176,7 +175,7 @@ Boolean NaechsterLesbarerEintrag(Speicherbereich bereich, std::int16_t& adresse,
 }
 
 Boolean ErsterSchreibbarerEintrag(Speicherbereich bereich, std::int16_t& adresse, std::int16_t& anzahl) {
-    DerSpeicher(bereich).zeiger = 0;
+    Zeiger(bereich) = 0;
     return NaechsterSchreibbarerEintrag(bereich, adresse, anzahl);
 }
 
@@ -202,23 +201,6 @@ void SetDateiname(const std::string& name) {
 
 std::string GetDateiname() {
     return dasModul.konfigurationsdateiname;
-}
-
-std::span<const std::int32_t> Bereich(Speicherbereich bereich) {
-    return DerSpeicher(bereich).werte;
-}
-
-Boolean ErsetzeBereich(Speicherbereich bereich, std::span<const std::int32_t> werte) {
-    auto& ziel = DerSpeicher(bereich).werte;
-    if (werte.size() != ziel.size())
-        return False;
-    std::ranges::copy(werte, ziel.begin());
-    return True;
-}
-
-void LeereAbbild() {
-    for (auto& speicher : dasModul.speicher)
-        std::ranges::fill(speicher.werte, 0);
 }
 
 } // namespace varnoth::modDaten

@@ -2,7 +2,8 @@
 
 #include <cstdint>
 
-/// Names of the registers, by memory range. Inside the image an address counts from the start of its range.
+/// Names of the registers, by memory range; an address counts from the start of its range. The table of
+/// parameters describes those that the image keeps. The others are only ever sent to.
 namespace varnoth {
 
 namespace global {
@@ -11,8 +12,12 @@ inline constexpr std::int16_t Seriennummer = 9;
 inline constexpr std::int16_t Herstelldatum = 20;
 inline constexpr std::int16_t Hardwareversion = 24;
 inline constexpr std::int16_t Softwareversion = 25;
+inline constexpr std::int16_t Passwort = 178; ///< the service password begins here
+inline constexpr std::int16_t Kommando = 189; ///< takes what the controller is to do at once
 inline constexpr std::int16_t PnpAusgang = 193;
 inline constexpr std::int16_t Geraetestatus = 196;
+inline constexpr std::int16_t Optikteilauswahl = 212; ///< the optical part 0..3 that the specific range shows
+inline constexpr std::int16_t Kanalauswahl = 213;     ///< the channel that the communication range shows
 } // namespace global
 
 namespace spezifisch {
@@ -38,6 +43,7 @@ inline constexpr std::int16_t Pausenzeit = 8;
 inline constexpr std::int16_t Autosend = 74;
 inline constexpr std::int16_t Datenblock = 75;
 inline constexpr std::int16_t Autosendformat = 126;
+inline constexpr std::int16_t Steuerwert = 132; ///< 2 starts autosend, 4 ends it
 } // namespace kommunikation
 
 } // namespace varnoth

@@ -13,12 +13,6 @@ constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
-struct Parameter {
-    Speicherbereich bereich;
-    std::int16_t adresse;
-    Registerbeschreibung beschreibung;
-};
-
 // Length, configuration or not, access. The line format belongs to the configuration and yet is only read: no
 // whole-configuration write changes the line that it runs on.
 constexpr Parameter DieParameter[] = {
@@ -121,6 +115,10 @@ Registerbeschreibung Beschreibung(Speicherbereich bereich, std::int16_t adresse)
     if (adresse < 0 || adresse >= AnzahlAdressen(bereich))
         return {};
     return Tabelle(bereich)[static_cast<std::size_t>(adresse)];
+}
+
+std::span<const Parameter> AlleParameter() {
+    return DieParameter;
 }
 
 std::span<const Werteregel> AlleWerteregeln() {

@@ -1,28 +1,12 @@
 #pragma once
 
-#include "werte.h"
+#include "speicherbereich.h"
 
 #include <cstdint>
+#include <ranges>
 #include <span>
 
 namespace varnoth {
-
-/// The three memory ranges of the controller.
-enum class Speicherbereich { GlobaleGeraetedaten, SpezifischeGeraetedaten, Kommunikationsdaten };
-
-inline constexpr Speicherbereich AlleSpeicherbereiche[] = {Speicherbereich::GlobaleGeraetedaten,
-                                                           Speicherbereich::SpezifischeGeraetedaten,
-                                                           Speicherbereich::Kommunikationsdaten};
-
-/// Number of addresses of a range: 256, the specific range 512.
-constexpr std::int16_t AnzahlAdressen(Speicherbereich bereich) {
-    return bereich == Speicherbereich::SpezifischeGeraetedaten ? 512 : 256;
-}
-
-/// How many times a range exists: the specific range once for each optical part, the others once.
-constexpr int Exemplare(Speicherbereich bereich) {
-    return bereich == Speicherbereich::SpezifischeGeraetedaten ? AnzahlOptikteile : 1;
-}
 
 /// The values of `Registerbeschreibung::Zugriff`: how a parameter takes part in a whole-configuration
 /// transfer.
@@ -53,6 +37,25 @@ constexpr bool IstLesbar(const Registerbeschreibung& beschreibung) {
 constexpr bool IstSchreibbar(const Registerbeschreibung& beschreibung) {
     return beschreibung.Laenge > 0 && beschreibung.Zugriff == zugriff::LesenUndSchreiben &&
            beschreibung.IstKonfiguration == 1;
+}
+
+/// A parameter of the controller.
+struct Parameter {
+    Speicherbereich bereich;
+    std::int16_t adresse; ///< of its first register
+    Registerbeschreibung beschreibung;
+};
+
+/// All parameters, in the order of ranges and addresses.
+std::span<const Parameter> AlleParameter();
+
+/// The parameters of a range whose description satisfies the condition (`IstLesbar`, `IstSchreibbar`), in the
+/// order of addresses.
+template<class Bedingung>
+auto ParameterMit(Speicherbereich bereich, Bedingung bedingung) {
+    return AlleParameter() | std::views::filter([=](const Parameter& parameter) {
+               return parameter.bereich == bereich && bedingung(parameter.beschreibung);
+           });
 }
 
 /// What the value of a register must satisfy. A register with two fields has one rule for each.

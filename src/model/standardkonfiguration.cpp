@@ -2,19 +2,19 @@
 
 #include "registerabbild.h"
 
-namespace varnoth::modDaten {
+namespace varnoth {
 
-void LadeStandardkonfiguration() {
-    for (const auto bereich : AlleSpeicherbereiche) {
-        Werte werte(Bereich(bereich).size(), 0);
-        for (const auto& standard : AlleStandardwerte()) {
-            if (standard.bereich != bereich)
-                continue;
-            for (int teil = 0; teil < Exemplare(bereich); ++teil)
-                werte[Stelle(bereich, standard.adresse, teil)] = standard.wert;
-        }
-        ErsetzeBereich(bereich, werte);
-    }
+Abbild Standardkonfiguration() {
+    Abbild abbild;
+    for (const auto& standard : AlleStandardwerte())
+        for (int teil = 0; teil < Exemplare(standard.bereich); ++teil)
+            abbild.Bereich(standard.bereich)[Stelle(standard.bereich, standard.adresse, teil)] =
+                standard.wert;
+    return abbild;
 }
 
-} // namespace varnoth::modDaten
+void modDaten::LadeStandardkonfiguration() {
+    ErsetzeAbbild(Standardkonfiguration());
+}
+
+} // namespace varnoth

@@ -30,7 +30,7 @@ QString AlsText(const std::string& text) {
 
 std::int16_t Strahlregister(int strahlen) {
     const int anzahl = (strahlen + StrahlenJeRegister - 1) / StrahlenJeRegister;
-    return static_cast<std::int16_t>(std::min<int>(anzahl, modDaten::MaxStrahlregister));
+    return static_cast<std::int16_t>(std::min<int>(anzahl, MaxStrahlregister));
 }
 
 } // namespace

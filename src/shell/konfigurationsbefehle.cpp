@@ -101,7 +101,7 @@ bool KonfigurationOeffnen() {
 }
 
 bool LadeDatei(const std::string& pfad) {
-    const auto datei = LiesDatei(pfad, modDaten::LaengeKonfigurationsdatei);
+    const auto datei = LiesDatei(pfad, LaengeKonfigurationsdatei);
     if (!datei.gelungen) {
         ZeigeDateifehler(datei.fehlertext, pfad);
         return false;

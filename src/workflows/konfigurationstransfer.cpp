@@ -14,28 +14,12 @@ constexpr std::int16_t TextKanal = 7115;
 
 constexpr int Kanal = 0;
 
-constexpr std::uint16_t Basis(Speicherbereich bereich) {
-    switch (bereich) {
-    case Speicherbereich::GlobaleGeraetedaten:
-        return modModbus::GlobaleBasis;
-    case Speicherbereich::SpezifischeGeraetedaten:
-        return modModbus::SpezifischeBasis;
-    case Speicherbereich::Kommunikationsdaten:
-        return modModbus::KommunikationsBasis;
-    }
-    return modModbus::GlobaleBasis;
-}
-
 } // namespace
-
-std::uint16_t Geraeteadresse(Speicherbereich bereich, std::int16_t adresse) {
-    return static_cast<std::uint16_t>(Basis(bereich) + adresse);
-}
 
 std::string Registertext(Speicherbereich bereich, std::int16_t adresse) {
     if (bereich == Speicherbereich::GlobaleGeraetedaten)
         return std::to_string(adresse);
-    return AlsHex(Basis(bereich)) + "H + " + std::to_string(adresse);
+    return AlsHex(Bereichsanfang(bereich)) + "H + " + std::to_string(adresse);
 }
 
 bool Konfigurationstransfer::UebertrageAlles() {

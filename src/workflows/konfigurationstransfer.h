@@ -32,9 +32,6 @@ struct Transferparameter {
     std::int16_t optikteil = 0;
 };
 
-/// The device address of a register; for the specific range that of the optical part selected there.
-std::uint16_t Geraeteadresse(Speicherbereich bereich, std::int16_t adresse);
-
 /// How a register is shown: "12", "2000H + 12" or "4000H + 12".
 std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
 

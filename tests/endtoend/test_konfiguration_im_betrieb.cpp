@@ -37,8 +37,8 @@ std::map<Ort, std::int32_t> Konfiguration() {
              da = modDaten::NaechsterSchreibbarerEintrag(bereich, adresse, anzahl))
             for (int teil = 0; teil < Exemplare(bereich); ++teil)
                 for (int i = adresse; i < adresse + anzahl; ++i)
-                    register_[{bereich, teil, i}] = modDaten::Bereich(
-                        bereich)[modDaten::Stelle(bereich, static_cast<std::int16_t>(i), teil)];
+                    register_[{bereich, teil, i}] =
+                        modDaten::Bereich(bereich)[Stelle(bereich, static_cast<std::int16_t>(i), teil)];
     }
     return register_;
 }

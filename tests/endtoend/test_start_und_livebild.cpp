@@ -69,7 +69,7 @@ int VergleicheBereich(Simulatorprozess& geraet, Speicherbereich bereich) {
         for (auto register_ = adresse; register_ < adresse + laenge; ++register_)
             for (int teil = 0; teil < Exemplare(bereich); ++teil, ++verglichen) {
                 const std::string name = Registername(bereich, register_, teil);
-                EXPECT_EQ(abbild[modDaten::Stelle(bereich, register_, teil)], geraet.Register(name)) << name;
+                EXPECT_EQ(abbild[Stelle(bereich, register_, teil)], geraet.Register(name)) << name;
             }
     return verglichen;
 }

@@ -23,7 +23,7 @@ std::vector<std::int32_t> Livedaten() {
     }
     for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil) {
         Werte strahlen;
-        modDaten::HoleStrahlzustaende(modDaten::MaxStrahlregister, teil, strahlen);
+        modDaten::HoleStrahlzustaende(MaxStrahlregister, teil, strahlen);
         daten.insert(daten.end(), strahlen.begin(), strahlen.end());
     }
     return daten;

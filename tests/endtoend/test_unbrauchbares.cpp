@@ -41,7 +41,7 @@ constexpr int LaengeDerIdentifikationsanforderung = 4;
 
 std::int32_t Registerwert(std::int16_t adresse, int teil) {
     constexpr auto bereich = Speicherbereich::SpezifischeGeraetedaten;
-    return modDaten::Bereich(bereich)[modDaten::Stelle(bereich, adresse, teil)];
+    return modDaten::Bereich(bereich)[Stelle(bereich, adresse, teil)];
 }
 
 } // namespace

@@ -30,7 +30,7 @@ std::vector<std::int32_t> GanzesAbbild() {
 
 bool IstStrahlregister(Speicherbereich bereich, int adresse) {
     return bereich == Speicherbereich::SpezifischeGeraetedaten && adresse >= spezifisch::Strahlzustaende &&
-           adresse < spezifisch::Strahlzustaende + modDaten::MaxStrahlregister;
+           adresse < spezifisch::Strahlzustaende + MaxStrahlregister;
 }
 
 /// The registers in the order of GanzesAbbild.

@@ -24,12 +24,12 @@ protected:
 
     /// Any register of the image, whether a parameter starts there or not.
     static std::int32_t Wert(Speicherbereich bereich, std::int16_t adresse, int optikteil = 0) {
-        return modDaten::Bereich(bereich)[modDaten::Stelle(bereich, adresse, optikteil)];
+        return modDaten::Bereich(bereich)[Stelle(bereich, adresse, optikteil)];
     }
     static void SetzeWert(Speicherbereich bereich, std::int16_t adresse, int optikteil, std::int32_t wert) {
         const auto alte = modDaten::Bereich(bereich);
         Werte werte(alte.begin(), alte.end());
-        werte[modDaten::Stelle(bereich, adresse, optikteil)] = wert;
+        werte[Stelle(bereich, adresse, optikteil)] = wert;
         modDaten::ErsetzeBereich(bereich, werte);
     }
     /// first, first + 1, ...
@@ -38,15 +38,8 @@ protected:
         std::iota(werte.begin(), werte.end(), erster);
         return werte;
     }
-    /// All values of all ranges, to compare the image before and after.
-    static std::vector<Werte> Abbild() {
-        std::vector<Werte> abbild;
-        for (const auto bereich : AlleSpeicherbereiche) {
-            const auto werte = modDaten::Bereich(bereich);
-            abbild.emplace_back(werte.begin(), werte.end());
-        }
-        return abbild;
-    }
+    /// The image as it is now, to compare it with later.
+    static Abbild Kopie() { return modDaten::DasAbbild(); }
 
     pruefung::PruefUmgebung umgebung;
 

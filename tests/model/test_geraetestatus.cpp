@@ -74,4 +74,11 @@ TEST_F(Geraetestatus, Showing_the_news_leaves_the_status_word) {
     EXPECT_EQ(Wert(Global, 196), 0xF0F4);
 }
 
+TEST_F(Geraetestatus, An_optical_part_is_present_by_bit_7_alone) {
+    for (int bit = 0; bit < 16; ++bit)
+        EXPECT_EQ(IstOptikteilVorhanden(1 << bit), bit == 7) << bit;
+    EXPECT_TRUE(IstOptikteilVorhanden(0xFFFF));
+    EXPECT_FALSE(IstOptikteilVorhanden(0xFF7F));
+}
+
 } // namespace varnoth::modDaten

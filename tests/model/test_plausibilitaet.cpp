@@ -100,9 +100,9 @@ TEST_F(Plausibilitaet, An_image_of_zeros_fails) {
 
 TEST_F(Plausibilitaet, A_plausible_image_stays_without_a_message) {
     SetzeWert(Spezifisch, 12, 1, 64);
-    const auto vorher = Abbild();
+    const auto vorher = Kopie();
     EXPECT_EQ(PruefeKonfiguration(), True);
-    EXPECT_EQ(Abbild(), vorher);
+    EXPECT_EQ(Kopie(), vorher);
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
@@ -114,10 +114,10 @@ TEST_F(Plausibilitaet, A_plausible_image_causes_no_reaction) {
 }
 
 TEST_F(Plausibilitaet, An_implausible_image_is_replaced_by_the_default_configuration) {
-    const auto standard = Abbild();
+    const auto standard = Kopie();
     SetzeWert(Spezifisch, 12, 3, 513);
     EXPECT_EQ(PruefeKonfiguration(), False);
-    EXPECT_EQ(Abbild(), standard);
+    EXPECT_EQ(Kopie(), standard);
 }
 
 TEST_F(Plausibilitaet, An_implausible_image_is_reported_in_one_warning_box) {

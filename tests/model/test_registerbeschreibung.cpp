@@ -82,4 +82,36 @@ TEST(Standardwerte, Satisfy_every_rule_of_their_register) {
         }
 }
 
+TEST(Registerbeschreibung, The_list_of_parameters_names_each_once_in_the_order_of_ranges_and_addresses) {
+    auto zeile = Erwartet.begin();
+    ASSERT_EQ(AlleParameter().size(), Erwartet.size());
+    for (const Parameter& parameter : AlleParameter()) {
+        EXPECT_EQ((Ort{parameter.bereich, parameter.adresse}), zeile->first);
+        EXPECT_EQ(parameter.beschreibung, zeile->second);
+        ++zeile;
+    }
+}
+
+TEST(Registerbeschreibung, A_walk_gives_the_parameters_of_one_range_that_qualify_in_the_order_of_addresses) {
+    const auto adressen = [](Speicherbereich bereich, auto bedingung) {
+        std::vector<int> gefundene;
+        for (const Parameter& parameter : ParameterMit(bereich, bedingung))
+            gefundene.push_back(parameter.adresse);
+        return gefundene;
+    };
+    EXPECT_EQ(adressen(Global, IstLesbar), (std::vector{0, 9, 20, 24, 25, 193, 196}));
+    EXPECT_EQ(adressen(Spezifisch, IstLesbar), (std::vector{12, 13, 14, 19, 24, 25, 26, 27, 52}));
+    EXPECT_EQ(adressen(Kommunikation, IstLesbar), (std::vector{0, 2, 4, 8, 74, 75, 126}));
+    EXPECT_EQ(adressen(Global, IstSchreibbar), (std::vector{193}));
+    EXPECT_EQ(adressen(Spezifisch, IstSchreibbar), (std::vector{13, 14, 19, 24, 25, 26, 27, 52}));
+    EXPECT_EQ(adressen(Kommunikation, IstSchreibbar), (std::vector{4, 8, 74, 75, 126}));
+}
+
+TEST(Registerbeschreibung, The_controller_has_the_ranges_at_0_2000H_and_4000H) {
+    EXPECT_EQ(Geraeteadresse(Global, 0), 0);
+    EXPECT_EQ(Geraeteadresse(Global, 212), 212);
+    EXPECT_EQ(Geraeteadresse(Spezifisch, 44), 0x202C);
+    EXPECT_EQ(Geraeteadresse(Kommunikation, 132), 0x4084);
+}
+
 } // namespace varnoth

@@ -15,7 +15,7 @@ protected:
 TEST_F(Standardkonfiguration, Sets_every_global_value_to_0) {
     FuelleMitFremdem();
     LadeStandardkonfiguration();
-    EXPECT_EQ(Abbild()[0], Werte(256, 0));
+    EXPECT_TRUE(std::ranges::equal(Bereich(Global), Werte(256, 0)));
 }
 
 TEST_F(Standardkonfiguration, Sets_the_defaults_of_every_optical_part_and_0_elsewhere) {

@@ -42,7 +42,7 @@ protected:
     static void Setze(Speicherbereich bereich, std::int16_t adresse, std::int32_t wert, int teil = 0) {
         const auto alte = modDaten::Bereich(bereich);
         Werte werte(alte.begin(), alte.end());
-        werte[modDaten::Stelle(bereich, adresse, teil)] = wert;
+        werte[Stelle(bereich, adresse, teil)] = wert;
         modDaten::ErsetzeBereich(bereich, werte);
     }
     static void SetzeStrahlen(std::array<int, AnzahlOptikteile> strahlen) {

@@ -11,7 +11,7 @@ using pruefung::Mitschrift;
 using pruefung::Schritt;
 using pruefung::Wort;
 
-std::vector<std::pair<int, int>> Parameter(std::initializer_list<std::pair<int, int>> spezifische) {
+std::vector<std::pair<int, int>> Parameterliste(std::initializer_list<std::pair<int, int>> spezifische) {
     std::vector<std::pair<int, int>> alle{{0, 1}, {9, 10}, {20, 4}, {24, 1}, {25, 1}, {193, 1}, {196, 1}};
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         for (const auto& [adresse, anzahl] : spezifische)
@@ -36,11 +36,11 @@ protected:
     }
     static std::int32_t Spezifisch(int adresse, int teil) {
         const auto werte = modDaten::Bereich(Speicherbereich::SpezifischeGeraetedaten);
-        return werte[modDaten::Stelle(Speicherbereich::SpezifischeGeraetedaten,
-                                      static_cast<std::int16_t>(adresse), teil)];
+        return werte[Stelle(Speicherbereich::SpezifischeGeraetedaten, static_cast<std::int16_t>(adresse),
+                            teil)];
     }
     static std::int32_t Wert(Speicherbereich bereich, int adresse) {
-        return modDaten::Bereich(bereich)[modDaten::Stelle(bereich, static_cast<std::int16_t>(adresse))];
+        return modDaten::Bereich(bereich)[Stelle(bereich, static_cast<std::int16_t>(adresse))];
     }
     /// The first step shown in a range.
     Schritt ErsterSchritt(const std::string& bereich) const {
@@ -55,8 +55,9 @@ protected:
 
 TEST_F(LesevorgangTest, Every_readable_parameter_is_read_once_in_the_order_of_ranges_parts_and_addresses) {
     EXPECT_TRUE(LiesKonfiguration(anzeige));
-    EXPECT_EQ(geraet.gelesen,
-              Parameter({{12, 1}, {13, 1}, {14, 1}, {19, 1}, {24, 1}, {25, 1}, {26, 1}, {27, 1}, {52, 32}}));
+    EXPECT_EQ(
+        geraet.gelesen,
+        Parameterliste({{12, 1}, {13, 1}, {14, 1}, {19, 1}, {24, 1}, {25, 1}, {26, 1}, {27, 1}, {52, 32}}));
 }
 
 TEST_F(LesevorgangTest, The_parts_and_the_channel_are_selected_before_they_are_read) {

@@ -18,15 +18,16 @@ using pruefung::Schritt;
 using Schreibvorgaenge = std::vector<PruefGeraet::Schreibvorgang>;
 
 /// A parameter by device address and count.
-struct Parameter {
+struct Schreibziel {
     int adresse;
     int anzahl;
 };
 
-constexpr Parameter Globale[] = {{193, 1}};
-constexpr Parameter Spezifische[] = {{0x2000 + 13, 1}, {0x2000 + 14, 1}, {0x2000 + 19, 1}, {0x2000 + 24, 1},
-                                     {0x2000 + 25, 1}, {0x2000 + 26, 1}, {0x2000 + 27, 1}, {0x2000 + 52, 32}};
-constexpr Parameter Kommunikation[] = {
+constexpr Schreibziel Globale[] = {{193, 1}};
+constexpr Schreibziel Spezifische[] = {{0x2000 + 13, 1}, {0x2000 + 14, 1}, {0x2000 + 19, 1},
+                                       {0x2000 + 24, 1}, {0x2000 + 25, 1}, {0x2000 + 26, 1},
+                                       {0x2000 + 27, 1}, {0x2000 + 52, 32}};
+constexpr Schreibziel Kommunikation[] = {
     {0x4000 + 4, 1}, {0x4000 + 8, 1}, {0x4000 + 74, 1}, {0x4000 + 75, 30}, {0x4000 + 126, 1}};
 
 /// A value that differs from one register to the next.
@@ -39,12 +40,12 @@ void FuelleAbbild() {
         Werte werte(modDaten::Bereich(bereich).size());
         for (std::int16_t adresse = 0; adresse < AnzahlAdressen(bereich); ++adresse)
             for (int teil = 0; teil < Exemplare(bereich); ++teil)
-                werte[modDaten::Stelle(bereich, adresse, teil)] = Pruefwert(teil, adresse);
+                werte[Stelle(bereich, adresse, teil)] = Pruefwert(teil, adresse);
         modDaten::ErsetzeBereich(bereich, werte);
     }
 }
 
-void HaengeAn(Schreibvorgaenge& folge, int auswahl, int teil, std::span<const Parameter> parameter) {
+void HaengeAn(Schreibvorgaenge& folge, int auswahl, int teil, std::span<const Schreibziel> parameter) {
     for (const auto& [adresse, anzahl] : parameter) {
         PruefGeraet::Schreibvorgang vorgang{auswahl, adresse, {}};
         for (int i = 0; i < anzahl; ++i)

@@ -102,8 +102,7 @@ TEST_F(StrahlenzahlenTest, Apart_from_the_beam_counts_a_new_configuration_is_the
     VerdirbAbbild();
     EXPECT_TRUE(ErstelleKonfiguration({7, 0, 9, 0}));
     const auto anfang = static_cast<std::size_t>(AnzahlAdressen(Speicherbereich::GlobaleGeraetedaten));
-    const auto stelle =
-        anfang + modDaten::Stelle(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl);
+    const auto stelle = anfang + Stelle(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl);
     erwartet[stelle] = 7;
     erwartet[stelle + 2] = 9;
     EXPECT_EQ(GanzesAbbild(), erwartet);
