@@ -3,6 +3,7 @@
 #include "bericht.h"
 #include "messplatz.h"
 #include "registeradressen.h"
+#include "speicherbereich.h"
 #include "statistik.h"
 #include "transaktionen.h"
 
@@ -33,8 +34,9 @@ void MissTransaktion() {
     const Verkehr vorher = platz.Bisher();
     const double verbraucht = Rechenzeit();
     for (int i = 0; i < Anzahl; ++i)
-        if (modModbus::RTUModeH03LeseAnforderung(modModbus::SpezifischeBasis + spezifisch::Messwerte,
-                                                 Register, werte) == False)
+        if (modModbus::RTUModeH03LeseAnforderung(
+                Geraeteadresse(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Messwerte), Register,
+                werte) == False)
             Scheitere(QStringLiteral("a transaction failed"));
     const double jeTransaktion = (Rechenzeit() - verbraucht) / Anzahl;
     if ((platz.Bisher() - vorher).sendungen != Anzahl)

@@ -17,14 +17,14 @@ namespace varnoth {
 
 namespace {
 
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+
 constexpr auto Abschnitt = "frmBlankingmuster";
 constexpr std::int16_t TextErstesOptikteil = 5200;
 constexpr std::int16_t TextAnzahlGeblankter = 4019;
 
 std::int32_t Register(std::int16_t optikteil, std::int16_t adresse) {
-    Werte wert(1);
-    modDaten::HoleSpezifischeDaten(adresse, 1, optikteil, wert);
-    return wert[0];
+    return modDaten::HoleRegister(Spezifisch, adresse, optikteil);
 }
 
 void StellePlatzHer(QWidget& fenster) {
@@ -84,8 +84,7 @@ void frmBlankingmuster::InitFormBlankingmuster(std::int32_t Index) {
 }
 
 void frmBlankingmuster::Fuelle() {
-    Werte muster(Blankingregister);
-    modDaten::HoleSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Optikteil, muster);
+    const Werte muster = modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, Optikteil);
     Zeige(GeblankteAusMuster(muster, ui->BeamBar1->Strahlanzahl()));
 }
 
@@ -120,9 +119,8 @@ void frmBlankingmuster::SetzeBedienart(int art) {
 }
 
 void frmBlankingmuster::SchreibeZurueck() {
-    modDaten::SetzeSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Optikteil,
-                                    MusterAus(Gezeigte()));
-    accept();
+    if (modDaten::SetzeParameter(Spezifisch, spezifisch::Blankingmuster, MusterAus(Gezeigte()), Optikteil))
+        accept();
 }
 
 void frmBlankingmuster::showEvent(QShowEvent* ereignis) {

@@ -4,8 +4,8 @@
 #include "frmReihenfolge.h"
 #include "geraetesuche.h"
 #include "lokalisiereform.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
-#include "registerzugriff.h"
 #include "schnittstelle.h"
 #include "ui_frmKonfigurationEdit.h"
 #include "zykluszeiten.h"
@@ -83,7 +83,8 @@ void frmKonfigurationEdit::EntferneFehlendeTeile() {
 }
 
 void frmKonfigurationEdit::SeitenFuellen() {
-    const std::int32_t bustyp = LiesRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Bustyp);
+    const std::int32_t bustyp =
+        modDaten::HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Bustyp);
     ui->picOptions_0->Fuelle();
     for (Optikseite* const seite : optikseiten)
         seite->Fuelle();

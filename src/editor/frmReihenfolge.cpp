@@ -17,6 +17,8 @@ namespace varnoth {
 
 namespace {
 
+constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
+
 // This box speaks to the programmer, not to the user: no sign, no translation.
 constexpr auto Fehlertext = "Error in Ausgabedaten für Autosend, Registeradressen";
 
@@ -74,9 +76,7 @@ void frmReihenfolge::VerbindeListe() {
 }
 
 void frmReihenfolge::Lade() {
-    Werte datenblock(Datenblockregister);
-    modDaten::HoleKommunikationsdaten(kommunikation::Datenblock, Datenblockregister, datenblock);
-    liste = ListeAus(datenblock);
+    liste = ListeAus(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock));
     ZeigeListe(0);
     if (HatUngueltigenEintrag(liste))
         DieUmgebung().ZeigeMeldung({.text = Fehlertext, .symbol = Symbol::Ohne});
@@ -138,8 +138,8 @@ void frmReihenfolge::UebernimmWahl(std::int16_t eintrag) {
 }
 
 void frmReihenfolge::SchreibeZurueck() {
-    modDaten::SetzeKommunikationsdaten(kommunikation::Datenblock, Datenblockregister, DatenblockAus(liste));
-    accept();
+    if (modDaten::SetzeParameter(Kommunikation, kommunikation::Datenblock, DatenblockAus(liste)))
+        accept();
 }
 
 } // namespace varnoth

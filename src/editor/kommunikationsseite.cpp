@@ -4,13 +4,14 @@
 #include "geraetetexte.h"
 #include "listenbindung.h"
 #include "pausenzeit.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
-#include "registerzugriff.h"
 #include "texte.h"
 #include "ui_kommunikationsseite.h"
 #include "zykluszeiten.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace varnoth {
 
@@ -84,9 +85,10 @@ void Kommunikationsseite::Fuelle(std::int32_t typ) {
     derBustyp = typ;
     ui->lblInhaltBusTyp->setText(QString::fromStdString(Bustyptext(derBustyp)));
     ui->lblFormatZwischenMasterSlave->setText(
-        QString::fromStdString(Formattext(LiesRegister(Kommunikation, kommunikation::Format))));
+        QString::fromStdString(Formattext(modDaten::HoleRegister(Kommunikation, kommunikation::Format))));
     FuelleStationsadresse();
-    ui->txtPausenzeit->setText(QString::number(LiesRegister(Kommunikation, kommunikation::Pausenzeit)));
+    ui->txtPausenzeit->setText(
+        QString::number(modDaten::HoleRegister(Kommunikation, kommunikation::Pausenzeit)));
     FuelleAutosend();
     FuelleAutosendformat();
     PasseAnBusAn();
@@ -95,14 +97,14 @@ void Kommunikationsseite::Fuelle(std::int32_t typ) {
 
 void Kommunikationsseite::FuelleStationsadresse() {
     const int groesste = MaxStationsadresse(derBustyp);
-    const std::int32_t adresse = LiesRegister(Kommunikation, kommunikation::Stationsadresse);
+    const std::int32_t adresse = modDaten::HoleRegister(Kommunikation, kommunikation::Stationsadresse);
     ZeigeListe(*ui->cboStationsAdresse, Stationsadressen(groesste), 0, std::min(adresse, groesste));
 }
 
 void Kommunikationsseite::FuelleAutosend() {
     const int maxRate = MaxAutosendrate(derBustyp);
     const Autosendeinstellung autosend =
-        AutosendAus(LiesRegister(Kommunikation, kommunikation::Autosend), maxRate);
+        AutosendAus(modDaten::HoleRegister(Kommunikation, kommunikation::Autosend), maxRate);
     Waehle(*ui->optAutosend, autosend.art);
     Waehle(*ui->optTrigger, autosend.trigger);
     ui->chkStrahldatenMerken->setChecked(autosend.strahldatenMerken);
@@ -112,7 +114,7 @@ void Kommunikationsseite::FuelleAutosend() {
 }
 
 void Kommunikationsseite::FuelleAutosendformat() {
-    const std::int32_t format = LiesRegister(Kommunikation, kommunikation::Autosendformat);
+    const std::int32_t format = modDaten::HoleRegister(Kommunikation, kommunikation::Autosendformat);
     ZeigeListe(*ui->cboBaudrate, Autosendbaudraten(), 0, format);
     Waehle(*ui->optByteformat, ByteformatAus(format));
 }
@@ -170,14 +172,15 @@ std::optional<Autosendart> Kommunikationsseite::Art() const {
 std::int32_t Kommunikationsseite::Autosendwert() const {
     const std::int32_t rate = GewaehlterWert(*ui->cbolOhneTriggerAutosendrate, Autosendraten(0));
     if (derBustyp == bustyp::Profibus)
-        return RegisterwertProfibus(LiesRegister(Kommunikation, kommunikation::Autosend), rate);
+        return RegisterwertProfibus(modDaten::HoleRegister(Kommunikation, kommunikation::Autosend), rate);
     return Registerwert(Autosendeinstellung{Art(), ui->chkStrahldatenMerken->isChecked(), rate,
                                             Gewaehlt<Triggerstart>(*ui->optTrigger)});
 }
 
 void Kommunikationsseite::SchreibeZurueck() const {
+    // Each of these addresses is a parameter of one register, which cannot be refused.
     const auto schreibe = [](std::int16_t adresse, std::int32_t wert) {
-        SchreibeRegister(Kommunikation, adresse, wert);
+        std::ignore = modDaten::SetzeRegister(Kommunikation, adresse, wert);
     };
     schreibe(kommunikation::Stationsadresse, GewaehlterWert(*ui->cboStationsAdresse, Stationsadressen(0)));
     schreibe(kommunikation::Pausenzeit, Pausenzeitwert(ui->txtPausenzeit->text().toStdString()));

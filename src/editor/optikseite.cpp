@@ -2,8 +2,8 @@
 
 #include "gruppenzaehler.h"
 #include "listenbindung.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
-#include "registerzugriff.h"
 #include "ui_optikseite.h"
 #include "zykluszeiten.h"
 
@@ -44,13 +44,14 @@ void Optikseite::ZeigeUebertrageneWerte() {
 
 void Optikseite::Fuelle() {
     const std::int32_t zyklus = modHilfsFunktionen::GetZykluszeit(optikteil);
-    const std::int32_t strahlen = LiesRegister(Spezifisch, spezifisch::Strahlenzahl, optikteil);
+    const std::int32_t strahlen = modDaten::HoleRegister(Spezifisch, spezifisch::Strahlenzahl, optikteil);
     ui->lblInhaltAnzahlStrahlenSegmente->setText(QString::number(strahlen));
     for (std::size_t i = 0; i < boxen.size(); ++i) {
         const Auswahlliste& liste = AlleTeillisten()[i];
-        ZeigeListe(*boxen[i], liste, zyklus, LiesRegister(Spezifisch, liste.adresse, optikteil));
+        ZeigeListe(*boxen[i], liste, zyklus, modDaten::HoleRegister(Spezifisch, liste.adresse, optikteil));
     }
-    const bool oder = GruppenzaehlerOder(LiesRegister(Spezifisch, spezifisch::Gruppenzaehler, optikteil));
+    const bool oder =
+        GruppenzaehlerOder(modDaten::HoleRegister(Spezifisch, spezifisch::Gruppenzaehler, optikteil));
     (oder ? ui->optGruppenzählerOder : ui->optGruppenzählerUnd)->setChecked(true);
 }
 
@@ -62,9 +63,10 @@ std::int32_t Optikseite::Wert(const QComboBox& box, const Auswahlliste& liste) c
 }
 
 void Optikseite::SchreibeZurueck() const {
+    // Each list is a parameter of one register, which cannot be refused.
     for (std::size_t i = 0; i < boxen.size(); ++i) {
         const Auswahlliste& liste = AlleTeillisten()[i];
-        SchreibeRegister(Spezifisch, liste.adresse, Wert(*boxen[i], liste), optikteil);
+        std::ignore = modDaten::SetzeRegister(Spezifisch, liste.adresse, Wert(*boxen[i], liste), optikteil);
     }
 }
 

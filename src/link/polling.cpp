@@ -1,6 +1,7 @@
 #include "polling.h"
 
 #include "bitsunddatum.h"
+#include "geraetestatus.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
@@ -18,9 +19,10 @@ namespace {
 using namespace modDaten;
 using namespace modModbus;
 
+constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+
 constexpr int Versuche = 10;
-constexpr std::int16_t Messwertzahl = 18;
-constexpr std::int16_t BitVorhanden = 7;
 constexpr std::int16_t BitSchaltausgang = 1;
 
 constexpr std::int16_t TextVerbindungUnterbrochen = 3000;
@@ -71,34 +73,35 @@ bool MitVersuchen(Transaktion transaktion) {
     }
 }
 
-bool Lies(int adresse, int anzahl, Werte& werte) {
+bool Lies(Speicherbereich bereich, std::int16_t adresse, std::int16_t anzahl, Werte& werte) {
     werte.resize(static_cast<std::size_t>(anzahl));
     return MitVersuchen([&] {
-        return RTUModeH03LeseAnforderung(static_cast<std::uint16_t>(adresse),
-                                         static_cast<std::uint16_t>(anzahl), werte);
+        return RTUModeH03LeseAnforderung(Geraeteadresse(bereich, adresse), static_cast<std::uint16_t>(anzahl),
+                                         werte);
     });
 }
 
-bool LiesSpezifische(int adresse, int anzahl, Werte& werte) {
-    return Lies(SpezifischeBasis + adresse, anzahl, werte);
+/// Reads a parameter from the controller into the image. `teil` is the optical part that is selected.
+bool LiesParameter(Speicherbereich bereich, std::int16_t adresse, int teil = 0) {
+    Werte werte;
+    return Lies(bereich, adresse, Beschreibung(bereich, adresse).Laenge, werte) &&
+           SetzeParameter(bereich, adresse, werte, teil);
 }
 
 bool LiesStrahlen(int teil, LiveAnsicht& ansicht) {
-    const int anzahl = Strahlregister(Strahlenzahl(teil));
+    const auto anzahl = static_cast<std::int16_t>(Strahlregister(Strahlenzahl(teil)));
     Werte werte;
-    if (anzahl > 0 && !LiesSpezifische(spezifisch::Strahlzustaende, anzahl, werte))
+    if (anzahl > 0 && !Lies(Spezifisch, spezifisch::Strahlzustaende, anzahl, werte))
         return false;
-    SetzeStrahlzustaende(static_cast<std::int16_t>(anzahl), static_cast<std::int16_t>(teil), werte);
+    SetzeStrahlzustaende(anzahl, static_cast<std::int16_t>(teil), werte);
     ansicht.StrahlzustaendeLiegenVor();
     ansicht.BlankingBekannt();
     return true;
 }
 
 bool LiesMesswerte(int teil, LiveAnsicht& ansicht) {
-    Werte werte;
-    if (!LiesSpezifische(spezifisch::Messwerte, Messwertzahl, werte))
+    if (!LiesParameter(Spezifisch, spezifisch::Messwerte, teil))
         return false;
-    SetzeSpezifischeDaten(spezifisch::Messwerte, Messwertzahl, static_cast<std::int16_t>(teil), werte);
     ansicht.MesswerteLiegenVor();
     return true;
 }
@@ -117,11 +120,8 @@ bool UebernimmAnwesenheit(int teil, std::int32_t statusregister) {
 bool PolleOptikteil(int teil) {
     if (!MitVersuchen([&] { return WaehleOptikteil(teil); }))
         return false;
-    Werte status;
-    if (!LiesSpezifische(spezifisch::Optikteilstatus, 1, status))
-        return false;
-    SetzeSpezifischeDaten(spezifisch::Optikteilstatus, 1, static_cast<std::int16_t>(teil), status);
-    if (!UebernimmAnwesenheit(teil, status[0]))
+    if (!LiesParameter(Spezifisch, spezifisch::Optikteilstatus, teil) ||
+        !UebernimmAnwesenheit(teil, HoleRegister(Spezifisch, spezifisch::Optikteilstatus, teil)))
         return false;
     LiveAnsicht& ansicht = dasZiel->Ansicht(teil);
     if (GetOptikteilStatus(teil) != Vorhanden || !ansicht.ZeigtLiveDaten())
@@ -131,11 +131,9 @@ bool PolleOptikteil(int teil) {
 }
 
 bool PolleGlobalstatus() {
-    Werte status;
-    if (!Lies(global::Geraetestatus, 1, status))
+    if (!LiesParameter(Global, global::Geraetestatus))
         return false;
-    SetzeGlobaleDaten(global::Geraetestatus, 1, status);
-    const bool aktiv = GetBit(status[0], BitSchaltausgang) != False;
+    const bool aktiv = GetBit(HoleRegister(Global, global::Geraetestatus), BitSchaltausgang) != False;
     DieUmgebung().ZeigeStatustext(FeldSchaltausgang,
                                   LadeText(aktiv ? TextAusgangAktiv : TextAusgangNichtAktiv));
     return true;
@@ -184,7 +182,7 @@ void SetzeOptikteilStatus(int optikteil, Optikteilzustand neu) {
 }
 
 Optikteilzustand ZustandAus(std::int32_t statusregister) {
-    return GetBit(statusregister, BitVorhanden) != False ? Vorhanden : NichtVorhanden;
+    return IstOptikteilVorhanden(statusregister) ? Vorhanden : NichtVorhanden;
 }
 
 unsigned GetDurchgaenge() {

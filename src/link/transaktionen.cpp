@@ -3,7 +3,9 @@
 #include "austausch.h"
 #include "erkenner.h"
 #include "rahmen.h"
+#include "registeradressen.h"
 #include "schnittstelle.h"
+#include "speicherbereich.h"
 
 #include <exception>
 
@@ -46,7 +48,8 @@ Boolean Schreibe(std::uint16_t start, std::uint16_t anzahl, const Werte& werte, 
 
 /// The controller must hear of it whatever the line is like; nobody looks at the reply.
 Boolean SendeSteuerwert(std::int32_t wert) {
-    return Schreibe(SteuerwertAdresse, 1, {wert}, Verlass::Keiner);
+    constexpr auto Adresse = Geraeteadresse(Speicherbereich::Kommunikationsdaten, kommunikation::Steuerwert);
+    return Schreibe(Adresse, 1, {wert}, Verlass::Keiner);
 }
 
 /// One exchange of a command that has the port for itself.
@@ -104,11 +107,8 @@ Boolean SendeFunktion09() {
 }
 
 Boolean WaehleOptikteil(int optikteil) {
-    return RTUModeH10SchreibenAnforderung(OptikteilAuswahlRegister, 1, {optikteil});
-}
-
-Boolean WaehleKanal(int kanal) {
-    return RTUModeH10SchreibenAnforderung(KanalAuswahlRegister, 1, {kanal});
+    constexpr auto Adresse = Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, global::Optikteilauswahl);
+    return RTUModeH10SchreibenAnforderung(Adresse, 1, {optikteil});
 }
 
 void Zuruecksetzen() {

@@ -14,18 +14,6 @@
 /// the procedure's name.
 namespace varnoth::modModbus {
 
-/// Device addresses of the memory ranges' first registers.
-inline constexpr std::uint16_t GlobaleBasis = 0x0000;
-inline constexpr std::uint16_t SpezifischeBasis = 0x2000;
-inline constexpr std::uint16_t KommunikationsBasis = 0x4000;
-
-/// Global register that selects the optical part 0..3 whose specific data are addressed.
-inline constexpr std::uint16_t OptikteilAuswahlRegister = 212;
-/// Global register that selects the communication channel.
-inline constexpr std::uint16_t KanalAuswahlRegister = 213;
-/// Device address of the control value: 2 starts autosend, 4 ends it.
-inline constexpr std::uint16_t SteuerwertAdresse = 0x4084;
-
 /// Reads registers into Werte[0..Anzahl-1], each 0..65535. Werte must have room for them and is left as it is
 /// on False.
 Boolean RTUModeH03LeseAnforderung(std::uint16_t Startadresse, std::uint16_t Anzahl, Werte& werte);
@@ -38,8 +26,6 @@ Boolean SendeFunktion09();
 
 /// Selects the optical part 0..3 that specific addresses mean from now on.
 Boolean WaehleOptikteil(int optikteil);
-/// Selects the communication channel that communication addresses mean from now on.
-Boolean WaehleKanal(int kanal);
 
 /// Back to the start: no controller identified, no request without its reply.
 void Zuruecksetzen();

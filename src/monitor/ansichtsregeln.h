@@ -13,9 +13,6 @@ namespace varnoth {
 /// The measured values of a view, in the order of their registers: TU, HU, ZU, TNU, HNU, ZNU.
 inline constexpr int AnzahlMesswerte = 6;
 
-/// The registers of measured values: current ones, minima, maxima.
-inline constexpr std::int16_t Messwertregister = 3 * AnzahlMesswerte;
-
 /// Where the block of values begins that an option button selects: 0 current, 1 minimum, 2 maximum.
 int Blockversatz(int auswahl);
 

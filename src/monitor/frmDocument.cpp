@@ -17,7 +17,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextGeblankte = 4019;
-constexpr std::int16_t Blankingregister = 32;
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr int StrahlenJeRegister = 16;
 
 QString AlsText(std::int32_t wert) {
@@ -63,8 +63,7 @@ void frmDocument::SetAktuellMinMaxStatus() {
     if (gewaehlt != versatz)
         gezeigteWerte.fill(-1);
     versatz = gewaehlt;
-    Werte werte(Messwertregister);
-    modDaten::HoleSpezifischeDaten(spezifisch::Messwerte, Messwertregister, optikteil, werte);
+    const Werte werte = modDaten::HoleParameter(Spezifisch, spezifisch::Messwerte, optikteil);
     for (std::size_t k = 0; k < felder.size(); ++k) {
         const std::int32_t wert = werte[static_cast<std::size_t>(versatz) + k];
         if (wert != gezeigteWerte[k])
@@ -143,8 +142,7 @@ void frmDocument::StrahlzustaendeLiegenVor() {
 void frmDocument::BlankingBekannt() {
     if (strahlen.empty())
         return;
-    Werte blanking(Blankingregister);
-    modDaten::HoleSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, optikteil, blanking);
+    const Werte blanking = modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, optikteil);
     StartBeamRefresh();
     for (int strahl = 0; strahl < ui->BeamBar1->Strahlanzahl(); ++strahl)
         SetBeamIndexState(static_cast<std::int16_t>(strahl), StrahlBit(strahlen, strahl),
@@ -158,9 +156,7 @@ void frmDocument::MesswerteLiegenVor() {
 }
 
 std::int32_t frmDocument::Register(std::int16_t adresse) const {
-    Werte wert(1);
-    modDaten::HoleSpezifischeDaten(adresse, 1, optikteil, wert);
-    return wert[0];
+    return modDaten::HoleRegister(Spezifisch, adresse, optikteil);
 }
 
 void frmDocument::VergissAnzeige() {

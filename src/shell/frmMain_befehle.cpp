@@ -120,9 +120,8 @@ bool frmMain::LiesKonfiguration() {
     dialog.exec();
     if (dialog.GetCancel() != False)
         return false;
-    Werte autosend{0};
-    modDaten::HoleKommunikationsdaten(kommunikation::Autosend, 1, autosend);
-    zustand.autosendWaehlbar = AutosendWaehlbar(autosend[0]);
+    zustand.autosendWaehlbar = AutosendWaehlbar(
+        modDaten::HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Autosend));
     AktualisiereMenue();
     return true;
 }
@@ -136,10 +135,9 @@ bool frmMain::HoleOptikteilInformation() {
 
 void frmMain::SubMessdatenVisualisierenStop() {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
-        Werte status{0};
-        modDaten::HoleSpezifischeDaten(spezifisch::Optikteilstatus, 1, static_cast<std::int16_t>(teil),
-                                       status);
-        SetzeTitel(teil, Titeltext(modPolling::ZustandAus(status[0]), false));
+        const std::int32_t status = modDaten::HoleRegister(Speicherbereich::SpezifischeGeraetedaten,
+                                                           spezifisch::Optikteilstatus, teil);
+        SetzeTitel(teil, Titeltext(modPolling::ZustandAus(status), false));
     }
     ZeigeStatustext(FeldMeldungen, "");
     modPolling::StoppePolling();

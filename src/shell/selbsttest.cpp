@@ -19,6 +19,8 @@ namespace varnoth {
 
 namespace {
 
+constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
+
 constexpr int TaktMs = 100;
 constexpr int LaengsteWartezeitMs = 60000;
 constexpr int LiveZeitMs = 2000;
@@ -29,22 +31,17 @@ QString Text(const std::string& utf8) {
     return QString::fromStdString(utf8);
 }
 
-QString Geraetetext(std::int16_t adresse, std::int16_t anzahl) {
-    Werte werte;
-    modDaten::HoleGlobaleDaten(adresse, anzahl, werte);
+QString Geraetetext(std::int16_t adresse) {
     std::string text;
-    for (const auto wert : werte)
+    for (const auto wert : modDaten::HoleParameter(Global, adresse))
         text += RegisterAlsUtf8(wert);
     return Text(text).trimmed();
 }
 
 int ZaehleLesbare(Speicherbereich bereich) {
     int anzahl = 0;
-    std::int16_t adresse = 0;
-    std::int16_t laenge = 0;
-    for (auto da = modDaten::ErsterLesbarerEintrag(bereich, adresse, laenge); da != False;
-         da = modDaten::NaechsterLesbarerEintrag(bereich, adresse, laenge))
-        anzahl += laenge * Exemplare(bereich);
+    for (const Parameter& parameter : ParameterMit(bereich, IstLesbar))
+        anzahl += parameter.beschreibung.Laenge * Exemplare(bereich);
     return anzahl;
 }
 
@@ -54,19 +51,18 @@ void BerichteIdentifikation(QTextStream& aus) {
 }
 
 void BerichteKonfiguration(QTextStream& aus) {
-    const int register_ = ZaehleLesbare(Speicherbereich::GlobaleGeraetedaten) +
-                          ZaehleLesbare(Speicherbereich::SpezifischeGeraetedaten) +
-                          ZaehleLesbare(Speicherbereich::Kommunikationsdaten);
-    Werte datum;
-    modDaten::HoleGlobaleDaten(global::Herstelldatum, 4, datum);
-    aus << "read: " << register_ << " registers; serial number " << Geraetetext(global::Seriennummer, 10)
+    int gelesene = 0;
+    for (const auto bereich : AlleSpeicherbereiche)
+        gelesene += ZaehleLesbare(bereich);
+    const Werte datum = modDaten::HoleParameter(Global, global::Herstelldatum);
+    aus << "read: " << gelesene << " registers; serial number " << Geraetetext(global::Seriennummer)
         << ", made " << Text(modDaten::KonvertDatenToDatum(datum)) << "\n";
 }
 
 void BerichteMesswerte(QTextStream& aus, int optikteil) {
     constexpr const char* namen[] = {"TU", "HU", "ZU", "TNU", "HNU", "ZNU"};
-    Werte werte;
-    modDaten::HoleSpezifischeDaten(spezifisch::Messwerte, 18, static_cast<std::int16_t>(optikteil), werte);
+    const Werte werte =
+        modDaten::HoleParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Messwerte, optikteil);
     aus << "measured: part " << optikteil + 1 << ", " << modDaten::Strahlenzahl(optikteil) << " beams";
     for (std::size_t i = 0; i < std::size(namen); ++i)
         aus << ", " << namen[i] << " " << werte.at(i);

@@ -35,10 +35,8 @@ bool PruefeGelesenes() {
 void UebernimmOptikteile() {
     int anzahl = 0;
     for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
-        Werte status{0};
-        modDaten::HoleSpezifischeDaten(spezifisch::Optikteilstatus, 1, static_cast<std::int16_t>(teil),
-                                       status);
-        SetzeOptikteilStatus(teil, ZustandAus(status[0]));
+        SetzeOptikteilStatus(teil, ZustandAus(modDaten::HoleRegister(Speicherbereich::SpezifischeGeraetedaten,
+                                                                     spezifisch::Optikteilstatus, teil)));
         if (GetOptikteilStatus(teil) == Vorhanden)
             anzahl = teil + 1;
     }

@@ -50,9 +50,8 @@ void GleicheAn(std::initializer_list<QLabel*> spalte) {
 }
 
 std::int32_t Strahlabstand(int optikteil) {
-    Werte werte{0};
-    modDaten::HoleSpezifischeDaten(spezifisch::Aufloesung, 1, static_cast<std::int16_t>(optikteil), werte);
-    return werte[0];
+    return modDaten::HoleRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung,
+                                  optikteil);
 }
 
 /// What is no number gets the colour that elsewhere means interrupted.
@@ -65,9 +64,8 @@ void ZeigeLesbar(QLineEdit& feld, bool lesbar) {
 }
 
 std::int32_t Baudrate() {
-    Werte werte{0};
-    modDaten::HoleKommunikationsdaten(kommunikation::Autosendformat, 1, werte);
-    return AutosendBaudrate(werte[0]);
+    return AutosendBaudrate(
+        modDaten::HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Autosendformat));
 }
 
 } // namespace

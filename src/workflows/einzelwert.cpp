@@ -1,10 +1,11 @@
 #include "einzelwert.h"
 
+#include "speicherbereich.h"
 #include "transaktionen.h"
 #include "zahlen.h"
 
-#include <array>
 #include <cmath>
+#include <iterator>
 
 namespace varnoth {
 
@@ -15,9 +16,6 @@ constexpr const char* Bestaetigung = "OK";
 
 constexpr std::int32_t GroessterWert = 0xFFFF;
 constexpr std::int32_t KleinsterWert = -0x8000;
-
-constexpr std::array<std::uint16_t, 3> Bereichsanfaenge = {
-    modModbus::GlobaleBasis, modModbus::SpezifischeBasis, modModbus::KommunikationsBasis};
 
 /// Val gives 0 for a number that it cannot hold, which must not pass for the number 0: what such a number
 /// begins with, up to its first digit other than 0, is not 0.
@@ -39,7 +37,8 @@ std::optional<std::int32_t> GanzeZahl(std::string_view text, std::int32_t kleins
 
 std::int32_t BereichsOffset(int bereich) {
     const auto stelle = static_cast<std::size_t>(bereich);
-    return stelle < Bereichsanfaenge.size() ? Bereichsanfaenge.at(stelle) : modModbus::GlobaleBasis;
+    return Bereichsanfang(stelle < std::size(AlleSpeicherbereiche) ? AlleSpeicherbereiche[stelle]
+                                                                   : Speicherbereich::GlobaleGeraetedaten);
 }
 
 std::optional<std::uint16_t> Registeradresse(const Einzelregister& register_) {

@@ -3,6 +3,7 @@
 #include "einstellungen.h"
 #include "kommandoregister.h"
 #include "registeradressen.h"
+#include "registerbeschreibung.h"
 #include "servicetext.h"
 #include "texte.h"
 #include "transaktionen.h"
@@ -22,9 +23,6 @@ constexpr std::int16_t TextHardwareversion = 7504;
 constexpr std::int16_t TextHerstelldatum = 7505;
 constexpr std::int16_t TextPasswort = 7512;
 constexpr std::int16_t TextEepromUpdate = 7513;
-
-/// Global register at which the service password begins.
-constexpr std::int16_t Passwortregister = 178;
 
 constexpr std::size_t Passwortlaenge = 16; // characters
 constexpr std::size_t Seriennummerlaenge = 20;
@@ -79,7 +77,7 @@ struct Schritt {
 };
 
 /// The password opens the controller for just one group of registers.
-constexpr Schritt Passwortschritt{TextPasswort, Passwortregister, PackePasswort, MerkeNichts};
+constexpr Schritt Passwortschritt{TextPasswort, global::Passwort, PackePasswort, MerkeNichts};
 
 constexpr Schritt Schritte[] = {
     Passwortschritt,
@@ -88,13 +86,13 @@ constexpr Schritt Schritte[] = {
     {TextHerstelldatum, global::Herstelldatum, PackeHerstelldatum, MerkeNichts},
     Passwortschritt,
     {TextHardwareversion, global::Hardwareversion, PackeHardwareversion, MerkeHardwareversion},
-    {TextEepromUpdate, Kommandoregister, Speicherbefehl, MerkeNichts},
+    {TextEepromUpdate, global::Kommando, Speicherbefehl, MerkeNichts},
 };
 
 bool FuehreAus(Initialisierungsanzeige& anzeige, const Schritt& schritt, const Werksdaten& daten) {
     anzeige.ZeigeSchritt(LadeText(schritt.text));
     const Werte werte = schritt.werte(daten);
-    const auto adresse = static_cast<std::uint16_t>(modModbus::GlobaleBasis + schritt.adresse);
+    const auto adresse = Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, schritt.adresse);
     const auto anzahl = static_cast<std::uint16_t>(werte.size());
     const bool geschrieben = VersucheBisErfolg(
         anzeige, [&](int versuch) { anzeige.ZeigeVersuch(versuch); },

@@ -6,9 +6,6 @@
 
 namespace varnoth {
 
-/// The global register that takes commands.
-inline constexpr std::int16_t Kommandoregister = 189;
-
 /// What the controller can be told to do at once.
 enum class Kommando : std::int32_t {
     SpeichereKonfiguration = 1, ///< keep the configuration permanently

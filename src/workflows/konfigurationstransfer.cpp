@@ -1,9 +1,12 @@
 #include "konfigurationstransfer.h"
 
+#include "registeradressen.h"
 #include "texte.h"
 #include "transaktionen.h"
 #include "versuche.h"
 #include "zahlen.h"
+
+#include <algorithm>
 
 namespace varnoth {
 
@@ -27,7 +30,7 @@ bool Konfigurationstransfer::UebertrageAlles() {
     gesamt = AnzahlSchritte();
     anzeige.ZeigeFortschritt(erledigt, gesamt);
     return UebertrageBereich(Speicherbereich::GlobaleGeraetedaten) && UebertrageOptikteile() &&
-           Waehle(TextKanal, modModbus::KanalAuswahlRegister, Kanal) &&
+           Waehle(TextKanal, global::Kanalauswahl, Kanal) &&
            UebertrageBereich(Speicherbereich::Kommunikationsdaten);
 }
 
@@ -40,47 +43,34 @@ bool Konfigurationstransfer::Versuche(const std::string& registertext, int anzah
     return gelungen;
 }
 
-/// The range's parameters. They are gathered before the first is transferred, since the description's cursor
-/// may be moved by others while a transfer waits.
-std::vector<Transferparameter> Konfigurationstransfer::Parameter(Speicherbereich bereich) const {
-    std::vector<Transferparameter> liste;
-    Transferparameter parameter{bereich, 0, 0};
-    for (Boolean da = ErsterEintrag()(bereich, parameter.adresse, parameter.anzahl); da != False;
-         da = NaechsterEintrag()(bereich, parameter.adresse, parameter.anzahl))
-        liste.push_back(parameter);
-    return liste;
-}
-
 /// Every parameter, the selection of each part and of the channel, and what the class adds.
 int Konfigurationstransfer::AnzahlSchritte() const {
     int anzahl = AnzahlOptikteile + 1 + weitereSchritte;
     for (const Speicherbereich bereich : AlleSpeicherbereiche)
-        anzahl += Exemplare(bereich) * static_cast<int>(Parameter(bereich).size());
+        anzahl +=
+            Exemplare(bereich) * static_cast<int>(std::ranges::distance(ParameterMit(bereich, auswahl)));
     return anzahl;
 }
 
-bool Konfigurationstransfer::Waehle(std::int16_t textId, std::int16_t auswahlregister, int auswahl) {
-    anzeige.ZeigeBereich(LadeText(textId) + std::to_string(auswahl));
+bool Konfigurationstransfer::Waehle(std::int16_t textId, std::int16_t auswahlregister, int nummer) {
+    anzeige.ZeigeBereich(LadeText(textId) + std::to_string(nummer));
     return Versuche(std::to_string(auswahlregister), 1, [=] {
-        return modModbus::RTUModeH10SchreibenAnforderung(static_cast<std::uint16_t>(auswahlregister), 1,
-                                                         {auswahl});
+        return modModbus::RTUModeH10SchreibenAnforderung(
+            Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, auswahlregister), 1, {nummer});
     });
 }
 
 bool Konfigurationstransfer::UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil) {
     anzeige.ZeigeBereich(
         LadeText(static_cast<std::int16_t>(ErsterBereichstext() + static_cast<int>(bereich))));
-    for (Transferparameter parameter : Parameter(bereich)) {
-        parameter.optikteil = optikteil;
-        if (!Uebertrage(parameter))
-            return false;
-    }
-    return true;
+    return std::ranges::all_of(ParameterMit(bereich, auswahl), [&](const Parameter& parameter) {
+        return Uebertrage({bereich, parameter.adresse, parameter.beschreibung.Laenge, optikteil});
+    });
 }
 
 bool Konfigurationstransfer::UebertrageOptikteile() {
     for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
-        if (!Waehle(TextOptikteil, modModbus::OptikteilAuswahlRegister, teil) ||
+        if (!Waehle(TextOptikteil, global::Optikteilauswahl, teil) ||
             !UebertrageBereich(Speicherbereich::SpezifischeGeraetedaten, teil))
             return false;
     return true;

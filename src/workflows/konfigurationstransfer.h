@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace varnoth {
 
@@ -37,12 +36,15 @@ std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
 
 /// The walk through all parameters that reading and writing a configuration have in common: the global range,
 /// the specific range of all four optical parts, connected or not, and the communication range of channel 0.
-/// What happens to a parameter, and which ones take part, is the business of the class that reads or writes.
+/// Which parameters take part and what happens to them is the business of the class that reads or writes.
 class Konfigurationstransfer {
 public:
+    /// Whether a parameter with that description takes part.
+    using Auswahl = bool (*)(const Registerbeschreibung& beschreibung);
+
     /// `weitere` is the number of exchanges that the class makes besides the walk; the progress counts them.
-    explicit Konfigurationstransfer(Transferanzeige& die, int weitere = 0)
-        : anzeige(die), weitereSchritte(weitere) {}
+    Konfigurationstransfer(Transferanzeige& die, Auswahl nimmtTeil, int weitere = 0)
+        : anzeige(die), auswahl(nimmtTeil), weitereSchritte(weitere) {}
     Konfigurationstransfer(const Konfigurationstransfer&) = delete;
     Konfigurationstransfer& operator=(const Konfigurationstransfer&) = delete;
     virtual ~Konfigurationstransfer() = default;
@@ -51,27 +53,23 @@ public:
     bool UebertrageAlles();
 
 protected:
-    using Eintragsiterator = Boolean (*)(Speicherbereich, std::int16_t& adresse, std::int16_t& anzahl);
-
     /// Attempts at one exchange until it succeeds, shown with the register's text and count; then the
     /// progress is one further. False = cancelled.
     bool Versuche(const std::string& registertext, int anzahl, const std::function<Boolean()>& transaktion);
 
 private:
-    virtual Eintragsiterator ErsterEintrag() const = 0;
-    virtual Eintragsiterator NaechsterEintrag() const = 0;
     /// The string id of the global range's name; the names of the other two ranges follow it.
     virtual std::int16_t ErsterBereichstext() const = 0;
     /// Transfers one parameter. False = cancelled.
     virtual bool Uebertrage(const Transferparameter& parameter) = 0;
 
-    std::vector<Transferparameter> Parameter(Speicherbereich bereich) const;
     int AnzahlSchritte() const;
-    bool Waehle(std::int16_t textId, std::int16_t auswahlregister, int auswahl);
+    bool Waehle(std::int16_t textId, std::int16_t auswahlregister, int nummer);
     bool UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil = 0);
     bool UebertrageOptikteile();
 
     Transferanzeige& anzeige;
+    Auswahl auswahl;
     int weitereSchritte;
     int erledigt = 0;
     int gesamt = 0;

@@ -14,27 +14,11 @@ using namespace modDaten;
 constexpr std::int16_t TextGlobaleGeraetedaten = 7005;
 constexpr std::int16_t TextUebertragungBeendet = 7009;
 
-void Speichere(const Transferparameter& parameter, const Werte& werte) {
-    switch (parameter.bereich) {
-    case Speicherbereich::GlobaleGeraetedaten:
-        SetzeGlobaleDaten(parameter.adresse, parameter.anzahl, werte);
-        break;
-    case Speicherbereich::SpezifischeGeraetedaten:
-        SetzeSpezifischeDaten(parameter.adresse, parameter.anzahl, parameter.optikteil, werte);
-        break;
-    case Speicherbereich::Kommunikationsdaten:
-        SetzeKommunikationsdaten(parameter.adresse, parameter.anzahl, werte);
-        break;
-    }
-}
-
 class Lesetransfer : public Konfigurationstransfer {
 public:
-    using Konfigurationstransfer::Konfigurationstransfer;
+    explicit Lesetransfer(Transferanzeige& die) : Konfigurationstransfer(die, IstLesbar) {}
 
 private:
-    Eintragsiterator ErsterEintrag() const override { return ErsterLesbarerEintrag; }
-    Eintragsiterator NaechsterEintrag() const override { return NaechsterLesbarerEintrag; }
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
     bool Uebertrage(const Transferparameter& parameter) override;
 };
@@ -45,9 +29,7 @@ bool Lesetransfer::Uebertrage(const Transferparameter& parameter) {
         return modModbus::RTUModeH03LeseAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
                                                     static_cast<std::uint16_t>(parameter.anzahl), werte);
     });
-    if (gelesen)
-        Speichere(parameter, werte);
-    return gelesen;
+    return gelesen && SetzeParameter(parameter.bereich, parameter.adresse, werte, parameter.optikteil);
 }
 
 } // namespace

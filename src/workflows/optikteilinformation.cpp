@@ -1,7 +1,6 @@
 #include "optikteilinformation.h"
 
-#include "bitsunddatum.h"
-#include "konfigurationstransfer.h"
+#include "geraetestatus.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "texte.h"
@@ -16,7 +15,7 @@ constexpr std::int16_t TextOptikteil = 7403;
 constexpr std::int16_t TextVorhanden = 7404;
 constexpr std::int16_t TextNichtVorhanden = 7405;
 
-constexpr std::int16_t BitVorhanden = 7;
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
 bool Versuche(Ablaufanzeige& anzeige, const std::function<Boolean()>& transaktion) {
     return VersucheBisErfolg(
@@ -25,7 +24,6 @@ bool Versuche(Ablaufanzeige& anzeige, const std::function<Boolean()>& transaktio
 
 /// Reads the part's status register into `status`. False = cancelled.
 bool LiesStatus(Ablaufanzeige& anzeige, std::int16_t teil, Werte& status) {
-    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     return Versuche(anzeige, [=] { return modModbus::WaehleOptikteil(teil); }) && Versuche(anzeige, [&] {
                return modModbus::RTUModeH03LeseAnforderung(
                    Geraeteadresse(Spezifisch, spezifisch::Optikteilstatus), 1, status);
@@ -36,10 +34,10 @@ bool FrageOptikteil(Optikteilanzeige& anzeige, std::int16_t teil) {
     const std::string zeile = LadeText(TextOptikteil) + std::to_string(teil) + ":  ";
     anzeige.ZeigeOptikteil(teil, zeile);
     Werte status(1);
-    if (!LiesStatus(anzeige, teil, status))
+    if (!LiesStatus(anzeige, teil, status) ||
+        !modDaten::SetzeParameter(Spezifisch, spezifisch::Optikteilstatus, status, teil))
         return false;
-    modDaten::SetzeSpezifischeDaten(spezifisch::Optikteilstatus, 1, teil, status);
-    const bool vorhanden = modDaten::GetBit(status[0], BitVorhanden) == True;
+    const bool vorhanden = modDaten::IstOptikteilVorhanden(status[0]);
     anzeige.ZeigeOptikteil(teil, zeile + LadeText(vorhanden ? TextVorhanden : TextNichtVorhanden));
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "kommandoregister.h"
 #include "registerabbild.h"
+#include "registeradressen.h"
 #include "texte.h"
 #include "transaktionen.h"
 
@@ -15,32 +16,15 @@ constexpr std::int16_t TextGlobaleGeraetedaten = 7105;
 constexpr std::int16_t TextUebertragungBeendet = 7109;
 constexpr std::int16_t TextSpeichern = 7112;
 
-Werte HoleWerte(const Transferparameter& parameter) {
-    Werte werte(static_cast<std::size_t>(parameter.anzahl));
-    switch (parameter.bereich) {
-    case Speicherbereich::GlobaleGeraetedaten:
-        HoleGlobaleDaten(parameter.adresse, parameter.anzahl, werte);
-        break;
-    case Speicherbereich::SpezifischeGeraetedaten:
-        HoleSpezifischeDaten(parameter.adresse, parameter.anzahl, parameter.optikteil, werte);
-        break;
-    case Speicherbereich::Kommunikationsdaten:
-        HoleKommunikationsdaten(parameter.adresse, parameter.anzahl, werte);
-        break;
-    }
-    return werte;
-}
-
 class Schreibtransfer : public Konfigurationstransfer {
 public:
     Schreibtransfer(Transferanzeige& die, Ablage wie)
-        : Konfigurationstransfer(die, wie == Ablage::Dauerhaft ? 1 : 0), anzeige(die), ablage(wie) {}
+        : Konfigurationstransfer(die, IstSchreibbar, wie == Ablage::Dauerhaft ? 1 : 0), anzeige(die),
+          ablage(wie) {}
 
     bool Schreibe() { return UebertrageAlles() && (ablage == Ablage::Fluechtig || Speichere()); }
 
 private:
-    Eintragsiterator ErsterEintrag() const override { return ErsterSchreibbarerEintrag; }
-    Eintragsiterator NaechsterEintrag() const override { return NaechsterSchreibbarerEintrag; }
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
     bool Uebertrage(const Transferparameter& parameter) override;
     bool Speichere();
@@ -50,7 +34,7 @@ private:
 };
 
 bool Schreibtransfer::Uebertrage(const Transferparameter& parameter) {
-    const Werte werte = HoleWerte(parameter);
+    const Werte werte = HoleParameter(parameter.bereich, parameter.adresse, parameter.optikteil);
     return Versuche(Registertext(parameter.bereich, parameter.adresse), parameter.anzahl, [&] {
         return modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
                                                          static_cast<std::uint16_t>(parameter.anzahl), werte);
@@ -60,7 +44,7 @@ bool Schreibtransfer::Uebertrage(const Transferparameter& parameter) {
 bool Schreibtransfer::Speichere() {
     constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
     anzeige.ZeigeBereich(LadeText(TextSpeichern));
-    return Versuche(Registertext(Global, Kommandoregister), 1,
+    return Versuche(Registertext(Global, global::Kommando), 1,
                     [] { return SendeKommando(Kommando::SpeichereKonfiguration); });
 }
 

@@ -4,6 +4,7 @@
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace varnoth {
@@ -14,12 +15,12 @@ int Strahlensumme(const Strahlenzahlen& strahlenzahlen) {
 
 bool ErstelleKonfiguration(const Strahlenzahlen& strahlenzahlen) {
     modDaten::LadeStandardkonfiguration();
-    if (!IstZulaessigeStrahlensumme(Strahlensumme(strahlenzahlen)))
-        return false;
-    std::int16_t teil = 0;
-    for (const std::int32_t anzahl : strahlenzahlen)
-        modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, teil++, {anzahl});
-    return true;
+    int teil = 0;
+    return IstZulaessigeStrahlensumme(Strahlensumme(strahlenzahlen)) &&
+           std::ranges::all_of(strahlenzahlen, [&](std::int32_t anzahl) {
+               return modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten,
+                                              spezifisch::Strahlenzahl, anzahl, teil++);
+           });
 }
 
 } // namespace varnoth

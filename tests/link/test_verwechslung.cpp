@@ -301,7 +301,7 @@ TEST_F(VerwechslungTest, The_echo_of_a_command_nobody_waited_for_is_not_taken_fo
     SchreibeSteuerwert2();
     verlorene[3] = true;
     modSchnittstelle::OpenCommPort();
-    EXPECT_EQ(RTUModeH10SchreibenAnforderung(SteuerwertAdresse, 1, {4}), False);
+    EXPECT_EQ(RTUModeH10SchreibenAnforderung(0x4084, 1, {4}), False);
 }
 
 } // namespace varnoth

@@ -23,6 +23,7 @@ namespace {
 
 constexpr int Teil = 1;
 constexpr std::int16_t Blankingregister = 32;
+constexpr std::int16_t Messwertregister = 18;
 
 class FrmDocument : public testing::Test {
 protected:

@@ -1,8 +1,8 @@
 #include "frmKonfigurationEdit.h"
 
 #include "dialogtest.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
-#include "registerzugriff.h"
 #include "standardkonfiguration.h"
 #include "zykluszeiten.h"
 
@@ -184,7 +184,7 @@ TEST_F(KonfigurationEditTest, The_options_of_the_switching_output_write_their_bi
         Zeige();
         Klicke(name);
         Klicke("cmdDownLoad");
-        EXPECT_EQ(LiesRegister(Global, global::PnpAusgang), wert) << name;
+        EXPECT_EQ(modDaten::HoleRegister(Global, global::PnpAusgang), wert) << name;
         Oeffne();
         EXPECT_TRUE(Angewaehlt(name));
         port.gesendet.clear();
@@ -263,8 +263,8 @@ TEST_F(KonfigurationEditTest, Applying_writes_the_pages_of_absent_parts_too) {
     SetzeStrahlen({64, 0, 0, 0});
     Setze(Spezifisch, spezifisch::Aufloesung, 15, 3);
     OeffneUndUebernimm();
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Aufloesung, 3), 0);
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Reichweite, 3), 3);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Aufloesung, 3), 0);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Reichweite, 3), 3);
 }
 
 TEST_F(KonfigurationEditTest, Cancel_writes_nothing_back) {
@@ -283,7 +283,7 @@ TEST_F(KonfigurationEditTest, Resolution_15_shows_nothing_and_writes_the_value_o
     Zeige();
     EXPECT_EQ(Box("cboAuflösung_0").currentIndex(), -1);
     Klicke("cmdDownLoad");
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Aufloesung), 0);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Aufloesung), 0);
 }
 
 TEST_F(KonfigurationEditTest, An_empty_list_tells_in_its_tool_tip_what_the_controller_holds) {
@@ -299,8 +299,8 @@ TEST_F(KonfigurationEditTest, Without_a_selection_the_counting_lists_write_0) {
     Setze(Spezifisch, spezifisch::Lochgroesse, 300);
     Setze(Spezifisch, spezifisch::Gruppenzaehler, 0x8000 + 300);
     OeffneUndUebernimm();
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Lochgroesse), 0);
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Gruppenzaehler), 0x8000);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Lochgroesse), 0);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Gruppenzaehler), 0x8000);
 }
 
 TEST_F(KonfigurationEditTest, Group_counter_AND_clears_bit_15) {
@@ -308,7 +308,7 @@ TEST_F(KonfigurationEditTest, Group_counter_AND_clears_bit_15) {
     Zeige();
     Klicke("optGruppenzählerUnd_0");
     Klicke("cmdDownLoad");
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Gruppenzaehler), 5);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Gruppenzaehler), 5);
 }
 
 TEST_F(KonfigurationEditTest, Line_format_0x040F_shows_38_4_KB_0_and_a_question_mark) {
@@ -374,7 +374,7 @@ TEST_F(KonfigurationEditTest, Choosing_autosend_without_a_rate_selects_the_first
     Klicke("optAutosendohneTrigger");
     Klicke("chkStrahldatenMerken");
     Klicke("cmdDownLoad");
-    EXPECT_EQ(LiesRegister(Kommunikation, kommunikation::Autosend), 0x0181);
+    EXPECT_EQ(modDaten::HoleRegister(Kommunikation, kommunikation::Autosend), 0x0181);
 }
 
 TEST_F(KonfigurationEditTest, Choosing_autosend_keeps_a_rate_that_is_selected) {
@@ -401,7 +401,7 @@ TEST_F(KonfigurationEditTest, The_byte_formats_are_written_with_the_baud_code) {
         Zeige();
         Klicke(name);
         Klicke("cmdDownLoad");
-        EXPECT_EQ(LiesRegister(Kommunikation, kommunikation::Autosendformat), wert);
+        EXPECT_EQ(modDaten::HoleRegister(Kommunikation, kommunikation::Autosendformat), wert);
         Oeffne();
         EXPECT_TRUE(Angewaehlt(name));
         port.gesendet.clear();
@@ -459,7 +459,7 @@ TEST_F(KonfigurationEditTest, On_a_Profibus_only_the_rate_of_the_autosend_regist
     Zeige();
     Box("cbolOhneTriggerAutosendrate").setCurrentIndex(11);
     Klicke("cmdDownLoad");
-    EXPECT_EQ(LiesRegister(Kommunikation, kommunikation::Autosend), 0x0C83);
+    EXPECT_EQ(modDaten::HoleRegister(Kommunikation, kommunikation::Autosend), 0x0C83);
 }
 
 TEST_F(KonfigurationEditTest, A_pause_time_of_70000_becomes_65535_on_leaving_the_field) {
@@ -479,7 +479,7 @@ TEST_F(KonfigurationEditTest, A_pause_time_of_minus_5_is_kept) {
     QCoreApplication::sendEvent(&feld, &verlassen);
     EXPECT_EQ(feld.text(), "-5");
     Klicke("cmdDownLoad");
-    EXPECT_EQ(LiesRegister(Kommunikation, kommunikation::Pausenzeit), -5);
+    EXPECT_EQ(modDaten::HoleRegister(Kommunikation, kommunikation::Pausenzeit), -5);
 }
 
 TEST_F(KonfigurationEditTest, The_transmitted_values_stand_beside_four_kinds_of_lists) {
@@ -585,7 +585,7 @@ TEST_F(KonfigurationEditTest, Apply_stores_and_asks_for_no_download) {
     Zeige();
     Box("cboAuflösung_0").setCurrentIndex(3);
     Klicke("cmdUebernehmen");
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Aufloesung), 40);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Aufloesung), 40);
     EXPECT_EQ(dialog->GetButtonDownLoad(), False);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
 }
@@ -594,7 +594,7 @@ TEST_F(KonfigurationEditTest, Download_stores_and_asks_for_it) {
     Zeige();
     Box("cboAuflösung_0").setCurrentIndex(3);
     Klicke("cmdDownLoad");
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Aufloesung), 40);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Aufloesung), 40);
     EXPECT_EQ(dialog->GetButtonDownLoad(), True);
 }
 
@@ -635,7 +635,7 @@ TEST_F(KonfigurationEditTest, Applying_during_the_search_stores_at_once_and_clos
     });
     Oeffne().show();
     EXPECT_TRUE(pruefung::WarteBis([&] { return !dialog->isVisible(); }));
-    EXPECT_EQ(LiesRegister(Spezifisch, spezifisch::Aufloesung), 40);
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Aufloesung), 40);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     EXPECT_EQ(dialog->GetButtonDownLoad(), False);
 }
