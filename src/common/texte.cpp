@@ -87,9 +87,13 @@ void SetzeSprachoffset(std::int16_t offset) {
 }
 
 const std::string& LadeText(std::int16_t id) {
+    return LadeText(id, sprachoffset);
+}
+
+const std::string& LadeText(std::int16_t id, std::int16_t sprache) {
     static const std::string unbekannt;
     const auto& [ids, texte] = DieTabelle();
-    const int gesucht = id + sprachoffset;
+    const int gesucht = id + sprache;
     const auto stelle =
         std::ranges::lower_bound(ids, gesucht, {}, [](std::int16_t eine) { return int{eine}; });
     if (stelle == ids.end() || *stelle != gesucht)

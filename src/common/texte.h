@@ -22,6 +22,9 @@ void SetzeSprachoffset(std::int16_t offset);
 /// The text (UTF-8) of a string id in the current language; empty for an id that the table does not have.
 const std::string& LadeText(std::int16_t id);
 
+/// The text of a string id in the given language.
+const std::string& LadeText(std::int16_t id, std::int16_t sprache);
+
 /// All ids of the table, German and English, in rising order.
 std::span<const std::int16_t> AlleTextIds();
 

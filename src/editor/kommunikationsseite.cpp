@@ -2,6 +2,7 @@
 
 #include "bustyp.h"
 #include "geraetetexte.h"
+#include "leitungsformat.h"
 #include "listenbindung.h"
 #include "pausenzeit.h"
 #include "registerabbild.h"

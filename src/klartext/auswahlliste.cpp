@@ -1,5 +1,6 @@
 #include "auswahlliste.h"
 
+#include "leitungsformat.h"
 #include "registeradressen.h"
 #include "texte.h"
 #include "zahlen.h"
@@ -32,11 +33,11 @@ constexpr std::int32_t Filterbits = 0x3F;
 constexpr std::int32_t Ratenbits = 0xFF;
 constexpr std::int32_t Baudbits = 0xFF;
 constexpr std::int32_t ErsteBaudrate = 12;
+constexpr auto Baudraten = std::span(Baudtexte).subspan(ErsteBaudrate - ErsterBaudcode);
 constexpr double MikrosekundenJeMillisekunde = 1000;
 
 constexpr std::string_view Reichweiten[] = {"0,05 - 0,3m", "0,20 - 1,0m", "0,50 - 1,5m",
                                             "1,00 - 2,5m", "2,00 - 3,5m", "3,00 - 4,0m"};
-constexpr std::string_view Baudraten[] = {"4,8 KB", "9,6 KB", "19,2 KB", "38,4 KB", "57,6 KB"};
 
 const Werteregel& Regel(Speicherbereich bereich, std::int16_t adresse) {
     const auto regeln = AlleWerteregeln();
@@ -119,7 +120,7 @@ const Auswahlliste& Autosendbaudraten() {
                                        kommunikation::Autosendformat,
                                        Baudbits,
                                        ErsteBaudrate,
-                                       static_cast<int>(std::size(Baudraten)),
+                                       static_cast<int>(Baudraten.size()),
                                        Postenart::Texte,
                                        Baudraten};
     return liste;

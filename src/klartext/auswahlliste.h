@@ -1,9 +1,9 @@
 #pragma once
 
+#include "lesart.h"
 #include "registerbeschreibung.h"
 
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,9 +13,6 @@ namespace varnoth {
 
 /// The selection of a list in which nothing is selected.
 inline constexpr int KeineAuswahl = -1;
-
-/// Writes a number as the user's system writes it.
-using Zahlformat = std::function<std::string(double zahl)>;
 
 /// What the items of a list say about the values they stand for.
 enum class Postenart {

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "option.h"
+
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace varnoth {
 
@@ -16,6 +19,11 @@ enum class Autosendart : std::int16_t {
 /// When a trigger makes the controller send.
 enum class Triggerstart : std::int16_t { Sofort = 0, NachVollstaendigemScan = 1 };
 
+/// The modes that are offered, with their texts.
+std::span<const Option> Autosendarten();
+/// What a trigger may do, as bits of the register, with its texts.
+std::span<const Option> Triggerarten();
+
 /// What the autosend register says.
 struct Autosendeinstellung {
     std::optional<Autosendart> art; ///< nothing: a mode that is not offered
@@ -25,6 +33,14 @@ struct Autosendeinstellung {
 
     bool operator==(const Autosendeinstellung&) const = default;
 };
+
+/// The bits of the register: the mode, remember interrupted beams, and what the mode needs beside itself.
+namespace autosendbits {
+inline constexpr std::int32_t Art = 0x7F;
+inline constexpr std::int32_t Merken = 0x80;
+inline constexpr std::int32_t Zusatz = ~0xFF;
+inline constexpr int Zusatzversatz = 8;
+} // namespace autosendbits
 
 /// The settings in a register value, a rate above `maxRate` as that rate.
 Autosendeinstellung AutosendAus(std::int32_t registerwert, int maxRate);
@@ -55,6 +71,9 @@ enum class Byteformat : std::int32_t {
     EinStopbitUngerade = 0x500,
     EinStopbitGerade = 0x900
 };
+
+/// The byte formats with their texts.
+std::span<const Option> Byteformate();
 
 /// The byte format in a register value; nothing for one that is not offered.
 std::optional<Byteformat> ByteformatAus(std::int32_t registerwert);

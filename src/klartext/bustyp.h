@@ -1,5 +1,7 @@
 #pragma once
 
+#include "option.h"
+
 #include <cstdint>
 
 namespace varnoth {
@@ -9,6 +11,9 @@ namespace bustyp {
 inline constexpr std::int32_t Modbus = 0;
 inline constexpr std::int32_t Profibus = 1;
 } // namespace bustyp
+
+/// The bus types with their texts.
+inline constexpr Option Bustypen[] = {{bustyp::Modbus, 5113}, {bustyp::Profibus, 5114}};
 
 /// The highest station address on a bus.
 constexpr int MaxStationsadresse(std::int32_t typ) {

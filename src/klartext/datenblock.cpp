@@ -1,7 +1,5 @@
 #include "datenblock.h"
 
-#include "texte.h"
-
 #include <algorithm>
 #include <cstddef>
 
@@ -106,13 +104,14 @@ std::optional<Eintragswahl> WahlAus(std::int16_t eintrag) {
     return Eintragswahl{*quelle, code->art, code->wert};
 }
 
-std::string Eintragstext(std::int16_t eintrag) {
+std::string Eintragstext(std::int16_t eintrag, std::int16_t sprache) {
     const Wertcode* const code = WertcodeVon(eintrag);
     const auto quelle = QuelleVon(eintrag);
-    const std::string wert = code ? LadeText(code->text) : "??? ";
+    const std::string wert = code ? LadeText(code->text, sprache) : "??? ";
     if (!quelle)
         return wert + " ???";
-    return wert + ":" + LadeText(static_cast<std::int16_t>(TextErsteQuelle + static_cast<int>(*quelle)));
+    return wert + ":" +
+           LadeText(static_cast<std::int16_t>(TextErsteQuelle + static_cast<int>(*quelle)), sprache);
 }
 
 Eintragsliste ListeAus(const Werte& datenblock) {

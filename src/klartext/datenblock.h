@@ -1,5 +1,6 @@
 #pragma once
 
+#include "texte.h"
 #include "werte.h"
 
 #include <array>
@@ -44,8 +45,8 @@ Eintragswahl Passend(Eintragswahl wahl);
 std::int16_t Eintragswort(const Eintragswahl& wahl);
 /// The choice behind an entry word; nothing where value or source are unknown. Bits 12-15 do not count.
 std::optional<Eintragswahl> WahlAus(std::int16_t eintrag);
-/// The line of an entry in the list, value and source: "TUMin:K1". UTF-8, in the current language.
-std::string Eintragstext(std::int16_t eintrag);
+/// The line of an entry in the list, value and source: "TUMin:K1". UTF-8, in the given language.
+std::string Eintragstext(std::int16_t eintrag, std::int16_t sprache = GetSprachoffset());
 
 /// The entries in the order they are sent; the first 0 ends the list and only 0 follows it.
 using Eintragsliste = std::array<std::int16_t, Datenblockregister>;

@@ -1,12 +1,20 @@
 #pragma once
 
+#include "option.h"
 #include "werte.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 /// What the editor shows of registers that it never writes, in the current language (UTF-8).
 namespace varnoth {
+
+/// What stands for a value that the controller does not have.
+inline constexpr std::int16_t TextUnbekannt = 5103;
+
+/// The device types with their texts.
+std::span<const Option> AlleGeraetetypen();
 
 /// The device type of global register 0.
 std::string Geraetetyptext(std::int32_t typ);
@@ -22,9 +30,5 @@ std::string Versionstext(std::int32_t version);
 
 /// The kind of bus of communication register 0.
 std::string Bustyptext(std::int32_t typ);
-
-/// Baud rate, stop bits and parity between master and slave from communication register 2. What is not
-/// recognised, odd parity among it, is shown as "?, ".
-std::string Formattext(std::int32_t format);
 
 } // namespace varnoth

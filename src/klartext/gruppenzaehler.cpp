@@ -6,6 +6,11 @@ namespace varnoth {
 
 namespace {
 constexpr std::int16_t OderBit = 15;
+constexpr Option Verknuepfungen[] = {{0, 5214}, {1 << OderBit, 5215}};
+} // namespace
+
+std::span<const Option> Gruppenverknuepfungen() {
+    return Verknuepfungen;
 }
 
 bool GruppenzaehlerOder(std::int32_t registerwert) {

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "option.h"
+
 #include <cstdint>
+#include <span>
 
 namespace varnoth {
+
+/// The ways to join beams.
+std::span<const Option> Gruppenverknuepfungen();
 
 /// Whether the group counter joins its beams by OR rather than AND.
 bool GruppenzaehlerOder(std::int32_t registerwert);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "option.h"
+
 #include <cstdint>
+#include <span>
 
 namespace varnoth {
 
@@ -15,6 +18,11 @@ struct PnpAusgang {
 
 /// The function that exists in no controller; its option is hidden.
 inline constexpr int VerborgenePnpFunktion = 7;
+
+/// What each group of options offers, in the order of its indices; the hidden function is left out.
+std::span<const Option> PnpFunktionen();
+std::span<const Option> PnpOptikteile();
+std::span<const Option> PnpPegel();
 
 /// The options that the register selects. Where it names several functions, the last one in the order of the
 /// options counts.

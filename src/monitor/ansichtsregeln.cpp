@@ -1,14 +1,16 @@
 #include "ansichtsregeln.h"
 
+#include "optikteilstatus.h"
 #include "texte.h"
+
+#include <iterator>
 
 namespace varnoth {
 
 namespace {
 
 constexpr std::int16_t TextStrahl = 4020;
-constexpr int AnzahlStatusbits = 6;
-constexpr std::array<std::int16_t, AnzahlStatusbits> Statustexte{4012, 4013, 4014, 4015, 4016, 4017};
+constexpr int AnzahlStatusbits = std::size(Optikteilmerkmale);
 
 Strahlzustand Anzeigezustand(std::int32_t frei, std::int32_t geblankt) {
     if (geblankt != 0)
@@ -29,10 +31,10 @@ std::int16_t Statusbits(std::int32_t statusregister) {
 std::string Statustext(std::int16_t statusbits) {
     std::string text = "Status: ";
     bool erster = true;
-    for (std::size_t bit = 0; bit < Statustexte.size(); ++bit) {
-        if ((statusbits >> bit & 1) == 0)
+    for (const Option& merkmal : Optikteilmerkmale) {
+        if ((statusbits & merkmal.wert) == 0)
             continue;
-        text += (erster ? "" : ", ") + LadeText(Statustexte[bit]);
+        text += (erster ? "" : ", ") + LadeText(merkmal.text);
         erster = false;
     }
     return text;

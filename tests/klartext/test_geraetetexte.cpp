@@ -1,4 +1,5 @@
 #include "geraetetexte.h"
+#include "leitungsformat.h"
 
 #include "texte.h"
 

@@ -1,9 +1,13 @@
 #include "frmKonfigurationEdit.h"
 
+#include "autosend.h"
 #include "dialogtest.h"
+#include "gruppenzaehler.h"
+#include "pnpausgang.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
+#include "texte.h"
 #include "zykluszeiten.h"
 
 #include <QCheckBox>
@@ -13,6 +17,9 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QTabWidget>
+
+#include <span>
+#include <utility>
 
 namespace varnoth {
 
@@ -733,6 +740,31 @@ TEST_F(KonfigurationEditTest, The_tab_order_follows_the_reading_order) {
         const qsizetype stelle = namen.indexOf(QString::fromUtf8(name));
         EXPECT_GT(stelle, davor) << name << " in " << namen.join(' ').toStdString();
         davor = stelle;
+    }
+}
+
+TEST_F(KonfigurationEditTest, Every_option_reads_as_the_words_for_its_value) {
+    const std::pair<std::span<const Option>, std::vector<const char*>> gruppen[] = {
+        {PnpFunktionen(),
+         {"optPNPAusgang_Option1_0", "optPNPAusgang_Option1_1", "optPNPAusgang_Option1_2",
+          "optPNPAusgang_Option1_3", "optPNPAusgang_Option1_4", "optPNPAusgang_Option1_5",
+          "optPNPAusgang_Option1_6", "optPNPAusgang_Option1_8"}},
+        {PnpOptikteile(),
+         {"optPNPAusgang_Option2_0", "optPNPAusgang_Option2_1", "optPNPAusgang_Option2_2",
+          "optPNPAusgang_Option2_3"}},
+        {PnpPegel(), {"optAusgangAktive_0", "optAusgangAktive_1"}},
+        {Autosendarten(),
+         {"optkeinAutosend", "optAutosendohneTrigger", "optAutosendohneTriggerModbus",
+          "optAutosendmitTriggerModbus"}},
+        {Byteformate(),
+         {"opt2StopbitsohneParität", "opt1StopbitParitätungerade", "opt1StopbitParitätgerade"}},
+        {Gruppenverknuepfungen(), {"optGruppenzählerUnd_0", "optGruppenzählerOder_0"}},
+    };
+    Oeffne();
+    for (const auto& [optionen, namen] : gruppen) {
+        ASSERT_EQ(optionen.size(), namen.size());
+        for (std::size_t i = 0; i < namen.size(); ++i)
+            EXPECT_EQ(K<QRadioButton>(namen[i]).text().toStdString(), LadeText(optionen[i].text)) << namen[i];
     }
 }
 
