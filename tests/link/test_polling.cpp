@@ -206,6 +206,28 @@ TEST_F(PollingTest, A_silent_device_gives_the_message_after_ten_attempts_of_a_se
     EXPECT_EQ(GetPollingAktiv(), True) << "polling itself stays on";
 }
 
+TEST_F(PollingTest, A_pass_that_fails_at_any_read_asks_for_nothing_more) {
+    const std::pair<int, std::size_t> faelle[] = {
+        {DevStatus, 0}, {DevStrahlen, 1}, {DevMesswerte, 2}, {DevGlobal, 3}};
+    for (const auto& [adresse, davor] : faelle) {
+        Verbinde({16});
+        geraet.gelesen.clear();
+        umgebung.meldungen.clear();
+        VerstummeBei(adresse);
+        PollingZyklus();
+        EXPECT_EQ(geraet.gelesen.size(), davor) << "answered reads before " << adresse << " is silent";
+        EXPECT_EQ(umgebung.meldungen.size(), 1U) << adresse;
+    }
+}
+
+TEST_F(PollingTest, Polling_that_begins_anew_knows_of_no_lost_connection) {
+    Verbinde({16});
+    VerstummeBei(DevGlobal);
+    PollingZyklus();
+    StartePolling();
+    EXPECT_FALSE(VerbindungVerloren());
+}
+
 TEST_F(PollingTest, A_failure_that_passes_is_retried_silently) {
     Verbinde({16});
     int rest = 8;
