@@ -1,12 +1,15 @@
 #include "einstellungen.h"
 
+#include "startzustand.h"
+
 #include <stdexcept>
 
 namespace varnoth {
 
 namespace {
 Einstellungen* dieEinstellungen = nullptr;
-}
+const Startwert startwert(dieEinstellungen);
+} // namespace
 
 Einstellungen& DieEinstellungen() {
     if (dieEinstellungen == nullptr)

@@ -1,10 +1,13 @@
 #include "servicetext.h"
 
+#include "startzustand.h"
+
 namespace varnoth::modService {
 
 namespace {
 std::string serviceText;
-}
+const Startwert startwert(serviceText);
+} // namespace
 
 void SetzeServiceText(const std::string& text) {
     serviceText = text;
@@ -12,10 +15,6 @@ void SetzeServiceText(const std::string& text) {
 
 const std::string& GetServiceText() {
     return serviceText;
-}
-
-void Zuruecksetzen() {
-    serviceText.clear();
 }
 
 } // namespace varnoth::modService

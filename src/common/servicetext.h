@@ -9,7 +9,5 @@ namespace varnoth::modService {
 void SetzeServiceText(const std::string& text);
 /// The service password; empty when none was given.
 const std::string& GetServiceText();
-/// No service password.
-void Zuruecksetzen();
 
 } // namespace varnoth::modService

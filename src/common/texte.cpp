@@ -1,5 +1,6 @@
 #include "texte.h"
 
+#include "startzustand.h"
 #include "texte_daten.h"
 
 #include <algorithm>
@@ -75,6 +76,8 @@ const Tabelle& DieTabelle() {
 }
 
 std::int16_t sprachoffset = Deutsch;
+static_assert(Deutsch == std::int16_t{});
+const Startwert startwert(sprachoffset);
 
 } // namespace
 

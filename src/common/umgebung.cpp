@@ -1,12 +1,15 @@
 #include "umgebung.h"
 
+#include "startzustand.h"
+
 #include <stdexcept>
 
 namespace varnoth {
 
 namespace {
 Umgebung* dieUmgebung = nullptr;
-}
+const Startwert startwert(dieUmgebung);
+} // namespace
 
 Umgebung& DieUmgebung() {
     if (dieUmgebung == nullptr)

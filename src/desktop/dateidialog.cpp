@@ -1,6 +1,7 @@
 #include "dateidialog.h"
 
 #include "fenstervorn.h"
+#include "startzustand.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,6 +15,7 @@ namespace varnoth {
 namespace {
 
 Dateiantwort dieAntwort;
+const Startwert startwert(dieAntwort);
 
 /// "*.*" stands for all files; Qt would leave out those without a dot.
 QString QtMuster(const QString& muster) {

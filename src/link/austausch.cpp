@@ -3,6 +3,7 @@
 #include "erkenner.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
+#include "startzustand.h"
 #include "zuordnung.h"
 
 #include <algorithm>
@@ -16,6 +17,7 @@ using namespace modSchnittstelle;
 constexpr int Antwortzeit = 1000; // milliseconds of silence that end an exchange
 
 Zuordnung zuordnung;
+const Startwert startwert(zuordnung);
 
 void Sende(const std::string& anforderung) {
     ClearCommPort();
@@ -87,10 +89,6 @@ bool Bereite(const std::string& anforderung, Verlass verlass) {
 }
 
 } // namespace
-
-void Zuruecksetzen() {
-    zuordnung = {};
-}
 
 bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     HoleVerlorenenPortZurueck();

@@ -17,9 +17,6 @@ enum class Verlass {
     Keiner ///< the request matters and its reply does not: it is sent in any case
 };
 
-/// Forgets every request that may still be answered.
-void Zuruecksetzen();
-
 /// Sends the request and feeds what arrives to the recogniser, at most one second from byte to byte. True
 /// when a whole reply with a valid CRC arrived.
 bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass = Verlass::Voll);

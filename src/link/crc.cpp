@@ -14,14 +14,16 @@ constexpr Crc NachAchtBits(Crc rest) {
     return rest;
 }
 
-std::array<std::uint16_t, 256> tabelle;
-
-} // namespace
-
-void CrcTabelleAufbauen() {
+constexpr std::array<std::uint16_t, 256> CrcTabelleAufbauen() {
+    std::array<std::uint16_t, 256> tabelle{};
     for (std::size_t i = 0; i < tabelle.size(); ++i)
         tabelle[i] = static_cast<std::uint16_t>(NachAchtBits(static_cast<Crc>(i)));
+    return tabelle;
 }
+
+constexpr auto tabelle = CrcTabelleAufbauen();
+
+} // namespace
 
 Crc CrcInit() {
     return 0xFFFF;

@@ -9,9 +9,6 @@ namespace varnoth {
 /// 16-bit number held in 32 bits.
 using Crc = std::int32_t;
 
-/// Fills the table that CrcUpdate reads. Start-up calls it once; calling it again changes nothing.
-void CrcTabelleAufbauen();
-
 /// The start value.
 Crc CrcInit();
 

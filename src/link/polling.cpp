@@ -5,6 +5,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
+#include "startzustand.h"
 #include "texte.h"
 #include "transaktionen.h"
 
@@ -40,6 +41,7 @@ struct Zustand {
 
 Zustand zustand;
 PollingZiel* dasZiel = nullptr;
+const Startwert startwert(zustand, dasZiel);
 
 void MeldeVerlust() {
     zustand.verloren = true;
@@ -89,7 +91,7 @@ bool LiesParameter(Speicherbereich bereich, std::int16_t adresse, int teil = 0) 
 }
 
 bool LiesStrahlen(int teil, LiveAnsicht& ansicht) {
-    const auto anzahl = static_cast<std::int16_t>(Strahlregister(Strahlenzahl(teil)));
+    const auto anzahl = static_cast<std::int16_t>(GeleseneStrahlregister(Strahlenzahl(teil)));
     Werte werte;
     if (anzahl > 0 && !Lies(Spezifisch, spezifisch::Strahlzustaende, anzahl, werte))
         return false;
@@ -145,10 +147,6 @@ void SetzeZiel(PollingZiel* ziel) {
     dasZiel = ziel;
 }
 
-void Zuruecksetzen() {
-    zustand = {};
-}
-
 void StartePolling() {
     modSchnittstelle::OpenCommPort();
     zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
@@ -193,7 +191,7 @@ bool VerbindungVerloren() {
     return zustand.verloren;
 }
 
-int Strahlregister(std::int32_t strahlenzahl) {
+int GeleseneStrahlregister(std::int32_t strahlenzahl) {
     constexpr int Registerbits = 16;
     const auto gerundet = static_cast<int>(std::nearbyint(strahlenzahl / double{Registerbits}));
     const int zusatz = strahlenzahl % Registerbits != 0 ? 1 : 0;

@@ -31,8 +31,6 @@ enum Optikteilzustand : std::int16_t { Unbekannt = 0, Vorhanden = 1, NichtVorhan
 
 /// Fits the main window in (nullptr takes it out).
 void SetzeZiel(PollingZiel* ziel);
-/// Back to the start: polling off, no part known.
-void Zuruecksetzen();
 
 /// Opens the port; polling is on if that succeeded.
 void StartePolling();
@@ -57,7 +55,7 @@ bool VerbindungVerloren();
 
 /// Number of beam-state registers that are read for a beam count: a sixteenth, rounded half to even, and one
 /// more for a count that is no multiple of 16; at most 64.
-int Strahlregister(std::int32_t strahlenzahl);
+int GeleseneStrahlregister(std::int32_t strahlenzahl);
 
 /// One pass: per optical part its status and, where a view shows live data, its beam states and measured
 /// values; at the end the switching output's state. Ends early when polling is switched off or a command

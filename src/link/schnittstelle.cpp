@@ -1,5 +1,6 @@
 #include "schnittstelle.h"
 
+#include "startzustand.h"
 #include "trace.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ struct Zustand {
 
 Zustand zustand;
 SeriellerPort* derPort = nullptr;
+const Startwert startwert(zustand, derPort);
 
 bool LiesOffenstand() {
     zustand.portIstOffen = AlsBoolean(derPort != nullptr && derPort->IstOffen());
@@ -61,11 +63,6 @@ void SetzePort(SeriellerPort* port) {
     derPort = port;
     if (derPort != nullptr)
         derPort->SetzeEreignisbehandlung(BehandleCommEreignis);
-}
-
-void Zuruecksetzen() {
-    CloseCommPort();
-    zustand = {};
 }
 
 void SetzeComPort(std::int16_t nummer) {

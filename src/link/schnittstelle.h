@@ -16,8 +16,6 @@ inline constexpr const char* StandardComSettings = "38400,n,8,2";
 
 /// Fits the port in (nullptr takes it out). It must live until it is taken out.
 void SetzePort(SeriellerPort* port);
-/// Back to the start: port 1, standard settings, closed.
-void Zuruecksetzen();
 
 /// Port number for the next OpenCommPort; 1..4 are known.
 void SetzeComPort(std::int16_t nummer);

@@ -1,5 +1,6 @@
 #include "trace.h"
 
+#include "startzustand.h"
 #include "umgebung.h"
 #include "zahlen.h"
 
@@ -31,6 +32,7 @@ struct Schliesser {
 
 std::unique_ptr<std::FILE, Schliesser> datei;
 std::string schreibfehler; // why the file takes no more; empty while it does
+const Startwert startwert(datei, schreibfehler);
 
 std::string Systemfehler() {
     return std::error_code(errno != 0 ? errno : EIO, std::generic_category()).message();

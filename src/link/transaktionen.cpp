@@ -6,6 +6,7 @@
 #include "registeradressen.h"
 #include "schnittstelle.h"
 #include "speicherbereich.h"
+#include "startzustand.h"
 
 #include <exception>
 
@@ -21,6 +22,7 @@ constexpr std::int32_t SteuerwertAutosendEin = 2;
 constexpr std::int32_t SteuerwertAutosendAus = 4;
 
 Identifikation ident;
+const Startwert startwert(ident);
 
 /// Runs a transaction; an error inside it becomes a warning box titled with the procedure's name.
 template<class Ablauf>
@@ -33,9 +35,9 @@ Boolean MitFehlermeldung(const char* prozedur, Ablauf ablauf) {
     }
 }
 
-std::int32_t Registerwert(const std::string& daten, std::size_t register_) {
-    const auto high = static_cast<std::uint8_t>(daten.at(2 * register_));
-    const auto low = static_cast<std::uint8_t>(daten.at(2 * register_ + 1));
+std::int32_t Registerwert(const std::string& daten, std::size_t nummer) {
+    const auto high = static_cast<std::uint8_t>(daten.at(2 * nummer));
+    const auto low = static_cast<std::uint8_t>(daten.at(2 * nummer + 1));
     return high * 256 + low;
 }
 
@@ -109,11 +111,6 @@ Boolean SendeFunktion09() {
 Boolean WaehleOptikteil(int optikteil) {
     constexpr auto Adresse = Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, global::Optikteilauswahl);
     return RTUModeH10SchreibenAnforderung(Adresse, 1, {optikteil});
-}
-
-void Zuruecksetzen() {
-    IdentReset();
-    modAustausch::Zuruecksetzen();
 }
 
 void IdentReset() {

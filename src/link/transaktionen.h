@@ -27,8 +27,6 @@ Boolean SendeFunktion09();
 /// Selects the optical part 0..3 that specific addresses mean from now on.
 Boolean WaehleOptikteil(int optikteil);
 
-/// Back to the start: no controller identified, no request without its reply.
-void Zuruecksetzen();
 /// Empties the identification record; every identification begins with it.
 void IdentReset();
 Boolean GetIdentGueltig();

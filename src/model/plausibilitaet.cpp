@@ -3,6 +3,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
+#include "startzustand.h"
 #include "texte.h"
 #include "umgebung.h"
 
@@ -45,6 +46,7 @@ namespace {
 constexpr std::int16_t TextUnplausibel = 3102;
 
 std::function<void()> dieReaktion;
+const Startwert startwert(dieReaktion);
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "registerabbild.h"
 
 #include "registeradressen.h"
+#include "startzustand.h"
 
 #include <algorithm>
 #include <array>
@@ -22,6 +23,7 @@ struct Modul {
 };
 
 Modul dasModul;
+const Startwert startwert(dasModul);
 
 std::int16_t& Zeiger(Speicherbereich bereich) {
     return dasModul.zeiger[static_cast<std::size_t>(bereich)];
@@ -81,10 +83,6 @@ Boolean NaechsterEintrag(Speicherbereich bereich, Bedingung qualifiziert, std::i
 void InitRegisterbeschreibung() {
     dasModul.konfigurationsdateiname.clear();
     dasModul.konfigurationGeaendert = False;
-}
-
-void Zuruecksetzen() {
-    dasModul = {};
 }
 
 const Abbild& DasAbbild() {

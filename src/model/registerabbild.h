@@ -14,10 +14,6 @@ namespace varnoth::modDaten {
 /// Start of the module's life: no file name, configuration unchanged. The values stay as they are.
 void InitRegisterbeschreibung();
 
-/// The module as the program starts with it: every value 0, iterators at the beginning, no file name,
-/// configuration unchanged.
-void Zuruecksetzen();
-
 /// All values, to look at or to copy.
 [[nodiscard]] const Abbild& DasAbbild();
 /// Replaces all values. Leaves the changed mark alone.

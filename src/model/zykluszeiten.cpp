@@ -1,6 +1,7 @@
 #include "zykluszeiten.h"
 
 #include "registerabbild.h"
+#include "startzustand.h"
 
 #include <algorithm>
 #include <cmath>
@@ -62,7 +63,8 @@ namespace modHilfsFunktionen {
 
 namespace {
 Zykluszeiten dieZeiten;
-}
+const Startwert startwert(dieZeiten);
+} // namespace
 
 void BerechneZykluszeiten() {
     Strahlenzahlen strahlenzahlen{};
@@ -79,10 +81,6 @@ std::int32_t GetZykluszeit(int optikteil) {
 
 std::int32_t GetGesamtzykluszeit() {
     return dieZeiten.gesamt;
-}
-
-void Zuruecksetzen() {
-    dieZeiten = {};
 }
 
 } // namespace modHilfsFunktionen

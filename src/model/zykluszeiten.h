@@ -33,7 +33,4 @@ std::int32_t GetZykluszeit(int optikteil);
 /// The longest cycle time in microseconds.
 std::int32_t GetGesamtzykluszeit();
 
-/// All cycle times back to 0.
-void Zuruecksetzen();
-
 } // namespace varnoth::modHilfsFunktionen

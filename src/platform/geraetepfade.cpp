@@ -1,6 +1,7 @@
 #include "geraetepfade.h"
 
 #include "einstellungen.h"
+#include "startzustand.h"
 
 #include <QtGlobal>
 
@@ -11,6 +12,7 @@ namespace {
 constexpr int HoechsteNummer = 4;
 
 std::string pfadDiesesLaufs;
+const Startwert startwert(pfadDiesesLaufs);
 
 std::string Standardpfad(int nummer) {
 #ifdef Q_OS_WIN

@@ -1,6 +1,5 @@
 #include "anwendung.h"
 
-#include "crc.h"
 #include "frmSplash.h"
 #include "geraetepfade.h"
 #include "plausibilitaet.h"
@@ -15,7 +14,6 @@
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
-#include "zykluszeiten.h"
 
 #include <QApplication>
 #include <QDir>
@@ -35,17 +33,6 @@ constexpr std::int16_t TextSchonGestartet = 6001;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
 constexpr const char* Datenordner = "../share/varnoth/"; // of an installed program, from its own folder
 
-/// Every module as it is before the program runs.
-void SetzeModuleZurueck() {
-    modDaten::Zuruecksetzen();
-    modHilfsFunktionen::Zuruecksetzen();
-    modModbus::Zuruecksetzen();
-    modPolling::Zuruecksetzen();
-    modSchnittstelle::Zuruecksetzen();
-    modService::Zuruecksetzen();
-    CrcTabelleAufbauen();
-}
-
 std::unique_ptr<SeriellerPort> MachePort(const Kommandozeile& kommandozeile) {
     if (kommandozeile.simulator)
         return std::make_unique<SimulatorPort>();
@@ -58,15 +45,14 @@ double Sekundenuhr() {
 
 } // namespace
 
-Anwendung::Anwendung(Startbedingungen die)
-    : bedingungen(std::move(die)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
+Anwendung::Anwendung(Startbedingungen start)
+    : bedingungen(std::move(start)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
       einstellungen(Einstellungspfad(bedingungen.programmordner, bedingungen.programmname)),
       sperre(bedingungen.programmname, bedingungen.sperrordner), port(MachePort(kommandozeile)),
       hilfe([this] { return Hilfedatei(); }),
       hilfetaste([this](QWidget* stelle) { hilfe.ZeigeSeiteZu(stelle); }) {
     SetzeGeraetepfad(kommandozeile.geraet.toStdString());
     modSchnittstelle::SetzePort(port.get());
-    SetzeModuleZurueck();
     modDaten::SetzeReaktionAufUnplausiblesAbbild(modModbus::BeendeAutosendAmOffenenPort);
 }
 

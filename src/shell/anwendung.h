@@ -8,6 +8,7 @@
 #include "instanzsperre.h"
 #include "kommandozeile.h"
 #include "seriellerport.h"
+#include "startzustand.h"
 
 #include <QString>
 #include <QStringList>
@@ -45,7 +46,6 @@ public:
 
     frmMain& Hauptfenster() { return *hauptfenster; }
     Fensterumgebung& DieFensterumgebung() { return umgebung; }
-    const Kommandozeile& Worte() const { return kommandozeile; }
     /// The help file of the current language: beside the executable, else in the data folder of an installed
     /// program, else in the system's. Where none is there, the path beside the executable.
     QString Hilfedatei() const;
@@ -58,6 +58,7 @@ private:
     bool WerteKommandozeileAus();
     bool StarteTrace();
 
+    Startzustand startzustand; ///< comes first: what is fitted in below stays
     Startbedingungen bedingungen;
     Kommandozeile kommandozeile;
     Fensterumgebung umgebung;

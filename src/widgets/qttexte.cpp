@@ -1,9 +1,12 @@
 #include "qttexte.h"
 
+#include "startzustand.h"
 #include "texte.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
+
+#include <memory>
 
 /// The resources of a static library have to be asked for, and Qt wants that done outside of any namespace.
 static void InitRessourcen() {
@@ -12,15 +15,21 @@ static void InitRessourcen() {
 
 namespace varnoth {
 
+namespace {
+
+std::unique_ptr<QTranslator> deutsch; // in force while it is there
+const Startwert startwert(deutsch);
+
+} // namespace
+
 void LadeQtTexte(std::int16_t sprachoffset) {
-    static QTranslator deutsch;
-    if (deutsch.isEmpty()) {
-        InitRessourcen();
-        static_cast<void>(deutsch.load(QStringLiteral(":/qttexte/qtbase_de.qm")));
-    }
-    QCoreApplication::removeTranslator(&deutsch);
-    if (sprachoffset != Englisch)
-        QCoreApplication::installTranslator(&deutsch);
+    deutsch.reset();
+    if (sprachoffset == Englisch)
+        return;
+    InitRessourcen();
+    deutsch = std::make_unique<QTranslator>();
+    static_cast<void>(deutsch->load(QStringLiteral(":/qttexte/qtbase_de.qm")));
+    QCoreApplication::installTranslator(deutsch.get());
 }
 
 } // namespace varnoth

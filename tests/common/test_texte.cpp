@@ -22,11 +22,6 @@ namespace varnoth {
 
 namespace {
 
-class Texte : public testing::Test {
-protected:
-    void TearDown() override { SetzeSprachoffset(Deutsch); }
-};
-
 std::string TextIn(std::int16_t sprache, std::int16_t id) {
     SetzeSprachoffset(sprache);
     return LadeText(id);
@@ -281,12 +276,12 @@ const std::map<std::string, Suche> SucheNachEndung{
 
 } // namespace
 
-TEST_F(Texte, There_are_369_pairs) {
+TEST(Texte, There_are_369_pairs) {
     EXPECT_EQ(DeutscheIds().size(), 369U);
     EXPECT_EQ(AlleTextIds().size(), 2U * 369U);
 }
 
-TEST_F(Texte, Every_German_text_has_its_English_partner_and_no_id_stands_alone) {
+TEST(Texte, Every_German_text_has_its_English_partner_and_no_id_stands_alone) {
     std::set<int> deutsche;
     std::set<int> englische;
     for (const auto id : AlleTextIds())
@@ -294,38 +289,38 @@ TEST_F(Texte, Every_German_text_has_its_English_partner_and_no_id_stands_alone) 
     EXPECT_EQ(deutsche, englische);
 }
 
-TEST_F(Texte, No_id_stands_twice) {
+TEST(Texte, No_id_stands_twice) {
     const auto ids = AlleTextIds();
     EXPECT_EQ(std::ranges::adjacent_find(ids), ids.end());
 }
 
-TEST_F(Texte, No_text_is_empty) {
+TEST(Texte, No_text_is_empty) {
     for (const auto id : DeutscheIds()) {
         EXPECT_NE(TextIn(Deutsch, id), "") << id;
         EXPECT_NE(TextIn(Englisch, id), "") << id;
     }
 }
 
-TEST_F(Texte, Every_id_lies_in_the_block_of_a_window) {
+TEST(Texte, Every_id_lies_in_the_block_of_a_window) {
     for (const auto id : DeutscheIds())
         EXPECT_TRUE(std::ranges::any_of(Bloecke, [id](Block b) { return b.von <= id && id <= b.bis; })) << id;
 }
 
-TEST_F(Texte, No_window_is_without_texts) {
+TEST(Texte, No_window_is_without_texts) {
     const auto ids = DeutscheIds();
     for (const auto& block : Bloecke)
         EXPECT_TRUE(std::ranges::any_of(ids, [&](auto id) { return block.von <= id && id <= block.bis; }))
             << block.von;
 }
 
-TEST_F(Texte, Every_line_of_the_file_is_a_comment_or_an_id_and_two_texts) {
+TEST(Texte, Every_line_of_the_file_is_a_comment_or_an_id_and_two_texts) {
     const std::regex eintrag("\\d{4}\t[^\t]+\t[^\t]+");
     std::istringstream datei{std::string(TexteDatei())};
     for (std::string zeile; std::getline(datei, zeile);)
         EXPECT_TRUE(zeile.empty() || zeile.front() == '#' || std::regex_match(zeile, eintrag)) << zeile;
 }
 
-TEST_F(Texte, The_file_is_sorted_by_id) {
+TEST(Texte, The_file_is_sorted_by_id) {
     std::istringstream datei{std::string(TexteDatei())};
     int letzte = 0;
     for (std::string zeile; std::getline(datei, zeile);) {
@@ -337,7 +332,7 @@ TEST_F(Texte, The_file_is_sorted_by_id) {
     }
 }
 
-TEST_F(Texte, Both_texts_of_a_pair_begin_and_end_alike_so_that_what_is_joined_to_them_fits) {
+TEST(Texte, Both_texts_of_a_pair_begin_and_end_alike_so_that_what_is_joined_to_them_fits) {
     const auto raender = [](const std::string& text) {
         return std::pair{std::isspace(static_cast<unsigned char>(text.front())) != 0,
                          std::isspace(static_cast<unsigned char>(text.back())) != 0};
@@ -346,49 +341,49 @@ TEST_F(Texte, Both_texts_of_a_pair_begin_and_end_alike_so_that_what_is_joined_to
         EXPECT_EQ(raender(TextIn(Deutsch, id)), raender(TextIn(Englisch, id))) << id;
 }
 
-TEST_F(Texte, Messages_are_to_the_letter) {
+TEST(Texte, Messages_are_to_the_letter) {
     ErwarteTexte(Meldungen);
 }
 
-TEST_F(Texte, Messages_of_several_lines_are_to_the_letter) {
+TEST(Texte, Messages_of_several_lines_are_to_the_letter) {
     ErwarteTexte(LangeMeldungen);
 }
 
-TEST_F(Texte, Menu_captions_are_to_the_letter) {
+TEST(Texte, Menu_captions_are_to_the_letter) {
     ErwarteTexte(Menuetexte);
 }
 
-TEST_F(Texte, File_dialog_texts_are_to_the_letter) {
+TEST(Texte, File_dialog_texts_are_to_the_letter) {
     ErwarteTexte(Dateitexte);
 }
 
-TEST_F(Texte, Texts_that_something_is_joined_to_keep_their_blanks) {
+TEST(Texte, Texts_that_something_is_joined_to_keep_their_blanks) {
     ErwarteTexte(Zusammengesetzte);
 }
 
-TEST_F(Texte, Captions_are_to_the_letter) {
+TEST(Texte, Captions_are_to_the_letter) {
     ErwarteTexte(Feldtexte);
 }
 
-TEST_F(Texte, The_owner_line_reads_well_with_the_copyright_sign_in_the_middle) {
+TEST(Texte, The_owner_line_reads_well_with_the_copyright_sign_in_the_middle) {
     for (const auto sprache : {Deutsch, Englisch}) {
         const std::string zeile = TextIn(sprache, 8102) + "©" + TextIn(sprache, 8103);
         EXPECT_TRUE(zeile.starts_with("Copyright © 2026 ")) << zeile;
     }
 }
 
-TEST_F(Texte, A_menu_uses_a_mnemonic_once) {
+TEST(Texte, A_menu_uses_a_mnemonic_once) {
     for (const auto& menue : Menues) {
         ErwarteVerschiedeneMnemoniken(Deutsch, menue);
         ErwarteVerschiedeneMnemoniken(Englisch, menue);
     }
 }
 
-TEST_F(Texte, The_German_option_menu_uses_a_mnemonic_once) {
+TEST(Texte, The_German_option_menu_uses_a_mnemonic_once) {
     ErwarteVerschiedeneMnemoniken(Deutsch, Optionsmenue);
 }
 
-TEST_F(Texte, An_id_without_a_text_gives_an_empty_text) {
+TEST(Texte, An_id_without_a_text_gives_an_empty_text) {
     EXPECT_EQ(TextIn(Deutsch, 999), "");
     EXPECT_EQ(TextIn(Englisch, 9999), "");
     EXPECT_EQ(TextIn(7, 1000), "");
@@ -419,7 +414,7 @@ TEST(TexteInFormen, Ids_are_found_in_named_constants) {
               (std::set<int>{6109}));
 }
 
-TEST_F(Texte, Every_id_used_in_a_form_or_in_code_exists) {
+TEST(Texte, Every_id_used_in_a_form_or_in_code_exists) {
     const auto alle = AlleTextIds();
     int dateien = 0;
     for (const auto& eintrag : std::filesystem::recursive_directory_iterator(VARNOTH_QUELLEN)) {

@@ -23,11 +23,6 @@ constexpr std::int16_t TextDateifilter = 2000;
 
 class Dateidialog : public testing::Test {
 protected:
-    ~Dateidialog() override {
-        SetzeDateiantwort({});
-        SetzeSprachoffset(Deutsch);
-    }
-
     /// Asks, and does something with the dialog once it stands.
     static std::optional<std::string> Frage(const Dateifrage& frage,
                                             const std::function<void(QFileDialog&)>& tat) {

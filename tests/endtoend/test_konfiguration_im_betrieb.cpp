@@ -28,7 +28,7 @@ using Ort = std::tuple<Speicherbereich, int, int>;
 
 /// The parameters that a write sends, with the registers they hold in the image.
 std::map<Ort, std::int32_t> Konfiguration() {
-    std::map<Ort, std::int32_t> register_;
+    std::map<Ort, std::int32_t> alle;
     for (const auto bereich : {Speicherbereich::GlobaleGeraetedaten, Speicherbereich::SpezifischeGeraetedaten,
                                Speicherbereich::Kommunikationsdaten}) {
         std::int16_t adresse = 0;
@@ -37,10 +37,10 @@ std::map<Ort, std::int32_t> Konfiguration() {
              da = modDaten::NaechsterSchreibbarerEintrag(bereich, adresse, anzahl))
             for (int teil = 0; teil < Exemplare(bereich); ++teil)
                 for (int i = adresse; i < adresse + anzahl; ++i)
-                    register_[{bereich, teil, i}] =
+                    alle[{bereich, teil, i}] =
                         modDaten::Bereich(bereich)[Stelle(bereich, static_cast<std::int16_t>(i), teil)];
     }
-    return register_;
+    return alle;
 }
 
 constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
@@ -51,8 +51,6 @@ constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
 class KonfigurationImBetrieb : public ProgrammTest {
 protected:
-    ~KonfigurationImBetrieb() override { SetzeDateiantwort({}); }
-
     static void WaehlePosten(QWidget& fenster, const QString& liste, int posten) {
         Kind<QComboBox>(fenster, liste).setCurrentIndex(posten);
     }

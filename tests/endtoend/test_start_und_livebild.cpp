@@ -66,10 +66,10 @@ int VergleicheBereich(Simulatorprozess& geraet, Speicherbereich bereich) {
     std::int16_t laenge = 0;
     for (auto da = modDaten::ErsterLesbarerEintrag(bereich, adresse, laenge); da != False;
          da = modDaten::NaechsterLesbarerEintrag(bereich, adresse, laenge))
-        for (auto register_ = adresse; register_ < adresse + laenge; ++register_)
+        for (auto stelle = adresse; stelle < adresse + laenge; ++stelle)
             for (int teil = 0; teil < Exemplare(bereich); ++teil, ++verglichen) {
-                const std::string name = Registername(bereich, register_, teil);
-                EXPECT_EQ(abbild[Stelle(bereich, register_, teil)], geraet.Register(name)) << name;
+                const std::string name = Registername(bereich, stelle, teil);
+                EXPECT_EQ(abbild[Stelle(bereich, stelle, teil)], geraet.Register(name)) << name;
             }
     return verglichen;
 }

@@ -20,13 +20,11 @@ using pruefung::WarteBis;
 class FrmHilfeTest : public testing::Test {
 protected:
     FrmHilfeTest() {
-        SetzeSprachoffset(Deutsch);
         hilfe.NimmDatei(*datei);
         hilfe.show();
         hilfe.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&hilfe));
     }
-    ~FrmHilfeTest() override { SetzeSprachoffset(Deutsch); }
 
     QTextBrowser& Seite() { return Kind<QTextBrowser>(hilfe, "brwSeite"); }
     QTreeWidget& Inhalt() { return Kind<QTreeWidget>(hilfe, "trvInhalt"); }

@@ -24,7 +24,6 @@ using pruefung::WarteBis;
 class HilfeTest : public testing::Test {
 protected:
     HilfeTest() {
-        SetzeSprachoffset(Deutsch);
         hauptfenster.setObjectName("frmMain");
         hauptfenster.resize(300, 200);
         hauptfenster.show();
@@ -35,7 +34,6 @@ protected:
         anordnung->addWidget(knopf);
         QObject::connect(knopf, &QPushButton::clicked, knopf, [this] { ++klicks; });
     }
-    ~HilfeTest() override { SetzeSprachoffset(Deutsch); }
 
     void OeffneDialog() {
         dialog->setModal(true);

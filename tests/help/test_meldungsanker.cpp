@@ -8,8 +8,6 @@ namespace varnoth {
 
 class MeldungsankerTest : public testing::Test {
 protected:
-    ~MeldungsankerTest() override { SetzeSprachoffset(Deutsch); }
-
     static QString AnkerZu(std::int16_t id, const QString& zusatz = {}) {
         return Meldungsanker(zusatz + QString::fromStdString(LadeText(id)));
     }

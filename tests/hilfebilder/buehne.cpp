@@ -1,14 +1,9 @@
 #include "buehne.h"
 
-#include "crc.h"
 #include "polling.h"
 #include "qttexte.h"
-#include "registerabbild.h"
 #include "schnittstelle.h"
-#include "servicetext.h"
 #include "texte.h"
-#include "transaktionen.h"
-#include "zykluszeiten.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -22,16 +17,6 @@ constexpr QSize Fenstergroesse(590, 660);
 constexpr int Durchgaenge = 30;
 constexpr Zeit LaengsteWartezeit = std::chrono::minutes(1);
 constexpr Zeit Schritt = std::chrono::milliseconds(10);
-
-void SetzeModuleZurueck() {
-    modDaten::Zuruecksetzen();
-    modHilfsFunktionen::Zuruecksetzen();
-    modModbus::IdentReset();
-    modPolling::Zuruecksetzen();
-    modSchnittstelle::Zuruecksetzen();
-    modService::Zuruecksetzen();
-    CrcTabelleAufbauen();
-}
 
 } // namespace
 
@@ -59,13 +44,11 @@ Buehne::Buehne(std::int16_t sprachoffset) {
     LadeQtTexte(sprachoffset);
     QLocale::setDefault(QLocale(sprachoffset == Englisch ? QLocale::English : QLocale::German));
     modSchnittstelle::SetzePort(&port);
-    SetzeModuleZurueck();
 }
 
 Buehne::~Buehne() {
     umgebung.hauptfenster = nullptr;
     hauptfenster.reset();
-    SetzeModuleZurueck();
     modSchnittstelle::SetzePort(nullptr);
 }
 

@@ -3,6 +3,7 @@
 #include "frmMain.h"
 #include "pruefumgebung.h"
 #include "simulatorport.h"
+#include "startzustand.h"
 
 #include <QImage>
 #include <QWidget>
@@ -51,6 +52,7 @@ public:
 private:
     void Fotografiere(QWidget& fenster, const std::function<bool()>& bedingung, QImage& bild);
 
+    Startzustand startzustand; ///< comes first: what is fitted in below stays
     Buehnenumgebung umgebung;
     pruefung::PruefEinstellungen einstellungen;
     SimulatorPort port;

@@ -40,20 +40,15 @@ struct Grenzfall {
     int auswahl;
 };
 
-class AuswahllisteTest : public testing::Test {
-protected:
-    void TearDown() override { SetzeSprachoffset(Deutsch); }
-};
-
 } // namespace
 
-TEST_F(AuswahllisteTest, Every_item_of_every_list_gives_a_value_that_selects_it) {
+TEST(AuswahllisteTest, Every_item_of_every_list_gives_a_value_that_selects_it) {
     for (const auto& liste : AlleListen())
         for (int auswahl = 0; auswahl < liste.anzahl; ++auswahl)
             EXPECT_EQ(AuswahlFuer(liste, WertFuer(liste, auswahl)), auswahl) << liste.titel;
 }
 
-TEST_F(AuswahllisteTest, The_values_at_the_ends_select_the_first_and_the_last_item) {
+TEST(AuswahllisteTest, The_values_at_the_ends_select_the_first_and_the_last_item) {
     const Grenzfall faelle[] = {
         {Beschreibung(Teilliste::Aufloesung), 5, 0},
         {Beschreibung(Teilliste::Aufloesung), 10, 1},
@@ -82,7 +77,7 @@ TEST_F(AuswahllisteTest, The_values_at_the_ends_select_the_first_and_the_last_it
         EXPECT_EQ(AuswahlFuer(liste, wert), auswahl) << liste.titel << ' ' << wert;
 }
 
-TEST_F(AuswahllisteTest, A_value_outside_the_list_selects_nothing) {
+TEST(AuswahllisteTest, A_value_outside_the_list_selects_nothing) {
     const Grenzfall faelle[] = {
         {Beschreibung(Teilliste::Aufloesung), 15, KeineAuswahl},
         {Beschreibung(Teilliste::Aufloesung), 0, KeineAuswahl},
@@ -106,20 +101,20 @@ TEST_F(AuswahllisteTest, A_value_outside_the_list_selects_nothing) {
         EXPECT_EQ(AuswahlFuer(liste, wert), auswahl) << liste.titel << ' ' << wert;
 }
 
-TEST_F(AuswahllisteTest, Only_the_low_six_bits_select_the_integration_time) {
+TEST(AuswahllisteTest, Only_the_low_six_bits_select_the_integration_time) {
     EXPECT_EQ(AuswahlFuer(Beschreibung(Teilliste::Filterdurchlaeufe), 65), 0);
     EXPECT_EQ(AuswahlFuer(Beschreibung(Teilliste::Filterdurchlaeufe), 0xFFC7), 6);
 }
 
-TEST_F(AuswahllisteTest, Bit_15_does_not_touch_the_selected_group_count) {
+TEST(AuswahllisteTest, Bit_15_does_not_touch_the_selected_group_count) {
     EXPECT_EQ(AuswahlFuer(Beschreibung(Teilliste::Gruppenzaehler), 0x8005), 4);
 }
 
-TEST_F(AuswahllisteTest, The_format_bits_do_not_touch_the_selected_baud_rate) {
+TEST(AuswahllisteTest, The_format_bits_do_not_touch_the_selected_baud_rate) {
     EXPECT_EQ(AuswahlFuer(Autosendbaudraten(), 783), 3);
 }
 
-TEST_F(AuswahllisteTest, No_selection_gives_one_less_than_the_first_value) {
+TEST(AuswahllisteTest, No_selection_gives_one_less_than_the_first_value) {
     EXPECT_EQ(WertFuer(Beschreibung(Teilliste::Reichweite), KeineAuswahl), -1);
     EXPECT_EQ(WertFuer(Autosendbaudraten(), KeineAuswahl), 11);
     for (const Teilliste liste :
@@ -129,18 +124,18 @@ TEST_F(AuswahllisteTest, No_selection_gives_one_less_than_the_first_value) {
     EXPECT_EQ(WertFuer(Stationsadressen(240), KeineAuswahl), 0);
 }
 
-TEST_F(AuswahllisteTest, No_resolution_gives_the_value_0) {
+TEST(AuswahllisteTest, No_resolution_gives_the_value_0) {
     EXPECT_EQ(WertFuer(Beschreibung(Teilliste::Aufloesung), KeineAuswahl), 0);
 }
 
-TEST_F(AuswahllisteTest, The_resolutions_and_ranges_have_their_texts) {
+TEST(AuswahllisteTest, The_resolutions_and_ranges_have_their_texts) {
     EXPECT_THAT(Texte(Beschreibung(Teilliste::Aufloesung)), ElementsAre("5mm", "10mm", "20mm", "40mm"));
     EXPECT_THAT(Texte(Beschreibung(Teilliste::Reichweite)),
                 ElementsAre("0,05 - 0,3m", "0,20 - 1,0m", "0,50 - 1,5m", "1,00 - 2,5m", "2,00 - 3,5m",
                             "3,00 - 4,0m"));
 }
 
-TEST_F(AuswahllisteTest, A_cycle_time_of_1500_us_gives_items_of_1_5_ms_and_its_multiples) {
+TEST(AuswahllisteTest, A_cycle_time_of_1500_us_gives_items_of_1_5_ms_and_its_multiples) {
     const auto filter = Texte(Beschreibung(Teilliste::Filterdurchlaeufe), 1500);
     ASSERT_EQ(filter.size(), 63U);
     EXPECT_EQ(filter[0], "1,5ms");
@@ -151,14 +146,14 @@ TEST_F(AuswahllisteTest, A_cycle_time_of_1500_us_gives_items_of_1_5_ms_and_its_m
     EXPECT_EQ(Texte(Autosendraten(255), 1500).back(), "382,5ms");
 }
 
-TEST_F(AuswahllisteTest, Counts_are_plain_decimal_numbers) {
+TEST(AuswahllisteTest, Counts_are_plain_decimal_numbers) {
     EXPECT_EQ(Texte(Beschreibung(Teilliste::Gruppenzaehler)).front(), "1");
     EXPECT_EQ(Texte(Beschreibung(Teilliste::Gruppenzaehler)).back(), "127");
     EXPECT_EQ(Texte(Beschreibung(Teilliste::Lochgroesse)).back(), "255");
     EXPECT_EQ(Texte(Beschreibung(Teilliste::Mittentoleranz)).back(), "255");
 }
 
-TEST_F(AuswahllisteTest, Station_addresses_are_hexadecimal_up_to_the_bus_limit) {
+TEST(AuswahllisteTest, Station_addresses_are_hexadecimal_up_to_the_bus_limit) {
     const auto modbus = Texte(Stationsadressen(240));
     ASSERT_EQ(modbus.size(), 240U);
     EXPECT_EQ(modbus.front(), "1H");
@@ -167,47 +162,47 @@ TEST_F(AuswahllisteTest, Station_addresses_are_hexadecimal_up_to_the_bus_limit) 
     EXPECT_EQ(Texte(Stationsadressen(126)).back(), "7EH");
 }
 
-TEST_F(AuswahllisteTest, The_autosend_baud_rates_begin_at_4_8_KB) {
+TEST(AuswahllisteTest, The_autosend_baud_rates_begin_at_4_8_KB) {
     EXPECT_THAT(Texte(Autosendbaudraten()), ElementsAre("4,8 KB", "9,6 KB", "19,2 KB", "38,4 KB", "57,6 KB"));
 }
 
-TEST_F(AuswahllisteTest, Every_list_belongs_to_a_parameter_that_is_written_to_the_controller) {
+TEST(AuswahllisteTest, Every_list_belongs_to_a_parameter_that_is_written_to_the_controller) {
     for (const auto& liste : AlleListen())
         EXPECT_TRUE(IstSchreibbar(Beschreibung(liste.bereich, liste.adresse))) << liste.titel;
 }
 
-TEST_F(AuswahllisteTest, The_lists_of_an_optical_part_are_written_in_the_order_of_their_registers) {
+TEST(AuswahllisteTest, The_lists_of_an_optical_part_are_written_in_the_order_of_their_registers) {
     std::vector<std::int16_t> adressen;
     for (const auto& liste : AlleTeillisten())
         adressen.push_back(liste.adresse);
     EXPECT_THAT(adressen, ElementsAre(13, 14, 19, 24, 25, 26, 27));
 }
 
-TEST_F(AuswahllisteTest, A_value_outside_the_list_is_told_in_the_language_of_the_moment) {
+TEST(AuswahllisteTest, A_value_outside_the_list_is_told_in_the_language_of_the_moment) {
     const auto& aufloesung = Beschreibung(Teilliste::Aufloesung);
     EXPECT_EQ(Hinweistext(aufloesung, 15), "Wert im Varnoth: 15");
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Hinweistext(aufloesung, 15), "Value in the Varnoth: 15");
 }
 
-TEST_F(AuswahllisteTest, A_value_in_the_list_needs_no_telling) {
+TEST(AuswahllisteTest, A_value_in_the_list_needs_no_telling) {
     EXPECT_EQ(Hinweistext(Beschreibung(Teilliste::Aufloesung), 20), "");
 }
 
-TEST_F(AuswahllisteTest, What_is_told_are_the_bits_of_the_list_alone) {
+TEST(AuswahllisteTest, What_is_told_are_the_bits_of_the_list_alone) {
     EXPECT_EQ(Hinweistext(Beschreibung(Teilliste::Gruppenzaehler), 0x8000 + 200), "Wert im Varnoth: 200");
     EXPECT_EQ(Hinweistext(Autosendbaudraten(), 0x300 + 10), "Wert im Varnoth: 10");
     EXPECT_EQ(Hinweistext(Beschreibung(Teilliste::Filterdurchlaeufe), 128), "Wert im Varnoth: 128");
 }
 
-TEST_F(AuswahllisteTest, The_transmitted_value_stands_in_brackets) {
+TEST(AuswahllisteTest, The_transmitted_value_stands_in_brackets) {
     EXPECT_EQ(UebertragenerWert(Beschreibung(Teilliste::Filterdurchlaeufe), 11), "(12)");
     EXPECT_EQ(UebertragenerWert(Beschreibung(Teilliste::MinMaxHaltezeit), 254), "(255)");
     EXPECT_EQ(UebertragenerWert(Beschreibung(Teilliste::Reichweite), 0), "(0)");
     EXPECT_EQ(UebertragenerWert(Autosendraten(255), 0), "(1)");
 }
 
-TEST_F(AuswahllisteTest, Without_a_selection_no_value_is_transmitted) {
+TEST(AuswahllisteTest, Without_a_selection_no_value_is_transmitted) {
     EXPECT_EQ(UebertragenerWert(Beschreibung(Teilliste::Reichweite), KeineAuswahl), "");
 }
 

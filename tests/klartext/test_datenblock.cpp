@@ -47,15 +47,9 @@ std::vector<Eintragswahl> AlleWahlen() {
     return wahlen;
 }
 
-class Datenblock : public testing::Test {
-protected:
-    Datenblock() { SetzeSprachoffset(Deutsch); }
-    ~Datenblock() override { SetzeSprachoffset(Deutsch); }
-};
-
 } // namespace
 
-TEST_F(Datenblock, Every_code_of_every_source_has_its_line) {
+TEST(Datenblock, Every_code_of_every_source_has_its_line) {
     for (int quelle = 0; quelle <= 4; ++quelle)
         for (int code = 1; code <= 20; ++code)
             EXPECT_EQ(Eintragstext(Wort(quelle * 256 + code)),
@@ -63,42 +57,42 @@ TEST_F(Datenblock, Every_code_of_every_source_has_its_line) {
                           Quellentexte.at(static_cast<std::size_t>(quelle)));
 }
 
-TEST_F(Datenblock, Entry_0x0108_reads_TUMin_of_K1) {
+TEST(Datenblock, Entry_0x0108_reads_TUMin_of_K1) {
     EXPECT_EQ(Eintragstext(0x0108), "TUMin:K1");
 }
 
-TEST_F(Datenblock, Entry_0x0014_reads_Status_of_the_device) {
+TEST(Datenblock, Entry_0x0014_reads_Status_of_the_device) {
     EXPECT_EQ(Eintragstext(0x0014), "Status:" + LadeText(5514));
 }
 
-TEST_F(Datenblock, A_line_is_in_the_current_language) {
+TEST(Datenblock, A_line_is_in_the_current_language) {
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Eintragstext(0x0201), "Beam data:C2");
 }
 
-TEST_F(Datenblock, A_value_code_above_20_reads_as_question_marks) {
+TEST(Datenblock, A_value_code_above_20_reads_as_question_marks) {
     EXPECT_EQ(Eintragstext(0x0115), "??? :K1");
     EXPECT_EQ(Eintragstext(0x00FF), "??? :Varnoth");
 }
 
-TEST_F(Datenblock, A_value_code_0_beside_a_source_reads_as_question_marks) {
+TEST(Datenblock, A_value_code_0_beside_a_source_reads_as_question_marks) {
     EXPECT_EQ(Eintragstext(0x0100), "??? :K1");
 }
 
-TEST_F(Datenblock, A_source_above_4_reads_as_question_marks_in_place_of_colon_and_source) {
+TEST(Datenblock, A_source_above_4_reads_as_question_marks_in_place_of_colon_and_source) {
     EXPECT_EQ(Eintragstext(0x0508), "TUMin ???");
     EXPECT_EQ(Eintragstext(0x0F14), "Status ???");
 }
 
-TEST_F(Datenblock, Unknown_value_and_source_read_as_question_marks_both) {
+TEST(Datenblock, Unknown_value_and_source_read_as_question_marks_both) {
     EXPECT_EQ(Eintragstext(0x0515), "???  ???");
 }
 
-TEST_F(Datenblock, Bits_12_to_15_do_not_change_a_line) {
+TEST(Datenblock, Bits_12_to_15_do_not_change_a_line) {
     EXPECT_EQ(Eintragstext(Wort(0xF108)), "TUMin:K1");
 }
 
-TEST_F(Datenblock, A_choice_becomes_its_entry_word) {
+TEST(Datenblock, A_choice_becomes_its_entry_word) {
     EXPECT_EQ(Eintragswort({Quelle::Geraet, Wertart::Aktuell, Sendewert::Status}), 0x0014);
     EXPECT_EQ(Eintragswort({Quelle::K1, Wertart::Aktuell, Sendewert::Strahlendaten}), 0x0101);
     EXPECT_EQ(Eintragswort({Quelle::K1, Wertart::Min, Sendewert::TU}), 0x0108);
@@ -106,12 +100,12 @@ TEST_F(Datenblock, A_choice_becomes_its_entry_word) {
     EXPECT_EQ(Eintragswort({Quelle::K4, Wertart::Max, Sendewert::ZNU}), 0x0413);
 }
 
-TEST_F(Datenblock, A_minimum_of_beam_data_or_status_has_no_entry_word) {
+TEST(Datenblock, A_minimum_of_beam_data_or_status_has_no_entry_word) {
     EXPECT_EQ(Eintragswort({Quelle::K1, Wertart::Min, Sendewert::Strahlendaten}), 0);
     EXPECT_EQ(Eintragswort({Quelle::K1, Wertart::Max, Sendewert::Status}), 0);
 }
 
-TEST_F(Datenblock, Every_known_word_comes_back_from_its_choice) {
+TEST(Datenblock, Every_known_word_comes_back_from_its_choice) {
     for (int quelle = 0; quelle <= 4; ++quelle)
         for (int code = 1; code <= 20; ++code) {
             const auto wahl = WahlAus(Wort(quelle * 256 + code));
@@ -120,7 +114,7 @@ TEST_F(Datenblock, Every_known_word_comes_back_from_its_choice) {
         }
 }
 
-TEST_F(Datenblock, The_permitted_choices_have_words_all_their_own) {
+TEST(Datenblock, The_permitted_choices_have_words_all_their_own) {
     std::set<std::int16_t> worte;
     for (const Eintragswahl& wahl : AlleWahlen())
         if (IstErlaubt(wahl)) {
@@ -130,12 +124,12 @@ TEST_F(Datenblock, The_permitted_choices_have_words_all_their_own) {
     EXPECT_FALSE(worte.contains(0));
 }
 
-TEST_F(Datenblock, No_choice_stands_behind_an_unknown_value_or_source) {
+TEST(Datenblock, No_choice_stands_behind_an_unknown_value_or_source) {
     for (const int wort : {0x0000, 0x0100, 0x0115, 0x00FF, 0x0508, 0x0F14})
         EXPECT_EQ(WahlAus(Wort(wort)), std::nullopt) << wort;
 }
 
-TEST_F(Datenblock, Beam_data_and_status_have_no_minimum_and_maximum) {
+TEST(Datenblock, Beam_data_and_status_have_no_minimum_and_maximum) {
     for (const Eintragswahl& wahl : AlleWahlen())
         if (wahl.art != Wertart::Aktuell &&
             (wahl.wert == Sendewert::Strahlendaten || wahl.wert == Sendewert::Status)) {
@@ -143,7 +137,7 @@ TEST_F(Datenblock, Beam_data_and_status_have_no_minimum_and_maximum) {
         }
 }
 
-TEST_F(Datenblock, Of_the_device_only_the_current_status_is_permitted) {
+TEST(Datenblock, Of_the_device_only_the_current_status_is_permitted) {
     for (const Eintragswahl& wahl : AlleWahlen())
         if (wahl.quelle == Quelle::Geraet) {
             EXPECT_EQ(IstErlaubt(wahl),
@@ -151,7 +145,7 @@ TEST_F(Datenblock, Of_the_device_only_the_current_status_is_permitted) {
         }
 }
 
-TEST_F(Datenblock, Of_every_part_20_choices_are_permitted) {
+TEST(Datenblock, Of_every_part_20_choices_are_permitted) {
     for (int quelle = 1; quelle <= 4; ++quelle) {
         const auto wahlen = AlleWahlen();
         EXPECT_EQ(std::count_if(wahlen.begin(), wahlen.end(),
@@ -162,66 +156,66 @@ TEST_F(Datenblock, Of_every_part_20_choices_are_permitted) {
     }
 }
 
-TEST_F(Datenblock, The_fitting_choice_is_permitted_and_keeps_the_source) {
+TEST(Datenblock, The_fitting_choice_is_permitted_and_keeps_the_source) {
     for (const Eintragswahl& wahl : AlleWahlen()) {
         EXPECT_TRUE(IstErlaubt(Passend(wahl)));
         EXPECT_EQ(Passend(wahl).quelle, wahl.quelle);
     }
 }
 
-TEST_F(Datenblock, A_permitted_choice_fits_as_it_is) {
+TEST(Datenblock, A_permitted_choice_fits_as_it_is) {
     for (const Eintragswahl& wahl : AlleWahlen())
         if (IstErlaubt(wahl)) {
             EXPECT_EQ(Passend(wahl), wahl);
         }
 }
 
-TEST_F(Datenblock, Thirty_zeros_are_an_empty_list_and_come_back) {
+TEST(Datenblock, Thirty_zeros_are_an_empty_list_and_come_back) {
     const Eintragsliste liste = ListeAus(Werte(Datenblockregister, 0));
     EXPECT_EQ(AnzahlEintraege(liste), 0);
     EXPECT_EQ(DatenblockAus(liste), Werte(Datenblockregister, 0));
 }
 
-TEST_F(Datenblock, The_first_0_ends_the_list_and_what_follows_is_dropped) {
-    Werte register_(Datenblockregister, 0x0102);
-    register_[2] = 0;
-    EXPECT_EQ(ListeAus(register_), Liste({0x0102, 0x0102}));
+TEST(Datenblock, The_first_0_ends_the_list_and_what_follows_is_dropped) {
+    Werte block(Datenblockregister, 0x0102);
+    block[2] = 0;
+    EXPECT_EQ(ListeAus(block), Liste({0x0102, 0x0102}));
 }
 
-TEST_F(Datenblock, Thirty_entries_without_an_end_are_all_in_the_list) {
+TEST(Datenblock, Thirty_entries_without_an_end_are_all_in_the_list) {
     EXPECT_EQ(AnzahlEintraege(ListeAus(Werte(Datenblockregister, 0x0102))), 30);
 }
 
-TEST_F(Datenblock, Registers_come_back_from_the_list_with_their_upper_bits) {
-    Werte register_(Datenblockregister, 0);
-    register_[0] = 0x8108;
-    register_[1] = 0xFFFF;
-    EXPECT_EQ(DatenblockAus(ListeAus(register_)), register_);
+TEST(Datenblock, Registers_come_back_from_the_list_with_their_upper_bits) {
+    Werte block(Datenblockregister, 0);
+    block[0] = 0x8108;
+    block[1] = 0xFFFF;
+    EXPECT_EQ(DatenblockAus(ListeAus(block)), block);
 }
 
-TEST_F(Datenblock, A_short_block_of_registers_is_filled_up_with_0) {
+TEST(Datenblock, A_short_block_of_registers_is_filled_up_with_0) {
     EXPECT_EQ(ListeAus({0x0102}), Liste({0x0102}));
 }
 
-TEST_F(Datenblock, An_entry_is_inserted_before_the_one_at_its_place) {
+TEST(Datenblock, An_entry_is_inserted_before_the_one_at_its_place) {
     Eintragsliste liste = Liste({1, 2});
     EXPECT_TRUE(FuegeEin(liste, 1, 20));
     EXPECT_EQ(liste, Liste({1, 20, 2}));
 }
 
-TEST_F(Datenblock, An_entry_is_inserted_at_the_front) {
+TEST(Datenblock, An_entry_is_inserted_at_the_front) {
     Eintragsliste liste = Liste({1, 2});
     FuegeEin(liste, 0, 20);
     EXPECT_EQ(liste, Liste({20, 1, 2}));
 }
 
-TEST_F(Datenblock, A_place_beyond_the_last_entry_appends) {
+TEST(Datenblock, A_place_beyond_the_last_entry_appends) {
     Eintragsliste liste = Liste({1, 2});
     FuegeEin(liste, 29, 20);
     EXPECT_EQ(liste, Liste({1, 2, 20}));
 }
 
-TEST_F(Datenblock, With_28_entries_one_more_is_accepted) {
+TEST(Datenblock, With_28_entries_one_more_is_accepted) {
     Eintragsliste liste = ListeMit(28);
     EXPECT_TRUE(FuegeEin(liste, 0, 20));
     EXPECT_EQ(AnzahlEintraege(liste), 29);
@@ -229,43 +223,43 @@ TEST_F(Datenblock, With_28_entries_one_more_is_accepted) {
     EXPECT_EQ(liste[29], 0);
 }
 
-TEST_F(Datenblock, With_29_entries_nothing_is_inserted) {
+TEST(Datenblock, With_29_entries_nothing_is_inserted) {
     Eintragsliste liste = ListeMit(29);
     EXPECT_FALSE(FuegeEin(liste, 0, 20));
     EXPECT_EQ(liste, ListeMit(29));
 }
 
-TEST_F(Datenblock, With_30_entries_nothing_is_inserted) {
+TEST(Datenblock, With_30_entries_nothing_is_inserted) {
     Eintragsliste liste = ListeMit(30);
     EXPECT_FALSE(FuegeEin(liste, 0, 20));
     EXPECT_EQ(liste, ListeMit(30));
 }
 
-TEST_F(Datenblock, Deleting_the_first_of_three_leaves_the_others_in_order_and_a_0_behind) {
+TEST(Datenblock, Deleting_the_first_of_three_leaves_the_others_in_order_and_a_0_behind) {
     Eintragsliste liste = Liste({0x0101, 0x0102, 0x0103});
     Loesche(liste, 0);
     EXPECT_EQ(liste, Liste({0x0102, 0x0103, 0}));
 }
 
-TEST_F(Datenblock, Deleting_from_30_entries_leaves_a_0_in_the_last_place) {
+TEST(Datenblock, Deleting_from_30_entries_leaves_a_0_in_the_last_place) {
     Eintragsliste liste = ListeMit(30);
     Loesche(liste, 29);
     EXPECT_EQ(liste, ListeMit(29));
 }
 
-TEST_F(Datenblock, Deleting_nowhere_changes_nothing) {
+TEST(Datenblock, Deleting_nowhere_changes_nothing) {
     Eintragsliste liste = ListeMit(30);
     Loesche(liste, -1);
     Loesche(liste, 30);
     EXPECT_EQ(liste, ListeMit(30));
 }
 
-TEST_F(Datenblock, An_entry_with_bit_15_is_noticed) {
+TEST(Datenblock, An_entry_with_bit_15_is_noticed) {
     EXPECT_TRUE(HatUngueltigenEintrag(Liste({0x0102, 0x8102})));
     EXPECT_FALSE(HatUngueltigenEintrag(Liste({0x0102, 0x7FFF})));
 }
 
-TEST_F(Datenblock, The_limit_is_told_in_both_languages) {
+TEST(Datenblock, The_limit_is_told_in_both_languages) {
     EXPECT_EQ(GrenzeText(), "Es sind nur maximal 29 Einträge möglich.");
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(GrenzeText(), "At most 29 entries possible.");

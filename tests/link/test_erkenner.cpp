@@ -31,12 +31,7 @@ bool Gueltig(const Erkenner& erkenner) {
 
 } // namespace
 
-class ErkennerTest : public testing::Test {
-protected:
-    ErkennerTest() { CrcTabelleAufbauen(); }
-};
-
-TEST_F(ErkennerTest, A_read_reply_is_recognised_whole_byte_by_byte_and_at_every_split) {
+TEST(ErkennerTest, A_read_reply_is_recognised_whole_byte_by_byte_and_at_every_split) {
     const std::string antwort = LeseAntwort();
     for (std::size_t schnitt = 0; schnitt <= antwort.size(); ++schnitt) {
         LeseErkenner erkenner(Slave, 2);
@@ -51,65 +46,65 @@ TEST_F(ErkennerTest, A_read_reply_is_recognised_whole_byte_by_byte_and_at_every_
     EXPECT_TRUE(Gueltig(einzeln));
 }
 
-TEST_F(ErkennerTest, A_read_reply_that_lacks_its_last_byte_is_not_finished) {
+TEST(ErkennerTest, A_read_reply_that_lacks_its_last_byte_is_not_finished) {
     LeseErkenner erkenner(Slave, 2);
     const std::string antwort = LeseAntwort();
     EXPECT_TRUE(erkenner.Verarbeite(antwort.substr(0, antwort.size() - 1)));
     EXPECT_FALSE(erkenner.Fertig());
 }
 
-TEST_F(ErkennerTest, A_reply_after_a_stray_byte_fails_its_checksum) {
+TEST(ErkennerTest, A_reply_after_a_stray_byte_fails_its_checksum) {
     LeseErkenner erkenner(Slave, 2);
     EXPECT_TRUE(erkenner.Verarbeite(Bytes({0x55}) + LeseAntwort()));
     EXPECT_TRUE(erkenner.Fertig());
     EXPECT_FALSE(erkenner.CrcStimmt());
 }
 
-TEST_F(ErkennerTest, An_exception_reply_is_not_taken_for_an_answer) {
+TEST(ErkennerTest, An_exception_reply_is_not_taken_for_an_answer) {
     LeseErkenner erkenner(Slave, 2);
     EXPECT_TRUE(erkenner.Verarbeite(MitPruefsumme(Bytes({Slave, 0x83, 2}))));
     EXPECT_FALSE(erkenner.Fertig());
 }
 
-TEST_F(ErkennerTest, After_an_exception_reply_the_address_is_hunted_again) {
+TEST(ErkennerTest, After_an_exception_reply_the_address_is_hunted_again) {
     LeseErkenner erkenner(Slave, 2);
     EXPECT_TRUE(erkenner.Verarbeite(Bytes({Slave, 0x83}) + LeseAntwort()));
     EXPECT_TRUE(erkenner.Fertig());
     EXPECT_FALSE(erkenner.CrcStimmt());
 }
 
-TEST_F(ErkennerTest, Ten_foreign_bytes_are_borne_and_the_eleventh_fails_a_read) {
+TEST(ErkennerTest, Ten_foreign_bytes_are_borne_and_the_eleventh_fails_a_read) {
     LeseErkenner erkenner(Slave, 2);
     EXPECT_TRUE(erkenner.Verarbeite(std::string(10, '\x7F')));
     EXPECT_FALSE(erkenner.Verarbeite(std::string(1, '\x7F')));
 }
 
-TEST_F(ErkennerTest, Ten_foreign_bytes_are_borne_and_the_eleventh_fails_a_write) {
+TEST(ErkennerTest, Ten_foreign_bytes_are_borne_and_the_eleventh_fails_a_write) {
     SchreibErkenner erkenner(Slave, 0x4084, 1);
     EXPECT_TRUE(erkenner.Verarbeite(std::string(10, '\x7F')));
     EXPECT_FALSE(erkenner.Verarbeite(std::string(1, '\x7F')));
 }
 
-TEST_F(ErkennerTest, Bytes_behind_the_checksum_are_ignored) {
+TEST(ErkennerTest, Bytes_behind_the_checksum_are_ignored) {
     LeseErkenner erkenner(Slave, 2);
     EXPECT_TRUE(erkenner.Verarbeite(LeseAntwort() + std::string(20, '\x7F')));
     EXPECT_TRUE(Gueltig(erkenner));
     EXPECT_EQ(erkenner.Daten().size(), 4U);
 }
 
-TEST_F(ErkennerTest, A_reply_with_the_wrong_byte_count_is_not_recognised) {
+TEST(ErkennerTest, A_reply_with_the_wrong_byte_count_is_not_recognised) {
     LeseErkenner erkenner(Slave, 3);
     EXPECT_TRUE(erkenner.Verarbeite(LeseAntwort().substr(0, 3)));
     EXPECT_FALSE(erkenner.Fertig());
 }
 
-TEST_F(ErkennerTest, A_read_of_no_register_expects_its_checksum_behind_the_byte_count) {
+TEST(ErkennerTest, A_read_of_no_register_expects_its_checksum_behind_the_byte_count) {
     LeseErkenner erkenner(Slave, 0);
     EXPECT_TRUE(erkenner.Verarbeite(MitPruefsumme(Bytes({Slave, 3, 0}))));
     EXPECT_TRUE(Gueltig(erkenner));
 }
 
-TEST_F(ErkennerTest, A_flipped_bit_at_any_place_is_never_accepted) {
+TEST(ErkennerTest, A_flipped_bit_at_any_place_is_never_accepted) {
     const std::string antwort = LeseAntwort();
     for (std::size_t bit = 0; bit < 8 * antwort.size(); ++bit) {
         std::string verfaelscht = antwort;
@@ -119,13 +114,13 @@ TEST_F(ErkennerTest, A_flipped_bit_at_any_place_is_never_accepted) {
     }
 }
 
-TEST_F(ErkennerTest, A_write_is_confirmed_by_the_echo_of_start_and_count) {
+TEST(ErkennerTest, A_write_is_confirmed_by_the_echo_of_start_and_count) {
     SchreibErkenner erkenner(Slave, 0x4084, 1);
     EXPECT_TRUE(erkenner.Verarbeite(SchreibAntwort()));
     EXPECT_TRUE(Gueltig(erkenner));
 }
 
-TEST_F(ErkennerTest, An_echo_that_differs_in_any_byte_confirms_nothing) {
+TEST(ErkennerTest, An_echo_that_differs_in_any_byte_confirms_nothing) {
     for (std::size_t stelle = 2; stelle < 6; ++stelle) {
         std::string echo = SchreibAntwort().substr(0, 6);
         echo[stelle] = static_cast<char>(echo[stelle] + 1);
@@ -135,7 +130,7 @@ TEST_F(ErkennerTest, An_echo_that_differs_in_any_byte_confirms_nothing) {
     }
 }
 
-TEST_F(ErkennerTest, An_identification_gives_address_bytes_and_text) {
+TEST(ErkennerTest, An_identification_gives_address_bytes_and_text) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     EXPECT_TRUE(erkenner.Verarbeite(IdentAntwort("\x01\x32"
@@ -147,7 +142,7 @@ TEST_F(ErkennerTest, An_identification_gives_address_bytes_and_text) {
     EXPECT_EQ(erkenner.Text(), "Name;4711");
 }
 
-TEST_F(ErkennerTest, An_identification_of_one_byte_sets_only_the_first) {
+TEST(ErkennerTest, An_identification_of_one_byte_sets_only_the_first) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     EXPECT_TRUE(erkenner.Verarbeite(IdentAntwort("\x05")));
@@ -157,7 +152,7 @@ TEST_F(ErkennerTest, An_identification_of_one_byte_sets_only_the_first) {
     EXPECT_EQ(erkenner.Text(), "");
 }
 
-TEST_F(ErkennerTest, An_identification_of_two_bytes_has_an_empty_text) {
+TEST(ErkennerTest, An_identification_of_two_bytes_has_an_empty_text) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     EXPECT_TRUE(erkenner.Verarbeite(IdentAntwort("\x05\x06")));
@@ -166,7 +161,7 @@ TEST_F(ErkennerTest, An_identification_of_two_bytes_has_an_empty_text) {
     EXPECT_EQ(erkenner.Text(), "");
 }
 
-TEST_F(ErkennerTest, An_identification_without_data_is_valid_and_sets_neither_byte) {
+TEST(ErkennerTest, An_identification_without_data_is_valid_and_sets_neither_byte) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     EXPECT_TRUE(erkenner.Verarbeite(IdentAntwort("")));
@@ -174,7 +169,7 @@ TEST_F(ErkennerTest, An_identification_without_data_is_valid_and_sets_neither_by
     EXPECT_EQ(ident.byte1, -1);
 }
 
-TEST_F(ErkennerTest, An_identification_behind_stray_bytes_is_recognised) {
+TEST(ErkennerTest, An_identification_behind_stray_bytes_is_recognised) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     EXPECT_TRUE(erkenner.Verarbeite(Bytes({0x77, 0x66, 0x55}) + IdentAntwort("\x05\x06")));
@@ -182,14 +177,14 @@ TEST_F(ErkennerTest, An_identification_behind_stray_bytes_is_recognised) {
     EXPECT_EQ(ident.slaveAdresse, 9);
 }
 
-TEST_F(ErkennerTest, More_than_ten_stray_bytes_fail_an_identification) {
+TEST(ErkennerTest, More_than_ten_stray_bytes_fail_an_identification) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     EXPECT_TRUE(erkenner.Verarbeite(std::string(11, '\x7F')));
     EXPECT_FALSE(erkenner.Verarbeite(std::string(1, '\x7F')));
 }
 
-TEST_F(ErkennerTest, A_failed_identification_keeps_what_the_bytes_set_before) {
+TEST(ErkennerTest, A_failed_identification_keeps_what_the_bytes_set_before) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     std::string antwort = IdentAntwort("\x05\x06");
@@ -200,7 +195,7 @@ TEST_F(ErkennerTest, A_failed_identification_keeps_what_the_bytes_set_before) {
     EXPECT_EQ(ident.byte1, 5);
 }
 
-TEST_F(ErkennerTest, Bytes_behind_the_reply_are_noticed) {
+TEST(ErkennerTest, Bytes_behind_the_reply_are_noticed) {
     LeseErkenner erkenner(Slave, 2);
     erkenner.Verarbeite(LeseAntwort());
     EXPECT_FALSE(erkenner.Ueberzaehlig());
@@ -208,13 +203,13 @@ TEST_F(ErkennerTest, Bytes_behind_the_reply_are_noticed) {
     EXPECT_TRUE(erkenner.Ueberzaehlig());
 }
 
-TEST_F(ErkennerTest, An_identification_is_found_in_a_stream_and_taken_out_with_what_was_before_it) {
+TEST(ErkennerTest, An_identification_is_found_in_a_stream_and_taken_out_with_what_was_before_it) {
     std::string strom = LeseAntwort() + std::string(20, '\x11') + IdentAntwort("\x05\x06") + "rest";
     EXPECT_TRUE(NimmIdentAntwort(strom));
     EXPECT_EQ(strom, "rest");
 }
 
-TEST_F(ErkennerTest, An_identification_is_found_with_its_last_byte) {
+TEST(ErkennerTest, An_identification_is_found_with_its_last_byte) {
     const std::string antwort = "x" + IdentAntwort("\x05\x06");
     for (std::size_t laenge = 0; laenge < antwort.size(); ++laenge) {
         std::string strom = antwort.substr(0, laenge);
@@ -225,14 +220,14 @@ TEST_F(ErkennerTest, An_identification_is_found_with_its_last_byte) {
     EXPECT_TRUE(NimmIdentAntwort(strom));
 }
 
-TEST_F(ErkennerTest, Two_identifications_in_a_stream_are_found_one_after_the_other) {
+TEST(ErkennerTest, Two_identifications_in_a_stream_are_found_one_after_the_other) {
     std::string strom = IdentAntwort("\x05\x06") + IdentAntwort("\x05\x06");
     EXPECT_TRUE(NimmIdentAntwort(strom));
     EXPECT_TRUE(NimmIdentAntwort(strom));
     EXPECT_FALSE(NimmIdentAntwort(strom));
 }
 
-TEST_F(ErkennerTest, An_identification_with_a_wrong_checksum_is_not_found_in_a_stream) {
+TEST(ErkennerTest, An_identification_with_a_wrong_checksum_is_not_found_in_a_stream) {
     std::string strom = IdentAntwort("\x05\x06");
     strom.back() = static_cast<char>(strom.back() ^ 1);
     EXPECT_FALSE(NimmIdentAntwort(strom));

@@ -1,6 +1,5 @@
 #include "polling.h"
 
-#include "crc.h"
 #include "pruefgeraet.h"
 #include "registerabbild.h"
 #include "texte.h"
@@ -52,21 +51,9 @@ using Lesungen = std::vector<std::pair<int, int>>;
 class PollingTest : public testing::Test {
 protected:
     PollingTest() {
-        CrcTabelleAufbauen();
-        modDaten::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        modPolling::Zuruecksetzen();
-        modModbus::Zuruecksetzen();
         SetzeZiel(&ziel);
         StartePolling();
         modModbus::RTUModeH11IndentifikationsAnforderung();
-    }
-    ~PollingTest() override {
-        SetzeZiel(nullptr);
-        modPolling::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        modModbus::Zuruecksetzen();
-        modDaten::Zuruecksetzen();
     }
 
     void Verbinde(std::vector<int> strahlenzahlen) {
@@ -99,8 +86,8 @@ protected:
 TEST_F(PollingTest, The_number_of_beam_registers_follows_the_rounding_rule) {
     const std::pair<int, int> faelle[] = {{0, 0},  {1, 1},  {8, 1},  {9, 2},   {16, 1},   {24, 3},
                                           {32, 2}, {40, 3}, {56, 5}, {100, 7}, {512, 32}, {2000, 64}};
-    for (const auto& [strahlen, register_] : faelle)
-        EXPECT_EQ(Strahlregister(strahlen), register_) << strahlen << " beams";
+    for (const auto& [strahlen, erwartet] : faelle)
+        EXPECT_EQ(GeleseneStrahlregister(strahlen), erwartet) << strahlen << " beams";
 }
 
 TEST_F(PollingTest, A_part_of_512_beams_needs_32_registers) {

@@ -14,12 +14,6 @@ using namespace std::chrono_literals;
 
 class SchnittstelleTest : public testing::Test {
 protected:
-    SchnittstelleTest() { Zuruecksetzen(); }
-    ~SchnittstelleTest() override {
-        modTrace::Schliesse();
-        Zuruecksetzen();
-    }
-
     pruefung::PruefUmgebung umgebung;
     pruefung::PruefPort port{umgebung};
 };

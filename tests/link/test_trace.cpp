@@ -13,10 +13,7 @@ namespace varnoth {
 class TraceTest : public testing::Test {
 protected:
     TraceTest() { std::filesystem::create_directories(ordner); }
-    ~TraceTest() override {
-        modTrace::Schliesse();
-        std::filesystem::remove_all(ordner);
-    }
+    ~TraceTest() override { std::filesystem::remove_all(ordner); }
 
     std::string Inhalt() const {
         std::ifstream datei(pfad, std::ios::binary);

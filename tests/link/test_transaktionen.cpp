@@ -1,6 +1,5 @@
 #include "transaktionen.h"
 
-#include "crc.h"
 #include "pruefgeraet.h"
 #include "schnittstelle.h"
 
@@ -16,16 +15,7 @@ using pruefung::Stueck;
 
 class TransaktionenTest : public testing::Test {
 protected:
-    TransaktionenTest() {
-        CrcTabelleAufbauen();
-        Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        modSchnittstelle::OpenCommPort();
-    }
-    ~TransaktionenTest() override {
-        Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-    }
+    TransaktionenTest() { modSchnittstelle::OpenCommPort(); }
 
     void Identifiziere() {
         pruefung::PruefGeraet geraet(port);

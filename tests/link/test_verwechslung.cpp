@@ -1,6 +1,6 @@
-#include "crc.h"
 #include "pruefgeraet.h"
 #include "schnittstelle.h"
+#include "startzustand.h"
 #include "transaktionen.h"
 
 #include <gtest/gtest.h>
@@ -33,9 +33,6 @@ bool IstFrage(const std::string& rahmen) {
 class VerwechslungTest : public testing::Test {
 protected:
     VerwechslungTest() {
-        CrcTabelleAufbauen();
-        Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::OpenCommPort();
         port.antworte = [this, antworte = port.antworte](const std::string& anforderung) {
             return DerReiheNach(antworte(anforderung));
@@ -49,10 +46,6 @@ protected:
             geraet.Register(Messwerte + i) = MessWert;
         }
         geraet.Register(100) = 7;
-    }
-    ~VerwechslungTest() override {
-        Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
     }
 
     /// The number of the request that is being answered, from 1.
@@ -263,10 +256,13 @@ TEST_F(VerwechslungTest, What_is_open_stays_open_when_the_port_is_opened_anew) {
     EXPECT_EQ(Fragen(), 1);
 }
 
-TEST_F(VerwechslungTest, Setting_the_module_back_forgets_what_is_open) {
+TEST_F(VerwechslungTest, The_start_state_forgets_what_is_open) {
     verlorene[1] = true;
     EXPECT_EQ(Lies(Strahlen), False);
-    Zuruecksetzen();
+    const Startzustand anfang;
+    SetzeUmgebung(&umgebung);
+    modSchnittstelle::SetzePort(&port);
+    modSchnittstelle::OpenCommPort();
     RTUModeH11IndentifikationsAnforderung();
     EXPECT_EQ(Lies(Messwerte), True);
     EXPECT_EQ(Fragen(), 1);

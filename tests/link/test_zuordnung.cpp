@@ -1,6 +1,5 @@
 #include "zuordnung.h"
 
-#include "crc.h"
 #include "rahmen.h"
 
 #include <gtest/gtest.h>
@@ -23,8 +22,6 @@ std::string Schreiben(int start, const Werte& werte) {
 
 class ZuordnungTest : public testing::Test {
 protected:
-    ZuordnungTest() { CrcTabelleAufbauen(); }
-
     void Sende(std::initializer_list<std::string> anforderungen) {
         for (const std::string& anforderung : anforderungen)
             zuordnung.Gesendet(anforderung);

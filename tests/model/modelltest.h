@@ -1,10 +1,7 @@
 #pragma once
 
-#include "plausibilitaet.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
-#include "texte.h"
-#include "zykluszeiten.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +13,9 @@ inline constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
 inline constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 inline constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
-/// Gives every test the data model as the program starts with it, and takes its own traces away.
+/// Setting of the tests of the data model: looks into the image and changes it, parameter or not.
 class ModellTest : public testing::Test {
 protected:
-    ModellTest() { AllesAufAnfang(); }
-    ~ModellTest() override { AllesAufAnfang(); }
-
     /// Any register of the image, whether a parameter starts there or not.
     static std::int32_t Wert(Speicherbereich bereich, std::int16_t adresse, int optikteil = 0) {
         return modDaten::Bereich(bereich)[Stelle(bereich, adresse, optikteil)];
@@ -42,14 +36,6 @@ protected:
     static Abbild Kopie() { return modDaten::DasAbbild(); }
 
     pruefung::PruefUmgebung umgebung;
-
-private:
-    static void AllesAufAnfang() {
-        modDaten::Zuruecksetzen();
-        modDaten::SetzeReaktionAufUnplausiblesAbbild({});
-        modHilfsFunktionen::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-    }
 };
 
 } // namespace varnoth

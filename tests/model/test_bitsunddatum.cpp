@@ -1,6 +1,7 @@
 #include "bitsunddatum.h"
 
 #include "modelltest.h"
+#include "texte.h"
 
 namespace varnoth::modDaten {
 

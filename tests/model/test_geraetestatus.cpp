@@ -1,6 +1,7 @@
 #include "geraetestatus.h"
 
 #include "modelltest.h"
+#include "texte.h"
 
 namespace varnoth::modDaten {
 

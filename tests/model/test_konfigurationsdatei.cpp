@@ -1,6 +1,7 @@
 #include "konfigurationsdatei.h"
 
 #include "modelltest.h"
+#include "texte.h"
 
 #include <limits>
 #include <random>

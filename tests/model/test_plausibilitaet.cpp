@@ -2,6 +2,7 @@
 
 #include "modelltest.h"
 #include "standardkonfiguration.h"
+#include "texte.h"
 
 namespace varnoth::modDaten {
 

@@ -1,6 +1,7 @@
 #include "registerabbild.h"
 
 #include "modelltest.h"
+#include "startzustand.h"
 
 namespace varnoth::modDaten {
 
@@ -191,11 +192,11 @@ TEST_F(Registerabbild, Initialising_forgets_file_name_and_mark_but_no_value) {
     EXPECT_EQ(Wert(Global, 193), 5);
 }
 
-TEST_F(Registerabbild, Resetting_the_module_forgets_everything) {
+TEST_F(Registerabbild, The_start_state_forgets_everything) {
     const auto vorher = Kopie();
     SetDateiname("a.con");
     SetzeGlobaleDaten(193, 1, {5});
-    Zuruecksetzen();
+    const Startzustand anfang;
     EXPECT_EQ(GetDateiname(), "");
     EXPECT_EQ(IstGeaendert(), False);
     EXPECT_EQ(Kopie(), vorher);

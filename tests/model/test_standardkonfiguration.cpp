@@ -1,6 +1,7 @@
 #include "standardkonfiguration.h"
 
 #include "modelltest.h"
+#include "plausibilitaet.h"
 
 namespace varnoth::modDaten {
 

@@ -9,8 +9,6 @@ namespace varnoth {
 
 class GeraetepfadeTest : public testing::Test {
 protected:
-    ~GeraetepfadeTest() override { SetzeGeraetepfad({}); }
-
     pruefung::PruefEinstellungen einstellungen;
 };
 

@@ -49,7 +49,6 @@ protected:
     ~QtSeriellerPortTest() override {
         port.Schliesse();
         ZieheAb();
-        SetzeGeraetepfad({});
     }
 
     void Sende(const std::string& bytes) const {

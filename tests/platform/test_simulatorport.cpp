@@ -1,6 +1,5 @@
 #include "simulatorport.h"
 
-#include "crc.h"
 #include "pruefumgebung.h"
 #include "schnittstelle.h"
 #include "transaktionen.h"
@@ -13,17 +12,8 @@ using namespace std::chrono_literals;
 
 class SimulatorPortTest : public testing::Test {
 protected:
-    SimulatorPortTest() {
-        CrcTabelleAufbauen();
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::SetzePort(&port);
-        modSchnittstelle::Zuruecksetzen();
-    }
-    ~SimulatorPortTest() override {
-        modSchnittstelle::Zuruecksetzen();
-        modSchnittstelle::SetzePort(nullptr);
-        modModbus::Zuruecksetzen();
-    }
+    SimulatorPortTest() { modSchnittstelle::SetzePort(&port); }
+    ~SimulatorPortTest() override { modSchnittstelle::SetzePort(nullptr); }
 
     pruefung::PruefUmgebung umgebung;
     SimulatorPort port;

@@ -68,16 +68,11 @@ protected:
 class ToedlichesSpeichern : public Toedliches {
 protected:
     ToedlichesSpeichern() {
-        modDaten::Zuruecksetzen();
         modDaten::LadeStandardkonfiguration();
         alt = modDaten::SpeichereKonfigurationsdatei();
         modDaten::SetzeKommunikationsdaten(126, 1, {0x1234});
         neu = modDaten::SpeichereKonfigurationsdatei();
         SetzeDateiantwort([this](const Dateifrage&) { return Pfad("a.con"); });
-    }
-    ~ToedlichesSpeichern() override {
-        SetzeDateiantwort({});
-        modDaten::Zuruecksetzen();
     }
     void SchreibAlte() const {
         Raeume();

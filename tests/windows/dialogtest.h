@@ -1,12 +1,9 @@
 #pragma once
 
 #include "boolean.h"
-#include "crc.h"
 #include "fenstertest.h"
 #include "pruefgeraet.h"
-#include "registerabbild.h"
 #include "schnittstelle.h"
-#include "texte.h"
 #include "transaktionen.h"
 
 #include <QDialog>
@@ -22,19 +19,8 @@ namespace varnoth::pruefung {
 class DialogTest : public testing::Test {
 protected:
     DialogTest() {
-        CrcTabelleAufbauen();
-        SetzeSprachoffset(Deutsch);
-        modDaten::Zuruecksetzen();
-        modDaten::LeereAbbild();
-        modSchnittstelle::Zuruecksetzen();
         Identifiziere();
         umgebung.beiEreignissen = [] { QCoreApplication::processEvents(); };
-    }
-    ~DialogTest() override {
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        modDaten::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
     }
 
     int AnzahlAnforderungen() const { return static_cast<int>(port.gesendet.size()); }

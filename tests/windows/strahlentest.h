@@ -3,7 +3,6 @@
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "standardkonfiguration.h"
-#include "texte.h"
 
 #include <QComboBox>
 #include <QDialog>
@@ -22,17 +21,6 @@ namespace varnoth::pruefung {
 /// Setting of the tests of dialogs that ask for beam counts: an empty image, German texts.
 class StrahlenTest : public testing::Test {
 protected:
-    StrahlenTest() {
-        SetzeSprachoffset(Deutsch);
-        modDaten::Zuruecksetzen();
-        modDaten::LeereAbbild();
-    }
-    ~StrahlenTest() override {
-        modDaten::Zuruecksetzen();
-        modDaten::LeereAbbild();
-        SetzeSprachoffset(Deutsch);
-    }
-
     template<class Element>
     static Element& Kind(QDialog& dialog, const std::string& name) {
         auto* const element = dialog.findChild<Element*>(QString::fromStdString(name));

@@ -4,6 +4,7 @@
 #include "frmHoleLichtleistenInfo.h"
 #include "frmIdentifikationsAnforderung.h"
 #include "frmKonfigurationLesenAusHardware.h"
+#include "texte.h"
 
 #include <QKeyEvent>
 

@@ -2,7 +2,6 @@
 
 #include "fenstertest.h"
 #include "frmSplash.h"
-#include "qttexte.h"
 #include "servicetext.h"
 #include "texte.h"
 #include "trace.h"
@@ -30,8 +29,6 @@ protected:
     ~AnwendungTest() override {
         anwendung.reset();
         QDir::setCurrent(vorher);
-        SetzeSprachoffset(Deutsch);
-        LadeQtTexte(Englisch);
     }
 
     void SchreibEinstellungen(const QByteArray& text) const {

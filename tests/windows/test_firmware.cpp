@@ -1,6 +1,5 @@
 #include "firmware.h"
 
-#include "crc.h"
 #include "pruefgeraet.h"
 #include "schnittstelle.h"
 #include "texte.h"
@@ -17,16 +16,7 @@ using testing::IsEmpty;
 
 class Firmware : public testing::Test, private Firmwareziel {
 protected:
-    Firmware() {
-        CrcTabelleAufbauen();
-        modModbus::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-        einstellungen.texte[{"Flasher", "Parameter"}] = "COM1 varnoth.bin";
-    }
-    ~Firmware() override {
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-    }
+    Firmware() { einstellungen.texte[{"Flasher", "Parameter"}] = "COM1 varnoth.bin"; }
 
     void Aktualisiere() { AktualisiereFirmware(*this); }
     std::vector<std::string> Gezeigt() const {

@@ -3,7 +3,9 @@
 #include "beambarcontrol.h"
 #include "fensterplatz.h"
 #include "frmBlankingmuster.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
+#include "texte.h"
 
 #include <array>
 

@@ -28,7 +28,6 @@ constexpr std::int16_t Messwertregister = 18;
 class FrmDocument : public testing::Test {
 protected:
     FrmDocument() {
-        modDaten::Zuruecksetzen();
         Setze(spezifisch::Strahlenzahl, 20);
         Setze(spezifisch::Aufloesung, 20);
         bereich = new QMdiArea;
@@ -40,7 +39,6 @@ protected:
         rahmen->setAttribute(Qt::WA_DeleteOnClose, false);
         sicht->InitfrmDocument();
     }
-    ~FrmDocument() override { SetzeSprachoffset(Deutsch); }
 
     static void Setze(std::int16_t adresse, std::int32_t wert) {
         modDaten::SetzeSpezifischeDaten(adresse, 1, Teil, {wert});

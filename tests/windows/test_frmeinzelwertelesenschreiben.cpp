@@ -1,5 +1,6 @@
 #include "dialogtest.h"
 #include "frmEinzelwerteLesenSchreiben.h"
+#include "texte.h"
 
 #include <QGroupBox>
 #include <QKeyEvent>

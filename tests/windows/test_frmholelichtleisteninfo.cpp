@@ -1,5 +1,6 @@
 #include "dialogtest.h"
 #include "frmHoleLichtleistenInfo.h"
+#include "texte.h"
 
 #include <QProgressBar>
 

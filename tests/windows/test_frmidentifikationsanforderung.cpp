@@ -1,5 +1,6 @@
 #include "dialogtest.h"
 #include "frmIdentifikationsAnforderung.h"
+#include "texte.h"
 
 namespace varnoth {
 

@@ -1,6 +1,7 @@
 #include "dialogtest.h"
 #include "frmInitHardware.h"
 #include "servicetext.h"
+#include "texte.h"
 
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -24,7 +25,6 @@ protected:
     using Dialog = frmInitHardware;
 
     frmInitHardwareTest() { modService::SetzeServiceText(Passwort); }
-    ~frmInitHardwareTest() override { modService::Zuruecksetzen(); }
 
     static QLineEdit& Eingabefeld(QDialog& dialog, const char* name) { return Kind<QLineEdit>(dialog, name); }
     static void Schreibe(QDialog& dialog) { Kind<QPushButton>(dialog, "cmdSchreiben").click(); }

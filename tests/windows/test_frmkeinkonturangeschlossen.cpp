@@ -1,6 +1,7 @@
 #include "frmKeinKonturAngeschlossen.h"
 #include "letzterdatensatz.h"
 #include "strahlentest.h"
+#include "texte.h"
 
 #include <QFile>
 #include <QFileInfo>

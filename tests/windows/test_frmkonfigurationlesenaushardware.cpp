@@ -1,5 +1,7 @@
 #include "dialogtest.h"
 #include "frmKonfigurationLesenAusHardware.h"
+#include "registerabbild.h"
+#include "texte.h"
 
 #include <QProgressBar>
 

@@ -1,6 +1,8 @@
 #include "dialogtest.h"
 #include "frmKonfigurationSchreibenInHardware.h"
+#include "registerabbild.h"
 #include "standardkonfiguration.h"
+#include "texte.h"
 
 #include <QCheckBox>
 #include <QProgressBar>

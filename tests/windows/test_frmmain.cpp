@@ -1,10 +1,8 @@
 #include "frmMain.h"
 
-#include "crc.h"
 #include "fenstertest.h"
 #include "frmDocument.h"
 #include "pruefgeraet.h"
-#include "qttexte.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
@@ -34,25 +32,6 @@ using pruefung::PruefGeraet;
 
 class FrmMainTest : public testing::Test {
 protected:
-    FrmMainTest() {
-        CrcTabelleAufbauen();
-        ModuleZuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-    }
-    ~FrmMainTest() override {
-        fenster.reset();
-        ModuleZuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-    }
-
-    static void ModuleZuruecksetzen() {
-        modDaten::Zuruecksetzen();
-        modHilfsFunktionen::Zuruecksetzen();
-        modModbus::Zuruecksetzen();
-        modPolling::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-    }
-
     frmMain& Fenster() {
         if (!fenster) {
             fenster = std::make_unique<frmMain>();
@@ -400,7 +379,6 @@ TEST_F(FrmMainTest, Switching_to_English_and_back_gives_the_German_texts_again) 
     EXPECT_EQ(Titel(0), "1. Optikteil offline");
     EXPECT_TRUE(Aktion("mnuDeutsch").isChecked());
     EXPECT_EQ((einstellungen.texte[{"Settings", "Sprache"}]), "0");
-    LadeQtTexte(Englisch);
 }
 
 TEST_F(FrmMainTest, Closing_while_a_pass_waits_ends_the_pass_and_the_program) {

@@ -1,7 +1,9 @@
 #include "untereditortest.h"
 
 #include "frmReihenfolge.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
+#include "texte.h"
 
 #include <QListWidget>
 

@@ -1,5 +1,6 @@
 #include "dialogtest.h"
 #include "frmResetHardware.h"
+#include "texte.h"
 
 #include <QKeyEvent>
 

@@ -1,5 +1,6 @@
 #include "frmStrahlenBestimmen.h"
 #include "strahlentest.h"
+#include "texte.h"
 
 namespace varnoth {
 

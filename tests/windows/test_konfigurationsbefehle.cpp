@@ -35,7 +35,6 @@ const std::pair<std::string, std::string> Eintrag{"frmMain", "mnuSpeichernUnter"
 class Konfigurationsbefehle : public testing::Test {
 protected:
     Konfigurationsbefehle() {
-        AllesAufAnfang();
         modDaten::LadeStandardkonfiguration();
         modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {32});
         modDaten::LoescheGeaendert();
@@ -47,10 +46,6 @@ protected:
             gewaehlt.pop_front();
             return pfad;
         });
-    }
-    ~Konfigurationsbefehle() override {
-        SetzeDateiantwort({});
-        AllesAufAnfang();
     }
 
     std::string Pfad(const char* name) const {
@@ -72,14 +67,6 @@ protected:
     QTemporaryDir ordner;
     std::vector<Dateifrage> gefragt;
     std::deque<std::string> gewaehlt;
-
-private:
-    static void AllesAufAnfang() {
-        modDaten::Zuruecksetzen();
-        modDaten::SetzeReaktionAufUnplausiblesAbbild({});
-        modHilfsFunktionen::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-    }
 };
 
 class Speichern : public Konfigurationsbefehle {};

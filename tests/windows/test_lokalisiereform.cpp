@@ -39,8 +39,6 @@ namespace {
 
 class LokalisiereFormTest : public testing::Test {
 protected:
-    void TearDown() override { SetzeSprachoffset(Deutsch); }
-
     void Lokalisiere(std::int16_t offset) {
         SetzeSprachoffset(offset);
         LokalisiereForm(form);
@@ -299,8 +297,6 @@ namespace {
 /// A main window as Designer makes it: menus and actions carry their ids as captions.
 class HauptfensterTest : public testing::Test {
 protected:
-    void TearDown() override { SetzeSprachoffset(Deutsch); }
-
     void Lokalisiere(std::int16_t offset) {
         SetzeSprachoffset(offset);
         LokalisiereForm(fenster);

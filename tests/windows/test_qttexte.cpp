@@ -12,11 +12,6 @@ namespace varnoth {
 
 namespace {
 
-class QtTexteTest : public testing::Test {
-protected:
-    void TearDown() override { LadeQtTexte(Englisch); }
-};
-
 std::string BeschriftungVon(QMessageBox::StandardButton knopf) {
     QMessageBox box;
     box.setStandardButtons(knopf);
@@ -25,14 +20,14 @@ std::string BeschriftungVon(QMessageBox::StandardButton knopf) {
 
 } // namespace
 
-TEST_F(QtTexteTest, The_buttons_of_message_boxes_are_German) {
+TEST(QtTexte, The_buttons_of_message_boxes_are_German) {
     LadeQtTexte(Deutsch);
     EXPECT_EQ(BeschriftungVon(QMessageBox::Yes), "&Ja");
     EXPECT_EQ(BeschriftungVon(QMessageBox::No), "&Nein");
     EXPECT_EQ(BeschriftungVon(QMessageBox::Cancel), "Abbrechen");
 }
 
-TEST_F(QtTexteTest, The_buttons_of_message_boxes_are_English) {
+TEST(QtTexte, The_buttons_of_message_boxes_are_English) {
     LadeQtTexte(Deutsch);
     LadeQtTexte(Englisch);
     EXPECT_EQ(BeschriftungVon(QMessageBox::Yes), "&Yes");
@@ -40,7 +35,7 @@ TEST_F(QtTexteTest, The_buttons_of_message_boxes_are_English) {
     EXPECT_EQ(BeschriftungVon(QMessageBox::Cancel), "Cancel");
 }
 
-TEST_F(QtTexteTest, An_open_box_follows_the_language) {
+TEST(QtTexte, An_open_box_follows_the_language) {
     LadeQtTexte(Englisch);
     QDialogButtonBox knoepfe(QDialogButtonBox::Cancel);
     LadeQtTexte(Deutsch);
@@ -48,12 +43,12 @@ TEST_F(QtTexteTest, An_open_box_follows_the_language) {
     EXPECT_EQ(knoepfe.button(QDialogButtonBox::Cancel)->text().toStdString(), "Abbrechen");
 }
 
-TEST_F(QtTexteTest, Any_other_offset_counts_as_German) {
+TEST(QtTexte, Any_other_offset_counts_as_German) {
     LadeQtTexte(7);
     EXPECT_EQ(BeschriftungVon(QMessageBox::Yes), "&Ja");
 }
 
-TEST_F(QtTexteTest, Choosing_German_twice_and_English_once_ends_in_English) {
+TEST(QtTexte, Choosing_German_twice_and_English_once_ends_in_English) {
     LadeQtTexte(Deutsch);
     LadeQtTexte(Deutsch);
     LadeQtTexte(Englisch);

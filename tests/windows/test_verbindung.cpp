@@ -1,7 +1,6 @@
 #include "verbindung.h"
 
 #include "ansichtstitel.h"
-#include "crc.h"
 #include "polling.h"
 #include "pruefgeraet.h"
 #include "registerabbild.h"
@@ -64,20 +63,6 @@ struct PruefVerbindungsziel : Verbindungsziel {
 
 class VerbindungTest : public testing::Test {
 protected:
-    VerbindungTest() {
-        CrcTabelleAufbauen();
-        modDaten::Zuruecksetzen();
-        modPolling::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        modHilfsFunktionen::Zuruecksetzen();
-    }
-    ~VerbindungTest() override {
-        modSchnittstelle::Zuruecksetzen();
-        modPolling::Zuruecksetzen();
-        modDaten::Zuruecksetzen();
-        modHilfsFunktionen::Zuruecksetzen();
-    }
-
     pruefung::PruefUmgebung umgebung;
     pruefung::PruefPort port{umgebung};
     PruefVerbindungsziel ziel;

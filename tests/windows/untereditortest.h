@@ -2,8 +2,6 @@
 
 #include "fenstertest.h"
 #include "pruefumgebung.h"
-#include "registerabbild.h"
-#include "texte.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -19,9 +17,6 @@ namespace varnoth::pruefung {
 /// Setting of the tests of dialogs that edit the image: an image of zeros, German texts, settings in memory.
 class UntereditorTest : public testing::Test {
 protected:
-    UntereditorTest() { AllesAufAnfang(); }
-    ~UntereditorTest() override { AllesAufAnfang(); }
-
     template<class Element>
     static Element& Kind(QDialog& dialog, const char* name) {
         auto* const element = dialog.findChild<Element*>(QString::fromUtf8(name));
@@ -44,12 +39,6 @@ protected:
 
     PruefUmgebung umgebung;
     PruefEinstellungen einstellungen;
-
-private:
-    static void AllesAufAnfang() {
-        modDaten::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-    }
 };
 
 } // namespace varnoth::pruefung

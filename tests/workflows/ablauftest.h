@@ -1,11 +1,8 @@
 #pragma once
 
-#include "crc.h"
 #include "pruefgeraet.h"
-#include "registerabbild.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
-#include "texte.h"
 #include "transaktionen.h"
 
 #include <gtest/gtest.h>
@@ -17,20 +14,9 @@ namespace varnoth::pruefung {
 class AblaufTest : public testing::Test {
 protected:
     AblaufTest() {
-        CrcTabelleAufbauen();
-        SetzeSprachoffset(Deutsch);
-        modDaten::Zuruecksetzen();
-        modDaten::LeereAbbild();
-        modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::OpenCommPort();
         modModbus::RTUModeH11IndentifikationsAnforderung();
         port.gesendet.clear();
-    }
-    ~AblaufTest() override {
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        modDaten::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
     }
 
     int AnzahlAnforderungen() const { return static_cast<int>(port.gesendet.size()); }

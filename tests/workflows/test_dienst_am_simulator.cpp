@@ -1,6 +1,5 @@
 // The service procedures against the simulated controller.
 
-#include "crc.h"
 #include "einzelwert.h"
 #include "hardwarereset.h"
 #include "initialisierungsmitschrift.h"
@@ -34,17 +33,10 @@ struct Resetmitschrift : Resetanzeige {
 class DienstAmSimulator : public testing::Test {
 protected:
     DienstAmSimulator() {
-        CrcTabelleAufbauen();
         port.antworte = [this](const std::string& anforderung) { return Frage(anforderung); };
-        modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::OpenCommPort();
         modModbus::RTUModeH11IndentifikationsAnforderung();
         modService::SetzeServiceText(simulator::Aufbau{}.passwort);
-    }
-    ~DienstAmSimulator() override {
-        modService::Zuruecksetzen();
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
     }
 
     static simulator::Aufbau Ungetaktet() {
@@ -115,8 +107,8 @@ TEST_F(DienstAmSimulator, A_restart_is_confirmed_and_forgets_what_was_not_stored
 }
 
 TEST_F(DienstAmSimulator, A_register_of_each_range_and_part_is_written_and_read_back) {
-    const std::pair<int, const char*> register_[] = {{0, "193"}, {1, "13"}, {2, "8"}};
-    for (const auto& [bereich, adresse] : register_)
+    const std::pair<int, const char*> gelesene[] = {{0, "193"}, {1, "13"}, {2, "8"}};
+    for (const auto& [bereich, adresse] : gelesene)
         for (int teil = 0; teil < AnzahlOptikteile; ++teil)
             EXPECT_EQ(SchreibeEinzelwert({teil, BereichsOffset(bereich), adresse}, std::to_string(teil + 1)),
                       "OK");

@@ -1,6 +1,7 @@
 #include "einzelwert.h"
 
 #include "ablauftest.h"
+#include "registerabbild.h"
 
 namespace varnoth {
 

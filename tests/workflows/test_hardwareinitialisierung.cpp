@@ -3,6 +3,7 @@
 #include "ablauftest.h"
 #include "initialisierungsmitschrift.h"
 #include "servicetext.h"
+#include "texte.h"
 
 #include <algorithm>
 
@@ -86,7 +87,6 @@ TEST(PackeHardwareversion, Takes_the_number_a_text_begins_with) {
 class HardwareinitialisierungTest : public pruefung::AblaufTest {
 protected:
     HardwareinitialisierungTest() { modService::SetzeServiceText(Passwort); }
-    ~HardwareinitialisierungTest() override { modService::Zuruecksetzen(); }
 
     std::vector<int> Adressen() const {
         std::vector<int> adressen;

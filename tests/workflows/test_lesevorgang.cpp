@@ -1,6 +1,8 @@
 #include "lesevorgang.h"
 
 #include "ablauftest.h"
+#include "registerabbild.h"
+#include "texte.h"
 #include "transfermitschrift.h"
 
 namespace varnoth {

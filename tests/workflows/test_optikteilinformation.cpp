@@ -1,6 +1,8 @@
 #include "optikteilinformation.h"
 
 #include "ablauftest.h"
+#include "registerabbild.h"
+#include "texte.h"
 
 namespace varnoth {
 

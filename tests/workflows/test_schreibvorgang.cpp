@@ -1,6 +1,8 @@
 #include "schreibvorgang.h"
 
 #include "ablauftest.h"
+#include "registerabbild.h"
+#include "texte.h"
 #include "transfermitschrift.h"
 
 #include <algorithm>

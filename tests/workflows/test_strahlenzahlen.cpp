@@ -10,15 +10,6 @@ namespace varnoth {
 
 class StrahlenzahlenTest : public testing::Test {
 protected:
-    StrahlenzahlenTest() {
-        modDaten::Zuruecksetzen();
-        modDaten::LeereAbbild();
-    }
-    ~StrahlenzahlenTest() override {
-        modDaten::Zuruecksetzen();
-        modDaten::LeereAbbild();
-    }
-
     static Strahlenzahlen ImAbbild() {
         Strahlenzahlen zahlen{};
         for (int teil = 0; teil < AnzahlOptikteile; ++teil)
