@@ -15,6 +15,7 @@
 namespace {
 
 using namespace varnoth::bench;
+using varnoth::pruefung::Simulatorprozess;
 
 /// The monitor as a process of its own in a folder of its own.
 class Monitorprozess {

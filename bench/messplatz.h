@@ -8,6 +8,8 @@
 
 namespace varnoth::bench {
 
+using pruefung::Simulatorprozess;
+
 /// The whole program beside a simulated controller on a pseudo terminal, with settings of its own.
 class Messplatz {
 public:

@@ -145,7 +145,6 @@ void PruefeGuteAntwort(Auftrag auftrag, std::string_view inhalt) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
-    CrcTabelleAufbauen();
     constexpr std::size_t hoechstens = 600;
     std::string_view bytes = AlsText(daten, std::min(laenge, hoechstens));
     Auftrag auftrag{.art = static_cast<std::uint8_t>(NimmByte(bytes) % AnzahlArten)};
