@@ -34,7 +34,8 @@ double Anteil(double wert, double von, double bis) {
 /// The panel of one series.
 class Feld {
 public:
-    Feld(const Messreihe& die, double links) : reihe(die), flaeche(QPointF(links, RandOben), Feldgroesse) {}
+    Feld(const Messreihe& messreihe, double links)
+        : reihe(messreihe), flaeche(QPointF(links, RandOben), Feldgroesse) {}
 
     QString Zeichne() const {
         QString svg = Rahmen() + Kostenlinien() + Groessenlinien() + Vergleichslinie();

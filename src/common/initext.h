@@ -14,7 +14,7 @@ namespace varnoth {
 class Initext {
 public:
     Initext() = default;
-    explicit Initext(std::string der) : text(std::move(der)) {}
+    explicit Initext(std::string inhalt) : text(std::move(inhalt)) {}
 
     /// The value of a key; nothing when it is not there.
     std::optional<std::string> Lies(std::string_view abschnitt, std::string_view schluessel) const;

@@ -36,8 +36,7 @@ void OeffneReihenfolge(QWidget* eltern) {
 } // namespace
 
 frmKonfigurationEdit::frmKonfigurationEdit(QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::frmKonfigurationEdit>()),
-      untereditoren{OeffneBlankingmuster, OeffneReihenfolge} {
+    : QDialog(parent), ui(std::make_unique<Ui::frmKonfigurationEdit>()) {
     ui->setupUi(this);
     optikseiten = {ui->picOptions_1, ui->picOptions_2, ui->picOptions_3, ui->picOptions_4};
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
@@ -56,17 +55,17 @@ void frmKonfigurationEdit::VerbindeKnoepfe() {
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     for (Optikseite* const seite : optikseiten)
         connect(seite, &Optikseite::BlankingmusterVerlangt, this,
-                [this](int teil) { untereditoren.blankingmuster(this, teil); });
+                [this](int teil) { OeffneBlankingmuster(this, teil); });
     connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this,
-            [this] { untereditoren.reihenfolge(this); });
+            [this] { OeffneReihenfolge(this); });
     connect(ui->picOptions_5, &Kommunikationsseite::AutosendStartbar, this, [this](bool startbar) {
         if (umfeld.autosendStartbar)
             umfeld.autosendStartbar(startbar);
     });
 }
 
-void frmKonfigurationEdit::InitKonfiguration(Editorumfeld das) {
-    umfeld = std::move(das);
+void frmKonfigurationEdit::InitKonfiguration(Editorumfeld neues) {
+    umfeld = std::move(neues);
     EntferneFehlendeTeile();
     if (umfeld.zeigeUebertrageneWerte) {
         for (Optikseite* const seite : optikseiten)

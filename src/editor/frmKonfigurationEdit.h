@@ -17,12 +17,6 @@ class frmKonfigurationEdit;
 
 class Optikseite;
 
-/// The two editors that the configuration editor opens; they show the image and write into it themselves.
-struct Untereditoren {
-    std::function<void(QWidget* eltern, int optikteil)> blankingmuster;
-    std::function<void(QWidget* eltern)> reihenfolge;
-};
-
 /// What the main window has to do with the editor.
 struct Editorumfeld {
     bool zeigeUebertrageneWerte = false; ///< labels beside the lists show the values that selections send
@@ -38,10 +32,8 @@ public:
     explicit frmKonfigurationEdit(QWidget* parent = nullptr);
     ~frmKonfigurationEdit() override;
 
-    /// Opens others in place of its own two; both must be given.
-    void SetzeUntereditoren(Untereditoren die) { untereditoren = std::move(die); }
     /// Shows the image; call it once, before the dialog is shown.
-    void InitKonfiguration(Editorumfeld das);
+    void InitKonfiguration(Editorumfeld neues);
     /// True when the user asked to send the configuration to the controller.
     Boolean GetButtonDownLoad() const { return DownloadAngefordert; }
 
@@ -63,7 +55,6 @@ private:
 
     std::unique_ptr<Ui::frmKonfigurationEdit> ui;
     std::array<Optikseite*, 4> optikseiten;
-    Untereditoren untereditoren;
     Editorumfeld umfeld;
     Boolean DownloadAngefordert = False;
     bool angestossen = false;

@@ -1,6 +1,6 @@
 #include "listenbindung.h"
 
-#include "zahlentext.h"
+#include "gebietszahl.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -21,7 +21,7 @@ QStringList AlsListe(const std::vector<std::string>& texte) {
 } // namespace
 
 void ZeigeListe(QComboBox& box, const Auswahlliste& liste, std::int32_t zyklus, std::int32_t registerwert) {
-    const auto format = [](double zahl) { return Zahlentext(zahl); };
+    const auto format = [](double zahl) { return Gebietszahl(zahl); };
     box.clear();
     box.addItems(AlsListe(Postentexte(liste, zyklus, format)));
     box.setCurrentIndex(AuswahlFuer(liste, registerwert));

@@ -87,13 +87,13 @@ void frmHilfe::VerbindeTasten() {
         connect(new QShortcut(taste, this), &QShortcut::activated, this, tat);
 }
 
-void frmHilfe::NimmDatei(const Hilfedatei& die) {
-    datei = &die;
+void frmHilfe::NimmDatei(const Hilfedatei& neue) {
+    datei = &neue;
     LokalisiereForm(*this);
     ui->txtSuchen->clear();
-    ui->brwSeite->document()->setDefaultStyleSheet(die.Stil());
+    ui->brwSeite->document()->setDefaultStyleSheet(neue.Stil());
     FuelleInhalt();
-    ZeigeSeite(die.Inhalt().constFirst().name);
+    ZeigeSeite(neue.Inhalt().constFirst().name);
     ui->brwSeite->clearHistory();
     ui->brwSeite->setFocus();
 }

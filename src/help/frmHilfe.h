@@ -27,7 +27,7 @@ public:
 
     /// Shows another help file from its first page, with the window's own texts in the current language. The
     /// file must live until the next one is shown or the window goes.
-    void NimmDatei(const Hilfedatei& die);
+    void NimmDatei(const Hilfedatei& neue);
     /// Shows a page, at a place of it or from its top.
     void ZeigeSeite(const QString& seite, const QString& anker = {});
     /// Name of the page that is shown.

@@ -19,7 +19,7 @@ constexpr std::int16_t TextNichtGefunden = 1715;
 
 } // namespace
 
-Hilfe::Hilfe(std::function<QString()> die) : dateipfad(std::move(die)) {}
+Hilfe::Hilfe(std::function<QString()> pfadquelle) : dateipfad(std::move(pfadquelle)) {}
 
 Hilfe::~Hilfe() = default;
 

@@ -18,7 +18,7 @@ class frmHilfe;
 class Hilfe {
 public:
     /// @param die gives the path of the help file whenever help is asked for
-    explicit Hilfe(std::function<QString()> die);
+    explicit Hilfe(std::function<QString()> pfadquelle);
     ~Hilfe();
 
     /// Shows the contents and the first page. When the file cannot be read, a warning box names it and waits.

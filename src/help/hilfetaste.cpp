@@ -21,7 +21,7 @@ void SchliesseAufgeklapptes() {
 
 } // namespace
 
-Hilfetaste::Hilfetaste(std::function<void(QWidget*)> die) : zeige(std::move(die)) {
+Hilfetaste::Hilfetaste(std::function<void(QWidget*)> zeigeZu) : zeige(std::move(zeigeZu)) {
     QApplication::instance()->installEventFilter(this);
 }
 

@@ -13,7 +13,7 @@ class Hilfetaste : public QObject {
 public:
     /// @param die called with the control that help is asked for (nullptr: none is in front). It runs in the
     ///            middle of whatever waits for events and must not wait itself.
-    explicit Hilfetaste(std::function<void(QWidget* stelle)> die);
+    explicit Hilfetaste(std::function<void(QWidget* stelle)> zeigeZu);
 
 protected:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;

@@ -38,7 +38,7 @@ struct Abbild::Block {
             block.anzahl = 0;
         return block;
     }
-    static Block Strahlregister(std::int16_t anzahl, int optikteil) {
+    static Block Strahlblock(std::int16_t anzahl, int optikteil) {
         constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
         const bool gueltig = GibtEs(Spezifisch, optikteil) && anzahl >= 1 && anzahl <= MaxStrahlregister;
         return {Spezifisch, spezifisch::Strahlzustaende, gueltig ? anzahl : std::int16_t{0}, optikteil};
@@ -83,11 +83,11 @@ bool Abbild::SetzeRegister(Speicherbereich bereich, std::int16_t adresse, std::i
 }
 
 Werte Abbild::HoleStrahlzustaende(std::int16_t anzahl, int optikteil) const {
-    return Hole(Block::Strahlregister(anzahl, optikteil));
+    return Hole(Block::Strahlblock(anzahl, optikteil));
 }
 
 bool Abbild::SetzeStrahlzustaende(std::int16_t anzahl, int optikteil, const Werte& werte) {
-    return Setze(Block::Strahlregister(anzahl, optikteil), werte);
+    return Setze(Block::Strahlblock(anzahl, optikteil), werte);
 }
 
 std::span<const std::int32_t> Abbild::Bereich(Speicherbereich bereich) const {

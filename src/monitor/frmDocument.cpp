@@ -28,7 +28,7 @@ QString AlsText(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-std::int16_t Strahlregister(int strahlen) {
+std::int16_t GezeigteStrahlregister(int strahlen) {
     const int anzahl = (strahlen + StrahlenJeRegister - 1) / StrahlenJeRegister;
     return static_cast<std::int16_t>(std::min<int>(anzahl, MaxStrahlregister));
 }
@@ -134,7 +134,7 @@ void frmDocument::NeuerDatensatz() {
 }
 
 void frmDocument::StrahlzustaendeLiegenVor() {
-    const std::int16_t anzahl = Strahlregister(ui->BeamBar1->Strahlanzahl());
+    const std::int16_t anzahl = GezeigteStrahlregister(ui->BeamBar1->Strahlanzahl());
     if (anzahl > 0)
         modDaten::HoleStrahlzustaende(anzahl, optikteil, strahlen);
 }

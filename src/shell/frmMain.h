@@ -71,7 +71,7 @@ public:
     /// Shows the two menu items of the service mode.
     void ZeigeServicemenue();
     /// Sets what shows the help topics.
-    void SetzeHilfe(std::function<void()> die) { hilfe = std::move(die); }
+    void SetzeHilfe(std::function<void()> neue) { hilfe = std::move(neue); }
     /// Uses serial port 1..4 for this run, whatever the settings say.
     void NimmComPort(int nummer);
     /// Writes into panel 1..3 of the status bar.

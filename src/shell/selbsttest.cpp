@@ -71,7 +71,8 @@ void BerichteMesswerte(QTextStream& aus, int optikteil) {
 
 } // namespace
 
-Selbsttest::Selbsttest(Fensterumgebung& die, const QString& ordner) : umgebung(die), bildordner(ordner) {
+Selbsttest::Selbsttest(Fensterumgebung& fensterumgebung, const QString& ordner)
+    : umgebung(fensterumgebung), bildordner(ordner) {
     umgebung.SetzeMeldungsweg([this](const Meldung& meldung) {
         Scheitere(Text(meldung.text));
         return meldung.knoepfe == Knoepfe::Ok ? Antwort::Ok : Antwort::Abbrechen;

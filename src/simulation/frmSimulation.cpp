@@ -4,12 +4,12 @@
 
 #include "eingabe.h"
 #include "formeln.h"
+#include "gebietszahl.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "strahlfarben.h"
 #include "texte.h"
-#include "zahlentext.h"
 #include "zykluszeiten.h"
 
 #include <algorithm>
@@ -70,8 +70,8 @@ std::int32_t Baudrate() {
 
 } // namespace
 
-frmSimulation::frmSimulation(QWidget* parent, const QLocale& gebiet_)
-    : QDialog(parent), ui(std::make_unique<Ui::frmSimulation>()), gebiet(gebiet_) {
+frmSimulation::frmSimulation(QWidget* parent, const QLocale& zahlengebiet)
+    : QDialog(parent), ui(std::make_unique<Ui::frmSimulation>()), gebiet(zahlengebiet) {
     ui->setupUi(this);
     LokalisiereForm(*this);
     ui->Bild->SetzeGebiet(gebiet);
@@ -190,7 +190,7 @@ std::optional<double> frmSimulation::Eingabe(QLineEdit& feld) const {
 }
 
 void frmSimulation::ZeigeZahl(QLabel& feld, std::optional<double> zahl) const {
-    const QString text = zahl ? QString::fromStdString(Zahlentext(*zahl, gebiet)) : QString();
+    const QString text = zahl ? QString::fromStdString(Gebietszahl(*zahl, gebiet)) : QString();
     if (feld.text() != text)
         feld.setText(text);
 }

@@ -20,7 +20,6 @@ public:
 
     /// Shows another diagram; drawn once, however often it is called before.
     void Zeige(const Diagramm& neues);
-    const Diagramm& Gezeigtes() const { return diagramm; }
 
     /// Where a size and a speed lie in the widget.
     QPointF Stelle(const Diagrammpunkt& punkt) const;

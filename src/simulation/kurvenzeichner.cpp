@@ -1,7 +1,7 @@
 #include "kurvenzeichner.h"
 
+#include "gebietszahl.h"
 #include "texte.h"
-#include "zahlentext.h"
 
 #include <QPainter>
 
@@ -36,7 +36,7 @@ QString Kurvenname(Kurvenart art) {
 }
 
 QString Zahl(double zahl, const QLocale& gebiet) {
-    return QString::fromStdString(Zahlentext(zahl, gebiet));
+    return QString::fromStdString(Gebietszahl(zahl, gebiet));
 }
 
 double Breiteste(const std::vector<double>& zahlen, const QFontMetricsF& masse, const QLocale& gebiet) {
@@ -88,9 +88,9 @@ double Legendenbreite(const QFontMetricsF& masse) {
     return eintrag(Kurvenart::Objekt) + Eintragsabstand + eintrag(Kurvenart::Loch);
 }
 
-Kurvenzeichner::Kurvenzeichner(QPainter& maler_, const Diagramm& diagramm_, const Kurvenfeld& feld_,
-                               const Kurvenfarben& farben_, const QLocale& gebiet_)
-    : maler(maler_), diagramm(diagramm_), feld(feld_), farben(farben_), gebiet(gebiet_),
+Kurvenzeichner::Kurvenzeichner(QPainter& flaeche, const Diagramm& gezeigtes, const Kurvenfeld& kurvenfeld,
+                               const Kurvenfarben& kurvenfarben, const QLocale& zahlengebiet)
+    : maler(flaeche), diagramm(gezeigtes), feld(kurvenfeld), farben(kurvenfarben), gebiet(zahlengebiet),
       dichte(maler.device()->devicePixelRatioF()), masse(maler.font(), maler.device()) {}
 
 double Kurvenzeichner::Gerastet(double stelle) const {

@@ -57,10 +57,10 @@ timespec AlsTimespec(std::chrono::nanoseconds dauer) {
 } // namespace
 
 Ablauf::Ablauf(Optionen optionen)
-    : schlafmaske_(RichteSignaleEin()), simulator_(MitProtokoll(optionen)), pty_(optionen.verknuepfung),
-      kanal_(optionen.steuerkanal) {
+    : schlafmaske(RichteSignaleEin()), simulator(MitProtokoll(optionen)), pty(optionen.verknuepfung),
+      kanal(optionen.steuerkanal) {
     WeckePuenktlich();
-    pty_.Stecke();
+    pty.Stecke();
 }
 
 Aufbau Ablauf::MitProtokoll(const Optionen& optionen) {
@@ -68,71 +68,71 @@ Aufbau Ablauf::MitProtokoll(const Optionen& optionen) {
     if (optionen.protokoll == "-") {
         aufbau.protokoll = [](std::string_view zeile) { std::cout << zeile << std::endl; };
     } else if (!optionen.protokoll.empty()) {
-        protokoll_ = OeffneZumSchreiben(optionen.protokoll);
-        if (protokoll_.Nummer() < 0)
+        protokoll = OeffneZumSchreiben(optionen.protokoll);
+        if (protokoll.Nummer() < 0)
             throw std::runtime_error("--log " + optionen.protokoll + ": " + std::strerror(errno));
         aufbau.protokoll = [this](std::string_view zeile) {
-            SchreibeAlles(protokoll_, std::string(zeile) + '\n');
+            SchreibeAlles(protokoll, std::string(zeile) + '\n');
         };
     }
     return aufbau;
 }
 
 Zeit Ablauf::Jetzt() const {
-    return std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now() - anfang_);
+    return std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now() - anfang);
 }
 
 void Ablauf::Laufe() {
     std::vector<pollfd> liste;
     while (sollEnden == 0) {
-        liste.assign(1, {pty_.Deskriptor(), POLLIN, 0});
-        kanal_.Beobachte(liste);
+        liste.assign(1, {pty.Deskriptor(), POLLIN, 0});
+        kanal.Beobachte(liste);
         Schlafe(liste);
         LiesAnfragen(liste);
         SendeFaelliges();
-        kanal_.Bediene(liste, [this](std::string_view zeile) { return FuehreAus(zeile); });
+        kanal.Bediene(liste, [this](std::string_view zeile) { return FuehreAus(zeile); });
     }
 }
 
 /// Sleeps a little shorter by what waking took lately, and does not sleep at all that shortly before bytes
 /// are due: a wire is not late.
 void Ablauf::Schlafe(std::vector<pollfd>& liste) {
-    const auto faellig = simulator_.NaechsteFaelligkeit();
-    const Zeit weckzeit = faellig.value_or(Zeit{0}) - weckdauer_;
+    const auto faellig = simulator.NaechsteFaelligkeit();
+    const Zeit weckzeit = faellig.value_or(Zeit{0}) - weckdauer;
     const timespec frist = AlsTimespec(std::max(weckzeit - Jetzt(), Zeit{0}));
-    const int bereit = ::ppoll(liste.data(), liste.size(), faellig ? &frist : nullptr, &schlafmaske_);
+    const int bereit = ::ppoll(liste.data(), liste.size(), faellig ? &frist : nullptr, &schlafmaske);
     if (bereit < 0)
         for (pollfd& eines : liste)
             eines.revents = 0;
     if (bereit == 0 && frist.tv_nsec > 0)
-        weckdauer_ += (std::min(Jetzt() - weckzeit, LaengsteWeckdauer) - weckdauer_) / Weckgedaechtnis;
+        weckdauer += (std::min(Jetzt() - weckzeit, LaengsteWeckdauer) - weckdauer) / Weckgedaechtnis;
 }
 
 void Ablauf::LiesAnfragen(const std::vector<pollfd>& liste) {
     if ((liste.front().revents & POLLIN) == 0)
         return;
     const Zeit jetzt = Jetzt();
-    simulator_.Empfange(pty_.Lies(), jetzt);
+    simulator.Empfange(pty.Lies(), jetzt);
 }
 
 void Ablauf::SendeFaelliges() {
-    const auto faellig = simulator_.NaechsteFaelligkeit();
+    const auto faellig = simulator.NaechsteFaelligkeit();
     const Zeit jetzt = Jetzt();
     if (faellig && *faellig <= jetzt)
-        pty_.Schreibe(simulator_.Entnimm(jetzt));
+        pty.Schreibe(simulator.Entnimm(jetzt));
 }
 
 std::string Ablauf::FuehreAus(std::string_view zeile) {
     if (zeile == "unplug") {
-        pty_.Ziehe();
-        simulator_.TrenneLeitung();
+        pty.Ziehe();
+        simulator.TrenneLeitung();
         return "ok";
     }
     if (zeile != "plug")
-        return simulator_.Befehl(zeile, Jetzt());
+        return simulator.Befehl(zeile, Jetzt());
     try {
-        pty_.Stecke();
-        return "ok " + pty_.Geraet();
+        pty.Stecke();
+        return "ok " + pty.Geraet();
     } catch (const std::runtime_error& fehler) {
         return std::string("error ") + fehler.what();
     }

@@ -18,7 +18,7 @@ public:
     explicit Ablauf(Optionen optionen);
 
     /// The path of the terminal that is served.
-    const std::string& Geraet() const { return pty_.Geraet(); }
+    const std::string& Geraet() const { return pty.Geraet(); }
     /// Runs until the program is asked to end.
     void Laufe();
 
@@ -30,13 +30,13 @@ private:
     std::string FuehreAus(std::string_view zeile);
     Aufbau MitProtokoll(const Optionen& optionen);
 
-    std::chrono::steady_clock::time_point anfang_ = std::chrono::steady_clock::now();
-    sigset_t schlafmaske_{};
-    Dateideskriptor protokoll_;
-    Simulator simulator_;
-    Ptyserver pty_;
-    Steuerkanal kanal_;
-    Zeit weckdauer_{0};
+    std::chrono::steady_clock::time_point anfang = std::chrono::steady_clock::now();
+    sigset_t schlafmaske{};
+    Dateideskriptor protokoll;
+    Simulator simulator;
+    Ptyserver pty;
+    Steuerkanal kanal;
+    Zeit weckdauer{0};
 };
 
 } // namespace varnoth::simulator

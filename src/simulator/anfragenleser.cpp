@@ -13,15 +13,15 @@ constexpr std::size_t SchreibrahmenOhneDaten = 9;
 } // namespace
 
 std::optional<std::size_t> Anfragenleser::Laenge() const {
-    switch (zeichen_[FunktionsStelle]) {
+    switch (zeichen[FunktionsStelle]) {
     case 0x03:
         return 8;
     case 0x09:
     case 0x11:
         return 4;
     case 0x10:
-        if (zeichen_.size() > ByteanzahlStelle)
-            return SchreibrahmenOhneDaten + zeichen_[ByteanzahlStelle];
+        if (zeichen.size() > ByteanzahlStelle)
+            return SchreibrahmenOhneDaten + zeichen[ByteanzahlStelle];
         return LaengsterRahmen + 1;
     default:
         return std::nullopt;
@@ -29,29 +29,29 @@ std::optional<std::size_t> Anfragenleser::Laenge() const {
 }
 
 bool Anfragenleser::IstZuEnde() const {
-    if (zeichen_.size() < KuerzesterRahmen)
+    if (zeichen.size() < KuerzesterRahmen)
         return false;
     const auto laenge = Laenge();
     if (laenge)
-        return zeichen_.size() >= *laenge;
-    return crc_ == 0 || zeichen_.size() >= LaengsterRahmen;
+        return zeichen.size() >= *laenge;
+    return crc == 0 || zeichen.size() >= LaengsterRahmen;
 }
 
-Anfragenleser::Ergebnis Anfragenleser::Nimm(std::uint8_t zeichen) {
-    if (std::exchange(fertig_, false)) {
-        zeichen_.clear();
-        crc_ = CrcStart;
+Anfragenleser::Ergebnis Anfragenleser::Nimm(std::uint8_t neues) {
+    if (std::exchange(fertig, false)) {
+        zeichen.clear();
+        crc = CrcStart;
     }
-    zeichen_.push_back(zeichen);
-    crc_ = CrcWeiter(crc_, zeichen);
-    fertig_ = IstZuEnde();
-    if (!fertig_)
+    zeichen.push_back(neues);
+    crc = CrcWeiter(crc, neues);
+    fertig = IstZuEnde();
+    if (!fertig)
         return Ergebnis::Weiter;
-    return crc_ == 0 ? Ergebnis::Ganz : Ergebnis::Gebrochen;
+    return crc == 0 ? Ergebnis::Ganz : Ergebnis::Gebrochen;
 }
 
 bool Anfragenleser::Verwirf() {
-    return !std::exchange(fertig_, true);
+    return !std::exchange(fertig, true);
 }
 
 } // namespace varnoth::simulator

@@ -13,9 +13,9 @@ public:
     enum class Ergebnis { Weiter, Ganz, Gebrochen };
 
     /// Takes one byte. Ganz: the whole request is in Rahmen(); Gebrochen: it was dropped for its checksum.
-    Ergebnis Nimm(std::uint8_t zeichen);
+    Ergebnis Nimm(std::uint8_t neues);
     /// The request that became whole with the last byte, with its checksum.
-    std::span<const std::uint8_t> Rahmen() const { return zeichen_; }
+    std::span<const std::uint8_t> Rahmen() const { return zeichen; }
     /// Drops a request that was begun: the wire has been quiet for too long. True when there was one.
     bool Verwirf();
 
@@ -23,9 +23,9 @@ private:
     std::optional<std::size_t> Laenge() const;
     bool IstZuEnde() const;
 
-    Bytes zeichen_;
-    std::uint16_t crc_ = CrcStart;
-    bool fertig_ = true;
+    Bytes zeichen;
+    std::uint16_t crc = CrcStart;
+    bool fertig = true;
 };
 
 } // namespace varnoth::simulator

@@ -1,7 +1,7 @@
 #include "befehle.h"
 
 #include "registername.h"
-#include "zahltext.h"
+#include "wortleser.h"
 
 #include <algorithm>
 #include <stdexcept>

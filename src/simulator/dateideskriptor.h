@@ -10,22 +10,22 @@ namespace varnoth::simulator {
 class Dateideskriptor {
 public:
     Dateideskriptor() = default;
-    explicit Dateideskriptor(int nummer) : nummer_(nummer) {}
-    Dateideskriptor(Dateideskriptor&& anderer) noexcept : nummer_(std::exchange(anderer.nummer_, -1)) {}
+    explicit Dateideskriptor(int offener) : nummer(offener) {}
+    Dateideskriptor(Dateideskriptor&& anderer) noexcept : nummer(std::exchange(anderer.nummer, -1)) {}
     Dateideskriptor& operator=(Dateideskriptor&& anderer) noexcept {
-        std::swap(nummer_, anderer.nummer_);
+        std::swap(nummer, anderer.nummer);
         return *this;
     }
     ~Dateideskriptor() { Schliesse(); }
 
-    int Nummer() const { return nummer_; }
+    int Nummer() const { return nummer; }
     void Schliesse() {
-        if (nummer_ >= 0)
-            ::close(std::exchange(nummer_, -1));
+        if (nummer >= 0)
+            ::close(std::exchange(nummer, -1));
     }
 
 private:
-    int nummer_ = -1;
+    int nummer = -1;
 };
 
 } // namespace varnoth::simulator

@@ -2,7 +2,7 @@
 
 #include "eigenedatei.h"
 #include "registername.h"
-#include "zahltext.h"
+#include "wortleser.h"
 
 #include <sstream>
 #include <stdexcept>
@@ -53,33 +53,33 @@ void LiesZeile(Registerspeicher& speicher, std::string_view zeile) {
 
 } // namespace
 
-Dauerspeicher::Dauerspeicher(const Registerspeicher& anfang, std::filesystem::path datei)
-    : inhalt_(anfang), datei_(std::move(datei)) {
-    if (IstVerweis(datei_))
-        throw std::runtime_error(datei_.string() + " is a symbolic link: choose another path");
-    if (!datei_.empty() && std::filesystem::exists(datei_))
+Dauerspeicher::Dauerspeicher(const Registerspeicher& anfang, std::filesystem::path ablage)
+    : inhalt(anfang), datei(std::move(ablage)) {
+    if (IstVerweis(datei))
+        throw std::runtime_error(datei.string() + " is a symbolic link: choose another path");
+    if (!datei.empty() && std::filesystem::exists(datei))
         Lies();
 }
 
 bool Dauerspeicher::Behalte(const Registerspeicher& speicher, Art art) {
-    Uebernimm(inhalt_, speicher, art);
+    Uebernimm(inhalt, speicher, art);
     if (art == Art::Konfiguration)
         for (int teil = 0; teil < Optikteile; ++teil)
-            inhalt_.Spezifisch(teil, reg::Strahlenzahl) = speicher.Spezifisch(teil, reg::Strahlenzahl);
-    return datei_.empty() || Schreibe();
+            inhalt.Spezifisch(teil, reg::Strahlenzahl) = speicher.Spezifisch(teil, reg::Strahlenzahl);
+    return datei.empty() || Schreibe();
 }
 
 void Dauerspeicher::Lies() {
-    std::string inhalt, zeile;
-    const bool gelesen = LiesAlles(datei_, inhalt);
-    std::istringstream strom(inhalt);
+    std::string text, zeile;
+    const bool gelesen = LiesAlles(datei, text);
+    std::istringstream strom(text);
     if (!gelesen || !std::getline(strom, zeile) || zeile != Kopf)
-        throw std::runtime_error(datei_.string() + " is not a store of this program, or cannot be read");
+        throw std::runtime_error(datei.string() + " is not a store of this program, or cannot be read");
     for (int nummer = 2; std::getline(strom, zeile); ++nummer)
         try {
-            LiesZeile(inhalt_, zeile);
+            LiesZeile(inhalt, zeile);
         } catch (const std::invalid_argument& fehler) {
-            throw std::runtime_error(datei_.string() + ", line " + std::to_string(nummer) + ": " +
+            throw std::runtime_error(datei.string() + ", line " + std::to_string(nummer) + ": " +
                                      fehler.what());
         }
 }
@@ -88,15 +88,15 @@ void Dauerspeicher::Lies() {
 bool Dauerspeicher::Schreibe() const {
     std::ostringstream text;
     text << Kopf << '\n';
-    FuerJedesRegister(inhalt_, [&text](const Registername& name, std::uint16_t wert) {
+    FuerJedesRegister(inhalt, [&text](const Registername& name, std::uint16_t wert) {
         text << Text(name) << ' ' << wert << '\n';
     });
-    std::filesystem::path neu = datei_;
+    std::filesystem::path neu = datei;
     neu += ".new";
     std::error_code fehler;
-    if (IstVerweis(datei_) || !SchreibeNeu(neu, text.str()))
+    if (IstVerweis(datei) || !SchreibeNeu(neu, text.str()))
         return false;
-    std::filesystem::rename(neu, datei_, fehler);
+    std::filesystem::rename(neu, datei, fehler);
     return !fehler;
 }
 

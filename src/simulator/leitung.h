@@ -32,11 +32,11 @@ private:
     };
     void SendeStueck(const Bytes& zeichen);
 
-    int baud_;
-    std::size_t los_;
-    bool getaktet_;
-    std::chrono::nanoseconds sendeende_{std::chrono::nanoseconds::min()};
-    std::deque<Los> unterwegs_;
+    int baud;
+    std::size_t los;
+    bool getaktet;
+    std::chrono::nanoseconds sendeende{std::chrono::nanoseconds::min()};
+    std::deque<Los> unterwegs;
 };
 
 } // namespace varnoth::simulator

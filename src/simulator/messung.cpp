@@ -70,10 +70,10 @@ std::uint16_t Beurteile(const Strahlenbild& frei, const Strahlenbild& beteiligte
 
 void Extremwerte::Nimm(const Messwerte& werte) {
     for (std::size_t i = 0; i < werte.size(); ++i) {
-        kleinste_[i] = leer_ ? werte[i] : std::min(kleinste_[i], werte[i]);
-        groesste_[i] = leer_ ? werte[i] : std::max(groesste_[i], werte[i]);
+        kleinste[i] = leer ? werte[i] : std::min(kleinste[i], werte[i]);
+        groesste[i] = leer ? werte[i] : std::max(groesste[i], werte[i]);
     }
-    leer_ = false;
+    leer = false;
 }
 
 Strahlenbild LiesMuster(std::span<const std::uint16_t> werte) {

@@ -39,13 +39,13 @@ class Extremwerte {
 public:
     void Nimm(const Messwerte& werte);
     void Vergiss() { *this = {}; }
-    const Messwerte& Kleinste() const { return kleinste_; }
-    const Messwerte& Groesste() const { return groesste_; }
+    const Messwerte& Kleinste() const { return kleinste; }
+    const Messwerte& Groesste() const { return groesste; }
 
 private:
-    bool leer_ = true;
-    Messwerte kleinste_{};
-    Messwerte groesste_{};
+    bool leer = true;
+    Messwerte kleinste{};
+    Messwerte groesste{};
 };
 
 /// Reads a pattern of one bit a beam from registers: beams 0..7 of a register in its high byte.

@@ -30,7 +30,7 @@ void PruefeStrahlen(const std::array<int, Optikteile>& strahlen) {
         throw std::invalid_argument("beams: at least one part must have some");
 }
 
-Optik::Optik(const Aufbau& aufbau) : szene_(aufbau.startwert) {
+Optik::Optik(const Aufbau& aufbau) : szene(aufbau.startwert) {
     PruefeStrahlen(aufbau.strahlen);
     for (int teil = 0; teil < Optikteile; ++teil) {
         Teil(teil).anzahl = aufbau.strahlen[static_cast<std::size_t>(teil)];
@@ -49,7 +49,7 @@ void Optik::SetzeVorhanden(int teil, bool vorhanden) {
 
 void Optik::SetzeStrahlenzahl(int teil, int anzahl) {
     std::array<int, Optikteile> strahlen{};
-    std::ranges::transform(teile_, strahlen.begin(), &Optikteil::anzahl);
+    std::ranges::transform(teile, strahlen.begin(), &Optikteil::anzahl);
     strahlen[static_cast<std::size_t>(teil)] = anzahl;
     PruefeStrahlen(strahlen);
     Teil(teil).anzahl = anzahl;
@@ -63,28 +63,28 @@ void Optik::Stelle(int teil, const std::optional<Strahlenbild>& bild) {
 }
 
 void Optik::HalteAn(Zeit jetzt) {
-    if (!angehalten_)
-        angehalten_ = jetzt;
+    if (!angehalten)
+        angehalten = jetzt;
 }
 
 void Optik::LasseLaufen(Zeit jetzt) {
-    if (angehalten_)
-        rueckstand_ += jetzt - *angehalten_;
-    angehalten_.reset();
+    if (angehalten)
+        rueckstand += jetzt - *angehalten;
+    angehalten.reset();
 }
 
 void Optik::Neustart() {
-    for (Optikteil& teil : teile_)
+    for (Optikteil& teil : teile)
         teil.extreme.Vergiss();
     Erneuere();
 }
 
 void Optik::Aktualisiere(Registerspeicher& speicher, Zeit jetzt) {
-    const Zeit zeit = std::max(angehalten_.value_or(jetzt) - rueckstand_, Zeit{0});
+    const Zeit zeit = std::max(angehalten.value_or(jetzt) - rueckstand, Zeit{0});
     const auto scan = zeit / Abtastzeit;
-    if (letzterScan_ == scan)
+    if (letzterScan == scan)
         return;
-    letzterScan_ = scan;
+    letzterScan = scan;
     for (int teil = 0; teil < Optikteile; ++teil)
         TasteAb(speicher, teil, scan * Abtastzeit);
     std::uint16_t& status = speicher.Global(reg::Geraetestatus);
@@ -104,7 +104,7 @@ void Optik::TasteAb(Registerspeicher& speicher, int teil, Zeit zeit) {
     }
     const auto muster = speicher.Block({Bereich::Spezifisch, reg::Blanking}, teil, reg::Blankingregister);
     const Strahlenbild alle = Beteiligte(optik.anzahl, {});
-    const Strahlenbild frei = alle & optik.gestellt.value_or(szene_.Stand(teil, optik.anzahl, zeit));
+    const Strahlenbild frei = alle & optik.gestellt.value_or(szene.Stand(teil, optik.anzahl, zeit));
     const Strahlenbild beteiligte = alle & ~LiesMuster(muster);
     const Messwerte werte = Miss(frei, beteiligte);
     optik.extreme.Nimm(werte);
@@ -117,7 +117,7 @@ void Optik::TasteAb(Registerspeicher& speicher, int teil, Zeit zeit) {
 
 /// The output follows the part named in bits 8 and 9 of its register, by the state whose bit is set there.
 std::uint16_t Optik::Geraetestatus(const Registerspeicher& speicher, bool gerade) const {
-    if (std::ranges::none_of(teile_, &Optikteil::vorhanden))
+    if (std::ranges::none_of(teile, &Optikteil::vorhanden))
         return KeinOptikteil;
     const std::uint16_t ausgang = speicher.Global(reg::Schaltausgang);
     const std::uint16_t status = speicher.Spezifisch(ausgang >> 8 & 3, reg::Teilstatus);

@@ -29,7 +29,7 @@ public:
     /// Forgets minima and maxima.
     void Neustart();
     /// Something that the measurement goes by has changed: scan anew at the next chance.
-    void Erneuere() { letzterScan_.reset(); }
+    void Erneuere() { letzterScan.reset(); }
 
     /// Brings the registers that show the scene up to the given time.
     void Aktualisiere(Registerspeicher& speicher, Zeit jetzt);
@@ -41,16 +41,16 @@ private:
         std::optional<Strahlenbild> gestellt{};
         Extremwerte extreme{};
     };
-    const Optikteil& Teil(int teil) const { return teile_[static_cast<std::size_t>(teil)]; }
-    Optikteil& Teil(int teil) { return teile_[static_cast<std::size_t>(teil)]; }
+    const Optikteil& Teil(int teil) const { return teile[static_cast<std::size_t>(teil)]; }
+    Optikteil& Teil(int teil) { return teile[static_cast<std::size_t>(teil)]; }
     void TasteAb(Registerspeicher& speicher, int teil, Zeit zeit);
     std::uint16_t Geraetestatus(const Registerspeicher& speicher, bool gerade) const;
 
-    Szene szene_;
-    std::array<Optikteil, Optikteile> teile_{};
-    std::optional<Zeit> angehalten_{};
-    Zeit rueckstand_{0};
-    std::optional<Zeit::rep> letzterScan_{};
+    Szene szene;
+    std::array<Optikteil, Optikteile> teile{};
+    std::optional<Zeit> angehalten{};
+    Zeit rueckstand{0};
+    std::optional<Zeit::rep> letzterScan{};
 };
 
 } // namespace varnoth::simulator

@@ -6,8 +6,8 @@ namespace varnoth::simulator {
 
 void Protokoll::Gib(const std::string& text) {
     char zeit[40];
-    std::snprintf(zeit, sizeof zeit, "%.6f ", std::chrono::duration<double>(jetzt_).count());
-    ziel_(zeit + text);
+    std::snprintf(zeit, sizeof zeit, "%.6f ", std::chrono::duration<double>(jetzt).count());
+    ziel(zeit + text);
 }
 
 } // namespace varnoth::simulator

@@ -11,24 +11,24 @@ namespace varnoth::simulator {
 /// it.
 class Protokoll {
 public:
-    explicit Protokoll(std::function<void(std::string_view)> ziel)
-        : ziel_(std::move(ziel)), an_(ziel_ != nullptr) {}
+    explicit Protokoll(std::function<void(std::string_view)> leser)
+        : ziel(std::move(leser)), an(ziel != nullptr) {}
 
-    void Stelle(bool an) { an_ = an && ziel_; }
-    void SetzeZeit(Zeit jetzt) { jetzt_ = jetzt; }
+    void Stelle(bool ein) { an = ein && ziel; }
+    void SetzeZeit(Zeit zeit) { jetzt = zeit; }
 
     /// Writes the text that `schreibe` gives, after the time in seconds.
     void Zeile(std::invocable auto&& schreibe) {
-        if (an_)
+        if (an)
             Gib(schreibe());
     }
 
 private:
     void Gib(const std::string& text);
 
-    std::function<void(std::string_view)> ziel_;
-    bool an_;
-    Zeit jetzt_{0};
+    std::function<void(std::string_view)> ziel;
+    bool an;
+    Zeit jetzt{0};
 };
 
 /// What has come in since the start.

@@ -58,59 +58,59 @@ bool IstEigene(const std::string& verknuepfung) {
 } // namespace
 
 void Ptyserver::Stecke() {
-    if (master_.Nummer() >= 0)
+    if (master.Nummer() >= 0)
         return;
-    master_ = OeffneMaster();
-    geraet_ = ::ptsname(master_.Nummer());
-    slave_ = OeffneSlave(geraet_);
-    if (!verknuepfung_.empty())
+    master = OeffneMaster();
+    geraet = ::ptsname(master.Nummer());
+    slave = OeffneSlave(geraet);
+    if (!verknuepfung.empty())
         Verknuepfe();
 }
 
 void Ptyserver::Ziehe() {
     std::error_code fehler;
     if (VerknuepfungFuehrtHierher())
-        fs::remove(verknuepfung_, fehler);
-    slave_.Schliesse();
-    master_.Schliesse();
-    geraet_.clear();
+        fs::remove(verknuepfung, fehler);
+    slave.Schliesse();
+    master.Schliesse();
+    geraet.clear();
 }
 
 /// A link that an earlier run has left is replaced in one step: at no time is there none. Anything else that
 /// stands in the link's place, or in that of the new one, is not ours.
 void Ptyserver::Verknuepfe() const {
     std::error_code fehler;
-    fs::create_symlink(Linkziel(geraet_), verknuepfung_, fehler);
+    fs::create_symlink(Linkziel(geraet), verknuepfung, fehler);
     if (fehler == std::errc::file_exists) {
-        if (!IstEigene(verknuepfung_))
-            throw std::runtime_error(verknuepfung_ +
+        if (!IstEigene(verknuepfung))
+            throw std::runtime_error(verknuepfung +
                                      " exists and is no link of this program: choose another path");
-        const std::string neu = verknuepfung_ + ".new";
+        const std::string neu = verknuepfung + ".new";
         if (IstEigene(neu))
             fs::remove(neu, fehler);
-        fs::create_symlink(Linkziel(geraet_), neu, fehler);
+        fs::create_symlink(Linkziel(geraet), neu, fehler);
         if (!fehler)
-            fs::rename(neu, verknuepfung_, fehler);
+            fs::rename(neu, verknuepfung, fehler);
     }
     if (fehler)
-        throw std::runtime_error(verknuepfung_ + ": " + fehler.message());
+        throw std::runtime_error(verknuepfung + ": " + fehler.message());
 }
 
 bool Ptyserver::VerknuepfungFuehrtHierher() const {
     std::error_code fehler;
-    return !verknuepfung_.empty() && !geraet_.empty() &&
-           fs::read_symlink(verknuepfung_, fehler) == Linkziel(geraet_);
+    return !verknuepfung.empty() && !geraet.empty() &&
+           fs::read_symlink(verknuepfung, fehler) == Linkziel(geraet);
 }
 
 std::vector<std::uint8_t> Ptyserver::Lies() {
     std::array<std::uint8_t, 4096> puffer;
-    const ssize_t anzahl = ::read(master_.Nummer(), puffer.data(), puffer.size());
+    const ssize_t anzahl = ::read(master.Nummer(), puffer.data(), puffer.size());
     return {puffer.begin(), puffer.begin() + (anzahl > 0 ? anzahl : 0)};
 }
 
 void Ptyserver::Schreibe(std::span<const std::uint8_t> zeichen) {
-    if (master_.Nummer() >= 0) [[maybe_unused]]
-        const ssize_t geschrieben = ::write(master_.Nummer(), zeichen.data(), zeichen.size());
+    if (master.Nummer() >= 0) [[maybe_unused]]
+        const ssize_t geschrieben = ::write(master.Nummer(), zeichen.data(), zeichen.size());
 }
 
 } // namespace varnoth::simulator

@@ -12,8 +12,8 @@ namespace varnoth::simulator {
 /// The socket the master's cable goes into: a pseudo terminal in raw mode, with a symbolic link to it.
 class Ptyserver {
 public:
-    /// @param verknuepfung path of the link, empty = none
-    explicit Ptyserver(std::string verknuepfung) : verknuepfung_(std::move(verknuepfung)) {}
+    /// @param linkpfad path of the link, empty = none
+    explicit Ptyserver(std::string linkpfad) : verknuepfung(std::move(linkpfad)) {}
     Ptyserver(const Ptyserver&) = delete;
     Ptyserver& operator=(const Ptyserver&) = delete;
     ~Ptyserver() { Ziehe(); }
@@ -25,9 +25,9 @@ public:
     /// Closes the terminal, so that whoever has it open is hung up, and removes the link.
     void Ziehe();
     /// The terminal's path, empty while unplugged.
-    const std::string& Geraet() const { return geraet_; }
+    const std::string& Geraet() const { return geraet; }
     /// Descriptor of the controller's end for poll(), -1 while unplugged.
-    int Deskriptor() const { return master_.Nummer(); }
+    int Deskriptor() const { return master.Nummer(); }
     /// Takes what the master has sent.
     std::vector<std::uint8_t> Lies();
     /// Hands bytes to the master. What it leaves unread beyond the terminal's buffer is lost, as on a real
@@ -38,10 +38,10 @@ private:
     void Verknuepfe() const;
     bool VerknuepfungFuehrtHierher() const;
 
-    std::string verknuepfung_;
-    std::string geraet_;
-    Dateideskriptor master_;
-    Dateideskriptor slave_; ///< kept open, so that a client may close and come again
+    std::string verknuepfung;
+    std::string geraet;
+    Dateideskriptor master;
+    Dateideskriptor slave; ///< kept open, so that a client may close and come again
 };
 
 } // namespace varnoth::simulator

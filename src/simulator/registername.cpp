@@ -1,6 +1,6 @@
 #include "registername.h"
 
-#include "zahltext.h"
+#include "wortleser.h"
 
 #include <stdexcept>
 

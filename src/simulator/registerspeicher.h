@@ -17,19 +17,19 @@ public:
     std::span<std::uint16_t> Block(Ort ort, int teil, int anzahl);
     std::span<const std::uint16_t> Block(Ort ort, int teil, int anzahl) const;
 
-    std::uint16_t& Global(int adresse) { return global_[static_cast<std::size_t>(adresse)]; }
-    std::uint16_t Global(int adresse) const { return global_[static_cast<std::size_t>(adresse)]; }
+    std::uint16_t& Global(int adresse) { return global[static_cast<std::size_t>(adresse)]; }
+    std::uint16_t Global(int adresse) const { return global[static_cast<std::size_t>(adresse)]; }
     std::uint16_t& Spezifisch(int teil, int adresse);
     std::uint16_t Spezifisch(int teil, int adresse) const;
-    std::uint16_t& Kommunikation(int adresse) { return kommunikation_[static_cast<std::size_t>(adresse)]; }
+    std::uint16_t& Kommunikation(int adresse) { return kommunikation[static_cast<std::size_t>(adresse)]; }
     std::uint16_t Kommunikation(int adresse) const {
-        return kommunikation_[static_cast<std::size_t>(adresse)];
+        return kommunikation[static_cast<std::size_t>(adresse)];
     }
 
 private:
-    std::array<std::uint16_t, 256> global_{};
-    std::array<std::array<std::uint16_t, 512>, Optikteile> spezifisch_{};
-    std::array<std::uint16_t, 256> kommunikation_{};
+    std::array<std::uint16_t, 256> global{};
+    std::array<std::array<std::uint16_t, 512>, Optikteile> spezifisch{};
+    std::array<std::uint16_t, 256> kommunikation{};
 };
 
 /// Copies the registers of one kind (all that an entry of that kind covers) from one store to the other.

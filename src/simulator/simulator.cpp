@@ -14,64 +14,64 @@ constexpr std::chrono::milliseconds Rahmenpause{20};
 } // namespace
 
 Simulator::Simulator(const Aufbau& aufbau)
-    : protokoll_(aufbau.protokoll), optik_(aufbau), geraet_(aufbau, optik_, protokoll_, zaehlwerk_),
-      leitung_(aufbau), bedenkzeit_(aufbau.bedenkzeit) {
+    : protokoll(aufbau.protokoll), optik(aufbau), geraet(aufbau, optik, protokoll, zaehlwerk),
+      leitung(aufbau), bedenkzeit(aufbau.bedenkzeit) {
     for (const Stoerung& stoerung : aufbau.stoerungen)
-        stoerungen_.Fuege(stoerung);
+        stoerungen.Fuege(stoerung);
 }
 
 void Simulator::Empfange(std::span<const std::uint8_t> zeichen, Zeit jetzt) {
-    protokoll_.SetzeZeit(jetzt);
-    const std::chrono::nanoseconds beginn = std::max<std::chrono::nanoseconds>(empfangsende_, jetzt);
-    if (beginn > empfangsende_ + Rahmenpause && leser_.Verwirf())
+    protokoll.SetzeZeit(jetzt);
+    const std::chrono::nanoseconds beginn = std::max<std::chrono::nanoseconds>(empfangsende, jetzt);
+    if (beginn > empfangsende + Rahmenpause && leser.Verwirf())
         ZaehleGebrochene();
     for (std::size_t i = 0; i < zeichen.size(); ++i) {
-        empfangsende_ = beginn + leitung_.Dauer(i + 1);
+        empfangsende = beginn + leitung.Dauer(i + 1);
         NimmZeichen(zeichen[i], jetzt);
     }
 }
 
 void Simulator::NimmZeichen(std::uint8_t zeichen, Zeit jetzt) {
-    const auto ergebnis = leser_.Nimm(zeichen);
+    const auto ergebnis = leser.Nimm(zeichen);
     if (ergebnis == Anfragenleser::Ergebnis::Ganz)
-        Beantworte(leser_.Rahmen(), jetzt);
+        Beantworte(leser.Rahmen(), jetzt);
     else if (ergebnis == Anfragenleser::Ergebnis::Gebrochen)
         ZaehleGebrochene();
 }
 
 void Simulator::ZaehleGebrochene() {
-    ++zaehlwerk_.gebrochene;
-    protokoll_.Zeile([] { return std::string("broken frame ignored"); });
+    ++zaehlwerk.gebrochene;
+    protokoll.Zeile([] { return std::string("broken frame ignored"); });
 }
 
 void Simulator::Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt) {
     const int funktion = anfrage[1];
-    const auto stoerung = geraet_.WirdBeantwortet(anfrage) ? stoerungen_.Nimm(funktion) : std::nullopt;
+    const auto stoerung = geraet.WirdBeantwortet(anfrage) ? stoerungen.Nimm(funktion) : std::nullopt;
     const bool abgelehnt = stoerung && stoerung->art->lehntAb;
-    Bytes antwort = abgelehnt ? Bytes{static_cast<std::uint8_t>(geraet_.Adresse()), anfrage[1]}
-                              : geraet_.Bearbeite(anfrage, jetzt);
+    Bytes antwort = abgelehnt ? Bytes{static_cast<std::uint8_t>(geraet.Adresse()), anfrage[1]}
+                              : geraet.Bearbeite(anfrage, jetzt);
     if (antwort.empty())
         return;
-    verlauf_.Nimm(antwort);
+    verlauf.Nimm(antwort);
     Sendung sendung;
     sendung.push_back({.zeichen = std::move(antwort)});
     if (stoerung) {
-        stoerung->Verfaelsche(sendung, verlauf_);
-        protokoll_.Zeile([&] {
+        stoerung->Verfaelsche(sendung, verlauf);
+        protokoll.Zeile([&] {
             return "fault " + std::string(stoerung->art->name) + " at function " + std::to_string(funktion);
         });
     }
-    leitung_.Sende(sendung, empfangsende_ + bedenkzeit_);
+    leitung.Sende(sendung, empfangsende + bedenkzeit);
 }
 
 std::string Simulator::Befehl(std::string_view zeile, Zeit jetzt) {
-    protokoll_.SetzeZeit(jetzt);
-    return FuehreBefehlAus({geraet_, optik_, stoerungen_, protokoll_, zaehlwerk_, jetzt}, zeile);
+    protokoll.SetzeZeit(jetzt);
+    return FuehreBefehlAus({geraet, optik, stoerungen, protokoll, zaehlwerk, jetzt}, zeile);
 }
 
 void Simulator::TrenneLeitung() {
-    leitung_.Verwirf();
-    leser_.Verwirf();
+    leitung.Verwirf();
+    leser.Verwirf();
 }
 
 } // namespace varnoth::simulator

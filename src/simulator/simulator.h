@@ -19,9 +19,9 @@ public:
     /// timed from the end of its request.
     void Empfange(std::span<const std::uint8_t> zeichen, Zeit jetzt);
     /// When the next bytes of a reply become readable; nothing while there are none.
-    std::optional<Zeit> NaechsteFaelligkeit() const { return leitung_.NaechsteFaelligkeit(); }
+    std::optional<Zeit> NaechsteFaelligkeit() const { return leitung.NaechsteFaelligkeit(); }
     /// Takes the bytes that have become readable by the given time.
-    std::vector<std::uint8_t> Entnimm(Zeit jetzt) { return leitung_.Entnimm(jetzt); }
+    std::vector<std::uint8_t> Entnimm(Zeit jetzt) { return leitung.Entnimm(jetzt); }
     /// Carries a command out. Gives one line, "ok ..." or "error ...".
     std::string Befehl(std::string_view zeile, Zeit jetzt);
     /// The line is cut: what is on its way in either direction is lost.
@@ -32,16 +32,16 @@ private:
     void Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt);
     void ZaehleGebrochene();
 
-    Protokoll protokoll_;
-    Zaehlwerk zaehlwerk_{};
-    Optik optik_;
-    Steuergeraet geraet_;
-    Stoerungen stoerungen_{};
-    Antwortverlauf verlauf_{};
-    Leitung leitung_;
-    Anfragenleser leser_{};
-    Zeit bedenkzeit_;
-    std::chrono::nanoseconds empfangsende_{std::chrono::nanoseconds::min()};
+    Protokoll protokoll;
+    Zaehlwerk zaehlwerk{};
+    Optik optik;
+    Steuergeraet geraet;
+    Stoerungen stoerungen{};
+    Antwortverlauf verlauf{};
+    Leitung leitung;
+    Anfragenleser leser{};
+    Zeit bedenkzeit;
+    std::chrono::nanoseconds empfangsende{std::chrono::nanoseconds::min()};
 };
 
 } // namespace varnoth::simulator

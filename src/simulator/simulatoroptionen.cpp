@@ -1,6 +1,6 @@
 #include "simulatoroptionen.h"
 
-#include "zahltext.h"
+#include "wortleser.h"
 
 #include <algorithm>
 #include <stdexcept>

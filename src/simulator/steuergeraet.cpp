@@ -44,45 +44,47 @@ bool Beruehrt(Ort ort, std::size_t anzahl, int globalesRegister) {
 
 } // namespace
 
-Steuergeraet::Steuergeraet(const Aufbau& aufbau, Optik& optik, Protokoll& protokoll, Zaehlwerk& zaehlwerk)
-    : passwort_(aufbau.passwort), optik_(optik), protokoll_(protokoll), zaehlwerk_(zaehlwerk),
-      werk_(Werkseinstellung(aufbau)), dauerspeicher_(werk_, aufbau.speicherdatei), adresse_(aufbau.adresse) {
+Steuergeraet::Steuergeraet(const Aufbau& aufbau, Optik& dieOptik, Protokoll& dasProtokoll,
+                           Zaehlwerk& dasZaehlwerk)
+    : passwort(aufbau.passwort), optik(dieOptik), protokoll(dasProtokoll), zaehlwerk(dasZaehlwerk),
+      werk(Werkseinstellung(aufbau)), dauerspeicher(werk, aufbau.speicherdatei), adresse(aufbau.adresse) {
     Neustart();
 }
 
 void Steuergeraet::Neustart() {
-    const Registerspeicher& inhalt = dauerspeicher_.Inhalt();
-    speicher_ = werk_;
-    Uebernimm(speicher_, inhalt, Art::Konfiguration);
-    Uebernimm(speicher_, inhalt, Art::Werksdaten);
-    const int adresse = speicher_.Kommunikation(reg::Stationsadresse);
-    adresse_ = adresse >= 1 && adresse <= HoechsteAdresse ? adresse : adresse_;
-    autosend_ = false;
-    optik_.Neustart();
+    const Registerspeicher& inhalt = dauerspeicher.Inhalt();
+    speicher = werk;
+    Uebernimm(speicher, inhalt, Art::Konfiguration);
+    Uebernimm(speicher, inhalt, Art::Werksdaten);
+    const int gespeicherte = speicher.Kommunikation(reg::Stationsadresse);
+    if (gespeicherte >= 1 && gespeicherte <= HoechsteAdresse)
+        adresse = gespeicherte;
+    autosend = false;
+    optik.Neustart();
     ZeigeStrahlenzahlen();
     for (int teil = 0; teil < Optikteile; ++teil) {
         const std::uint16_t bekannt = inhalt.Spezifisch(teil, reg::Strahlenzahl);
-        if (bekannt != 0 && optik_.IstVorhanden(teil) && bekannt != optik_.Strahlenzahl(teil))
-            speicher_.Global(reg::Geraetestatus) |= static_cast<std::uint16_t>(StrahlenzahlGeaendert << teil);
+        if (bekannt != 0 && optik.IstVorhanden(teil) && bekannt != optik.Strahlenzahl(teil))
+            speicher.Global(reg::Geraetestatus) |= static_cast<std::uint16_t>(StrahlenzahlGeaendert << teil);
     }
 }
 
 /// A part that is not there has no beams.
 void Steuergeraet::ZeigeStrahlenzahlen() {
     for (int teil = 0; teil < Optikteile; ++teil)
-        speicher_.Spezifisch(teil, reg::Strahlenzahl) =
-            static_cast<std::uint16_t>(optik_.IstVorhanden(teil) ? optik_.Strahlenzahl(teil) : 0);
+        speicher.Spezifisch(teil, reg::Strahlenzahl) =
+            static_cast<std::uint16_t>(optik.IstVorhanden(teil) ? optik.Strahlenzahl(teil) : 0);
 }
 
 void Steuergeraet::SetzeStrahlenzahl(int teil, int anzahl) {
-    optik_.SetzeStrahlenzahl(teil, anzahl);
+    optik.SetzeStrahlenzahl(teil, anzahl);
     ZeigeStrahlenzahlen();
-    if (optik_.IstVorhanden(teil))
-        speicher_.Global(reg::Geraetestatus) |= static_cast<std::uint16_t>(StrahlenzahlGeaendert << teil);
+    if (optik.IstVorhanden(teil))
+        speicher.Global(reg::Geraetestatus) |= static_cast<std::uint16_t>(StrahlenzahlGeaendert << teil);
 }
 
 void Steuergeraet::SetzeVorhanden(int teil, bool vorhanden) {
-    optik_.SetzeVorhanden(teil, vorhanden);
+    optik.SetzeVorhanden(teil, vorhanden);
     ZeigeStrahlenzahlen();
 }
 
@@ -99,24 +101,24 @@ std::span<const Steuergeraet::Funktion> Steuergeraet::Funktionen() {
 bool Steuergeraet::WirdBeantwortet(Anfrage anfrage) const {
     if (anfrage[1] == Kommando09)
         return false;
-    return anfrage[0] == adresse_ || (anfrage[0] == Rundruf && anfrage[1] == KennungsFunktion);
+    return anfrage[0] == adresse || (anfrage[0] == Rundruf && anfrage[1] == KennungsFunktion);
 }
 
-Bytes Steuergeraet::Bearbeite(Anfrage anfrage, Zeit jetzt) {
-    if (anfrage[0] != adresse_ && anfrage[0] != Rundruf) {
-        ++zaehlwerk_.fremde;
+Bytes Steuergeraet::Bearbeite(Anfrage anfrage, Zeit zeit) {
+    if (anfrage[0] != adresse && anfrage[0] != Rundruf) {
+        ++zaehlwerk.fremde;
         return {};
     }
-    jetzt_ = jetzt;
+    jetzt = zeit;
     const bool mitAntwort = WirdBeantwortet(anfrage); // a restart may change the address
-    ++zaehlwerk_.anfragen[anfrage[1]];
-    Bytes antwort{static_cast<std::uint8_t>(adresse_), anfrage[1]};
+    ++zaehlwerk.anfragen[anfrage[1]];
+    Bytes antwort{static_cast<std::uint8_t>(adresse), anfrage[1]};
     const Ablehnung ablehnung = FuehreAus(anfrage, antwort);
     if (ablehnung != Ablehnung::Keine) {
-        ++zaehlwerk_.abgelehnte;
+        ++zaehlwerk.abgelehnte;
         antwort = {antwort[0], static_cast<std::uint8_t>(anfrage[1] | AusnahmeBit),
                    static_cast<std::uint8_t>(ablehnung)};
-        protokoll_.Zeile([&] {
+        protokoll.Zeile([&] {
             return "refused function " + std::to_string(anfrage[1]) + ": exception " +
                    std::to_string(antwort[2]);
         });
@@ -141,12 +143,12 @@ Steuergeraet::Ablehnung Steuergeraet::Lies(Anfrage anfrage, Bytes& antwort) {
     const auto ort = FindeOrt(Wort(anfrage, 2), anzahl);
     if (!ort)
         return Ablehnung::Adresse;
-    optik_.Aktualisiere(speicher_, jetzt_);
-    const auto werte = speicher_.Block(*ort, Optikteil(), anzahl);
+    optik.Aktualisiere(speicher, jetzt);
+    const auto werte = speicher.Block(*ort, Optikteil(), anzahl);
     antwort.push_back(static_cast<std::uint8_t>(2 * anzahl));
     for (const std::uint16_t wert : werte)
         HaengeWortAn(antwort, wert);
-    protokoll_.Zeile([&] { return "read " + Name(*ort, Optikteil(), anzahl) + " =" + Liste(werte); });
+    protokoll.Zeile([&] { return "read " + Name(*ort, Optikteil(), anzahl) + " =" + Liste(werte); });
     return Ablehnung::Keine;
 }
 
@@ -161,11 +163,11 @@ Steuergeraet::Ablehnung Steuergeraet::Schreibe(Anfrage anfrage, Bytes& antwort) 
     const auto werte = std::span(alle).first(static_cast<std::size_t>(anzahl));
     for (std::size_t i = 0; i < werte.size(); ++i)
         werte[i] = static_cast<std::uint16_t>(Wort(anfrage, Schreibkopf + 2 * i));
-    protokoll_.Zeile([&] { return "write " + Name(*ort, Optikteil(), anzahl) + " =" + Liste(werte); });
+    protokoll.Zeile([&] { return "write " + Name(*ort, Optikteil(), anzahl) + " =" + Liste(werte); });
     const Ablehnung ablehnung = PruefeSchreiben(*ort, werte);
     if (ablehnung != Ablehnung::Keine)
         return ablehnung;
-    std::ranges::copy(werte, speicher_.Block(*ort, Optikteil(), anzahl).begin());
+    std::ranges::copy(werte, speicher.Block(*ort, Optikteil(), anzahl).begin());
     antwort.insert(antwort.end(), anfrage.begin() + 2, anfrage.begin() + 6);
     return Wirke(*ort, werte);
 }
@@ -184,57 +186,57 @@ Steuergeraet::Ablehnung Steuergeraet::PruefeSchreiben(Ort ort, std::span<const s
 
 /// What follows from registers just written.
 Steuergeraet::Ablehnung Steuergeraet::Wirke(Ort ort, std::span<const std::uint16_t> werte) {
-    optik_.Erneuere();
+    optik.Erneuere();
     if (FindeSchreibbar(ort)->art == Art::Werksdaten)
         LoeschePasswort();
     if (ort.bereich == Bereich::Kommunikation && ort.adresse == reg::Steuerwert)
-        autosend_ = werte[0] == AutosendAn;
+        autosend = werte[0] == AutosendAn;
     if (Beruehrt(ort, werte.size(), reg::Kommando))
-        return FuehreKommandoAus(speicher_.Global(reg::Kommando));
+        return FuehreKommandoAus(speicher.Global(reg::Kommando));
     return Ablehnung::Keine;
 }
 
 Steuergeraet::Ablehnung Steuergeraet::FuehreKommandoAus(std::uint16_t kommando) {
-    speicher_.Global(reg::Kommando) = 0;
+    speicher.Global(reg::Kommando) = 0;
     if (kommando != SpeichereKonfiguration && kommando != SpeichereWerksdaten) {
         Neustart();
         return Ablehnung::Keine;
     }
     const Art art = kommando == SpeichereKonfiguration ? Art::Konfiguration : Art::Werksdaten;
-    if (!dauerspeicher_.Behalte(speicher_, art)) {
-        protokoll_.Zeile([] { return std::string("the store could not be written"); });
+    if (!dauerspeicher.Behalte(speicher, art)) {
+        protokoll.Zeile([] { return std::string("the store could not be written"); });
         return Ablehnung::Geraet;
     }
     if (art == Art::Konfiguration)
-        speicher_.Global(reg::Geraetestatus) &= static_cast<std::uint16_t>(~AlleMeldungen);
+        speicher.Global(reg::Geraetestatus) &= static_cast<std::uint16_t>(~AlleMeldungen);
     return Ablehnung::Keine;
 }
 
 bool Steuergeraet::PasswortStimmt() const {
     std::array<std::uint16_t, reg::Passwortregister> erwartet{};
-    SchreibeText(erwartet, passwort_);
+    SchreibeText(erwartet, passwort);
     return std::ranges::equal(erwartet,
-                              speicher_.Block({Bereich::Global, reg::Passwort}, 0, reg::Passwortregister));
+                              speicher.Block({Bereich::Global, reg::Passwort}, 0, reg::Passwortregister));
 }
 
 void Steuergeraet::LoeschePasswort() {
-    std::ranges::fill(speicher_.Block({Bereich::Global, reg::Passwort}, 0, reg::Passwortregister),
+    std::ranges::fill(speicher.Block({Bereich::Global, reg::Passwort}, 0, reg::Passwortregister),
                       std::uint16_t{0});
 }
 
 Steuergeraet::Ablehnung Steuergeraet::MeldeKennung(Anfrage, Bytes& antwort) {
-    const std::string seriennummer = LiesText(speicher_.Block({Bereich::Global, reg::Seriennummer}, 0, 10));
+    const std::string seriennummer = LiesText(speicher.Block({Bereich::Global, reg::Seriennummer}, 0, 10));
     const std::string text = "Varnoth Simulator;" + seriennummer + ";(c) Varnoth";
     antwort.push_back(static_cast<std::uint8_t>(2 + text.size()));
     antwort.push_back(Eingeschaltet);
     antwort.push_back(static_cast<std::uint8_t>(Geraetetyp));
     antwort.insert(antwort.end(), text.begin(), text.end());
-    protokoll_.Zeile([&] { return "identify = " + text; });
+    protokoll.Zeile([&] { return "identify = " + text; });
     return Ablehnung::Keine;
 }
 
 Steuergeraet::Ablehnung Steuergeraet::NimmKommando09(Anfrage, Bytes&) {
-    protokoll_.Zeile([] { return std::string("function 09"); });
+    protokoll.Zeile([] { return std::string("function 09"); });
     return Ablehnung::Keine;
 }
 

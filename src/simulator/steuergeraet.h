@@ -11,20 +11,20 @@ class Steuergeraet {
 public:
     /// Switches the controller on.
     /// @throws std::runtime_error when the store cannot be understood
-    Steuergeraet(const Aufbau& aufbau, Optik& optik, Protokoll& protokoll, Zaehlwerk& zaehlwerk);
+    Steuergeraet(const Aufbau& aufbau, Optik& dieOptik, Protokoll& dasProtokoll, Zaehlwerk& dasZaehlwerk);
     Steuergeraet(const Steuergeraet&) = delete;
     Steuergeraet& operator=(const Steuergeraet&) = delete;
 
     /// The station address in force. A new one in the configuration holds from the next start on.
-    int Adresse() const { return adresse_; }
-    bool Autosend() const { return autosend_; }
-    Registerspeicher& Speicher() { return speicher_; }
+    int Adresse() const { return adresse; }
+    bool Autosend() const { return autosend; }
+    Registerspeicher& Speicher() { return speicher; }
 
     /// Whether the request is one that this controller replies to.
     bool WirdBeantwortet(std::span<const std::uint8_t> anfrage) const;
     /// Carries a whole request out, checksum included and right. Gives the reply with its checksum, or
     /// nothing.
-    Bytes Bearbeite(std::span<const std::uint8_t> anfrage, Zeit jetzt);
+    Bytes Bearbeite(std::span<const std::uint8_t> anfrage, Zeit zeit);
     /// Starts as at power-up: the stored configuration, nothing selected, no minima and maxima.
     void Neustart();
     /// Another number of beams in a part: shown, and reported in the device status until it is stored.
@@ -51,18 +51,18 @@ private:
     bool PasswortStimmt() const;
     void LoeschePasswort();
     void ZeigeStrahlenzahlen();
-    int Optikteil() const { return speicher_.Global(reg::Optikteilauswahl); }
+    int Optikteil() const { return speicher.Global(reg::Optikteilauswahl); }
 
-    std::string passwort_;
-    Optik& optik_;
-    Protokoll& protokoll_;
-    Zaehlwerk& zaehlwerk_;
-    const Registerspeicher werk_;
-    Dauerspeicher dauerspeicher_;
-    Registerspeicher speicher_{};
-    int adresse_;
-    bool autosend_ = false;
-    Zeit jetzt_{0};
+    std::string passwort;
+    Optik& optik;
+    Protokoll& protokoll;
+    Zaehlwerk& zaehlwerk;
+    const Registerspeicher werk;
+    Dauerspeicher dauerspeicher;
+    Registerspeicher speicher{};
+    int adresse;
+    bool autosend = false;
+    Zeit jetzt{0};
 };
 
 } // namespace varnoth::simulator

@@ -59,26 +59,26 @@ bool Antworte(const Dateideskriptor& leitung, const std::string& zeile) {
 
 } // namespace
 
-Steuerkanal::Steuerkanal(std::string pfad) : pfad_(std::move(pfad)) {
-    if (pfad_.empty())
+Steuerkanal::Steuerkanal(std::string socketpfad) : pfad(std::move(socketpfad)) {
+    if (pfad.empty())
         return;
-    const sockaddr_un adresse = Socketadresse(pfad_);
+    const sockaddr_un adresse = Socketadresse(pfad);
     RaeumeAuf(adresse);
-    Dateideskriptor tuer = NeuerSocket();
-    if (!Binde(tuer, adresse) || ::listen(tuer.Nummer(), Wartende) != 0)
-        throw std::runtime_error("--control " + pfad_ + ": " + std::strerror(errno));
-    tuer_ = std::move(tuer);
+    Dateideskriptor neue = NeuerSocket();
+    if (!Binde(neue, adresse) || ::listen(neue.Nummer(), Wartende) != 0)
+        throw std::runtime_error("--control " + pfad + ": " + std::strerror(errno));
+    tuer = std::move(neue);
 }
 
 Steuerkanal::~Steuerkanal() {
-    if (tuer_.Nummer() >= 0)
-        ::unlink(pfad_.c_str());
+    if (tuer.Nummer() >= 0)
+        ::unlink(pfad.c_str());
 }
 
 void Steuerkanal::Beobachte(std::vector<pollfd>& liste) const {
-    if (tuer_.Nummer() >= 0)
-        liste.push_back({tuer_.Nummer(), POLLIN, 0});
-    for (const Gast& gast : gaeste_)
+    if (tuer.Nummer() >= 0)
+        liste.push_back({tuer.Nummer(), POLLIN, 0});
+    for (const Gast& gast : gaeste)
         liste.push_back({gast.leitung.Nummer(), POLLIN, 0});
 }
 
@@ -88,8 +88,8 @@ void Steuerkanal::Bediene(const std::vector<pollfd>& liste, const Ausfuehren& au
                                    [nummer](const pollfd& p) { return p.fd == nummer && p.revents != 0; });
     };
     std::erase_if(
-        gaeste_, [&](Gast& gast) { return meldetSich(gast.leitung.Nummer()) && !Bediene(gast, ausfuehren); });
-    if (tuer_.Nummer() >= 0 && meldetSich(tuer_.Nummer()))
+        gaeste, [&](Gast& gast) { return meldetSich(gast.leitung.Nummer()) && !Bediene(gast, ausfuehren); });
+    if (tuer.Nummer() >= 0 && meldetSich(tuer.Nummer()))
         LasseEin();
 }
 
@@ -110,9 +110,9 @@ bool Steuerkanal::Bediene(Gast& gast, const Ausfuehren& ausfuehren) {
 }
 
 void Steuerkanal::LasseEin() {
-    Dateideskriptor leitung(::accept4(tuer_.Nummer(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    Dateideskriptor leitung(::accept4(tuer.Nummer(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (leitung.Nummer() >= 0)
-        gaeste_.push_back({std::move(leitung)});
+        gaeste.push_back({std::move(leitung)});
 }
 
 } // namespace varnoth::simulator

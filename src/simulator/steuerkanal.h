@@ -16,9 +16,9 @@ class Steuerkanal {
 public:
     using Ausfuehren = std::function<std::string(std::string_view zeile)>;
 
-    /// @param pfad where the socket appears, empty = no channel
+    /// @param socketpfad where the socket appears, empty = no channel
     /// @throws std::runtime_error with a sentence for the user
-    explicit Steuerkanal(std::string pfad);
+    explicit Steuerkanal(std::string socketpfad);
     Steuerkanal(const Steuerkanal&) = delete;
     Steuerkanal& operator=(const Steuerkanal&) = delete;
     ~Steuerkanal();
@@ -36,9 +36,9 @@ private:
     bool Bediene(Gast& gast, const Ausfuehren& ausfuehren);
     void LasseEin();
 
-    std::string pfad_;
-    Dateideskriptor tuer_;
-    std::vector<Gast> gaeste_;
+    std::string pfad;
+    Dateideskriptor tuer;
+    std::vector<Gast> gaeste;
 };
 
 } // namespace varnoth::simulator

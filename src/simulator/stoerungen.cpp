@@ -1,6 +1,6 @@
 #include "stoerungen.h"
 
-#include "zahltext.h"
+#include "wortleser.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -138,14 +138,14 @@ std::optional<std::string_view> SchneideAb(std::string_view& text, char trenner)
 } // namespace
 
 void Antwortverlauf::Nimm(const Bytes& antwort) {
-    if (antworten_.size() == Laenge)
-        antworten_.pop_front();
-    antworten_.push_back(antwort);
+    if (antworten.size() == Laenge)
+        antworten.pop_front();
+    antworten.push_back(antwort);
 }
 
 const Bytes* Antwortverlauf::Frueher(int zurueck) const {
     const auto davor = static_cast<std::size_t>(zurueck);
-    return davor < antworten_.size() ? &antworten_[antworten_.size() - 1 - davor] : nullptr;
+    return davor < antworten.size() ? &antworten[antworten.size() - 1 - davor] : nullptr;
 }
 
 void Stoerung::Verfaelsche(Sendung& sendung, const Antwortverlauf& verlauf) const {
@@ -172,12 +172,12 @@ Stoerung LiesStoerung(std::string_view text) {
 
 std::optional<Stoerung> Stoerungen::Nimm(int funktion) {
     const auto passt = [funktion](const Stoerung& s) { return s.funktion.value_or(funktion) == funktion; };
-    const auto gefunden = std::ranges::find_if(liste_, passt);
-    if (gefunden == liste_.end())
+    const auto gefunden = std::ranges::find_if(liste, passt);
+    if (gefunden == liste.end())
         return std::nullopt;
     const Stoerung stoerung = *gefunden;
     if (gefunden->anzahl && --*gefunden->anzahl == 0)
-        liste_.erase(gefunden);
+        liste.erase(gefunden);
     return stoerung;
 }
 

@@ -30,7 +30,7 @@ public:
     const Bytes* Frueher(int zurueck) const;
 
 private:
-    std::deque<Bytes> antworten_;
+    std::deque<Bytes> antworten;
 };
 
 /// What a fault does its work with.
@@ -72,13 +72,13 @@ Stoerung LiesStoerung(std::string_view text);
 /// The faults in force. The oldest that fits a reply is the one it suffers.
 class Stoerungen {
 public:
-    void Fuege(const Stoerung& stoerung) { liste_.push_back(stoerung); }
-    void Loesche() { liste_.clear(); }
+    void Fuege(const Stoerung& stoerung) { liste.push_back(stoerung); }
+    void Loesche() { liste.clear(); }
     /// The fault for the next reply to a function, counted down.
     std::optional<Stoerung> Nimm(int funktion);
 
 private:
-    std::vector<Stoerung> liste_;
+    std::vector<Stoerung> liste;
 };
 
 } // namespace varnoth::simulator

@@ -37,7 +37,7 @@ struct Szene::Bahn {
 };
 
 std::uint64_t Szene::Zufall(std::uint64_t was, std::uint64_t wievieltes) const {
-    return Mische(Mische(startwert_ + was) + wievieltes);
+    return Mische(Mische(startwert + was) + wievieltes);
 }
 
 double Szene::Phase(int teil, int welle) const {
@@ -88,7 +88,7 @@ Strahlenbild Szene::Stand(int teil, int anzahl, Zeit zeit) const {
     for (int strahl = bahn.unten; strahl < bahn.oben; ++strahl)
         bild.reset(static_cast<std::size_t>(strahl));
     StanzeLoch(bild, teil, bahn, sekunden);
-    if (static_cast<std::uint64_t>(teil) == startwert_ % Optikteile)
+    if (static_cast<std::uint64_t>(teil) == startwert % Optikteile)
         Flimmere(bild, anzahl, bahn, zeit);
     return bild;
 }

@@ -17,7 +17,7 @@ inline constexpr Zeit Abtastzeit{5000};
 /// seed and the time alone.
 class Szene {
 public:
-    explicit Szene(std::uint64_t startwert) : startwert_(startwert) {}
+    explicit Szene(std::uint64_t zufallsbeginn) : startwert(zufallsbeginn) {}
 
     /// The beams of a part (0..3) with `anzahl` beams at a time from the start. Beams from `anzahl` on are
     /// clear.
@@ -31,7 +31,7 @@ private:
     std::uint64_t Zufall(std::uint64_t was, std::uint64_t wievieltes) const;
     double Phase(int teil, int welle) const;
 
-    std::uint64_t startwert_;
+    std::uint64_t startwert;
 };
 
 } // namespace varnoth::simulator

@@ -41,9 +41,9 @@ std::int32_t BereichsOffset(int bereich) {
                                                                    : Speicherbereich::GlobaleGeraetedaten);
 }
 
-std::optional<std::uint16_t> Registeradresse(const Einzelregister& register_) {
-    const std::int32_t offset = register_.adressOffset;
-    const auto adresse = GanzeZahl(register_.adresse, -offset, GroessterWert - offset);
+std::optional<std::uint16_t> Registeradresse(const Einzelregister& wahl) {
+    const std::int32_t offset = wahl.adressOffset;
+    const auto adresse = GanzeZahl(wahl.adresse, -offset, GroessterWert - offset);
     if (!adresse)
         return std::nullopt;
     return static_cast<std::uint16_t>(offset + *adresse);
@@ -53,18 +53,18 @@ std::optional<std::int32_t> Registerwert(std::string_view inhalt) {
     return GanzeZahl(inhalt, KleinsterWert, GroessterWert);
 }
 
-std::string LiesEinzelwert(const Einzelregister& register_) {
-    const auto adresse = Registeradresse(register_);
+std::string LiesEinzelwert(const Einzelregister& wahl) {
+    const auto adresse = Registeradresse(wahl);
     Werte werte(1);
-    const bool gelesen = adresse && modModbus::WaehleOptikteil(register_.optikteil) != False &&
+    const bool gelesen = adresse && modModbus::WaehleOptikteil(wahl.optikteil) != False &&
                          modModbus::RTUModeH03LeseAnforderung(*adresse, 1, werte) != False;
     return gelesen ? "&H" + AlsHex(static_cast<unsigned>(werte[0])) : Fehlanzeige;
 }
 
-std::string SchreibeEinzelwert(const Einzelregister& register_, std::string_view inhalt) {
-    const auto adresse = Registeradresse(register_);
+std::string SchreibeEinzelwert(const Einzelregister& wahl, std::string_view inhalt) {
+    const auto adresse = Registeradresse(wahl);
     const auto wert = Registerwert(inhalt);
-    const bool geschrieben = adresse && wert && modModbus::WaehleOptikteil(register_.optikteil) != False &&
+    const bool geschrieben = adresse && wert && modModbus::WaehleOptikteil(wahl.optikteil) != False &&
                              modModbus::RTUModeH10SchreibenAnforderung(*adresse, 1, {*wert}) != False;
     return geschrieben ? Bestaetigung : Fehlanzeige;
 }

@@ -20,7 +20,7 @@ std::int32_t BereichsOffset(int bereich);
 
 /// The device address of the register; nothing when it lies outside 0..0xFFFF. An address without a number
 /// is that of the range's first register.
-std::optional<std::uint16_t> Registeradresse(const Einzelregister& register_);
+std::optional<std::uint16_t> Registeradresse(const Einzelregister& wahl);
 
 /// The value that the typed text stands for, -32768..65535; nothing for any other. A text without a number is
 /// 0.
@@ -28,10 +28,10 @@ std::optional<std::int32_t> Registerwert(std::string_view inhalt);
 
 /// Reads the register from the controller, past the register image. Gives the text to show: the value as
 /// "&H1F", or "???" when the controller did not answer. Nothing is sent to an address that cannot be.
-std::string LiesEinzelwert(const Einzelregister& register_);
+std::string LiesEinzelwert(const Einzelregister& wahl);
 
 /// Writes the typed value into the register, past the register image. Gives the text to show: "OK", or "???"
 /// when the controller did not confirm it. Nothing is sent to an address, and no value, that cannot be.
-std::string SchreibeEinzelwert(const Einzelregister& register_, std::string_view inhalt);
+std::string SchreibeEinzelwert(const Einzelregister& wahl, std::string_view inhalt);
 
 } // namespace varnoth

@@ -46,12 +46,12 @@ Einzelregister frmEinzelwerteLesenSchreiben::GewaehltesRegister() const {
 }
 
 void frmEinzelwerteLesenSchreiben::cmdLesen_Click() {
-    Tausche([register_ = GewaehltesRegister()] { return LiesEinzelwert(register_); });
+    Tausche([wahl = GewaehltesRegister()] { return LiesEinzelwert(wahl); });
 }
 
 void frmEinzelwerteLesenSchreiben::cmdSchreiben_Click() {
-    Tausche([register_ = GewaehltesRegister(), inhalt = ui->txtInhalt->text().toStdString()] {
-        return SchreibeEinzelwert(register_, inhalt);
+    Tausche([wahl = GewaehltesRegister(), inhalt = ui->txtInhalt->text().toStdString()] {
+        return SchreibeEinzelwert(wahl, inhalt);
     });
 }
 

@@ -43,8 +43,8 @@ public:
     using Auswahl = bool (*)(const Registerbeschreibung& beschreibung);
 
     /// `weitere` is the number of exchanges that the class makes besides the walk; the progress counts them.
-    Konfigurationstransfer(Transferanzeige& die, Auswahl nimmtTeil, int weitere = 0)
-        : anzeige(die), auswahl(nimmtTeil), weitereSchritte(weitere) {}
+    Konfigurationstransfer(Transferanzeige& transferanzeige, Auswahl nimmtTeil, int weitere = 0)
+        : anzeige(transferanzeige), auswahl(nimmtTeil), weitereSchritte(weitere) {}
     Konfigurationstransfer(const Konfigurationstransfer&) = delete;
     Konfigurationstransfer& operator=(const Konfigurationstransfer&) = delete;
     virtual ~Konfigurationstransfer() = default;

@@ -16,7 +16,8 @@ constexpr std::int16_t TextUebertragungBeendet = 7009;
 
 class Lesetransfer : public Konfigurationstransfer {
 public:
-    explicit Lesetransfer(Transferanzeige& die) : Konfigurationstransfer(die, IstLesbar) {}
+    explicit Lesetransfer(Transferanzeige& transferanzeige)
+        : Konfigurationstransfer(transferanzeige, IstLesbar) {}
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }

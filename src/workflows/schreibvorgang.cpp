@@ -18,9 +18,9 @@ constexpr std::int16_t TextSpeichern = 7112;
 
 class Schreibtransfer : public Konfigurationstransfer {
 public:
-    Schreibtransfer(Transferanzeige& die, Ablage wie)
-        : Konfigurationstransfer(die, IstSchreibbar, wie == Ablage::Dauerhaft ? 1 : 0), anzeige(die),
-          ablage(wie) {}
+    Schreibtransfer(Transferanzeige& transferanzeige, Ablage wie)
+        : Konfigurationstransfer(transferanzeige, IstSchreibbar, wie == Ablage::Dauerhaft ? 1 : 0),
+          anzeige(transferanzeige), ablage(wie) {}
 
     bool Schreibe() { return UebertrageAlles() && (ablage == Ablage::Fluechtig || Speichere()); }
 

@@ -56,8 +56,8 @@ void Strahlengruppe::FuelleListen() {
     }
 }
 
-void Strahlengruppe::SetzeTexte(const Strahlentexte& die) {
-    texte = die;
+void Strahlengruppe::SetzeTexte(const Strahlentexte& neue) {
+    texte = neue;
     SetzeTag(*ui->lblAnzahlDerOptikteile, texte.anzahlDerOptikteile);
     int id = texte.strahlenanzahlL1;
     for (QLabel* const beschriftung :

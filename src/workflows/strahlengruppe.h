@@ -32,7 +32,7 @@ public:
     ~Strahlengruppe() override;
 
     /// The form's own texts; to be called before the form is localised.
-    void SetzeTexte(const Strahlentexte& die);
+    void SetzeTexte(const Strahlentexte& neue);
     /// Makes the new configuration in the register image. False, after a message, for too many beams
     /// together.
     bool Uebernimm();

@@ -12,7 +12,8 @@
 
 namespace varnoth {
 
-Transferansicht::Transferansicht(Ablaufdialog& der, const Transferfelder& die) : dialog(der), felder(die) {
+Transferansicht::Transferansicht(Ablaufdialog& ablaufdialog, const Transferfelder& transferfelder)
+    : dialog(ablaufdialog), felder(transferfelder) {
     dialog.installEventFilter(this);
 }
 

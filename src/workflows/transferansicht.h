@@ -26,7 +26,7 @@ struct Transferfelder {
 /// the next request would make every transfer slower.
 class Transferansicht : public QObject, public Transferanzeige {
 public:
-    Transferansicht(Ablaufdialog& der, const Transferfelder& die);
+    Transferansicht(Ablaufdialog& ablaufdialog, const Transferfelder& transferfelder);
     ~Transferansicht() override;
 
     void ZeigeBereich(const std::string& text) override;

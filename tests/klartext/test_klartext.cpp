@@ -16,11 +16,6 @@ namespace {
 using testing::HasSubstr;
 using namespace werteproben;
 
-class KlartextTest : public testing::Test {
-protected:
-    void TearDown() override { SetzeSprachoffset(Deutsch); }
-};
-
 Lesart In(std::int16_t sprache, std::int32_t zyklus = 1500) {
     return {.sprache = sprache, .zyklus = zyklus};
 }
@@ -35,7 +30,7 @@ std::optional<Werte> Aus(const Ort& ort, std::string_view worte, const Lesart& l
 
 } // namespace
 
-TEST_F(KlartextTest, Every_parameter_of_the_controller_has_a_name_in_both_languages) {
+TEST(KlartextTest, Every_parameter_of_the_controller_has_a_name_in_both_languages) {
     for (const Ort& ort : AlleOrte())
         for (const std::int16_t sprache : {Deutsch, Englisch}) {
             const std::string name = Parametername(ort.bereich, ort.adresse, sprache);
@@ -44,7 +39,7 @@ TEST_F(KlartextTest, Every_parameter_of_the_controller_has_a_name_in_both_langua
         }
 }
 
-TEST_F(KlartextTest, No_two_parameters_of_a_range_have_the_same_name) {
+TEST(KlartextTest, No_two_parameters_of_a_range_have_the_same_name) {
     for (const std::int16_t sprache : {Deutsch, Englisch}) {
         std::set<std::pair<Speicherbereich, std::string>> namen;
         for (const Ort& ort : AlleOrte())
@@ -52,21 +47,21 @@ TEST_F(KlartextTest, No_two_parameters_of_a_range_have_the_same_name) {
     }
 }
 
-TEST_F(KlartextTest, Names_are_the_captions_of_the_windows_without_their_colon) {
+TEST(KlartextTest, Names_are_the_captions_of_the_windows_without_their_colon) {
     EXPECT_EQ(Parametername(Global, global::PnpAusgang, Deutsch), "PNP-Ausgang");
     EXPECT_EQ(Parametername(Spezifisch, spezifisch::Reichweite, Englisch), "Sensing distance");
     EXPECT_EQ(Parametername(Kommunikation, kommunikation::Format, Deutsch), "Format zwischen Master/Slave");
     EXPECT_EQ(Parametername(Kommunikation, kommunikation::Pausenzeit, Englisch), "Pause time for answer");
 }
 
-TEST_F(KlartextTest, The_language_of_the_moment_is_taken_where_none_is_given) {
+TEST(KlartextTest, The_language_of_the_moment_is_taken_where_none_is_given) {
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Parametername(Global, global::Seriennummer), "Serial number");
     EXPECT_EQ(Klartext(Kommunikation, kommunikation::Bustyp, {7}), "7 (0x7)");
     EXPECT_EQ(Klartext(Global, global::Hardwareversion, {0}), "unknown");
 }
 
-TEST_F(KlartextTest, Where_no_parameter_starts_there_are_neither_name_nor_words) {
+TEST(KlartextTest, Where_no_parameter_starts_there_are_neither_name_nor_words) {
     for (const Ort& ort : {Ort{Global, 1}, Ort{Spezifisch, 53}, Ort{Kommunikation, -1}}) {
         EXPECT_EQ(Parametername(ort.bereich, ort.adresse, Deutsch), "");
         EXPECT_EQ(Worte(ort, {1}), "");
@@ -75,14 +70,14 @@ TEST_F(KlartextTest, Where_no_parameter_starts_there_are_neither_name_nor_words)
     }
 }
 
-TEST_F(KlartextTest, A_wrong_number_of_registers_has_no_words) {
+TEST(KlartextTest, A_wrong_number_of_registers_has_no_words) {
     EXPECT_EQ(Worte({Global, global::PnpAusgang}, {}), "");
     EXPECT_EQ(Worte({Global, global::PnpAusgang}, {1, 2}), "");
     EXPECT_EQ(Worte({Spezifisch, spezifisch::Blankingmuster}, Werte(31)), "");
     EXPECT_EQ(Aus({Global, global::Herstelldatum}, "0x1 0x2"), std::nullopt);
 }
 
-TEST_F(KlartextTest, Words_are_those_of_the_editor) {
+TEST(KlartextTest, Words_are_those_of_the_editor) {
     const std::pair<Probe, std::pair<const char*, const char*>> faelle[] = {
         {{Global, global::Geraetetyp, {50}}, {"Varnoth", "Varnoth"}},
         {{Global, global::Hardwareversion, {0x0203}}, {"2.3", "2.3"}},
@@ -119,7 +114,7 @@ TEST_F(KlartextTest, Words_are_those_of_the_editor) {
     }
 }
 
-TEST_F(KlartextTest, A_value_outside_its_list_is_told_in_decimal_and_hexadecimal) {
+TEST(KlartextTest, A_value_outside_its_list_is_told_in_decimal_and_hexadecimal) {
     const std::pair<Probe, const char*> faelle[] = {
         {{Global, global::Geraetetyp, {51}}, "51 (0x33)"},
         {{Global, global::PnpAusgang, {0x3F}}, "63 (0x3F)"},
@@ -139,7 +134,7 @@ TEST_F(KlartextTest, A_value_outside_its_list_is_told_in_decimal_and_hexadecimal
         EXPECT_EQ(Worte(probe.ort, probe.werte), worte);
 }
 
-TEST_F(KlartextTest, A_bus_type_of_1_ends_addresses_at_126_and_rates_at_127) {
+TEST(KlartextTest, A_bus_type_of_1_ends_addresses_at_126_and_rates_at_127) {
     Lesart profibus = In(Deutsch);
     profibus.bustyp = bustyp::Profibus;
     EXPECT_EQ(Worte({Kommunikation, kommunikation::Stationsadresse}, {126}, profibus), "7EH");
@@ -148,19 +143,19 @@ TEST_F(KlartextTest, A_bus_type_of_1_ends_addresses_at_126_and_rates_at_127) {
     EXPECT_EQ(Worte({Kommunikation, kommunikation::Autosend}, {0x8003}, profibus), "32771 (0x8003)");
 }
 
-TEST_F(KlartextTest, Without_a_cycle_time_durations_are_told_in_cycles) {
+TEST(KlartextTest, Without_a_cycle_time_durations_are_told_in_cycles) {
     EXPECT_EQ(Worte({Spezifisch, spezifisch::MinMaxHaltezeit}, {12}, In(Deutsch, 0)), "Zyklen: 12");
     EXPECT_EQ(Worte({Spezifisch, spezifisch::MinMaxHaltezeit}, {12}, In(Englisch, 0)), "Cycles: 12");
 }
 
-TEST_F(KlartextTest, A_number_can_be_written_as_the_system_writes_it) {
+TEST(KlartextTest, A_number_can_be_written_as_the_system_writes_it) {
     Lesart lesart = In(Deutsch);
     lesart.zahlformat = [](double zahl) { return std::to_string(static_cast<int>(zahl * 10)) + "/10"; };
     EXPECT_EQ(Worte({Spezifisch, spezifisch::MinMaxHaltezeit}, {1}, lesart), "15/10ms");
     EXPECT_EQ(Aus({Spezifisch, spezifisch::MinMaxHaltezeit}, "15/10ms", lesart), Werte{1});
 }
 
-TEST_F(KlartextTest, An_image_is_read_with_the_cycle_times_of_its_beam_counts_and_its_bus_type) {
+TEST(KlartextTest, An_image_is_read_with_the_cycle_times_of_its_beam_counts_and_its_bus_type) {
     Abbild abbild;
     ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 64, 1));
     ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 128, 2));
@@ -173,7 +168,7 @@ TEST_F(KlartextTest, An_image_is_read_with_the_cycle_times_of_its_beam_counts_an
     EXPECT_EQ(LesartFuer(abbild, Kommunikation).bustyp, bustyp::Profibus);
 }
 
-TEST_F(KlartextTest, A_status_tells_what_is_set) {
+TEST(KlartextTest, A_status_tells_what_is_set) {
     EXPECT_EQ(Worte({Global, global::Geraetestatus}, {0}), "PNP-Ausgang nicht aktiv");
     EXPECT_EQ(
         Worte({Global, global::Geraetestatus}, {0x2 | 0x4 | 0x20 | 0x8000}),
@@ -185,7 +180,7 @@ TEST_F(KlartextTest, A_status_tells_what_is_set) {
     EXPECT_EQ(Worte({Spezifisch, spezifisch::Optikteilstatus}, {0}), "nicht vorhanden");
 }
 
-TEST_F(KlartextTest, Everything_the_editor_can_store_reads_back_from_its_words_in_either_language) {
+TEST(KlartextTest, Everything_the_editor_can_store_reads_back_from_its_words_in_either_language) {
     for (const Probe& probe : AllesAusDemEditor())
         for (const std::int16_t sprache : {Deutsch, Englisch})
             for (const std::int16_t leser : {Deutsch, Englisch}) {
@@ -194,14 +189,14 @@ TEST_F(KlartextTest, Everything_the_editor_can_store_reads_back_from_its_words_i
             }
 }
 
-TEST_F(KlartextTest, What_the_editor_offers_is_told_without_a_number_of_the_register) {
+TEST(KlartextTest, What_the_editor_offers_is_told_without_a_number_of_the_register) {
     for (const Probe& probe : AllesWasDerEditorAnbietet())
         for (const std::int16_t sprache : {Deutsch, Englisch})
             ASSERT_EQ(Worte(probe.ort, probe.werte, In(sprache)).find("(0x"), std::string::npos)
                 << probe.ort.adresse << ": " << probe.werte[0];
 }
 
-TEST_F(KlartextTest, Any_value_of_any_register_reads_back_from_its_words) {
+TEST(KlartextTest, Any_value_of_any_register_reads_back_from_its_words) {
     for (const Probe& probe : Beliebige(40))
         for (const std::int16_t sprache : {Deutsch, Englisch}) {
             const std::string worte = Worte(probe.ort, probe.werte, In(sprache));
@@ -209,7 +204,7 @@ TEST_F(KlartextTest, Any_value_of_any_register_reads_back_from_its_words) {
         }
 }
 
-TEST_F(KlartextTest, No_words_of_a_list_say_two_things) {
+TEST(KlartextTest, No_words_of_a_list_say_two_things) {
     for (const Ort& ort : AlleOrte())
         for (const std::int16_t sprache : {Deutsch, Englisch})
             for (const Felder& felder : Wahlmoeglichkeiten(ort.bereich, ort.adresse, In(sprache, 1)))
@@ -223,7 +218,7 @@ TEST_F(KlartextTest, No_words_of_a_list_say_two_things) {
                 }
 }
 
-TEST_F(KlartextTest, The_choices_of_a_list_are_its_items) {
+TEST(KlartextTest, The_choices_of_a_list_are_its_items) {
     const auto fuegungen = Wahlmoeglichkeiten(Spezifisch, spezifisch::Aufloesung, In(Deutsch));
     ASSERT_EQ(fuegungen.size(), 1U);
     ASSERT_EQ(fuegungen[0].size(), 1U);
@@ -231,7 +226,7 @@ TEST_F(KlartextTest, The_choices_of_a_list_are_its_items) {
               (std::vector<Wahl>{{5, "5mm"}, {10, "10mm"}, {20, "20mm"}, {40, "40mm"}}));
 }
 
-TEST_F(KlartextTest, Of_the_autosend_register_each_mode_has_choices_of_its_own) {
+TEST(KlartextTest, Of_the_autosend_register_each_mode_has_choices_of_its_own) {
     const auto fuegungen = Wahlmoeglichkeiten(Kommunikation, kommunikation::Autosend, In(Englisch));
     std::vector<std::size_t> zusaetze;
     for (const Felder& felder : fuegungen)
@@ -239,14 +234,14 @@ TEST_F(KlartextTest, Of_the_autosend_register_each_mode_has_choices_of_its_own) 
     EXPECT_EQ(zusaetze, (std::vector<std::size_t>{1, 255, 255, 2}));
 }
 
-TEST_F(KlartextTest, Blanks_case_and_the_decimal_separator_do_not_count) {
+TEST(KlartextTest, Blanks_case_and_the_decimal_separator_do_not_count) {
     EXPECT_EQ(Aus({Spezifisch, spezifisch::Filterdurchlaeufe}, " 4.5 MS "), Werte{3});
     EXPECT_EQ(Aus({Spezifisch, spezifisch::Gruppenzaehler}, "5;oder"), Werte{0x8005});
     EXPECT_EQ(Aus({Kommunikation, kommunikation::Stationsadresse}, "f0h"), Werte{240});
     EXPECT_EQ(Aus({Kommunikation, kommunikation::Pausenzeit}, "125"), Werte{125});
 }
 
-TEST_F(KlartextTest, A_number_with_its_hexadecimal_or_that_alone_is_the_register) {
+TEST(KlartextTest, A_number_with_its_hexadecimal_or_that_alone_is_the_register) {
     const Ort aufloesung{Spezifisch, spezifisch::Aufloesung};
     EXPECT_EQ(Aus(aufloesung, "99 (0x63)"), Werte{99});
     EXPECT_EQ(Aus(aufloesung, "0x63"), Werte{99});
@@ -256,7 +251,7 @@ TEST_F(KlartextTest, A_number_with_its_hexadecimal_or_that_alone_is_the_register
     EXPECT_EQ(Aus(aufloesung, "0x14 0x15"), std::nullopt);
 }
 
-TEST_F(KlartextTest, Words_that_mean_nothing_give_nothing) {
+TEST(KlartextTest, Words_that_mean_nothing_give_nothing) {
     for (const Ort& ort : AlleOrte())
         for (const char* worte :
              {"", " ", ";", ",", "-", "5mm5", "aktiv", "0x", "0xG", "()", "\xFF\xFE", "K1; K1; K1",
@@ -271,7 +266,7 @@ TEST_F(KlartextTest, Words_that_mean_nothing_give_nothing) {
               std::nullopt);
 }
 
-TEST_F(KlartextTest, Whatever_random_words_are_read_as_is_told_in_words_that_mean_the_same) {
+TEST(KlartextTest, Whatever_random_words_are_read_as_is_told_in_words_that_mean_the_same) {
     int gelesen = 0;
     for (const auto& [ort, worte] : VerdrehteWorte(3000)) {
         const auto werte = Aus(ort, worte);

@@ -1,6 +1,5 @@
 #include "probelauf.h"
 
-#include "crc.h"
 #include "schnittstelle.h"
 #include "transaktionen.h"
 
@@ -31,7 +30,6 @@ constexpr Fehlerart Fehlerarten[] = {
 } // namespace
 
 Probelauf::Probelauf(std::uint64_t startwert, bool ausserDerReihe) : zufall(startwert) {
-    CrcTabelleAufbauen();
     regler.ausserDerReihe = ausserDerReihe;
     regler.fehler = [this] { return NaechsterFehler(); };
     modSchnittstelle::SetzePort(&regler);
@@ -162,7 +160,7 @@ void Probelauf::Waehle(int neu) {
     if (!MitVersuchen([neu] { return WaehleOptikteil(neu); }))
         return;
     teil = neu;
-    if (regler.register_.Auswahl() != neu)
+    if (regler.speicher.Auswahl() != neu)
         ++zahlen.verloreneWrites;
 }
 
@@ -203,7 +201,7 @@ void Probelauf::Lies() {
 
 void Probelauf::PruefeGelesenes(Block block, const Werte& werte) {
     for (int i = 0; i < block.anzahl; ++i) {
-        const int soll = regler.register_.Wert(block.adresse + i, teil.value_or(0));
+        const int soll = regler.speicher.Wert(block.adresse + i, teil.value_or(0));
         const int ist = werte[static_cast<std::size_t>(i)];
         if (ist == soll)
             continue;
@@ -230,7 +228,7 @@ void Probelauf::Schreib() {
 
 void Probelauf::PruefeGeschriebenes(Block block, const Werte& werte) {
     for (int i = 0; i < block.anzahl; ++i)
-        if (regler.register_.Wert(block.adresse + i, teil.value_or(0)) != werte[static_cast<std::size_t>(i)])
+        if (regler.speicher.Wert(block.adresse + i, teil.value_or(0)) != werte[static_cast<std::size_t>(i)])
             ++zahlen.verloreneWrites;
 }
 

@@ -123,7 +123,7 @@ std::string Proberegler::Lies(const std::string& anforderung) {
         return {};
     std::string antwort = Bytes({Slaveadresse, 0x03, 2 * anzahl});
     for (int i = 0; i < anzahl; ++i) {
-        const int wert = register_.Wert(adresse + i, register_.Auswahl());
+        const int wert = speicher.Wert(adresse + i, speicher.Auswahl());
         antwort += Bytes({wert / 256, wert % 256});
     }
     return MitPruefsumme(antwort);
@@ -133,9 +133,9 @@ std::string Proberegler::Schreib(const std::string& anforderung) {
     const int adresse = Wort(anforderung, 2), anzahl = Wort(anforderung, 4);
     if (anforderung.at(0) != Slaveadresse || !Proberegister::GibtEs(adresse, anzahl))
         return {};
-    const int teil = register_.Auswahl();
+    const int teil = speicher.Auswahl();
     for (int i = 0; i < anzahl; ++i)
-        register_.Wert(adresse + i, teil) =
+        speicher.Wert(adresse + i, teil) =
             static_cast<std::uint16_t>(Wort(anforderung, 7 + 2 * static_cast<std::size_t>(i)));
     return MitPruefsumme(anforderung.substr(0, 6));
 }

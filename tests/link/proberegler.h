@@ -27,7 +27,7 @@ public:
     static constexpr int Slaveadresse = 1;
     static constexpr std::string_view Identtext = "Varnoth;4711;(C) 2009";
 
-    explicit Proberegler(PruefUmgebung& die) : umgebung(die) {}
+    explicit Proberegler(PruefUmgebung& pruefumgebung) : umgebung(pruefumgebung) {}
 
     bool Oeffne(int, const std::string&) override { return offen = true; }
     void Schliesse() override { offen = false; }
@@ -45,7 +45,7 @@ public:
     /// Late replies let later ones pass.
     bool ausserDerReihe = false;
 
-    Proberegister register_;
+    Proberegister speicher;
     Probeleitung leitung;
     int anforderungen = 0;     ///< requests sent to it
     int identifikationen = 0;  ///< identification requests among them

@@ -74,8 +74,8 @@ bool IstLebend(const Ort& ort) {
 
 } // namespace
 
-Abbildpruefung::Abbildpruefung(Simulatorprozess& das, Umfang umfang)
-    : geraet(das), erlaubt(GanzesAbbild().size(), {0}) {
+Abbildpruefung::Abbildpruefung(Simulatorprozess& simulator, Umfang umfang)
+    : geraet(simulator), erlaubt(GanzesAbbild().size(), {0}) {
     const auto orte = AlleOrte();
     for (std::size_t i = 0; i < orte.size(); ++i) {
         if (WirdGelesen(orte[i]))

@@ -15,7 +15,7 @@ public:
     /// Which registers `Verstoss` looks at: all, or those that only polling ever writes.
     enum class Umfang { Alles, Livedaten };
 
-    explicit Abbildpruefung(Simulatorprozess& das, Umfang umfang = Umfang::Alles);
+    explicit Abbildpruefung(Simulatorprozess& simulator, Umfang umfang = Umfang::Alles);
 
     /// From now on every register may also hold what it holds now, what the controller would send for it now,
     /// or the 0 of a cleared image.

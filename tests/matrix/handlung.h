@@ -55,7 +55,7 @@ public:
     void await_resume() const { WirfFehler(); }
 
 private:
-    explicit Handlung(Griff der) : griff(der) {}
+    explicit Handlung(Griff neuer) : griff(neuer) {}
 
     Griff griff;
 };

@@ -25,14 +25,14 @@ public:
     /// What went wrong in the end; empty when nothing did.
     std::string Fehler() const;
     /// Looked at with every look; a text that it gives ends the play with that error.
-    void SetzeWaechter(std::function<std::string()> der) { waechter = std::move(der); }
+    void SetzeWaechter(std::function<std::string()> neuer) { waechter = std::move(neuer); }
 
     /// Called when the play ends with an error, so that the program can be brought to its end.
     void SetzeAbbruch(std::function<void()> wie) { abbruch = std::move(wie); }
 
     class Wartepunkt {
     public:
-        explicit Wartepunkt(Regie& die) : regie(die) {}
+        explicit Wartepunkt(Regie& wartende) : regie(wartende) {}
         bool await_ready() const noexcept { return false; }
         void await_suspend(std::coroutine_handle<> wer) const { regie.wartender = wer; }
         void await_resume() const { regie.WirfVersaeumnis(); }

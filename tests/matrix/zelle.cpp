@@ -64,8 +64,8 @@ Wirkung Erwartet(const Stelle& stelle, const Stoerfall& fall) {
 
 } // namespace
 
-Zelle::Zelle(const Stelle& die, const Stoerfall& der)
-    : betrieb(Speicher(), {}, {"/PVarnoth-Service1"}), stelle(die), fall(der), abbild(betrieb.geraet) {
+Zelle::Zelle(const Stelle& ort, const Stoerfall& stoerfall)
+    : betrieb(Speicher(), {}, {"/PVarnoth-Service1"}), stelle(ort), fall(stoerfall), abbild(betrieb.geraet) {
     betrieb.geraet.Befehl("scene freeze");
     abbild.Erlaube();
     regie.SetzeAbbruch([this] { betrieb.Hauptfenster().close(); });

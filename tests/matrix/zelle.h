@@ -15,7 +15,7 @@ namespace varnoth::pruefung {
 /// after it.
 class Zelle {
 public:
-    Zelle(const Stelle& die, const Stoerfall& der);
+    Zelle(const Stelle& ort, const Stoerfall& stoerfall);
 
     struct Ergebnis {
         std::string fehler; ///< empty when all was as it should be

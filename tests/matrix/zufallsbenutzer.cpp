@@ -47,7 +47,7 @@ void SchaltNachher(QAbstractButton& knopf) {
 
 } // namespace
 
-Zufallsbenutzer::Zufallsbenutzer(Betrieb& der, unsigned seed) : betrieb(der), zufall(seed) {}
+Zufallsbenutzer::Zufallsbenutzer(Betrieb& bedienter, unsigned seed) : betrieb(bedienter), zufall(seed) {}
 
 int Zufallsbenutzer::Zufall(int anzahl) {
     return static_cast<int>(zufall() % static_cast<unsigned>(anzahl));

@@ -14,7 +14,7 @@ namespace varnoth::pruefung {
 /// views, whatever the program is doing. He never ends it.
 class Zufallsbenutzer {
 public:
-    Zufallsbenutzer(Betrieb& der, unsigned seed);
+    Zufallsbenutzer(Betrieb& bedienter, unsigned seed);
 
     /// Does one thing.
     void Handle();

@@ -58,8 +58,8 @@ public:
         bool operator==(const Schreibvorgang&) const = default;
     };
 
-    int& Register(int adresse) { return register_[{Istspezifisch(adresse) ? auswahl : 0, adresse}]; }
-    int& Spezifisch(int teil, int adresse) { return register_[{teil, 0x2000 + adresse}]; }
+    int& Register(int adresse) { return inhalt[{Istspezifisch(adresse) ? auswahl : 0, adresse}]; }
+    int& Spezifisch(int teil, int adresse) { return inhalt[{teil, 0x2000 + adresse}]; }
 
     /// Asked first for each request; true swallows it.
     std::function<bool(const std::string& anforderung)> schweige;
@@ -111,7 +111,7 @@ private:
     }
 
     int auswahl = 0;
-    std::map<std::pair<int, int>, int> register_;
+    std::map<std::pair<int, int>, int> inhalt;
 };
 
 } // namespace varnoth::pruefung

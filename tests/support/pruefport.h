@@ -21,7 +21,9 @@ struct Stueck {
 /// the clock of the scripted environment.
 class PruefPort : public SeriellerPort {
 public:
-    explicit PruefPort(PruefUmgebung& die) : umgebung(die) { modSchnittstelle::SetzePort(this); }
+    explicit PruefPort(PruefUmgebung& pruefumgebung) : umgebung(pruefumgebung) {
+        modSchnittstelle::SetzePort(this);
+    }
     ~PruefPort() override { modSchnittstelle::SetzePort(nullptr); }
 
     bool Oeffne(int nummer, const std::string& einstellungen) override {

@@ -1,4 +1,4 @@
-#include "zahltext.h"
+#include "wortleser.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "zahlentext.h"
+#include "gebietszahl.h"
 
 namespace varnoth {
 
@@ -6,7 +6,7 @@ namespace {
 constexpr int Ziffern = 15; // every double that was a decimal number of so many digits comes out as that
 }
 
-std::string Zahlentext(double zahl, const QLocale& gebiet) {
+std::string Gebietszahl(double zahl, const QLocale& gebiet) {
     QLocale ohneGruppen = gebiet;
     ohneGruppen.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::OmitLeadingZeroInExponent);
     return ohneGruppen.toString(zahl, 'G', Ziffern).toStdString();
