@@ -224,6 +224,40 @@ TEST_F(PollingTest, A_failure_that_passes_is_retried_silently) {
     EXPECT_EQ(ziel.ansichten[0].ablauf, "nsbm");
 }
 
+TEST_F(PollingTest, A_success_at_the_tenth_attempt_counts_as_used_up_all_the_same) {
+    Verbinde({16});
+    int rest = 9;
+    geraet.schweige = [&rest](const std::string&) { return rest-- > 0; };
+    PollingZyklus();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3000));
+    EXPECT_EQ(geraet.geschrieben.size(), 1U) << "the tenth was answered";
+    EXPECT_TRUE(geraet.gelesen.empty());
+}
+
+TEST_F(PollingTest, The_views_hear_of_a_lost_connection_before_the_message_is_shown) {
+    Verbinde({16});
+    VerstummeBei(DevGlobal);
+    int vorDerMeldung = 0;
+    umgebung.beiMeldung = [&](const Meldung&) { vorDerMeldung = ziel.aktualisiert; };
+    PollingZyklus();
+    EXPECT_EQ(vorDerMeldung, 1);
+}
+
+TEST_F(PollingTest, The_views_hear_of_a_part_that_disappeared_before_the_message_is_shown) {
+    Verbinde({16});
+    geraet.Spezifisch(0, 44) = 0;
+    int vorDerMeldung = 0;
+    Optikteilzustand zustand = Vorhanden;
+    umgebung.beiMeldung = [&](const Meldung&) {
+        vorDerMeldung = ziel.aktualisiert;
+        zustand = GetOptikteilStatus(0);
+    };
+    PollingZyklus();
+    EXPECT_EQ(vorDerMeldung, 1);
+    EXPECT_EQ(zustand, NichtVorhanden);
+}
+
 TEST_F(PollingTest, A_lost_connection_is_over_with_the_next_pass_that_succeeds) {
     Verbinde({16});
     VerstummeBei(DevGlobal);

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace varnoth {
 
@@ -44,6 +46,19 @@ TEST_F(SchnittstelleTest, Opening_discards_what_was_waiting) {
     port.eingang = "old";
     OpenCommPort();
     EXPECT_EQ(CommPortBytesAvailable(), 0);
+}
+
+TEST_F(SchnittstelleTest, Clearing_lets_window_events_run_before_and_after_the_discarded_read) {
+    OpenCommPort();
+    const int bisher = umgebung.ereignisrunden;
+    std::vector<std::string> nochDa;
+    umgebung.beiEreignissen = [&] {
+        nochDa.push_back(port.eingang);
+        port.eingang = "came meanwhile";
+    };
+    ClearCommPort();
+    EXPECT_EQ(umgebung.ereignisrunden - bisher, 2);
+    EXPECT_EQ(nochDa, (std::vector<std::string>{"", ""}));
 }
 
 TEST_F(SchnittstelleTest, A_port_that_cannot_be_opened_stays_closed_without_a_message) {
@@ -131,6 +146,22 @@ TEST_F(SchnittstelleTest, With_tracing_on_a_timeout_is_shown_in_the_first_panel)
     OpenCommPort();
     WarteAufZeichen(1000, True);
     EXPECT_EQ(umgebung.statustexte[0], "Zeitüberschreitung, kein Zeichen empfangen. (Nur zum Testen)");
+    std::filesystem::remove(datei);
+}
+
+TEST_F(SchnittstelleTest, The_trace_has_a_clear_a_sent_frame_what_was_read_and_a_timeout_in_their_order) {
+    const auto datei = std::filesystem::temp_directory_path() / "varnoth-schnittstelle-reihenfolge.txt";
+    modTrace::Starte(datei);
+    OpenCommPort();
+    CommPortWriteOutput({"\x01\x03\xFF", 3});
+    port.eingang = "\x01";
+    CommPortReadInput();
+    WarteAufZeichen(1000, True);
+    modTrace::Schliesse();
+    std::ifstream strom(datei, std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(strom), {}),
+              "Start\r\nClearCommPort, Read: \r\nWrite: 1H 3H FFH \r\nRead: 1H \r\nZeit\xFC"
+              "berschreitung\r\n");
     std::filesystem::remove(datei);
 }
 

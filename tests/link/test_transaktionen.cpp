@@ -210,6 +210,18 @@ TEST_F(TransaktionenTest, The_command_frame_is_sent_without_waiting_for_an_answe
     EXPECT_FALSE(port.offen);
 }
 
+TEST_F(TransaktionenTest, The_command_frame_goes_out_on_a_cleared_port) {
+    Identifiziere();
+    const int geleert = port.verworfen;
+    int beimSenden = 0;
+    port.antworte = [&](const std::string&) {
+        beimSenden = port.verworfen - geleert;
+        return std::vector<Stueck>{};
+    };
+    SendeFunktion09();
+    EXPECT_EQ(beimSenden, 1);
+}
+
 TEST_F(TransaktionenTest, A_line_that_came_back_is_used_by_the_next_transaction) {
     pruefung::PruefGeraet geraet(port);
     port.offen = false;
