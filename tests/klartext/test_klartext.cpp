@@ -1,6 +1,7 @@
 #include "klartext.h"
 
 #include "registeradressen.h"
+#include "texte.h"
 #include "werteproben.h"
 #include "zykluszeiten.h"
 

@@ -2,6 +2,7 @@
 
 #include "konfigurationsdatei.h"
 #include "modelltest.h"
+#include "plausibilitaet.h"
 #include "standardkonfiguration.h"
 
 namespace varnoth {
