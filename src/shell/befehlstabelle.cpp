@@ -1,0 +1,75 @@
+#include "befehlstabelle.h"
+
+#include "texte.h"
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+
+using enum Live;
+using enum Auftritt;
+using Ziel = Befehlswirkung;
+
+constexpr Befehlszeile DieBefehle[] = {
+    {Befehl::VisualisierenStart, "mnuMessdatenVisualisierenStart", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.Verbinde(); }},
+    {Befehl::VisualisierenStop, "mnuMessdatenVisualisierenStop", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StoppeLiveDaten(); }},
+    {Befehl::LichtleisteAnzeigen, "mnuAnzeigeLichtleiste", LaeuftWeiter, Still,
+     [](Ziel& z, int teil) { z.ZeigeAnsicht(teil); }, 0, 4},
+    {Befehl::Beenden, "mnuBeenden", Stoppt, Zeigt, [](Ziel& z, int) { z.Beende(); }},
+    {Befehl::Einzelwerte, "mnuEinzelwerteLesenSchreiben", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.BearbeiteEinzelwerte(); }},
+    {Befehl::FensterNebeneinander, "mnuFensterNebeneinander", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StelleNebeneinander(); }},
+    {Befehl::FensterUeberlappend, "mnuFensterÜberlappend", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StelleUeberlappend(); }},
+    {Befehl::FensterUntereinander, "mnuFensterUntereinander", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StelleUntereinander(); }},
+    {Befehl::FirmwareUpdate, "mnuFlasher", Stoppt, Zeigt, [](Ziel& z, int) { z.ErneuereFirmware(); }},
+    {Befehl::InitHardware, "mnuInitHardware", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.InitialisiereHardware(); }},
+    {Befehl::KonfigurationAnzeigen, "mnuAnzeigeKonfiguration", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.BearbeiteKonfiguration(); }},
+    {Befehl::KonfigurationOeffnen, "mnuOeffnen", Stoppt, Zeigt,
+     [](Ziel& z, int) { z.OeffneKonfiguration(); }},
+    {Befehl::KonfigurationSpeichernUnter, "mnuSpeichernUnter", Stoppt, Zeigt,
+     [](Ziel& z, int) { z.SpeichereKonfiguration(); }},
+    {Befehl::UebertragenerWert, "mnuUebertragenerWert", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.WechsleUebertragenerWert(); }},
+    {Befehl::NeueKonfiguration, "mnuNeu", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.MacheNeueKonfiguration(); }},
+    {Befehl::ResetHardware, "mnuResetHardware", Stoppt, Zeigt,
+     [](Ziel& z, int) { z.SetzeHardwareZurueck(); }},
+    {Befehl::ComPort, "mnuCom", Stoppt, Still, [](Ziel& z, int nummer) { z.WaehleComPort(nummer); }, 1, 4},
+    {Befehl::Simulation, "mnuSimulation", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeSimulation(); }},
+    {Befehl::Hilfethemen, "mnuHilfethemen", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeHilfethemen(); }},
+    {Befehl::Info, "mnuInfo", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeInfo(); }},
+    {Befehl::AutosendStarten, "mnuAutosendStarten", Stoppt, Zeigt,
+     [](Ziel& z, int) { z.StarteAutosend(); }},
+    {Befehl::Deutsch, "mnuDeutsch", Stoppt, Still,
+     [](Ziel& z, int) { z.SchalteSprache(varnoth::Deutsch); }},
+    {Befehl::Englisch, "mnuEnglisch", Stoppt, Still,
+     [](Ziel& z, int) { z.SchalteSprache(varnoth::Englisch); }},
+};
+
+} // namespace
+
+std::span<const Befehlszeile> Befehlstabelle() {
+    return DieBefehle;
+}
+
+const Befehlszeile* ZeileZu(Befehl befehl) {
+    const auto* const zeile = std::ranges::find(DieBefehle, befehl, &Befehlszeile::befehl);
+    return zeile == std::ranges::end(DieBefehle) ? nullptr : zeile;
+}
+
+std::string Aktionsname(const Befehlszeile& zeile, int platz) {
+    if (zeile.anzahl == 1)
+        return zeile.aktion;
+    return std::string(zeile.aktion) + "_" + std::to_string(zeile.ersterIndex + platz);
+}
+
+} // namespace varnoth
