@@ -38,6 +38,10 @@ public:
     virtual void ZeigeInfo() = 0;
     virtual void StarteAutosend() = 0;
     virtual void SchalteSprache(std::int16_t offset) = 0;
+    /// Opens one of the files used last, by its place from 0.
+    virtual void OeffneLetzteDatei(int platz) = 0;
+    /// Connects to the built-in controller, which takes the place of the serial ports in this run.
+    virtual void VerbindeSimuliert() = 0;
 };
 
 /// How a command gets along with live data.
@@ -48,12 +52,13 @@ enum class Auftritt { Still, Zeigt };
 /// A command as the program knows it.
 struct Befehlszeile {
     Befehl befehl;
-    const char* aktion; ///< object name of its action; of one of several: what stands before "_" and the index
+    const char*
+        aktion; ///< object name of its action; of one of several: what stands before "_" and the index
     Live live;
     Auftritt auftritt;
     void (*tut)(Befehlswirkung& ziel, int index);
     int ersterIndex = 0;      ///< of several actions: the index of the first one
-    int anzahl = 1;           ///< how many actions the command has
+    int anzahl = 1;           ///< how many actions the command has; 0: other controls lead to it
     const char* kuerzel = ""; ///< keys, in Qt's portable form; "%1" stands for the action's place from 1
     std::int16_t textId = 0;  ///< of a command that no menu has: its text; it stands in the tool bar
     const char* symbol = "";  ///< file name of its picture without ending
@@ -67,5 +72,7 @@ const Befehlszeile* ZeileZu(Befehl befehl);
 
 /// The object name of one of a command's actions, by its place 0 .. anzahl - 1.
 std::string Aktionsname(const Befehlszeile& zeile, int platz);
+/// The keys of one of a command's actions, in Qt's portable form; empty where it has none.
+std::string Kuerzel(const Befehlszeile& zeile, int platz);
 
 } // namespace varnoth

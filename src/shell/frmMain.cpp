@@ -3,6 +3,7 @@
 #include "einstellungen.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
+#include "letztedateien.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
@@ -10,6 +11,7 @@
 #include "symbole.h"
 #include "trace.h"
 #include "ui_frmMain.h"
+#include "willkommensseite.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -51,6 +53,10 @@ frmMain::frmMain(const QString& programmordner)
     ansichten = std::make_unique<Ansichten>(*ui->mdiBereich);
     connect(ansichten.get(), &Ansichten::Gewechselt, this,
             [this](int teil, bool gezeigt) { menue.HakeAnsicht(teil, gezeigt); });
+    willkommen = new Willkommensseite(*ui->mdiBereich,
+                                      [this](Befehl befehl, int index) { befehle.Klick(befehl, index); });
+    connect(ansichten.get(), &Ansichten::ZahlGewechselt, this, &frmMain::ZeigeWillkommen);
+    ZeigeWillkommen();
     const Hauptteile teile{.fenster = *this,
                            .ansichten = *ansichten,
                            .menue = menue,
@@ -66,11 +72,18 @@ frmMain::~frmMain() = default;
 void frmMain::LiesEinstellungen() {
     Einstellungen& einstellungen = DieEinstellungen();
     WendeAn(LiesFensterplatz(einstellungen, Fensterabschnitt, {}), *this);
+    if (IstErsterStart())
+        StelleInArbeitsflaeche(size());
     modSchnittstelle::SetzeComPort(
         static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
         einstellungen.LiesText("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();
+}
+
+/// Whether no earlier run has stored a place of the window.
+bool frmMain::IstErsterStart() const {
+    return DieEinstellungen().LiesZahl(Fensterabschnitt, "Width", 0) == 0;
 }
 
 void frmMain::ZeigePort() {
@@ -82,19 +95,39 @@ void frmMain::BaueAnsichtenAuf() {
     if (!ansichten->BaueAuf())
         return;
     SchaffePlatzFuerAnsichten();
-    Ordne(Anordnung::Nebeneinander);
+    ansichten->OrdneWieZuvor();
+}
+
+/// The empty area shows what can be done.
+void frmMain::ZeigeWillkommen() {
+    const bool leer = ansichten->AnzahlGezeigter() == 0;
+    willkommen->Zeige(leer, leer ? LetzteDateien() : std::vector<std::string>());
 }
 
 /// The first time that views appear in a window nobody has sized yet, it grows to hold them side by side.
 void frmMain::SchaffePlatzFuerAnsichten() {
     constexpr QSize angenehm(310, 640);
-    if (DieEinstellungen().LiesZahl(Fensterabschnitt, "Width", 0) != 0 || isMaximized() || isFullScreen())
+    if (!IstErsterStart() || isMaximized() || isFullScreen())
         return;
-    const QRect schirm = screen()->availableGeometry();
     const QSize gewuenscht(ansichten->AnzahlGezeigter() * angenehm.width(), angenehm.height());
-    resize(size().expandedTo(gewuenscht).boundedTo(schirm.size()));
-    move(std::clamp(x(), schirm.left(), std::max(schirm.left(), schirm.right() + 1 - width())),
-         std::clamp(y(), schirm.top(), std::max(schirm.top(), schirm.bottom() + 1 - height())));
+    StelleInArbeitsflaeche(size().expandedTo(gewuenscht));
+}
+
+/// Gives the window a size, as far as its frame and all lie inside the work area of the screen. A frame that
+/// the system has not drawn yet counts as one of the usual size.
+void frmMain::StelleInArbeitsflaeche(QSize groesse) {
+    constexpr QMargins ueblich(8, 32, 8, 8);
+    const QRect innen = geometry();
+    const QRect aussen = frameGeometry();
+    const QMargins rahmen = isVisible()
+                                ? QMargins(innen.left() - aussen.left(), innen.top() - aussen.top(),
+                                           aussen.right() - innen.right(), aussen.bottom() - innen.bottom())
+                                : ueblich;
+    const QRect flaeche = screen()->availableGeometry().marginsRemoved(rahmen);
+    setMinimumSize(minimumSize().boundedTo(flaeche.size()));
+    const QRect platz = Hineingerueckt({innen.topLeft(), groesse}, flaeche);
+    resize(platz.size());
+    move(platz.topLeft() - (isVisible() ? innen.topLeft() - aussen.topLeft() : QPoint()));
 }
 
 /// Changes that are not saved keep the window open: the exit command, run from the main loop, asks for them.

@@ -24,6 +24,7 @@ class frmMain;
 }
 
 class frmDocument;
+class Willkommensseite;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
 /// A click only stores a command; the main loop runs it through MenuAusführen between two polling passes.
@@ -67,6 +68,11 @@ public:
     void ZeigeServicemenue() { menue.ZeigeService(); }
     /// Sets what shows the help topics.
     void SetzeHilfe(std::function<void()> die) { hilfe = std::move(die); }
+    /// Sets what leads the line to the built-in controller (true) or to the serial ports (false); it gives
+    /// whether that has changed anything. Without it the line always leads to the serial ports.
+    void SetzePortwechsel(std::function<bool(bool simuliert)> der) { portwechsel = std::move(der); }
+    /// Says in the status bar whether the line leads to the built-in controller.
+    void ZeigeSimuliert(bool simuliert) { status.SetzeSimuliert(simuliert); }
     /// Uses serial port 1..4 for this run, whatever the settings say.
     void NimmComPort(int nummer);
     /// Writes into panel 1..3 of the status bar.
@@ -84,8 +90,12 @@ private:
 
     void LiesEinstellungen();
     void ZeigePort();
+    bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
     void BaueAnsichtenAuf();
+    void ZeigeWillkommen();
     void SchaffePlatzFuerAnsichten();
+    void StelleInArbeitsflaeche(QSize groesse);
+    bool IstErsterStart() const;
     bool Beendet() const { return entladen || befehle.WartetAuf(Befehl::Beenden); }
     void Entlade();
 
@@ -117,13 +127,17 @@ private:
     void ZeigeInfo() override;
     void StarteAutosend() override { SubAutosendStarten(); }
     void SchalteSprache(std::int16_t offset) override;
+    void OeffneLetzteDatei(int platz) override;
+    void VerbindeSimuliert() override;
 
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;
+    std::function<bool(bool)> portwechsel;
     Befehlsspeicher befehle;
     Statusleiste status;
     Hauptmenue menue;
     std::unique_ptr<Ansichten> ansichten;
+    Willkommensseite* willkommen = nullptr;
     std::unique_ptr<Konfigurationsablauf> ablauf;
     std::unique_ptr<Geraetebetrieb> betrieb;
     bool entladen = false;

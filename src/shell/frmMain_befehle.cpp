@@ -8,6 +8,7 @@
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
 #include "konfigurationsbefehle.h"
+#include "letztedateien.h"
 #include "lokalisiereform.h"
 #include "qttexte.h"
 #include "schnittstelle.h"
@@ -31,7 +32,10 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
 }
 
 void frmMain::MenuAusführen() {
+    if (!befehle.Wartet())
+        return;
     befehle.FuehreAus(*this);
+    ZeigeWillkommen();
 }
 
 void frmMain::mnuBeenden_Click() {
@@ -102,7 +106,8 @@ void frmMain::SpeichereKonfiguration() {
 }
 
 void frmMain::WaehleComPort(int nummer) {
-    if (nummer == modSchnittstelle::GetComPort())
+    const bool zurueck = WechslePort(false);
+    if (!zurueck && nummer == modSchnittstelle::GetComPort())
         return;
     NimmComPort(nummer);
     DieEinstellungen().SchreibText("Settings", "ComPort", std::to_string(nummer));
@@ -121,7 +126,20 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     DieEinstellungen().SchreibText("Settings", "Sprache", std::to_string(offset));
     LokalisiereForm(*this);
     ansichten->Lokalisiere();
+    status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
+}
+
+void frmMain::OeffneLetzteDatei(int platz) {
+    const auto dateien = LetzteDateien();
+    if (platz < static_cast<int>(dateien.size()))
+        LadeDatei(dateien[static_cast<std::size_t>(platz)]);
+}
+
+void frmMain::VerbindeSimuliert() {
+    if (WechslePort(true))
+        menue.HakePort(0);
+    Autostart();
 }
 
 void frmMain::ZeigeSimulation() {

@@ -6,6 +6,7 @@
 #include "texte.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMainWindow>
 #include <QToolBar>
 
@@ -38,13 +39,15 @@ Hauptmenue::Hauptmenue(QMainWindow& das, Klick klick, std::span<const Befehlszei
 void Hauptmenue::Verbinde(const Befehlszeile& zeile, int platz, const Klick& klick) {
     const QString name = QString::fromStdString(Aktionsname(zeile, platz));
     QAction& aktion = zeile.textId != 0 ? Werkzeug(zeile, name) : Aktion(fenster, name);
-    QObject::connect(&aktion, &QAction::triggered, &fenster,
-                     [&aktion, klick, befehl = zeile.befehl,
-                      index = zeile.ersterIndex + platz](bool angehakt) {
-                         if (aktion.isCheckable())
-                             aktion.setChecked(!angehakt);
-                         klick(befehl, index);
-                     });
+    aktion.setShortcut(
+        QKeySequence(QString::fromStdString(Kuerzel(zeile, platz)), QKeySequence::PortableText));
+    QObject::connect(
+        &aktion, &QAction::triggered, &fenster,
+        [&aktion, klick, befehl = zeile.befehl, index = zeile.ersterIndex + platz](bool angehakt) {
+            if (aktion.isCheckable())
+                aktion.setChecked(!angehakt);
+            klick(befehl, index);
+        });
 }
 
 /// The action of a command that no menu has: a button of the tool bar. Its text follows the language as those

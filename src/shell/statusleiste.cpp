@@ -2,12 +2,20 @@
 
 #include "geraetepfade.h"
 #include "schnittstelle.h"
+#include "texte.h"
 #include "umgebung.h"
 
 #include <QLabel>
 #include <QStatusBar>
 
 namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextSimuliert = 9220;
+constexpr std::int16_t TextOhneAnschluss = 9221;
+
+} // namespace
 
 Statusleiste::Statusleiste(QStatusBar& leiste) {
     for (std::size_t i = 0; i < felder.size(); ++i) {
@@ -27,8 +35,15 @@ void Statusleiste::Zeige(int feld, const std::string& text) {
 
 void Statusleiste::ZeigePort() {
     const int nummer = modSchnittstelle::GetComPort();
-    Zeige(FeldPort, "COM" + std::to_string(nummer) + ": " + modSchnittstelle::GetComSettings());
-    felder[FeldPort - 1]->setToolTip(QString::fromStdString(Geraetepfad(nummer)));
+    Zeige(FeldPort, simuliert ? LadeText(TextSimuliert)
+                              : "COM" + std::to_string(nummer) + ": " + modSchnittstelle::GetComSettings());
+    felder[FeldPort - 1]->setToolTip(
+        QString::fromStdString(simuliert ? LadeText(TextOhneAnschluss) : Geraetepfad(nummer)));
+}
+
+void Statusleiste::SetzeSimuliert(bool ist) {
+    simuliert = ist;
+    ZeigePort();
 }
 
 } // namespace varnoth

@@ -37,6 +37,9 @@ struct PruefWirkung : Befehlswirkung {
     void StarteAutosend() override { getan = "autosend"; }
     void SchalteSprache(std::int16_t offset) override { getan = "language " + std::to_string(offset); }
 
+    void OeffneLetzteDatei(int platz) override { getan = "last file " + std::to_string(platz); }
+    void VerbindeSimuliert() override { getan = "simulated"; }
+
     std::string getan;
 };
 
@@ -66,14 +69,40 @@ TEST(Befehlstabelle, Every_command_has_one_row) {
 }
 
 TEST(Befehlstabelle, Every_command_does_its_own_work) {
-    const char* const arbeiten[] = {"connect",   "stop",           "view 2",     "exit",    "single values",
-                                    "side by side", "cascade",     "stacked",    "firmware", "initialise",
-                                    "editor",    "open",           "save",       "transmitted value", "new",
-                                    "reset",     "port 2",         "calculator", "help",    "about",
-                                    "autosend",  "language 0",     "language 10000"};
+    const char* const arbeiten[] = {"connect",       "stop",
+                                    "view 2",        "exit",
+                                    "single values", "side by side",
+                                    "cascade",       "stacked",
+                                    "firmware",      "initialise",
+                                    "editor",        "open",
+                                    "save",          "transmitted value",
+                                    "new",           "reset",
+                                    "port 2",        "calculator",
+                                    "help",          "about",
+                                    "autosend",      "language 0",
+                                    "language 10000"};
     int code = 0;
     for (const char* const arbeit : arbeiten)
         EXPECT_EQ(GetanVon(++code), arbeit) << "code " << code;
+    EXPECT_EQ(GetanVon(101), "last file 2");
+    EXPECT_EQ(GetanVon(102), "simulated");
+}
+
+TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
+    const std::pair<Befehl, const char*> tasten[] = {
+        {Befehl::NeueKonfiguration, "Ctrl+N"},
+        {Befehl::KonfigurationOeffnen, "Ctrl+O"},
+        {Befehl::KonfigurationSpeichernUnter, "Ctrl+S"},
+        {Befehl::Beenden, "Ctrl+Q"},
+        {Befehl::VisualisierenStart, "F5"},
+        {Befehl::VisualisierenStop, "Shift+F5"},
+        {Befehl::KonfigurationAnzeigen, "Ctrl+K"},
+        {Befehl::ResetHardware, ""},
+    };
+    for (const auto& [befehl, taste] : tasten)
+        EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
+    for (int teil = 0; teil < 4; ++teil)
+        EXPECT_EQ(Kuerzel(*ZeileZu(Befehl::LichtleisteAnzeigen), teil), "Ctrl+" + std::to_string(teil + 1));
 }
 
 TEST(Befehlstabelle, No_action_belongs_to_two_commands) {

@@ -1,8 +1,12 @@
 #include "frmMain.h"
 
 #include "crc.h"
+#include "dateidialog.h"
+#include "dateien.h"
 #include "fenstertest.h"
 #include "frmDocument.h"
+#include "konfigurationsdatei.h"
+#include "letztedateien.h"
 #include "pruefgeraet.h"
 #include "qttexte.h"
 #include "registerabbild.h"
@@ -21,7 +25,9 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -601,6 +607,96 @@ TEST_F(FrmMainTest, The_about_box_shows_product_and_owner_and_closes_on_Enter) {
     Waehle("mnuInfo");
     EXPECT_EQ(produkt, "Varnoth  Softwareversion 1.0.0");
     EXPECT_TRUE(eigentuemer.contains(QChar(169)));
+}
+
+TEST_F(FrmMainTest, Yes_to_saving_and_a_cancelled_dialog_keep_the_window_open_and_ask_no_more) {
+    SetzeDateiantwort([](const Dateifrage&) -> std::optional<std::string> { return std::nullopt; });
+    Fenster();
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Ja};
+    Fenster().close();
+    Fenster().MenuAusführen();
+    Fenster().MenuAusführen();
+    SetzeDateiantwort({});
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(Fenster().OffeneFormulare(), 1);
+    EXPECT_TRUE(Fenster().isVisible());
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(FrmMainTest, The_menu_items_show_their_keys) {
+    const std::pair<const char*, const char*> tasten[] = {
+        {"mnuNeu", "Ctrl+N"},
+        {"mnuOeffnen", "Ctrl+O"},
+        {"mnuSpeichernUnter", "Ctrl+S"},
+        {"mnuBeenden", "Ctrl+Q"},
+        {"mnuMessdatenVisualisierenStart", "F5"},
+        {"mnuMessdatenVisualisierenStop", "Shift+F5"},
+        {"mnuAnzeigeKonfiguration", "Ctrl+K"},
+        {"mnuAnzeigeLichtleiste_0", "Ctrl+1"},
+        {"mnuAnzeigeLichtleiste_3", "Ctrl+4"},
+        {"mnuInfo", ""},
+    };
+    for (const auto& [name, taste] : tasten)
+        EXPECT_EQ(Aktion(name).shortcut().toString(QKeySequence::PortableText), taste) << name;
+}
+
+TEST_F(FrmMainTest, A_key_stores_the_command_of_its_menu_item) {
+    Fenster().activateWindow();
+    ASSERT_TRUE(pruefung::WarteBis([this] { return Fenster().isActiveWindow(); }));
+    QTest::keyClick(&Fenster(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(Fenster().BefehlWartet());
+    Fenster().MenuAusführen();
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+}
+
+TEST_F(FrmMainTest, The_empty_window_shows_what_can_be_done_until_a_view_is_shown) {
+    const auto willkommen = [this] { return Fenster().findChild<QWidget*>("Willkommensseite")->isVisible(); };
+    EXPECT_TRUE(willkommen());
+    SchliesseAn({32, 64, 0, 0});
+    Fenster().Autostart();
+    EXPECT_FALSE(willkommen());
+    Fenster().Fenster(0).parentWidget()->close();
+    EXPECT_FALSE(willkommen());
+    Fenster().Fenster(1).parentWidget()->close();
+    EXPECT_TRUE(willkommen());
+    Waehle("mnuAnzeigeLichtleiste_1");
+    EXPECT_FALSE(willkommen());
+}
+
+TEST_F(FrmMainTest, The_welcome_page_switches_its_language) {
+    Waehle("mnuEnglisch");
+    EXPECT_EQ(Fenster().findChild<QPushButton*>("cmdWillkommenVerbinden")->text(), "Connect");
+    Waehle("mnuDeutsch");
+    EXPECT_EQ(Fenster().findChild<QPushButton*>("cmdWillkommenVerbinden")->text(), "Verbinden");
+    LadeQtTexte(Englisch);
+}
+
+TEST_F(FrmMainTest, A_click_on_a_file_used_last_loads_it) {
+    QTemporaryDir ordner;
+    const std::string pfad = ordner.filePath("a.con").toStdString();
+    Fenster();
+    modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {32});
+    ASSERT_EQ(ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei()), "");
+    modDaten::LadeStandardkonfiguration();
+    MerkeDatei(pfad);
+    Waehle("mnuUebertragenerWert");
+    auto* const knopf = Fenster().findChild<QPushButton*>("cmdWillkommenDatei_1");
+    EXPECT_EQ(knopf->text(), "a.con") << "the page follows the list after each command";
+    knopf->click();
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 0) << "a click only stores the command";
+    Fenster().MenuAusführen();
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
+    EXPECT_TRUE(Fenster().Fenster(0).isVisible());
+}
+
+TEST_F(FrmMainTest, The_first_views_leave_the_window_inside_the_work_area) {
+    SchliesseAn({32, 64, 96, 128});
+    Fenster().move(600, 500);
+    Fenster().Autostart();
+    const QRect flaeche = Fenster().screen()->availableGeometry();
+    EXPECT_TRUE(flaeche.contains(Fenster().frameGeometry()));
+    EXPECT_GE(Fenster().height(), 640);
 }
 
 TEST_F(FrmMainTest, The_three_status_panels_take_texts) {
