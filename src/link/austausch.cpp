@@ -1,6 +1,7 @@
 #include "austausch.h"
 
 #include "erkenner.h"
+#include "leitungsstatistik.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
 #include "zuordnung.h"
@@ -86,13 +87,7 @@ bool Bereite(const std::string& anforderung, Verlass verlass) {
     return GetPortIstOffen() == True; // a command may have closed it meanwhile
 }
 
-} // namespace
-
-void Zuruecksetzen() {
-    zuordnung = {};
-}
-
-bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
+bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     HoleVerlorenenPortZurueck();
     if (!Bereite(anforderung, verlass))
         return false;
@@ -103,6 +98,19 @@ bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass
     if (erkenner.Ueberzaehlig())
         zuordnung.Ueberzaehliges();
     return true;
+}
+
+} // namespace
+
+void Zuruecksetzen() {
+    zuordnung = {};
+}
+
+bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
+    modLeitungsstatistik::Beginnt();
+    const bool gelungen = TauscheAus(anforderung, erkenner, verlass);
+    modLeitungsstatistik::Endet(gelungen, GetPortIstOffen() == True);
+    return gelungen;
 }
 
 void SendeOhneAntwort(const std::string& rahmen) {

@@ -1,5 +1,6 @@
 #include "schnittstelle.h"
 
+#include "leitungsstatistik.h"
 #include "trace.h"
 
 #include <algorithm>
@@ -66,6 +67,7 @@ void SetzePort(SeriellerPort* port) {
 void Zuruecksetzen() {
     CloseCommPort();
     zustand = {};
+    modLeitungsstatistik::Zuruecksetzen();
 }
 
 void SetzeComPort(std::int16_t nummer) {
@@ -88,6 +90,7 @@ void OpenCommPort() {
     CloseCommPort();
     DieUmgebung().LasseEreignisseLaufen();
     zustand.sollOffenSein = true;
+    modLeitungsstatistik::NeueReihe();
     OeffnePort();
     ClearCommPort();
 }
@@ -101,6 +104,18 @@ void CloseCommPort() {
 
 Boolean GetPortIstOffen() {
     return zustand.portIstOffen;
+}
+
+Anschluss GetAnschluss() {
+    return derPort != nullptr ? derPort->AnschlussVon(zustand.comPort) : Anschluss{};
+}
+
+Portbefund GetPortbefund() {
+    return derPort != nullptr ? derPort->BefundVon(zustand.comPort) : Portbefund{};
+}
+
+std::string GetPortfehler() {
+    return derPort != nullptr ? derPort->Fehlertext() : std::string();
 }
 
 void HoleVerlorenenPortZurueck() {
@@ -131,6 +146,7 @@ std::string CommPortReadInput() {
         return {};
     std::string bytes = derPort->LiesAlles();
     modTrace::SchreibeLesung(bytes);
+    modLeitungsstatistik::Empfangen(bytes);
     MerkeAktivitaet();
     if (!bytes.empty())
         zustand.letzterEingang = zustand.letzteAktivitaet;
@@ -145,6 +161,7 @@ void CommPortWriteOutput(std::string_view daten) {
         DieUmgebung().WarteAufEreignis(frei - jetzt);
     derPort->Schreibe(daten);
     modTrace::SchreibeSendung(daten);
+    modLeitungsstatistik::Gesendet(daten);
 }
 
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {

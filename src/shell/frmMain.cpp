@@ -11,6 +11,7 @@
 #include "symbole.h"
 #include "trace.h"
 #include "ui_frmMain.h"
+#include "verbindungsanzeige.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -61,6 +62,8 @@ frmMain::frmMain(const QString& programmordner)
                            .ansichten = *ansichten,
                            .menue = menue,
                            .status = status,
+                           .verbindung = *new Verbindungsanzeige(
+                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); }),
                            .baueAnsichtenAuf = [this] { BaueAnsichtenAuf(); },
                            .beendet = [this] { return Beendet(); }};
     ablauf = std::make_unique<Konfigurationsablauf>(teile);

@@ -16,6 +16,7 @@
 #include "texte.h"
 #include "transaktionen.h"
 #include "umgebung.h"
+#include "verbindungsanzeige.h"
 
 #include <QDir>
 
@@ -50,7 +51,9 @@ Geraetebetrieb::~Geraetebetrieb() {
 }
 
 void Geraetebetrieb::Verbinde() {
+    teile.verbindung.SetzeVerbindet(true);
     Autostart(*this);
+    teile.verbindung.SetzeVerbindet(false);
 }
 
 void Geraetebetrieb::StoppeLiveDaten() {
@@ -128,6 +131,7 @@ bool Geraetebetrieb::HoleOptikteilInformation() {
 }
 
 bool Geraetebetrieb::FrageNachKonfiguration() {
+    teile.verbindung.SetzeVerbindet(false);
     return ablauf.FrageNachKonfiguration();
 }
 

@@ -9,6 +9,7 @@ namespace varnoth {
 class Ansichten;
 class Hauptmenue;
 class Statusleiste;
+class Verbindungsanzeige;
 
 /// The parts of the main window that its flows work with.
 struct Hauptteile {
@@ -16,6 +17,7 @@ struct Hauptteile {
     Ansichten& ansichten;
     Hauptmenue& menue;
     Statusleiste& status;
+    Verbindungsanzeige& verbindung;
     std::function<void()> baueAnsichtenAuf; ///< the views follow the beam counts in the image
     std::function<bool()> beendet;          ///< whether the program is to end: nothing more is shown or asked
 };

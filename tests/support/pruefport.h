@@ -35,6 +35,8 @@ public:
     }
     bool IstOffen() override { return offen; }
     std::string Fehlertext() const override { return offen ? "" : "no such port"; }
+    Anschluss AnschlussVon(int /*nummer*/) const override { return anschluss; }
+    Portbefund BefundVon(int /*nummer*/) const override { return befund; }
     void Verwirf() override {
         NimmAngekommenes();
         ++verworfen;
@@ -67,6 +69,8 @@ public:
 
     bool offen = false;
     bool oeffnenGelingt = true;
+    Anschluss anschluss{.geraet = "/dev/pruefung"};
+    Portbefund befund;
     int geschlossen = 0;
     int verworfen = 0;
     std::string eingang;

@@ -705,4 +705,43 @@ TEST_F(FrmMainTest, The_three_status_panels_take_texts) {
     EXPECT_EQ(Statusfeld(FeldPort).text(), "COM1: 38400,n,8,2");
 }
 
+TEST_F(FrmMainTest,
+       The_connection_part_says_that_a_command_has_stopped_live_data_and_starts_it_at_one_click) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    auto& text = *Fenster().findChild<QLabel*>(QStringLiteral("lblVerbindung"));
+    auto& start = *Fenster().findChild<QPushButton*>(QStringLiteral("cmdVerbindungStart"));
+    EXPECT_EQ(text.text(), "Live");
+    EXPECT_FALSE(start.isVisible());
+    Waehle("mnuEnglisch");
+    EXPECT_TRUE(pruefung::WarteBis([&] { return text.text().startsWith("Live data stopped since "); }));
+    ASSERT_TRUE(start.isVisible());
+    start.click();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False) << "a click only stores the command";
+    Fenster().MenuAusführen();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+    EXPECT_EQ(text.text(), "Live");
+}
+
+TEST_F(FrmMainTest, The_connection_part_says_that_it_connects_until_the_user_is_asked_for_a_configuration) {
+    geraet.schweige = [](const std::string&) { return true; };
+    auto& text = *Fenster().findChild<QLabel*>(QStringLiteral("lblVerbindung"));
+    QString dabei, danach;
+    umgebung.beiMeldung = [&](const Meldung&) { dabei = text.text(); };
+    Sobald("frmKeinKonturAngeschlossen", [&](QDialog& dialog) {
+        danach = text.text();
+        dialog.reject();
+    });
+    Fenster().Autostart();
+    EXPECT_EQ(dabei, "Verbinde...");
+    EXPECT_TRUE(danach.startsWith("Offline seit ")) << danach.toStdString();
+}
+
+TEST_F(FrmMainTest, The_connection_part_leaves_the_three_panels_where_they_are) {
+    const auto* leiste = Fenster().statusBar();
+    for (const char* feld : {"sbStatusBar_1", "sbStatusBar_2", "sbStatusBar_3"})
+        EXPECT_EQ(leiste->findChild<QLabel*>(feld)->parentWidget(), leiste) << feld;
+    EXPECT_TRUE(leiste->findChild<QWidget*>("Verbindungsanzeige")->isVisible());
+}
+
 } // namespace varnoth
