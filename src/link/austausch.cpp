@@ -1,6 +1,7 @@
 #include "austausch.h"
 
 #include "erkenner.h"
+#include "leitungsstatistik.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
 #include "startzustand.h"
@@ -88,9 +89,7 @@ bool Bereite(const std::string& anforderung, Verlass verlass) {
     return GetPortIstOffen() == True; // a command may have closed it meanwhile
 }
 
-} // namespace
-
-bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
+bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     HoleVerlorenenPortZurueck();
     if (!Bereite(anforderung, verlass))
         return false;
@@ -101,6 +100,15 @@ bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass
     if (erkenner.Ueberzaehlig())
         zuordnung.Ueberzaehliges();
     return true;
+}
+
+} // namespace
+
+bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
+    modLeitungsstatistik::Beginnt();
+    const bool gelungen = TauscheAus(anforderung, erkenner, verlass);
+    modLeitungsstatistik::Endet(gelungen, GetPortIstOffen() == True);
+    return gelungen;
 }
 
 void SendeOhneAntwort(const std::string& rahmen) {

@@ -1,5 +1,6 @@
 #include "schnittstelle.h"
 
+#include "leitungsstatistik.h"
 #include "startzustand.h"
 #include "trace.h"
 
@@ -85,6 +86,7 @@ void OpenCommPort() {
     CloseCommPort();
     DieUmgebung().LasseEreignisseLaufen();
     zustand.sollOffenSein = true;
+    modLeitungsstatistik::NeueReihe();
     OeffnePort();
     ClearCommPort();
 }
@@ -98,6 +100,18 @@ void CloseCommPort() {
 
 Boolean GetPortIstOffen() {
     return zustand.portIstOffen;
+}
+
+Anschluss GetAnschluss() {
+    return derPort != nullptr ? derPort->AnschlussVon(zustand.comPort) : Anschluss{};
+}
+
+Portbefund GetPortbefund() {
+    return derPort != nullptr ? derPort->BefundVon(zustand.comPort) : Portbefund{};
+}
+
+std::string GetPortfehler() {
+    return derPort != nullptr ? derPort->Fehlertext() : std::string();
 }
 
 void HoleVerlorenenPortZurueck() {
@@ -128,6 +142,7 @@ std::string CommPortReadInput() {
         return {};
     std::string bytes = derPort->LiesAlles();
     modTrace::SchreibeLesung(bytes);
+    modLeitungsstatistik::Empfangen(bytes);
     MerkeAktivitaet();
     if (!bytes.empty())
         zustand.letzterEingang = zustand.letzteAktivitaet;
@@ -142,6 +157,7 @@ void CommPortWriteOutput(std::string_view daten) {
         DieUmgebung().WarteAufEreignis(frei - jetzt);
     derPort->Schreibe(daten);
     modTrace::SchreibeSendung(daten);
+    modLeitungsstatistik::Gesendet(daten);
 }
 
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {

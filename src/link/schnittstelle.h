@@ -31,6 +31,12 @@ void OpenCommPort();
 void CloseCommPort();
 /// The port's open state as last read back from it.
 Boolean GetPortIstOffen();
+/// What the port number in use leads to.
+Anschluss GetAnschluss();
+/// What stands in the way of the port in use, looked for now.
+Portbefund GetPortbefund();
+/// Why the port could not be opened last, in words; empty when it could.
+std::string GetPortfehler();
 
 /// Opens the port anew if it was open and its line has disappeared. Nothing happens when the line is still
 /// away.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "anschluss.h"
 #include "umgebung.h"
 
 #include <cstddef>
@@ -32,6 +33,11 @@ public:
     virtual bool IstOffen() = 0;
     /// Why the last Oeffne failed, in the system's words.
     virtual std::string Fehlertext() const = 0;
+    /// What port 1..4 leads to.
+    virtual Anschluss AnschlussVon(int /*nummer*/) const { return {}; }
+    /// What stands in the way of port 1..4, looked for now; why its last Oeffne failed plays a part. Takes
+    /// some milliseconds.
+    virtual Portbefund BefundVon(int /*nummer*/) const { return {}; }
 
     /// Discards what was received.
     virtual void Verwirf() = 0;

@@ -1,5 +1,6 @@
 #include "qtseriellerport.h"
 
+#include "geraetebefund.h"
 #include "geraetepfade.h"
 #include "porteinstellungen.h"
 
@@ -110,6 +111,7 @@ QtSeriellerPort::QtSeriellerPort() {
 bool QtSeriellerPort::Oeffne(int nummer, const std::string& einstellungen) {
     Schliesse();
     const auto gelesen = LiesPorteinstellungen(einstellungen);
+    einstellungFalsch = !gelesen;
     if (!gelesen) {
         fehlertext = "\"" + einstellungen + "\": baud rate, parity, data bits, stop bits expected";
         return false;
@@ -117,6 +119,7 @@ bool QtSeriellerPort::Oeffne(int nummer, const std::string& einstellungen) {
     port.setPortName(QString::fromStdString(Geraetepfad(nummer)));
     Stelle(port, *gelesen);
     const bool offen = port.open(QIODevice::ReadWrite);
+    oeffnungsfehler = offen ? QSerialPort::NoError : port.error();
     fehlertext = offen ? std::string() : port.errorString().toStdString();
     if (offen)
         SchalteLeitungenEin();
@@ -141,6 +144,36 @@ bool QtSeriellerPort::IstOffen() {
     if (port.isOpen() && LeitungIstWeg(port))
         Schliesse();
     return port.isOpen();
+}
+
+Anschluss QtSeriellerPort::AnschlussVon(int nummer) const {
+    return {.geraet = Geraetepfad(nummer)};
+}
+
+Portbefund QtSeriellerPort::BefundVon(int nummer) const {
+    if (einstellungFalsch)
+        return {.hindernis = Hindernis::Einstellung};
+    const std::string pfad = Geraetepfad(nummer);
+    Portbefund befund = BefundDesGeraets(pfad);
+    befund.prozesse = ProzesseAn(pfad);
+    if (befund.hindernis == Hindernis::Keines)
+        befund.hindernis = HindernisNachFehler();
+    return befund;
+}
+
+/// What the failure of opening tells where nothing is wrong with the device's path and rights.
+Hindernis QtSeriellerPort::HindernisNachFehler() const {
+    switch (oeffnungsfehler) {
+    case QSerialPort::NoError:
+        return Hindernis::Keines;
+    case QSerialPort::PermissionError: // the system says busy
+        return Hindernis::Belegt;
+    case QSerialPort::DeviceNotFoundError:
+    case QSerialPort::ResourceError: // a name of the system without a port behind it
+        return Hindernis::Fehlt;
+    default:
+        return Hindernis::Systemfehler;
+    }
 }
 
 void QtSeriellerPort::Verwirf() {

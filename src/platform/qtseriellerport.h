@@ -15,6 +15,8 @@ public:
     void Schliesse() override;
     bool IstOffen() override;
     std::string Fehlertext() const override { return fehlertext; }
+    Anschluss AnschlussVon(int nummer) const override;
+    Portbefund BefundVon(int nummer) const override;
 
     void Verwirf() override;
     std::size_t BytesWartend() override;
@@ -24,6 +26,7 @@ public:
     void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
 
 private:
+    Hindernis HindernisNachFehler() const;
     void BeiFehler(QSerialPort::SerialPortError fehler);
     void BeiEingang();
     void SchalteLeitungenEin();
@@ -32,6 +35,8 @@ private:
     QSerialPort port;
     std::function<void(int)> ereignisbehandlung;
     std::string fehlertext;
+    QSerialPort::SerialPortError oeffnungsfehler = QSerialPort::NoError;
+    bool einstellungFalsch = false;
     bool leitungenWerdenGeschaltet = false;
     Zeit naechsterFensterblick{0};
 };

@@ -19,6 +19,10 @@ bool SimulatorPort::Oeffne(int /*nummer*/, const std::string& einstellungen) {
     return offen;
 }
 
+Portbefund SimulatorPort::BefundVon(int /*nummer*/) const {
+    return {.hindernis = fehlertext.empty() ? Hindernis::Keines : Hindernis::Einstellung};
+}
+
 void SimulatorPort::Schliesse() {
     offen = false;
     eingang.clear();

@@ -21,6 +21,8 @@ public:
     void Schliesse() override;
     bool IstOffen() override { return offen; }
     std::string Fehlertext() const override { return fehlertext; }
+    Anschluss AnschlussVon(int /*nummer*/) const override { return {.simuliert = true}; }
+    Portbefund BefundVon(int nummer) const override;
 
     void Verwirf() override;
     std::size_t BytesWartend() override;

@@ -33,8 +33,8 @@ constexpr std::int16_t TextSchonGestartet = 6001;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
 constexpr const char* Datenordner = "../share/varnoth/"; // of an installed program, from its own folder
 
-std::unique_ptr<SeriellerPort> MachePort(const Kommandozeile& kommandozeile) {
-    if (kommandozeile.simulator)
+std::unique_ptr<SeriellerPort> MachePort(bool simuliert) {
+    if (simuliert)
         return std::make_unique<SimulatorPort>();
     return std::make_unique<QtSeriellerPort>();
 }
@@ -48,8 +48,8 @@ double Sekundenuhr() {
 Anwendung::Anwendung(Startbedingungen start)
     : bedingungen(std::move(start)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
       einstellungen(Einstellungspfad(bedingungen.programmordner, bedingungen.programmname)),
-      sperre(bedingungen.programmname, bedingungen.sperrordner), port(MachePort(kommandozeile)),
-      hilfe([this] { return Hilfedatei(); }),
+      sperre(bedingungen.programmname, bedingungen.sperrordner), simuliert(kommandozeile.simulator),
+      port(MachePort(simuliert)), hilfe([this] { return Hilfedatei(); }),
       hilfetaste([this](QWidget* stelle) { hilfe.ZeigeSeiteZu(stelle); }) {
     SetzeGeraetepfad(kommandozeile.geraet.toStdString());
     modSchnittstelle::SetzePort(port.get());
@@ -90,6 +90,8 @@ bool Anwendung::IstErsteInstanz() {
 void Anwendung::LadeHauptfenster() {
     hauptfenster = std::make_unique<frmMain>(bedingungen.programmordner);
     hauptfenster->ZeigeSprache();
+    hauptfenster->SetzePortwechsel([this](bool soll) { return WechslePort(soll); });
+    hauptfenster->ZeigeSimuliert(simuliert);
     hauptfenster->SetzeHilfe([this] { hilfe.ZeigeThemen(hauptfenster.get()); });
     umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
     umgebung.SetzeStatusanzeige(
@@ -121,6 +123,21 @@ bool Anwendung::StarteTrace() {
     if (!fehler.empty())
         ZeigeWarnung(fehler);
     return fehler.empty();
+}
+
+/// Leads the line to the built-in controller or back to the serial ports; with the switch for the built-in
+/// controller it always leads there. True when that has changed anything.
+bool Anwendung::WechslePort(bool soll) {
+    soll = soll || kommandozeile.simulator;
+    if (soll == simuliert)
+        return false;
+    modSchnittstelle::CloseCommPort();
+    auto neuer = MachePort(soll);
+    modSchnittstelle::SetzePort(neuer.get());
+    port = std::move(neuer);
+    simuliert = soll;
+    hauptfenster->ZeigeSimuliert(simuliert);
+    return true;
 }
 
 void Anwendung::Verbinde() {

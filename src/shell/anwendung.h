@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogplatz.h"
 #include "fensterumgebung.h"
 #include "frmMain.h"
 #include "hilfe.h"
@@ -57,6 +58,7 @@ private:
     void ZeigeSplash();
     bool WerteKommandozeileAus();
     bool StarteTrace();
+    bool WechslePort(bool simuliert);
 
     Startzustand startzustand; ///< comes first: what is fitted in below stays
     Startbedingungen bedingungen;
@@ -64,10 +66,12 @@ private:
     Fensterumgebung umgebung;
     IniEinstellungen einstellungen;
     Instanzsperre sperre;
+    bool simuliert;
     std::unique_ptr<SeriellerPort> port;
     std::unique_ptr<frmMain> hauptfenster;
     Hilfe hilfe;
     Hilfetaste hilfetaste;
+    Dialogplatz dialogplatz;
 };
 
 } // namespace varnoth

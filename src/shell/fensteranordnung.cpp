@@ -35,4 +35,12 @@ std::vector<QRect> OrdneAn(Anordnung art, int anzahl, QSize flaeche, QSize klein
     return plaetze;
 }
 
+QRect Hineingerueckt(const QRect& fenster, const QRect& flaeche) {
+    const QSize groesse = fenster.size().boundedTo(flaeche.size());
+    const QPoint letzteEcke = flaeche.bottomRight() - QPoint(groesse.width() - 1, groesse.height() - 1);
+    return {{std::clamp(fenster.x(), flaeche.x(), letzteEcke.x()),
+             std::clamp(fenster.y(), flaeche.y(), letzteEcke.y())},
+            groesse};
+}
+
 } // namespace varnoth

@@ -13,4 +13,7 @@ enum class Anordnung { Nebeneinander, Untereinander };
 /// or in as many rows or columns as leave each window its least size, if that is possible at all.
 std::vector<QRect> OrdneAn(Anordnung art, int anzahl, QSize flaeche, QSize kleinste);
 
+/// A window's place, no larger than an area and moved so far that it lies inside.
+QRect Hineingerueckt(const QRect& fenster, const QRect& flaeche);
+
 } // namespace varnoth

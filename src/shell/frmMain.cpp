@@ -1,25 +1,25 @@
 #include "frmMain.h"
 
-#include "ansichtstitel.h"
 #include "einstellungen.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
-#include "geraetepfade.h"
+#include "letztedateien.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
 #include "standardkonfiguration.h"
 #include "symbole.h"
-#include "texte.h"
 #include "trace.h"
 #include "ui_frmMain.h"
+#include "verbindungsanzeige.h"
+#include "willkommensseite.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
-#include <QLabel>
+#include <QScreen>
 
-#include <utility>
+#include <algorithm>
 
 namespace varnoth {
 
@@ -27,6 +27,12 @@ namespace {
 
 constexpr int KleinsteBreite = 3700; // twips
 constexpr int KleinsteHoehe = 5040;
+
+std::unique_ptr<Ui::frmMain> MacheForm(QMainWindow& fenster) {
+    auto form = std::make_unique<Ui::frmMain>();
+    form->setupUi(&fenster);
+    return form;
+}
 
 void SchliesseDialoge() {
     for (QWidget* fenster : QApplication::topLevelWidgets())
@@ -36,45 +42,41 @@ void SchliesseDialoge() {
 
 } // namespace
 
-struct frmMain::Menuezeile {
-    const char* name;
-    Befehl befehl;
-    int index = 0;
-};
-
-frmMain::frmMain(QString ordner) : ui(std::make_unique<Ui::frmMain>()), programmordner(std::move(ordner)) {
-    ui->setupUi(this);
+frmMain::frmMain(const QString& programmordner)
+    : ui(MacheForm(*this)), status(*ui->sbStatusBar),
+      menue(*this, [this](Befehl befehl, int index) { befehle.Klick(befehl, index); }) {
     QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));
-    RichteStatusleisteEin();
     LokalisiereForm(*this);
     LiesEinstellungen();
     modDaten::InitRegisterbeschreibung();
     modDaten::LadeStandardkonfiguration();
-    VerbindeMenue();
-    SetzeMessdatenMenue(0);
-    for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil)
-        LadeAnsicht(teil);
-    modPolling::SetzeZiel(this);
+    ansichten = std::make_unique<Ansichten>(*ui->mdiBereich);
+    connect(ansichten.get(), &Ansichten::Gewechselt, this,
+            [this](int teil, bool gezeigt) { menue.HakeAnsicht(teil, gezeigt); });
+    willkommen = new Willkommensseite(*ui->mdiBereich,
+                                      [this](Befehl befehl, int index) { befehle.Klick(befehl, index); });
+    connect(ansichten.get(), &Ansichten::ZahlGewechselt, this, &frmMain::ZeigeWillkommen);
+    ZeigeWillkommen();
+    const Hauptteile teile{.fenster = *this,
+                           .ansichten = *ansichten,
+                           .menue = menue,
+                           .status = status,
+                           .verbindung = *new Verbindungsanzeige(
+                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); }),
+                           .baueAnsichtenAuf = [this] { BaueAnsichtenAuf(); },
+                           .beendet = [this] { return Beendet(); }};
+    ablauf = std::make_unique<Konfigurationsablauf>(teile);
+    betrieb = std::make_unique<Geraetebetrieb>(teile, befehle, *ablauf, programmordner);
 }
 
-frmMain::~frmMain() {
-    modPolling::SetzeZiel(nullptr);
-}
-
-void frmMain::RichteStatusleisteEin() {
-    for (std::size_t i = 0; i < statusfelder.size(); ++i) {
-        auto* feld = new QLabel(ui->sbStatusBar);
-        feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
-        feld->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        ui->sbStatusBar->addPermanentWidget(feld, 1);
-        statusfelder[i] = feld;
-    }
-}
+frmMain::~frmMain() = default;
 
 void frmMain::LiesEinstellungen() {
     Einstellungen& einstellungen = DieEinstellungen();
     WendeAn(LiesFensterplatz(einstellungen, Fensterabschnitt, {}), *this);
+    if (IstErsterStart())
+        StelleInArbeitsflaeche(size());
     modSchnittstelle::SetzeComPort(
         static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
@@ -82,97 +84,53 @@ void frmMain::LiesEinstellungen() {
     ZeigePort();
 }
 
-void frmMain::VerbindeMenue() {
-    static constexpr Menuezeile zeilen[] = {
-        {"mnuNeu", Befehl::NeueKonfiguration},
-        {"mnuOeffnen", Befehl::KonfigurationOeffnen},
-        {"mnuSpeichernUnter", Befehl::KonfigurationSpeichernUnter},
-        {"mnuBeenden", Befehl::Beenden},
-        {"mnuAnzeigeKonfiguration", Befehl::KonfigurationAnzeigen},
-        {"mnuAnzeigeLichtleiste_0", Befehl::LichtleisteAnzeigen, 0},
-        {"mnuAnzeigeLichtleiste_1", Befehl::LichtleisteAnzeigen, 1},
-        {"mnuAnzeigeLichtleiste_2", Befehl::LichtleisteAnzeigen, 2},
-        {"mnuAnzeigeLichtleiste_3", Befehl::LichtleisteAnzeigen, 3},
-        {"mnuMessdatenVisualisierenStart", Befehl::VisualisierenStart},
-        {"mnuMessdatenVisualisierenStop", Befehl::VisualisierenStop},
-        {"mnuEinzelwerteLesenSchreiben", Befehl::Einzelwerte},
-        {"mnuSimulation", Befehl::Simulation},
-        {"mnuInitHardware", Befehl::InitHardware},
-        {"mnuResetHardware", Befehl::ResetHardware},
-        {"mnuFlasher", Befehl::FirmwareUpdate},
-        {"mnuAutosendStarten", Befehl::AutosendStarten},
-        {"mnuDeutsch", Befehl::Deutsch},
-        {"mnuEnglisch", Befehl::Englisch},
-        {"mnuCom_1", Befehl::ComPort, 1},
-        {"mnuCom_2", Befehl::ComPort, 2},
-        {"mnuCom_3", Befehl::ComPort, 3},
-        {"mnuCom_4", Befehl::ComPort, 4},
-        {"mnuUebertragenerWert", Befehl::UebertragenerWert},
-        {"mnuFensterUntereinander", Befehl::FensterUntereinander},
-        {"mnuFensterNebeneinander", Befehl::FensterNebeneinander},
-        {"mnuFensterÜberlappend", Befehl::FensterUeberlappend},
-        {"mnuHilfethemen", Befehl::Hilfethemen},
-        {"mnuInfo", Befehl::Info},
-    };
-    for (const auto& [name, befehl, index] : zeilen)
-        VerbindeAktion(QString::fromUtf8(name), befehl, index);
-}
-
-/// A click stores the command and nothing else: the check mark that Qt has already turned is turned back.
-void frmMain::VerbindeAktion(const QString& name, Befehl befehl, int index) {
-    auto* aktion = findChild<QAction*>(name);
-    connect(aktion, &QAction::triggered, this, [this, aktion, befehl, index](bool angehakt) {
-        if (aktion->isCheckable())
-            aktion->setChecked(!angehakt);
-        befehle.Klick(befehl, index);
-    });
-}
-
-void frmMain::ZeigeStatustext(int feld, const std::string& text) {
-    QLabel& anzeige = *statusfelder.at(static_cast<std::size_t>(feld - 1));
-    if (const QString neu = QString::fromStdString(text); anzeige.text() != neu)
-        anzeige.setText(neu);
+/// Whether no earlier run has stored a place of the window.
+bool frmMain::IstErsterStart() const {
+    return DieEinstellungen().LiesZahl(Fensterabschnitt, "Width", 0) == 0;
 }
 
 void frmMain::ZeigePort() {
-    const int nummer = modSchnittstelle::GetComPort();
-    for (int n = 1; n <= 4; ++n)
-        findChild<QAction*>(QStringLiteral("mnuCom_%1").arg(n))->setChecked(n == nummer);
-    ZeigeStatustext(FeldPort, "COM" + std::to_string(nummer) + ": " + modSchnittstelle::GetComSettings());
-    statusfelder[FeldPort - 1]->setToolTip(QString::fromStdString(Geraetepfad(nummer)));
+    menue.HakePort(modSchnittstelle::GetComPort());
+    status.ZeigePort();
 }
 
-void frmMain::ZeigeSprache() {
-    ui->mnuEnglisch->setChecked(GetSprachoffset() == Englisch);
-    ui->mnuDeutsch->setChecked(GetSprachoffset() != Englisch);
-}
-
-void frmMain::ZeigeServicemenue() {
-    zustand.service = true;
-    AktualisiereMenue();
-}
-
-void frmMain::AktualisiereMenue() {
-    varnoth::WendeAn(Menuezustand(zustand), *this);
-}
-
-void frmMain::SetzeMessdatenMenue(int modus) {
-    constexpr int grundzustand = 0;
-    constexpr int laeuft = 1;
-    constexpr int gestoppt = 2;
-    if (modus < grundzustand || modus > gestoppt)
+void frmMain::BaueAnsichtenAuf() {
+    if (!ansichten->BaueAuf())
         return;
-    zustand.liveDaten = modus == laeuft;
-    AktualisiereMenue();
+    SchaffePlatzFuerAnsichten();
+    ansichten->OrdneWieZuvor();
 }
 
-bool frmMain::LiveDatenLaufen() const {
-    return modPolling::GetPollingAktiv() != False;
+/// The empty area shows what can be done.
+void frmMain::ZeigeWillkommen() {
+    const bool leer = ansichten->AnzahlGezeigter() == 0;
+    willkommen->Zeige(leer, leer ? LetzteDateien() : std::vector<std::string>());
 }
 
-void frmMain::LiveDatenLaufenAn() {
-    SetzeMessdatenMenue(1);
-    AktualisiereGeraetestatus();
+/// The first time that views appear in a window nobody has sized yet, it grows to hold them side by side.
+void frmMain::SchaffePlatzFuerAnsichten() {
+    constexpr QSize angenehm(310, 640);
+    if (!IstErsterStart() || isMaximized() || isFullScreen())
+        return;
+    const QSize gewuenscht(ansichten->AnzahlGezeigter() * angenehm.width(), angenehm.height());
+    StelleInArbeitsflaeche(size().expandedTo(gewuenscht));
+}
+
+/// Gives the window a size, as far as its frame and all lie inside the work area of the screen. A frame that
+/// the system has not drawn yet counts as one of the usual size.
+void frmMain::StelleInArbeitsflaeche(QSize groesse) {
+    constexpr QMargins ueblich(8, 32, 8, 8);
+    const QRect innen = geometry();
+    const QRect aussen = frameGeometry();
+    const QMargins rahmen = isVisible()
+                                ? QMargins(innen.left() - aussen.left(), innen.top() - aussen.top(),
+                                           aussen.right() - innen.right(), aussen.bottom() - innen.bottom())
+                                : ueblich;
+    const QRect flaeche = screen()->availableGeometry().marginsRemoved(rahmen);
+    setMinimumSize(minimumSize().boundedTo(flaeche.size()));
+    const QRect platz = Hineingerueckt({innen.topLeft(), groesse}, flaeche);
+    resize(platz.size());
+    move(platz.topLeft() - (isVisible() ? innen.topLeft() - aussen.topLeft() : QPoint()));
 }
 
 /// Changes that are not saved keep the window open: the exit command, run from the main loop, asks for them.
@@ -194,8 +152,7 @@ void frmMain::Entlade() {
     modPolling::StoppePolling();
     if (const auto platz = PlatzVon(*this))
         SchreibFensterplatz(DieEinstellungen(), Fensterabschnitt, *platz);
-    for (const frmDocument* ansicht : Fensterliste)
-        ansicht->SpeicherePlatz();
+    ansichten->SpeicherePlaetze();
     modTrace::Schliesse();
     SchliesseDialoge();
     hide();

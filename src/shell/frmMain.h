@@ -1,23 +1,21 @@
 #pragma once
 
-#include "fensteranordnung.h"
-#include "firmware.h"
+#include "ansichten.h"
+#include "befehlstabelle.h"
+#include "geraetebetrieb.h"
+#include "hauptmenue.h"
+#include "hauptteile.h"
+#include "konfigurationsablauf.h"
 #include "menuebefehle.h"
-#include "menuezustand.h"
-#include "polling.h"
-#include "verbindung.h"
+#include "statusleiste.h"
 
 #include <QMainWindow>
 #include <QString>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
-
-class QLabel;
-class QMdiSubWindow;
 
 namespace varnoth {
 
@@ -26,19 +24,17 @@ class frmMain;
 }
 
 class frmDocument;
+class Willkommensseite;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
 /// A click only stores a command; the main loop runs it through MenuAusführen between two polling passes.
-class frmMain : public QMainWindow,
-                private Befehlsziel,
-                private PollingZiel,
-                private Verbindungsziel,
-                private Firmwareziel {
+class frmMain : public QMainWindow, private Befehlsziel, private Befehlswirkung {
     Q_OBJECT
 
 public:
     /// @param programmordner where the program that transfers firmware lies
-    explicit frmMain(QString programmordner = {});
+    /// @throws std::logic_error when the form lacks an action of the command table
+    explicit frmMain(const QString& programmordner = {});
     ~frmMain() override;
 
     /// Runs the command that waits, if any.
@@ -63,23 +59,28 @@ public:
     void Autostart();
 
     /// Whether a command waits to be run.
-    bool BefehlWartet() override { return befehle.Wartet(); }
+    bool BefehlWartet() const { return befehle.Wartet(); }
     /// Number of open forms as the main loop counts them: 0 once the program is to end.
     int OffeneFormulare() const { return entladen ? 0 : 1; }
     /// Ticks the menu entry of the current language.
-    void ZeigeSprache();
+    void ZeigeSprache() { menue.HakeSprache(); }
     /// Shows the two menu items of the service mode.
-    void ZeigeServicemenue();
+    void ZeigeServicemenue() { menue.ZeigeService(); }
     /// Sets what shows the help topics.
     void SetzeHilfe(std::function<void()> neue) { hilfe = std::move(neue); }
+    /// Sets what leads the line to the built-in controller (true) or to the serial ports (false); it gives
+    /// whether that has changed anything. Without it the line always leads to the serial ports.
+    void SetzePortwechsel(std::function<bool(bool simuliert)> neuer) { portwechsel = std::move(neuer); }
+    /// Says in the status bar whether the line leads to the built-in controller.
+    void ZeigeSimuliert(bool simuliert) { status.SetzeSimuliert(simuliert); }
     /// Uses serial port 1..4 for this run, whatever the settings say.
     void NimmComPort(int nummer);
     /// Writes into panel 1..3 of the status bar.
-    void ZeigeStatustext(int feld, const std::string& text);
+    void ZeigeStatustext(int feld, const std::string& text) { status.Zeige(feld, text); }
     /// The view of optical part 0..3.
-    frmDocument& Fenster(int optikteil);
+    frmDocument& Fenster(int optikteil) { return ansichten->Ansicht(optikteil); }
     /// Arranges the shown views.
-    void Ordne(Anordnung art);
+    void Ordne(Anordnung art) { ansichten->Ordne(art); }
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
@@ -87,65 +88,58 @@ protected:
 private:
     static constexpr const char* Fensterabschnitt = "MDIForm"; // of the settings file
 
-    struct Befehlszeile;
-    struct Menuezeile;
-
-    bool LiveDatenLaufen() const override;
-    void StoppeLiveDaten() override { SubMessdatenVisualisierenStop(); }
-    void FuehreAus(Befehl befehl, int index) override;
-
-    LiveAnsicht& Ansicht(int optikteil) override;
-    void AktualisiereGeraetestatus() override;
-
-    bool Identifiziere() override;
-    bool LiesKonfiguration() override;
-    bool HoleOptikteilInformation() override;
-    bool FrageNachKonfiguration() override;
-    void ZeigeAlleOffline() override;
-    void BaueAnsichtenAuf() override;
-    void LiveDatenLaufenAn() override;
-    void ZeigeLichtleistenmenue() override;
-    bool IstZuSpaet(Befehl befehl) const;
-    bool Beendet() const override { return entladen || befehle.WartetAuf(Befehl::Beenden); }
-
-    std::string StarteFlasher(const std::string& parameter) override;
-
-    void VerbindeMenue();
-    void VerbindeAktion(const QString& name, Befehl befehl, int index);
-    void RichteStatusleisteEin();
     void LiesEinstellungen();
-    void LadeAnsicht(int optikteil);
-    void SetzeMessdatenMenue(int modus);
-    void AktualisiereMenue();
     void ZeigePort();
-    void SetzeTitel(int optikteil, std::int16_t textId);
-    void MerkeAnsicht(int optikteil, bool gezeigt);
-    QSize KleinsterRahmen() const;
+    bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
+    void BaueAnsichtenAuf();
+    void ZeigeWillkommen();
     void SchaffePlatzFuerAnsichten();
+    void StelleInArbeitsflaeche(QSize groesse);
+    bool IstErsterStart() const;
+    bool Beendet() const { return entladen || befehle.WartetAuf(Befehl::Beenden); }
     void Entlade();
 
-    void ZeigeLichtleiste(int optikteil);
-    void WaehleComPort(int nummer);
-    void SchalteSprache(std::int16_t offset);
-    void ZeigeInfo();
+    bool LiveDatenLaufen() const override { return betrieb->LiveDatenLaufen(); }
+    void FuehreAus(Befehl befehl, int index) override;
+    bool IstZuSpaet(Befehl befehl) const;
     template<class Dienstdialog>
     void OeffneDienst();
 
-    void ZeigeKonfiguration();
-    void NeueKonfiguration();
-    void BearbeiteKonfiguration();
-    void SchreibeKonfiguration();
+    void Verbinde() override { Autostart(); }
+    void StoppeLiveDaten() override { SubMessdatenVisualisierenStop(); }
+    void ZeigeAnsicht(int optikteil) override;
+    void Beende() override { SubBeenden(); }
+    void BearbeiteEinzelwerte() override;
+    void StelleNebeneinander() override { Ordne(Anordnung::Nebeneinander); }
+    void StelleUeberlappend() override { ansichten->Staffle(); }
+    void StelleUntereinander() override { Ordne(Anordnung::Untereinander); }
+    void ErneuereFirmware() override { AktualisiereFirmware(*betrieb); }
+    void InitialisiereHardware() override;
+    void BearbeiteKonfiguration() override { ablauf->Bearbeite(); }
+    void OeffneKonfiguration() override { SubOeffnen(); }
+    void SpeichereKonfiguration() override;
+    void WechsleUebertragenerWert() override { menue.WechsleUebertragenerWert(); }
+    void MacheNeueKonfiguration() override { ablauf->MacheNeue(); }
+    void SetzeHardwareZurueck() override;
+    void WaehleComPort(int nummer) override;
+    void ZeigeSimulation() override;
+    void ZeigeHilfethemen() override { hilfe(); }
+    void ZeigeInfo() override;
+    void StarteAutosend() override { SubAutosendStarten(); }
+    void SchalteSprache(std::int16_t offset) override;
+    void OeffneLetzteDatei(int platz) override;
+    void VerbindeSimuliert() override;
 
     std::unique_ptr<Ui::frmMain> ui;
-    QString programmordner;
     std::function<void()> hilfe;
-    std::array<frmDocument*, AnzahlOptikteile> Fensterliste{};
-    std::array<QMdiSubWindow*, AnzahlOptikteile> rahmen{};
-    std::array<bool, AnzahlOptikteile> hatPlatz{}; // stands where the user or an arrangement has put it
-    std::array<std::int16_t, AnzahlOptikteile> titeltexte{};
-    std::array<QLabel*, 3> statusfelder{};
+    std::function<bool(bool)> portwechsel;
     Befehlsspeicher befehle;
-    Programmzustand zustand;
+    Statusleiste status;
+    Hauptmenue menue;
+    std::unique_ptr<Ansichten> ansichten;
+    Willkommensseite* willkommen = nullptr;
+    std::unique_ptr<Konfigurationsablauf> ablauf;
+    std::unique_ptr<Geraetebetrieb> betrieb;
     bool entladen = false;
 };
 

@@ -4,6 +4,7 @@
 #include "dateien.h"
 #include "einstellungen.h"
 #include "konfigurationsdatei.h"
+#include "letztedateien.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
 #include "texte.h"
@@ -39,11 +40,28 @@ bool DarfErsetzen(const std::string& pfad) {
                                        .knoepfe = Knoepfe::OkAbbrechen}) == Antwort::Ok;
 }
 
+/// The folder part of a path, empty where it has none.
+std::string Ordner(const std::string& pfad) {
+    const auto ende = pfad.find_last_of("/\\");
+    return ende == std::string::npos ? std::string() : pfad.substr(0, ende + 1);
+}
+
+/// Where the user last had to do with a configuration file; empty = nowhere yet.
+std::string LetzterOrdner() {
+    const auto zuletzt = LetzteDateien();
+    for (const std::string& pfad :
+         {zuletzt.empty() ? std::string() : zuletzt.front(), modDaten::GetDateiname(), ZuletztGespeichert()})
+        if (const std::string ordner = Ordner(pfad); !ordner.empty())
+            return ordner;
+    return {};
+}
+
 /// A path that is free or may be replaced; nothing when the dialog was cancelled.
 std::optional<std::string> WaehleZiel() {
     Dateifrage frage{.art = Dateiwahl::Speichern,
                      .titel = LadeText(TextSpeichernUnter),
                      .filter = LadeText(TextDateifilter),
+                     .ordner = LetzterOrdner(),
                      .name = modDaten::GetDateiname()};
     while (auto pfad = FrageNachDatei(frage)) {
         if (!GibtEsDatei(*pfad) || DarfErsetzen(*pfad))
@@ -60,20 +78,9 @@ bool Speichere(const std::string& pfad) {
         return false;
     }
     DieEinstellungen().SchreibText(Abschnitt, Schluessel, pfad);
+    MerkeDatei(pfad);
     modDaten::LoescheGeaendert();
     return true;
-}
-
-/// The folder part of a path, empty where it has none.
-std::string Ordner(const std::string& pfad) {
-    const auto ende = pfad.find_last_of("/\\");
-    return ende == std::string::npos ? std::string() : pfad.substr(0, ende + 1);
-}
-
-/// Where the user last had to do with a configuration file; empty = nowhere yet.
-std::string OrdnerZumOeffnen() {
-    const std::string geoeffnet = Ordner(modDaten::GetDateiname());
-    return geoeffnet.empty() ? Ordner(ZuletztGespeichert()) : geoeffnet;
 }
 
 Antwort FrageNachAenderungen() {
@@ -94,7 +101,7 @@ bool KonfigurationOeffnen() {
     const auto pfad = FrageNachDatei({.art = Dateiwahl::Oeffnen,
                                       .titel = LadeText(TextOeffnen),
                                       .filter = LadeText(TextDateifilter),
-                                      .ordner = OrdnerZumOeffnen()});
+                                      .ordner = LetzterOrdner()});
     if (pfad)
         LadeDatei(*pfad);
     return pfad.has_value();
@@ -110,17 +117,18 @@ bool LadeDatei(const std::string& pfad) {
     modDaten::SetDateiname(pfad);
     const bool plausibel = modDaten::PruefeKonfiguration() != False;
     modHilfsFunktionen::BerechneZykluszeiten();
+    if (geladen && plausibel)
+        MerkeDatei(pfad);
     return geladen && plausibel;
 }
 
 bool FrageNachSpeichern() {
-    while (modDaten::IstGeaendert() != False) {
-        const Antwort antwort = FrageNachAenderungen();
-        if (antwort == Antwort::Abbrechen)
-            return false;
-        if (antwort == Antwort::Nein || KonfigurationSpeichernUnter())
-            modDaten::LoescheGeaendert();
-    }
+    if (modDaten::IstGeaendert() == False)
+        return true;
+    const Antwort antwort = FrageNachAenderungen();
+    if (antwort == Antwort::Abbrechen || (antwort == Antwort::Ja && !KonfigurationSpeichernUnter()))
+        return false;
+    modDaten::LoescheGeaendert();
     return true;
 }
 

@@ -8,9 +8,10 @@ namespace varnoth {
 // leave the views of the main window to their caller. Paths are UTF-8.
 
 /// Asks for a file name and saves the configuration there. An existing file is replaced only after a
-/// question; Cancel there leads back to the dialog. The path is remembered in the settings, the configuration
-/// then counts as unchanged. False when the dialog was cancelled or, after a warning box, when the file could
-/// not be written; an older file is then still there and the configuration still counts as changed.
+/// question; Cancel there leads back to the dialog. The path is remembered in the settings and among the
+/// files used last, the configuration then counts as unchanged. False when the dialog was cancelled or, after
+/// a warning box, when the file could not be written; an older file is then still there and the configuration
+/// still counts as changed.
 bool KonfigurationSpeichernUnter();
 
 /// Asks for a file and loads it with `LadeDatei`. False when the dialog was cancelled: nothing has changed.
@@ -19,12 +20,12 @@ bool KonfigurationOeffnen();
 /// Loads a configuration file, checks its values and recomputes the cycle times. A file that cannot be read
 /// gives a warning box and changes nothing. A file that is read but no good gives its message and leaves the
 /// values as they are, but becomes the current file name, as a good one does. True when the image now holds
-/// the file's configuration.
+/// the file's configuration; the file is then remembered among those used last.
 bool LadeDatei(const std::string& pfad);
 
 /// Before the program ends: asks whether changes in the configuration shall be saved, if there are any, and
-/// saves them on Yes. True when the program may end; the changed mark is then cleared. A Yes after which
-/// nothing was saved (dialog cancelled, write failed) asks again, so that only a No gives changes up.
+/// saves them on Yes. True when the program may end; the changed mark is then cleared. False after Cancel,
+/// and after a Yes that saved nothing (dialog cancelled, write failed): only a No gives changes up.
 bool FrageNachSpeichern();
 
 } // namespace varnoth

@@ -1,57 +1,22 @@
 #include "menuebefehle.h"
 
-#include <algorithm>
-#include <array>
+#include "befehlstabelle.h"
 
 namespace varnoth {
 
-namespace {
-
-constexpr std::array stoppende{
-    Befehl::Beenden,
-    Befehl::Einzelwerte,
-    Befehl::FirmwareUpdate,
-    Befehl::InitHardware,
-    Befehl::KonfigurationAnzeigen,
-    Befehl::KonfigurationOeffnen,
-    Befehl::KonfigurationSpeichernUnter,
-    Befehl::ResetHardware,
-    Befehl::ComPort,
-    Befehl::Simulation,
-    Befehl::Hilfethemen,
-    Befehl::Info,
-    Befehl::AutosendStarten,
-    Befehl::Deutsch,
-    Befehl::Englisch,
-};
-
-constexpr std::array wiederStartende{Befehl::Einzelwerte, Befehl::InitHardware,
-                                     Befehl::KonfigurationAnzeigen};
-
-constexpr std::array ohneFenster{
-    Befehl::VisualisierenStop,
-    Befehl::LichtleisteAnzeigen,
-    Befehl::FensterNebeneinander,
-    Befehl::FensterUeberlappend,
-    Befehl::FensterUntereinander,
-    Befehl::UebertragenerWert,
-    Befehl::ComPort,
-    Befehl::Deutsch,
-    Befehl::Englisch,
-};
-
-} // namespace
-
 bool StopptLiveDaten(Befehl befehl) {
-    return std::ranges::find(stoppende, befehl) != stoppende.end();
+    const Befehlszeile* const zeile = ZeileZu(befehl);
+    return zeile != nullptr && zeile->live != Live::LaeuftWeiter;
 }
 
 bool StartetLiveDatenWieder(Befehl befehl) {
-    return std::ranges::find(wiederStartende, befehl) != wiederStartende.end();
+    const Befehlszeile* const zeile = ZeileZu(befehl);
+    return zeile != nullptr && zeile->live == Live::StopptUndStartetWieder;
 }
 
 bool ZeigtFenster(Befehl befehl) {
-    return std::ranges::find(ohneFenster, befehl) == ohneFenster.end();
+    const Befehlszeile* const zeile = ZeileZu(befehl);
+    return zeile != nullptr && zeile->auftritt == Auftritt::Zeigt;
 }
 
 void Befehlsspeicher::Klick(Befehl befehl, int index) {

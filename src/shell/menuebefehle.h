@@ -28,6 +28,8 @@ enum class Befehl {
     AutosendStarten = 21,
     Deutsch = 22,
     Englisch = 23,
+    LetzteDatei = 101,
+    SimuliertesGeraet = 102,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

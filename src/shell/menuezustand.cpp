@@ -1,5 +1,7 @@
 #include "menuezustand.h"
 
+#include "aktionen.h"
+
 #include <QAction>
 
 namespace varnoth {
@@ -61,11 +63,11 @@ std::vector<Aktionszustand> Menuezustand(const Programmzustand& zustand) {
 }
 
 void WendeAn(const std::vector<Aktionszustand>& zustaende, const QObject& fenster) {
-    for (const auto& [name, waehlbar, sichtbar] : zustaende)
-        if (auto* aktion = fenster.findChild<QAction*>(name)) {
-            aktion->setEnabled(waehlbar);
-            aktion->setVisible(sichtbar);
-        }
+    for (const auto& [name, waehlbar, sichtbar] : zustaende) {
+        QAction& aktion = Aktion(fenster, name);
+        aktion.setEnabled(waehlbar);
+        aktion.setVisible(sichtbar);
+    }
 }
 
 } // namespace varnoth

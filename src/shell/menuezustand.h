@@ -31,7 +31,8 @@ struct Aktionszustand {
 /// The menu items whose state is not always the same, as they are to be in this state of the program.
 std::vector<Aktionszustand> Menuezustand(const Programmzustand& zustand);
 
-/// Applies states to the actions of these names below `fenster`; a name that is not there is passed over.
+/// Applies states to the actions of these names below `fenster`.
+/// @throws std::logic_error when a name is not there
 void WendeAn(const std::vector<Aktionszustand>& zustaende, const QObject& fenster);
 
 } // namespace varnoth

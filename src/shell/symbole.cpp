@@ -8,8 +8,12 @@ static void InitRessourcen() {
 namespace varnoth {
 
 QIcon Programmsymbol() {
+    return Symbolbild(QStringLiteral("varnoth"));
+}
+
+QIcon Symbolbild(const QString& name) {
     InitRessourcen();
-    return QIcon(QStringLiteral(":/symbole/varnoth.svg"));
+    return QIcon(QStringLiteral(":/symbole/%1.svg").arg(name));
 }
 
 } // namespace varnoth

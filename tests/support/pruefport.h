@@ -37,6 +37,8 @@ public:
     }
     bool IstOffen() override { return offen; }
     std::string Fehlertext() const override { return offen ? "" : "no such port"; }
+    Anschluss AnschlussVon(int /*nummer*/) const override { return anschluss; }
+    Portbefund BefundVon(int /*nummer*/) const override { return befund; }
     void Verwirf() override {
         NimmAngekommenes();
         ++verworfen;
@@ -69,6 +71,8 @@ public:
 
     bool offen = false;
     bool oeffnenGelingt = true;
+    Anschluss anschluss{.geraet = "/dev/pruefung"};
+    Portbefund befund;
     int geschlossen = 0;
     int verworfen = 0;
     std::string eingang;

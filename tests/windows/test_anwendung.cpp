@@ -2,6 +2,9 @@
 
 #include "fenstertest.h"
 #include "frmSplash.h"
+#include "polling.h"
+#include "qttexte.h"
+#include "schnittstelle.h"
 #include "servicetext.h"
 #include "texte.h"
 #include "trace.h"
@@ -12,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -188,6 +192,41 @@ TEST_F(AnwendungTest, With_the_simulator_switch_the_program_connects_by_itself_a
     EXPECT_EQ(anwendung->Hauptfenster().statusBar()->findChild<QLabel*>("sbStatusBar_3")->text().isEmpty(),
               false);
     EXPECT_TRUE(meldungen.empty());
+}
+
+TEST_F(AnwendungTest, The_simulated_controller_is_chosen_in_the_running_program_and_a_port_leads_back) {
+    EXPECT_TRUE(Mit({"/Geraet=" + ordner.filePath("no-such-device")}).Starte());
+    auto& fenster = anwendung->Hauptfenster();
+    const auto& feld = *fenster.statusBar()->findChild<QLabel*>("sbStatusBar_2");
+    EXPECT_EQ(feld.text(), "COM1: 38400,n,8,2");
+    fenster.findChild<QPushButton*>("cmdWillkommenSimuliert")->click();
+    EXPECT_TRUE(pruefung::WarteBis([this] {
+        anwendung->Runde();
+        return modPolling::GetDurchgaenge() >= 2;
+    }));
+    EXPECT_EQ(feld.text(), "Simuliertes Steuergerät");
+    EXPECT_FALSE(fenster.findChild<QAction*>("mnuCom_1")->isChecked());
+    fenster.findChild<QAction*>("mnuCom_1")->trigger();
+    anwendung->Runde();
+    EXPECT_EQ(feld.text(), "COM1: 38400,n,8,2");
+    EXPECT_TRUE(fenster.findChild<QAction*>("mnuCom_1")->isChecked());
+    modSchnittstelle::OpenCommPort();
+    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False) << "the device of the port is not there";
+    EXPECT_TRUE(meldungen.empty());
+}
+
+TEST_F(AnwendungTest, With_the_simulator_switch_every_port_leads_to_the_simulated_controller) {
+    EXPECT_TRUE(Mit({"/Simulator"}).Starte());
+    auto& fenster = anwendung->Hauptfenster();
+    const auto& feld = *fenster.statusBar()->findChild<QLabel*>("sbStatusBar_2");
+    EXPECT_EQ(feld.text(), "Simuliertes Steuergerät");
+    fenster.findChild<QAction*>("mnuEnglisch")->trigger();
+    anwendung->Runde();
+    EXPECT_EQ(feld.text(), "Simulated controller");
+    fenster.findChild<QAction*>("mnuCom_2")->trigger();
+    anwendung->Runde();
+    EXPECT_EQ(feld.text(), "Simulated controller");
+    EXPECT_TRUE(fenster.findChild<QAction*>("mnuCom_2")->isChecked());
 }
 
 TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {

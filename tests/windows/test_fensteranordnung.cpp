@@ -34,6 +34,23 @@ TEST(Fensteranordnung, No_window_needs_no_place) {
     EXPECT_TRUE(OrdneAn(Anordnung::Nebeneinander, 0, {600, 300}, {227, 230}).empty());
 }
 
+TEST(Fensteranordnung, A_window_that_does_not_fit_its_screen_is_moved_and_made_smaller) {
+    const QRect breit(67, 67, 1240, 640);
+    const QRect normal(67, 67, 433, 433);
+    for (const QSize schirm : {QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)})
+        for (const double massstab : {1.0, 1.5, 2.0})
+            for (const QRect& fenster : {breit, normal}) {
+                const QRect flaeche(QPoint(0, 24), schirm / massstab - QSize(0, 64));
+                const QRect platz = Hineingerueckt(fenster, flaeche);
+                EXPECT_TRUE(flaeche.contains(platz)) << schirm.width() << " at " << massstab;
+                EXPECT_EQ(platz.size(), fenster.size().boundedTo(flaeche.size()));
+            }
+}
+
+TEST(Fensteranordnung, A_window_that_fits_its_screen_stays_where_it_is) {
+    EXPECT_EQ(Hineingerueckt({67, 67, 433, 433}, {0, 24, 1280, 656}), QRect(67, 67, 433, 433));
+}
+
 TEST(Fensteranordnung, The_windows_fill_an_area_that_does_not_divide_evenly) {
     const auto plaetze = OrdneAn(Anordnung::Nebeneinander, 3, {1000, 500}, {227, 230});
     EXPECT_EQ(plaetze.back().right(), 999);

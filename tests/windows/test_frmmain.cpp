@@ -1,7 +1,11 @@
 #include "frmMain.h"
 
+#include "dateidialog.h"
+#include "dateien.h"
 #include "fenstertest.h"
 #include "frmDocument.h"
+#include "konfigurationsdatei.h"
+#include "letztedateien.h"
 #include "pruefgeraet.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -19,7 +23,9 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -581,10 +587,139 @@ TEST_F(FrmMainTest, The_about_box_shows_product_and_owner_and_closes_on_Enter) {
     EXPECT_TRUE(eigentuemer.contains(QChar(169)));
 }
 
+TEST_F(FrmMainTest, Yes_to_saving_and_a_cancelled_dialog_keep_the_window_open_and_ask_no_more) {
+    SetzeDateiantwort([](const Dateifrage&) -> std::optional<std::string> { return std::nullopt; });
+    Fenster();
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Ja};
+    Fenster().close();
+    Fenster().MenuAusführen();
+    Fenster().MenuAusführen();
+    SetzeDateiantwort({});
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(Fenster().OffeneFormulare(), 1);
+    EXPECT_TRUE(Fenster().isVisible());
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(FrmMainTest, The_menu_items_show_their_keys) {
+    const std::pair<const char*, const char*> tasten[] = {
+        {"mnuNeu", "Ctrl+N"},
+        {"mnuOeffnen", "Ctrl+O"},
+        {"mnuSpeichernUnter", "Ctrl+S"},
+        {"mnuBeenden", "Ctrl+Q"},
+        {"mnuMessdatenVisualisierenStart", "F5"},
+        {"mnuMessdatenVisualisierenStop", "Shift+F5"},
+        {"mnuAnzeigeKonfiguration", "Ctrl+K"},
+        {"mnuAnzeigeLichtleiste_0", "Ctrl+1"},
+        {"mnuAnzeigeLichtleiste_3", "Ctrl+4"},
+        {"mnuInfo", ""},
+    };
+    for (const auto& [name, taste] : tasten)
+        EXPECT_EQ(Aktion(name).shortcut().toString(QKeySequence::PortableText), taste) << name;
+}
+
+TEST_F(FrmMainTest, A_key_stores_the_command_of_its_menu_item) {
+    Fenster().activateWindow();
+    ASSERT_TRUE(pruefung::WarteBis([this] { return Fenster().isActiveWindow(); }));
+    QTest::keyClick(&Fenster(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(Fenster().BefehlWartet());
+    Fenster().MenuAusführen();
+    EXPECT_EQ(Fenster().OffeneFormulare(), 0);
+}
+
+TEST_F(FrmMainTest, The_empty_window_shows_what_can_be_done_until_a_view_is_shown) {
+    const auto willkommen = [this] { return Fenster().findChild<QWidget*>("Willkommensseite")->isVisible(); };
+    EXPECT_TRUE(willkommen());
+    SchliesseAn({32, 64, 0, 0});
+    Fenster().Autostart();
+    EXPECT_FALSE(willkommen());
+    Fenster().Fenster(0).parentWidget()->close();
+    EXPECT_FALSE(willkommen());
+    Fenster().Fenster(1).parentWidget()->close();
+    EXPECT_TRUE(willkommen());
+    Waehle("mnuAnzeigeLichtleiste_1");
+    EXPECT_FALSE(willkommen());
+}
+
+TEST_F(FrmMainTest, The_welcome_page_switches_its_language) {
+    Waehle("mnuEnglisch");
+    EXPECT_EQ(Fenster().findChild<QPushButton*>("cmdWillkommenVerbinden")->text(), "Connect");
+    Waehle("mnuDeutsch");
+    EXPECT_EQ(Fenster().findChild<QPushButton*>("cmdWillkommenVerbinden")->text(), "Verbinden");
+    LadeQtTexte(Englisch);
+}
+
+TEST_F(FrmMainTest, A_click_on_a_file_used_last_loads_it) {
+    QTemporaryDir ordner;
+    const std::string pfad = ordner.filePath("a.con").toStdString();
+    Fenster();
+    modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {32});
+    ASSERT_EQ(ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei()), "");
+    modDaten::LadeStandardkonfiguration();
+    MerkeDatei(pfad);
+    Waehle("mnuUebertragenerWert");
+    auto* const knopf = Fenster().findChild<QPushButton*>("cmdWillkommenDatei_1");
+    EXPECT_EQ(knopf->text(), "a.con") << "the page follows the list after each command";
+    knopf->click();
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 0) << "a click only stores the command";
+    Fenster().MenuAusführen();
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
+    EXPECT_TRUE(Fenster().Fenster(0).isVisible());
+}
+
+TEST_F(FrmMainTest, The_first_views_leave_the_window_inside_the_work_area) {
+    SchliesseAn({32, 64, 96, 128});
+    Fenster().move(600, 500);
+    Fenster().Autostart();
+    const QRect flaeche = Fenster().screen()->availableGeometry();
+    EXPECT_TRUE(flaeche.contains(Fenster().frameGeometry()));
+    EXPECT_GE(Fenster().height(), 640);
+}
+
 TEST_F(FrmMainTest, The_three_status_panels_take_texts) {
     Fenster().ZeigeStatustext(FeldSchaltausgang, "Status");
     EXPECT_EQ(Statusfeld(FeldSchaltausgang).text(), "Status");
     EXPECT_EQ(Statusfeld(FeldPort).text(), "COM1: 38400,n,8,2");
+}
+
+TEST_F(FrmMainTest,
+       The_connection_part_says_that_a_command_has_stopped_live_data_and_starts_it_at_one_click) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    auto& text = *Fenster().findChild<QLabel*>(QStringLiteral("lblVerbindung"));
+    auto& start = *Fenster().findChild<QPushButton*>(QStringLiteral("cmdVerbindungStart"));
+    EXPECT_EQ(text.text(), "Live");
+    EXPECT_FALSE(start.isVisible());
+    Waehle("mnuEnglisch");
+    EXPECT_TRUE(pruefung::WarteBis([&] { return text.text().startsWith("Live data stopped since "); }));
+    ASSERT_TRUE(start.isVisible());
+    start.click();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False) << "a click only stores the command";
+    Fenster().MenuAusführen();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+    EXPECT_EQ(text.text(), "Live");
+}
+
+TEST_F(FrmMainTest, The_connection_part_says_that_it_connects_until_the_user_is_asked_for_a_configuration) {
+    geraet.schweige = [](const std::string&) { return true; };
+    auto& text = *Fenster().findChild<QLabel*>(QStringLiteral("lblVerbindung"));
+    QString dabei, danach;
+    umgebung.beiMeldung = [&](const Meldung&) { dabei = text.text(); };
+    Sobald("frmKeinKonturAngeschlossen", [&](QDialog& dialog) {
+        danach = text.text();
+        dialog.reject();
+    });
+    Fenster().Autostart();
+    EXPECT_EQ(dabei, "Verbinde...");
+    EXPECT_TRUE(danach.startsWith("Offline seit ")) << danach.toStdString();
+}
+
+TEST_F(FrmMainTest, The_connection_part_leaves_the_three_panels_where_they_are) {
+    const auto* leiste = Fenster().statusBar();
+    for (const char* feld : {"sbStatusBar_1", "sbStatusBar_2", "sbStatusBar_3"})
+        EXPECT_EQ(leiste->findChild<QLabel*>(feld)->parentWidget(), leiste) << feld;
+    EXPECT_TRUE(leiste->findChild<QWidget*>("Verbindungsanzeige")->isVisible());
 }
 
 } // namespace varnoth

@@ -3,6 +3,7 @@
 #include "dateidialog.h"
 #include "dateien.h"
 #include "konfigurationsdatei.h"
+#include "letztedateien.h"
 #include "plausibilitaet.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
@@ -117,6 +118,19 @@ TEST_F(Speichern, Saving_does_not_change_the_current_file_name) {
     gewaehlt = {Pfad("neu.con")};
     KonfigurationSpeichernUnter();
     EXPECT_EQ(modDaten::GetDateiname(), "alt.con");
+}
+
+TEST_F(Speichern, A_saved_file_is_one_of_the_files_used_last) {
+    gewaehlt = {Pfad("a.con"), Pfad("weg/b.con")};
+    KonfigurationSpeichernUnter();
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(LetzteDateien(), std::vector{Pfad("a.con")}) << "not the one that could not be written";
+}
+
+TEST_F(Speichern, The_dialog_starts_where_the_last_file_was) {
+    MerkeDatei("/zuletzt/c.con");
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(gefragt.at(0).ordner, "/zuletzt/");
 }
 
 TEST_F(Speichern, A_path_of_200_characters_works) {
@@ -248,6 +262,22 @@ TEST_F(Oeffnen, The_dialog_starts_where_a_file_was_last_saved_or_opened) {
     EXPECT_EQ(gefragt.at(1).ordner, "/geöffnet/");
 }
 
+TEST_F(Oeffnen, The_dialog_starts_where_the_last_file_was_even_after_another_was_opened) {
+    modDaten::SetDateiname("/geöffnet/b.con");
+    MerkeDatei("/zuletzt/c.con");
+    KonfigurationOeffnen();
+    EXPECT_EQ(gefragt.at(0).ordner, "/zuletzt/");
+}
+
+TEST_F(Oeffnen, A_good_file_is_one_of_the_files_used_last_and_a_bad_one_is_not) {
+    ErsetzeDatei(Pfad("schlecht.con"), "x");
+    LadeDatei(Pfad("schlecht.con"));
+    LadeDatei(Pfad("weg.con"));
+    EXPECT_TRUE(LetzteDateien().empty());
+    LadeDatei(Gespeichert("gut.con"));
+    EXPECT_EQ(LetzteDateien(), std::vector{Pfad("gut.con")});
+}
+
 TEST_F(Oeffnen, A_good_file_replaces_the_image_and_becomes_the_current_file) {
     const std::string pfad = Gespeichert("Prüf stand.con");
     const std::string erwartet = Inhalt(pfad);
@@ -368,21 +398,29 @@ TEST_F(Beendenfrage, Yes_saves_and_ends) {
     EXPECT_EQ(umgebung.meldungen.size(), 1U);
 }
 
-TEST_F(Beendenfrage, Yes_and_a_cancelled_dialog_asks_again) {
+TEST_F(Beendenfrage, Yes_and_a_cancelled_dialog_keep_the_program_running_without_a_second_question) {
     modDaten::SetzeGeaendert();
-    umgebung.antworten = {Antwort::Ja, Antwort::Abbrechen};
+    umgebung.antworten = {Antwort::Ja, Antwort::Nein};
     EXPECT_FALSE(FrageNachSpeichern());
-    EXPECT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(modDaten::IstGeaendert(), True);
 }
 
-TEST_F(Beendenfrage, Yes_and_a_failed_save_asks_again_so_that_only_a_no_gives_changes_up) {
+TEST_F(Beendenfrage, Yes_and_a_failed_save_keep_the_program_running_without_a_second_question) {
     modDaten::SetzeGeaendert();
     umgebung.antworten = {Antwort::Ja, Antwort::Ok, Antwort::Nein};
     gewaehlt = {Pfad("weg/a.con")};
+    EXPECT_FALSE(FrageNachSpeichern());
+    EXPECT_EQ(umgebung.meldungen.size(), 2U) << "the question and why the file was not written";
+    EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(Beendenfrage, The_question_comes_again_when_the_program_is_closed_again) {
+    modDaten::SetzeGeaendert();
+    umgebung.antworten = {Antwort::Ja, Antwort::Nein};
+    EXPECT_FALSE(FrageNachSpeichern());
     EXPECT_TRUE(FrageNachSpeichern());
-    EXPECT_EQ(umgebung.meldungen.size(), 3U);
-    EXPECT_EQ(modDaten::IstGeaendert(), False);
+    EXPECT_EQ(umgebung.meldungen.size(), 2U);
 }
 
 } // namespace varnoth

@@ -1,0 +1,245 @@
+#include "ansichten.h"
+
+#include "ansichtstitel.h"
+#include "einstellungen.h"
+#include "fensterplatz.h"
+#include "frmDocument.h"
+#include "registerabbild.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace varnoth {
+
+namespace {
+
+constexpr const char* Abschnitt = "Ansichten"; // of the settings file
+constexpr const char* Schluessel = "Anordnung";
+
+struct Anordnungsname {
+    Anordnung art;
+    const char* name;
+};
+
+constexpr Anordnungsname DieNamen[] = {{Anordnung::Nebeneinander, "Nebeneinander"},
+                                       {Anordnung::Untereinander, "Untereinander"}};
+
+std::optional<Anordnung> GespeicherteKachelung() {
+    const std::string name = DieEinstellungen().LiesText(Abschnitt, Schluessel, "");
+    const auto* const da = std::ranges::find(DieNamen, name, &Anordnungsname::name);
+    return da == std::ranges::end(DieNamen) ? std::nullopt : std::optional(da->art);
+}
+
+void SpeichereKachelung(std::optional<Anordnung> kachelung) {
+    if (kachelung == GespeicherteKachelung())
+        return;
+    const auto* const da =
+        std::ranges::find_if(DieNamen, [&](const auto& name) { return name.art == kachelung; });
+    DieEinstellungen().SchreibText(Abschnitt, Schluessel, da == std::ranges::end(DieNamen) ? "" : da->name);
+}
+
+/// Sets a mark for as long as it lives.
+class Waehrend {
+public:
+    explicit Waehrend(bool& die) : marke(die), vorher(std::exchange(die, true)) {}
+    Waehrend(const Waehrend&) = delete;
+    Waehrend& operator=(const Waehrend&) = delete;
+    ~Waehrend() { marke = vorher; }
+
+private:
+    bool& marke;
+    bool vorher;
+};
+
+} // namespace
+
+Ansichten::Ansichten(QMdiArea& der) : bereich(der), kachelung(GespeicherteKachelung()), vonFrueher(true) {
+    for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil)
+        Lade(teil);
+    bereich.viewport()->installEventFilter(this);
+}
+
+void Ansichten::Lade(int optikteil) {
+    const auto platz = static_cast<std::size_t>(optikteil);
+    auto* ansicht = new frmDocument(optikteil);
+    ansichten[platz] = ansicht;
+    rahmen[platz] = bereich.addSubWindow(ansicht);
+    rahmen[platz]->setAttribute(Qt::WA_DeleteOnClose, false);
+    rahmen[platz]->hide();
+    connect(ansicht, &frmDocument::Eingerichtet, this,
+            [this, optikteil] { emit Gewechselt(optikteil, true); });
+    connect(ansicht, &frmDocument::Geschlossen, this,
+            [this, optikteil] { emit Gewechselt(optikteil, false); });
+    SetzeTitel(optikteil, TextOffline);
+    ansicht->InitForm();
+    hatPlatz[platz] = LiesFensterplatz(DieEinstellungen(), std::to_string(optikteil) + "Form",
+                                       {.zustand = ZustandNichtGespeichert})
+                          .zustand != ZustandNichtGespeichert;
+    rahmen[platz]->installEventFilter(this);
+}
+
+frmDocument& Ansichten::Ansicht(int optikteil) {
+    return *ansichten.at(static_cast<std::size_t>(optikteil));
+}
+
+bool Ansichten::BaueAuf() {
+    const auto ohnePlatz = [this](int teil) {
+        return modDaten::Strahlenzahl(teil) > 0 && !hatPlatz[static_cast<std::size_t>(teil)];
+    };
+    const auto mitPlatz = [this](int teil) {
+        return modDaten::Strahlenzahl(teil) > 0 && hatPlatz[static_cast<std::size_t>(teil)];
+    };
+    constexpr std::array teile{0, 1, 2, 3};
+    const bool neue = std::ranges::any_of(teile, ohnePlatz);
+    const bool gekachelt = kachelung && !vonFrueher;
+    const bool eigene = !gekachelt && std::ranges::any_of(teile, mitPlatz);
+    if (neue && eigene)
+        kachelung.reset();
+    ZeigeGebaute();
+    if (!neue && kachelung)
+        FolgeFlaeche();
+    return neue && !eigene;
+}
+
+void Ansichten::ZeigeGebaute() {
+    const Waehrend marke(ordnet);
+    for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil) {
+        const auto platz = static_cast<std::size_t>(teil);
+        if (modDaten::Strahlenzahl(teil) > 0) {
+            hatPlatz[platz] = true;
+            Ansicht(teil).InitfrmDocument();
+            Ansicht(teil).Zeige();
+        } else if (rahmen[platz]->isVisible()) {
+            rahmen[platz]->close();
+        }
+    }
+}
+
+void Ansichten::Zeige(int optikteil, bool live) {
+    const Waehrend marke(ordnet);
+    Ansicht(optikteil).InitfrmDocument();
+    SetzeTitel(optikteil, Titeltext(modPolling::GetOptikteilStatus(optikteil), live));
+    Ansicht(optikteil).Zeige();
+}
+
+int Ansichten::AnzahlGezeigter() const {
+    return static_cast<int>(
+        std::ranges::count_if(rahmen, [](const QMdiSubWindow* fenster) { return !fenster->isHidden(); }));
+}
+
+void Ansichten::SetzeTitel(int optikteil, std::int16_t textId) {
+    const auto platz = static_cast<std::size_t>(optikteil);
+    const QString titel = Ansichtstitel(optikteil, textId);
+    titeltexte.at(platz) = textId;
+    ansichten.at(platz)->setWindowTitle(titel);
+    rahmen.at(platz)->setWindowTitle(titel);
+}
+
+void Ansichten::ZeigeZustaende(bool live) {
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        SetzeTitel(teil, Titeltext(modPolling::GetOptikteilStatus(teil), live));
+}
+
+void Ansichten::ZeigeAlleOffline() {
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        SetzeTitel(teil, TextOffline);
+}
+
+void Ansichten::Lokalisiere() {
+    const Waehrend marke(ordnet);
+    for (frmDocument* ansicht : ansichten)
+        ansicht->Lokalisiere();
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        SetzeTitel(teil, titeltexte.at(static_cast<std::size_t>(teil)));
+}
+
+QSize Ansichten::KleinsterRahmen() const {
+    return rahmen[0]
+        ->minimumSizeHint()
+        .expandedTo(rahmen[0]->minimumSize())
+        .expandedTo(ansichten[0]->minimumSize() + rahmen[0]->size() - ansichten[0]->size());
+}
+
+void Ansichten::Ordne(Anordnung art) {
+    const Waehrend marke(ordnet);
+    std::vector<QMdiSubWindow*> gezeigte;
+    for (QMdiSubWindow* fenster : rahmen)
+        if (!fenster->isHidden() && !fenster->isMinimized())
+            gezeigte.push_back(fenster);
+    const auto plaetze =
+        OrdneAn(art, static_cast<int>(gezeigte.size()), bereich.viewport()->size(), KleinsterRahmen());
+    for (std::size_t i = 0; i < plaetze.size(); ++i) {
+        gezeigte[i]->showNormal();
+        gezeigte[i]->setGeometry(plaetze[i]);
+    }
+    kachelung = art;
+    vonFrueher = false;
+}
+
+void Ansichten::OrdneWieZuvor() {
+    Ordne(kachelung.value_or(Anordnung::Nebeneinander));
+}
+
+void Ansichten::Staffle() {
+    bereich.cascadeSubWindows();
+    kachelung.reset();
+}
+
+bool Ansichten::EineMaximiert() const {
+    return std::ranges::any_of(
+        rahmen, [](const QMdiSubWindow* fenster) { return !fenster->isHidden() && fenster->isMaximized(); });
+}
+
+/// A tiling fills the area anew; one that lies under a maximised view waits until that is gone.
+void Ansichten::FolgeFlaeche() {
+    if (!kachelung || ordnet || AnzahlGezeigter() == 0)
+        return;
+    nachzuholen = wechselt || EineMaximiert();
+    if (!nachzuholen)
+        Ordne(*kachelung);
+}
+
+bool Ansichten::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (const auto* const fenster = qobject_cast<QMdiSubWindow*>(objekt))
+        BemerkeRahmen(ereignis->type(), *fenster);
+    else if (ereignis->type() == QEvent::Resize)
+        FolgeFlaeche();
+    return false;
+}
+
+/// Qt moves a view that is maximised, minimised or restored; that is no arrangement of the user's.
+void Ansichten::BemerkeWechsel() {
+    wechselt = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            wechselt = false;
+            if (nachzuholen)
+                FolgeFlaeche();
+        },
+        Qt::QueuedConnection);
+}
+
+void Ansichten::BemerkeRahmen(QEvent::Type ereignis, const QMdiSubWindow& fenster) {
+    const bool bewegt = ereignis == QEvent::Move || ereignis == QEvent::Resize;
+    if (ereignis == QEvent::ShowToParent || ereignis == QEvent::HideToParent)
+        emit ZahlGewechselt();
+    else if (ereignis == QEvent::WindowStateChange)
+        BemerkeWechsel();
+    else if (bewegt && !ordnet && !wechselt && fenster.isVisible() && !fenster.isMaximized() &&
+             !fenster.isMinimized())
+        kachelung.reset();
+}
+
+void Ansichten::SpeicherePlaetze() const {
+    for (const frmDocument* ansicht : ansichten)
+        ansicht->SpeicherePlatz();
+    SpeichereKachelung(kachelung);
+}
+
+} // namespace varnoth

@@ -1,0 +1,84 @@
+#include "befehlstabelle.h"
+
+#include "texte.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace varnoth {
+
+namespace {
+
+using enum Live;
+using enum Auftritt;
+using Ziel = Befehlswirkung;
+
+constexpr Befehlszeile DieBefehle[] = {
+    {Befehl::VisualisierenStart, "mnuMessdatenVisualisierenStart", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.Verbinde(); }, 0, 1, "F5"},
+    {Befehl::VisualisierenStop, "mnuMessdatenVisualisierenStop", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StoppeLiveDaten(); }, 0, 1, "Shift+F5"},
+    {Befehl::LichtleisteAnzeigen, "mnuAnzeigeLichtleiste", LaeuftWeiter, Still,
+     [](Ziel& z, int teil) { z.ZeigeAnsicht(teil); }, 0, 4, "Ctrl+%1"},
+    {Befehl::Beenden, "mnuBeenden", Stoppt, Zeigt, [](Ziel& z, int) { z.Beende(); }, 0, 1, "Ctrl+Q"},
+    {Befehl::Einzelwerte, "mnuEinzelwerteLesenSchreiben", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.BearbeiteEinzelwerte(); }},
+    {Befehl::FensterNebeneinander, "mnuFensterNebeneinander", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StelleNebeneinander(); }},
+    {Befehl::FensterUeberlappend, "mnuFensterÜberlappend", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StelleUeberlappend(); }},
+    {Befehl::FensterUntereinander, "mnuFensterUntereinander", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.StelleUntereinander(); }},
+    {Befehl::FirmwareUpdate, "mnuFlasher", Stoppt, Zeigt, [](Ziel& z, int) { z.ErneuereFirmware(); }},
+    {Befehl::InitHardware, "mnuInitHardware", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.InitialisiereHardware(); }},
+    {Befehl::KonfigurationAnzeigen, "mnuAnzeigeKonfiguration", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.BearbeiteKonfiguration(); }, 0, 1, "Ctrl+K"},
+    {Befehl::KonfigurationOeffnen, "mnuOeffnen", Stoppt, Zeigt, [](Ziel& z, int) { z.OeffneKonfiguration(); },
+     0, 1, "Ctrl+O"},
+    {Befehl::KonfigurationSpeichernUnter, "mnuSpeichernUnter", Stoppt, Zeigt,
+     [](Ziel& z, int) { z.SpeichereKonfiguration(); }, 0, 1, "Ctrl+S"},
+    {Befehl::UebertragenerWert, "mnuUebertragenerWert", LaeuftWeiter, Still,
+     [](Ziel& z, int) { z.WechsleUebertragenerWert(); }},
+    {Befehl::NeueKonfiguration, "mnuNeu", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.MacheNeueKonfiguration(); }, 0, 1, "Ctrl+N"},
+    {Befehl::ResetHardware, "mnuResetHardware", Stoppt, Zeigt,
+     [](Ziel& z, int) { z.SetzeHardwareZurueck(); }},
+    {Befehl::ComPort, "mnuCom", Stoppt, Still, [](Ziel& z, int nummer) { z.WaehleComPort(nummer); }, 1, 4},
+    {Befehl::Simulation, "mnuSimulation", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeSimulation(); }},
+    {Befehl::Hilfethemen, "mnuHilfethemen", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeHilfethemen(); }},
+    {Befehl::Info, "mnuInfo", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeInfo(); }},
+    {Befehl::AutosendStarten, "mnuAutosendStarten", Stoppt, Zeigt, [](Ziel& z, int) { z.StarteAutosend(); }},
+    {Befehl::Deutsch, "mnuDeutsch", Stoppt, Still, [](Ziel& z, int) { z.SchalteSprache(varnoth::Deutsch); }},
+    {Befehl::Englisch, "mnuEnglisch", Stoppt, Still,
+     [](Ziel& z, int) { z.SchalteSprache(varnoth::Englisch); }},
+    {Befehl::LetzteDatei, "", Stoppt, Zeigt, [](Ziel& z, int platz) { z.OeffneLetzteDatei(platz); }, 0, 0},
+    {Befehl::SimuliertesGeraet, "", Stoppt, Zeigt, [](Ziel& z, int) { z.VerbindeSimuliert(); }, 0, 0},
+};
+
+} // namespace
+
+std::span<const Befehlszeile> Befehlstabelle() {
+    return DieBefehle;
+}
+
+const Befehlszeile* ZeileZu(Befehl befehl) {
+    const auto* const zeile = std::ranges::find(DieBefehle, befehl, &Befehlszeile::befehl);
+    return zeile == std::ranges::end(DieBefehle) ? nullptr : zeile;
+}
+
+std::string Aktionsname(const Befehlszeile& zeile, int platz) {
+    if (zeile.anzahl == 1)
+        return zeile.aktion;
+    return std::string(zeile.aktion) + "_" + std::to_string(zeile.ersterIndex + platz);
+}
+
+std::string Kuerzel(const Befehlszeile& zeile, int platz) {
+    constexpr std::string_view stelle = "%1";
+    std::string tasten = zeile.kuerzel;
+    if (const auto wo = tasten.find(stelle); wo != std::string::npos)
+        tasten.replace(wo, stelle.size(), std::to_string(platz + 1));
+    return tasten;
+}
+
+} // namespace varnoth

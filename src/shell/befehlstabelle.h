@@ -1,0 +1,78 @@
+#pragma once
+
+#include "menuebefehle.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace varnoth {
+
+/// What the commands do.
+class Befehlswirkung {
+public:
+    Befehlswirkung() = default;
+    Befehlswirkung(const Befehlswirkung&) = delete;
+    Befehlswirkung& operator=(const Befehlswirkung&) = delete;
+    virtual ~Befehlswirkung() = default;
+
+    virtual void Verbinde() = 0;
+    virtual void StoppeLiveDaten() = 0;
+    virtual void ZeigeAnsicht(int optikteil) = 0;
+    virtual void Beende() = 0;
+    virtual void BearbeiteEinzelwerte() = 0;
+    virtual void StelleNebeneinander() = 0;
+    virtual void StelleUeberlappend() = 0;
+    virtual void StelleUntereinander() = 0;
+    virtual void ErneuereFirmware() = 0;
+    virtual void InitialisiereHardware() = 0;
+    virtual void BearbeiteKonfiguration() = 0;
+    virtual void OeffneKonfiguration() = 0;
+    virtual void SpeichereKonfiguration() = 0;
+    virtual void WechsleUebertragenerWert() = 0;
+    virtual void MacheNeueKonfiguration() = 0;
+    virtual void SetzeHardwareZurueck() = 0;
+    virtual void WaehleComPort(int nummer) = 0;
+    virtual void ZeigeSimulation() = 0;
+    virtual void ZeigeHilfethemen() = 0;
+    virtual void ZeigeInfo() = 0;
+    virtual void StarteAutosend() = 0;
+    virtual void SchalteSprache(std::int16_t offset) = 0;
+    /// Opens one of the files used last, by its place from 0.
+    virtual void OeffneLetzteDatei(int platz) = 0;
+    /// Connects to the built-in controller, which takes the place of the serial ports in this run.
+    virtual void VerbindeSimuliert() = 0;
+};
+
+/// How a command gets along with live data.
+enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder };
+/// Whether a command opens a dialog or asks a question; the others do their work without the user.
+enum class Auftritt { Still, Zeigt };
+
+/// A command as the program knows it.
+struct Befehlszeile {
+    Befehl befehl;
+    const char*
+        aktion; ///< object name of its action; of one of several: what stands before "_" and the index
+    Live live;
+    Auftritt auftritt;
+    void (*tut)(Befehlswirkung& ziel, int index);
+    int ersterIndex = 0;      ///< of several actions: the index of the first one
+    int anzahl = 1;           ///< how many actions the command has; 0: other controls lead to it
+    const char* kuerzel = ""; ///< keys, in Qt's portable form; "%1" stands for the action's place from 1
+    std::int16_t textId = 0;  ///< of a command that no menu has: its text; it stands in the tool bar
+    const char* symbol = "";  ///< file name of its picture without ending
+};
+
+/// Every command, once.
+std::span<const Befehlszeile> Befehlstabelle();
+
+/// The row of a command; nullptr for Befehl::Keiner.
+const Befehlszeile* ZeileZu(Befehl befehl);
+
+/// The object name of one of a command's actions, by its place 0 .. anzahl - 1.
+std::string Aktionsname(const Befehlszeile& zeile, int platz);
+/// The keys of one of a command's actions, in Qt's portable form; empty where it has none.
+std::string Kuerzel(const Befehlszeile& zeile, int platz);
+
+} // namespace varnoth

@@ -1,0 +1,115 @@
+#include "hauptmenue.h"
+
+#include "aktionen.h"
+#include "registerabbild.h"
+#include "symbole.h"
+#include "texte.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QToolBar>
+
+namespace varnoth {
+
+namespace {
+
+constexpr const char* Leistenname = "tlbBefehle";
+
+QToolBar& Werkzeugleiste(QMainWindow& fenster) {
+    if (auto* const da = fenster.findChild<QToolBar*>(QLatin1String(Leistenname)))
+        return *da;
+    auto* const leiste = new QToolBar(&fenster);
+    leiste->setObjectName(QLatin1String(Leistenname));
+    leiste->setMovable(false);
+    fenster.addToolBar(leiste);
+    return *leiste;
+}
+
+} // namespace
+
+Hauptmenue::Hauptmenue(QMainWindow& das, Klick klick, std::span<const Befehlszeile> befehle) : fenster(das) {
+    for (const Befehlszeile& zeile : befehle)
+        for (int platz = 0; platz < zeile.anzahl; ++platz)
+            Verbinde(zeile, platz, klick);
+    Aktualisiere();
+}
+
+/// A click stores the command and nothing else: the check mark that Qt has already turned is turned back.
+void Hauptmenue::Verbinde(const Befehlszeile& zeile, int platz, const Klick& klick) {
+    const QString name = QString::fromStdString(Aktionsname(zeile, platz));
+    QAction& aktion = zeile.textId != 0 ? Werkzeug(zeile, name) : Aktion(fenster, name);
+    aktion.setShortcut(
+        QKeySequence(QString::fromStdString(Kuerzel(zeile, platz)), QKeySequence::PortableText));
+    QObject::connect(
+        &aktion, &QAction::triggered, &fenster,
+        [&aktion, klick, befehl = zeile.befehl, index = zeile.ersterIndex + platz](bool angehakt) {
+            if (aktion.isCheckable())
+                aktion.setChecked(!angehakt);
+            klick(befehl, index);
+        });
+}
+
+/// The action of a command that no menu has: a button of the tool bar. Its text follows the language as those
+/// of the menus do.
+QAction& Hauptmenue::Werkzeug(const Befehlszeile& zeile, const QString& name) {
+    QAction& aktion = *Werkzeugleiste(fenster).addAction(Symbolbild(QLatin1String(zeile.symbol)), QString());
+    aktion.setObjectName(name);
+    aktion.setProperty("Tag", zeile.textId);
+    aktion.setText(QString::fromStdString(LadeText(zeile.textId)));
+    return aktion;
+}
+
+void Hauptmenue::Aktualisiere() {
+    WendeAn(Menuezustand(zustand), fenster);
+}
+
+void Hauptmenue::SetzeLiveDaten(bool laufen) {
+    zustand.liveDaten = laufen;
+    Aktualisiere();
+}
+
+void Hauptmenue::SetzeAutosendWaehlbar(bool waehlbar) {
+    zustand.autosendWaehlbar = waehlbar;
+    Aktualisiere();
+}
+
+void Hauptmenue::ZeigeService() {
+    zustand.service = true;
+    Aktualisiere();
+}
+
+void Hauptmenue::FolgeStrahlenzahlen() {
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        zustand.hatStrahlen.at(static_cast<std::size_t>(teil)) = modDaten::Strahlenzahl(teil) > 0;
+    Aktualisiere();
+}
+
+void Hauptmenue::VerbergeAnsichten() {
+    zustand.hatStrahlen = {};
+    Aktualisiere();
+}
+
+void Hauptmenue::HakePort(int nummer) {
+    for (int n = 1; n <= 4; ++n)
+        Aktion(fenster, QStringLiteral("mnuCom_%1").arg(n)).setChecked(n == nummer);
+}
+
+void Hauptmenue::HakeSprache() {
+    Aktion(fenster, QStringLiteral("mnuEnglisch")).setChecked(GetSprachoffset() == Englisch);
+    Aktion(fenster, QStringLiteral("mnuDeutsch")).setChecked(GetSprachoffset() != Englisch);
+}
+
+void Hauptmenue::HakeAnsicht(int optikteil, bool gezeigt) {
+    Aktion(fenster, QStringLiteral("mnuAnzeigeLichtleiste_%1").arg(optikteil)).setChecked(gezeigt);
+}
+
+bool Hauptmenue::UebertragenerWert() const {
+    return Aktion(fenster, QStringLiteral("mnuUebertragenerWert")).isChecked();
+}
+
+void Hauptmenue::WechsleUebertragenerWert() {
+    Aktion(fenster, QStringLiteral("mnuUebertragenerWert")).toggle();
+}
+
+} // namespace varnoth

@@ -1,0 +1,91 @@
+#include "konfigurationsablauf.h"
+
+#include "frmKeinKonturAngeschlossen.h"
+#include "frmKonfigurationEdit.h"
+#include "frmKonfigurationSchreibenInHardware.h"
+#include "frmStrahlenBestimmen.h"
+#include "hauptmenue.h"
+#include "konfigurationsbefehle.h"
+#include "letzterdatensatz.h"
+#include "registerabbild.h"
+#include "transaktionen.h"
+#include "zykluszeiten.h"
+
+namespace varnoth {
+
+namespace {
+
+bool HatStrahlen() {
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        if (modDaten::Strahlenzahl(teil) > 0)
+            return true;
+    return false;
+}
+
+} // namespace
+
+Konfigurationsablauf::Konfigurationsablauf(const Hauptteile& die) : teile(die) {}
+
+/// The views and the menu follow the beam counts in the image.
+void Konfigurationsablauf::Zeige() {
+    modHilfsFunktionen::BerechneZykluszeiten();
+    teile.baueAnsichtenAuf();
+    teile.menue.FolgeStrahlenzahlen();
+}
+
+void Konfigurationsablauf::Oeffne() {
+    if (KonfigurationOeffnen())
+        Zeige();
+}
+
+void Konfigurationsablauf::LadeDatei(const std::string& pfad) {
+    varnoth::LadeDatei(pfad);
+    Zeige();
+}
+
+void Konfigurationsablauf::MacheNeue() {
+    frmStrahlenBestimmen dialog(&teile.fenster);
+    dialog.exec();
+    if (dialog.GetCancel() == False)
+        Zeige();
+}
+
+/// A way that led to nothing, such as a file dialog that was cancelled, leads back to the question.
+bool Konfigurationsablauf::FrageNachKonfiguration() {
+    using Wahl = frmKeinKonturAngeschlossen::Wahl;
+    do {
+        frmKeinKonturAngeschlossen dialog(&teile.fenster);
+        dialog.exec();
+        const Wahl wahl = dialog.GetWahl();
+        if (wahl == Wahl::Abgebrochen || teile.beendet())
+            return false;
+        if (wahl == Wahl::LetzterDatensatz)
+            varnoth::LadeDatei(LetzterDatensatz());
+        if (wahl == Wahl::DateiOeffnen)
+            KonfigurationOeffnen();
+    } while (!HatStrahlen());
+    Zeige();
+    return true;
+}
+
+void Konfigurationsablauf::Bearbeite() {
+    const bool gewaehlt = HatStrahlen() || FrageNachKonfiguration();
+    Zeige();
+    if (!gewaehlt || !HatStrahlen())
+        return;
+    frmKonfigurationEdit editor(&teile.fenster);
+    editor.InitKonfiguration(
+        {.zeigeUebertrageneWerte = teile.menue.UebertragenerWert(),
+         .autosendStartbar = [this](bool startbar) { teile.menue.SetzeAutosendWaehlbar(startbar); }});
+    editor.exec();
+    modHilfsFunktionen::BerechneZykluszeiten();
+    if (editor.GetButtonDownLoad() != False)
+        Schreibe();
+}
+
+void Konfigurationsablauf::Schreibe() {
+    frmKonfigurationSchreibenInHardware(&teile.fenster).exec();
+    modModbus::SchreibeSteuerwert4();
+}
+
+} // namespace varnoth

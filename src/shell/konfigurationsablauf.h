@@ -1,0 +1,35 @@
+#pragma once
+
+#include "hauptteile.h"
+
+#include <string>
+
+namespace varnoth {
+
+/// The commands around the configuration as the main window runs them: new, open, edit, write; the views and
+/// the menu follow what the image then holds.
+class Konfigurationsablauf {
+public:
+    /// The parts must outlive this object.
+    explicit Konfigurationsablauf(const Hauptteile& teile);
+
+    /// Asks for a configuration file, loads it and shows its parts.
+    void Oeffne();
+    /// Loads a configuration file (UTF-8 path) and shows its parts.
+    void LadeDatei(const std::string& pfad);
+    /// Asks for beam counts and shows their parts.
+    void MacheNeue();
+    /// Opens the editor, after asking for a configuration where there is none, and writes to the controller
+    /// what the editor hands over.
+    void Bearbeite();
+    /// Lets the user choose a configuration; false when he chose none.
+    bool FrageNachKonfiguration();
+
+private:
+    void Zeige();
+    void Schreibe();
+
+    Hauptteile teile;
+};
+
+} // namespace varnoth

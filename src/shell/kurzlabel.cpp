@@ -1,0 +1,31 @@
+#include "kurzlabel.h"
+
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+constexpr int KleinsteBreite = 4; // average characters
+}
+
+Kurzlabel::Kurzlabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+QSize Kurzlabel::minimumSizeHint() const {
+    const QSize ganz = QLabel::minimumSizeHint();
+    return {std::min(ganz.width(), KleinsteBreite * fontMetrics().averageCharWidth()), ganz.height()};
+}
+
+void Kurzlabel::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    const QRect flaeche = contentsRect();
+    const QString kurz = fontMetrics().elidedText(text(), Qt::ElideRight, flaeche.width());
+    style()->drawItemText(&maler, flaeche, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), palette(),
+                          isEnabled(), kurz, foregroundRole());
+}
+
+} // namespace varnoth

@@ -1,0 +1,49 @@
+#include "statusleiste.h"
+
+#include "geraetepfade.h"
+#include "schnittstelle.h"
+#include "texte.h"
+#include "umgebung.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextSimuliert = 9220;
+constexpr std::int16_t TextOhneAnschluss = 9221;
+
+} // namespace
+
+Statusleiste::Statusleiste(QStatusBar& leiste) {
+    for (std::size_t i = 0; i < felder.size(); ++i) {
+        auto* feld = new QLabel(&leiste);
+        feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
+        feld->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        leiste.addPermanentWidget(feld, 1);
+        felder[i] = feld;
+    }
+}
+
+void Statusleiste::Zeige(int feld, const std::string& text) {
+    QLabel& anzeige = *felder.at(static_cast<std::size_t>(feld - 1));
+    if (const QString neu = QString::fromStdString(text); anzeige.text() != neu)
+        anzeige.setText(neu);
+}
+
+void Statusleiste::ZeigePort() {
+    const int nummer = modSchnittstelle::GetComPort();
+    Zeige(FeldPort, simuliert ? LadeText(TextSimuliert)
+                              : "COM" + std::to_string(nummer) + ": " + modSchnittstelle::GetComSettings());
+    felder[FeldPort - 1]->setToolTip(
+        QString::fromStdString(simuliert ? LadeText(TextOhneAnschluss) : Geraetepfad(nummer)));
+}
+
+void Statusleiste::SetzeSimuliert(bool ist) {
+    simuliert = ist;
+    ZeigePort();
+}
+
+} // namespace varnoth

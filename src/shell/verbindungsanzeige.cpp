@@ -1,0 +1,118 @@
+#include "verbindungsanzeige.h"
+
+#include "kurzlabel.h"
+#include "leitungsstatistik.h"
+#include "polling.h"
+#include "schnittstelle.h"
+#include "texte.h"
+#include "transaktionen.h"
+#include "verbindungssymbol.h"
+#include "verbindungstexte.h"
+#include "zeichensatz.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QStatusBar>
+
+namespace varnoth {
+
+namespace {
+
+constexpr int TaktMs = 250;
+constexpr std::int16_t TextStart = 9118;
+constexpr std::int16_t TextStartHinweis = 9119;
+
+Verbindungstatsachen Tatsachen(bool verbindet) {
+    const auto& leitung = modLeitungsstatistik::GetStand();
+    return {.jetzt = DieUmgebung().Uhr(),
+            .uhrzeit = QDateTime::currentDateTime(),
+            .verbindet = verbindet,
+            .liveDaten = modPolling::GetPollingAktiv() != False,
+            .verloren = modPolling::VerbindungVerloren(),
+            .portOffen = modSchnittstelle::GetPortIstOffen() != False,
+            .simuliert = modSchnittstelle::GetAnschluss().simuliert,
+            .unterwegs = leitung.unterwegs,
+            .letzteAntwort = leitung.letzteAntwort,
+            .wartetSeit = leitung.wartetSeit,
+            .durchgaenge = modPolling::GetDurchgaenge(),
+            .fehlschlaege = modLeitungsstatistik::FehlschlaegeDerLetztenMinute()};
+}
+
+std::string Geraetetext(const std::string& text) {
+    std::string utf8;
+    for (const char zeichen : text)
+        utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
+    return utf8;
+}
+
+Verbindungsgegenstand Gegenstand() {
+    using namespace modSchnittstelle;
+    Verbindungsgegenstand gegenstand{.port = "COM" + std::to_string(GetComPort()),
+                                     .geraet = GetAnschluss().geraet,
+                                     .format = GetComSettings()};
+    if (modModbus::GetIdentGueltig() != True)
+        return gegenstand;
+    gegenstand.bezeichnung = Geraetetext(modModbus::GetIdentText1());
+    gegenstand.seriennummer = Geraetetext(modModbus::GetIdentText2());
+    return gegenstand;
+}
+
+void SetzeText(QLabel& label, const std::string& text) {
+    if (const QString neu = QString::fromStdString(text); label.text() != neu)
+        label.setText(neu);
+}
+
+void SetzeHinweis(QWidget& stelle, const std::string& text) {
+    if (const QString neu = QString::fromStdString(text); stelle.toolTip() != neu)
+        stelle.setToolTip(neu);
+}
+
+} // namespace
+
+Verbindungsanzeige::Verbindungsanzeige(QStatusBar& leiste, const std::function<void()>& starte)
+    : QWidget(&leiste), symbol(new Verbindungssymbol(this)), zustandstext(new Kurzlabel(this)),
+      zahlen(new Kurzlabel(this)), start(new QPushButton(this)) {
+    setObjectName(QStringLiteral("Verbindungsanzeige"));
+    symbol->setObjectName(QStringLiteral("symVerbindung"));
+    zustandstext->setObjectName(QStringLiteral("lblVerbindung"));
+    zahlen->setObjectName(QStringLiteral("lblVerbindungszahlen"));
+    start->setObjectName(QStringLiteral("cmdVerbindungStart"));
+    start->setFocusPolicy(Qt::NoFocus); // the key of the menu item does the same
+    start->setAutoDefault(false);
+    auto* reihe = new QHBoxLayout(this);
+    reihe->setContentsMargins(4, 0, 4, 0);
+    for (QWidget* teil : {static_cast<QWidget*>(symbol), static_cast<QWidget*>(zustandstext),
+                          static_cast<QWidget*>(start), static_cast<QWidget*>(zahlen)})
+        reihe->addWidget(teil);
+    leiste.addPermanentWidget(this);
+    connect(start, &QPushButton::clicked, this, starte);
+    connect(&takt, &QTimer::timeout, this, &Verbindungsanzeige::Aktualisiere);
+    takt.start(TaktMs);
+    Aktualisiere();
+}
+
+void Verbindungsanzeige::SetzeVerbindet(bool ob) {
+    verbindet = ob;
+    Aktualisiere();
+}
+
+void Verbindungsanzeige::Aktualisiere() {
+    const Verbindungstatsachen tatsachen = Tatsachen(verbindet);
+    Zeige(regel.Betrachte(tatsachen), tatsachen.uhrzeit);
+}
+
+void Verbindungsanzeige::Zeige(const Verbindungsbild& bild, const QDateTime& jetzt) {
+    symbol->Zeige(bild.zustand, bild.simuliert);
+    SetzeText(*zustandstext, Zustandstext(bild, jetzt));
+    SetzeText(*zahlen, Zahlentext(bild));
+    zahlen->setVisible(!zahlen->text().isEmpty());
+    start->setVisible(bild.startBieten);
+    if (start->isVisibleTo(this)) {
+        start->setText(QString::fromStdString(LadeText(TextStart)));
+        SetzeHinweis(*start, LadeText(TextStartHinweis));
+    }
+    SetzeHinweis(*this, Verbindungshinweis(bild, Gegenstand(), jetzt));
+    setAccessibleName(zustandstext->text());
+}
+
+} // namespace varnoth

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "verbindungsregel.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+class QPushButton;
+class QStatusBar;
+
+namespace varnoth {
+
+class Kurzlabel;
+class Verbindungssymbol;
+
+/// The part of the status bar that always shows the connection: its state as sign, text and colour, passes a
+/// second and failures a minute, and a button that starts live data where it is not running. It looks at the
+/// link four times a second and asks it nothing.
+class Verbindungsanzeige : public QWidget {
+public:
+    /// @param starte runs at a click on the button
+    Verbindungsanzeige(QStatusBar& leiste, const std::function<void()>& starte);
+
+    /// The connection flow begins or ends.
+    void SetzeVerbindet(bool ob);
+    /// Looks now.
+    void Aktualisiere();
+
+private:
+    void Zeige(const Verbindungsbild& bild, const QDateTime& jetzt);
+
+    Verbindungssymbol* symbol;
+    Kurzlabel* zustandstext;
+    Kurzlabel* zahlen;
+    QPushButton* start;
+    QTimer takt;
+    Verbindungsregel regel;
+    bool verbindet = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,35 @@
+#include "textmitwerten.h"
+
+#include "texte.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+class TextMitWerten : public testing::Test {
+protected:
+    ~TextMitWerten() override { SetzeSprachoffset(Deutsch); }
+};
+
+TEST_F(TextMitWerten, The_values_stand_where_their_marks_were) {
+    EXPECT_EQ(LadeTextMit(9111, {"COM2", "/dev/ttyUSB0"}), "Port: COM2, /dev/ttyUSB0");
+}
+
+TEST_F(TextMitWerten, The_text_is_in_the_current_language) {
+    SetzeSprachoffset(Englisch);
+    EXPECT_EQ(LadeTextMit(9114, {"4711"}), "Serial number: 4711");
+}
+
+TEST_F(TextMitWerten, A_value_that_looks_like_a_mark_is_shown_as_it_is) {
+    EXPECT_EQ(LadeTextMit(9111, {"%2", "%1"}), "Port: %2, %1");
+}
+
+TEST_F(TextMitWerten, A_mark_without_a_value_stays) {
+    EXPECT_EQ(LadeTextMit(9111, {"COM1"}), "Port: COM1, %2");
+}
+
+TEST_F(TextMitWerten, An_id_without_a_text_gives_an_empty_one) {
+    EXPECT_EQ(LadeTextMit(9999, {"x"}), "");
+}
+
+} // namespace varnoth

@@ -1,0 +1,127 @@
+#include "befehlstabelle.h"
+
+#include "menuezustand.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+namespace varnoth {
+
+namespace {
+
+/// Writes down what it is asked to do.
+struct PruefWirkung : Befehlswirkung {
+    void Verbinde() override { getan = "connect"; }
+    void StoppeLiveDaten() override { getan = "stop"; }
+    void ZeigeAnsicht(int teil) override { getan = "view " + std::to_string(teil); }
+    void Beende() override { getan = "exit"; }
+    void BearbeiteEinzelwerte() override { getan = "single values"; }
+    void StelleNebeneinander() override { getan = "side by side"; }
+    void StelleUeberlappend() override { getan = "cascade"; }
+    void StelleUntereinander() override { getan = "stacked"; }
+    void ErneuereFirmware() override { getan = "firmware"; }
+    void InitialisiereHardware() override { getan = "initialise"; }
+    void BearbeiteKonfiguration() override { getan = "editor"; }
+    void OeffneKonfiguration() override { getan = "open"; }
+    void SpeichereKonfiguration() override { getan = "save"; }
+    void WechsleUebertragenerWert() override { getan = "transmitted value"; }
+    void MacheNeueKonfiguration() override { getan = "new"; }
+    void SetzeHardwareZurueck() override { getan = "reset"; }
+    void WaehleComPort(int nummer) override { getan = "port " + std::to_string(nummer); }
+    void ZeigeSimulation() override { getan = "calculator"; }
+    void ZeigeHilfethemen() override { getan = "help"; }
+    void ZeigeInfo() override { getan = "about"; }
+    void StarteAutosend() override { getan = "autosend"; }
+    void SchalteSprache(std::int16_t offset) override { getan = "language " + std::to_string(offset); }
+
+    void OeffneLetzteDatei(int platz) override { getan = "last file " + std::to_string(platz); }
+    void VerbindeSimuliert() override { getan = "simulated"; }
+
+    std::string getan;
+};
+
+std::string GetanVon(int code, int index = 2) {
+    PruefWirkung wirkung;
+    ZeileZu(static_cast<Befehl>(code))->tut(wirkung, index);
+    return wirkung.getan;
+}
+
+std::set<std::string> AlleAktionen() {
+    std::set<std::string> namen;
+    for (const Befehlszeile& zeile : Befehlstabelle())
+        for (int platz = 0; platz < zeile.anzahl; ++platz)
+            namen.insert(Aktionsname(zeile, platz));
+    return namen;
+}
+
+} // namespace
+
+TEST(Befehlstabelle, Every_command_has_one_row) {
+    std::multiset<Befehl> befehle;
+    for (const Befehlszeile& zeile : Befehlstabelle())
+        befehle.insert(zeile.befehl);
+    for (int code = 1; code <= 23; ++code)
+        EXPECT_EQ(befehle.count(static_cast<Befehl>(code)), 1U) << "code " << code;
+    EXPECT_EQ(ZeileZu(Befehl::Keiner), nullptr);
+}
+
+TEST(Befehlstabelle, Every_command_does_its_own_work) {
+    const char* const arbeiten[] = {"connect",       "stop",
+                                    "view 2",        "exit",
+                                    "single values", "side by side",
+                                    "cascade",       "stacked",
+                                    "firmware",      "initialise",
+                                    "editor",        "open",
+                                    "save",          "transmitted value",
+                                    "new",           "reset",
+                                    "port 2",        "calculator",
+                                    "help",          "about",
+                                    "autosend",      "language 0",
+                                    "language 10000"};
+    int code = 0;
+    for (const char* const arbeit : arbeiten)
+        EXPECT_EQ(GetanVon(++code), arbeit) << "code " << code;
+    EXPECT_EQ(GetanVon(101), "last file 2");
+    EXPECT_EQ(GetanVon(102), "simulated");
+}
+
+TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
+    const std::pair<Befehl, const char*> tasten[] = {
+        {Befehl::NeueKonfiguration, "Ctrl+N"},
+        {Befehl::KonfigurationOeffnen, "Ctrl+O"},
+        {Befehl::KonfigurationSpeichernUnter, "Ctrl+S"},
+        {Befehl::Beenden, "Ctrl+Q"},
+        {Befehl::VisualisierenStart, "F5"},
+        {Befehl::VisualisierenStop, "Shift+F5"},
+        {Befehl::KonfigurationAnzeigen, "Ctrl+K"},
+        {Befehl::ResetHardware, ""},
+    };
+    for (const auto& [befehl, taste] : tasten)
+        EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
+    for (int teil = 0; teil < 4; ++teil)
+        EXPECT_EQ(Kuerzel(*ZeileZu(Befehl::LichtleisteAnzeigen), teil), "Ctrl+" + std::to_string(teil + 1));
+}
+
+TEST(Befehlstabelle, No_action_belongs_to_two_commands) {
+    std::size_t aktionen = 0;
+    for (const Befehlszeile& zeile : Befehlstabelle())
+        aktionen += static_cast<std::size_t>(zeile.anzahl);
+    EXPECT_EQ(AlleAktionen().size(), aktionen);
+}
+
+TEST(Befehlstabelle, An_action_of_several_bears_its_index) {
+    EXPECT_EQ(Aktionsname(*ZeileZu(Befehl::ComPort), 0), "mnuCom_1");
+    EXPECT_EQ(Aktionsname(*ZeileZu(Befehl::LichtleisteAnzeigen), 3), "mnuAnzeigeLichtleiste_3");
+    EXPECT_EQ(Aktionsname(*ZeileZu(Befehl::Info), 0), "mnuInfo");
+}
+
+TEST(Befehlstabelle, Every_state_belongs_to_an_action_of_a_command) {
+    const auto aktionen = AlleAktionen();
+    for (const auto& zustand : Menuezustand({}))
+        EXPECT_THAT(aktionen, testing::Contains(zustand.name.toStdString()));
+}
+
+} // namespace varnoth

@@ -1,0 +1,140 @@
+#include "verbindungsanzeige.h"
+
+#include "fenstertest.h"
+#include "leitungsstatistik.h"
+#include "polling.h"
+#include "pruefgeraet.h"
+#include "texte.h"
+#include "transaktionen.h"
+#include "verbindungssymbol.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTextDocument>
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace varnoth {
+
+using namespace std::chrono_literals;
+using pruefung::WarteBis;
+
+/// The connection part in a status bar of its own, over a scripted line.
+class VerbindungsanzeigeTest : public testing::Test {
+protected:
+    VerbindungsanzeigeTest() {
+        leiste.resize(800, 30);
+        leiste.show();
+    }
+
+    template<class Element>
+    Element& Teil(const char* name) {
+        return *leiste.findChild<Element*>(QString::fromLatin1(name));
+    }
+    QString Text() { return Teil<QLabel>("lblVerbindung").text(); }
+    QString Zahlen() { return Teil<QLabel>("lblVerbindungszahlen").text(); }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
+    pruefung::PruefPort port{umgebung};
+    pruefung::PruefGeraet geraet{port};
+    QStatusBar leiste;
+    int starts = 0;
+    Verbindungsanzeige anzeige{leiste, [this] { ++starts; }};
+};
+
+TEST_F(VerbindungsanzeigeTest, Without_a_connection_it_says_offline_and_offers_to_start) {
+    EXPECT_TRUE(Text().startsWith("Offline seit ")) << Text().toStdString();
+    EXPECT_TRUE(Teil<QPushButton>("cmdVerbindungStart").isVisible());
+    Teil<QPushButton>("cmdVerbindungStart").click();
+    EXPECT_EQ(starts, 1);
+}
+
+TEST_F(VerbindungsanzeigeTest, While_connecting_it_says_so_at_once) {
+    anzeige.SetzeVerbindet(true);
+    EXPECT_EQ(Text(), "Verbinde...");
+    EXPECT_FALSE(Teil<QPushButton>("cmdVerbindungStart").isVisible());
+    anzeige.SetzeVerbindet(false);
+    EXPECT_TRUE(Text().startsWith("Offline seit "));
+}
+
+TEST_F(VerbindungsanzeigeTest, It_looks_by_itself_while_events_are_served) {
+    modPolling::StartePolling();
+    EXPECT_TRUE(WarteBis([&] { return Text() == "Live"; }));
+}
+
+TEST_F(VerbindungsanzeigeTest, It_follows_live_data_through_silence_and_stop) {
+    modPolling::StartePolling();
+    modModbus::RTUModeH11IndentifikationsAnforderung();
+    anzeige.Aktualisiere();
+    EXPECT_EQ(Text(), "Live");
+    EXPECT_EQ(Zahlen(), "0 Fehler/min");
+    QString dabei;
+    umgebung.Plane(umgebung.uhr + 4s, [&] {
+        anzeige.Aktualisiere();
+        dabei = Text();
+    });
+    geraet.schweige = [](const std::string&) { return true; };
+    for (int i = 0; i < 5; ++i)
+        modModbus::WaehleOptikteil(0);
+    EXPECT_TRUE(dabei.startsWith("Warte auf Antwort seit ")) << dabei.toStdString();
+    modPolling::StoppePolling();
+    anzeige.Aktualisiere();
+    EXPECT_TRUE(Text().startsWith("Live-Daten angehalten seit ")) << Text().toStdString();
+    EXPECT_EQ(Zahlen(), "5 Fehler/min");
+}
+
+TEST_F(VerbindungsanzeigeTest, The_tip_names_the_device_and_what_the_controller_calls_itself) {
+    geraet.identtext = "<b>Varnoth</b>;\xA9 4711;x";
+    modSchnittstelle::OpenCommPort();
+    modModbus::RTUModeH11IndentifikationsAnforderung();
+    anzeige.Aktualisiere();
+    EXPECT_TRUE(anzeige.toolTip().contains("Port: COM1, /dev/pruefung\nFormat: 38400,n,8,2\n"));
+    EXPECT_TRUE(anzeige.toolTip().contains("Steuergerät: <b>Varnoth</b>\nSeriennummer: © 4711"));
+    EXPECT_FALSE(Qt::mightBeRichText(anzeige.toolTip()));
+}
+
+TEST_F(VerbindungsanzeigeTest, The_built_in_controller_is_named) {
+    port.anschluss = {.simuliert = true};
+    anzeige.Aktualisiere();
+    EXPECT_TRUE(Text().startsWith("Simuliert: Offline")) << Text().toStdString();
+    EXPECT_FALSE(anzeige.toolTip().contains("COM1"));
+}
+
+TEST_F(VerbindungsanzeigeTest, It_speaks_the_language_of_the_moment) {
+    SetzeSprachoffset(Englisch);
+    anzeige.Aktualisiere();
+    EXPECT_TRUE(Text().startsWith("Offline since "));
+    EXPECT_EQ(Teil<QPushButton>("cmdVerbindungStart").toolTip(), "Start live data");
+    EXPECT_EQ(anzeige.accessibleName(), Text());
+}
+
+TEST_F(VerbindungsanzeigeTest, Its_texts_are_plain) {
+    for (const auto* label : anzeige.findChildren<QLabel*>())
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+}
+
+TEST_F(VerbindungsanzeigeTest, It_gets_narrow_where_room_is_short) {
+    EXPECT_LT(Teil<QLabel>("lblVerbindung").minimumSizeHint().width(),
+              Teil<QLabel>("lblVerbindung").sizeHint().width() / 2);
+}
+
+TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {
+    using enum Verbindungszustand;
+    std::set<QByteArray> formen;
+    Verbindungssymbol symbol(nullptr);
+    symbol.resize(24, 24);
+    const auto Form = [&](Verbindungszustand zustand, bool simuliert) {
+        symbol.Zeige(zustand, simuliert);
+        const QImage bild = symbol.grab().toImage().createHeuristicMask();
+        return QByteArray(reinterpret_cast<const char*>(bild.constBits()), bild.sizeInBytes());
+    };
+    for (const auto zustand : {Verbindet, Live, Wartet, Angehalten, PortOffen, Offline})
+        formen.insert(Form(zustand, false));
+    formen.insert(Form(Live, true));
+    EXPECT_EQ(formen.size(), 7U);
+}
+
+} // namespace varnoth
