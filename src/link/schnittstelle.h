@@ -19,6 +19,10 @@ void SetzePort(SeriellerPort* port);
 /// Back to the start: port 1, standard settings, closed.
 void Zuruecksetzen();
 
+/// The port that a number from the settings means: 1..4 themselves, anything else port 1.
+constexpr std::int16_t GueltigerComPort(int nummer) {
+    return nummer >= 1 && nummer <= 4 ? static_cast<std::int16_t>(nummer) : std::int16_t{1};
+}
 /// Port number for the next OpenCommPort; 1..4 are known.
 void SetzeComPort(std::int16_t nummer);
 std::int16_t GetComPort();

@@ -76,7 +76,7 @@ void frmMain::LiesEinstellungen() {
     Einstellungen& einstellungen = DieEinstellungen();
     WendeAn(LiesFensterplatz(einstellungen, Fensterabschnitt, {}), *this);
     modSchnittstelle::SetzeComPort(
-        static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "ComPort", 1)));
+        modSchnittstelle::GueltigerComPort(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
         einstellungen.LiesText("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();
