@@ -17,6 +17,10 @@ inline constexpr const char* StandardComSettings = "38400,n,8,2";
 /// Fits the port in (nullptr takes it out). It must live until it is taken out.
 void SetzePort(SeriellerPort* port);
 
+/// The port that a number from the settings means: 1..4 themselves, anything else port 1.
+constexpr std::int16_t GueltigerComPort(int nummer) {
+    return nummer >= 1 && nummer <= 4 ? static_cast<std::int16_t>(nummer) : std::int16_t{1};
+}
 /// Port number for the next OpenCommPort; 1..4 are known.
 void SetzeComPort(std::int16_t nummer);
 std::int16_t GetComPort();

@@ -1,6 +1,7 @@
 #include "trace.h"
 
 #include "startzustand.h"
+#include "systemfehler.h"
 #include "umgebung.h"
 #include "zahlen.h"
 
@@ -12,7 +13,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
-#include <system_error>
 
 namespace varnoth::modTrace {
 
@@ -34,14 +34,14 @@ std::unique_ptr<std::FILE, Schliesser> datei;
 std::string schreibfehler; // why the file takes no more; empty while it does
 const Startwert startwert(datei, schreibfehler);
 
-std::string Systemfehler() {
-    return std::error_code(errno != 0 ? errno : EIO, std::generic_category()).message();
+std::string LetzterFehler() {
+    return Systemfehler(errno != 0 ? errno : EIO);
 }
 
 void Schreibe(std::string_view text) {
     errno = 0;
     if (std::fwrite(text.data(), 1, text.size(), datei.get()) != text.size() && schreibfehler.empty())
-        schreibfehler = Systemfehler();
+        schreibfehler = LetzterFehler();
 }
 
 /// Makes the file anew, from its first moment for the user alone, whatever the umask. False, with the reason
@@ -83,7 +83,7 @@ std::string Starte(const std::filesystem::path& pfad) {
     std::filesystem::remove(pfad, ohneBelang);
     errno = 0;
     if (!LegeAn(pfad))
-        return Systemfehler();
+        return LetzterFehler();
     Schreibe("Start\r\n");
     const std::string fehler = schreibfehler;
     if (!fehler.empty())

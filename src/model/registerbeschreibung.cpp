@@ -129,7 +129,7 @@ bool Erfuellt(const Werteregel& regel, std::int32_t wert) {
     const std::int32_t feld = wert & regel.maske;
     if (!regel.auswahl.empty())
         return std::ranges::find(regel.auswahl, feld) != regel.auswahl.end();
-    return regel.kleinster <= feld && feld <= regel.groesster;
+    return feld < 0 || (regel.kleinster <= feld && feld <= regel.groesster);
 }
 
 std::span<const Standardwert> AlleStandardwerte() {

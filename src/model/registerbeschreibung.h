@@ -71,7 +71,8 @@ struct Werteregel {
 /// All rules, in the order of ranges and addresses.
 std::span<const Werteregel> AlleWerteregeln();
 
-/// Whether the value satisfies the rule.
+/// Whether the value satisfies the rule. A negative value, which no register has but an edited configuration
+/// can hold, is neither 0 nor too large.
 bool Erfuellt(const Werteregel& regel, std::int32_t wert);
 
 /// The value of a register in the default configuration. Registers without one are 0.

@@ -1,6 +1,7 @@
 #include "dateien.h"
 
 #include "dauerhaft.h"
+#include "systemfehler.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -20,16 +22,17 @@ namespace {
 std::string Hindernis(const QString& pfad) {
     const QFileInfo info(pfad);
     if (pfad.isEmpty())
-        return std::make_error_code(std::errc::no_such_file_or_directory).message();
+        return Systemfehler(ENOENT);
     if (info.isDir())
-        return std::make_error_code(std::errc::is_a_directory).message();
+        return Systemfehler(EISDIR);
     if (info.exists() && !info.isFile())
-        return std::make_error_code(std::errc::operation_not_supported).message();
+        return KeineGewoehnlicheDatei();
     return {};
 }
 
 /// Unbuffered and to the last byte: a disk that fills up in the middle then tells at once, and why.
 bool SchreibAlles(QFile& datei, std::string_view bytes) {
+    errno = 0;
     while (!bytes.empty()) {
         const qint64 geschrieben = datei.write(bytes.data(), static_cast<qint64>(bytes.size()));
         if (geschrieben <= 0)
@@ -39,8 +42,9 @@ bool SchreibAlles(QFile& datei, std::string_view bytes) {
     return true;
 }
 
+/// Why a call on a file has just failed; errno was 0 before it.
 std::string Fehlertext(const QFileDevice& datei) {
-    return datei.errorString().toStdString();
+    return errno != 0 ? Systemfehler(errno) : datei.errorString().toStdString();
 }
 
 /// Where a link leads, the path itself when it is none.
@@ -76,6 +80,7 @@ std::string Fuelle(QFile& datei, std::string_view bytes, const QFileInfo& alte) 
         return Fehlertext(datei);
     if (auto fehler = BringeAufDatentraeger(datei); !fehler.empty())
         return fehler;
+    errno = 0;
     datei.close();
     return datei.error() == QFileDevice::NoError ? std::string() : Fehlertext(datei);
 }
@@ -83,7 +88,7 @@ std::string Fuelle(QFile& datei, std::string_view bytes, const QFileInfo& alte) 
 std::string BenenneUm(const QString& von, const QFileInfo& nach) {
     std::error_code fehler;
     std::filesystem::rename(QFileInfo(von).filesystemFilePath(), nach.filesystemFilePath(), fehler);
-    return fehler ? fehler.message() : std::string();
+    return fehler ? Systemfehler(fehler.value()) : std::string();
 }
 
 } // namespace
@@ -93,8 +98,10 @@ Leseergebnis LiesDatei(const std::string& pfad, std::size_t hoechstens) {
     if (auto hindernis = Hindernis(name); !hindernis.empty())
         return {.fehlertext = std::move(hindernis)};
     QFile datei(name);
+    errno = 0;
     if (!datei.open(QIODevice::ReadOnly))
         return {.fehlertext = Fehlertext(datei)};
+    errno = 0;
     const QByteArray bytes = datei.read(static_cast<qint64>(hoechstens));
     if (datei.error() != QFileDevice::NoError)
         return {.fehlertext = Fehlertext(datei)};
@@ -111,9 +118,10 @@ std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes) {
         return hindernis;
     const QFileInfo ziel(Linkziel(name));
     if (ziel.exists() && !ziel.isWritable())
-        return std::make_error_code(std::errc::permission_denied).message();
+        return Systemfehler(EACCES);
     EntferneReste(ziel.path());
     QFile neue(FreierName(ziel.path()));
+    errno = 0;
     if (!neue.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return Fehlertext(neue);
     std::string fehler = Fuelle(neue, bytes, ziel);

@@ -1,7 +1,8 @@
 #include "dauerhaft.h"
 
+#include "systemfehler.h"
+
 #include <cerrno>
-#include <system_error>
 
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -15,8 +16,7 @@ namespace varnoth {
 #ifdef Q_OS_WIN
 
 std::string BringeAufDatentraeger(const QFile& datei) {
-    return _commit(datei.handle()) == 0 ? std::string()
-                                        : std::error_code(errno, std::generic_category()).message();
+    return _commit(datei.handle()) == 0 ? std::string() : Systemfehler(errno);
 }
 
 void BringeOrdnerAufDatentraeger(const QString& /*ordner*/) {}
@@ -25,7 +25,7 @@ void BringeOrdnerAufDatentraeger(const QString& /*ordner*/) {}
 
 std::string BringeAufDatentraeger(const QFile& datei) {
     const bool gelungen = ::fsync(datei.handle()) == 0 || errno == EINVAL || errno == ENOTSUP;
-    return gelungen ? std::string() : std::error_code(errno, std::generic_category()).message();
+    return gelungen ? std::string() : Systemfehler(errno);
 }
 
 void BringeOrdnerAufDatentraeger(const QString& ordner) {

@@ -1,6 +1,7 @@
 #include "inieinstellungen.h"
 
 #include "dateien.h"
+#include "systemfehler.h"
 #include "zahlen.h"
 
 #include <QDir>
@@ -9,7 +10,9 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cerrno>
 #include <limits>
+#include <utility>
 
 namespace varnoth {
 
@@ -39,9 +42,9 @@ Dateistand Lies(const std::string& pfad) {
 }
 
 /// Renames a file to the first free name of its own, ".defekt", ".defekt2" ...; false when that is not
-/// possible.
+/// possible or enough of them are there.
 bool LegeBeiseite(const std::string& pfad) {
-    constexpr int hoechsteNummer = 99;
+    constexpr int hoechsteNummer = 5;
     for (int nummer = 1; nummer <= hoechsteNummer; ++nummer) {
         const std::string name = pfad + ZusatzDefekt + (nummer > 1 ? std::to_string(nummer) : "");
         if (!GibtEsDatei(name))
@@ -61,15 +64,32 @@ IniEinstellungen::~IniEinstellungen() {
     SetzeEinstellungen(nullptr);
 }
 
-bool IniEinstellungen::Speichere(const std::string& abschnitt, const std::string& schluessel,
-                                 const std::string& text) const {
+/// @return why the change is not on the disk; empty when it is
+std::string IniEinstellungen::Speichere(const std::string& abschnitt, const std::string& schluessel,
+                                        const std::string& text) const {
     Dateistand stand = Lies(pfad);
-    if (stand.befund == Befund::Unlesbar || (stand.befund == Befund::KeinText && !LegeBeiseite(pfad)))
-        return false;
+    if (stand.befund == Befund::Unlesbar)
+        return LiesDatei(pfad, 1).fehlertext;
+    if (stand.befund == Befund::KeinText && !LegeBeiseite(pfad))
+        return DateiIstBeschaedigt();
     if (stand.befund != Befund::Gut)
         stand.inhalt = inhalt;
     stand.inhalt.Setze(abschnitt, schluessel, text);
-    return ErsetzeDatei(pfad, stand.inhalt.Text()).empty();
+    if (stand.inhalt.Text().size() > HoechsteGroesse)
+        return Systemfehler(EFBIG);
+    return ErsetzeDatei(pfad, stand.inhalt.Text());
+}
+
+void IniEinstellungen::Melde(const std::string& grund) {
+    if (!std::exchange(fehler, pfad + ": " + grund).empty() || !fehlermeldung)
+        return;
+    fehlermeldung(fehler);
+}
+
+void IniEinstellungen::SetzeFehlermeldung(std::function<void(const std::string&)> wohin) {
+    fehlermeldung = std::move(wohin);
+    if (fehlermeldung && !fehler.empty())
+        fehlermeldung(fehler);
 }
 
 int IniEinstellungen::LiesZahl(const std::string& abschnitt, const std::string& schluessel, int standard) {
@@ -90,7 +110,12 @@ bool IniEinstellungen::SchreibText(const std::string& abschnitt, const std::stri
                                    const std::string& text) {
     if (inhalt.Lies(abschnitt, schluessel) == text)
         return true;
-    return inhalt.Setze(abschnitt, schluessel, text) && Speichere(abschnitt, schluessel, text);
+    if (!inhalt.Setze(abschnitt, schluessel, text))
+        return false;
+    const std::string grund = Speichere(abschnitt, schluessel, text);
+    if (!grund.empty())
+        Melde(grund);
+    return grund.empty();
 }
 
 QString Einstellungspfad(const QString& ordner, const QString& name) {

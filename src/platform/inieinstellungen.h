@@ -5,13 +5,17 @@
 
 #include <QString>
 
+#include <functional>
+#include <string>
+
 namespace varnoth {
 
 /// Settings in an INI file of the classic kind, unquoted. Each change is stored at once and whole: a reader
 /// finds the old file or the new one, with every other line as it was, also those that others wrote
 /// meanwhile. A file that is no text (it holds NULs or is far too large) gives the defaults and is set aside
-/// under its name and ".defekt" before the first change. What cannot be read at all is left alone, and
-/// changes last for the run.
+/// under its name and ".defekt" before the first change; a few such files are kept, and with that many there
+/// it stays where it is. What cannot be read at all is left alone. A change that cannot be stored, be it that
+/// it would make the file too large, lasts for the run.
 class IniEinstellungen : public Einstellungen {
 public:
     explicit IniEinstellungen(const QString& pfad);
@@ -23,12 +27,19 @@ public:
     bool SchreibText(const std::string& abschnitt, const std::string& schluessel,
                      const std::string& text) override;
 
+    /// Sets who hears, once in a run, that changes are not stored: the file and the reason (UTF-8). Hears at
+    /// once of one that happened before.
+    void SetzeFehlermeldung(std::function<void(const std::string& text)> wohin);
+
 private:
-    bool Speichere(const std::string& abschnitt, const std::string& schluessel,
-                   const std::string& text) const;
+    std::string Speichere(const std::string& abschnitt, const std::string& schluessel,
+                          const std::string& text) const;
+    void Melde(const std::string& grund);
 
     std::string pfad;
     Initext inhalt;
+    std::string fehler; ///< what was or is to be told; empty while all went well
+    std::function<void(const std::string&)> fehlermeldung;
 };
 
 /// Where the settings file of a program lies: `<ordner>/<name>.ini`, or in the user's configuration folder

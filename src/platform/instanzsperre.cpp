@@ -1,30 +1,62 @@
 #include "instanzsperre.h"
 
+#include "eigenerordner.h"
+
 #include <QDir>
-#include <QStandardPaths>
+#include <QFile>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace varnoth {
 
 namespace {
 
+/// The lock's file; empty where there is no folder for it.
 QString Sperrdatei(const QString& name, const QString& ordner) {
-    QString wo = ordner;
-    if (wo.isEmpty())
-        wo = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+    const QString wo = ordner.isEmpty() ? LaufzeitOrdner() : ordner;
     const QString wer = QString::number(qHash(QDir::homePath()), 16);
-    return QDir(wo).filePath(name + QLatin1Char('-') + wer + QStringLiteral(".lock"));
+    return wo.isEmpty() ? QString()
+                        : QDir(wo).filePath(name + QLatin1Char('-') + wer + QStringLiteral(".lock"));
 }
 
 } // namespace
 
-Instanzsperre::Instanzsperre(const QString& name, const QString& ordner) : sperre(Sperrdatei(name, ordner)) {
-    // Only the end of the process that holds the lock makes it stale, never its age.
-    sperre.setStaleLockTime(0);
+#ifdef Q_OS_UNIX
+
+Instanzsperre::Instanzsperre(const QString& name, const QString& ordner) : pfad(Sperrdatei(name, ordner)) {}
+
+Instanzsperre::~Instanzsperre() {
+    if (handle >= 0)
+        ::close(handle);
 }
 
 bool Instanzsperre::Belege() {
-    // A folder that refuses lock files must not keep the program from starting.
+    constexpr int wie = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    if (handle < 0)
+        handle = ::open(QFile::encodeName(pfad).constData(), wie, S_IRUSR | S_IWUSR);
+    return handle < 0 || ::flock(handle, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+#else
+
+Instanzsperre::Instanzsperre(const QString& name, const QString& ordner)
+    : pfad(Sperrdatei(name, ordner)), sperre(pfad) {
+    sperre.setStaleLockTime(0);
+}
+
+Instanzsperre::~Instanzsperre() = default;
+
+bool Instanzsperre::Belege() {
     return sperre.tryLock() || sperre.error() != QLockFile::LockFailedError;
 }
+
+#endif
 
 } // namespace varnoth

@@ -1,8 +1,23 @@
 #include "programmstart.h"
 
+#include "systemfehler.h"
+
+#include <QFileInfo>
 #include <QProcess>
 
+#include <cerrno>
+
 namespace varnoth {
+
+namespace {
+
+std::string Grund(const QFileInfo& programm, const QProcess& prozess) {
+    if (!programm.exists())
+        return Systemfehler(ENOENT);
+    return programm.isExecutable() ? prozess.errorString().toStdString() : Systemfehler(EACCES);
+}
+
+} // namespace
 
 std::string StarteProgramm(const QString& programm, const QString& parameter) {
     QProcess prozess;
@@ -14,7 +29,7 @@ std::string StarteProgramm(const QString& programm, const QString& parameter) {
 #endif
     if (prozess.startDetached())
         return {};
-    return programm.toStdString() + ": " + prozess.errorString().toStdString();
+    return programm.toStdString() + ": " + Grund(QFileInfo(programm), prozess);
 }
 
 } // namespace varnoth

@@ -30,6 +30,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextSchonGestartet = 6001;
+constexpr std::int16_t TextNichtGespeichert = 9263;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
 constexpr const char* Datenordner = "../share/varnoth/"; // of an installed program, from its own folder
 
@@ -60,6 +61,7 @@ Anwendung::~Anwendung() {
     modDaten::SetzeReaktionAufUnplausiblesAbbild({});
     modTrace::Schliesse();
     modSchnittstelle::CloseCommPort();
+    einstellungen.SetzeFehlermeldung({});
     hauptfenster.reset();
     modSchnittstelle::SetzePort(nullptr);
 }
@@ -96,6 +98,9 @@ void Anwendung::LadeHauptfenster() {
     umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
     umgebung.SetzeStatusanzeige(
         [this](int feld, const std::string& text) { hauptfenster->ZeigeStatustext(feld, text); });
+    einstellungen.SetzeFehlermeldung([this](const std::string& text) {
+        hauptfenster->ZeigeStatustext(FeldMeldungen, LadeText(TextNichtGespeichert) + text);
+    });
     hauptfenster->show();
 }
 

@@ -78,7 +78,7 @@ void frmMain::LiesEinstellungen() {
     if (IstErsterStart())
         StelleInArbeitsflaeche(size());
     modSchnittstelle::SetzeComPort(
-        static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "ComPort", 1)));
+        modSchnittstelle::GueltigerComPort(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
         einstellungen.LiesText("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();

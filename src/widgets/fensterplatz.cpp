@@ -46,6 +46,14 @@ QRect Flaeche(const QWidget& rahmen, const QRect& platz) {
     return (schirm ? schirm : rahmen.screen())->availableGeometry();
 }
 
+// No window is larger than all screens together: what a settings file asks for beyond that would only cost
+// memory.
+QSize Begrenzt(QSize groesse) {
+    const QScreen* schirm = QGuiApplication::primaryScreen();
+    const QSize hoechstens = schirm ? schirm->virtualSize() : QSize(1, 1);
+    return groesse.boundedTo(hoechstens).expandedTo({1, 1});
+}
+
 // The place moved so far that its title can be taken hold of.
 QRect Greifbar(QRect platz, const QRect& flaeche) {
     const int links = flaeche.left() - platz.width() + GreifbarerRest;
@@ -165,8 +173,8 @@ std::optional<Fensterplatz> PlatzVon(const QWidget& fenster) {
 
 void WendeAn(const Fensterplatz& platz, QWidget& fenster) {
     QWidget& rahmen = Rahmen(fenster);
-    const QRect pixel(PixelAusTwips(platz.links), PixelAusTwips(platz.oben),
-                      std::max(1, PixelAusTwips(platz.breite)), std::max(1, PixelAusTwips(platz.hoehe)));
+    const QRect pixel(QPoint(PixelAusTwips(platz.links), PixelAusTwips(platz.oben)),
+                      Begrenzt({PixelAusTwips(platz.breite), PixelAusTwips(platz.hoehe)}));
     Verfolger& verfolger = VerfolgerVon(rahmen);
     verfolger.SetzeNormalplatz(pixel);
     if (!rahmen.isWindow() && !rahmen.isVisible()) {

@@ -45,8 +45,9 @@ void VerfolgePlatz(QWidget& fenster);
 /// The place of a window (for one inside a main window that of its frame there): when maximised, the place it
 /// has when restored beside the state. Nothing for a minimised window, whose stored place stays as it is.
 std::optional<Fensterplatz> PlatzVon(const QWidget& fenster);
-/// Moves a window (or its frame in a main window) to a place. Sizes and positions that would put it out of
-/// reach are corrected; the state is applied without showing a window that is hidden.
+/// Moves a window (or its frame in a main window) to a place. Positions that would put it out of reach and
+/// sizes beyond all screens together are corrected; the state is applied without showing a window that is
+/// hidden.
 void WendeAn(const Fensterplatz& platz, QWidget& fenster);
 
 } // namespace varnoth

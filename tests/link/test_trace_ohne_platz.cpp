@@ -2,9 +2,12 @@
 
 #include "kindprozess.h"
 #include "pruefumgebung.h"
+#include "systemfehler.h"
 #include "trace.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
 
 #include <filesystem>
 #include <fstream>
@@ -55,7 +58,7 @@ TEST_F(TraceOhnePlatz, The_file_is_closed_at_the_next_clear_with_a_warning_that_
         modTrace::SchreibeLeerung();
         return vorher + (modTrace::Aktiv() ? " open: " : " closed: ") + umgebung.meldungen.at(0).text;
     });
-    EXPECT_EQ(text, "0 closed: Die Datei Test.txt wird geschlossen. File too large");
+    EXPECT_EQ(text, "0 closed: Die Datei Test.txt wird geschlossen. " + Systemfehler(EFBIG));
 }
 
 TEST_F(TraceOhnePlatz, The_user_is_told_once) {
@@ -86,7 +89,7 @@ TEST_F(TraceOhnePlatz, A_first_line_that_cannot_be_written_gives_the_reason) {
         const std::string fehler = modTrace::Starte(pfad);
         return fehler + (modTrace::Aktiv() ? ", open" : ", closed");
     });
-    EXPECT_EQ(text, "File too large, closed");
+    EXPECT_EQ(text, Systemfehler(EFBIG) + ", closed");
 }
 
 TEST_F(TraceOhnePlatz, A_later_start_with_space_again_traces_again) {

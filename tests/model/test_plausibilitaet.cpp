@@ -41,7 +41,7 @@ protected:
 };
 
 TEST_F(Plausibilitaet, A_beam_count_is_at_most_512_in_every_part) {
-    Pruefe(Spezifisch, {12, {0, 1, 512}, {513, 65535, -1}});
+    Pruefe(Spezifisch, {12, {0, 1, 512, -1}, {513, 65535}});
 }
 
 TEST_F(Plausibilitaet, A_resolution_is_5_10_20_or_40_in_every_part) {
@@ -49,11 +49,11 @@ TEST_F(Plausibilitaet, A_resolution_is_5_10_20_or_40_in_every_part) {
 }
 
 TEST_F(Plausibilitaet, A_sensing_distance_is_0_to_5_in_every_part) {
-    Pruefe(Spezifisch, {14, {0, 5}, {6, 65535, -1}});
+    Pruefe(Spezifisch, {14, {0, 5, -1}, {6, 65535}});
 }
 
 TEST_F(Plausibilitaet, A_filter_count_is_1_to_63_in_every_part) {
-    Pruefe(Spezifisch, {19, {1, 63}, {0, 64, 65535, -1}});
+    Pruefe(Spezifisch, {19, {1, 63, -1}, {0, 64, 65535}});
 }
 
 TEST_F(Plausibilitaet, A_group_counter_is_1_to_127_whatever_its_flag_in_every_part) {
@@ -62,15 +62,15 @@ TEST_F(Plausibilitaet, A_group_counter_is_1_to_127_whatever_its_flag_in_every_pa
 
 TEST_F(Plausibilitaet, Hold_time_hole_size_and_tolerance_are_1_to_255_in_every_part) {
     for (const auto adresse : std::vector<std::int16_t>{25, 26, 27})
-        Pruefe(Spezifisch, {adresse, {1, 255}, {0, 256, 65535, -1}});
+        Pruefe(Spezifisch, {adresse, {1, 255, -1}, {0, 256, 65535}});
 }
 
 TEST_F(Plausibilitaet, A_station_address_is_1_to_240) {
-    Pruefe(Kommunikation, {4, {1, 240}, {0, 241, 65535, -1}});
+    Pruefe(Kommunikation, {4, {1, 240, -1}, {0, 241, 65535}});
 }
 
-TEST_F(Plausibilitaet, A_pause_time_is_at_most_65535) {
-    Pruefe(Kommunikation, {8, {0, 65535}, {65536, -1}});
+TEST_F(Plausibilitaet, A_pause_time_is_at_most_65535_and_may_be_negative) {
+    Pruefe(Kommunikation, {8, {0, 65535, -1, -5}, {65536}});
 }
 
 TEST_F(Plausibilitaet, An_autosend_mode_is_0_1_3_or_4_whatever_stands_above_its_7_bits) {
@@ -86,7 +86,7 @@ TEST_F(Plausibilitaet, Data_block_0x314_passes_and_0x400_and_0x015_fail) {
 }
 
 TEST_F(Plausibilitaet, A_data_block_has_a_length_up_to_20_and_at_most_0x300_above_it) {
-    Pruefe(Kommunikation, {75, {0, 20, 0x300}, {21, 0x315, 0x401, 0x10000}});
+    Pruefe(Kommunikation, {75, {0, 20, 0x300, -256}, {21, 0x315, 0x401, 0x10000, -1}});
 }
 
 TEST_F(Plausibilitaet, Other_registers_of_the_data_block_are_not_checked) {

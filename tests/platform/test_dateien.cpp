@@ -2,6 +2,7 @@
 
 #include "inieinstellungen.h"
 #include "kindprozess.h"
+#include "systemfehler.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,7 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <csignal>
 
 namespace varnoth {
@@ -78,19 +80,19 @@ TEST_F(Dateien, Umlauts_blanks_and_200_characters_work) {
     }
 }
 
-TEST_F(Dateien, A_file_that_is_not_there_gives_the_systems_text) {
+TEST_F(Dateien, A_file_that_is_not_there_is_said) {
     const auto gelesen = LiesDatei(Pfad("fehlt.con"), 100);
     EXPECT_FALSE(gelesen.gelungen);
-    EXPECT_EQ(gelesen.fehlertext, "No such file or directory");
-    EXPECT_EQ(LiesDatei("", 100).fehlertext, "No such file or directory");
+    EXPECT_EQ(gelesen.fehlertext, Systemfehler(ENOENT));
+    EXPECT_EQ(LiesDatei("", 100).fehlertext, Systemfehler(ENOENT));
 }
 
 TEST_F(Dateien, A_folder_is_neither_read_nor_replaced) {
     const std::string pfad = Pfad("Ordner");
     ASSERT_TRUE(QDir().mkdir(QString::fromStdString(pfad)));
     EXPECT_TRUE(GibtEsDatei(pfad));
-    EXPECT_EQ(LiesDatei(pfad, 100).fehlertext, "Is a directory");
-    EXPECT_EQ(ErsetzeDatei(pfad, neu), "Is a directory");
+    EXPECT_EQ(LiesDatei(pfad, 100).fehlertext, Systemfehler(EISDIR));
+    EXPECT_EQ(ErsetzeDatei(pfad, neu), Systemfehler(EISDIR));
     EXPECT_TRUE(QDir(QString::fromStdString(pfad)).exists());
 }
 
@@ -98,24 +100,24 @@ TEST_F(Dateien, A_device_or_pipe_is_neither_waited_for_nor_replaced) {
     const std::string rohr = Pfad("rohr");
     ASSERT_EQ(mkfifo(rohr.c_str(), 0600), 0);
     for (const std::string& pfad : {rohr, std::string("/dev/full")}) {
-        EXPECT_EQ(LiesDatei(pfad, 100).fehlertext, "Operation not supported");
-        EXPECT_EQ(ErsetzeDatei(pfad, neu), "Operation not supported");
+        EXPECT_EQ(LiesDatei(pfad, 100).fehlertext, KeineGewoehnlicheDatei());
+        EXPECT_EQ(ErsetzeDatei(pfad, neu), KeineGewoehnlicheDatei());
         EXPECT_TRUE(GibtEsDatei(pfad));
     }
 }
 
-TEST_F(Dateien, An_unreadable_file_gives_the_systems_text) {
+TEST_F(Dateien, An_unreadable_file_is_said) {
     ErsetzeDatei(Pfad("a.con"), alt);
     chmod(Pfad("a.con").c_str(), 0);
-    EXPECT_EQ(AlsNutzer([&] { return LiesDatei(Pfad("a.con"), 100).fehlertext; }), "Permission denied");
+    EXPECT_EQ(AlsNutzer([&] { return LiesDatei(Pfad("a.con"), 100).fehlertext; }), Systemfehler(EACCES));
 }
 
-TEST_F(Dateien, A_read_only_folder_gives_the_systems_text_and_keeps_the_file) {
+TEST_F(Dateien, A_read_only_folder_is_said_and_keeps_the_file) {
     ErsetzeDatei(Pfad("a.con"), alt);
     chmod(Pfad("a.con").c_str(), 0666);
     chmod(ordner.path().toUtf8().constData(), 0555);
-    EXPECT_EQ(AlsNutzer([&] { return ErsetzeDatei(Pfad("neu.con"), neu); }), "Permission denied");
-    EXPECT_EQ(AlsNutzer([&] { return ErsetzeDatei(Pfad("a.con"), neu); }), "Permission denied");
+    EXPECT_EQ(AlsNutzer([&] { return ErsetzeDatei(Pfad("neu.con"), neu); }), Systemfehler(EACCES));
+    EXPECT_EQ(AlsNutzer([&] { return ErsetzeDatei(Pfad("a.con"), neu); }), Systemfehler(EACCES));
     chmod(ordner.path().toUtf8().constData(), 0777);
     EXPECT_EQ(Inhalt(Pfad("a.con")), alt);
     EXPECT_EQ(Namen(), QStringList{"a.con"});
@@ -128,11 +130,11 @@ TEST_F(Dateien, A_write_protected_file_is_kept) {
     EXPECT_EQ(Inhalt(Pfad("a.con")), alt);
 }
 
-TEST_F(Dateien, A_folder_that_is_not_there_gives_the_systems_text) {
-    EXPECT_EQ(ErsetzeDatei(Pfad("weg/a.con"), neu), "No such file or directory");
+TEST_F(Dateien, A_folder_that_is_not_there_is_said) {
+    EXPECT_EQ(ErsetzeDatei(Pfad("weg/a.con"), neu), Systemfehler(ENOENT));
 }
 
-TEST_F(Dateien, A_full_disk_gives_the_systems_text_and_keeps_the_old_file) {
+TEST_F(Dateien, A_full_disk_is_said_and_keeps_the_old_file) {
     const std::string text =
         Kind([&](int) -> std::string {
             if (!HaengeKleinenDatentraegerEin(ordner.path().toStdString()))
@@ -145,7 +147,7 @@ TEST_F(Dateien, A_full_disk_gives_the_systems_text_and_keeps_the_old_file) {
             .text;
     if (text == "not allowed")
         GTEST_SKIP() << "only root may mount a small disk";
-    EXPECT_EQ(text, "No space left on device: alt: a.con");
+    EXPECT_EQ(text, Systemfehler(ENOSPC) + ": alt: a.con");
 }
 
 TEST_F(Dateien, A_write_that_stops_half_way_keeps_the_old_file_and_leaves_nothing_beside_it) {
@@ -155,7 +157,7 @@ TEST_F(Dateien, A_write_that_stops_half_way_keeps_the_old_file_and_leaves_nothin
                           BegrenzeDateigroesse(Laenge / 2);
                           return ErsetzeDatei(Pfad("a.con"), neu);
                       }).Ende();
-    EXPECT_EQ(kind.text, "File too large");
+    EXPECT_EQ(kind.text, Systemfehler(EFBIG));
     EXPECT_TRUE(Inhalt(Pfad("a.con")) == alt) << Inhalt(Pfad("a.con")).size();
     EXPECT_EQ(Namen(), QStringList{"a.con"});
 }

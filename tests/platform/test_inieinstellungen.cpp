@@ -1,10 +1,16 @@
 #include "inieinstellungen.h"
 
+#include "systemfehler.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <cerrno>
+#include <string>
+#include <vector>
 
 namespace varnoth {
 
@@ -180,6 +186,50 @@ TEST_F(IniEinstellungenTest, A_file_that_cannot_be_written_is_reported_and_the_v
     IniEinstellungen einstellungen(ordner.filePath(QStringLiteral("missing/varnoth.ini")));
     EXPECT_FALSE(einstellungen.SchreibText("Settings", "Sprache", "10000"));
     EXPECT_EQ(einstellungen.LiesZahl("Settings", "Sprache", 0), 10000);
+}
+
+TEST_F(IniEinstellungenTest, A_file_that_a_change_would_make_too_large_keeps_its_bytes) {
+    constexpr int grenze = 1 << 20;
+    const QByteArray randvoll = "[S]\na=1\n;" + QByteArray(grenze - 10, 'x') + "\n";
+    ASSERT_EQ(randvoll.size(), grenze);
+    Schreibe(randvoll);
+    IniEinstellungen einstellungen(Pfad());
+    for (int i = 0; i < 20; ++i)
+        EXPECT_FALSE(einstellungen.SchreibText("S", "b" + std::to_string(i), "2"));
+    EXPECT_EQ(einstellungen.LiesText("S", "b7", ""), "2");
+    EXPECT_TRUE(Inhalt(Pfad()) == randvoll);
+    EXPECT_EQ(QDir(ordner.path()).entryList(QDir::Files).size(), 1);
+    EXPECT_TRUE(einstellungen.SchreibText("S", "a", "7"));
+    EXPECT_EQ(Inhalt(Pfad()).left(8), "[S]\na=7\n");
+}
+
+TEST_F(IniEinstellungenTest, At_most_five_broken_files_are_set_aside) {
+    const QByteArray kaputt("\0", 1);
+    for (int i = 0; i < 8; ++i) {
+        Schreibe(kaputt);
+        EXPECT_EQ(IniEinstellungen(Pfad()).SchreibText("S", "a", "1"), i < 5);
+    }
+    EXPECT_EQ(QDir(ordner.path()).entryList({"*.defekt*"}, QDir::Files).size(), 5);
+    EXPECT_EQ(Inhalt(Pfad()), kaputt);
+}
+
+TEST_F(IniEinstellungenTest, Settings_that_cannot_be_stored_are_said_once_with_the_reason) {
+    ASSERT_TRUE(QDir().mkdir(Pfad()));
+    std::vector<std::string> gesagt;
+    IniEinstellungen einstellungen(Pfad());
+    einstellungen.SchreibText("S", "a", "1");
+    einstellungen.SetzeFehlermeldung([&](const std::string& text) { gesagt.push_back(text); });
+    einstellungen.SchreibText("S", "a", "2");
+    einstellungen.SchreibText("S", "b", "3");
+    EXPECT_EQ(gesagt, std::vector{Pfad().toStdString() + ": " + Systemfehler(EISDIR)});
+}
+
+TEST_F(IniEinstellungenTest, Settings_that_are_stored_are_not_spoken_of) {
+    std::vector<std::string> gesagt;
+    IniEinstellungen einstellungen(Pfad());
+    einstellungen.SetzeFehlermeldung([&](const std::string& text) { gesagt.push_back(text); });
+    EXPECT_TRUE(einstellungen.SchreibText("S", "a", "2"));
+    EXPECT_TRUE(gesagt.empty());
 }
 
 TEST_F(IniEinstellungenTest, The_file_lies_beside_the_program_where_that_can_be_written) {

@@ -1,6 +1,7 @@
 #include "programmstart.h"
 
 #include "fenstertest.h"
+#include "systemfehler.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -51,7 +52,15 @@ TEST_F(Programmstart, No_shell_interprets_the_arguments) {
 TEST_F(Programmstart, A_missing_program_is_named_with_the_reason_of_the_system) {
     const std::string fehler = StarteProgramm(ordner.filePath("Flasher.exe"), "COM1");
     EXPECT_THAT(fehler, HasSubstr("Flasher.exe"));
-    EXPECT_THAT(fehler, HasSubstr(qt_error_string(ENOENT).toStdString()));
+    EXPECT_THAT(fehler, HasSubstr(Systemfehler(ENOENT)));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(Programmstart, A_file_that_is_no_program_is_named_with_the_reason) {
+    QFile datei(ordner.filePath("Flasher.exe"));
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+    EXPECT_THAT(StarteProgramm(datei.fileName(), "COM1"), HasSubstr(Systemfehler(EACCES)));
+}
+#endif
 
 } // namespace varnoth

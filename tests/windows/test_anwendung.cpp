@@ -1,5 +1,6 @@
 #include "anwendung.h"
 
+#include "einstellungen.h"
 #include "fenstertest.h"
 #include "frmSplash.h"
 #include "polling.h"
@@ -246,6 +247,18 @@ TEST(Versionstext, The_product_line_is_in_the_chosen_language) {
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Produktzeile(), "Varnoth  Software Version 1.0.0");
     SetzeSprachoffset(Deutsch);
+}
+
+TEST_F(AnwendungTest, Settings_that_cannot_be_stored_are_spoken_of_in_the_status_bar) {
+    Mit({});
+    ASSERT_TRUE(anwendung->Starte());
+    QFile::remove(ordner.filePath(QStringLiteral("varnoth.ini")));
+    ASSERT_TRUE(QDir().mkdir(ordner.filePath(QStringLiteral("varnoth.ini"))));
+    EXPECT_FALSE(DieEinstellungen().SchreibText("Settings", "Sprache", "77"));
+    const QString text =
+        anwendung->Hauptfenster().statusBar()->findChild<QLabel*>(QStringLiteral("sbStatusBar_1"))->text();
+    EXPECT_TRUE(text.startsWith(QString::fromStdString(LadeText(9263)))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("varnoth.ini"))) << text.toStdString();
 }
 
 } // namespace varnoth

@@ -3,9 +3,11 @@
 #include "pruefumgebung.h"
 
 #include <QApplication>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScreen>
 #include <gtest/gtest.h>
 
 using namespace varnoth;
@@ -135,4 +137,23 @@ TEST_F(FensterplatzTest, A_window_of_its_own_stores_its_normal_place_when_maximi
     QApplication::processEvents();
     EXPECT_TRUE(fenster.isMaximized());
     EXPECT_EQ(PlatzVon(fenster), (Fensterplatz{Fensterplatz::Maximiert, 1500, 750, 4500, 3600}));
+}
+
+TEST_F(FensterplatzTest, No_window_grows_beyond_all_screens_together) {
+    const QSize schirme = QGuiApplication::primaryScreen()->virtualSize();
+    for (const int riesig : {1500000, 2147483647}) {
+        QWidget fenster;
+        WendeAn({Fensterplatz::Normal, riesig, riesig, riesig, riesig}, fenster);
+        WendeAn({Fensterplatz::Normal, riesig, riesig, riesig, riesig}, *sicht);
+        Zeige();
+        EXPECT_EQ(fenster.size(), schirme);
+        EXPECT_EQ(rahmen->size(), schirme);
+    }
+}
+
+TEST_F(FensterplatzTest, A_window_without_size_is_still_a_window) {
+    QWidget fenster;
+    WendeAn({Fensterplatz::Normal, 0, 0, -2147483647 - 1, 0}, fenster);
+    EXPECT_GE(fenster.width(), 1);
+    EXPECT_GE(fenster.height(), 1);
 }

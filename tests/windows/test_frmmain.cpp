@@ -200,10 +200,11 @@ TEST_F(FrmMainTest, Choosing_the_checked_port_changes_and_writes_nothing) {
     EXPECT_EQ(einstellungen.geschrieben, vorher);
 }
 
-TEST_F(FrmMainTest, An_unknown_port_number_in_the_settings_checks_no_item) {
-    einstellungen.texte[{"Settings", "ComPort"}] = "7";
-    for (const char* name : {"mnuCom_1", "mnuCom_2", "mnuCom_3", "mnuCom_4"})
-        EXPECT_FALSE(Aktion(name).isChecked()) << name;
+TEST_F(FrmMainTest, An_unknown_port_number_in_the_settings_means_port_1) {
+    einstellungen.texte[{"Settings", "ComPort"}] = "65538";
+    EXPECT_TRUE(Aktion("mnuCom_1").isChecked());
+    EXPECT_FALSE(Aktion("mnuCom_2").isChecked());
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 1);
 }
 
 TEST_F(FrmMainTest, Empty_port_settings_become_the_default) {

@@ -9,6 +9,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
+#include "systemfehler.h"
 #include "texte.h"
 #include "zykluszeiten.h"
 
@@ -188,7 +189,7 @@ TEST_F(Speichern, A_file_that_cannot_be_written_gives_the_systems_text_and_stays
     modDaten::SetzeGeaendert();
     gewaehlt = {Pfad("weg/a.con")};
     EXPECT_FALSE(KonfigurationSpeichernUnter());
-    ErwarteEineWarnung("No such file or directory\n" + Pfad("weg/a.con"));
+    ErwarteEineWarnung(Systemfehler(ENOENT) + "\n" + Pfad("weg/a.con"));
     EXPECT_EQ(modDaten::IstGeaendert(), True);
     EXPECT_EQ(einstellungen.geschrieben, 0);
 }
@@ -198,7 +199,7 @@ TEST_F(Speichern, A_folder_is_not_replaced) {
     gewaehlt = {Pfad("Ordner")};
     EXPECT_FALSE(KonfigurationSpeichernUnter());
     ASSERT_EQ(umgebung.meldungen.size(), 2U);
-    EXPECT_EQ(umgebung.meldungen[1].text, "Is a directory\n" + Pfad("Ordner"));
+    EXPECT_EQ(umgebung.meldungen[1].text, Systemfehler(EISDIR) + "\n" + Pfad("Ordner"));
 }
 
 TEST_F(Speichern, A_file_that_vanishes_after_the_question_is_written_anew_without_a_message) {
@@ -218,7 +219,7 @@ TEST_F(Speichern, A_folder_that_vanishes_after_the_question_gives_the_systems_te
     umgebung.beiMeldung = [&](const Meldung&) { QDir(ordner.filePath("weg")).removeRecursively(); };
     EXPECT_FALSE(KonfigurationSpeichernUnter());
     ASSERT_EQ(umgebung.meldungen.size(), 2U);
-    EXPECT_EQ(umgebung.meldungen[1], Meldung{.text = "No such file or directory\n" + pfad});
+    EXPECT_EQ(umgebung.meldungen[1], Meldung{.text = Systemfehler(ENOENT) + "\n" + pfad});
     EXPECT_EQ(modDaten::IstGeaendert(), True);
 }
 
@@ -232,7 +233,7 @@ TEST_F(Speichern, A_folder_in_place_of_the_file_after_the_question_is_kept) {
     };
     EXPECT_FALSE(KonfigurationSpeichernUnter());
     ASSERT_EQ(umgebung.meldungen.size(), 2U);
-    EXPECT_EQ(umgebung.meldungen[1], Meldung{.text = "Is a directory\n" + pfad});
+    EXPECT_EQ(umgebung.meldungen[1], Meldung{.text = Systemfehler(EISDIR) + "\n" + pfad});
     EXPECT_TRUE(QFileInfo(name).isDir());
 }
 
@@ -241,7 +242,7 @@ TEST_F(Speichern, A_file_in_place_of_the_folder_gives_the_systems_text) {
     const std::string pfad = Pfad("da.con/neu.con");
     gewaehlt = {pfad};
     EXPECT_FALSE(KonfigurationSpeichernUnter());
-    ErwarteEineWarnung("Not a directory\n" + pfad);
+    ErwarteEineWarnung(Systemfehler(ENOTDIR) + "\n" + pfad);
     EXPECT_EQ(Inhalt(Pfad("da.con")), modDaten::SpeichereKonfigurationsdatei());
 }
 
@@ -306,7 +307,7 @@ TEST_F(Oeffnen, A_file_that_is_not_there_gives_the_systems_text_and_nothing_else
     modDaten::SetDateiname("alt.con");
     const std::string vorher = modDaten::SpeichereKonfigurationsdatei();
     EXPECT_FALSE(LadeDatei(Pfad("weg.con")));
-    ErwarteEineWarnung("No such file or directory\n" + Pfad("weg.con"));
+    ErwarteEineWarnung(Systemfehler(ENOENT) + "\n" + Pfad("weg.con"));
     EXPECT_EQ(modDaten::GetDateiname(), "alt.con");
     EXPECT_EQ(modDaten::SpeichereKonfigurationsdatei(), vorher);
     EXPECT_EQ(modDaten::IstGeaendert(), False);
@@ -314,7 +315,7 @@ TEST_F(Oeffnen, A_file_that_is_not_there_gives_the_systems_text_and_nothing_else
 
 TEST_F(Oeffnen, A_folder_gives_the_systems_text) {
     EXPECT_FALSE(LadeDatei(ordner.path().toStdString()));
-    ErwarteEineWarnung("Is a directory\n" + ordner.path().toStdString());
+    ErwarteEineWarnung(Systemfehler(EISDIR) + "\n" + ordner.path().toStdString());
 }
 
 TEST_F(Oeffnen, A_failed_load_still_becomes_the_current_file_and_leaves_a_plausible_image) {
