@@ -11,6 +11,7 @@
 #include "standardkonfiguration.h"
 #include "symbole.h"
 #include "texte.h"
+#include "tipptext.h"
 #include "trace.h"
 #include "ui_frmMain.h"
 
@@ -78,7 +79,7 @@ void frmMain::LiesEinstellungen() {
     modSchnittstelle::SetzeComPort(
         static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
-        einstellungen.LiesText("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
+        LiesBegrenzt("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();
 }
 
@@ -139,7 +140,7 @@ void frmMain::ZeigePort() {
     for (int n = 1; n <= 4; ++n)
         findChild<QAction*>(QStringLiteral("mnuCom_%1").arg(n))->setChecked(n == nummer);
     ZeigeStatustext(FeldPort, "COM" + std::to_string(nummer) + ": " + modSchnittstelle::GetComSettings());
-    statusfelder[FeldPort - 1]->setToolTip(QString::fromStdString(Geraetepfad(nummer)));
+    statusfelder[FeldPort - 1]->setToolTip(AlsTipp(QString::fromStdString(Geraetepfad(nummer))));
 }
 
 void frmMain::ZeigeSprache() {
