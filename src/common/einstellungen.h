@@ -30,4 +30,12 @@ Einstellungen& DieEinstellungen();
 /// Fits settings in (nullptr takes them out). They must live until they are taken out.
 void SetzeEinstellungen(Einstellungen* einstellungen);
 
+/// The longest text that `LiesBegrenzt` gives, in characters.
+inline constexpr int LaengsterText = 80;
+
+/// A text that goes to another program or to the line: of a longer one than `LaengsterText` characters only
+/// the beginning counts. The default where the key is missing.
+std::string LiesBegrenzt(const std::string& abschnitt, const std::string& schluessel,
+                         const std::string& standard);
+
 } // namespace varnoth

@@ -23,6 +23,8 @@ struct Meldung {
     std::string titel{};
     Symbol symbol = Symbol::Warnung;
     Knoepfe knoepfe = Knoepfe::Ok;
+    bool abbrechenVorgegeben =
+        false; ///< Enter cancels, as it should where OK changes the controller or loses work
 
     bool operator==(const Meldung&) const = default;
 };

@@ -49,6 +49,8 @@ Antwort ZeigeMeldungsfenster(const Meldung& meldung) {
     QMessageBox fenster(AlsIcon(meldung.symbol), QString::fromStdString(titel),
                         QString::fromStdString(meldung.text), AlsButtons(meldung.knoepfe), FensterVorn());
     fenster.setObjectName(QStringLiteral("Meldungsfenster"));
+    if (meldung.abbrechenVorgegeben)
+        fenster.setDefaultButton(QMessageBox::Cancel);
     fenster.setTextFormat(Qt::PlainText);
     return AlsAntwort(fenster.exec());
 }

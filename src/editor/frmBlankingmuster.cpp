@@ -38,7 +38,7 @@ void StellePlatzHer(QWidget& fenster) {
 } // namespace
 
 frmBlankingmuster::frmBlankingmuster(QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::frmBlankingmuster>()) {
+    : Eingabedialog(parent), ui(std::make_unique<Ui::frmBlankingmuster>()) {
     ui->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     for (int art = 0; art < ui->Option1->buttons().size(); ++art)
@@ -46,6 +46,7 @@ frmBlankingmuster::frmBlankingmuster(QWidget* parent)
     QSizePolicy platz = ui->lblHinweis->sizePolicy();
     platz.setRetainSizeWhenHidden(true);
     ui->lblHinweis->setSizePolicy(platz);
+    NimmVorgabenWeg();
     LokalisiereForm(*this);
     Verbinde();
     SetzeBedienart(ui->Option1->checkedId());
@@ -81,6 +82,11 @@ void frmBlankingmuster::InitFormBlankingmuster(std::int32_t Index) {
     ui->BeamBar1->SetzeStrahlanzahl(std::clamp(modDaten::Strahlenzahl(Optikteil), 0, MaxStrahlen));
     ui->BeamBar1->SetzeStrahlabstand(Register(Optikteil, spezifisch::Aufloesung));
     Fuelle();
+    anfangs = Gezeigte();
+}
+
+bool frmBlankingmuster::IstGeaendert() const {
+    return Gezeigte() != anfangs;
 }
 
 void frmBlankingmuster::Fuelle() {

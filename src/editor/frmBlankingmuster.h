@@ -1,8 +1,7 @@
 #pragma once
 
 #include "blankingmuster.h"
-
-#include <QDialog>
+#include "eingabedialog.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,7 +15,7 @@ class frmBlankingmuster;
 /// Lets the user choose beam by beam what an optical part blanks. The caller makes it, runs
 /// InitFormBlankingmuster and then exec(). The pattern goes into the image only with OK; the window's place
 /// is kept in the settings file.
-class frmBlankingmuster : public QDialog {
+class frmBlankingmuster : public Eingabedialog {
 public:
     explicit frmBlankingmuster(QWidget* parent = nullptr);
     ~frmBlankingmuster() override;
@@ -28,6 +27,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* ereignis) override;
+    bool IstGeaendert() const override;
 
 private:
     void Verbinde();
@@ -40,6 +40,7 @@ private:
     void SpeicherePlatz() const;
 
     std::unique_ptr<Ui::frmBlankingmuster> ui;
+    Geblankte anfangs; ///< what was shown at first
     std::int16_t Optikteil = 0;
     bool warSichtbar = false;
 };

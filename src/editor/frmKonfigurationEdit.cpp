@@ -1,5 +1,6 @@
 #include "frmKonfigurationEdit.h"
 
+#include "eingabestand.h"
 #include "frmBlankingmuster.h"
 #include "frmReihenfolge.h"
 #include "geraetesuche.h"
@@ -36,11 +37,12 @@ void OeffneReihenfolge(QWidget* eltern) {
 } // namespace
 
 frmKonfigurationEdit::frmKonfigurationEdit(QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::frmKonfigurationEdit>()) {
+    : Eingabedialog(parent), ui(std::make_unique<Ui::frmKonfigurationEdit>()) {
     ui->setupUi(this);
     optikseiten = {ui->picOptions_1, ui->picOptions_2, ui->picOptions_3, ui->picOptions_4};
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         optikseiten.at(static_cast<std::size_t>(teil))->SetzeOptikteil(teil);
+    NimmVorgabenWeg();
     VerbindeKnoepfe();
     LokalisiereForm(*this);
 }
@@ -73,6 +75,11 @@ void frmKonfigurationEdit::InitKonfiguration(Editorumfeld neues) {
         ui->picOptions_5->ZeigeUebertrageneWerte();
     }
     SeitenFuellen();
+    anfangsstand = EingabestandVon(*this);
+}
+
+bool frmKonfigurationEdit::IstGeaendert() const {
+    return !schliesseMit && EingabestandVon(*this) != anfangsstand;
 }
 
 void frmKonfigurationEdit::EntferneFehlendeTeile() {
@@ -128,7 +135,6 @@ void frmKonfigurationEdit::SucheGeraet() {
 
 void frmKonfigurationEdit::ErlaubeDownload() {
     ui->cmdDownLoad->setEnabled(true);
-    ui->cmdDownLoad->setDefault(true);
     if (ui->cmdUebernehmen->hasFocus())
         ui->cmdDownLoad->setFocus();
     ui->cmdUebernehmen->setEnabled(false);
@@ -155,7 +161,7 @@ void frmKonfigurationEdit::keyPressEvent(QKeyEvent* ereignis) {
     if (WechseltSeite(*ereignis))
         QCoreApplication::sendEvent(ui->tbsOptions, ereignis);
     else
-        QDialog::keyPressEvent(ereignis);
+        Eingabedialog::keyPressEvent(ereignis);
 }
 
 } // namespace varnoth

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "boolean.h"
+#include "eingabedialog.h"
 
-#include <QDialog>
+#include <QVariantList>
 
 #include <array>
 #include <functional>
@@ -27,7 +28,7 @@ struct Editorumfeld {
 /// apply. With a controller at the line it can only be left by applying and sending, or by cancelling; so it
 /// asks once, while the user works already, whether one is there. The port is open from then on until it
 /// closes.
-class frmKonfigurationEdit : public QDialog {
+class frmKonfigurationEdit : public Eingabedialog {
 public:
     explicit frmKonfigurationEdit(QWidget* parent = nullptr);
     ~frmKonfigurationEdit() override;
@@ -42,6 +43,7 @@ public:
 protected:
     void showEvent(QShowEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
+    bool IstGeaendert() const override;
 
 private:
     void VerbindeKnoepfe();
@@ -56,6 +58,7 @@ private:
     std::unique_ptr<Ui::frmKonfigurationEdit> ui;
     std::array<Optikseite*, 4> optikseiten;
     Editorumfeld umfeld;
+    QVariantList anfangsstand; ///< what the controls held when they were filled
     Boolean DownloadAngefordert = False;
     bool angestossen = false;
     bool sucht = false;

@@ -30,8 +30,9 @@ void WaehleId(QButtonGroup& gruppe, int id) {
 } // namespace
 
 frmReihenfolge::frmReihenfolge(QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::frmReihenfolge>()) {
+    : Eingabedialog(parent), ui(std::make_unique<Ui::frmReihenfolge>()) {
     ui->setupUi(this);
+    NimmVorgabenWeg();
     LokalisiereForm(*this);
     ui->List1->setAccessibleName(windowTitle());
     Nummeriere();
@@ -77,6 +78,7 @@ void frmReihenfolge::VerbindeListe() {
 
 void frmReihenfolge::Lade() {
     liste = ListeAus(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock));
+    geladene = liste;
     ZeigeListe(0);
     if (HatUngueltigenEintrag(liste))
         DieUmgebung().ZeigeMeldung({.text = Fehlertext, .symbol = Symbol::Ohne});
@@ -90,6 +92,10 @@ void frmReihenfolge::ZeigeListe(int gewaehlt) {
     ui->List1->setCurrentRow(std::min(gewaehlt, anzahl - 1));
     ui->lblAnzahl->setText(QStringLiteral("%1 / %2").arg(anzahl).arg(MaxEintraege));
     ui->Command3->setEnabled(anzahl > 0);
+}
+
+bool frmReihenfolge::IstGeaendert() const {
+    return liste != geladene;
 }
 
 Eintragswahl frmReihenfolge::Wahl() const {

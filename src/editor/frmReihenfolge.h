@@ -1,8 +1,7 @@
 #pragma once
 
 #include "datenblock.h"
-
-#include <QDialog>
+#include "eingabedialog.h"
 
 #include <array>
 #include <memory>
@@ -18,10 +17,13 @@ class frmReihenfolge;
 
 /// Edits which values the controller sends in a data block, and in which order. It takes the list from the
 /// image when it is made; the list goes back into the image only with OK.
-class frmReihenfolge : public QDialog {
+class frmReihenfolge : public Eingabedialog {
 public:
     explicit frmReihenfolge(QWidget* parent = nullptr);
     ~frmReihenfolge() override;
+
+protected:
+    bool IstGeaendert() const override;
 
 private:
     /// The option groups in the order Option1, Option2, Option3.
@@ -41,6 +43,7 @@ private:
 
     std::unique_ptr<Ui::frmReihenfolge> ui;
     Eintragsliste liste{};
+    Eintragsliste geladene{}; ///< the list as it came from the image
 };
 
 } // namespace varnoth

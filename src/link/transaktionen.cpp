@@ -9,6 +9,7 @@
 #include "startzustand.h"
 
 #include <exception>
+#include <stdexcept>
 
 namespace varnoth::modModbus {
 
@@ -81,8 +82,10 @@ Boolean RTUModeH03LeseAnforderung(std::uint16_t Startadresse, std::uint16_t Anza
         LeseErkenner erkenner(ident.slaveAdresse, Anzahl);
         if (!Tausche(LeseAnforderung(ident.slaveAdresse, Startadresse, Anzahl), erkenner))
             return false;
+        if (werte.size() < Anzahl)
+            throw std::out_of_range("Werte: no room for the reply");
         for (std::size_t i = 0; i < Anzahl; ++i)
-            werte.at(i) = Registerwert(erkenner.Daten(), i);
+            werte[i] = Registerwert(erkenner.Daten(), i);
         return true;
     });
 }

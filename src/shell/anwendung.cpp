@@ -76,9 +76,8 @@ bool Anwendung::Starte() {
 }
 
 void Anwendung::LiesSprache() {
-    SetzeSprachoffset(static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "Sprache", Deutsch)));
-    if (GetSprachoffset() != Englisch)
-        SetzeSprachoffset(Deutsch);
+    const int sprache = einstellungen.LiesZahl("Settings", "Sprache", Deutsch);
+    SetzeSprachoffset(sprache == Englisch ? Englisch : Deutsch);
     LadeQtTexte(GetSprachoffset());
 }
 

@@ -15,13 +15,14 @@ bool FrageNachUpdate() {
     return DieUmgebung().ZeigeMeldung({.text = LadeText(TextFirmwareFrage),
                                        .titel = LadeText(TextAchtung),
                                        .symbol = Symbol::Warnung,
-                                       .knoepfe = Knoepfe::OkAbbrechen}) == Antwort::Ok;
+                                       .knoepfe = Knoepfe::OkAbbrechen,
+                                       .abbrechenVorgegeben = true}) == Antwort::Ok;
 }
 
 } // namespace
 
 void AktualisiereFirmware(Firmwareziel& ziel) {
-    const std::string parameter = DieEinstellungen().LiesText("Flasher", "Parameter", "");
+    const std::string parameter = LiesBegrenzt("Flasher", "Parameter", "");
     if (parameter.empty() || !FrageNachUpdate() || !ziel.Identifiziere())
         return;
     if (modModbus::SendeFunktion09Kommando() == False)

@@ -80,7 +80,7 @@ void frmMain::LiesEinstellungen() {
     modSchnittstelle::SetzeComPort(
         modSchnittstelle::GueltigerComPort(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
-        einstellungen.LiesText("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
+        LiesBegrenzt("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();
 }
 

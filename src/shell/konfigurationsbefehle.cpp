@@ -31,7 +31,7 @@ std::string ZuletztGespeichert() {
 }
 
 void ZeigeDateifehler(const std::string& fehlertext, const std::string& pfad) {
-    ZeigeWarnung(fehlertext + "\n" + pfad);
+    ZeigeWarnung(Dateifehlertext(fehlertext, pfad));
 }
 
 bool DarfErsetzen(const std::string& pfad) {
@@ -91,6 +91,11 @@ Antwort FrageNachAenderungen() {
 }
 
 } // namespace
+
+std::string Dateifehlertext(const std::string& fehlertext, const std::string& pfad) {
+    const bool nenntPfad = fehlertext.find(pfad) != std::string::npos;
+    return nenntPfad ? fehlertext : fehlertext + "\n" + pfad;
+}
 
 bool KonfigurationSpeichernUnter() {
     const auto pfad = WaehleZiel();

@@ -28,4 +28,8 @@ bool LadeDatei(const std::string& pfad);
 /// and after a Yes that saved nothing (dialog cancelled, write failed): only a No gives changes up.
 bool FrageNachSpeichern();
 
+/// What a warning says about a file that could not be read or written: the system's text, and the path in a
+/// line of its own where that text does not name it.
+std::string Dateifehlertext(const std::string& fehlertext, const std::string& pfad);
+
 } // namespace varnoth

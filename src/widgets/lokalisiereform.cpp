@@ -83,6 +83,8 @@ QString OhneMnemonik(const QString& text) {
 }
 
 void LokalisiereLabel(QLabel& label) {
+    if (label.textFormat() == Qt::AutoText)
+        label.setTextFormat(Qt::PlainText);
     const QString text = TextZuTag(label);
     SchreibeText(label, &QLabel::text, &QLabel::setText, label.buddy() ? text : OhneMnemonik(text));
 }

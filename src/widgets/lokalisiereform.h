@@ -19,6 +19,9 @@ namespace varnoth {
 /// property
 ///   "ToolTipTag"
 ///
+/// From then on a label of the form shows its text letter by letter, whatever tags stand in it, unless its
+/// format was designed.
+///
 /// What carries no id, or an id without a text, keeps what it shows. Forms inside the form (child windows,
 /// dialogs) are left to their own call. Never fails, and writes only what changes.
 void LokalisiereForm(QWidget& form);

@@ -24,8 +24,10 @@ void Ablaufdialog::Lade(QPushButton& abbrechen) {
     connect(abbruchknopf, &QPushButton::clicked, this, &Ablaufdialog::reject);
     abbruchknopf->setFocus();
     for (QLineEdit* const feld : findChildren<QLineEdit*>())
-        if (feld->isReadOnly())
+        if (feld->isReadOnly()) {
+            MacheZurAnzeige(*feld);
             BietePlatz(*feld, Feldbreite);
+        }
     LokalisiereForm(*this);
     modSchnittstelle::OpenCommPort();
     geladen = true;

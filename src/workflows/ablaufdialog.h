@@ -33,9 +33,9 @@ protected:
 
     Ablaufdialog(Beginn wann, QWidget* parent);
 
-    /// Localises the form, gives read-only fields room for what they will show, and opens the port; the last
-    /// step of a dialog's constructor. `abbrechen` is the cancel button, which gets the focus: once the
-    /// procedure has reached its end, closing the dialog is a cancel only while it is enabled.
+    /// Localises the form, shows read-only fields as texts with room for what they will hold, and opens the
+    /// port; the last step of a dialog's constructor. `abbrechen` is the cancel button, which gets the focus:
+    /// once the procedure has reached its end, closing the dialog is a cancel only while it is enabled.
     void Lade(QPushButton& abbrechen);
     /// Runs the procedure, then closes the dialog where nothing is left to be seen.
     void FuehreAus();

@@ -14,6 +14,14 @@ void ZeigeText(QLineEdit& feld, const QString& text) {
     feld.setCursorPosition(0);
 }
 
+void MacheZurAnzeige(QLineEdit& feld) {
+    feld.setFrame(false);
+    feld.setFocusPolicy(Qt::ClickFocus);
+    QPalette farben = feld.palette();
+    farben.setColor(QPalette::Base, Qt::transparent);
+    feld.setPalette(farben);
+}
+
 void ZeigeStand(QProgressBar& balken, int wert) {
     balken.setUpdatesEnabled(false);
     balken.setValue(wert);

@@ -11,6 +11,10 @@ namespace varnoth {
 /// Shows a text from its beginning in a read-only field; nothing happens when the field shows it already.
 void ZeigeText(QLineEdit& feld, const QString& text);
 
+/// Makes a read-only field look like what it is: text without the frame and ground of an input field, and no
+/// stop for the Tab key. Its text can still be marked with the mouse and copied.
+void MacheZurAnzeige(QLineEdit& feld);
+
 /// Shows a value in a progress bar, which is painted together with all else that has changed. By itself it
 /// would paint at once, and keep the line waiting.
 void ZeigeStand(QProgressBar& balken, int wert);

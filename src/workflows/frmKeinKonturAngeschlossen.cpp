@@ -2,6 +2,7 @@
 
 #include "letzterdatensatz.h"
 #include "lokalisiereform.h"
+#include "tipptext.h"
 #include "ui_frmKeinKonturAngeschlossen.h"
 
 #include <QFileInfo>
@@ -36,7 +37,7 @@ void frmKeinKonturAngeschlossen::BieteLetztenDatensatzAn() {
     const QFontMetrics schrift = ui->lblDatensatz->fontMetrics();
     ui->lblDatensatz->setText(schrift.elidedText(QFileInfo(pfad).fileName(), Qt::ElideMiddle,
                                                  Dateinamenbreite * schrift.averageCharWidth()));
-    ui->lblDatensatz->setToolTip(pfad);
+    ui->lblDatensatz->setToolTip(AlsTipp(pfad));
     ui->lblDatensatz->setVisible(vorhanden);
     ui->optLadeletztenKonfigurationsdatensatz->setEnabled(vorhanden);
     QRadioButton& wahl = vorhanden ? *ui->optLadeletztenKonfigurationsdatensatz : *ui->optStrahlenanzahl;

@@ -13,7 +13,6 @@ frmKonfigurationSchreibenInHardware::frmKonfigurationSchreibenInHardware(QWidget
     connect(ui->cmdStart, &QPushButton::clicked, this, [this] { FuehreAus(); });
     SetWeiter(True);
     Lade(*ui->cmdCancel);
-    ui->cmdStart->setFocus();
 }
 
 frmKonfigurationSchreibenInHardware::~frmKonfigurationSchreibenInHardware() = default;

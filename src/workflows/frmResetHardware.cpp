@@ -15,7 +15,6 @@ frmResetHardware::frmResetHardware(QWidget* parent)
     connect(ui->cmdOK, &QPushButton::clicked, this, [this] { FuehreAus(); });
     SetWeiter(True);
     Lade(*ui->cmdCancel);
-    ui->cmdOK->setFocus();
 }
 
 frmResetHardware::~frmResetHardware() = default;

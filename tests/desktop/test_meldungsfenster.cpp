@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -70,6 +71,17 @@ TEST(Meldungsfenster, Closing_a_question_is_a_cancel_and_closing_a_notice_is_an_
     const auto schliesse = [](QMessageBox& fenster) { fenster.close(); };
     EXPECT_EQ(Beantworte({.text = "?", .knoepfe = Knoepfe::OkAbbrechen}, schliesse), Antwort::Abbrechen);
     EXPECT_EQ(Beantworte({.text = "!"}, schliesse), Antwort::Ok);
+}
+
+TEST(Meldungsfenster, Enter_agrees_unless_cancel_is_preset) {
+    for (const bool abbrechen : {false, true}) {
+        const Meldung frage{.text = "?", .knoepfe = Knoepfe::OkAbbrechen, .abbrechenVorgegeben = abbrechen};
+        const Antwort antwort = Beantworte(frage, [](QMessageBox& fenster) {
+            QKeyEvent druck(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(&fenster, &druck);
+        });
+        EXPECT_EQ(antwort, abbrechen ? Antwort::Abbrechen : Antwort::Ok);
+    }
 }
 
 TEST(Meldungsfenster, Its_buttons_are_in_the_chosen_language) {

@@ -108,11 +108,13 @@ TEST_F(TransaktionenTest, Before_any_identification_a_read_goes_to_address_255) 
     EXPECT_EQ(port.gesendet[0], MitPruefsumme(Bytes({0xFF, 3, 0, 0, 0, 1})));
 }
 
-TEST_F(TransaktionenTest, An_array_that_is_too_small_shows_the_error_under_the_procedures_name) {
+TEST_F(TransaktionenTest,
+       An_array_that_is_too_small_shows_the_error_under_the_procedures_name_and_keeps_its_values) {
     Identifiziere();
     AntworteMit({{0ms, MitPruefsumme(Bytes({1, 3, 4, 0, 1, 0, 2}))}});
-    Werte werte(1);
+    Werte werte{77};
     EXPECT_EQ(RTUModeH03LeseAnforderung(0, 2, werte), False);
+    EXPECT_EQ(werte, Werte{77});
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0].titel, "RTUModeH03LeseAnforderung()");
     EXPECT_NE(umgebung.meldungen[0].text, "");

@@ -17,11 +17,12 @@ TEST(Zeichensatz, Latin_letters_become_two_bytes) {
     EXPECT_EQ(AlsUtf8(0xFF), "ÿ");
 }
 
-TEST(Zeichensatz, Characters_from_128_to_159_follow_the_Windows_set) {
-    EXPECT_EQ(AlsUtf8(0x80), "€");
-    EXPECT_EQ(AlsUtf8(0x8A), "Š");
-    EXPECT_EQ(AlsUtf8(0x99), "™");
-    EXPECT_EQ(AlsUtf8(0x9F), "Ÿ");
+TEST(Zeichensatz, Every_character_from_128_to_159_follows_the_Windows_set) {
+    const std::string erwartet = "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
+    std::string alle;
+    for (unsigned zeichen = 0x80; zeichen <= 0x9F; ++zeichen)
+        alle += AlsUtf8(static_cast<std::uint8_t>(zeichen));
+    EXPECT_EQ(alle, erwartet);
 }
 
 TEST(Zeichensatz, A_character_that_the_Windows_set_leaves_open_keeps_its_code) {

@@ -1,12 +1,18 @@
 // What all dialogs that run a procedure against the controller have in common.
 
 #include "dialogtest.h"
+#include "frmEinzelwerteLesenSchreiben.h"
 #include "frmHoleLichtleistenInfo.h"
 #include "frmIdentifikationsAnforderung.h"
+#include "frmInitHardware.h"
 #include "frmKonfigurationLesenAusHardware.h"
+#include "frmKonfigurationSchreibenInHardware.h"
+#include "frmResetHardware.h"
 #include "texte.h"
 
 #include <QKeyEvent>
+
+#include <algorithm>
 
 namespace varnoth {
 
@@ -20,17 +26,14 @@ struct Merkmale<frmIdentifikationsAnforderung> {
     static constexpr auto name = "frmIdentifikationsAnforderung";
     static constexpr auto bestaetigen = "cmdWeiter";
     static constexpr std::int16_t titel = 7200;
-    static constexpr auto tabfolge =
-        "txtSlaveAdresse txtSchaltzustand txtGerätetyp txtBezeichnung txtSeriennr txtCopyright cmdWeiter "
-        "cmdCancel";
+    static constexpr auto tabfolge = "cmdWeiter cmdCancel";
 };
 template<>
 struct Merkmale<frmKonfigurationLesenAusHardware> {
     static constexpr auto name = "frmKonfigurationLesenAusHardware";
     static constexpr auto bestaetigen = "cmdOK";
     static constexpr std::int16_t titel = 7000;
-    static constexpr auto tabfolge =
-        "txtSpeicherbereich txtAktuellesRegister txtRegisteranzahl txtLeseversuch cmdOK cmdCancel";
+    static constexpr auto tabfolge = "cmdOK cmdCancel";
 };
 template<>
 struct Merkmale<frmHoleLichtleistenInfo> {
@@ -284,14 +287,66 @@ TYPED_TEST(AblaufdialogTest, The_size_stays_the_same_while_the_procedure_shows_i
     EXPECT_EQ(dialog.size(), davor);
 }
 
-TYPED_TEST(AblaufdialogTest, The_tab_order_leads_through_the_fields_to_confirm_and_cancel) {
+TYPED_TEST(AblaufdialogTest, Tab_leads_to_confirm_and_cancel_and_to_no_field_that_only_shows) {
     TypeParam dialog;
     EXPECT_EQ(this->Tabfolge(dialog), Merkmale<TypeParam>::tabfolge);
+}
+
+TYPED_TEST(AblaufdialogTest, Fields_that_only_show_look_like_text_and_can_be_copied) {
+    TypeParam dialog;
+    for (const auto* feld : dialog.template findChildren<QLineEdit*>()) {
+        ASSERT_TRUE(feld->isReadOnly());
+        EXPECT_FALSE(feld->hasFrame()) << feld->objectName().toStdString();
+        EXPECT_EQ(feld->palette().color(QPalette::Base).alpha(), 0);
+        EXPECT_EQ(feld->focusPolicy(), Qt::ClickFocus);
+    }
 }
 
 TYPED_TEST(AblaufdialogTest, The_form_has_its_own_name) {
     const TypeParam dialog;
     EXPECT_EQ(dialog.objectName(), Merkmale<TypeParam>::name);
+}
+
+/// The dialogs that change the controller, each with the button that does.
+class AenderndeDialogeTest : public pruefung::DialogTest {
+protected:
+    static bool Aendert(const std::string& anforderung) {
+        constexpr char Schreiben = 0x10;
+        return anforderung.size() > 1 && anforderung[1] == Schreiben;
+    }
+    int Schreibvorgaenge() const { return static_cast<int>(std::ranges::count_if(port.gesendet, Aendert)); }
+    /// Presses Enter in every control that can have the focus.
+    void DrueckeUeberallEnter(QDialog& dialog) {
+        dialog.show();
+        Druecke(dialog, Qt::Key_Return);
+        for (auto* const element : dialog.findChildren<QWidget*>())
+            if (element->isVisible() && element->isEnabled() && element->focusPolicy() != Qt::NoFocus) {
+                element->setFocus();
+                Druecke(dialog, Qt::Key_Return);
+            }
+    }
+    pruefung::PruefEinstellungen einstellungen;
+};
+
+TEST_F(AenderndeDialogeTest, Enter_never_changes_the_controller) {
+    frmResetHardware reset;
+    frmInitHardware werksdaten;
+    frmKonfigurationSchreibenInHardware schreiben;
+    frmEinzelwerteLesenSchreiben einzelwerte;
+    const std::pair<QDialog*, const char*> dialoge[] = {
+        {&reset, "cmdOK"}, {&werksdaten, "cmdSchreiben"}, {&schreiben, "cmdStart"}};
+    for (const auto& [dialog, name] : dialoge) {
+        DrueckeUeberallEnter(*dialog);
+        EXPECT_EQ(Schreibvorgaenge(), 0) << name;
+        EXPECT_FALSE(Kind<QPushButton>(*dialog, name).isDefault()) << name;
+        EXPECT_TRUE(dialog->isVisible()) << name;
+    }
+    auto& knopf = Kind<QPushButton>(einzelwerte, "cmdSchreiben");
+    einzelwerte.show();
+    knopf.setFocus();
+    Druecke(einzelwerte, Qt::Key_Return);
+    EXPECT_EQ(AnzahlAnforderungen(), 0);
+    EXPECT_FALSE(knopf.isDefault());
 }
 
 } // namespace varnoth

@@ -121,7 +121,7 @@ TEST_F(AnwendungTest, A_help_file_among_the_data_of_the_system_is_found) {
 }
 
 TEST_F(AnwendungTest, Any_other_language_in_the_settings_file_counts_as_German) {
-    for (const char* wert : {"1", "-1", "abc", "99999999"}) {
+    for (const char* wert : {"1", "-1", "abc", "75536", "99999999"}) {
         SchreibEinstellungen(QByteArray("[Settings]\nSprache=") + wert + "\n");
         EXPECT_TRUE(Mit({}).Starte());
         EXPECT_EQ(GetSprachoffset(), Deutsch) << wert;

@@ -60,13 +60,20 @@ TEST_F(Firmware, Without_a_parameter_in_the_settings_nothing_happens) {
     EXPECT_THAT(gestartet, IsEmpty());
 }
 
-TEST_F(Firmware, It_asks_first_with_OK_and_Cancel) {
+TEST_F(Firmware, Of_a_parameter_the_first_80_characters_are_handed_over) {
+    einstellungen.texte[{"Flasher", "Parameter"}] = std::string(100, 'p');
+    Aktualisiere();
+    EXPECT_EQ(gestartet, std::vector<std::string>{std::string(80, 'p')});
+}
+
+TEST_F(Firmware, It_asks_first_and_Enter_is_Cancel) {
     Aktualisiere();
     ASSERT_FALSE(umgebung.meldungen.empty());
     EXPECT_EQ(umgebung.meldungen.front(), (Meldung{.text = "Soll das Firmware update durchgeführt werden?",
                                                    .titel = LadeText(TextAchtung),
                                                    .symbol = Symbol::Warnung,
-                                                   .knoepfe = Knoepfe::OkAbbrechen}));
+                                                   .knoepfe = Knoepfe::OkAbbrechen,
+                                                   .abbrechenVorgegeben = true}));
 }
 
 TEST_F(Firmware, Cancel_at_the_question_leaves_the_controller_alone) {

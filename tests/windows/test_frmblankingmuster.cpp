@@ -234,24 +234,39 @@ TEST_F(FrmBlankingmusterTest, Arrows_and_space_blank_at_once_after_opening) {
     EXPECT_EQ(Beschriftung(dialog, "sbStatusBar_1"), "Strahl: 2, 20mm");
 }
 
-TEST_F(FrmBlankingmusterTest, Escape_cancels) {
+TEST_F(FrmBlankingmusterTest, Escape_asks_before_it_gives_up_a_changed_pattern) {
     Oeffne();
     Klicke(dialog, "cmdAllesBlanking");
+    umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(umgebung.meldungen.size(), 2U);
     EXPECT_EQ(Muster(), Werte(Blankingregister, 0));
 }
 
-TEST_F(FrmBlankingmusterTest, Enter_confirms_wherever_the_focus_is) {
-    for (const char* name : {"BeamBar1", "Option1_0", "cmdReset"}) {
-        SetzeMuster(Werte(Blankingregister, 0));
-        Oeffne();
-        KlickeStrahl(0);
-        Kind<QWidget>(dialog, name).setFocus();
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-        EXPECT_EQ(Muster(), Beginn(0x0100, 0)) << name;
-        EXPECT_FALSE(dialog.isVisible()) << name;
+TEST_F(FrmBlankingmusterTest, A_pattern_that_is_as_it_was_goes_without_a_question) {
+    Oeffne();
+    Klicke(dialog, "cmdAllesBlanking");
+    Klicke(dialog, "cmdReset");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(FrmBlankingmusterTest, Enter_moves_on_and_writes_nothing_wherever_the_focus_is) {
+    SetzeMuster(Werte(Blankingregister, 0));
+    Oeffne();
+    KlickeStrahl(0);
+    for (const char* name : {"BeamBar1", "Option1_0", "cmdReset", "cmdOK", "cmdCancel"}) {
+        auto& element = Kind<QWidget>(dialog, name);
+        element.setFocus();
+        QTest::keyClick(&element, Qt::Key_Return);
+        EXPECT_NE(dialog.focusWidget(), &element) << name;
     }
+    EXPECT_EQ(Muster(), Werte(Blankingregister, 0));
+    EXPECT_TRUE(dialog.isVisible());
 }
 
 TEST_F(FrmBlankingmusterTest, The_texts_are_in_the_language_of_the_moment) {

@@ -358,7 +358,7 @@ TEST_F(frmInitHardwareTest, No_text_is_cut_off_in_either_language) {
 TEST_F(frmInitHardwareTest, The_tab_order_leads_through_the_fields_to_Write_and_cancel) {
     Dialog dialog;
     EXPECT_EQ(Tabfolge(dialog), "txtSeriennummer txtJahr txtMonat txtTag txtHauptversion txtUnterversion "
-                                "txtUebertragungszustand txtCounter cmdSchreiben cmdCancel");
+                                "cmdSchreiben cmdCancel");
 }
 
 } // namespace varnoth

@@ -156,6 +156,16 @@ TEST_F(KonfigurationEditTest, Titles_and_buttons_are_in_the_language_of_the_mome
     EXPECT_EQ(K<QPushButton>("cmdCancel").text(), "Cancel");
 }
 
+TEST_F(KonfigurationEditTest, The_button_of_the_blanking_pattern_says_what_selected_means) {
+    for (const auto& [sprache, hinweis] :
+         {std::pair{Deutsch, "(Angewählt ist geblankt)"}, std::pair{Englisch, "(Selected is blanked)"}}) {
+        SetzeSprachoffset(sprache);
+        Oeffne();
+        for (const char* name : {"cmdBlankingmuster_0", "cmdBlankingmuster_3"})
+            EXPECT_EQ(K<QPushButton>(name).toolTip(), QString::fromUtf8(hinweis)) << name;
+    }
+}
+
 TEST_F(KonfigurationEditTest, Every_text_of_the_form_exists) {
     for (const std::int16_t sprache : {Deutsch, Englisch}) {
         SetzeSprachoffset(sprache);
@@ -618,6 +628,75 @@ TEST_F(KonfigurationEditTest, The_port_is_open_until_the_editor_closes) {
     EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), True);
     Klicke("cmdCancel");
     EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False);
+}
+
+TEST_F(KonfigurationEditTest, Enter_moves_on_and_writes_nothing_wherever_the_focus_is) {
+    Zeige();
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    const auto davor = Abbild();
+    for (auto* const element : dialog->findChildren<QWidget*>())
+        if ((element->focusPolicy() & Qt::TabFocus) && element->isVisible() && element->isEnabled()) {
+            element->setFocus();
+            Druecke(*element, Qt::Key_Return);
+            EXPECT_NE(dialog->focusWidget(), element) << element->objectName().toStdString();
+        }
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(Abbild(), davor);
+    EXPECT_EQ(dialog->GetButtonDownLoad(), False);
+}
+
+TEST_F(KonfigurationEditTest, Every_kind_of_change_makes_Escape_and_the_close_box_ask) {
+    const std::function<void()> aenderungen[] = {
+        [this] { Box("cboAuflösung_0").setCurrentIndex(3); },
+        [this] { Klicke("optPNPAusgang_Option1_6"); },
+        [this] { K<QLineEdit>("txtPausenzeit").setText("77"); },
+    };
+    for (const auto& aendere : aenderungen)
+        for (const bool escape : {true, false}) {
+            port.gesendet.clear();
+            umgebung.meldungen.clear();
+            umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+            Zeige();
+            aendere();
+            const auto schliesse = [&] {
+                if (escape)
+                    Druecke(*dialog, Qt::Key_Escape);
+                else
+                    dialog->close();
+            };
+            schliesse();
+            EXPECT_TRUE(dialog->isVisible());
+            EXPECT_TRUE(modSchnittstelle::GetPortIstOffen() == True);
+            schliesse();
+            EXPECT_FALSE(dialog->isVisible());
+            ASSERT_EQ(umgebung.meldungen.size(), 2U);
+            EXPECT_EQ(umgebung.meldungen[0],
+                      (Meldung{.text = "Die Änderungen in diesem Fenster sind noch nicht übernommen. "
+                                       "Sollen sie verworfen werden?",
+                               .titel = "Achtung",
+                               .knoepfe = Knoepfe::OkAbbrechen,
+                               .abbrechenVorgegeben = true}));
+        }
+}
+
+TEST_F(KonfigurationEditTest, The_cancel_button_and_unchanged_controls_close_without_a_question) {
+    Zeige();
+    Druecke(*dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    port.gesendet.clear();
+    Zeige();
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    Klicke("cmdCancel");
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(KonfigurationEditTest, A_program_that_ends_closes_a_changed_editor_without_a_question) {
+    Zeige();
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    dialog->reject();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 TEST_F(KonfigurationEditTest, Closing_during_the_search_takes_effect_when_it_has_returned) {

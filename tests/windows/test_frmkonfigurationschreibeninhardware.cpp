@@ -57,12 +57,11 @@ TEST_F(frmKonfigurationSchreibenInHardwareTest, The_port_is_open_and_nothing_is_
     EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST_F(frmKonfigurationSchreibenInHardwareTest, At_load_storing_is_checked_and_Start_waits_with_the_focus) {
+TEST_F(frmKonfigurationSchreibenInHardwareTest, At_load_storing_is_checked_and_cancel_has_the_focus) {
     EXPECT_TRUE(Speichern(dialog).isChecked());
     EXPECT_TRUE(Bereit(dialog, "cmdStart"));
     EXPECT_TRUE(Bereit(dialog, "cmdCancel"));
-    EXPECT_TRUE(Kind<QPushButton>(dialog, "cmdStart").isDefault());
-    EXPECT_EQ(dialog.focusWidget(), &Kind<QPushButton>(dialog, "cmdStart"));
+    EXPECT_EQ(dialog.focusWidget(), &Kind<QPushButton>(dialog, "cmdCancel"));
     EXPECT_EQ(Felder(dialog), QStringList({"", "", "", ""}));
 }
 
@@ -228,9 +227,9 @@ TEST_F(frmKonfigurationSchreibenInHardwareTest, No_text_is_cut_off_in_either_lan
     }
 }
 
-TEST_F(frmKonfigurationSchreibenInHardwareTest, The_tab_order_leads_through_the_fields_to_Start_and_cancel) {
-    EXPECT_EQ(Tabfolge(dialog), "txtSpeicherbereich txtAktuellesRegister txtRegisteranzahl txtSchreibversuch "
-                                "chkSpeichern cmdStart cmdCancel");
+TEST_F(frmKonfigurationSchreibenInHardwareTest,
+       Tab_leads_to_storing_Start_and_cancel_and_to_no_field_that_only_shows) {
+    EXPECT_EQ(Tabfolge(dialog), "chkSpeichern cmdStart cmdCancel");
 }
 
 } // namespace varnoth

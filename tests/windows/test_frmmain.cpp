@@ -213,6 +213,12 @@ TEST_F(FrmMainTest, Empty_port_settings_become_the_default) {
     EXPECT_EQ(modSchnittstelle::GetComSettings(), "38400,n,8,2");
 }
 
+TEST_F(FrmMainTest, Of_the_port_settings_the_first_80_characters_count) {
+    einstellungen.texte[{"Settings", "ComSettings"}] = "9600,e,8,1" + std::string(100, ' ');
+    Fenster();
+    EXPECT_EQ(modSchnittstelle::GetComSettings(), "9600,e,8,1" + std::string(70, ' '));
+}
+
 TEST_F(FrmMainTest, A_window_made_too_small_snaps_back_to_its_least_size) {
     Fenster().resize(100, 100);
     EXPECT_EQ(Fenster().size(), QSize(3700 / 15 + 1, 5040 / 15));

@@ -289,23 +289,36 @@ TEST_F(FrmReihenfolgeTest, A_double_click_on_an_entry_that_cannot_be_chosen_leav
     EXPECT_EQ(Gewaehlt(), (std::vector{1, 0, 1}));
 }
 
-TEST_F(FrmReihenfolgeTest, Escape_cancels) {
+TEST_F(FrmReihenfolgeTest, Escape_asks_before_it_gives_up_a_changed_list) {
     Oeffne({0x0101});
     Druecke("Command3");
+    umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+    QTest::keyClick(Dialog().focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(Dialog().isVisible());
     QTest::keyClick(Dialog().focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(Dialog().isVisible());
+    EXPECT_EQ(umgebung.meldungen.size(), 2U);
     EXPECT_EQ(Gespeichert(), Block({0x0101}));
 }
 
-TEST_F(FrmReihenfolgeTest, Enter_confirms_wherever_the_focus_is) {
-    for (const char* name : {"List1", "Option3_1", "Command2"}) {
-        Oeffne({0x0101, 0x0102});
-        Druecke("Command3");
-        Kind<QWidget>(Dialog(), name).setFocus();
-        QTest::keyClick(Dialog().focusWidget(), Qt::Key_Return);
-        EXPECT_FALSE(Dialog().isVisible()) << name;
-        EXPECT_EQ(Gespeichert(), Block({0x0102})) << name;
+TEST_F(FrmReihenfolgeTest, A_list_that_is_as_it_was_goes_without_a_question) {
+    Oeffne({0x0101});
+    QTest::keyClick(Dialog().focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(Dialog().isVisible());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(FrmReihenfolgeTest, Enter_moves_on_and_writes_nothing_wherever_the_focus_is) {
+    Oeffne({0x0101, 0x0102});
+    Druecke("Command3");
+    for (const char* name : {"List1", "Option3_1", "Command2", "cmdOK", "cmdCancel"}) {
+        auto& element = Kind<QWidget>(Dialog(), name);
+        element.setFocus();
+        QTest::keyClick(&element, Qt::Key_Return);
+        EXPECT_NE(Dialog().focusWidget(), &element) << name;
     }
+    EXPECT_TRUE(Dialog().isVisible());
+    EXPECT_EQ(Gespeichert(), Block({0x0101, 0x0102}));
 }
 
 TEST_F(FrmReihenfolgeTest, The_texts_are_in_the_language_of_the_moment) {

@@ -26,9 +26,8 @@ TEST_F(frmResetHardwareTest, The_port_is_open_and_nothing_is_sent_before_OK) {
     EXPECT_FALSE(Versuche(dialog).isVisible());
 }
 
-TEST_F(frmResetHardwareTest, OK_waits_as_the_default_with_the_focus) {
-    EXPECT_TRUE(Kind<QPushButton>(dialog, "cmdOK").isDefault());
-    EXPECT_EQ(dialog.focusWidget(), &Kind<QPushButton>(dialog, "cmdOK"));
+TEST_F(frmResetHardwareTest, Cancel_has_the_focus_when_the_question_is_asked) {
+    EXPECT_EQ(dialog.focusWidget(), &Kind<QPushButton>(dialog, "cmdCancel"));
 }
 
 TEST_F(frmResetHardwareTest, A_device_that_answers_at_once_keeps_the_attempts_hidden_and_closes_the_dialog) {

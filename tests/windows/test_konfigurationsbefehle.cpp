@@ -185,6 +185,11 @@ TEST_F(Speichern, Cancel_in_the_question_and_in_the_dialog_ends_silently) {
     EXPECT_EQ(modDaten::IstGeaendert(), True);
 }
 
+TEST(Dateifehler, The_path_stands_in_a_line_of_its_own_unless_the_text_names_it) {
+    EXPECT_EQ(Dateifehlertext("Permission denied", "/a/b.con"), "Permission denied\n/a/b.con");
+    EXPECT_EQ(Dateifehlertext("/a/b.con: Permission denied", "/a/b.con"), "/a/b.con: Permission denied");
+}
+
 TEST_F(Speichern, A_file_that_cannot_be_written_gives_the_systems_text_and_stays_unsaved) {
     modDaten::SetzeGeaendert();
     gewaehlt = {Pfad("weg/a.con")};
