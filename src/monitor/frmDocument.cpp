@@ -6,6 +6,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "strahlbits.h"
+#include "strahlhinweis.h"
 #include "texte.h"
 
 #include <QButtonGroup>
@@ -19,6 +20,7 @@ namespace {
 constexpr std::int16_t TextGeblankte = 4019;
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr int StrahlenJeRegister = 16;
+constexpr int AlterstaktMs = 250;
 
 QString AlsText(std::int32_t wert) {
     return QString::number(wert);
@@ -45,20 +47,31 @@ frmDocument::frmDocument(int teil, QWidget* eltern)
     gezeigteWerte.fill(-1);
     for (int auswahl = 0; auswahl < ui->Option1->buttons().size(); ++auswahl)
         ui->Option1->setId(ui->Option1->buttons().at(auswahl), auswahl);
+    hinweis = new Strahlhinweis(*ui->BeamBar1);
     PasseZiffernAn();
     Verbinde();
+    VerwirfWerte();
     Lokalisiere();
 }
 
 frmDocument::~frmDocument() = default;
 
 void frmDocument::Verbinde() {
-    connect(ui->Option1, &QButtonGroup::idClicked, this, [this] { SetAktuellMinMaxStatus(); });
+    connect(ui->Option1, &QButtonGroup::idClicked, this, [this] { ZeigeWerte(); });
     connect(ui->BeamBar1, &BeamBarControl::StrahlUnterMaus, this, &frmDocument::ZeigeStrahltext);
+    uhrwerk.setInterval(AlterstaktMs);
+    connect(&uhrwerk, &QTimer::timeout, this, &frmDocument::PruefeAlter);
     connect(this, &QWidget::windowTitleChanged, ui->BeamBar1, &QWidget::setAccessibleName);
 }
 
 void frmDocument::SetAktuellMinMaxStatus() {
+    WerteSindDa();
+    ZeigeWerte();
+}
+
+void frmDocument::ZeigeWerte() {
+    if (stand == Datenstand::Ungueltig)
+        return;
     const int gewaehlt = Blockversatz(ui->Option1->checkedId());
     if (gewaehlt != versatz)
         gezeigteWerte.fill(-1);
@@ -96,7 +109,7 @@ void frmDocument::InitfrmDocument() {
     for (int strahl = 0; strahl < ui->BeamBar1->Strahlanzahl(); ++strahl)
         ZeigeZustand(strahl, Strahlzustand::Unterbrochen);
     anzeige.Vergiss();
-    VergissAnzeige();
+    VerwirfWerte();
     emit Eingerichtet();
     ui->BeamBar1->SetzeStrahlabstand(Register(spezifisch::Aufloesung));
     EndeBeamRefresh();
@@ -106,11 +119,8 @@ void frmDocument::SetStatusSubgerät() {
     const std::int16_t bits = Statusbits(Register(spezifisch::Optikteilstatus));
     if (bits == gezeigterStatus)
         return;
-    const QString text = AlsText(Statustext(bits));
-    ui->sbStatusBar_1->setText(text);
-    ui->BeamBar1->setAccessibleDescription(text);
+    ZeigeStatus(AlsText(Statustext(bits)));
     gezeigterStatus = bits;
-    OrdneStatuszeile();
 }
 
 void frmDocument::Lokalisiere() {
@@ -123,8 +133,10 @@ void frmDocument::Lokalisiere() {
             findChild<QLabel*>(feld->objectName().remove(QStringLiteral("Inhalt")))->text());
     ui->lblInhaltBlankingStrahlenMax->setAccessibleName(geblankte);
     VergissAnzeige();
-    SetAktuellMinMaxStatus();
-    SetStatusSubgerät();
+    ZeigeWerte();
+    if (stand != Datenstand::Ungueltig)
+        SetStatusSubgerät();
+    ZeigeHinweis();
     ZeigeStrahltext(strahlUnterMaus);
     PasseBreiteAn();
 }
@@ -163,6 +175,12 @@ void frmDocument::VergissAnzeige() {
     gezeigteWerte.fill(-1);
     gezeigterStatus = -1;
     gezeigteGeblankte = -1;
+}
+
+void frmDocument::ZeigeStatus(const QString& text) {
+    ui->sbStatusBar_1->setText(text);
+    ui->BeamBar1->setAccessibleDescription(text);
+    OrdneStatuszeile();
 }
 
 void frmDocument::ZeigeStrahltext(int index) {

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "ansichtsregeln.h"
+#include "datenstand.h"
 #include "liveansicht.h"
 #include "werte.h"
+#include "wertealter.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -18,6 +21,8 @@ namespace Ui {
 class frmDocument;
 }
 
+class Strahlhinweis;
+
 /// Shows one optical part live: its beams, its measured values, its status. It lives in a frame of the main
 /// window's area as long as the main window; closing hides it.
 class frmDocument : public QWidget, public LiveAnsicht {
@@ -28,7 +33,8 @@ public:
     explicit frmDocument(int teil, QWidget* eltern = nullptr);
     ~frmDocument() override;
 
-    /// Takes the measured values and the number of blanked beams over from the image.
+    /// Takes the measured values and the number of blanked beams over from the image. What is shown is true
+    /// from then on.
     void SetAktuellMinMaxStatus();
     /// Sets the state of one beam: blanked where `blanking` is not 0, else free where `state` is not 0, else
     /// interrupted. Beam 0 begins a scan; an index that is no beam is ignored.
@@ -37,13 +43,16 @@ public:
     void StartBeamRefresh();
     /// Draws the scan, once.
     void EndeBeamRefresh();
-    /// Sets the view up for the beam count and spacing in the image; all beams are shown as interrupted until
-    /// the next scan.
+    /// Sets the view up for the beam count and spacing in the image. It has no values then: all beams are
+    /// interrupted and drawn as unknown until the next scan.
     void InitfrmDocument();
     /// Moves the view to its place in the settings file, if there is one. The view must be in its frame.
     void InitForm();
     /// Takes the status over from the image.
     void SetStatusSubgerät();
+
+    /// Nothing that is shown holds any longer: no values and no status until the next ones come.
+    void VerwirfWerte();
 
     /// Fills all texts in the current language again.
     void Lokalisiere();
@@ -75,6 +84,13 @@ private:
     std::string Abschnitt() const;
     void Verbinde();
     void VergissAnzeige();
+    void ZeigeWerte();
+    void ZeigeStatus(const QString& text);
+    void WerteSindDa();
+    void PruefeAlter();
+    void SetzeStand(Datenstand neuer);
+    void FaerbeTexte();
+    void ZeigeHinweis();
     void ZeigeStrahltext(int index);
     void ZeigeZustand(int index, Strahlzustand zustand);
     void PasseZiffernAn();
@@ -89,6 +105,10 @@ private:
     std::int16_t gezeigterStatus = -1;
     std::int16_t gezeigteGeblankte = -1;
     Strahlanzeige anzeige;
+    Datenstand stand = Datenstand::Gueltig;
+    Wertealter alter;
+    QTimer uhrwerk;
+    Strahlhinweis* hinweis;
     Werte strahlen;
     int strahlUnterMaus = -1;
     bool warSichtbar = false;

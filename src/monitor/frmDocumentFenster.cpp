@@ -73,6 +73,8 @@ void frmDocument::changeEvent(QEvent* ereignis) {
         PasseZiffernAn();
         PasseBreiteAn();
     }
+    if (ereignis->type() == QEvent::PaletteChange)
+        FaerbeTexte();
 }
 
 void frmDocument::closeEvent(QCloseEvent* ereignis) {

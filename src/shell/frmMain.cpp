@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include "ansichtstitel.h"
+#include "ausgangsanzeige.h"
 #include "einstellungen.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
@@ -70,6 +71,7 @@ void frmMain::RichteStatusleisteEin() {
         ui->sbStatusBar->addPermanentWidget(feld, 1);
         statusfelder[i] = feld;
     }
+    ausgang = std::make_unique<Ausgangsanzeige>(*statusfelder[FeldSchaltausgang - 1]);
 }
 
 void frmMain::LiesEinstellungen() {
@@ -129,8 +131,11 @@ void frmMain::VerbindeAktion(const QString& name, Befehl befehl, int index) {
 }
 
 void frmMain::ZeigeStatustext(int feld, const std::string& text) {
+    const QString neu = QString::fromStdString(text);
     QLabel& anzeige = *statusfelder.at(static_cast<std::size_t>(feld - 1));
-    if (const QString neu = QString::fromStdString(text); anzeige.text() != neu)
+    if (feld == FeldSchaltausgang)
+        ausgang->Zeige(neu);
+    else if (anzeige.text() != neu)
         anzeige.setText(neu);
 }
 

@@ -25,6 +25,7 @@ namespace Ui {
 class frmMain;
 }
 
+class Ausgangsanzeige;
 class frmDocument;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
@@ -144,6 +145,7 @@ private:
     std::array<bool, AnzahlOptikteile> hatPlatz{}; // stands where the user or an arrangement has put it
     std::array<std::int16_t, AnzahlOptikteile> titeltexte{};
     std::array<QLabel*, 3> statusfelder{};
+    std::unique_ptr<Ausgangsanzeige> ausgang;
     Befehlsspeicher befehle;
     Programmzustand zustand;
     bool entladen = false;

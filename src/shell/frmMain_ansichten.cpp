@@ -47,6 +47,8 @@ void frmMain::SetzeTitel(int optikteil, std::int16_t textId) {
     titeltexte.at(static_cast<std::size_t>(optikteil)) = textId;
     Fenster(optikteil).setWindowTitle(titel);
     rahmen.at(static_cast<std::size_t>(optikteil))->setWindowTitle(titel);
+    if (textId != TextOnline)
+        Fenster(optikteil).VerwirfWerte();
 }
 
 void frmMain::MerkeAnsicht(int optikteil, bool gezeigt) {

@@ -77,6 +77,13 @@ void BeamBarControl::SetzeAutomatischesZeichnen(bool an) {
         Geaendert();
 }
 
+void BeamBarControl::SetzeDatenstand(Datenstand neuer) {
+    if (neuer == stand)
+        return;
+    stand = neuer;
+    Geaendert();
+}
+
 void BeamBarControl::SetzeBedienart(Bedienart art) {
     bedienart = art;
 }
@@ -138,7 +145,7 @@ Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
     schrift.setPixelSize(std::max(1, static_cast<int>(std::lround(QFontInfo(font()).pixelSize() * dichte))));
     const QSize groesse(static_cast<int>(std::ceil(width() * dichte)),
                         static_cast<int>(std::ceil(height() * dichte)));
-    return {groesse, dichte, schrift, Strahlanzahl(), abstandMm, ausschnitt};
+    return {groesse, dichte, schrift, Strahlanzahl(), abstandMm, ausschnitt, stand};
 }
 
 Aufteilung BeamBarControl::Plan() const {

@@ -41,6 +41,11 @@ public:
     /// Off: changes are collected. On: what has changed meanwhile is drawn, once.
     void SetzeAutomatischesZeichnen(bool an);
 
+    /// Whether the states are true now; old ones are drawn pale, without any the beams are grey and hatched
+    /// whatever their states. At first they are true.
+    void SetzeDatenstand(Datenstand neuer);
+    Datenstand Stand() const { return stand; }
+
     void SetzeBedienart(Bedienart art);
     Bedienart Bedienung() const { return bedienart; }
 
@@ -98,6 +103,7 @@ private:
     int gewaehlt = -1;
     bool automatisch = true;
     bool geaendert = false;
+    Datenstand stand = Datenstand::Gueltig;
     Bedienart bedienart = Bedienart::Zoom;
     Ausschnitt ausschnitt;
     Strahlbild bild;

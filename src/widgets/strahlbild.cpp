@@ -3,6 +3,7 @@
 #include "strahlhintergrund.h"
 #include "strahlmasse.h"
 #include "strahlmuster.h"
+#include "strahlschraffur.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -67,7 +68,8 @@ void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& neueVorgabe, const 
                          std::span<const Strahlzustand> zustaende, const Marken& marken) {
     Bereite(neueVorgabe, neuePalette);
     maler.drawPixmap(0, 0, hintergrund);
-    ZeichneStrahlen(maler, zustaende);
+    if (vorgabe.stand != Datenstand::Ungueltig)
+        ZeichneStrahlen(maler, zustaende);
     ZeichneMarken(maler, marken);
 }
 
@@ -76,9 +78,13 @@ void Strahlbild::Bereite(const Bildvorgabe& neueVorgabe, const QPalette& neuePal
         return;
     vorgabe = neueVorgabe;
     palette = neuePalette;
-    farben = FarbenAus(palette);
+    farben = FarbenAus(palette, vorgabe.stand);
     aufteilung = TeileAuf(vorgabe);
     hintergrund = Hintergrund(vorgabe, aufteilung, farben);
+    if (vorgabe.stand == Datenstand::Ungueltig) {
+        QPainter maler(&hintergrund);
+        Schraffiere(maler, aufteilung, farben, vorgabe.dichte);
+    }
     muster = Musterbogen({aufteilung.strahlenBreite, aufteilung.feld.Teilung(), vorgabe.dichte}, farben);
 }
 

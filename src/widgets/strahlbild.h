@@ -1,5 +1,6 @@
 #pragma once
 
+#include "datenstand.h"
 #include "strahlfarben.h"
 #include "strahlgeometrie.h"
 
@@ -19,6 +20,7 @@ struct Bildvorgabe {
     int strahlen = 0;
     int abstandMm = 0;
     Ausschnitt ausschnitt{};
+    Datenstand stand = Datenstand::Gueltig;
 
     bool operator==(const Bildvorgabe&) const = default;
 };

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLabel>
+
+namespace varnoth {
+
+/// A text in the middle of a beam bar that says how far the beams below it can be believed. It lets the mouse
+/// through.
+class Strahlhinweis : public QLabel {
+public:
+    explicit Strahlhinweis(QWidget& strahlen);
+
+    /// Shows a text; an empty one takes it away.
+    void Zeige(const QString& text);
+
+protected:
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+
+private:
+    void Ordne();
+};
+
+} // namespace varnoth
