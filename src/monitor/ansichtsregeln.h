@@ -1,5 +1,6 @@
 #pragma once
 
+#include "strahlbereiche.h"
 #include "strahlgeometrie.h"
 #include "werte.h"
 
@@ -22,8 +23,14 @@ std::int16_t Statusbits(std::int32_t statusregister);
 /// "Status: " and what the status bits say, in the current language.
 std::string Statustext(std::int16_t statusbits);
 
+/// What a value field shows while nothing was measured.
+inline constexpr const char* KeinWert = "–";
+
 /// Which beam (index) it is and, unless the spacing is 0, where it lies; empty for -1.
 std::string Strahltext(int index, std::int32_t abstandMm);
+
+/// "Beams 189–323 of 512" in the current language.
+std::string Ausschnittstext(const Strahlbereich& bereich, int strahlen);
 
 /// Remembers what is drawn of each beam and counts the blanked beams of a scan.
 class Strahlanzeige {

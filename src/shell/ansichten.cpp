@@ -138,6 +138,8 @@ void Ansichten::SetzeTitel(int optikteil, std::int16_t textId) {
     titeltexte.at(platz) = textId;
     ansichten.at(platz)->setWindowTitle(titel);
     rahmen.at(platz)->setWindowTitle(titel);
+    if (textId != TextOnline)
+        ansichten.at(platz)->VerwirfWerte();
 }
 
 void Ansichten::ZeigeZustaende(bool live) {
@@ -188,6 +190,15 @@ void Ansichten::OrdneWieZuvor() {
 void Ansichten::Staffle() {
     bereich.cascadeSubWindows();
     kachelung.reset();
+}
+
+void Ansichten::SchalteGrossanzeige() {
+    const QMdiSubWindow* vorn = bereich.currentSubWindow();
+    auto gemeint = std::ranges::find(rahmen, vorn);
+    if (vorn == nullptr || !vorn->isVisible())
+        gemeint = std::ranges::find_if(rahmen, [](const QMdiSubWindow* einer) { return einer->isVisible(); });
+    if (gemeint != rahmen.end())
+        Ansicht(static_cast<int>(gemeint - rahmen.begin())).SchalteGrossanzeige();
 }
 
 bool Ansichten::EineMaximiert() const {

@@ -55,6 +55,9 @@ public:
     void OrdneWieZuvor();
     /// Puts the shown views one over the other.
     void Staffle();
+    /// The view in front, else the first that is shown, fills the area with its values and beams; a second
+    /// call takes that back.
+    void SchalteGrossanzeige();
     /// Stores the place of every view and whether they are tiled.
     void SpeicherePlaetze() const;
 

@@ -18,6 +18,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QScreen>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -57,6 +58,8 @@ frmMain::frmMain(const QString& programmordner)
     willkommen = new Willkommensseite(*ui->mdiBereich,
                                       [this](Befehl befehl, int index) { befehle.Klick(befehl, index); });
     connect(ansichten.get(), &Ansichten::ZahlGewechselt, this, &frmMain::ZeigeWillkommen);
+    connect(new QShortcut(Qt::Key_F11, this), &QShortcut::activated, ansichten.get(),
+            &Ansichten::SchalteGrossanzeige);
     ZeigeWillkommen();
     const Hauptteile teile{.fenster = *this,
                            .ansichten = *ansichten,

@@ -1,5 +1,6 @@
 #include "statusleiste.h"
 
+#include "ausgangsanzeige.h"
 #include "geraetepfade.h"
 #include "schnittstelle.h"
 #include "texte.h"
@@ -25,11 +26,17 @@ Statusleiste::Statusleiste(QStatusBar& leiste) {
         leiste.addPermanentWidget(feld, 1);
         felder[i] = feld;
     }
+    ausgang = std::make_unique<Ausgangsanzeige>(*felder[FeldSchaltausgang - 1]);
 }
+
+Statusleiste::~Statusleiste() = default;
 
 void Statusleiste::Zeige(int feld, const std::string& text) {
     QLabel& anzeige = *felder.at(static_cast<std::size_t>(feld - 1));
-    if (const QString neu = QString::fromStdString(text); anzeige.text() != neu)
+    const QString neu = QString::fromStdString(text);
+    if (feld == FeldSchaltausgang)
+        ausgang->Zeige(neu);
+    else if (anzeige.text() != neu)
         anzeige.setText(neu);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <string>
 
 class QLabel;
@@ -8,11 +9,14 @@ class QStatusBar;
 
 namespace varnoth {
 
+class Ausgangsanzeige;
+
 /// The three panels of the main window's status bar.
 class Statusleiste {
 public:
     /// Makes the panels; the bar must outlive this object.
     explicit Statusleiste(QStatusBar& leiste);
+    ~Statusleiste();
 
     /// Writes into panel 1..3.
     void Zeige(int feld, const std::string& text);
@@ -24,6 +28,7 @@ public:
 
 private:
     std::array<QLabel*, 3> felder{};
+    std::unique_ptr<Ausgangsanzeige> ausgang;
     bool simuliert = false;
 };
 

@@ -13,6 +13,7 @@ constexpr float TonUnterbrochen = 14.F / 360.F;
 constexpr float TonNeutral = 210.F / 360.F;
 
 constexpr double HelligkeitsGrenze = 0.18;
+constexpr float FarbeDesAlten = 0.35F; // the rest is ground
 
 double Linear(float anteil) {
     const auto wert = static_cast<double>(anteil);
@@ -55,7 +56,7 @@ QColor AlsFlaeche(const QColor& farbe, const QColor& grund) {
     return Gemischt(grund, farbe, 0.42F);
 }
 
-Strahlfarben FarbenAus(const QPalette& palette) {
+Strahlfarben FarbenAus(const QPalette& palette, Datenstand stand) {
     Strahlfarben farben;
     farben.grund = palette.color(QPalette::Base);
     const bool dunkel = Leuchtdichte(farben.grund) <= HelligkeitsGrenze;
@@ -67,6 +68,9 @@ Strahlfarben FarbenAus(const QPalette& palette) {
     farben.unterbrochen = MitKontrast(farben.grund, TonUnterbrochen, 0.85F, dunkel ? 6.2 : 5.4);
     farben.geblankt = MitKontrast(farben.grund, TonNeutral, 0.08F, 3.6);
     farben.marke = palette.color(QPalette::Highlight);
+    if (stand == Datenstand::Veraltet)
+        for (QColor* farbe : {&farben.frei, &farben.unterbrochen, &farben.geblankt})
+            *farbe = Gemischt(farben.grund, *farbe, FarbeDesAlten);
     return farben;
 }
 

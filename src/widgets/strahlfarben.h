@@ -1,5 +1,7 @@
 #pragma once
 
+#include "datenstand.h"
+
 #include <QColor>
 #include <QPalette>
 
@@ -19,8 +21,9 @@ struct Strahlfarben {
     QColor marke;
 };
 
-/// Colours that stand out from the palette's base whether that is light or dark: interrupted beams most.
-Strahlfarben FarbenAus(const QPalette& palette);
+/// Colours that stand out from the palette's base whether that is light or dark: interrupted beams most. What
+/// is old is pale.
+Strahlfarben FarbenAus(const QPalette& palette, Datenstand stand = Datenstand::Gueltig);
 
 /// A colour for an area rather than a line: nearer to the ground.
 QColor AlsFlaeche(const QColor& farbe, const QColor& grund);

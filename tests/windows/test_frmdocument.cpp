@@ -1,96 +1,10 @@
-#include "beambarcontrol.h"
-#include "fenstertest.h"
-#include "frmDocument.h"
-#include "pruefumgebung.h"
-#include "registerabbild.h"
-#include "registeradressen.h"
-#include "strahlbits.h"
-#include "texte.h"
-
-#include <QApplication>
-#include <QLabel>
-#include <QMainWindow>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QRadioButton>
-#include <gtest/gtest.h>
-
-#include <initializer_list>
+#include "frmdocumenttest.h"
 
 using namespace varnoth;
 
 namespace {
 
-constexpr int Teil = 1;
-constexpr std::int16_t Blankingregister = 32;
-constexpr std::int16_t Messwertregister = 18;
-
-class FrmDocument : public testing::Test {
-protected:
-    FrmDocument() {
-        Setze(spezifisch::Strahlenzahl, 20);
-        Setze(spezifisch::Aufloesung, 20);
-        bereich = new QMdiArea;
-        haupt.setCentralWidget(bereich);
-        haupt.resize(900, 700);
-        haupt.show();
-        sicht = new frmDocument(Teil);
-        rahmen = bereich->addSubWindow(sicht);
-        rahmen->setAttribute(Qt::WA_DeleteOnClose, false);
-        sicht->InitfrmDocument();
-    }
-
-    static void Setze(std::int16_t adresse, std::int32_t wert) {
-        modDaten::SetzeSpezifischeDaten(adresse, 1, Teil, {wert});
-    }
-    static void SetzeMesswerte(std::int32_t aktuell, std::int32_t minimum, std::int32_t maximum) {
-        Werte werte;
-        for (const std::int32_t beginn : {aktuell, minimum, maximum})
-            for (int k = 0; k < AnzahlMesswerte; ++k)
-                werte.push_back(beginn + k);
-        modDaten::SetzeSpezifischeDaten(spezifisch::Messwerte, Messwertregister, Teil, werte);
-    }
-    void Scan(std::initializer_list<int> freie, std::initializer_list<int> geblankte) {
-        Werte zustaende(2);
-        Werte blanking(Blankingregister);
-        for (const int strahl : freie)
-            SetzeStrahlBit(zustaende, strahl, true);
-        for (const int strahl : geblankte)
-            SetzeStrahlBit(blanking, strahl, true);
-        modDaten::SetzeStrahlzustaende(2, Teil, zustaende);
-        modDaten::SetzeSpezifischeDaten(spezifisch::Blankingmuster, Blankingregister, Teil, blanking);
-        sicht->NeuerDatensatz();
-        sicht->StrahlzustaendeLiegenVor();
-        sicht->BlankingBekannt();
-        sicht->MesswerteLiegenVor();
-    }
-    void Zeige() {
-        sicht->Zeige();
-        QApplication::processEvents();
-    }
-    QLabel& Feld(const char* name) { return *sicht->findChild<QLabel*>(QLatin1String(name)); }
-    QString Text(const char* name) { return Feld(name).text(); }
-    QStringList Werttexte() {
-        return {Text("lblInhaltTU"),  Text("lblInhaltHU"),  Text("lblInhaltZU"),
-                Text("lblInhaltTNU"), Text("lblInhaltHNU"), Text("lblInhaltZNU")};
-    }
-    void SchreibeUeberall(const QString& text) {
-        for (const char* name :
-             {"lblInhaltTU", "lblInhaltHU", "lblInhaltZU", "lblInhaltTNU", "lblInhaltHNU", "lblInhaltZNU"})
-            Feld(name).setText(text);
-    }
-    void Waehle(int auswahl) {
-        sicht->findChild<QRadioButton*>(QStringLiteral("Option1_%1").arg(auswahl))->click();
-    }
-    BeamBarControl& Balken() { return *sicht->findChild<BeamBarControl*>("BeamBar1"); }
-
-    pruefung::PruefUmgebung umgebung;
-    pruefung::PruefEinstellungen einstellungen;
-    QMainWindow haupt;
-    QMdiArea* bereich = nullptr;
-    frmDocument* sicht = nullptr;
-    QMdiSubWindow* rahmen = nullptr;
-};
+class FrmDocument : public pruefung::FrmDocumentTest {};
 
 } // namespace
 
@@ -107,6 +21,7 @@ TEST_F(FrmDocument, Current_values_are_shown_first) {
 
 TEST_F(FrmDocument, A_click_on_an_option_button_shows_its_values_at_once) {
     SetzeMesswerte(10, 20, 30);
+    sicht->SetAktuellMinMaxStatus();
     Waehle(1);
     EXPECT_EQ(Werttexte(), (QStringList{"20", "21", "22", "23", "24", "25"}));
     Waehle(2);
@@ -117,6 +32,7 @@ TEST_F(FrmDocument, A_click_on_an_option_button_shows_its_values_at_once) {
 
 TEST_F(FrmDocument, Switching_from_min_to_max_rewrites_all_six_values_even_when_they_are_equal) {
     SetzeMesswerte(1, 50, 50);
+    sicht->SetAktuellMinMaxStatus();
     Waehle(1);
     SchreibeUeberall("x");
     Waehle(2);
@@ -241,7 +157,7 @@ TEST_F(FrmDocument, A_part_with_beam_spacing_0_shows_the_beam_without_a_position
 
 TEST_F(FrmDocument, All_texts_follow_the_language) {
     Setze(spezifisch::Optikteilstatus, 4);
-    sicht->SetStatusSubgerät();
+    sicht->MesswerteLiegenVor();
     emit Balken().StrahlUnterMaus(9);
     SetzeSprachoffset(Englisch);
     sicht->Lokalisiere();

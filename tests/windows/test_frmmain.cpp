@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "beambarcontrol.h"
 #include "dateidialog.h"
 #include "dateien.h"
 #include "fenstertest.h"
@@ -24,12 +25,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace varnoth {
@@ -107,6 +110,22 @@ protected:
         umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(300), [this] { Fenster().close(); });
         Waehle(befehl);
         return gezeigt;
+    }
+    /// Live data of a controller with these beams, one pass of it.
+    void MissEinmal(std::array<int, AnzahlOptikteile> strahlen) {
+        SchliesseAn(strahlen);
+        for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+            geraet.Spezifisch(teil, spezifisch::Messwerte) = 7;
+        Fenster().Autostart();
+        modPolling::PollingZyklus();
+    }
+    QString GezeigterWert(int teil) {
+        return Fenster().Fenster(teil).findChild<QLabel*>("lblInhaltTU")->text();
+    }
+    bool ZeigtKeineWerte(int teil) {
+        const auto& ansicht = Fenster().Fenster(teil);
+        return GezeigterWert(teil) == "–" && ansicht.findChild<QLabel*>("sbStatusBar_1")->text().isEmpty() &&
+               ansicht.findChild<BeamBarControl*>()->Stand() == Datenstand::Ungueltig;
     }
     QString Titel(int teil) { return Fenster().Fenster(teil).windowTitle(); }
     QLabel& Statusfeld(int nummer) {
@@ -345,6 +364,93 @@ TEST_F(FrmMainTest, A_part_that_disappears_shows_not_available) {
     modPolling::PollingZyklus();
     EXPECT_EQ(Titel(0), "1. Optikteil online");
     EXPECT_EQ(Titel(1), "2. Optikteil nicht vorhanden");
+}
+
+TEST_F(FrmMainTest, Views_have_no_values_until_the_first_pass_brings_them) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    EXPECT_TRUE(ZeigtKeineWerte(0));
+    modPolling::PollingZyklus();
+    EXPECT_FALSE(ZeigtKeineWerte(0));
+}
+
+TEST_F(FrmMainTest, Stopped_live_data_leaves_no_values_in_the_views) {
+    MissEinmal({32, 0, 0, 0});
+    EXPECT_EQ(GezeigterWert(0), "7");
+    Waehle("mnuMessdatenVisualisierenStop");
+    EXPECT_TRUE(ZeigtKeineWerte(0));
+}
+
+TEST_F(FrmMainTest, A_lost_connection_leaves_no_values_until_it_is_back) {
+    MissEinmal({32, 0, 0, 0});
+    geraet.schweige = [](const std::string&) { return true; };
+    modPolling::PollingZyklus();
+    EXPECT_TRUE(ZeigtKeineWerte(0));
+    geraet.schweige = nullptr;
+    modPolling::PollingZyklus();
+    EXPECT_EQ(GezeigterWert(0), "7");
+    EXPECT_FALSE(ZeigtKeineWerte(0));
+}
+
+TEST_F(FrmMainTest, A_part_that_disappears_takes_its_values_along_and_no_others) {
+    MissEinmal({32, 64, 0, 0});
+    geraet.Spezifisch(1, spezifisch::Optikteilstatus) = 0;
+    modPolling::PollingZyklus();
+    EXPECT_TRUE(ZeigtKeineWerte(1));
+    EXPECT_EQ(GezeigterWert(0), "7");
+}
+
+TEST_F(FrmMainTest, A_view_shown_from_the_menu_waits_for_its_values) {
+    MissEinmal({32, 0, 0, 0});
+    Waehle("mnuAnzeigeLichtleiste_0");
+    EXPECT_TRUE(ZeigtKeineWerte(0));
+}
+
+TEST_F(FrmMainTest, A_new_configuration_takes_the_values_of_the_former_one_away) {
+    MissEinmal({32, 0, 0, 0});
+    Sobald("frmStrahlenBestimmen", [](QDialog& dialog) {
+        dialog.findChild<QComboBox*>("Combo1_1")->setCurrentIndex(0);
+        dialog.findChild<QPushButton*>("cmdOK")->click();
+    });
+    Waehle("mnuNeu");
+    ASSERT_TRUE(Fenster().Fenster(0).isVisible());
+    EXPECT_TRUE(ZeigtKeineWerte(0));
+}
+
+TEST_F(FrmMainTest, No_values_are_shown_while_the_editor_is_open) {
+    MissEinmal({32, 0, 0, 0});
+    bool ohneWerte = false;
+    Sobald("frmKonfigurationEdit", [&](QDialog& dialog) {
+        ohneWerte = ZeigtKeineWerte(0);
+        dialog.reject();
+    });
+    Waehle("mnuAnzeigeKonfiguration");
+    EXPECT_TRUE(ohneWerte);
+}
+
+TEST_F(FrmMainTest, Another_language_shows_no_values_of_former_times) {
+    MissEinmal({32, 0, 0, 0});
+    Waehle("mnuEnglisch");
+    EXPECT_TRUE(ZeigtKeineWerte(0));
+    LadeQtTexte(Englisch);
+}
+
+TEST_F(FrmMainTest, The_panel_of_the_output_tells_the_time_of_its_value) {
+    MissEinmal({32, 0, 0, 0});
+    Fenster().ZeigeStatustext(FeldSchaltausgang, "output");
+    EXPECT_TRUE(Statusfeld(FeldSchaltausgang).toolTip().startsWith("Letzter Wert: "));
+}
+
+TEST_F(FrmMainTest, F11_lets_the_view_in_front_fill_the_window_and_gives_it_back) {
+    MissEinmal({32, 64, 0, 0});
+    Fenster().Fenster(1).Zeige();
+    const auto tasten = Fenster().findChildren<QShortcut*>();
+    const auto taste = std::ranges::find(tasten, QKeySequence(Qt::Key_F11), &QShortcut::key);
+    ASSERT_NE(taste, tasten.end());
+    emit(*taste)->activated();
+    EXPECT_TRUE(Fenster().Fenster(1).IstGrossanzeige());
+    emit(*taste)->activated();
+    EXPECT_FALSE(Fenster().Fenster(1).IstGrossanzeige());
 }
 
 TEST_F(FrmMainTest, Autosend_can_be_chosen_when_the_controller_is_in_an_autosend_mode) {
