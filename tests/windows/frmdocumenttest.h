@@ -29,7 +29,6 @@ protected:
     static constexpr std::int16_t Messwertregister = 18;
 
     FrmDocumentTest() {
-        modDaten::Zuruecksetzen();
         Setze(spezifisch::Strahlenzahl, 20);
         Setze(spezifisch::Aufloesung, 20);
         bereich = new QMdiArea;
@@ -41,7 +40,6 @@ protected:
         rahmen->setAttribute(Qt::WA_DeleteOnClose, false);
         sicht->InitfrmDocument();
     }
-    ~FrmDocumentTest() override { SetzeSprachoffset(Deutsch); }
 
     static void Setze(std::int16_t adresse, std::int32_t wert) {
         modDaten::SetzeSpezifischeDaten(adresse, 1, Teil, {wert});
