@@ -51,6 +51,12 @@ constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
 class KonfigurationImBetrieb : public ProgrammTest {
 protected:
+    /// No controller answers; every file dialog gives this path.
+    void StarteOhneGeraet(const std::string& pfad) {
+        SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("no-line").toUtf8() + "\n");
+        Starte();
+        SetzeDateiantwort([pfad](const Dateifrage&) { return pfad; });
+    }
     static void WaehlePosten(QWidget& fenster, const QString& liste, int posten) {
         Kind<QComboBox>(fenster, liste).setCurrentIndex(posten);
     }
@@ -210,9 +216,7 @@ TEST_F(KonfigurationImBetrieb, A_write_cancelled_in_any_range_leaves_the_rest_un
 
 TEST_F(KonfigurationImBetrieb, Without_a_controller_a_configuration_is_made_edited_saved_and_opened_again) {
     const std::string pfad = Pfad(QStringLiteral("Prüf stand.con")).toStdString();
-    SetzeDateiantwort([pfad](const Dateifrage&) { return pfad; });
-    SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("no-line").toUtf8() + "\n");
-    Starte();
+    StarteOhneGeraet(pfad);
     InFenster("frmStrahlenBestimmen", [](QWidget& dialog) {
         WaehlePosten(dialog, "Combo1_0", 99);
         WaehlePosten(dialog, "Combo1_3", 0);
@@ -234,7 +238,7 @@ TEST_F(KonfigurationImBetrieb, Without_a_controller_a_configuration_is_made_edit
     EXPECT_EQ(modDaten::IstGeaendert(), False);
     const auto gespeichert = Konfiguration();
     Beende();
-    Starte();
+    StarteOhneGeraet(pfad);
     ASSERT_TRUE(FuehreAus("mnuOeffnen"));
     EXPECT_EQ(Konfiguration(), gespeichert);
     EXPECT_EQ(modDaten::Strahlenzahl(0), 100);
@@ -247,9 +251,7 @@ TEST_F(KonfigurationImBetrieb, Without_a_controller_a_configuration_is_made_edit
 class OhneGeraet : public KonfigurationImBetrieb {
 protected:
     OhneGeraet() {
-        SetzeDateiantwort([this](const Dateifrage&) { return pfad; });
-        SchreibeEinstellungen("[Settings]\nComGeraet1=" + Pfad("no-line").toUtf8() + "\n");
-        Starte();
+        StarteOhneGeraet(pfad);
         InFenster("frmStrahlenBestimmen", [](QWidget& dialog) { Klicke(dialog, "cmdOK"); });
         EXPECT_TRUE(FuehreAus("mnuNeu"));
         EXPECT_TRUE(FuehreAus("mnuSpeichernUnter"));
