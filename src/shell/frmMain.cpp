@@ -29,6 +29,12 @@ namespace {
 constexpr int KleinsteBreite = 3700; // twips
 constexpr int KleinsteHoehe = 5040;
 
+/// A port number of the settings; one that no port has stands for the first.
+std::int16_t Portnummer(int zahl) {
+    constexpr int letzte = 4;
+    return static_cast<std::int16_t>(zahl >= 1 && zahl <= letzte ? zahl : 1);
+}
+
 void SchliesseDialoge() {
     for (QWidget* fenster : QApplication::topLevelWidgets())
         if (auto* dialog = qobject_cast<QDialog*>(fenster); dialog != nullptr && dialog->isVisible())
@@ -76,8 +82,7 @@ void frmMain::RichteStatusleisteEin() {
 void frmMain::LiesEinstellungen() {
     Einstellungen& einstellungen = DieEinstellungen();
     WendeAn(LiesFensterplatz(einstellungen, Fensterabschnitt, {}), *this);
-    modSchnittstelle::SetzeComPort(
-        static_cast<std::int16_t>(einstellungen.LiesZahl("Settings", "ComPort", 1)));
+    modSchnittstelle::SetzeComPort(Portnummer(einstellungen.LiesZahl("Settings", "ComPort", 1)));
     modSchnittstelle::SetzeComSettings(
         LiesBegrenzt("Settings", "ComSettings", modSchnittstelle::StandardComSettings));
     ZeigePort();

@@ -72,13 +72,14 @@ protected:
         ModuleZuruecksetzen();
         geraet.identtext = Boese + ";" + Boese + ";" + Boese;
         for (std::size_t i = 0; i < Boese.size() / 2; ++i)
-            geraet.Register(global::Seriennummer + static_cast<int>(i)) = Boese[2 * i] * 256 + Boese[2 * i + 1];
+            geraet.Register(global::Seriennummer + static_cast<int>(i)) =
+                Boese[2 * i] * 256 + Boese[2 * i + 1];
         for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
             geraet.Spezifisch(teil, spezifisch::Strahlenzahl) = 32;
             geraet.Spezifisch(teil, spezifisch::Aufloesung) = 5;
-            for (const int adresse : {spezifisch::Filterdurchlaeufe, spezifisch::Gruppenzaehler,
-                                      spezifisch::MinMaxHaltezeit, spezifisch::Lochgroesse,
-                                      spezifisch::Mittentoleranz})
+            for (const int adresse :
+                 {spezifisch::Filterdurchlaeufe, spezifisch::Gruppenzaehler, spezifisch::MinMaxHaltezeit,
+                  spezifisch::Lochgroesse, spezifisch::Mittentoleranz})
                 geraet.Spezifisch(teil, adresse) = 1;
             geraet.Spezifisch(teil, spezifisch::Optikteilstatus) = 0x80;
         }
