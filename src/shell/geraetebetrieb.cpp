@@ -85,7 +85,8 @@ void Geraetebetrieb::StarteAutosend() {
     const Antwort antwort = DieUmgebung().ZeigeMeldung({.text = LadeText(TextAutosendFrage),
                                                         .titel = LadeText(TextAchtung),
                                                         .symbol = Symbol::Warnung,
-                                                        .knoepfe = Knoepfe::OkAbbrechen});
+                                                        .knoepfe = Knoepfe::OkAbbrechen,
+                                                        .abbrechenVorgegeben = true});
     if (antwort == Antwort::Ok)
         modModbus::SchreibeSteuerwert2();
 }

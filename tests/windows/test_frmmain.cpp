@@ -219,11 +219,13 @@ TEST_F(FrmMainTest, Choosing_the_checked_port_changes_and_writes_nothing) {
     EXPECT_EQ(einstellungen.geschrieben, vorher);
 }
 
-TEST_F(FrmMainTest, An_unknown_port_number_in_the_settings_means_port_1) {
-    einstellungen.texte[{"Settings", "ComPort"}] = "65538";
-    EXPECT_TRUE(Aktion("mnuCom_1").isChecked());
-    EXPECT_FALSE(Aktion("mnuCom_2").isChecked());
-    EXPECT_EQ(modSchnittstelle::GetComPort(), 1);
+TEST_F(FrmMainTest, A_port_number_in_the_settings_that_no_port_has_counts_as_1) {
+    for (const char* nummer : {"7", "0", "-1", "65538"}) {
+        einstellungen.texte[{"Settings", "ComPort"}] = nummer;
+        fenster.reset();
+        EXPECT_TRUE(Aktion("mnuCom_1").isChecked()) << nummer;
+        EXPECT_EQ(modSchnittstelle::GetComPort(), 1) << nummer;
+    }
 }
 
 TEST_F(FrmMainTest, Empty_port_settings_become_the_default) {
@@ -470,6 +472,7 @@ TEST_F(FrmMainTest, Autosend_starts_after_the_question_and_live_data_stays_stopp
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0].text, LadeText(6003));
     EXPECT_EQ(umgebung.meldungen[0].knoepfe, Knoepfe::OkAbbrechen);
+    EXPECT_TRUE(umgebung.meldungen[0].abbrechenVorgegeben);
     EXPECT_EQ(geraet.geschrieben.back().werte, std::vector<int>{2});
     EXPECT_FALSE(Fenster().BefehlWartet());
     EXPECT_EQ(modPolling::GetPollingAktiv(), False);

@@ -69,7 +69,6 @@ QSet<QString> Pruefe(const QWidget& fenster) {
 class FensterwortlautTest : public pruefung::DialogTest {
 protected:
     FensterwortlautTest() {
-        ModuleZuruecksetzen();
         geraet.identtext = Boese + ";" + Boese + ";" + Boese;
         for (std::size_t i = 0; i < Boese.size() / 2; ++i)
             geraet.Register(global::Seriennummer + static_cast<int>(i)) =
@@ -93,13 +92,6 @@ protected:
         einstellungen.texte[{"Settings", "ComSettings"}] = Boese;
         einstellungen.texte[{"frmInitHardware", "Seriennummer"}] = Boese;
     }
-    ~FensterwortlautTest() override { ModuleZuruecksetzen(); }
-
-    static void ModuleZuruecksetzen() {
-        modHilfsFunktionen::Zuruecksetzen();
-        modPolling::Zuruecksetzen();
-    }
-
     /// Connects, and looks at every window that comes up meanwhile, the main window last.
     QSet<QString> VerbindeUndPruefe(frmMain& fenster) {
         QSet<QString> traeger;
