@@ -4,12 +4,14 @@
 #include "texte.h"
 
 #include <iterator>
+#include <utility>
 
 namespace varnoth {
 
 namespace {
 
 constexpr std::int16_t TextStrahl = 4020;
+constexpr std::int16_t TextStrahlen = 9010;
 constexpr int AnzahlStatusbits = std::size(Optikteilmerkmale);
 
 Strahlzustand Anzeigezustand(std::int32_t frei, std::int32_t geblankt) {
@@ -46,6 +48,16 @@ std::string Strahltext(int index, std::int32_t abstandMm) {
     std::string text = LadeText(TextStrahl) + std::to_string(index + 1);
     if (abstandMm != 0)
         text += ", " + std::to_string(index * abstandMm) + "mm";
+    return text;
+}
+
+std::string Ausschnittstext(const Strahlbereich& bereich, int strahlen) {
+    std::string text = LadeText(TextStrahlen);
+    const std::pair<const char*, std::string> platzhalter[] = {{"%1", Bereichstext({&bereich, 1})},
+                                                               {"%2", std::to_string(strahlen)}};
+    for (const auto& [zeichen, inhalt] : platzhalter)
+        if (const auto stelle = text.find(zeichen); stelle != std::string::npos)
+            text.replace(stelle, 2, inhalt);
     return text;
 }
 

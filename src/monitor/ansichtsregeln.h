@@ -1,5 +1,6 @@
 #pragma once
 
+#include "strahlbereiche.h"
 #include "strahlgeometrie.h"
 #include "werte.h"
 
@@ -27,6 +28,9 @@ inline constexpr const char* KeinWert = "–";
 
 /// Which beam (index) it is and, unless the spacing is 0, where it lies; empty for -1.
 std::string Strahltext(int index, std::int32_t abstandMm);
+
+/// "Beams 189–323 of 512" in the current language.
+std::string Ausschnittstext(const Strahlbereich& bereich, int strahlen);
 
 /// Remembers what is drawn of each beam and counts the blanked beams of a scan.
 class Strahlanzeige {

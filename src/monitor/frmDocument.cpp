@@ -8,6 +8,10 @@
 #include "strahlbits.h"
 #include "strahlhinweis.h"
 #include "texte.h"
+#include "wertetext.h"
+#include "wertfeld.h"
+#include "zeigerschild.h"
+#include "zoomkopf.h"
 
 #include <QButtonGroup>
 
@@ -18,6 +22,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextGeblankte = 4019;
+constexpr std::int16_t ErsteErklaerung = 9020;
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr int StrahlenJeRegister = 16;
 constexpr int AlterstaktMs = 250;
@@ -42,25 +47,40 @@ frmDocument::frmDocument(int teil, QWidget* eltern)
     ui->setupUi(this);
     setObjectName(QStringLiteral("frmDocument_%1").arg(teil));
     setProperty("Tag", AlsText(teil));
-    felder = {ui->lblInhaltTU,  ui->lblInhaltHU,  ui->lblInhaltZU,
-              ui->lblInhaltTNU, ui->lblInhaltHNU, ui->lblInhaltZNU};
-    gezeigteWerte.fill(-1);
+    RichteWerteEin();
     for (int auswahl = 0; auswahl < ui->Option1->buttons().size(); ++auswahl)
         ui->Option1->setId(ui->Option1->buttons().at(auswahl), auswahl);
+    ui->BeamBar1->SetzeBeobachtung(true);
     hinweis = new Strahlhinweis(*ui->BeamBar1);
+    zeigerschild = new Zeigerschild(*this);
+    zoomkopf = new Zoomkopf(*ui->BeamBar1);
     PasseZiffernAn();
     Verbinde();
     VerwirfWerte();
     Lokalisiere();
+    RichteAnsagenEin();
 }
 
 frmDocument::~frmDocument() = default;
+
+void frmDocument::RichteWerteEin() {
+    felder = {ui->lblInhaltTU,  ui->lblInhaltHU,  ui->lblInhaltZU,
+              ui->lblInhaltTNU, ui->lblInhaltHNU, ui->lblInhaltZNU};
+    positionen = {ui->lblPositionTU,  ui->lblPositionHU,  nullptr,
+                  ui->lblPositionTNU, ui->lblPositionHNU, nullptr};
+    gezeigteWerte.fill(-1);
+    ui->Frame1->installEventFilter(this);
+    for (QLabel* element : ui->Frame1->findChildren<QLabel*>()) {
+        element->installEventFilter(this);
+        element->setContextMenuPolicy(Qt::NoContextMenu); // that of the view
+    }
+}
 
 void frmDocument::Verbinde() {
     connect(ui->Option1, &QButtonGroup::idClicked, this, [this] { ZeigeWerte(); });
     connect(ui->BeamBar1, &BeamBarControl::StrahlUnterMaus, this, &frmDocument::ZeigeStrahltext);
     uhrwerk.setInterval(AlterstaktMs);
-    connect(&uhrwerk, &QTimer::timeout, this, &frmDocument::PruefeAlter);
+    connect(&uhrwerk, &QTimer::timeout, this, &frmDocument::Takt);
     connect(this, &QWidget::windowTitleChanged, ui->BeamBar1, &QWidget::setAccessibleName);
 }
 
@@ -79,8 +99,10 @@ void frmDocument::ZeigeWerte() {
     const Werte werte = modDaten::HoleParameter(Spezifisch, spezifisch::Messwerte, optikteil);
     for (std::size_t k = 0; k < felder.size(); ++k) {
         const std::int32_t wert = werte[static_cast<std::size_t>(versatz) + k];
-        if (wert != gezeigteWerte[k])
+        if (wert != gezeigteWerte[k]) {
             felder[k]->setText(AlsText(wert));
+            ZeigePosition(k, wert);
+        }
         gezeigteWerte[k] = wert;
     }
     if (anzeige.Geblankte() != gezeigteGeblankte)
@@ -113,6 +135,8 @@ void frmDocument::InitfrmDocument() {
     emit Eingerichtet();
     ui->BeamBar1->SetzeStrahlabstand(Register(spezifisch::Aufloesung));
     EndeBeamRefresh();
+    PasseZiffernAn();
+    PasseBreiteAn();
 }
 
 void frmDocument::SetStatusSubgerät() {
@@ -125,13 +149,8 @@ void frmDocument::SetStatusSubgerät() {
 
 void frmDocument::Lokalisiere() {
     LokalisiereForm(*this);
-    const QString geblankte = AlsText(LadeText(TextGeblankte));
-    ui->lblBlankingStrahlenMax->setToolTip(geblankte);
-    ui->lblInhaltBlankingStrahlenMax->setToolTip(geblankte);
-    for (QLabel* feld : felder)
-        feld->setAccessibleName(
-            findChild<QLabel*>(feld->objectName().remove(QStringLiteral("Inhalt")))->text());
-    ui->lblInhaltBlankingStrahlenMax->setAccessibleName(geblankte);
+    BenenneWerte();
+    zoomkopf->Lokalisiere();
     VergissAnzeige();
     ZeigeWerte();
     if (stand != Datenstand::Ungueltig)
@@ -139,6 +158,20 @@ void frmDocument::Lokalisiere() {
     ZeigeHinweis();
     ZeigeStrahltext(strahlUnterMaus);
     PasseBreiteAn();
+}
+
+void frmDocument::BenenneWerte() {
+    const QString geblankte = AlsText(LadeText(TextGeblankte));
+    ui->lblBlankingStrahlenMax->setToolTip(geblankte);
+    ui->lblInhaltBlankingStrahlenMax->setToolTip(geblankte);
+    ui->lblInhaltBlankingStrahlenMax->setAccessibleName(geblankte);
+    for (std::size_t k = 0; k < felder.size(); ++k) {
+        auto* name = findChild<QLabel*>(felder[k]->objectName().remove(QStringLiteral("Inhalt")));
+        const QString erklaerung = AlsText(LadeText(static_cast<std::int16_t>(ErsteErklaerung + k)));
+        name->setToolTip(erklaerung);
+        felder[k]->setToolTip(erklaerung);
+        felder[k]->setAccessibleName(name->text());
+    }
 }
 
 void frmDocument::NeuerDatensatz() {
@@ -177,6 +210,12 @@ void frmDocument::VergissAnzeige() {
     gezeigteGeblankte = -1;
 }
 
+void frmDocument::ZeigePosition(std::size_t k, std::int32_t wert) {
+    if (positionen[k] != nullptr)
+        positionen[k]->setText(AlsText(Positionstext(Strahlposition(wert, ui->BeamBar1->Strahlabstand()))));
+    ErgaenzeAnsage(k);
+}
+
 void frmDocument::ZeigeStatus(const QString& text) {
     ui->sbStatusBar_1->setText(text);
     ui->BeamBar1->setAccessibleDescription(text);
@@ -185,7 +224,9 @@ void frmDocument::ZeigeStatus(const QString& text) {
 
 void frmDocument::ZeigeStrahltext(int index) {
     strahlUnterMaus = index;
-    ui->sbStatusBar_2->setText(AlsText(Strahltext(index, Register(spezifisch::Aufloesung))));
+    const QString text = AlsText(Strahltext(index, Register(spezifisch::Aufloesung)));
+    ui->sbStatusBar_2->setText(text);
+    zeigerschild->Zeige(text, ui->BeamBar1->mapTo(this, ui->BeamBar1->Zeigerstelle().toPoint()));
 }
 
 void frmDocument::ZeigeZustand(int index, Strahlzustand zustand) {

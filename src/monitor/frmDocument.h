@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ansager.h"
 #include "ansichtsregeln.h"
 #include "datenstand.h"
 #include "liveansicht.h"
@@ -14,6 +15,7 @@
 #include <memory>
 
 class QLabel;
+class QMenu;
 
 namespace varnoth {
 
@@ -22,6 +24,9 @@ class frmDocument;
 }
 
 class Strahlhinweis;
+class Wertfeld;
+class Zeigerschild;
+class Zoomkopf;
 
 /// Shows one optical part live: its beams, its measured values, its status. It lives in a frame of the main
 /// window's area as long as the main window; closing hides it.
@@ -58,8 +63,13 @@ public:
     void Lokalisiere();
     /// Shows the view and brings it to the front.
     void Zeige();
+    /// Lets the view fill the main window, or gives it its former place back.
+    void SchalteGrossanzeige();
+    bool IstGrossanzeige() const;
     /// Stores the place of the view; a minimised view and one that was never shown keep what is stored.
     void SpeicherePlatz() const;
+
+    QSize minimumSizeHint() const override;
 
     bool ZeigtLiveDaten() const override;
     void NeuerDatensatz() override;
@@ -76,6 +86,9 @@ signals:
 protected:
     void changeEvent(QEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
+    void contextMenuEvent(QContextMenuEvent* ereignis) override;
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
 
@@ -83,23 +96,33 @@ private:
     std::int32_t Register(std::int16_t adresse) const;
     std::string Abschnitt() const;
     void Verbinde();
+    void RichteWerteEin();
+    void RichteAnsagenEin();
     void VergissAnzeige();
     void ZeigeWerte();
     void ZeigeStatus(const QString& text);
+    void ZeigePosition(std::size_t k, std::int32_t wert);
+    void ErgaenzeAnsage(std::size_t k);
     void WerteSindDa();
+    void Takt();
     void PruefeAlter();
     void SetzeStand(Datenstand neuer);
     void FaerbeTexte();
     void ZeigeHinweis();
     void ZeigeStrahltext(int index);
     void ZeigeZustand(int index, Strahlzustand zustand);
+    void KopiereWerte() const;
+    void KopiereBild();
+    void FuelleMenue(QMenu& menue);
+    void BenenneWerte();
     void PasseZiffernAn();
     void PasseBreiteAn();
     void OrdneStatuszeile();
 
     std::unique_ptr<Ui::frmDocument> ui;
     std::int16_t optikteil;
-    std::array<QLabel*, AnzahlMesswerte> felder{};
+    std::array<Wertfeld*, AnzahlMesswerte> felder{};
+    std::array<QLabel*, AnzahlMesswerte> positionen{}; // none for those that are counts
     std::array<std::int32_t, AnzahlMesswerte> gezeigteWerte{};
     int versatz = 0;
     std::int16_t gezeigterStatus = -1;
@@ -109,6 +132,9 @@ private:
     Wertealter alter;
     QTimer uhrwerk;
     Strahlhinweis* hinweis;
+    Zeigerschild* zeigerschild;
+    Zoomkopf* zoomkopf;
+    Ansager ansager;
     Werte strahlen;
     int strahlUnterMaus = -1;
     bool warSichtbar = false;

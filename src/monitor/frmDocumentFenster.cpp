@@ -6,12 +6,15 @@
 
 #include "einstellungen.h"
 #include "fensterplatz.h"
+#include "wertetext.h"
+#include "wertfeld.h"
+#include "ziffern.h"
 
 #include <QCloseEvent>
 #include <QFontInfo>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QRegularExpression>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -22,8 +25,8 @@ namespace {
 
 constexpr int MindestBreiteTwips = 3400;
 constexpr int MindestHoeheTwips = 3440;
-constexpr double Ziffernvergroesserung = 1.35;
 constexpr int BreitesteZahl = 65535;
+constexpr int Rundung = 2; // pixels that a label may want beyond its text
 constexpr int BreitesterStrahl = 511;
 constexpr int BreitesterAbstand = 40;
 constexpr double SchmalUnter = 2.4;
@@ -85,7 +88,8 @@ void frmDocument::closeEvent(QCloseEvent* ereignis) {
 
 void frmDocument::resizeEvent(QResizeEvent* ereignis) {
     QWidget::resizeEvent(ereignis);
-    OrdneStatuszeile();
+    PasseZiffernAn();
+    PasseBreiteAn();
 }
 
 void frmDocument::showEvent(QShowEvent* ereignis) {
@@ -101,20 +105,45 @@ std::string frmDocument::Abschnitt() const {
     return std::to_string(optikteil) + "Form";
 }
 
-// Values are read from some way off: larger than the rest, and as wide as the widest number so that nothing
-// moves when they change.
+// Values are read from some way off: as large as the view allows, and as wide as the widest number so that
+// nothing moves when they change.
 void frmDocument::PasseZiffernAn() {
-    QFont ziffern = font();
-    ziffern.setPointSizeF(QFontInfo(font()).pointSizeF() * Ziffernvergroesserung);
-    const int breite = QFontMetrics(ziffern).horizontalAdvance(QString::number(BreitesteZahl));
-    for (QLabel* feld : ui->Frame1->findChildren<QLabel*>(QRegularExpression("^lblInhalt"))) {
-        feld->setFont(ziffern);
-        feld->setMinimumWidth(breite);
+    const int schrift = QFontInfo(font()).pixelSize();
+    const int abstandMm = ui->BeamBar1->Strahlabstand();
+    const bool mitPosition = abstandMm > 0 && HatPlatzFuerPositionen(width(), schrift);
+    const int anderes = 3 * ui->Option1_0->sizeHint().height() + 4 * fontMetrics().height();
+    const int ziffern =
+        Zifferngroesse({schrift, height() - ui->sbStatusBar->height() - anderes, width(), mitPosition});
+    QFont gross = font();
+    gross.setPixelSize(ziffern);
+    QFont klein = font();
+    klein.setPixelSize(Beschriftungsgroesse(ziffern, schrift));
+    const int zahlbreite = QFontMetrics(gross).horizontalAdvance(QString::number(BreitesteZahl)) + Rundung;
+    const int hoechste = std::max(0, ui->BeamBar1->Strahlanzahl() - 1) * abstandMm;
+    const int positionsbreite =
+        QFontMetrics(klein).horizontalAdvance(QString::fromStdString(Positionstext(hoechste)));
+    for (QLabel* element : ui->Frame1->findChildren<QLabel*>())
+        element->setFont(klein);
+    for (Wertfeld* feld : ui->Frame1->findChildren<Wertfeld*>()) {
+        feld->setFont(gross);
+        feld->setMinimumWidth(zahlbreite);
     }
+    for (QLabel* position : positionen) {
+        if (position == nullptr)
+            continue;
+        position->setVisible(mitPosition);
+        position->setMinimumWidth(positionsbreite);
+    }
+}
+
+// The values grow with the view and shrink with it.
+QSize frmDocument::minimumSizeHint() const {
+    return QWidget::minimumSizeHint().boundedTo(Mindestgroesse());
 }
 
 // The values take the width they need and no more; the beams get the rest.
 void frmDocument::PasseBreiteAn() {
+    ui->Frame1->layout()->activate(); // what it needs is known to its grid only then
     const int rollbalken = ui->Rollbereich->verticalScrollBar()->sizeHint().width();
     ui->Rollbereich->setFixedWidth(ui->Frame1->minimumSizeHint().width() + rollbalken);
     const QString strahl = QString::fromStdString(Strahltext(BreitesterStrahl, BreitesterAbstand));

@@ -7,6 +7,7 @@
 #include "strahlhinweis.h"
 #include "texte.h"
 #include "verblassen.h"
+#include "wertfeld.h"
 
 namespace varnoth {
 
@@ -20,8 +21,11 @@ void frmDocument::VerwirfWerte() {
     alter.Vergiss();
     SetzeStand(Datenstand::Ungueltig);
     VergissAnzeige();
-    for (QLabel* feld : felder)
+    for (Wertfeld* feld : felder)
         feld->setText(QString::fromUtf8(KeinWert));
+    for (QLabel* position : positionen)
+        if (position != nullptr)
+            position->clear();
     ui->lblInhaltBlankingStrahlenMax->setText(QString::fromUtf8(KeinWert));
     ZeigeStatus({});
 }
@@ -45,16 +49,17 @@ void frmDocument::SetzeStand(Datenstand neuer) {
     ui->BeamBar1->SetzeDatenstand(stand);
     FaerbeTexte();
     ZeigeHinweis();
-    if (stand == Datenstand::Ungueltig)
-        uhrwerk.stop();
-    else if (!uhrwerk.isActive())
+    if (stand != Datenstand::Ungueltig && !uhrwerk.isActive())
         uhrwerk.start();
 }
 
 void frmDocument::FaerbeTexte() {
     const bool blass = stand == Datenstand::Veraltet;
-    for (QLabel* feld : felder)
+    for (Wertfeld* feld : felder)
         Verblasse(*feld, blass, palette());
+    for (QLabel* position : positionen)
+        if (position != nullptr)
+            Verblasse(*position, blass, palette());
     Verblasse(*ui->lblInhaltBlankingStrahlenMax, blass, palette());
     Verblasse(*ui->sbStatusBar_1, blass, palette());
 }
@@ -66,6 +71,34 @@ void frmDocument::ZeigeHinweis() {
     else if (stand == Datenstand::Veraltet)
         text = Alterstext(alter.Alter(DieUmgebung().Uhr()));
     hinweis->Zeige(QString::fromStdString(text));
+    for (std::size_t k = 0; k < felder.size(); ++k)
+        ErgaenzeAnsage(k);
+}
+
+// Behind a number its position and, of an old one, its age.
+void frmDocument::ErgaenzeAnsage(std::size_t k) {
+    QStringList zusaetze;
+    if (positionen[k] != nullptr && !positionen[k]->text().isEmpty())
+        zusaetze.append(positionen[k]->text());
+    if (stand == Datenstand::Veraltet)
+        zusaetze.append(hinweis->text());
+    felder[k]->SetzeZusatz(zusaetze.join(QStringLiteral(", ")));
+}
+
+void frmDocument::RichteAnsagenEin() {
+    for (Wertfeld* feld : findChildren<Wertfeld*>())
+        ansager.Beobachte(*feld, QAccessible::NameChanged, [feld] { return feld->Ansage(); });
+    BeamBarControl& balken = *ui->BeamBar1;
+    ansager.Beobachte(balken, QAccessible::DescriptionChanged,
+                      [&balken] { return balken.accessibleDescription() + balken.Ansage(); });
+}
+
+// Goes on until the last change has been told.
+void frmDocument::Takt() {
+    PruefeAlter();
+    const bool allesGesagt = ansager.Melde(DieUmgebung().Uhr());
+    if (stand == Datenstand::Ungueltig && allesGesagt)
+        uhrwerk.stop();
 }
 
 } // namespace varnoth

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QLabel>
+#include "schild.h"
 
 namespace varnoth {
 
-/// A text in the middle of a beam bar that says how far the beams below it can be believed. It lets the mouse
-/// through.
-class Strahlhinweis : public QLabel {
+/// A plate in the middle of a beam bar that says how far the beams below it can be believed.
+class Strahlhinweis : public Schild {
 public:
     explicit Strahlhinweis(QWidget& strahlen);
 

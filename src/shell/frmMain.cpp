@@ -19,6 +19,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QLabel>
+#include <QShortcut>
 
 #include <utility>
 
@@ -56,6 +57,7 @@ frmMain::frmMain(QString ordner) : ui(std::make_unique<Ui::frmMain>()), programm
     SetzeMessdatenMenue(0);
     for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil)
         LadeAnsicht(teil);
+    connect(new QShortcut(Qt::Key_F11, this), &QShortcut::activated, this, &frmMain::SchalteGrossanzeige);
     modPolling::SetzeZiel(this);
 }
 

@@ -126,6 +126,7 @@ private:
     void Entlade();
 
     void ZeigeLichtleiste(int optikteil);
+    void SchalteGrossanzeige();
     void WaehleComPort(int nummer);
     void SchalteSprache(std::int16_t offset);
     void ZeigeInfo();

@@ -116,6 +116,16 @@ void frmMain::ZeigeLichtleiste(int optikteil) {
     Fenster(optikteil).Zeige();
 }
 
+/// For the view in front, else for the first one that is shown.
+void frmMain::SchalteGrossanzeige() {
+    const QMdiSubWindow* vorn = ui->mdiBereich->currentSubWindow();
+    auto gemeint = std::ranges::find(rahmen, vorn);
+    if (vorn == nullptr || !vorn->isVisible())
+        gemeint = std::ranges::find_if(rahmen, [](const QMdiSubWindow* einer) { return einer->isVisible(); });
+    if (gemeint != rahmen.end())
+        Fenster(static_cast<int>(gemeint - rahmen.begin())).SchalteGrossanzeige();
+}
+
 QSize frmMain::KleinsterRahmen() const {
     return rahmen[0]
         ->minimumSizeHint()

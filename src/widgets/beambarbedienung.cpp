@@ -27,7 +27,10 @@ void BeamBarControl::mousePressEvent(QMouseEvent* ereignis) {
     zugStart = stelle;
     zugAusschnitt = ausschnitt;
     bandEnde = GeraeteY(stelle);
-    if (ereignis->button() == Qt::MiddleButton || (ereignis->button() == Qt::LeftButton && aufSkala)) {
+    if (ereignis->button() == Qt::LeftButton && AufUebersicht(stelle)) {
+        zug = Zug::Uebersicht;
+        GeheInUebersicht(stelle);
+    } else if (ereignis->button() == Qt::MiddleButton || (ereignis->button() == Qt::LeftButton && aufSkala)) {
         zug = Zug::Schieben;
     } else if (ereignis->button() == Qt::LeftButton && strahl >= 0) {
         SetzeCursor(strahl);
@@ -39,6 +42,7 @@ void BeamBarControl::mousePressEvent(QMouseEvent* ereignis) {
 
 void BeamBarControl::mouseMoveEvent(QMouseEvent* ereignis) {
     ZieheWeiter(ereignis->position());
+    zeigerstelle = ereignis->position();
     ZeigeUnterMaus(StrahlBei(ereignis->position()));
 }
 
@@ -69,6 +73,7 @@ void BeamBarControl::wheelEvent(QWheelEvent* ereignis) {
         ZeigeAusschnitt(Gezoomt(ausschnitt, Strahlanzahl(), um, std::pow(Zoomstufe, rasten)));
     }
     ereignis->setAccepted(vorher != ausschnitt);
+    zeigerstelle = ereignis->position();
     ZeigeUnterMaus(StrahlBei(ereignis->position()));
 }
 
@@ -80,6 +85,7 @@ void BeamBarControl::keyPressEvent(QKeyEvent* ereignis) {
     if (const std::optional<int> ziel = Cursorziel(ereignis->key())) {
         zeigeCursor = true;
         SetzeCursor(std::clamp(*ziel, 0, Strahlanzahl() - 1));
+        zeigerstelle = Strahlmitte(cursor);
         ZeigeUnterMaus(cursor);
     } else if (ereignis->key() == Qt::Key_Space && bedienart == Bedienart::Blanking) {
         BeginneMalen(cursor);
@@ -134,7 +140,7 @@ std::optional<int> BeamBarControl::Cursorziel(int taste) const {
 
 void BeamBarControl::SetzeCursor(int strahl) {
     cursor = strahl;
-    ausschnitt = MitStrahl(ausschnitt, Strahlanzahl(), strahl);
+    NimmAusschnitt(MitStrahl(ausschnitt, Strahlanzahl(), strahl));
     Geaendert();
 }
 
@@ -172,7 +178,9 @@ void BeamBarControl::ZieheWeiter(const QPointF& stelle) {
         return;
     const Strahlfeld feld = Plan().feld;
     const int y = std::clamp(GeraeteY(stelle), feld.oben, feld.oben + feld.hoehe - 1);
-    if (zug == Zug::Schieben) {
+    if (zug == Zug::Uebersicht) {
+        GeheInUebersicht(stelle);
+    } else if (zug == Zug::Schieben) {
         const double um = (stelle.y() - zugStart.y()) * devicePixelRatioF() / std::max(feld.Teilung(), 1e-6);
         ZeigeAusschnitt(Verschoben(zugAusschnitt, Strahlanzahl(), um));
     } else if (zug == Zug::Band) {
@@ -182,6 +190,19 @@ void BeamBarControl::ZieheWeiter(const QPointF& stelle) {
         Male(letzterGemalt, strahl);
         letzterGemalt = strahl;
     }
+}
+
+bool BeamBarControl::AufUebersicht(const QPointF& stelle) const {
+    const Aufteilung plan = Plan();
+    return plan.uebersicht > 0 && stelle.x() * devicePixelRatioF() >= plan.uebersichtLinks;
+}
+
+// The view moves so that its middle lies where the pointer is in the strip.
+void BeamBarControl::GeheInUebersicht(const QPointF& stelle) {
+    const Strahlfeld feld = Plan().feld;
+    const Strahlfeld alles{feld.oben, feld.hoehe, Strahlanzahl(), GanzerAusschnitt(Strahlanzahl())};
+    const double mitte = alles.Position(GeraeteY(stelle));
+    ZeigeAusschnitt({mitte - ausschnitt.anzahl / 2, ausschnitt.anzahl});
 }
 
 void BeamBarControl::BeendeBand() {

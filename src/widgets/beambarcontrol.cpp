@@ -1,5 +1,8 @@
 #include "beambarcontrol.h"
 
+#include "strahlbalkenzugang.h"
+#include "strahlmasse.h"
+
 #include <QEvent>
 #include <QFontInfo>
 #include <QPainter>
@@ -28,13 +31,14 @@ BeamBarControl::BeamBarControl(QWidget* eltern) : QWidget(eltern) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(QStringLiteral("BeamBar"));
+    RichteStrahlbalkenzugangEin();
 }
 
 void BeamBarControl::SetzeStrahlanzahl(int anzahl) {
     if (anzahl < 0 || anzahl == Strahlanzahl())
         return;
     zustaende.resize(static_cast<std::size_t>(anzahl), Strahlzustand::Frei);
-    ausschnitt = GanzerAusschnitt(anzahl);
+    NimmAusschnitt(GanzerAusschnitt(anzahl));
     gewaehlt = IstStrahl(gewaehlt) ? gewaehlt : -1;
     cursor = IstStrahl(cursor) ? cursor : 0;
     zug = Zug::Keiner;
@@ -84,16 +88,25 @@ void BeamBarControl::SetzeDatenstand(Datenstand neuer) {
     Geaendert();
 }
 
+void BeamBarControl::SetzeBeobachtung(bool an) {
+    beobachtung = an;
+    Geaendert();
+}
+
 void BeamBarControl::SetzeBedienart(Bedienart art) {
     bedienart = art;
 }
 
 void BeamBarControl::ZeigeAusschnitt(const Ausschnitt& gewuenscht) {
-    const Ausschnitt neuer = Begrenzt(gewuenscht, Strahlanzahl());
+    NimmAusschnitt(Begrenzt(gewuenscht, Strahlanzahl()));
+}
+
+void BeamBarControl::NimmAusschnitt(const Ausschnitt& neuer) {
     if (neuer == ausschnitt)
         return;
     ausschnitt = neuer;
     Geaendert();
+    emit AusschnittGeaendert();
 }
 
 void BeamBarControl::ZeigeAlles() {
@@ -101,9 +114,17 @@ void BeamBarControl::ZeigeAlles() {
 }
 
 int BeamBarControl::StrahlBei(const QPointF& stelle) const {
-    if (!QRectF(rect()).contains(stelle))
+    if (!QRectF(rect()).contains(stelle) || AufUebersicht(stelle))
         return -1;
     return Plan().feld.StrahlBei(GeraeteY(stelle));
+}
+
+QRect BeamBarControl::Kopfzeile() const {
+    const Aufteilung plan = Plan();
+    const double dichte = devicePixelRatioF();
+    const int links = plan.skala > 0 ? static_cast<int>(std::ceil(plan.senderLinks / dichte)) : 2;
+    const int hoehe = static_cast<int>(plan.feld.oben / dichte - Masse::Ueberstand);
+    return {links, 0, std::max(0, width() - links), hoehe};
 }
 
 QPointF BeamBarControl::Strahlmitte(int strahl) const {
@@ -145,7 +166,7 @@ Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
     schrift.setPixelSize(std::max(1, static_cast<int>(std::lround(QFontInfo(font()).pixelSize() * dichte))));
     const QSize groesse(static_cast<int>(std::ceil(width() * dichte)),
                         static_cast<int>(std::ceil(height() * dichte)));
-    return {groesse, dichte, schrift, Strahlanzahl(), abstandMm, ausschnitt, stand};
+    return {groesse, dichte, schrift, Strahlanzahl(), abstandMm, ausschnitt, stand, beobachtung};
 }
 
 Aufteilung BeamBarControl::Plan() const {

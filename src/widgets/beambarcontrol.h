@@ -46,6 +46,11 @@ public:
     void SetzeDatenstand(Datenstand neuer);
     Datenstand Stand() const { return stand; }
 
+    /// More for those who watch than for those who edit: a zoomed bar shows all its beams in a strip beside
+    /// the others, where a click or drag moves the view, and the row of the beam under the pointer is marked
+    /// across the whole width. Off at first.
+    void SetzeBeobachtung(bool an);
+
     void SetzeBedienart(Bedienart art);
     Bedienart Bedienung() const { return bedienart; }
 
@@ -53,11 +58,21 @@ public:
     const Ausschnitt& SichtbarerAusschnitt() const { return ausschnitt; }
     void ZeigeAusschnitt(const Ausschnitt& ausschnitt);
     void ZeigeAlles();
+    bool IstGezoomt() const { return ausschnitt != GanzerAusschnitt(Strahlanzahl()); }
+    /// The room above the beams that is left for a line of text about the view.
+    QRect Kopfzeile() const;
 
     /// The beam at a place in the widget, -1 when there is none.
     int StrahlBei(const QPointF& stelle) const;
     /// The middle of a beam in the widget.
     QPointF Strahlmitte(int strahl) const;
+    /// The beam under the pointer or the keyboard's cursor, as StrahlUnterMaus told it last, and its place.
+    int StrahlAmZeiger() const { return zeiger; }
+    QPointF Zeigerstelle() const { return zeigerstelle; }
+
+    /// What a screen reader says of the beams, in the current language: how many, which are interrupted or
+    /// blanked, and the beam at the pointer or cursor.
+    QString Ansage() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -67,6 +82,8 @@ signals:
     void StrahlUnterMaus(int index);
     /// The user has blanked or freed a beam.
     void BlankingGeaendert(int index, bool geblankt);
+    /// Another part of the beams is shown.
+    void AusschnittGeaendert();
 
 protected:
     bool event(QEvent* ereignis) override;
@@ -81,13 +98,16 @@ protected:
     void focusOutEvent(QFocusEvent* ereignis) override;
 
 private:
-    enum class Zug { Keiner, Schieben, Band, Malen };
+    enum class Zug { Keiner, Schieben, Band, Malen, Uebersicht };
 
     Bildvorgabe Vorgabe(double dichte) const;
     Aufteilung Plan() const;
     int GeraeteY(const QPointF& stelle) const;
     bool IstStrahl(int index) const { return index >= 0 && index < Strahlanzahl(); }
     void Geaendert();
+    void NimmAusschnitt(const Ausschnitt& neuer);
+    bool AufUebersicht(const QPointF& stelle) const;
+    void GeheInUebersicht(const QPointF& stelle);
     void ZeigeUnterMaus(int strahl);
     void SetzeCursor(int strahl);
     void Blanke(int strahl, bool geblankt);
@@ -104,11 +124,13 @@ private:
     bool automatisch = true;
     bool geaendert = false;
     Datenstand stand = Datenstand::Gueltig;
+    bool beobachtung = false;
     Bedienart bedienart = Bedienart::Zoom;
     Ausschnitt ausschnitt;
     Strahlbild bild;
 
     int zeiger = -1;
+    QPointF zeigerstelle;
     int cursor = 0;
     bool zeigeCursor = false;
     Zug zug = Zug::Keiner;

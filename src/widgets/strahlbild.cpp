@@ -10,6 +10,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace varnoth {
 
@@ -21,10 +22,16 @@ int Zahlenbreite(const QFontMetrics& masse, int groesste) {
 
 Strahlfeld TeileHoehe(const Bildvorgabe& vorgabe, int zeile) {
     const auto pixel = [&vorgabe](double logisch) { return Geraetepixel(logisch, vorgabe.dichte); };
-    const bool mitSkala = vorgabe.abstandMm > 0;
-    const int oben = pixel(Masse::Rand + Masse::Ueberstand) + (mitSkala ? zeile : 0);
+    const bool mitKopf = vorgabe.abstandMm > 0 || vorgabe.beobachtung;
+    const int oben = pixel(Masse::Rand + Masse::Ueberstand) + (mitKopf ? zeile : 0);
     const int unten = pixel(Masse::Rand + Masse::Ueberstand);
     return {oben, std::max(1, vorgabe.groesse.height() - oben - unten), vorgabe.strahlen, vorgabe.ausschnitt};
+}
+
+QColor Uebersichtsfarbe(const Strahlfarben& farben, Strahlzustand zustand) {
+    if (zustand == Strahlzustand::Unterbrochen)
+        return farben.unterbrochen;
+    return AlsFlaeche(zustand == Strahlzustand::Geblankt ? farben.geblankt : farben.frei, farben.grund);
 }
 
 // A small triangle beside a beam.
@@ -50,8 +57,11 @@ Aufteilung TeileAuf(const Bildvorgabe& vorgabe) {
                      pixel(Masse::Rand) + pixel(Masse::Strich + 2 * Masse::Luecke);
     plan.nummern = Zahlenbreite(masse, vorgabe.strahlen) + pixel(Masse::Luecke);
     const int rand = pixel(Masse::Rand + Masse::Leiste);
+    if (vorgabe.ZeigtUebersicht())
+        plan.uebersicht = pixel(Masse::Uebersicht);
+    const int rechterRand = plan.uebersicht > 0 ? plan.uebersicht + 2 * pixel(Masse::Luecke) : rand;
     const auto frei = [&] {
-        return vorgabe.groesse.width() - plan.skala - plan.nummern - 2 * plan.gehaeuse - 2 * rand;
+        return vorgabe.groesse.width() - plan.skala - plan.nummern - 2 * plan.gehaeuse - rand - rechterRand;
     };
     if (frei() < pixel(Masse::MindestStrahl))
         plan.nummern = 0;
@@ -59,8 +69,9 @@ Aufteilung TeileAuf(const Bildvorgabe& vorgabe) {
         plan.skala = 0;
     plan.senderLinks = plan.skala > 0 ? plan.skala + pixel(Masse::Luecke) : rand;
     plan.strahlenLinks = plan.senderLinks + plan.gehaeuse;
-    plan.strahlenBreite =
-        std::max(1, vorgabe.groesse.width() - plan.strahlenLinks - plan.gehaeuse - plan.nummern - rand);
+    plan.strahlenBreite = std::max(1, vorgabe.groesse.width() - plan.strahlenLinks - plan.gehaeuse -
+                                          plan.nummern - rechterRand);
+    plan.uebersichtLinks = vorgabe.groesse.width() - plan.uebersicht - pixel(Masse::Luecke);
     return plan;
 }
 
@@ -70,6 +81,8 @@ void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& neueVorgabe, const 
     maler.drawPixmap(0, 0, hintergrund);
     if (vorgabe.stand != Datenstand::Ungueltig)
         ZeichneStrahlen(maler, zustaende);
+    if (aufteilung.uebersicht > 0)
+        ZeichneUebersicht(maler, zustaende);
     ZeichneMarken(maler, marken);
 }
 
@@ -119,6 +132,37 @@ void Strahlbild::MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& z
     }
 }
 
+// The shown range is a mark beside the strip, so that it covers no beam.
+void Strahlbild::ZeichneUebersicht(QPainter& maler, std::span<const Strahlzustand> zustaende) const {
+    const auto pixel = [this](double logisch) { return Geraetepixel(logisch, vorgabe.dichte); };
+    const Strahlfeld alles{aufteilung.feld.oben, aufteilung.feld.hoehe, vorgabe.strahlen,
+                           GanzerAusschnitt(vorgabe.strahlen)};
+    const int marke = pixel(Masse::Leiste);
+    const int links = aufteilung.uebersichtLinks + marke + pixel(1);
+    const int breite = std::max(1, aufteilung.uebersichtLinks + aufteilung.uebersicht - links);
+    maler.fillRect(links, alles.oben, breite, alles.hoehe, farben.gehaeuse);
+    if (vorgabe.stand != Datenstand::Ungueltig)
+        for (const Zeile& zeile : Uebersichtszeilen(alles, zustaende, pixel(Masse::Meldung)))
+            maler.fillRect(links, zeile.oben, breite, zeile.hoehe, Uebersichtsfarbe(farben, zeile.zustand));
+    const double oben = alles.Y(vorgabe.ausschnitt.unten + vorgabe.ausschnitt.anzahl);
+    const double unten = std::max(alles.Y(vorgabe.ausschnitt.unten), oben + marke);
+    maler.fillRect(QRectF(aufteilung.uebersichtLinks, oben, marke, unten - oben).toAlignedRect(),
+                   farben.marke);
+}
+
+// Across scale, beams and numbers, high enough to be seen where a beam is a single row.
+void Strahlbild::ZeichneZeiger(QPainter& maler, int strahl) const {
+    const Strahlfeld& feld = aufteilung.feld;
+    const int unten = feld.Unterkante(strahl);
+    const int hoehe =
+        std::max(unten - feld.Unterkante(strahl + 1), Geraetepixel(Masse::Meldung, vorgabe.dichte));
+    const int mitte = static_cast<int>(std::lround(feld.Y(strahl + 0.5)));
+    const int rechts = aufteilung.uebersicht > 0 ? aufteilung.uebersichtLinks : vorgabe.groesse.width();
+    QColor band = farben.marke;
+    band.setAlphaF(0.3F);
+    maler.fillRect(0, mitte - hoehe / 2, rechts, hoehe, band);
+}
+
 void Strahlbild::ZeichneMarken(QPainter& maler, const Marken& marken) const {
     const Strahlfeld& feld = aufteilung.feld;
     const int links = aufteilung.strahlenLinks;
@@ -131,6 +175,8 @@ void Strahlbild::ZeichneMarken(QPainter& maler, const Marken& marken) const {
         maler.setBrush(Qt::NoBrush);
         maler.drawRect(links, oben - 1, breite - 1, unten - oben + 1);
     }
+    if (marken.zeiger >= 0 && vorgabe.beobachtung)
+        ZeichneZeiger(maler, marken.zeiger);
     if (marken.zeiger >= 0) {
         const double y = feld.Y(marken.zeiger + 0.5);
         maler.setRenderHint(QPainter::Antialiasing);

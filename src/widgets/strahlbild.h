@@ -21,12 +21,17 @@ struct Bildvorgabe {
     int abstandMm = 0;
     Ausschnitt ausschnitt{};
     Datenstand stand = Datenstand::Gueltig;
+    bool beobachtung = false;
 
+    bool ZeigtUebersicht() const {
+        return beobachtung && strahlen > 0 && ausschnitt != GanzerAusschnitt(strahlen);
+    }
     bool operator==(const Bildvorgabe&) const = default;
 };
 
-/// Where the columns of a beam bar lie: scale, transmitter, beams, receiver, beam numbers. A column that has
-/// no room has the width 0. Lengths in device pixels.
+/// Where the columns of a beam bar lie: scale, transmitter, beams, receiver, beam numbers, and the strip that
+/// shows all beams of a zoomed bar. A column that has no room or no use has the width 0. Lengths in device
+/// pixels.
 struct Aufteilung {
     Strahlfeld feld;
     int skala = 0;
@@ -35,6 +40,8 @@ struct Aufteilung {
     int strahlenLinks = 0;
     int strahlenBreite = 0;
     int nummern = 0;
+    int uebersichtLinks = 0;
+    int uebersicht = 0;
 
     int EmpfaengerLinks() const { return strahlenLinks + strahlenBreite; }
 };
@@ -62,6 +69,8 @@ private:
     void Bereite(const Bildvorgabe& vorgabe, const QPalette& palette);
     void ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende) const;
     void MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& zeilen) const;
+    void ZeichneUebersicht(QPainter& maler, std::span<const Strahlzustand> zustaende) const;
+    void ZeichneZeiger(QPainter& maler, int strahl) const;
     void ZeichneMarken(QPainter& maler, const Marken& marken) const;
 
     Bildvorgabe vorgabe;

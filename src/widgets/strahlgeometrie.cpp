@@ -129,6 +129,20 @@ std::vector<Zeile> Zeilen(const Strahlfeld& feld, std::span<const Strahlzustand>
     return zeilen;
 }
 
+std::vector<Zeile> Uebersichtszeilen(const Strahlfeld& feld, std::span<const Strahlzustand> zustaende,
+                                     int mindestens) {
+    std::vector<Zeile> zeilen = Zeilen(feld, zustaende);
+    const auto unterbrochene = std::stable_partition(zeilen.begin(), zeilen.end(), [](const Zeile& zeile) {
+        return zeile.zustand != Strahlzustand::Unterbrochen;
+    });
+    for (auto zeile = unterbrochene; zeile != zeilen.end(); ++zeile) {
+        const int hoehe = std::min(std::max(zeile->hoehe, mindestens), feld.hoehe);
+        const int oben = zeile->oben - (hoehe - zeile->hoehe) / 2;
+        *zeile = {std::clamp(oben, feld.oben, feld.oben + feld.hoehe - hoehe), hoehe, zeile->zustand};
+    }
+    return zeilen;
+}
+
 Teilstriche WaehleTeilstriche(double pixelJeEinheit, double zahlen, double striche) {
     constexpr int GroessteStufe = 1'000'000;
     int haupt = 1;

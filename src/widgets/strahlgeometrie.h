@@ -65,6 +65,11 @@ struct Zeile {
 /// beam is ever hidden. `zustaende` holds one element a beam.
 std::vector<Zeile> Zeilen(const Strahlfeld& feld, std::span<const Strahlzustand> zustaende);
 
+/// The rows of a field in the order in which they are to be drawn: interrupted ones last and at least
+/// `mindestens` pixels high, none beyond the field.
+std::vector<Zeile> Uebersichtszeilen(const Strahlfeld& feld, std::span<const Strahlzustand> zustaende,
+                                     int mindestens);
+
 /// Distances on a scale: between ticks with a number and between all ticks.
 struct Teilstriche {
     int haupt = 1;

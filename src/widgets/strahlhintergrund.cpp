@@ -139,10 +139,11 @@ void ZeichneOptik(const Blatt& blatt) {
     blatt.maler.setRenderHint(QPainter::Antialiasing, false);
 }
 
-// A slim bar at the right edge: how much of all beams the window shows, and where.
+// Where there is no strip with all beams, a slim bar at the right edge: how much of all beams the window
+// shows, and where.
 void ZeichneAusschnitt(const Blatt& blatt) {
     const Strahlfeld& feld = blatt.plan.feld;
-    if (feld.strahlen == 0 || feld.ausschnitt == GanzerAusschnitt(feld.strahlen))
+    if (feld.strahlen == 0 || blatt.plan.uebersicht > 0 || feld.ausschnitt == GanzerAusschnitt(feld.strahlen))
         return;
     const int breite = blatt.Pixel(Masse::Leiste);
     const int links = blatt.vorgabe.groesse.width() - breite;

@@ -14,6 +14,7 @@ inline constexpr double Strichabstand = 4;
 inline constexpr double Gehaeuse = 13;
 inline constexpr double Ueberstand = 5;
 inline constexpr double Leiste = 4;
+inline constexpr double Uebersicht = 16;
 inline constexpr double Meldung = 3;
 inline constexpr double MeldungUnter = 6;
 inline constexpr double MindestStrahl = 48;

@@ -22,11 +22,13 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace varnoth {
@@ -445,6 +447,18 @@ TEST_F(FrmMainTest, The_panel_of_the_output_tells_the_time_of_its_value) {
     MissEinmal({32, 0, 0, 0});
     Fenster().ZeigeStatustext(FeldSchaltausgang, "output");
     EXPECT_TRUE(Statusfeld(FeldSchaltausgang).toolTip().startsWith("Letzter Wert: "));
+}
+
+TEST_F(FrmMainTest, F11_lets_the_view_in_front_fill_the_window_and_gives_it_back) {
+    MissEinmal({32, 64, 0, 0});
+    Fenster().Fenster(1).Zeige();
+    const auto tasten = Fenster().findChildren<QShortcut*>();
+    const auto taste = std::ranges::find(tasten, QKeySequence(Qt::Key_F11), &QShortcut::key);
+    ASSERT_NE(taste, tasten.end());
+    emit(*taste)->activated();
+    EXPECT_TRUE(Fenster().Fenster(1).IstGrossanzeige());
+    emit(*taste)->activated();
+    EXPECT_FALSE(Fenster().Fenster(1).IstGrossanzeige());
 }
 
 TEST_F(FrmMainTest, Autosend_can_be_chosen_when_the_controller_is_in_an_autosend_mode) {

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace varnoth {
+
+/// Where a beam lies: its number from 1, the beam spacing in millimetres. Nothing for a number that is no
+/// beam's and without a spacing.
+std::optional<int> Strahlposition(int nummer, int abstandMm);
+
+/// "530 mm"; empty without a position.
+std::string Positionstext(std::optional<int> positionMm);
+
+/// A value as it goes into a table: its caption, its text, and what stands beside it (may be empty).
+struct Wertzeile {
+    std::string name;
+    std::string wert;
+    std::string daneben;
+};
+
+/// A table of values for other programs: the headings and the values a line each, what stands side by side
+/// separated by tabs.
+std::string Wertetabelle(std::span<const std::string> ueberschriften, std::span<const Wertzeile> zeilen);
+
+} // namespace varnoth
