@@ -14,14 +14,11 @@ Zeigerschild::Zeigerschild(QWidget& ansicht) : Schild(QStringLiteral("lblZeiger"
     setWordWrap(false);
 }
 
-// Above the row, or below where there is no room above: the beam itself stays visible.
+// Above the row, so that the beam itself stays visible; there is room above the highest one.
 void Zeigerschild::Zeige(const QString& text, const QPoint& stelle) {
     SetzeText(text);
-    const QSize platz = parentWidget()->size();
-    const int oben = stelle.y() - height() - Abstand.y();
-    const int unten = std::min(stelle.y() + 4 * Abstand.y(), platz.height() - height());
-    move(std::clamp(stelle.x() + Abstand.x(), 0, std::max(0, platz.width() - width())),
-         oben >= 0 ? oben : unten);
+    const int rechts = std::max(0, parentWidget()->width() - width());
+    move(std::clamp(stelle.x() + Abstand.x(), 0, rechts), std::max(0, stelle.y() - height() - Abstand.y()));
     raise();
 }
 

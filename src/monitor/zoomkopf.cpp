@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::int16_t TextAlle = 9011;
 constexpr std::int16_t TextAlleZeigen = 9012;
+constexpr int SchmalerKnopf = 18;
 
 } // namespace
 
@@ -25,7 +26,7 @@ Zoomkopf::Zoomkopf(BeamBarControl& der) : QWidget(&der), balken(der) {
     cmdAlleStrahlen.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     auto* reihe = new QHBoxLayout(this);
     reihe->setContentsMargins({});
-    reihe->setSpacing(4);
+    reihe->setSpacing(3);
     reihe->addWidget(&lblAusschnitt, 1);
     reihe->addWidget(&cmdAlleStrahlen);
     balken.installEventFilter(this);
@@ -62,8 +63,10 @@ void Zoomkopf::ZeigeAusschnitt() {
     const QString ganz = QString::fromStdString(Ausschnittstext(bereich, balken.Strahlanzahl()));
     const QString kurz = QString::fromStdString(Bereichstext({&bereich, 1}));
     cmdAlleStrahlen.setText(QString::fromStdString(LadeText(TextAlle)));
-    if (!HatPlatz(kurz))
+    const bool eng = !HatPlatz(kurz);
+    if (eng)
         cmdAlleStrahlen.setText(QStringLiteral("↕"));
+    cmdAlleStrahlen.setMaximumWidth(eng ? SchmalerKnopf : QWIDGETSIZE_MAX);
     lblAusschnitt.setText(HatPlatz(ganz) ? ganz : kurz);
     lblAusschnitt.setAccessibleName(ganz);
     lblAusschnitt.setToolTip(ganz);

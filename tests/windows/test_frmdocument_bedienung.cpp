@@ -79,6 +79,18 @@ TEST_F(FrmDocumentBedienung, The_line_covers_no_beam_and_a_narrow_view_shortens_
     EXPECT_EQ(Text("lblAusschnitt"), "5–12");
 }
 
+TEST_F(FrmDocumentBedienung, The_numbers_of_a_long_range_are_seen_whole_in_the_smallest_view) {
+    Setze(spezifisch::Strahlenzahl, 512);
+    sicht->InitfrmDocument();
+    Balken().ZeigeAusschnitt({188, 135});
+    EXPECT_EQ(Text("lblAusschnitt"), "Strahlen 189–323 von 512");
+    rahmen->resize(227, 400);
+    QApplication::processEvents();
+    EXPECT_EQ(Text("lblAusschnitt"), "189–323");
+    EXPECT_GE(Feld("lblAusschnitt").width(), Feld("lblAusschnitt").sizeHint().width());
+    EXPECT_EQ(Alle().accessibleName(), "Alle");
+}
+
 TEST_F(FrmDocumentBedienung, The_button_goes_back_to_all_beams) {
     Zoome();
     Alle().click();
@@ -156,6 +168,7 @@ TEST_F(FrmDocumentBedienung, The_menu_copies_the_values_with_title_and_time) {
 }
 
 TEST_F(FrmDocumentBedienung, Copied_values_that_are_none_say_so) {
+    Feld("lblInhaltTU").setSelection(0, 1);
     Punkt(Feld("lblInhaltTU"), "mnuWerteKopieren").trigger();
     const QStringList zeilen = QApplication::clipboard()->text().split('\n');
     EXPECT_EQ(zeilen[1], "Keine aktuellen Werte");

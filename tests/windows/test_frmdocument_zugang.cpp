@@ -96,6 +96,7 @@ TEST_F(FrmDocumentZugang, The_last_change_before_silence_is_told_too) {
     ASSERT_TRUE(pruefung::WarteBis([this] { return !gehoert.empty(); }, 3000));
     gehoert.clear();
     sicht->VerwirfWerte();
+    EXPECT_FALSE(pruefung::WarteBis([this] { return !gehoert.empty(); }, 700)) << "too early";
     umgebung.uhr += milliseconds(600);
     EXPECT_TRUE(pruefung::WarteBis([this] { return !gehoert.empty(); }, 3000));
 }
