@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <utility>
+
 namespace varnoth {
 
 namespace {
@@ -32,9 +34,8 @@ void Ablaufdialog::Lade(QPushButton& abbrechen) {
 }
 
 void Ablaufdialog::Entlade() {
-    if (geladen)
+    if (std::exchange(geladen, false))
         modSchnittstelle::CloseCommPort();
-    geladen = false;
 }
 
 void Ablaufdialog::showEvent(QShowEvent* ereignis) {

@@ -2,19 +2,17 @@
 
 #include "ablaufdialog.h"
 #include "feldtext.h"
+#include "umgebung.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QProgressBar>
 
 #include <utility>
 
 namespace varnoth {
 
-Transferansicht::Transferansicht(Ablaufdialog& der, const Transferfelder& die) : dialog(der), felder(die) {
-    dialog.installEventFilter(this);
-}
+Transferansicht::Transferansicht(Ablaufdialog& der, const Transferfelder& die) : dialog(der), felder(die) {}
 
 Transferansicht::~Transferansicht() {
     Zeige();
@@ -47,15 +45,13 @@ void Transferansicht::ZeigeEnde(const std::string& text) {
     Zeige();
 }
 
-bool Transferansicht::eventFilter(QObject* /*ziel*/, QEvent* ereignis) {
-    if (ereignis->type() == QEvent::LayoutRequest)
-        Zeige();
-    return false;
-}
-
 void Transferansicht::ZeigeSpaeter() {
-    if (!std::exchange(ausstehend, true))
-        QCoreApplication::postEvent(&dialog, new QEvent(QEvent::LayoutRequest));
+    if (std::exchange(ausstehend, true))
+        return;
+    DieUmgebung().FuerWartezeit([diese = QPointer<Transferansicht>(this)] {
+        if (diese != nullptr)
+            diese->Zeige();
+    });
 }
 
 void Transferansicht::Zeige() {
