@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 
 namespace varnoth {
@@ -41,6 +42,13 @@ public:
     /// Runs every window event that is pending, and gives the number of open forms. Painting may be left to
     /// the next wait.
     virtual int LasseEreignisseLaufen() = 0;
+    /// Runs every pending event and does what was put off for this (FuerWartezeit), painting too: the line is
+    /// busy for a while, and nobody waits for this thread.
+    virtual void NutzeWartezeit() = 0;
+    /// Puts work off until the line is busy anyway. Between a reply and the next request it would slow the
+    /// exchange down; where nothing is exchanged, it is done as soon as events run. In the order of the
+    /// calls.
+    virtual void FuerWartezeit(std::function<void()> arbeit) = 0;
     /// Sleeps until an event was served or the time has passed, whichever comes first.
     virtual void WarteAufEreignis(Zeit hoechstens) = 0;
     /// The clock. Only differences mean something.

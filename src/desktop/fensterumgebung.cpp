@@ -4,10 +4,6 @@
 
 namespace varnoth {
 
-void Fensterumgebung::BedieneEreignisse() {
-    malen.LasseEreignisseLaufen();
-}
-
 Antwort Fensterumgebung::Frage(const Meldung& meldung) {
     return ZeigeMeldungsfenster(meldung);
 }

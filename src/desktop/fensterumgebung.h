@@ -8,11 +8,10 @@ namespace varnoth {
 /// The environment of a program with windows: painting waits until the line is busy, messages are boxes.
 class Fensterumgebung : public QtUmgebung {
 protected:
-    void BedieneEreignisse() override;
     Antwort Frage(const Meldung& meldung) override;
 
 private:
-    Malaufschub malen;
+    Malaufschub malen{Pumpe()};
 };
 
 } // namespace varnoth

@@ -1,9 +1,10 @@
 #include "malaufschub.h"
 
-#include <QCoreApplication>
-#include <QThread>
+#include "ereignispumpe.h"
 
-#include <utility>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
 
 namespace varnoth {
 
@@ -16,25 +17,19 @@ int Vorrang(QEvent::Type art) {
 
 } // namespace
 
-Malaufschub::Malaufschub() {
+Malaufschub::Malaufschub(Ereignispumpe& die) : pumpe(die) {
     QCoreApplication::instance()->installEventFilter(this);
-}
-
-void Malaufschub::LasseEreignisseLaufen() {
-    const int vorher = std::exchange(gehalteneEbene, QThread::currentThread()->loopLevel());
-    QCoreApplication::processEvents();
-    gehalteneEbene = vorher;
-    for (const auto& [element, art] : std::exchange(aufgeschobene, {}))
-        if (element != nullptr)
-            QCoreApplication::postEvent(element, new QEvent(art), Vorrang(art));
 }
 
 bool Malaufschub::eventFilter(QObject* ziel, QEvent* ereignis) {
     const QEvent::Type art = ereignis->type();
     if ((art != QEvent::UpdateRequest && art != QEvent::LayoutRequest) || !ziel->isWidgetType() ||
-        QThread::currentThread()->loopLevel() != gehalteneEbene)
+        !pumpe.HaeltZurueck())
         return false;
-    aufgeschobene.emplace_back(ziel, art);
+    pumpe.SchiebeAuf([element = QPointer<QObject>(ziel), art] {
+        if (element != nullptr)
+            QCoreApplication::postEvent(element, new QEvent(art), Vorrang(art));
+    });
     return true;
 }
 

@@ -27,20 +27,22 @@ void Sende(const std::string& anforderung) {
     CommPortWriteOutput(anforderung);
 }
 
+int MillisekundenBis(Zeit ende) {
+    const auto rest = std::chrono::ceil<std::chrono::milliseconds>(ende - DieUmgebung().Uhr());
+    return static_cast<int>(std::max(rest.count(), std::chrono::milliseconds::rep{0}));
+}
+
 bool Empfange(Erkenner& erkenner) {
     while (!erkenner.Fertig()) {
-        WarteAufZeichen(Antwortzeit, True);
+        const Zeit ende = DieUmgebung().Uhr() + std::chrono::milliseconds(Antwortzeit);
+        WarteAufRest(erkenner.MindestensNoch());
+        WarteAufZeichen(MillisekundenBis(ende), True);
         if (CommPortBytesAvailable() == 0)
             return false;
         if (!erkenner.Verarbeite(CommPortReadInput()))
             return false;
     }
     return erkenner.CrcStimmt();
-}
-
-int MillisekundenBis(Zeit ende) {
-    const auto rest = std::chrono::ceil<std::chrono::milliseconds>(ende - DieUmgebung().Uhr());
-    return static_cast<int>(std::max(rest.count(), std::chrono::milliseconds::rep{0}));
 }
 
 /// Reads on until the stream holds an identification reply, and takes it out of it.

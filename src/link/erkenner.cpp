@@ -2,11 +2,14 @@
 
 #include "rahmen.h"
 
+#include <algorithm>
+
 namespace varnoth {
 
 namespace {
 
 constexpr int HoechstensAbgelehnt = 10;
+constexpr std::size_t CrcBytes = 2;
 
 /// Length of the whole valid identification reply that the bytes begin with, 0 when they do not.
 std::size_t LaengeDerIdentAntwort(std::string_view bytes) {
@@ -51,6 +54,14 @@ void Erkenner::VerarbeiteByte(std::uint8_t byte) {
     }
 }
 
+std::size_t Erkenner::MindestensNoch() const {
+    if (zustand >= CrcLow)
+        return static_cast<std::size_t>(Ende - zustand);
+    const std::size_t bisEnde = BisCrc(zustand) + CrcBytes;
+    const auto bisAufgabe = static_cast<std::size_t>(HoechstensAbgelehnt + 1 - abgelehnt);
+    return zustand <= ErstesEigenes ? std::min(bisEnde, bisAufgabe) : bisEnde; // later on few are rejected
+}
+
 bool Erkenner::CrcStimmt() const {
     return empfangenHigh == HiByte(crc) && empfangenLow == LoByte(crc);
 }
@@ -81,6 +92,13 @@ int LeseErkenner::NachByte(int stand, std::uint8_t byte) {
     }
 }
 
+std::size_t LeseErkenner::BisCrc(int stand) const {
+    constexpr int Bytezahl = ErstesEigenes;
+    if (stand <= Bytezahl)
+        return static_cast<std::size_t>(Bytezahl + 1 - stand) + datenlaenge;
+    return datenlaenge - daten.size();
+}
+
 SchreibErkenner::SchreibErkenner(std::int16_t slaveAdresse, std::uint16_t start, std::uint16_t anzahl)
     : adresse(LoByte(slaveAdresse)) {
     for (const auto wort : {start, anzahl}) {
@@ -102,6 +120,10 @@ int SchreibErkenner::NachByte(int stand, std::uint8_t byte) {
     if (byte != static_cast<std::uint8_t>(echo.at(stelle)))
         return Adresse;
     return stelle + 1 == echo.size() ? CrcLow : stand + 1;
+}
+
+std::size_t SchreibErkenner::BisCrc(int stand) const {
+    return static_cast<std::size_t>(ErstesEigenes - stand) + echo.size();
 }
 
 int IdentErkenner::NachByte(int stand, std::uint8_t byte) {
@@ -141,6 +163,13 @@ int IdentErkenner::NachFunktionscode(std::uint8_t byte) {
 
 int IdentErkenner::NachDatenbyte(int naechster) {
     return ++empfangen < erwartet ? naechster : CrcLow;
+}
+
+std::size_t IdentErkenner::BisCrc(int stand) const {
+    constexpr int Bytezahl = ErstesEigenes;
+    if (stand <= Bytezahl)
+        return static_cast<std::size_t>(Bytezahl + 1 - stand);
+    return static_cast<std::size_t>(erwartet - empfangen);
 }
 
 bool NimmIdentAntwort(std::string& strom) {

@@ -28,6 +28,9 @@ public:
     bool Fertig() const { return zustand == Ende; }
     /// Whether the received CRC is that of the received bytes; meaningful once Fertig.
     bool CrcStimmt() const;
+    /// How many bytes the reply is still short of at least, or how many could make it given up, whichever are
+    /// fewer. 0 at its end.
+    std::size_t MindestensNoch() const;
     /// Whether bytes followed the end of the reply.
     bool Ueberzaehlig() const { return ueberzaehlig; }
 
@@ -41,6 +44,8 @@ protected:
 
     /// The state after a byte in a state below CrcLow.
     virtual int NachByte(int stand, std::uint8_t byte) = 0;
+    /// How many bytes from a state below CrcLow on stand before the CRC at least, by what is known by then.
+    virtual std::size_t BisCrc(int stand) const = 0;
 
     /// Counts a rejected byte.
     void LehneAb() { ++abgelehnt; }
@@ -68,6 +73,7 @@ public:
 
 protected:
     int NachByte(int stand, std::uint8_t byte) override;
+    std::size_t BisCrc(int stand) const override;
 
 private:
     std::uint8_t adresse;
@@ -82,6 +88,7 @@ public:
 
 protected:
     int NachByte(int stand, std::uint8_t byte) override;
+    std::size_t BisCrc(int stand) const override;
 
 private:
     std::uint8_t adresse;
@@ -99,6 +106,7 @@ public:
 
 protected:
     int NachByte(int stand, std::uint8_t byte) override;
+    std::size_t BisCrc(int stand) const override;
 
 private:
     int NachFunktionscode(std::uint8_t byte);

@@ -1,11 +1,13 @@
 #include "schnittstelle.h"
 
 #include "leitungsstatistik.h"
+#include "leitungstakt.h"
 #include "startzustand.h"
 #include "trace.h"
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace varnoth::modSchnittstelle {
 
@@ -14,6 +16,7 @@ namespace {
 constexpr Zeit Sendepause = std::chrono::milliseconds(2);
 constexpr Zeit Ruhezeit = std::chrono::milliseconds(20); // USB adapters hand over every 16 ms
 constexpr Zeit LaengsteUnruhe = std::chrono::seconds(1);
+constexpr Zeit LaengstesLeeren = std::chrono::seconds(1);
 
 struct Zustand {
     std::int16_t comPort = 1;
@@ -22,6 +25,8 @@ struct Zustand {
     bool sollOffenSein = false;
     Zeit letzteAktivitaet{0};
     Zeit letzterEingang{0};
+    Leitungstakt takt;
+    bool gesendetSeitOeffnen = false;
 };
 
 Zustand zustand;
@@ -38,9 +43,26 @@ void MerkeAktivitaet() {
 }
 
 void OeffnePort() {
-    if (derPort != nullptr && !LiesOffenstand())
+    if (derPort != nullptr && !LiesOffenstand()) {
         derPort->Oeffne(zustand.comPort, zustand.comSettings);
+        zustand.takt.Stelle(zustand.comSettings);
+        zustand.gesendetSeitOeffnen = false;
+    }
     LiesOffenstand();
+}
+
+/// Waits until all that was sent has left: closing gives the line its former settings back, which cuts off or
+/// garbles what is still on its way. A system may call a frame sent that its adapter still holds, so its time
+/// on the line is waited for as well.
+void LeereSender() {
+    if (!std::exchange(zustand.gesendetSeitOeffnen, false))
+        return;
+    const Zeit spaetestens = DieUmgebung().Uhr() + LaengstesLeeren;
+    const Zeit ende = std::min(zustand.takt.Sendeende(), spaetestens);
+    for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < ende && LiesOffenstand(); jetzt = DieUmgebung().Uhr())
+        DieUmgebung().WarteAufEreignis(ende - jetzt);
+    if (LiesOffenstand())
+        derPort->LeereSender(std::max(spaetestens - DieUmgebung().Uhr(), Zeit{0}));
 }
 
 void SchlafeBisEingang(Zeit hoechstens) {
@@ -93,8 +115,10 @@ void OpenCommPort() {
 
 void CloseCommPort() {
     zustand.sollOffenSein = false;
-    if (derPort != nullptr && zustand.portIstOffen != False)
+    if (derPort != nullptr && zustand.portIstOffen != False) {
+        LeereSender();
         derPort->Schliesse();
+    }
     LiesOffenstand();
 }
 
@@ -146,6 +170,7 @@ std::string CommPortReadInput() {
     MerkeAktivitaet();
     if (!bytes.empty())
         zustand.letzterEingang = zustand.letzteAktivitaet;
+    zustand.takt.Empfangen(zustand.letzteAktivitaet, bytes.size());
     return bytes;
 }
 
@@ -155,6 +180,8 @@ void CommPortWriteOutput(std::string_view daten) {
     const Zeit frei = zustand.letzteAktivitaet + Sendepause;
     for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < frei; jetzt = DieUmgebung().Uhr())
         DieUmgebung().WarteAufEreignis(frei - jetzt);
+    zustand.takt.Gesendet(DieUmgebung().Uhr(), daten.size());
+    zustand.gesendetSeitOeffnen = true;
     derPort->Schreibe(daten);
     modTrace::SchreibeSendung(daten);
     modLeitungsstatistik::Gesendet(daten);
@@ -169,6 +196,12 @@ void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
     }
     if (AufZeichenWarten != True || CommPortBytesAvailable() == 0)
         MeldeZeitueberschreitung();
+}
+
+void WarteAufRest(std::size_t bytes) {
+    const Zeit dauer = zustand.takt.Schlafdauer(DieUmgebung().Uhr(), bytes);
+    if (dauer > Zeit{0} && LiesOffenstand())
+        derPort->Schlafe(dauer);
 }
 
 void WarteAufRuhe() {

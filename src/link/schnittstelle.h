@@ -3,6 +3,7 @@
 #include "boolean.h"
 #include "seriellerport.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -31,7 +32,7 @@ const std::string& GetComSettings();
 /// Closes, configures, opens and clears the port. A port that cannot be opened stays closed, without a
 /// message.
 void OpenCommPort();
-/// Closes the port.
+/// Closes the port once all that was sent has left it, which is waited for at most a second.
 void CloseCommPort();
 /// The port's open state as last read back from it.
 Boolean GetPortIstOffen();
@@ -55,6 +56,9 @@ std::string CommPortReadInput();
 /// Sends bytes, not earlier than 2 ms after the last clear or read. Nothing happens when the port is not
 /// open.
 void CommPortWriteOutput(std::string_view daten);
+/// Sleeps as long as, by the line's pace, so many further bytes of the reply cannot have arrived yet, at most
+/// until the window's turn. Returns at once where nothing is known of the pace.
+void WarteAufRest(std::size_t bytes);
 /// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
 /// asks CommPortBytesAvailable whether the time ran out.
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);

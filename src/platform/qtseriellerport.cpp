@@ -4,16 +4,18 @@
 #include "geraetepfade.h"
 #include "porteinstellungen.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <array>
+#include <thread>
 #include <utility>
 
 #ifdef Q_OS_UNIX
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 #include <unistd.h>
+
+#include <future>
 #endif
 
 namespace varnoth {
@@ -99,6 +101,23 @@ std::size_t SchreibeSofort([[maybe_unused]] QSerialPort& port, [[maybe_unused]] 
 #else
     return 0;
 #endif
+}
+
+/// Waits, serving events, until the driver has sent everything. The driver's own wait cannot be given a time;
+/// when that is up, dropping what is left ends it.
+bool LeereTreiber([[maybe_unused]] QSerialPort& port, [[maybe_unused]] Zeit ende) {
+#ifdef Q_OS_UNIX
+    constexpr Zeit Blick = std::chrono::milliseconds(1);
+    const auto warten = std::async(std::launch::async, [anschluss = port.handle()] { ::tcdrain(anschluss); });
+    while (warten.wait_for(Blick) != std::future_status::ready) {
+        DieUmgebung().NutzeWartezeit();
+        if (port.isOpen() && DieUmgebung().Uhr() >= ende) {
+            ::tcflush(port.handle(), TCOFLUSH);
+            return false;
+        }
+    }
+#endif
+    return true;
 }
 
 } // namespace
@@ -208,10 +227,9 @@ void QtSeriellerPort::Schreibe(std::string_view bytes) {
     SchaueNachDemFenster();
 }
 
-/// The window's turn to paint: no reply is due yet. What the first round sets, the second paints.
+/// The window's turn: the line is busy.
 void QtSeriellerPort::SchaueNachDemFenster() {
-    QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
+    DieUmgebung().NutzeWartezeit();
     naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
 }
 
@@ -226,6 +244,26 @@ void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
         SchaueNachDemFenster();
     if (port.isOpen() && BytesWartend() == 0)
         SchlafeAnDerLeitung(port, std::min(hoechstens, Fensterblick));
+}
+
+void QtSeriellerPort::Schlafe([[maybe_unused]] Zeit hoechstens) {
+#ifdef Q_OS_LINUX
+    const Zeit ende = DieUmgebung().Uhr() + hoechstens;
+    const Zeit bis = std::min(ende, naechsterFensterblick);
+    std::this_thread::sleep_for(bis - DieUmgebung().Uhr());
+    if (bis < ende)
+        SchaueNachDemFenster();
+#endif
+}
+
+bool QtSeriellerPort::LeereSender(Zeit hoechstens) {
+    const Zeit ende = DieUmgebung().Uhr() + hoechstens;
+    while (port.isOpen() && port.bytesToWrite() > 0) {
+        if (DieUmgebung().Uhr() >= ende)
+            return false;
+        DieUmgebung().WarteAufEreignis(ende - DieUmgebung().Uhr());
+    }
+    return !port.isOpen() || LeereTreiber(port, ende);
 }
 
 void QtSeriellerPort::SetzeEreignisbehandlung(std::function<void(int)> behandlung) {

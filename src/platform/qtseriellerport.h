@@ -23,6 +23,8 @@ public:
     std::string LiesAlles() override;
     void Schreibe(std::string_view bytes) override;
     void WarteAufEingang(Zeit hoechstens) override;
+    void Schlafe(Zeit hoechstens) override;
+    bool LeereSender(Zeit hoechstens) override;
     void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
 
 private:

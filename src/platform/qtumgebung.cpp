@@ -1,7 +1,5 @@
 #include "qtumgebung.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <thread>
 #include <utility>
@@ -30,8 +28,6 @@ void WeckePuenktlich() {
 } // namespace
 
 QtUmgebung::QtUmgebung() {
-    wecker.setSingleShot(true);
-    wecker.setTimerType(Qt::PreciseTimer);
     WeckePuenktlich();
     SetzeUmgebung(this);
 }
@@ -40,25 +36,27 @@ QtUmgebung::~QtUmgebung() {
     SetzeUmgebung(nullptr);
 }
 
-void QtUmgebung::BedieneEreignisse() {
-    QCoreApplication::processEvents();
+int QtUmgebung::LasseEreignisseLaufen() {
+    pumpe.LaufeOhneAufgeschobenes();
+    return formularzaehler ? formularzaehler() : 0;
 }
 
-int QtUmgebung::LasseEreignisseLaufen() {
-    BedieneEreignisse();
-    return formularzaehler ? formularzaehler() : 0;
+void QtUmgebung::NutzeWartezeit() {
+    pumpe.LaufeMitAllem();
+}
+
+void QtUmgebung::FuerWartezeit(std::function<void()> arbeit) {
+    pumpe.SchiebeAuf(std::move(arbeit));
 }
 
 void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
-        BedieneEreignisse();
+        pumpe.LaufeOhneAufgeschobenes();
         SchlafeBis(ende);
         return;
     }
-    wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    wecker.stop();
+    pumpe.WarteAufEreignis(hoechstens);
 }
 
 /// Sleeps a little shorter by what waking took lately, and watches the clock for the rest.

@@ -1,10 +1,8 @@
 #pragma once
 
+#include "ereignispumpe.h"
 #include "umgebung.h"
 
-#include <QTimer>
-
-#include <array>
 #include <functional>
 
 namespace varnoth {
@@ -16,6 +14,8 @@ public:
     ~QtUmgebung() override;
 
     int LasseEreignisseLaufen() override;
+    void NutzeWartezeit() override;
+    void FuerWartezeit(std::function<void()> arbeit) override;
     void WarteAufEreignis(Zeit hoechstens) override;
     Zeit Uhr() override;
     Antwort ZeigeMeldung(const Meldung& meldung) override;
@@ -29,15 +29,14 @@ public:
     void SetzeMeldungsweg(std::function<Antwort(const Meldung&)> weg);
 
 protected:
-    /// Runs the pending events that cannot wait.
-    virtual void BedieneEreignisse();
+    Ereignispumpe& Pumpe() { return pumpe; }
     /// Asks a person. Nobody is there without windows: the answer is that of a box that is closed.
     virtual Antwort Frage(const Meldung& meldung);
 
 private:
     void SchlafeBis(Zeit ende);
 
-    QTimer wecker;
+    Ereignispumpe pumpe;
     Zeit weckdauer{0};
     std::function<int()> formularzaehler;
     std::function<void(int, const std::string&)> statusanzeige;

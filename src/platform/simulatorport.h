@@ -29,6 +29,8 @@ public:
     std::string LiesAlles() override;
     void Schreibe(std::string_view bytes) override;
     void WarteAufEingang(Zeit hoechstens) override;
+    void Schlafe(Zeit /*hoechstens*/) override {}
+    bool LeereSender(Zeit /*hoechstens*/) override { return true; }
     void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
 
 private:

@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <utility>
+
 namespace varnoth {
 
 namespace {
@@ -34,9 +36,8 @@ void Ablaufdialog::Lade(QPushButton& abbrechen) {
 }
 
 void Ablaufdialog::Entlade() {
-    if (geladen)
+    if (std::exchange(geladen, false))
         modSchnittstelle::CloseCommPort();
-    geladen = false;
 }
 
 void Ablaufdialog::showEvent(QShowEvent* ereignis) {

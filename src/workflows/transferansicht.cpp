@@ -2,10 +2,10 @@
 
 #include "ablaufdialog.h"
 #include "feldtext.h"
+#include "umgebung.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QProgressBar>
 
 #include <utility>
@@ -13,9 +13,7 @@
 namespace varnoth {
 
 Transferansicht::Transferansicht(Ablaufdialog& ablaufdialog, const Transferfelder& transferfelder)
-    : dialog(ablaufdialog), felder(transferfelder) {
-    dialog.installEventFilter(this);
-}
+    : dialog(ablaufdialog), felder(transferfelder) {}
 
 Transferansicht::~Transferansicht() {
     Zeige();
@@ -48,15 +46,13 @@ void Transferansicht::ZeigeEnde(const std::string& text) {
     Zeige();
 }
 
-bool Transferansicht::eventFilter(QObject* /*ziel*/, QEvent* ereignis) {
-    if (ereignis->type() == QEvent::LayoutRequest)
-        Zeige();
-    return false;
-}
-
 void Transferansicht::ZeigeSpaeter() {
-    if (!std::exchange(ausstehend, true))
-        QCoreApplication::postEvent(&dialog, new QEvent(QEvent::LayoutRequest));
+    if (std::exchange(ausstehend, true))
+        return;
+    DieUmgebung().FuerWartezeit([diese = QPointer<Transferansicht>(this)] {
+        if (diese != nullptr)
+            diese->Zeige();
+    });
 }
 
 void Transferansicht::Zeige() {

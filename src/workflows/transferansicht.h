@@ -21,9 +21,9 @@ struct Transferfelder {
     QProgressBar* fortschritt;
 };
 
-/// Shows a transfer in the fields of its dialog and passes on the dialog's cancel. Steps are shown when the
-/// dialog next lays itself out, which waits until a request is under way: filling fields between a reply and
-/// the next request would make every transfer slower.
+/// Shows a transfer in the fields of its dialog and passes on the dialog's cancel. Steps are shown once a
+/// request is under way: filling fields between a reply and the next request would make every transfer
+/// slower.
 class Transferansicht : public QObject, public Transferanzeige {
 public:
     Transferansicht(Ablaufdialog& ablaufdialog, const Transferfelder& transferfelder);
@@ -34,7 +34,6 @@ public:
     void ZeigeFortschritt(int erledigt, int gesamt) override;
     void ZeigeEnde(const std::string& text) override;
     bool Abgebrochen() override;
-    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
 
 private:
     struct Stand {

@@ -1,5 +1,6 @@
 #include "malaufschub.h"
 
+#include "ereignispumpe.h"
 #include "fenstertest.h"
 
 #include <QDialog>
@@ -35,20 +36,21 @@ protected:
     }
 
     Malzaehler fenster;
-    Malaufschub aufschub;
+    Ereignispumpe pumpe;
+    Malaufschub aufschub{pumpe};
 };
 
 TEST_F(MalaufschubTest, Nothing_is_painted_while_pending_events_run) {
     fenster.update();
-    aufschub.LasseEreignisseLaufen();
+    pumpe.LaufeOhneAufgeschobenes();
     EXPECT_EQ(fenster.gemalt, 0);
 }
 
-TEST_F(MalaufschubTest, What_was_put_off_is_painted_once_by_the_next_events_that_run) {
+TEST_F(MalaufschubTest, What_was_put_off_is_painted_once_when_there_is_time) {
     fenster.update();
-    aufschub.LasseEreignisseLaufen();
-    aufschub.LasseEreignisseLaufen();
-    QCoreApplication::processEvents();
+    pumpe.LaufeOhneAufgeschobenes();
+    pumpe.LaufeOhneAufgeschobenes();
+    pumpe.LaufeMitAllem();
     EXPECT_EQ(fenster.gemalt, 1);
 }
 
@@ -56,7 +58,7 @@ TEST_F(MalaufschubTest, Other_events_run) {
     bool gelaufen = false;
     QMetaObject::invokeMethod(
         &fenster, [&] { gelaufen = true; }, Qt::QueuedConnection);
-    aufschub.LasseEreignisseLaufen();
+    pumpe.LaufeOhneAufgeschobenes();
     EXPECT_TRUE(gelaufen);
 }
 
@@ -66,9 +68,9 @@ TEST_F(MalaufschubTest, Layout_is_put_off_and_done_later) {
     rahmen->addWidget(inhalt);
     QCoreApplication::processEvents();
     inhalt->setMinimumHeight(fenster.height() + 50);
-    aufschub.LasseEreignisseLaufen();
+    pumpe.LaufeOhneAufgeschobenes();
     EXPECT_LT(fenster.height(), inhalt->minimumHeight());
-    QCoreApplication::processEvents();
+    pumpe.LaufeMitAllem();
     EXPECT_GE(fenster.height(), inhalt->minimumHeight());
 }
 
@@ -86,7 +88,7 @@ TEST_F(MalaufschubTest, A_dialog_that_opens_meanwhile_paints_as_ever) {
     QTimer::singleShot(10000, &dialog, &QDialog::reject);
     QMetaObject::invokeMethod(
         &fenster, [&] { dialog.exec(); }, Qt::QueuedConnection);
-    aufschub.LasseEreignisseLaufen();
+    pumpe.LaufeOhneAufgeschobenes();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
 }
 
@@ -98,8 +100,8 @@ TEST_F(MalaufschubTest, A_window_that_is_gone_is_not_painted) {
     QMetaObject::invokeMethod(
         anderes, [anderes] { delete anderes; }, Qt::QueuedConnection);
     fenster.update();
-    aufschub.LasseEreignisseLaufen();
-    QCoreApplication::processEvents();
+    pumpe.LaufeOhneAufgeschobenes();
+    pumpe.LaufeMitAllem();
     EXPECT_EQ(fenster.gemalt, 1);
 }
 

@@ -56,6 +56,11 @@ void Proberegler::WarteAufEingang(Zeit hoechstens) {
     umgebung.uhr = std::max(umgebung.uhr, naechstes);
 }
 
+void Proberegler::Schlafe(Zeit hoechstens) {
+    constexpr Zeit LaengsterSchlaf = std::chrono::milliseconds(4);
+    umgebung.uhr += std::min(hoechstens, LaengsterSchlaf);
+}
+
 void Proberegler::Schreibe(std::string_view bytes) {
     ++anforderungen;
     gelesen = 0;

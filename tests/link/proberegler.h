@@ -38,6 +38,8 @@ public:
     std::string LiesAlles() override;
     void Schreibe(std::string_view bytes) override;
     void WarteAufEingang(Zeit hoechstens) override;
+    void Schlafe(Zeit hoechstens) override;
+    bool LeereSender(Zeit) override { return true; }
     void SetzeEreignisbehandlung(std::function<void(int)>) override {}
 
     /// Asked for each request: what goes wrong with it.

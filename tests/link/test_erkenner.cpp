@@ -25,6 +25,18 @@ std::string IdentAntwort(const std::string& daten) {
     return MitPruefsumme(Bytes({9, 0x11, static_cast<int>(daten.size())}) + daten);
 }
 
+/// How many bytes the recogniser says are still to come at least, before each byte of the reply and at its
+/// end.
+std::vector<std::size_t> Ausstehende(Erkenner& erkenner, const std::string& antwort) {
+    std::vector<std::size_t> noch;
+    for (const char byte : antwort) {
+        noch.push_back(erkenner.MindestensNoch());
+        erkenner.Verarbeite(std::string(1, byte));
+    }
+    noch.push_back(erkenner.MindestensNoch());
+    return noch;
+}
+
 bool Gueltig(const Erkenner& erkenner) {
     return erkenner.Fertig() && erkenner.CrcStimmt();
 }
@@ -44,6 +56,33 @@ TEST(ErkennerTest, A_read_reply_is_recognised_whole_byte_by_byte_and_at_every_sp
     for (const char byte : antwort)
         EXPECT_TRUE(einzeln.Verarbeite(std::string(1, byte)));
     EXPECT_TRUE(Gueltig(einzeln));
+}
+
+TEST(ErkennerTest, It_is_known_at_every_byte_how_many_are_still_to_come_at_least) {
+    using Zahlen = std::vector<std::size_t>;
+    LeseErkenner lesen(Slave, 2);
+    EXPECT_EQ(Ausstehende(lesen, LeseAntwort()), (Zahlen{9, 8, 7, 6, 5, 4, 3, 2, 1, 0}));
+    SchreibErkenner schreiben(Slave, 0x4084, 1);
+    EXPECT_EQ(Ausstehende(schreiben, SchreibAntwort()), (Zahlen{8, 7, 6, 5, 4, 3, 2, 1, 0}));
+    Identifikation ident;
+    IdentErkenner identifizieren(ident);
+    EXPECT_EQ(Ausstehende(identifizieren, IdentAntwort("abc")), (Zahlen{5, 4, 3, 5, 4, 3, 2, 1, 0}))
+        << "the count tells the length";
+}
+
+TEST(ErkennerTest, A_long_reply_may_be_given_up_long_before_its_end) {
+    LeseErkenner erkenner(Slave, 32);
+    EXPECT_EQ(erkenner.MindestensNoch(), 11U);
+    erkenner.Verarbeite(std::string(4, '\x7F'));
+    EXPECT_EQ(erkenner.MindestensNoch(), 7U);
+    erkenner.Verarbeite(Bytes({Slave, 3, 64}));
+    EXPECT_EQ(erkenner.MindestensNoch(), 66U) << "its head is there: every further byte is taken";
+}
+
+TEST(ErkennerTest, A_reply_that_turns_out_foreign_is_awaited_anew) {
+    LeseErkenner erkenner(Slave, 2);
+    erkenner.Verarbeite(Bytes({Slave, 0x83}));
+    EXPECT_EQ(erkenner.MindestensNoch(), 9U);
 }
 
 TEST(ErkennerTest, A_read_reply_that_lacks_its_last_byte_is_not_finished) {

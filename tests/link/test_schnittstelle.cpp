@@ -165,6 +165,47 @@ TEST_F(SchnittstelleTest, The_trace_has_a_clear_a_sent_frame_what_was_read_and_a
     std::filesystem::remove(datei);
 }
 
+TEST_F(SchnittstelleTest, Closing_waits_until_what_was_sent_has_left_the_line_and_the_system) {
+    SetzeComSettings("1200,n,8,2");
+    OpenCommPort();
+    umgebung.uhr += 5ms;
+    const Zeit gesendet = umgebung.uhr;
+    CommPortWriteOutput("1234");
+    CloseCommPort();
+    ASSERT_EQ(port.geleert.size(), 1U);
+    EXPECT_EQ((port.geleert[0].first - gesendet) / 1ms, 36) << "four characters of eleven bits";
+    EXPECT_EQ(port.geschlossen, 1);
+    EXPECT_EQ(port.geschlossenUm, port.geleert[0].first);
+}
+
+TEST_F(SchnittstelleTest, Closing_waits_for_what_was_sent_a_second_at_most) {
+    SetzeComSettings("110,n,8,2");
+    OpenCommPort();
+    umgebung.uhr += 5ms;
+    const Zeit gesendet = umgebung.uhr;
+    CommPortWriteOutput(std::string(100, 'x'));
+    CloseCommPort();
+    EXPECT_EQ(umgebung.uhr - gesendet, 1s);
+    ASSERT_EQ(port.geleert.size(), 1U);
+    EXPECT_EQ(port.geleert[0].second, 0s) << "nothing is left for the system";
+    EXPECT_EQ(GetPortIstOffen(), False);
+}
+
+TEST_F(SchnittstelleTest, Closing_a_port_over_which_nothing_was_sent_waits_for_nothing) {
+    OpenCommPort();
+    const Zeit davor = umgebung.uhr;
+    CloseCommPort();
+    EXPECT_EQ(umgebung.uhr, davor);
+    EXPECT_TRUE(port.geleert.empty());
+}
+
+TEST_F(SchnittstelleTest, Opening_anew_waits_for_what_was_sent_before) {
+    OpenCommPort();
+    CommPortWriteOutput("1234");
+    OpenCommPort();
+    EXPECT_EQ(port.geleert.size(), 1U);
+}
+
 TEST_F(SchnittstelleTest, An_overflow_of_the_receive_buffer_discards_the_input) {
     OpenCommPort();
     port.eingang = "too much";

@@ -22,6 +22,7 @@ protected:
         ASSERT_EQ(RTUModeH11IndentifikationsAnforderung(), True);
         port.antworte = nullptr;
         port.gesendet.clear();
+        umgebung.uhr += 10ms; // the request has left
     }
     void AntworteMit(std::vector<Stueck> stuecke) {
         port.antworte = [stuecke](const std::string&) { return stuecke; };
@@ -54,6 +55,32 @@ TEST_F(TransaktionenTest, A_reply_in_pieces_with_gaps_under_one_second_is_assemb
     Werte werte(1);
     EXPECT_EQ(RTUModeH03LeseAnforderung(0, 1, werte), True);
     EXPECT_EQ(werte, (Werte{0x1234}));
+}
+
+TEST_F(TransaktionenTest, A_reply_at_the_lines_pace_is_looked_for_when_it_begins_and_when_it_can_end) {
+    Identifiziere();
+    constexpr Zeit Zeichen = 287us; // eleven bits at 38400 baud
+    constexpr int Anforderung = 8;
+    const std::string antwort = MitPruefsumme(Bytes({1, 3, 64}) + std::string(64, '\x5A'));
+    std::vector<Stueck> stuecke;
+    for (int i = 0; i < static_cast<int>(antwort.size()); ++i)
+        stuecke.push_back({(Anforderung + 1 + i) * Zeichen, antwort.substr(static_cast<std::size_t>(i), 1)});
+    AntworteMit(stuecke);
+    Werte werte(32);
+    umgebung.gewartet.clear();
+    EXPECT_EQ(RTUModeH03LeseAnforderung(0x2000, 32, werte), True);
+    EXPECT_EQ(umgebung.uhr - port.sendezeiten.back(), stuecke.back().nach) << "it ends with its last byte";
+    EXPECT_LE(umgebung.gewartet.size() + port.geschlafen.size(), 15U) << "not once for each of 69 bytes";
+}
+
+TEST_F(TransaktionenTest, A_reply_at_the_lines_pace_that_stops_ends_a_second_after_its_last_byte) {
+    Identifiziere();
+    AntworteMit({{4ms, Bytes({1, 3, 64})}, {5ms, Bytes({0})}});
+    Werte werte(32);
+    EXPECT_EQ(RTUModeH03LeseAnforderung(0x2000, 32, werte), False);
+    const Zeit gedauert = umgebung.uhr - port.sendezeiten.back();
+    EXPECT_GE(gedauert, 5ms + 1000ms);
+    EXPECT_LE(gedauert, 5ms + 1000ms + 5ms);
 }
 
 TEST_F(TransaktionenTest, A_second_of_silence_inside_a_reply_ends_the_transaction) {
@@ -203,12 +230,13 @@ TEST_F(TransaktionenTest, Without_an_identification_no_wrapper_sends_anything) {
     EXPECT_TRUE(port.gesendet.empty());
 }
 
-TEST_F(TransaktionenTest, The_command_frame_is_sent_without_waiting_for_an_answer) {
+TEST_F(TransaktionenTest, The_command_frame_is_waited_for_until_it_has_left_and_no_longer) {
     Identifiziere();
     const Zeit davor = umgebung.uhr;
     EXPECT_EQ(SendeFunktion09Kommando(), True);
     EXPECT_EQ(port.gesendet.at(0), MitPruefsumme(Bytes({1, 9})));
-    EXPECT_EQ(umgebung.uhr - davor, 2ms);
+    EXPECT_EQ(umgebung.uhr - davor, 2ms + 1146us) << "four characters of eleven bits";
+    EXPECT_EQ(port.geleert.back().first, port.geschlossenUm);
     EXPECT_FALSE(port.offen);
 }
 

@@ -148,6 +148,44 @@ TEST_F(QtSeriellerPortTest, Window_events_are_served_while_bytes_keep_arriving) 
     EXPECT_TRUE(gelaufen);
 }
 
+TEST_F(QtSeriellerPortTest, A_sleep_passes_over_bytes_that_arrive) {
+    port.Oeffne(1, Standard);
+    port.Schreibe("request");
+    Sende("x");
+    const Zeit beginn = umgebung.Uhr();
+    port.Schlafe(2ms);
+    EXPECT_GE(umgebung.Uhr() - beginn, 2ms);
+}
+
+TEST_F(QtSeriellerPortTest, A_sleep_ends_with_the_windows_turn) {
+    port.Oeffne(1, Standard);
+    port.Schreibe("request");
+    Sende("x");
+    bool gelaufen = false;
+    QTimer::singleShot(0, [&gelaufen] { gelaufen = true; });
+    const Zeit beginn = umgebung.Uhr();
+    port.Schlafe(10s);
+    EXPECT_TRUE(gelaufen);
+    EXPECT_LT(umgebung.Uhr() - beginn, 5s);
+}
+
+TEST_F(QtSeriellerPortTest, What_was_put_off_is_done_once_a_request_is_out) {
+    port.Oeffne(1, Standard);
+    bool gelaufen = false;
+    umgebung.FuerWartezeit([&gelaufen] { gelaufen = true; });
+    umgebung.LasseEreignisseLaufen();
+    EXPECT_FALSE(gelaufen);
+    port.Schreibe("request");
+    EXPECT_TRUE(gelaufen);
+}
+
+TEST_F(QtSeriellerPortTest, A_sender_whose_bytes_have_left_is_empty) {
+    EXPECT_TRUE(port.LeereSender(1s)) << "a closed one has nothing to send";
+    port.Oeffne(1, Standard);
+    port.Schreibe("request");
+    EXPECT_TRUE(port.LeereSender(1s));
+}
+
 TEST_F(QtSeriellerPortTest, Discarding_leaves_nothing_to_read) {
     port.Oeffne(1, Standard);
     Sende("old");

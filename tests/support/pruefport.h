@@ -33,6 +33,7 @@ public:
     }
     void Schliesse() override {
         ++geschlossen;
+        geschlossenUm = umgebung.uhr;
         offen = false;
     }
     bool IstOffen() override { return offen; }
@@ -55,6 +56,7 @@ public:
     void Schreibe(std::string_view bytes) override {
         gesendet.emplace_back(bytes);
         sendezeiten.push_back(umgebung.uhr);
+        umgebung.ErledigeAufgeschobenes(); // the line is busy
         if (!antworte)
             return;
         for (auto& stueck : antworte(std::string(bytes)))
@@ -65,6 +67,15 @@ public:
         const bool kommtEtwas = !unterwegs.empty() && unterwegs.begin()->first <= ende;
         umgebung.WarteAufEreignis(kommtEtwas ? unterwegs.begin()->first - umgebung.uhr : hoechstens);
     }
+    void Schlafe(Zeit hoechstens) override {
+        constexpr Zeit Fensterblick = std::chrono::milliseconds(4);
+        geschlafen.push_back(std::min(hoechstens, Fensterblick));
+        umgebung.uhr += geschlafen.back();
+    }
+    bool LeereSender(Zeit hoechstens) override {
+        geleert.emplace_back(umgebung.uhr, hoechstens);
+        return true;
+    }
     void SetzeEreignisbehandlung(std::function<void(int)> behandlung) override {
         ereignisbehandlung = std::move(behandlung);
     }
@@ -74,11 +85,14 @@ public:
     Anschluss anschluss{.geraet = "/dev/pruefung"};
     Portbefund befund;
     int geschlossen = 0;
+    Zeit geschlossenUm{0};
     int verworfen = 0;
     std::string eingang;
     std::vector<std::pair<int, std::string>> geoeffnet;
     std::vector<std::string> gesendet;
     std::vector<Zeit> sendezeiten;
+    std::vector<Zeit> geschlafen;
+    std::vector<std::pair<Zeit, Zeit>> geleert; ///< when it was waited for, and for how long at most
     std::function<std::vector<Stueck>(const std::string& anforderung)> antworte;
     std::function<void(int)> ereignisbehandlung;
 

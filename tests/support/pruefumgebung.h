@@ -27,6 +27,11 @@ public:
             beiEreignissen();
         return offeneFormulare;
     }
+    void NutzeWartezeit() override {
+        ErledigeAufgeschobenes();
+        LasseEreignisseLaufen();
+    }
+    void FuerWartezeit(std::function<void()> arbeit) override { aufgeschobenes.push_back(std::move(arbeit)); }
     /// Time passes at once: to the end of the wait, or up to the next planned event.
     void WarteAufEreignis(Zeit hoechstens) override {
         gewartet.push_back(hoechstens);
@@ -55,6 +60,12 @@ public:
         statustexte.at(static_cast<std::size_t>(feld - 1)) = text;
     }
 
+    /// Does what was put off until the line is busy, and nothing else.
+    void ErledigeAufgeschobenes() {
+        for (const auto& arbeit : std::exchange(aufgeschobenes, {}))
+            arbeit();
+    }
+
     /// Something that happens while the code under test waits, at a time of the clock.
     void Plane(Zeit wann, std::function<void()> was) { geplant.emplace(wann, std::move(was)); }
 
@@ -67,6 +78,7 @@ public:
     std::array<std::string, 3> statustexte;
     std::multimap<Zeit, std::function<void()>> geplant;
     std::function<void()> beiEreignissen;
+    std::vector<std::function<void()>> aufgeschobenes;
     std::function<void(const Meldung&)> beiMeldung;
 };
 

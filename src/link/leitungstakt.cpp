@@ -1,0 +1,54 @@
+#include "leitungstakt.h"
+
+#include "porteinstellungen.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace varnoth {
+
+namespace {
+
+constexpr double MikrosekundenJeSekunde = 1e6;
+constexpr double Ganggenauigkeit = 0.97; // the other side's clock may run so much faster
+constexpr std::size_t Vorsicht = 2;      // characters before the last one that are waited for awake
+constexpr Zeit KuerzesterSchlaf = std::chrono::microseconds(100); // waking takes about as long
+
+} // namespace
+
+void Leitungstakt::Stelle(std::string_view porteinstellungen) {
+    *this = {};
+    if (const auto gelesen = LiesPorteinstellungen(porteinstellungen))
+        zeichendauer = MikrosekundenJeSekunde * Bitzeiten(*gelesen) / gelesen->baud;
+}
+
+Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
+    return std::chrono::ceil<Zeit>(
+        std::chrono::duration<double, Zeit::period>(zeichendauer * static_cast<double>(zeichen)));
+}
+
+void Leitungstakt::Gesendet(Zeit wann, std::size_t zeichen) {
+    sendeende = std::max(sendeende, wann) + Dauer(zeichen);
+    sendebeginn = wann;
+    gesendet = zeichen;
+    empfangen = 0;
+    schneller = false;
+}
+
+void Leitungstakt::Empfangen(Zeit wann, std::size_t zeichen) {
+    if (zeichen == 0)
+        return;
+    empfangen += zeichen;
+    letzterEingang = wann;
+    // Nothing of a reply can be there before the request and so much of the reply have passed the line.
+    schneller = schneller || wann - sendebeginn < Dauer(gesendet + empfangen) * Ganggenauigkeit;
+}
+
+Zeit Leitungstakt::Schlafdauer(Zeit jetzt, std::size_t fehlende) const {
+    if (schneller || empfangen == 0 || fehlende <= Vorsicht)
+        return Zeit{0};
+    const auto bis = letzterEingang + std::chrono::floor<Zeit>(Dauer(fehlende - Vorsicht) * Ganggenauigkeit);
+    return bis - jetzt < KuerzesterSchlaf ? Zeit{0} : bis - jetzt;
+}
+
+} // namespace varnoth

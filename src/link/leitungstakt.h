@@ -1,0 +1,40 @@
+#pragma once
+
+#include "umgebung.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace varnoth {
+
+/// The pace of the line: when a request has left, and for how long the rest of its reply cannot be there yet.
+/// A line that was seen to be faster than its settings say (a pseudo terminal) has no pace until the next
+/// request.
+class Leitungstakt {
+public:
+    /// Sets the line's speed and format by a port settings string; one that cannot be read means no pace.
+    void Stelle(std::string_view porteinstellungen);
+    /// A request of so many characters was handed to the port.
+    void Gesendet(Zeit wann, std::size_t zeichen);
+    /// So many characters came out of the port, all that were there at that time.
+    void Empfangen(Zeit wann, std::size_t zeichen);
+
+    /// When the last character handed over has left, reckoned at the line's pace.
+    Zeit Sendeende() const { return sendeende; }
+    /// How long nothing needs looking for while so many characters of the reply are missing. 0 until the
+    /// first has come, and shortly before the last can.
+    Zeit Schlafdauer(Zeit jetzt, std::size_t fehlende) const;
+
+private:
+    Zeit Dauer(std::size_t zeichen) const;
+
+    double zeichendauer = 0; ///< microseconds; 0: no pace
+    Zeit sendebeginn{0};
+    Zeit sendeende{0};
+    Zeit letzterEingang{0};
+    std::size_t empfangen = 0; ///< since the request
+    std::size_t gesendet = 0;  ///< characters of the request
+    bool schneller = false;
+};
+
+} // namespace varnoth

@@ -1,0 +1,73 @@
+#include "leitungstakt.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr Zeit Zeichen = 1000us; // 10 bits at 10000 baud
+constexpr std::size_t Anforderung = 8;
+
+} // namespace
+
+class LeitungstaktTest : public testing::Test {
+protected:
+    LeitungstaktTest() {
+        takt.Stelle("10000,n,8,1");
+        takt.Gesendet(0us, Anforderung);
+    }
+    /// The first of the reply's characters, as early as a line in order can bring it.
+    void BringeErstes() { takt.Empfangen((Anforderung + 1) * Zeichen, 1); }
+
+    Leitungstakt takt;
+};
+
+TEST_F(LeitungstaktTest, A_request_has_left_after_the_time_of_its_characters) {
+    EXPECT_EQ(takt.Sendeende(), 8ms);
+    takt.Gesendet(5ms, 2);
+    EXPECT_EQ(takt.Sendeende(), 10ms) << "behind the one that was still leaving";
+    takt.Gesendet(50ms, 2);
+    EXPECT_EQ(takt.Sendeende(), 52ms);
+}
+
+TEST_F(LeitungstaktTest, Before_the_first_character_nothing_is_known) {
+    EXPECT_EQ(takt.Schlafdauer(1ms, 40), 0us);
+}
+
+TEST_F(LeitungstaktTest, The_rest_needs_its_time_on_the_line_and_is_awaited_a_little_early) {
+    BringeErstes();
+    const Zeit jetzt = (Anforderung + 1) * Zeichen;
+    EXPECT_GT(takt.Schlafdauer(jetzt, 40), 36ms);
+    EXPECT_LE(takt.Schlafdauer(jetzt, 40), 38ms);
+    EXPECT_EQ(takt.Schlafdauer(jetzt, 40) - takt.Schlafdauer(jetzt + 10ms, 40), 10ms);
+    EXPECT_EQ(takt.Schlafdauer(jetzt + 40ms, 40), 0us);
+    EXPECT_EQ(takt.Schlafdauer(jetzt, 2), 0us);
+}
+
+TEST_F(LeitungstaktTest, A_line_that_is_faster_than_its_settings_has_no_pace_until_the_next_request) {
+    takt.Empfangen(3ms, 1);
+    EXPECT_EQ(takt.Schlafdauer(3ms, 40), 0us);
+    takt.Empfangen(30ms, 1);
+    EXPECT_EQ(takt.Schlafdauer(30ms, 40), 0us);
+    takt.Gesendet(100ms, Anforderung);
+    takt.Empfangen(109ms, 1);
+    EXPECT_GT(takt.Schlafdauer(109ms, 40), 30ms);
+}
+
+TEST_F(LeitungstaktTest, Many_characters_at_once_tell_a_fast_line_too) {
+    takt.Empfangen((Anforderung + 1) * Zeichen, 12);
+    EXPECT_EQ(takt.Schlafdauer((Anforderung + 1) * Zeichen, 40), 0us);
+}
+
+TEST_F(LeitungstaktTest, Settings_that_cannot_be_read_give_no_pace) {
+    takt.Stelle("fast");
+    takt.Gesendet(0us, Anforderung);
+    takt.Empfangen(20ms, 1);
+    EXPECT_EQ(takt.Schlafdauer(20ms, 40), 0us);
+    EXPECT_EQ(takt.Sendeende(), 0us);
+}
+
+} // namespace varnoth
