@@ -3,7 +3,7 @@
 #include "boolean.h"
 #include "eingabedialog.h"
 
-#include <QVariantList>
+#include <QVariantMap>
 
 #include <array>
 #include <functional>
@@ -67,7 +67,7 @@ private:
     std::array<Optikseite*, 4> optikseiten;
     Untereditoren untereditoren;
     Editorumfeld umfeld;
-    QVariantList anfangsstand; ///< what the controls held when they were filled
+    QVariantMap anfangsstand; ///< what the controls held when they were filled
     Boolean DownloadAngefordert = False;
     bool angestossen = false;
     bool sucht = false;
