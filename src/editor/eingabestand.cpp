@@ -6,14 +6,16 @@
 
 namespace varnoth {
 
-QVariantList EingabestandVon(const QWidget& element) {
-    QVariantList stand;
+// By name, since the order of children changes whenever a page comes to the front.
+QVariantMap EingabestandVon(const QWidget& element) {
+    QVariantMap stand;
     for (const auto* const box : element.findChildren<QComboBox*>())
-        stand += box->currentIndex();
+        stand[box->objectName()] = box->currentIndex();
     for (const auto* const knopf : element.findChildren<QAbstractButton*>())
-        stand += knopf->isChecked();
+        if (!knopf->objectName().isEmpty())
+            stand[knopf->objectName()] = knopf->isChecked();
     for (const auto* const feld : element.findChildren<QLineEdit*>())
-        stand += feld->text();
+        stand[feld->objectName()] = feld->text();
     return stand;
 }
 

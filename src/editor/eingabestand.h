@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QVariantList>
+#include <QVariantMap>
 
 class QWidget;
 
 namespace varnoth {
 
-/// What the controls below an element hold: selections, checks and texts, in a fixed order. Two of them
-/// differ when the user has changed something between.
-QVariantList EingabestandVon(const QWidget& element);
+/// What the named controls below an element hold: selections, checks and texts, by the controls' names. Two
+/// of them differ when the user has changed something between.
+QVariantMap EingabestandVon(const QWidget& element);
 
 } // namespace varnoth

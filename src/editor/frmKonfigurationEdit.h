@@ -3,7 +3,7 @@
 #include "boolean.h"
 #include "eingabedialog.h"
 
-#include <QVariantList>
+#include <QVariantMap>
 
 #include <array>
 #include <functional>
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<Ui::frmKonfigurationEdit> ui;
     std::array<Optikseite*, 4> optikseiten;
     Editorumfeld umfeld;
-    QVariantList anfangsstand; ///< what the controls held when they were filled
+    QVariantMap anfangsstand; ///< what the controls held when they were filled
     Boolean DownloadAngefordert = False;
     bool angestossen = false;
     bool sucht = false;

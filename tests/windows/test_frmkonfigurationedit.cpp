@@ -679,6 +679,18 @@ TEST_F(KonfigurationEditTest, Every_kind_of_change_makes_Escape_and_the_close_bo
         }
 }
 
+TEST_F(KonfigurationEditTest, Looking_at_every_page_changes_nothing) {
+    Zeige();
+    auto& reiter = K<QTabWidget>("tbsOptions");
+    for (const int seite : {3, 1, 5, 0, 2}) {
+        reiter.setCurrentIndex(seite);
+        QCoreApplication::processEvents();
+    }
+    Druecke(*dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
 TEST_F(KonfigurationEditTest, The_cancel_button_and_unchanged_controls_close_without_a_question) {
     Zeige();
     Druecke(*dialog, Qt::Key_Escape);
