@@ -8,6 +8,7 @@
 #include "konfigurationsdatei.h"
 #include "letztedateien.h"
 #include "pruefgeraet.h"
+#include "qttexte.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
