@@ -11,15 +11,20 @@ int Passende(int gewuenscht, int laenge, int kleinste) {
     return std::clamp(laenge / std::max(kleinste, 1), 1, gewuenscht);
 }
 
+int Aufgerundet(int zaehler, int nenner) {
+    return (zaehler + nenner - 1) / nenner;
+}
+
 } // namespace
 
 std::vector<QRect> OrdneAn(Anordnung art, int anzahl, QSize flaeche, QSize kleinste) {
     if (anzahl < 1)
         return {};
     const bool inSpalten = art == Anordnung::Nebeneinander;
-    const int fest = inSpalten ? Passende(anzahl, flaeche.width(), kleinste.width())
-                               : Passende(anzahl, flaeche.height(), kleinste.height());
-    const int quer = (anzahl + fest - 1) / fest;
+    const int hoechstens = inSpalten ? Passende(anzahl, flaeche.width(), kleinste.width())
+                                     : Passende(anzahl, flaeche.height(), kleinste.height());
+    const int quer = Aufgerundet(anzahl, hoechstens);
+    const int fest = Aufgerundet(anzahl, quer);
     const QSize raster = inSpalten ? QSize(fest, quer) : QSize(quer, fest);
     const QSize ganze(std::max(flaeche.width(), raster.width() * kleinste.width()),
                       std::max(flaeche.height(), raster.height() * kleinste.height()));

@@ -13,14 +13,17 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -228,6 +231,16 @@ TEST_F(AnwendungTest, With_the_simulator_switch_every_port_leads_to_the_simulate
     anwendung->Runde();
     EXPECT_EQ(feld.text(), "Simulated controller");
     EXPECT_TRUE(fenster.findChild<QAction*>("mnuCom_2")->isChecked());
+}
+
+TEST_F(AnwendungTest, A_dialog_larger_than_the_screen_scrolls) {
+    EXPECT_TRUE(Mit({}).Starte());
+    QDialog dialog;
+    (new QVBoxLayout(&dialog))->addWidget(new QLabel);
+    dialog.findChild<QLabel*>()->setMinimumSize(5000, 5000);
+    dialog.show();
+    EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height());
+    EXPECT_NE(dialog.findChild<QScrollArea*>("Dialogrollbereich"), nullptr);
 }
 
 TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {

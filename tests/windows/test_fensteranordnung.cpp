@@ -20,6 +20,12 @@ TEST(Fensteranordnung, A_narrow_area_gets_more_rows) {
               (std::vector<QRect>{{0, 0, 250, 300}, {250, 0, 250, 300}, {0, 300, 250, 300}}));
 }
 
+TEST(Fensteranordnung, Rows_are_as_even_as_the_number_allows) {
+    EXPECT_EQ(
+        OrdneAn(Anordnung::Nebeneinander, 4, {800, 600}, {227, 230}),
+        (std::vector<QRect>{{0, 0, 400, 300}, {400, 0, 400, 300}, {0, 300, 400, 300}, {400, 300, 400, 300}}));
+}
+
 TEST(Fensteranordnung, A_low_area_gets_more_columns) {
     EXPECT_EQ(OrdneAn(Anordnung::Untereinander, 2, {600, 300}, {227, 230}),
               (std::vector<QRect>{{0, 0, 300, 300}, {300, 0, 300, 300}}));

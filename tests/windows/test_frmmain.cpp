@@ -785,6 +785,18 @@ TEST_F(FrmMainTest, A_click_on_a_file_used_last_loads_it) {
     EXPECT_TRUE(Fenster().Fenster(0).isVisible());
 }
 
+TEST_F(FrmMainTest, At_the_first_start_the_window_lies_inside_the_work_area) {
+    einstellungen.texte[{"MDIForm", "Left"}] = "11000";
+    EXPECT_TRUE(Fenster().screen()->availableGeometry().contains(Fenster().frameGeometry()));
+}
+
+TEST_F(FrmMainTest, A_place_that_was_stored_is_kept_even_where_it_leaves_the_work_area) {
+    einstellungen.texte[{"MDIForm", "Left"}] = "9000";
+    einstellungen.texte[{"MDIForm", "Width"}] = "6000";
+    EXPECT_EQ(Fenster().x(), 600);
+    EXPECT_EQ(Fenster().width(), 400);
+}
+
 TEST_F(FrmMainTest, The_first_views_leave_the_window_inside_the_work_area) {
     SchliesseAn({32, 64, 96, 128});
     Fenster().move(600, 500);
