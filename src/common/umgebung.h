@@ -23,6 +23,8 @@ struct Meldung {
     std::string titel{};
     Symbol symbol = Symbol::Warnung;
     Knoepfe knoepfe = Knoepfe::Ok;
+    std::string informativtext{}; ///< below the text; empty: none
+    std::string details{};        ///< shown when asked for; empty: none
 
     bool operator==(const Meldung&) const = default;
 };

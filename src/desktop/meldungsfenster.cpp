@@ -3,6 +3,7 @@
 #include "fenstervorn.h"
 #include "texte.h"
 
+#include <QLabel>
 #include <QMessageBox>
 
 #include <utility>
@@ -49,7 +50,11 @@ Antwort ZeigeMeldungsfenster(const Meldung& meldung) {
     QMessageBox fenster(AlsIcon(meldung.symbol), QString::fromStdString(titel),
                         QString::fromStdString(meldung.text), AlsButtons(meldung.knoepfe), FensterVorn());
     fenster.setObjectName(QStringLiteral("Meldungsfenster"));
+    fenster.setInformativeText(QString::fromStdString(meldung.informativtext));
+    fenster.setDetailedText(QString::fromStdString(meldung.details));
     fenster.setTextFormat(Qt::PlainText);
+    for (QLabel* beschriftung : fenster.findChildren<QLabel*>())
+        beschriftung->setTextFormat(Qt::PlainText);
     return AlsAntwort(fenster.exec());
 }
 

@@ -7,6 +7,7 @@
 #include "schnittstelle.h"
 #include "texte.h"
 #include "transaktionen.h"
+#include "verbindungsauskunft.h"
 
 #include <algorithm>
 #include <array>
@@ -44,7 +45,8 @@ PollingZiel* dasZiel = nullptr;
 void MeldeVerlust() {
     zustand.verloren = true;
     dasZiel->AktualisiereGeraetestatus();
-    ZeigeWarnung(LadeText(TextVerbindungUnterbrochen), LadeText(TextAchtung));
+    DieUmgebung().ZeigeMeldung(
+        MeldungOhneVerbindung(LadeText(TextVerbindungUnterbrochen), LadeText(TextAchtung)));
 }
 
 void MeldeRueckkehr() {

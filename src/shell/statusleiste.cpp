@@ -1,6 +1,7 @@
 #include "statusleiste.h"
 
 #include "geraetepfade.h"
+#include "kurzlabel.h"
 #include "schnittstelle.h"
 #include "texte.h"
 #include "umgebung.h"
@@ -19,7 +20,7 @@ constexpr std::int16_t TextOhneAnschluss = 9221;
 
 Statusleiste::Statusleiste(QStatusBar& leiste) {
     for (std::size_t i = 0; i < felder.size(); ++i) {
-        auto* feld = new QLabel(&leiste);
+        auto* feld = new Kurzlabel(&leiste);
         feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
         feld->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         leiste.addPermanentWidget(feld, 1);
@@ -31,6 +32,8 @@ void Statusleiste::Zeige(int feld, const std::string& text) {
     QLabel& anzeige = *felder.at(static_cast<std::size_t>(feld - 1));
     if (const QString neu = QString::fromStdString(text); anzeige.text() != neu)
         anzeige.setText(neu);
+    if (feld == FeldMeldungen)
+        anzeige.setToolTip(anzeige.text());
 }
 
 void Statusleiste::ZeigePort() {

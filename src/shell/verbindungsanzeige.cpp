@@ -19,6 +19,7 @@ namespace varnoth {
 namespace {
 
 constexpr int TaktMs = 250;
+constexpr int Zustandszeichen = 26; // the seconds of a wait are in view, the figures go first
 constexpr std::int16_t TextStart = 9118;
 constexpr std::int16_t TextStartHinweis = 9119;
 
@@ -70,8 +71,9 @@ void SetzeHinweis(QWidget& stelle, const std::string& text) {
 } // namespace
 
 Verbindungsanzeige::Verbindungsanzeige(QStatusBar& leiste, const std::function<void()>& starte)
-    : QWidget(&leiste), symbol(new Verbindungssymbol(this)), zustandstext(new Kurzlabel(this)),
-      zahlen(new Kurzlabel(this)), start(new QPushButton(this)) {
+    : QWidget(&leiste), symbol(new Verbindungssymbol(this)),
+      zustandstext(new Kurzlabel(this, Zustandszeichen)), zahlen(new Kurzlabel(this)),
+      start(new QPushButton(this)) {
     setObjectName(QStringLiteral("Verbindungsanzeige"));
     symbol->setObjectName(QStringLiteral("symVerbindung"));
     zustandstext->setObjectName(QStringLiteral("lblVerbindung"));
