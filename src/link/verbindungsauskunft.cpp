@@ -103,9 +103,9 @@ std::string Zaehlung() {
     const auto Zahl = [&](Austauschende ende) {
         return std::to_string(anzahl.at(static_cast<std::size_t>(ende)));
     };
-    return LadeTextMit(TextZaehlung,
-                       {Zahl(Austauschende::Gelungen), Zahl(Austauschende::KeinPort), Zahl(Austauschende::Stille),
-                        Zahl(Austauschende::Unverstanden), Zahl(Austauschende::Echo)});
+    return LadeTextMit(TextZaehlung, {Zahl(Austauschende::Gelungen), Zahl(Austauschende::KeinPort),
+                                      Zahl(Austauschende::Stille), Zahl(Austauschende::Unverstanden),
+                                      Zahl(Austauschende::Echo)});
 }
 
 } // namespace
@@ -114,9 +114,8 @@ Verbindungsauskunft LiesVerbindungsauskunft() {
     const Anschluss anschluss = modSchnittstelle::GetAnschluss();
     const Portbefund befund = modSchnittstelle::GetPortbefund();
     const std::string zeile = Anschlusszeile(anschluss);
-    return {.anschluss = zeile,
-            .ursache = Ursache(anschluss, befund),
-            .einzelheiten = zeile + "\n" + Zaehlung()};
+    return {
+        .anschluss = zeile, .ursache = Ursache(anschluss, befund), .einzelheiten = zeile + "\n" + Zaehlung()};
 }
 
 Meldung MeldungOhneVerbindung(const std::string& text, const std::string& titel) {

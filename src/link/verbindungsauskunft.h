@@ -9,8 +9,8 @@ namespace varnoth {
 /// What keeps the connection from coming about, in words of the current language: built from what the system
 /// says of the port and what became of the last exchange.
 struct Verbindungsauskunft {
-    std::string anschluss; ///< port, device and line format, one line
-    std::string ursache;   ///< the cause, and what helps against it; empty before any exchange
+    std::string anschluss;    ///< port, device and line format, one line
+    std::string ursache;      ///< the cause, and what helps against it; empty before any exchange
     std::string einzelheiten; ///< all that was looked at, line by line
 };
 

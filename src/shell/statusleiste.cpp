@@ -20,7 +20,8 @@ constexpr std::int16_t TextOhneAnschluss = 9221;
 
 Statusleiste::Statusleiste(QStatusBar& leiste) {
     for (std::size_t i = 0; i < felder.size(); ++i) {
-        auto* feld = new Kurzlabel(&leiste);
+        // Messages give way where room is short; port and output stay whole.
+        QLabel* feld = i + 1 == FeldMeldungen ? new Kurzlabel(&leiste) : new QLabel(&leiste);
         feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
         feld->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         leiste.addPermanentWidget(feld, 1);

@@ -49,7 +49,8 @@ TEST_F(VerbindungsauskunftTest, The_built_in_controller_is_named_in_place_of_a_p
 }
 
 TEST_F(VerbindungsauskunftTest, A_settings_string_that_is_no_format_is_the_cause) {
-    EXPECT_TRUE(Ursache({.hindernis = Hindernis::Einstellung}).starts_with("“38400,n,8,2” is no line format"));
+    EXPECT_TRUE(
+        Ursache({.hindernis = Hindernis::Einstellung}).starts_with("“38400,n,8,2” is no line format"));
 }
 
 TEST_F(VerbindungsauskunftTest, A_device_that_is_not_there_is_the_cause) {
@@ -57,12 +58,13 @@ TEST_F(VerbindungsauskunftTest, A_device_that_is_not_there_is_the_cause) {
 }
 
 TEST_F(VerbindungsauskunftTest, A_missing_right_names_the_group_and_the_command_that_helps) {
-    EXPECT_EQ(Ursache({.hindernis = Hindernis::KeinRecht,
-                       .eigentuemer = "root",
-                       .gruppe = "dialout",
-                       .nutzer = "anna"}),
-              "anna may not open /dev/pruefung; the group dialout may. Remedy: “sudo usermod -aG dialout anna”, "
-              "then log in again.");
+    EXPECT_EQ(
+        Ursache({.hindernis = Hindernis::KeinRecht,
+                 .eigentuemer = "root",
+                 .gruppe = "dialout",
+                 .nutzer = "anna"}),
+        "anna may not open /dev/pruefung; the group dialout may. Remedy: “sudo usermod -aG dialout anna”, "
+        "then log in again.");
 }
 
 TEST_F(VerbindungsauskunftTest, A_group_joined_after_the_login_counts_after_the_next_one) {
@@ -75,9 +77,10 @@ TEST_F(VerbindungsauskunftTest, A_group_joined_after_the_login_counts_after_the_
 }
 
 TEST_F(VerbindungsauskunftTest, Without_a_group_that_helps_the_owner_is_named) {
-    EXPECT_EQ(Ursache({.hindernis = Hindernis::KeinRecht, .eigentuemer = "root", .nutzer = "anna"}),
-              "anna may not open /dev/pruefung; it belongs to root. Only an administrator of the computer can "
-              "change that.");
+    EXPECT_EQ(
+        Ursache({.hindernis = Hindernis::KeinRecht, .eigentuemer = "root", .nutzer = "anna"}),
+        "anna may not open /dev/pruefung; it belongs to root. Only an administrator of the computer can "
+        "change that.");
 }
 
 TEST_F(VerbindungsauskunftTest, The_programs_that_have_the_port_are_named) {
@@ -93,7 +96,8 @@ TEST_F(VerbindungsauskunftTest, Another_program_at_an_open_port_is_the_cause_bef
 
 TEST_F(VerbindungsauskunftTest, Any_other_error_is_told_in_the_systems_words) {
     port.offen = false;
-    EXPECT_EQ(Ursache({.hindernis = Hindernis::Systemfehler}), "/dev/pruefung cannot be opened: no such port");
+    EXPECT_EQ(Ursache({.hindernis = Hindernis::Systemfehler}),
+              "/dev/pruefung cannot be opened: no such port");
 }
 
 TEST_F(VerbindungsauskunftTest, Silence_garbage_and_echo_are_told_apart) {
@@ -105,10 +109,11 @@ TEST_F(VerbindungsauskunftTest, Silence_garbage_and_echo_are_told_apart) {
     port.antworte = [](const std::string& bytes) { return std::vector<Stueck>{{Zeit{0}, bytes}}; };
     modModbus::RTUModeH11IndentifikationsAnforderung();
     EXPECT_TRUE(Ursache({}).starts_with("What is sent comes back (echo)."));
-    EXPECT_EQ(LiesVerbindungsauskunft().einzelheiten,
-              "COM1, /dev/pruefung, format 38400,n,8,2\n"
-              "Requests: 0 answered, 0 without a port, 1 without a reply, 1 with a reply that was not understood, "
-              "1 with an echo");
+    EXPECT_EQ(
+        LiesVerbindungsauskunft().einzelheiten,
+        "COM1, /dev/pruefung, format 38400,n,8,2\n"
+        "Requests: 0 answered, 0 without a port, 1 without a reply, 1 with a reply that was not understood, "
+        "1 with an echo");
 }
 
 TEST_F(VerbindungsauskunftTest, A_controller_that_has_answered_the_last_request_is_not_called_silent) {
@@ -133,7 +138,8 @@ TEST_F(VerbindungsauskunftTest, The_message_keeps_its_text_and_title) {
     EXPECT_EQ(meldung.text, "text");
     EXPECT_EQ(meldung.titel, "title");
     EXPECT_EQ(meldung.symbol, Symbol::Warnung);
-    EXPECT_TRUE(meldung.informativtext.starts_with("COM1, /dev/pruefung, format 38400,n,8,2\n\nNothing answers."));
+    EXPECT_TRUE(
+        meldung.informativtext.starts_with("COM1, /dev/pruefung, format 38400,n,8,2\n\nNothing answers."));
     EXPECT_FALSE(meldung.details.empty());
 }
 

@@ -93,8 +93,9 @@ TEST_F(Verbindungsursachen, A_device_that_another_user_may_not_open) {
     ASSERT_EQ(chmod(geraet.c_str(), 0660), 0);
     const std::string nutzer = getpwuid(65534)->pw_name;
     EXPECT_EQ(pruefung::AlsNutzer(UrsacheBeimOeffnen),
-              nutzer + " may not open " + geraet + "; the group dialout may. Remedy: “sudo usermod -aG dialout " +
-                  nutzer + "”, then log in again.");
+              nutzer + " may not open " + geraet +
+                  "; the group dialout may. Remedy: “sudo usermod -aG dialout " + nutzer +
+                  "”, then log in again.");
 }
 
 TEST_F(Verbindungsursachen, A_device_that_is_held_by_one_program_alone) {
@@ -107,7 +108,8 @@ TEST_F(Verbindungsursachen, A_device_that_is_held_by_one_program_alone) {
 }
 
 TEST_F(Verbindungsursachen, A_device_that_another_process_reads_from) {
-    const pruefung::Kind kind([](int rohr) {
+    const pruefung::Kind kind([this](int rohr) {
+        close(fern);
         const bool gesagt = write(rohr, "!", 1) == 1;
         pause();
         return std::string(gesagt ? "" : "silent");
