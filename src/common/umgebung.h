@@ -26,6 +26,8 @@ struct Meldung {
     Knoepfe knoepfe = Knoepfe::Ok;
     bool abbrechenVorgegeben =
         false; ///< Enter cancels, as it should where OK changes the controller or loses work
+    std::string informativtext{}; ///< below the text; empty: none
+    std::string details{};        ///< shown when asked for; empty: none
 
     bool operator==(const Meldung&) const = default;
 };

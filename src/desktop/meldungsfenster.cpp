@@ -3,6 +3,7 @@
 #include "fenstervorn.h"
 #include "texte.h"
 
+#include <QLabel>
 #include <QMessageBox>
 
 #include <utility>
@@ -51,7 +52,11 @@ Antwort ZeigeMeldungsfenster(const Meldung& meldung) {
     fenster.setObjectName(QStringLiteral("Meldungsfenster"));
     if (meldung.abbrechenVorgegeben)
         fenster.setDefaultButton(QMessageBox::Cancel);
+    fenster.setInformativeText(QString::fromStdString(meldung.informativtext));
+    fenster.setDetailedText(QString::fromStdString(meldung.details));
     fenster.setTextFormat(Qt::PlainText);
+    for (QLabel* beschriftung : fenster.findChildren<QLabel*>())
+        beschriftung->setTextFormat(Qt::PlainText);
     return AlsAntwort(fenster.exec());
 }
 

@@ -8,6 +8,7 @@
 #include "startzustand.h"
 #include "texte.h"
 #include "transaktionen.h"
+#include "verbindungsauskunft.h"
 
 #include <algorithm>
 #include <array>
@@ -46,7 +47,8 @@ const Startwert startwert(zustand, dasZiel);
 void MeldeVerlust() {
     zustand.verloren = true;
     dasZiel->AktualisiereGeraetestatus();
-    ZeigeWarnung(LadeText(TextVerbindungUnterbrochen), LadeText(TextAchtung));
+    DieUmgebung().ZeigeMeldung(
+        MeldungOhneVerbindung(LadeText(TextVerbindungUnterbrochen), LadeText(TextAchtung)));
 }
 
 void MeldeRueckkehr() {

@@ -6,6 +6,7 @@
 #include <grp.h>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -69,13 +70,24 @@ bool IstGeraet(const fs::path& eintrag, dev_t geraet) {
     return stat(eintrag.c_str(), &dahinter) == 0 && S_ISCHR(dahinter.st_mode) && dahinter.st_rdev == geraet;
 }
 
+bool IstPseudoterminal(dev_t geraet) {
+    constexpr unsigned Erstes = 136, Letztes = 143; // major numbers
+    return major(geraet) >= Erstes && major(geraet) <= Letztes;
+}
+
+/// A process that holds the far end of pseudo terminals stands for what is connected: it takes nobody's
+/// replies.
 bool HatOffen(const fs::path& prozess, dev_t geraet) {
+    const dev_t fernesEnde = makedev(5, 2);
+    bool gefunden = false;
     std::error_code fehler;
     for (fs::directory_iterator eintrag(prozess / "fd", fehler), ende; !fehler && eintrag != ende;
-         eintrag.increment(fehler))
-        if (IstGeraet(eintrag->path(), geraet))
-            return true;
-    return false;
+         eintrag.increment(fehler)) {
+        if (IstPseudoterminal(geraet) && IstGeraet(eintrag->path(), fernesEnde))
+            return false;
+        gefunden = gefunden || IstGeraet(eintrag->path(), geraet);
+    }
+    return gefunden;
 }
 
 bool IstZahl(const std::string& text) {

@@ -8,12 +8,16 @@ namespace varnoth {
 /// with an ellipsis.
 class Kurzlabel : public QLabel {
 public:
-    explicit Kurzlabel(QWidget* parent);
+    /// @param zeichen so many average characters keep their room where the text has them
+    explicit Kurzlabel(QWidget* parent, int zeichen = 4);
 
     QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    int kleinsteZeichenzahl;
 };
 
 } // namespace varnoth

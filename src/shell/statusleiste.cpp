@@ -2,8 +2,10 @@
 
 #include "ausgangsanzeige.h"
 #include "geraetepfade.h"
+#include "kurzlabel.h"
 #include "schnittstelle.h"
 #include "texte.h"
+#include "tipptext.h"
 #include "umgebung.h"
 
 #include <QLabel>
@@ -20,7 +22,8 @@ constexpr std::int16_t TextOhneAnschluss = 9221;
 
 Statusleiste::Statusleiste(QStatusBar& leiste) {
     for (std::size_t i = 0; i < felder.size(); ++i) {
-        auto* feld = new QLabel(&leiste);
+        // Messages give way where room is short; port and output stay whole.
+        QLabel* feld = i + 1 == FeldMeldungen ? new Kurzlabel(&leiste) : new QLabel(&leiste);
         feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
         feld->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         leiste.addPermanentWidget(feld, 1);
@@ -38,6 +41,8 @@ void Statusleiste::Zeige(int feld, const std::string& text) {
         ausgang->Zeige(neu);
     else if (anzeige.text() != neu)
         anzeige.setText(neu);
+    if (feld == FeldMeldungen)
+        anzeige.setToolTip(anzeige.text());
 }
 
 void Statusleiste::ZeigePort() {
@@ -45,7 +50,7 @@ void Statusleiste::ZeigePort() {
     Zeige(FeldPort, simuliert ? LadeText(TextSimuliert)
                               : "COM" + std::to_string(nummer) + ": " + modSchnittstelle::GetComSettings());
     felder[FeldPort - 1]->setToolTip(
-        QString::fromStdString(simuliert ? LadeText(TextOhneAnschluss) : Geraetepfad(nummer)));
+        AlsTipp(QString::fromStdString(simuliert ? LadeText(TextOhneAnschluss) : Geraetepfad(nummer))));
 }
 
 void Statusleiste::SetzeSimuliert(bool ist) {

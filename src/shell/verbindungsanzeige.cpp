@@ -5,6 +5,7 @@
 #include "polling.h"
 #include "schnittstelle.h"
 #include "texte.h"
+#include "tipptext.h"
 #include "transaktionen.h"
 #include "verbindungssymbol.h"
 #include "verbindungstexte.h"
@@ -19,6 +20,7 @@ namespace varnoth {
 namespace {
 
 constexpr int TaktMs = 250;
+constexpr int Zustandszeichen = 26; // the seconds of a wait are in view, the figures go first
 constexpr std::int16_t TextStart = 9118;
 constexpr std::int16_t TextStartHinweis = 9119;
 
@@ -63,15 +65,16 @@ void SetzeText(QLabel& label, const std::string& text) {
 }
 
 void SetzeHinweis(QWidget& stelle, const std::string& text) {
-    if (const QString neu = QString::fromStdString(text); stelle.toolTip() != neu)
+    if (const QString neu = AlsTipp(QString::fromStdString(text)); stelle.toolTip() != neu)
         stelle.setToolTip(neu);
 }
 
 } // namespace
 
 Verbindungsanzeige::Verbindungsanzeige(QStatusBar& leiste, const std::function<void()>& starte)
-    : QWidget(&leiste), symbol(new Verbindungssymbol(this)), zustandstext(new Kurzlabel(this)),
-      zahlen(new Kurzlabel(this)), start(new QPushButton(this)) {
+    : QWidget(&leiste), symbol(new Verbindungssymbol(this)),
+      zustandstext(new Kurzlabel(this, Zustandszeichen)), zahlen(new Kurzlabel(this)),
+      start(new QPushButton(this)) {
     setObjectName(QStringLiteral("Verbindungsanzeige"));
     symbol->setObjectName(QStringLiteral("symVerbindung"));
     zustandstext->setObjectName(QStringLiteral("lblVerbindung"));

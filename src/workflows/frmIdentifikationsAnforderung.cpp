@@ -3,6 +3,7 @@
 #include "feldtext.h"
 #include "transaktionen.h"
 #include "ui_frmIdentifikationsAnforderung.h"
+#include "verbindungsauskunft.h"
 #include "zeichensatz.h"
 
 #include <algorithm>
@@ -18,6 +19,9 @@ QString AlsQString(const std::string& text) {
         utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
     return QString::fromStdString(utf8);
 }
+
+constexpr int HoechstensVersuche = 10; // the bar is full while the ninth attempt runs
+constexpr int Ursachenzeilen = 5;
 
 constexpr int LaengstesFeld = 80; // characters
 constexpr int Feldrand = 6;
@@ -41,6 +45,7 @@ frmIdentifikationsAnforderung::frmIdentifikationsAnforderung(QWidget* parent)
     : Ablaufdialog(Beginn::BeimZeigen, parent), ui(std::make_unique<Ui::frmIdentifikationsAnforderung>()) {
     ui->setupUi(this);
     connect(ui->cmdWeiter, &QPushButton::clicked, this, &QDialog::accept);
+    ui->lblUrsache->setMinimumHeight(Ursachenzeilen * ui->lblUrsache->fontMetrics().lineSpacing());
     Lade(*ui->cmdCancel);
 }
 
@@ -56,11 +61,18 @@ bool frmIdentifikationsAnforderung::Ablauf() {
 
 void frmIdentifikationsAnforderung::ZeigeVerbleibend(int versuche) {
     ui->lblVersuche->setText(QString::number(versuche));
-    ZeigeStand(*ui->pbVersuche, versuche);
+    ZeigeStand(*ui->pbVersuche, HoechstensVersuche - versuche);
+}
+
+void frmIdentifikationsAnforderung::ZeigeUrsache(const Verbindungsauskunft& auskunft) {
+    const QString text = QString::fromStdString(auskunft.anschluss + "\n" + auskunft.ursache);
+    if (ui->lblUrsache->text() != text)
+        ui->lblUrsache->setText(text);
 }
 
 void frmIdentifikationsAnforderung::ZeigeIdentifikation() {
     using namespace modModbus;
+    ui->lblUrsache->clear();
     ZeigeByte(*ui->txtSlaveAdresse, GetSlaveAdresse());
     ZeigeByte(*ui->txtSchaltzustand, GetIdentByte1());
     ZeigeByte(*ui->txtGerätetyp, GetIdentByte2());

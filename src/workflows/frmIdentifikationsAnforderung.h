@@ -20,6 +20,7 @@ public:
 private:
     bool Ablauf() override;
     void ZeigeVerbleibend(int versuche) override;
+    void ZeigeUrsache(const Verbindungsauskunft& auskunft) override;
     void ZeigeIdentifikation() override;
     bool Abgebrochen() override { return GetCancel() != False; }
 

@@ -1,10 +1,29 @@
 #include "frmKonfigurationSchreibenInHardware.h"
 
 #include "schreibvorgang.h"
+#include "textmitwerten.h"
 #include "transferansicht.h"
 #include "ui_frmKonfigurationSchreibenInHardware.h"
+#include "umgebung.h"
+
+#include <QTime>
 
 namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextGespeichert = 9170;
+constexpr std::int16_t TextNichtGespeichert = 9171;
+
+/// The status bar says what was written, and when: the dialog closes by itself.
+void MeldeErfolg(Ablage ablage) {
+    const std::string wann = QTime::currentTime().toString(QStringLiteral("hh:mm")).toStdString();
+    DieUmgebung().ZeigeStatustext(
+        FeldMeldungen, LadeTextMit(ablage == Ablage::Dauerhaft ? TextGespeichert : TextNichtGespeichert,
+                                   {wann, std::to_string(AnzahlSchreibbarerRegister())}));
+}
+
+} // namespace
 
 frmKonfigurationSchreibenInHardware::frmKonfigurationSchreibenInHardware(QWidget* parent)
     : Ablaufdialog(Beginn::AufKnopfdruck, parent),
@@ -23,8 +42,11 @@ bool frmKonfigurationSchreibenInHardware::Ablauf() {
     ui->chkSpeichern->setEnabled(false);
     Transferansicht ansicht(*this, {ui->txtSpeicherbereich, ui->txtAktuellesRegister, ui->txtRegisteranzahl,
                                     ui->txtSchreibversuch, ui->pbFortschritt});
-    return SchreibeKonfiguration(ansicht,
-                                 ui->chkSpeichern->isChecked() ? Ablage::Dauerhaft : Ablage::Fluechtig);
+    const Ablage ablage = ui->chkSpeichern->isChecked() ? Ablage::Dauerhaft : Ablage::Fluechtig;
+    if (!SchreibeKonfiguration(ansicht, ablage))
+        return false;
+    MeldeErfolg(ablage);
+    return true;
 }
 
 } // namespace varnoth

@@ -3,6 +3,7 @@
 #include "texte.h"
 #include "transaktionen.h"
 #include "umgebung.h"
+#include "verbindungsauskunft.h"
 
 #include <cstdint>
 
@@ -21,8 +22,11 @@ bool Identifiziere(Identifikationsanzeige& anzeige) {
         anzeige.ZeigeVerbleibend(verbleibend);
         const bool gelungen = modModbus::RTUModeH11IndentifikationsAnforderung() != False;
         const bool letzter = verbleibend <= 1;
+        if (!gelungen)
+            anzeige.ZeigeUrsache(LiesVerbindungsauskunft());
         if (letzter)
-            ZeigeWarnung(LadeText(TextKeineVerbindung), LadeText(TextAchtung));
+            DieUmgebung().ZeigeMeldung(
+                MeldungOhneVerbindung(LadeText(TextKeineVerbindung), LadeText(TextAchtung)));
         DieUmgebung().LasseEreignisseLaufen();
         if (letzter || anzeige.Abgebrochen())
             return false;

@@ -57,4 +57,12 @@ bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage) {
     return true;
 }
 
+int AnzahlSchreibbarerRegister() {
+    int anzahl = 0;
+    for (const Speicherbereich bereich : AlleSpeicherbereiche)
+        for (const Parameter& parameter : ParameterMit(bereich, IstSchreibbar))
+            anzahl += Exemplare(bereich) * parameter.beschreibung.Laenge;
+    return anzahl;
+}
+
 } // namespace varnoth

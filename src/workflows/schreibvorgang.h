@@ -15,4 +15,7 @@ enum class Ablage {
 /// was written till then.
 bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage);
 
+/// How many registers such a transfer writes, those of all optical parts together.
+int AnzahlSchreibbarerRegister();
+
 } // namespace varnoth

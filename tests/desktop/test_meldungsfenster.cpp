@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -65,6 +66,27 @@ TEST(Meldungsfenster, Each_button_gives_its_answer) {
         {QMessageBox::Cancel, Antwort::Abbrechen}};
     for (const auto& [knopf, antwort] : faelle)
         EXPECT_EQ(Beantworte(frage, [k = knopf](QMessageBox& fenster) { Druecke(fenster, k); }), antwort);
+}
+
+TEST(Meldungsfenster, Shows_what_explains_the_text_and_the_details_as_they_are) {
+    const std::string boese = "<b>SN</b><img src=x>";
+    const Meldung meldung{.text = boese, .informativtext = boese, .details = boese};
+    const Antwort antwort = Beantworte(meldung, [&](QMessageBox& fenster) {
+        EXPECT_EQ(fenster.informativeText().toStdString(), boese);
+        EXPECT_EQ(fenster.detailedText().toStdString(), boese);
+        for (const auto* beschriftung : fenster.findChildren<QLabel*>())
+            EXPECT_EQ(beschriftung->textFormat(), Qt::PlainText) << beschriftung->objectName().toStdString();
+        fenster.close();
+    });
+    EXPECT_EQ(antwort, Antwort::Ok) << "the button for the details is none to answer with";
+}
+
+TEST(Meldungsfenster, Without_an_explanation_there_is_only_the_text) {
+    Beantworte({.text = "x"}, [](QMessageBox& fenster) {
+        EXPECT_EQ(fenster.buttons().size(), 1);
+        EXPECT_EQ(fenster.findChild<QLabel*>("qt_msgbox_informativelabel"), nullptr);
+        fenster.accept();
+    });
 }
 
 TEST(Meldungsfenster, Closing_a_question_is_a_cancel_and_closing_a_notice_is_an_OK) {

@@ -186,6 +186,9 @@ TEST_F(PollingTest, A_silent_device_gives_the_message_after_ten_attempts_of_a_se
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3000));
     EXPECT_EQ(umgebung.meldungen[0].titel, LadeText(6109));
+    EXPECT_TRUE(umgebung.meldungen[0].informativtext.starts_with(
+        "COM1, /dev/pruefung, Format 38400,n,8,2\n\nNiemand antwortet."))
+        << umgebung.meldungen[0].informativtext;
     EXPECT_EQ((umgebung.uhr - davor) / 1s, 10);
     EXPECT_EQ(Spezifisch(0, 335, 18), 0) << "no data may change after the failed step";
     EXPECT_EQ(ziel.ansichten[0].ablauf, "n");

@@ -99,6 +99,7 @@ TEST_F(Geraetebefund, To_join_the_group_of_the_superuser_is_never_proposed) {
 
 TEST_F(Geraetebefund, Another_process_that_has_the_device_open_is_named) {
     const pruefung::Kind kind([this](int rohr) {
+        close(fern);
         close(nah);
         nah = open(geraet.c_str(), O_RDWR | O_NOCTTY);
         const bool gesagt = write(rohr, "!", 1) == 1;
@@ -116,7 +117,8 @@ TEST_F(Geraetebefund, A_device_behind_a_link_is_the_same_device) {
     const std::string verweis = testing::TempDir() + "geraetebefund_link";
     unlink(verweis.c_str());
     ASSERT_EQ(symlink(geraet.c_str(), verweis.c_str()), 0);
-    const pruefung::Kind kind([](int rohr) {
+    const pruefung::Kind kind([this](int rohr) {
+        close(fern);
         const bool gesagt = write(rohr, "!", 1) == 1;
         pause();
         return std::string(gesagt ? "" : "silent");
@@ -126,6 +128,18 @@ TEST_F(Geraetebefund, A_device_behind_a_link_is_the_same_device) {
     kind.Toete();
     kind.Ende();
     unlink(verweis.c_str());
+}
+
+TEST_F(Geraetebefund, A_process_at_the_far_end_is_not_named) {
+    const pruefung::Kind kind([](int rohr) {
+        const bool gesagt = write(rohr, "!", 1) == 1;
+        pause();
+        return std::string(gesagt ? "" : "silent");
+    });
+    kind.WarteAufWort();
+    EXPECT_TRUE(ProzesseAn(geraet).empty()) << "it has both ends open";
+    kind.Toete();
+    kind.Ende();
 }
 
 TEST_F(Geraetebefund, The_own_process_is_not_named) {

@@ -15,6 +15,7 @@
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
 

@@ -2,6 +2,8 @@
 #include "frmIdentifikationsAnforderung.h"
 #include "texte.h"
 
+#include <QProgressBar>
+
 namespace varnoth {
 
 class frmIdentifikationsAnforderungTest : public pruefung::DialogTest {};
@@ -46,8 +48,9 @@ TEST_F(frmIdentifikationsAnforderungTest,
     frmIdentifikationsAnforderung dialog;
     geraet.schweige = [this](const std::string&) { return AnzahlAnforderungen() < 9; };
     EXPECT_EQ(dialog.exec(), QDialog::Rejected);
-    const Meldung erwartet{.text = LadeText(7209), .titel = LadeText(6109)};
-    EXPECT_EQ(umgebung.meldungen, std::vector<Meldung>{erwartet});
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(7209));
+    EXPECT_EQ(umgebung.meldungen[0].titel, LadeText(6109));
     EXPECT_EQ(dialog.GetCancel(), True);
     EXPECT_EQ(Feld(dialog, "txtSlaveAdresse"), "");
 }
@@ -58,6 +61,32 @@ TEST_F(frmIdentifikationsAnforderungTest, The_remaining_attempts_are_counted_dow
     Schweige([&](int) { gezeigt.push_back(Beschriftung(dialog, "lblVersuche").toStdString()); });
     dialog.exec();
     EXPECT_EQ(gezeigt, (std::vector<std::string>{"9", "8", "7", "6", "5", "4", "3", "2", "1"}));
+}
+
+TEST_F(frmIdentifikationsAnforderungTest, The_progress_grows_toward_the_ninth_attempt) {
+    frmIdentifikationsAnforderung dialog;
+    std::vector<int> gezeigt;
+    Schweige([&](int) { gezeigt.push_back(Kind<QProgressBar>(dialog, "pbVersuche").value()); });
+    EXPECT_EQ(Kind<QProgressBar>(dialog, "pbVersuche").value(), 0);
+    dialog.exec();
+    EXPECT_EQ(gezeigt, (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(Kind<QProgressBar>(dialog, "pbVersuche").maximum(), 9);
+}
+
+TEST_F(frmIdentifikationsAnforderungTest, From_the_second_attempt_on_it_says_why_there_is_no_connection) {
+    frmIdentifikationsAnforderung dialog;
+    std::vector<QString> gezeigt;
+    geraet.schweige = [&](const std::string&) {
+        gezeigt.push_back(Beschriftung(dialog, "lblUrsache"));
+        return AnzahlAnforderungen() < 2;
+    };
+    ZeigeBisFertig(dialog);
+    ASSERT_EQ(gezeigt.size(), 2U);
+    EXPECT_EQ(gezeigt[0], "");
+    EXPECT_TRUE(gezeigt[1].startsWith("COM1, /dev/pruefung, Format 38400,n,8,2\nNiemand antwortet."))
+        << gezeigt[1].toStdString();
+    EXPECT_EQ(Beschriftung(dialog, "lblUrsache"), "") << "it has answered";
+    EXPECT_EQ(Kind<QLabel>(dialog, "lblUrsache").textFormat(), Qt::PlainText);
 }
 
 TEST_F(frmIdentifikationsAnforderungTest, A_reject_from_outside_while_the_message_is_shown_is_survived) {

@@ -232,4 +232,41 @@ TEST_F(frmKonfigurationSchreibenInHardwareTest,
     EXPECT_EQ(Tabfolge(dialog), "chkSpeichern cmdStart cmdCancel");
 }
 
+TEST_F(frmKonfigurationSchreibenInHardwareTest,
+       The_status_bar_says_how_many_registers_were_written_and_stored) {
+    dialog.show();
+    Starte(dialog);
+    ASSERT_EQ(dialog.GetVollstaendig(), True);
+    int gesendet = 0;
+    constexpr int Optikteilauswahl = 212, Kanalauswahl = 213, Kommando = 189;
+    for (const auto& vorgang : geraet.geschrieben)
+        if (vorgang.adresse != Optikteilauswahl && vorgang.adresse != Kanalauswahl &&
+            vorgang.adresse != Kommando)
+            gesendet += static_cast<int>(vorgang.werte.size());
+    EXPECT_TRUE(
+        QString::fromStdString(umgebung.statustexte[0])
+            .endsWith(
+                QStringLiteral(": %1 Register geschrieben und im Steuergerät gespeichert").arg(gesendet)))
+        << umgebung.statustexte[0] << " but sent " << gesendet;
+}
+
+TEST_F(frmKonfigurationSchreibenInHardwareTest, The_status_bar_says_when_nothing_was_stored) {
+    dialog.show();
+    Speichern(dialog).setChecked(false);
+    Starte(dialog);
+    EXPECT_TRUE(umgebung.statustexte[0].ends_with(" Register geschrieben, nicht dauerhaft gespeichert"))
+        << umgebung.statustexte[0];
+}
+
+TEST_F(frmKonfigurationSchreibenInHardwareTest, A_write_that_was_cancelled_leaves_the_status_bar_alone) {
+    umgebung.statustexte[0] = "before";
+    Schweige([&](int anforderung) {
+        if (anforderung == 2)
+            dialog.reject();
+    });
+    dialog.show();
+    Starte(dialog);
+    EXPECT_EQ(umgebung.statustexte[0], "before");
+}
+
 } // namespace varnoth

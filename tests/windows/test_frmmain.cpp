@@ -851,4 +851,15 @@ TEST_F(FrmMainTest, The_connection_part_leaves_the_three_panels_where_they_are) 
     EXPECT_TRUE(leiste->findChild<QWidget*>("Verbindungsanzeige")->isVisible());
 }
 
+TEST_F(FrmMainTest, A_long_message_gives_way_to_the_other_panels_and_is_whole_in_its_tip) {
+    const std::string lang(200, 'x');
+    Fenster().ZeigeStatustext(FeldMeldungen, lang);
+    const auto& meldungen = *Fenster().statusBar()->findChild<QLabel*>(QStringLiteral("sbStatusBar_1"));
+    const auto& anschluss = *Fenster().statusBar()->findChild<QLabel*>(QStringLiteral("sbStatusBar_2"));
+    EXPECT_LT(meldungen.minimumSizeHint().width(), 100);
+    EXPECT_EQ(meldungen.toolTip().toStdString(), lang);
+    EXPECT_GE(anschluss.minimumSizeHint().width(),
+              anschluss.fontMetrics().horizontalAdvance(anschluss.text()));
+}
+
 } // namespace varnoth

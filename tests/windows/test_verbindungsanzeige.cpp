@@ -117,8 +117,13 @@ TEST_F(VerbindungsanzeigeTest, Its_texts_are_plain) {
 }
 
 TEST_F(VerbindungsanzeigeTest, It_gets_narrow_where_room_is_short) {
-    EXPECT_LT(Teil<QLabel>("lblVerbindung").minimumSizeHint().width(),
-              Teil<QLabel>("lblVerbindung").sizeHint().width() / 2);
+    auto& zustand = Teil<QLabel>("lblVerbindung");
+    auto& zahlen = Teil<QLabel>("lblVerbindungszahlen");
+    zustand.setText("Live-Daten angehalten seit 03.03.2026 23:59 und so weiter");
+    zahlen.setText("12 Durchgänge/s, 10 Fehler/min");
+    EXPECT_LT(zustand.minimumSizeHint().width(), zustand.sizeHint().width());
+    EXPECT_LT(zahlen.minimumSizeHint().width(), zahlen.sizeHint().width() / 3);
+    EXPECT_LT(zahlen.minimumSizeHint().width(), zustand.minimumSizeHint().width());
 }
 
 TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {

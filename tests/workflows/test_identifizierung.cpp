@@ -1,6 +1,7 @@
 #include "identifizierung.h"
 
 #include "ablauftest.h"
+#include "verbindungsauskunft.h"
 
 namespace varnoth {
 
@@ -12,10 +13,12 @@ struct Mitschrift : Identifikationsanzeige {
         if (versuche == abbruchBei)
             abbruch = true;
     }
+    void ZeigeUrsache(const Verbindungsauskunft& auskunft) override { ursachen.push_back(auskunft.ursache); }
     void ZeigeIdentifikation() override { ++identifiziert; }
     bool Abgebrochen() override { return abbruch; }
 
     std::vector<int> verbleibend;
+    std::vector<std::string> ursachen;
     int identifiziert = 0;
     int abbruchBei = 0;
     bool abbruch = false;
@@ -55,9 +58,27 @@ TEST_F(IdentifizierungTest, A_silent_device_is_asked_nine_times_and_then_reporte
     EXPECT_FALSE(Identifiziere(anzeige));
     EXPECT_EQ(AnzahlAnforderungen(), 9);
     EXPECT_EQ(anzeige.verbleibend, (std::vector<int>{9, 8, 7, 6, 5, 4, 3, 2, 1}));
-    const Meldung erwartet{.text = "Es kann keine Verbindung zur Hardware aufgebaut werden.",
-                           .titel = "Achtung"};
-    EXPECT_EQ(umgebung.meldungen, std::vector<Meldung>{erwartet});
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, "Es kann keine Verbindung zur Hardware aufgebaut werden.");
+    EXPECT_EQ(umgebung.meldungen[0].titel, "Achtung");
+}
+
+TEST_F(IdentifizierungTest, The_message_names_port_device_format_and_cause) {
+    port.befund = {.hindernis = Hindernis::Fehlt};
+    SchweigeImmer();
+    Identifiziere(anzeige);
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_TRUE(umgebung.meldungen[0].informativtext.starts_with(
+        "COM1, /dev/pruefung, Format 38400,n,8,2\n\nDas Gerät /dev/pruefung ist nicht da."));
+    EXPECT_NE(umgebung.meldungen[0].details.find("9 ohne Antwort"), std::string::npos)
+        << umgebung.meldungen[0].details;
+}
+
+TEST_F(IdentifizierungTest, Each_failed_attempt_tells_its_cause_and_one_that_succeeds_none) {
+    SchweigeBei(2);
+    EXPECT_TRUE(Identifiziere(anzeige));
+    ASSERT_EQ(anzeige.ursachen.size(), 2U);
+    EXPECT_TRUE(anzeige.ursachen[1].starts_with("Niemand antwortet."));
 }
 
 TEST_F(IdentifizierungTest, A_cancel_during_a_request_takes_effect_after_that_request_ends) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "umgebung.h"
+
+#include <string>
+
+namespace varnoth {
+
+/// What keeps the connection from coming about, in words of the current language: built from what the system
+/// says of the port and what became of the last exchange.
+struct Verbindungsauskunft {
+    std::string anschluss;    ///< port, device and line format, one line
+    std::string ursache;      ///< the cause, and what helps against it; empty before any exchange
+    std::string einzelheiten; ///< all that was looked at, line by line
+};
+
+/// Looks at the port and the line now; takes some milliseconds. To be asked after an exchange has failed.
+Verbindungsauskunft LiesVerbindungsauskunft();
+
+/// A warning with the given text that says why there is no connection.
+Meldung MeldungOhneVerbindung(const std::string& text, const std::string& titel);
+
+} // namespace varnoth
