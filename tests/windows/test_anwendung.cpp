@@ -2,6 +2,7 @@
 
 #include "fenstertest.h"
 #include "frmSplash.h"
+#include "schnittstelle.h"
 #include "servicetext.h"
 #include "texte.h"
 #include "trace.h"
@@ -188,6 +189,14 @@ TEST_F(AnwendungTest, With_the_simulator_switch_the_program_connects_by_itself_a
     EXPECT_EQ(anwendung->Hauptfenster().statusBar()->findChild<QLabel*>("sbStatusBar_3")->text().isEmpty(),
               false);
     EXPECT_TRUE(meldungen.empty());
+}
+
+TEST_F(AnwendungTest, A_run_begins_in_the_start_state_whatever_was_before) {
+    modService::SetzeServiceText("left over");
+    modSchnittstelle::SetzeComPort(3);
+    Mit({});
+    EXPECT_EQ(modService::GetServiceText(), "");
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 1);
 }
 
 TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {
