@@ -1,6 +1,5 @@
 #include "verbindungsauskunft.h"
 
-#include "crc.h"
 #include "pruefgeraet.h"
 #include "texte.h"
 #include "transaktionen.h"
@@ -15,18 +14,11 @@ using pruefung::Stueck;
 class VerbindungsauskunftTest : public testing::Test {
 protected:
     VerbindungsauskunftTest() {
-        CrcTabelleAufbauen();
         SetzeSprachoffset(Englisch);
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::OpenCommPort();
         port.antworte = nullptr;
     }
-    ~VerbindungsauskunftTest() override {
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
-        SetzeSprachoffset(Deutsch);
-    }
+    ~VerbindungsauskunftTest() override { SetzeSprachoffset(Deutsch); }
 
     std::string Ursache(Portbefund befund) {
         port.befund = std::move(befund);

@@ -1,4 +1,3 @@
-#include "crc.h"
 #include "geraetepfade.h"
 #include "kindprozess.h"
 #include "pruefumgebung.h"
@@ -27,7 +26,6 @@ namespace varnoth {
 class Verbindungsursachen : public testing::Test {
 protected:
     Verbindungsursachen() {
-        CrcTabelleAufbauen();
         SetzeSprachoffset(Englisch);
         char pfad[128];
         EXPECT_EQ(openpty(&fern, &nah, pfad, nullptr, nullptr), 0);
@@ -41,8 +39,6 @@ protected:
         modSchnittstelle::SetzePort(&port);
     }
     ~Verbindungsursachen() override {
-        modModbus::Zuruecksetzen();
-        modSchnittstelle::Zuruecksetzen();
         modSchnittstelle::SetzePort(nullptr);
         SetzeGeraetepfad({});
         SetzeSprachoffset(Deutsch);

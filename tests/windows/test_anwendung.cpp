@@ -243,6 +243,14 @@ TEST_F(AnwendungTest, A_dialog_larger_than_the_screen_scrolls) {
     EXPECT_NE(dialog.findChild<QScrollArea*>("Dialogrollbereich"), nullptr);
 }
 
+TEST_F(AnwendungTest, A_run_begins_in_the_start_state_whatever_was_before) {
+    modService::SetzeServiceText("left over");
+    modSchnittstelle::SetzeComPort(3);
+    Mit({});
+    EXPECT_EQ(modService::GetServiceText(), "");
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 1);
+}
+
 TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {
     SetzeSprachoffset(Deutsch);
     const frmSplash splash;

@@ -334,6 +334,23 @@ TEST_F(FrmMainTest, Stop_takes_the_controller_out_of_autosend_and_shows_offline)
     EXPECT_FALSE(port.offen);
 }
 
+TEST_F(FrmMainTest, Stop_ends_polling_and_closes_the_port_before_it_ends_autosend_on_a_port_of_its_own) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    const int geschlossen = port.geschlossen;
+    Boolean pollteBeimSenden = True;
+    int geschlossenBeimSenden = 0;
+    geraet.schweige = [&](const std::string&) {
+        pollteBeimSenden = modPolling::GetPollingAktiv();
+        geschlossenBeimSenden = port.geschlossen - geschlossen;
+        return false;
+    };
+    Waehle("mnuMessdatenVisualisierenStop");
+    EXPECT_EQ(pollteBeimSenden, False);
+    EXPECT_EQ(geschlossenBeimSenden, 1);
+    EXPECT_EQ(port.geschlossen - geschlossen, 2);
+}
+
 TEST_F(FrmMainTest, Without_a_controller_the_message_appears_after_nine_requests) {
     geraet.schweige = [](const std::string&) { return true; };
     Sobald("frmKeinKonturAngeschlossen", [](QDialog& dialog) { dialog.reject(); });
@@ -471,9 +488,11 @@ TEST_F(FrmMainTest, Autosend_starts_after_the_question_and_live_data_stays_stopp
     geraet.geschrieben.clear();
     Waehle("mnuAutosendStarten");
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
-    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(6003));
-    EXPECT_EQ(umgebung.meldungen[0].knoepfe, Knoepfe::OkAbbrechen);
-    EXPECT_TRUE(umgebung.meldungen[0].abbrechenVorgegeben);
+    EXPECT_EQ(umgebung.meldungen[0], (Meldung{.text = LadeText(6003),
+                                              .titel = LadeText(6109),
+                                              .symbol = Symbol::Warnung,
+                                              .knoepfe = Knoepfe::OkAbbrechen,
+                                              .abbrechenVorgegeben = true}));
     EXPECT_EQ(geraet.geschrieben.back().werte, std::vector<int>{2});
     EXPECT_FALSE(Fenster().BefehlWartet());
     EXPECT_EQ(modPolling::GetPollingAktiv(), False);
@@ -649,6 +668,18 @@ TEST_F(FrmMainTest, A_new_configuration_shows_its_parts_and_needs_no_port) {
     EXPECT_EQ(modDaten::IstGeaendert(), True);
 }
 
+TEST_F(FrmMainTest, A_new_configuration_has_the_cycle_times_of_its_beams) {
+    Sobald("frmStrahlenBestimmen", [](QDialog& dialog) {
+        dialog.findChild<QComboBox*>("Combo1_2")->setCurrentIndex(0);
+        dialog.findChild<QPushButton*>("cmdOK")->click();
+    });
+    Waehle("mnuNeu");
+    const Zykluszeiten erwartet = ZykluszeitenFuer({32, 32, 0, 32});
+    EXPECT_EQ(modHilfsFunktionen::GetGesamtzykluszeit(), erwartet.gesamt);
+    EXPECT_EQ(modHilfsFunktionen::GetZykluszeit(3), erwartet.zyklus[3]);
+    EXPECT_EQ(modHilfsFunktionen::GetZykluszeit(2), 0);
+}
+
 TEST_F(FrmMainTest, A_new_configuration_that_is_cancelled_changes_nothing) {
     Sobald("frmStrahlenBestimmen", [](QDialog& dialog) { dialog.reject(); });
     Waehle("mnuNeu");
@@ -674,6 +705,33 @@ TEST_F(FrmMainTest, The_editor_applied_and_downloaded_writes_the_configuration_a
     EXPECT_TRUE(Fenster().BefehlWartet()) << "live data had been running";
     Fenster().MenuAusführen();
     EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+}
+
+TEST_F(FrmMainTest, Transmitted_values_stand_in_the_editor_when_the_menu_item_is_checked) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    std::vector<bool> sichtbar;
+    for (int mal = 0; mal < 2; ++mal) {
+        Sobald("frmKonfigurationEdit", [&sichtbar](QDialog& dialog) {
+            const auto* zeile = dialog.findChild<QLabel*>("lblOhneTriggerAutosendrateUebertragenerWert");
+            sichtbar.push_back(zeile != nullptr && !zeile->isHidden() && !zeile->text().isEmpty());
+            dialog.reject();
+        });
+        Waehle("mnuAnzeigeKonfiguration");
+        Aktion("mnuUebertragenerWert").trigger();
+        Fenster().MenuAusführen();
+    }
+    EXPECT_EQ(sichtbar, (std::vector<bool>{false, true}));
+}
+
+TEST_F(FrmMainTest, The_editor_tells_the_menu_whether_sending_can_be_started) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    ASSERT_TRUE(Aktion("mnuAutosendStarten").isEnabled());
+    ASSERT_TRUE(modDaten::SetzeRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Autosend, 4));
+    Sobald("frmKonfigurationEdit", [](QDialog& dialog) { dialog.reject(); });
+    Waehle("mnuAnzeigeKonfiguration");
+    EXPECT_FALSE(Aktion("mnuAutosendStarten").isEnabled());
 }
 
 TEST_F(FrmMainTest, The_editor_without_any_beams_asks_for_a_configuration_first) {
