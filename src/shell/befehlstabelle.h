@@ -49,8 +49,8 @@ enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder };
 /// Whether a command opens a dialog or asks a question; the others do their work without the user.
 enum class Auftritt { Still, Zeigt };
 
-/// A command as the program knows it.
-struct Befehlszeile {
+/// A command as the program knows it; the fields stand in the order in which a row is read.
+struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)
     Befehl befehl;
     const char*
         aktion; ///< object name of its action; of one of several: what stands before "_" and the index

@@ -28,7 +28,8 @@ QToolBar& Werkzeugleiste(QMainWindow& fenster) {
 
 } // namespace
 
-Hauptmenue::Hauptmenue(QMainWindow& das, Klick klick, std::span<const Befehlszeile> befehle) : fenster(das) {
+Hauptmenue::Hauptmenue(QMainWindow& das, const Klick& klick, std::span<const Befehlszeile> befehle)
+    : fenster(das) {
     for (const Befehlszeile& zeile : befehle)
         for (int platz = 0; platz < zeile.anzahl; ++platz)
             Verbinde(zeile, platz, klick);

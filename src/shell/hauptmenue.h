@@ -20,7 +20,8 @@ public:
 
     /// Binds every action of the commands to `klick`. The window must outlive this object.
     /// @throws std::logic_error when an action of a command or of the state table is missing
-    Hauptmenue(QMainWindow& fenster, Klick klick, std::span<const Befehlszeile> befehle = Befehlstabelle());
+    Hauptmenue(QMainWindow& fenster, const Klick& klick,
+               std::span<const Befehlszeile> befehle = Befehlstabelle());
 
     /// Live data runs or does not.
     void SetzeLiveDaten(bool laufen);

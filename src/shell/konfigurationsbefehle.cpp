@@ -51,7 +51,7 @@ std::string LetzterOrdner() {
     const auto zuletzt = LetzteDateien();
     for (const std::string& pfad :
          {zuletzt.empty() ? std::string() : zuletzt.front(), modDaten::GetDateiname(), ZuletztGespeichert()})
-        if (const std::string ordner = Ordner(pfad); !ordner.empty())
+        if (std::string ordner = Ordner(pfad); !ordner.empty())
             return ordner;
     return {};
 }

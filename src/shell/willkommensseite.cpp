@@ -89,7 +89,7 @@ QString Knopftext(const QFileInfo& datei, const QFontMetrics& schrift) {
 
 } // namespace
 
-Willkommensseite::Willkommensseite(QMdiArea& der, Klick klick) : QScrollArea(&der), bereich(der) {
+Willkommensseite::Willkommensseite(QMdiArea& der, const Klick& klick) : QScrollArea(&der), bereich(der) {
     setObjectName(QStringLiteral("Willkommensseite"));
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);

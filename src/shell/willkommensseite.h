@@ -25,7 +25,7 @@ public:
     using Klick = std::function<void(Befehl befehl, int index)>;
 
     /// Makes the page in the area, with its texts in the current language.
-    Willkommensseite(QMdiArea& bereich, Klick klick);
+    Willkommensseite(QMdiArea& bereich, const Klick& klick);
 
     /// Shows or hides the page; a page that appears shows these files (UTF-8 paths), the newest first.
     void Zeige(bool sichtbar, const std::vector<std::string>& dateien);
