@@ -1,5 +1,7 @@
 #include "ansager.h"
 
+#include "startzustand.h"
+
 #include <utility>
 
 namespace varnoth {
@@ -9,6 +11,7 @@ namespace {
 constexpr Zeit Abstand = std::chrono::milliseconds(500);
 
 std::function<void(const QAccessibleEvent&)> derHoerer;
+const Startwert startwert(derHoerer);
 
 bool HoertJemand() {
     return derHoerer != nullptr || QAccessible::isActive();

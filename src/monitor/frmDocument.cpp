@@ -70,10 +70,8 @@ void frmDocument::RichteWerteEin() {
                   ui->lblPositionTNU, ui->lblPositionHNU, nullptr};
     gezeigteWerte.fill(-1);
     ui->Frame1->installEventFilter(this);
-    for (QLabel* element : ui->Frame1->findChildren<QLabel*>()) {
+    for (QLabel* element : ui->Frame1->findChildren<QLabel*>())
         element->installEventFilter(this);
-        element->setContextMenuPolicy(Qt::NoContextMenu); // that of the view
-    }
 }
 
 void frmDocument::Verbinde() {

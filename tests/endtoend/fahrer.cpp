@@ -40,7 +40,7 @@ void Fahrer::Beantworte(QMessageBox& meldung) {
     meldungen.push_back(meldung.text().toStdString());
     QAbstractButton* knopf = meldung.button(QMessageBox::No);
     if (knopf == nullptr)
-        knopf = meldung.defaultButton();
+        knopf = meldung.button(QMessageBox::Ok);
     (knopf != nullptr ? knopf : meldung.buttons().constFirst())->click();
 }
 

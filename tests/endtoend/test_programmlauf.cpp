@@ -5,6 +5,7 @@
 #include "simulatorprozess.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -30,7 +31,10 @@ protected:
     /// Starts a first instance, and gives what a second one prints as its error.
     std::string FehlerDerZweitenInstanz() {
         Programmprozess erste(ordner.path(), {"/Simulator"});
-        EXPECT_TRUE(WarteBis([this] { return !QDir(ordner.path()).entryList({"*.lock"}).isEmpty(); }));
+        EXPECT_TRUE(WarteBis([this] {
+            QDirIterator gefunden(ordner.path(), {"*.lock"}, QDir::Files, QDirIterator::Subdirectories);
+            return gefunden.hasNext();
+        }));
         Programmprozess zweite(ordner.path(), {"/Simulator", Selbsttest()});
         EXPECT_EQ(zweite.WarteAufEnde(), 1);
         return zweite.Fehlerausgabe();
@@ -80,7 +84,7 @@ TEST_F(Programmlauf, Settings_that_lead_to_no_controller_end_with_one_clear_sent
         {"a folder", {}, {"/Geraet=" + ordner.path()}},
         {"port settings without sense", "[Settings]\nComSettings=abc\n" + leitung},
         {"port settings out of range", "[Settings]\nComSettings=38400,x,9,7\n" + leitung},
-        {"a port number that nobody knows", "[Settings]\nComPort=7\n" + leitung},
+        {"a port without a device", "[Settings]\nComPort=4\nComGeraet4=/dev/null\n" + leitung},
         {"a broken settings file", QByteArray("\0\1[Sett\xFF\n=\n]", 13), {"/Geraet=" + Pfad("nothing")}},
     };
     for (Fall& fall : faelle) {

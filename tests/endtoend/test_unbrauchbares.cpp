@@ -8,6 +8,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
+#include "systemfehler.h"
 #include "texte.h"
 #include "transaktionen.h"
 
@@ -22,6 +23,7 @@
 
 #include <sys/resource.h>
 
+#include <cerrno>
 #include <csignal>
 #include <vector>
 
@@ -216,7 +218,7 @@ TEST_F(Unbrauchbares, A_trace_that_the_disk_takes_no_more_of_ends_with_one_messa
     Verbinde();
     ASSERT_TRUE(LaufeBis([this] { return !Meldungen().empty(); }));
     EXPECT_TRUE(LaufeDurchgaenge(5));
-    EXPECT_THAT(Meldungen(), ElementsAre("Die Datei Test.txt wird geschlossen. File too large"));
+    EXPECT_THAT(Meldungen(), ElementsAre("Die Datei Test.txt wird geschlossen. " + Systemfehler(EFBIG)));
     EXPECT_LE(LiesTrace().size(), platz);
     EXPECT_TRUE(IstLive());
 }

@@ -3,6 +3,7 @@
 #include "fenstertest.h"
 #include "frmDocument.h"
 #include "inieinstellungen.h"
+#include "pruefumgebung.h"
 #include "schnittstelle.h"
 
 #include <QApplication>
@@ -33,6 +34,7 @@ protected:
         einstellungen.SchreibText("Settings", "Sprache", zahl);
     }
 
+    pruefung::PruefUmgebung umgebung;
     QTemporaryDir ordner;
     IniEinstellungen einstellungen{ordner.filePath(QStringLiteral("varnoth.ini"))};
 };
