@@ -23,7 +23,8 @@ constexpr std::int32_t SteuerwertAutosendEin = 2;
 constexpr std::int32_t SteuerwertAutosendAus = 4;
 
 Identifikation ident;
-const Startwert startwert(ident);
+bool autosendGestartet = false;
+const Startwert startwert(ident, autosendGestartet);
 
 /// Runs a transaction; an error inside it becomes a warning box titled with the procedure's name.
 template<class Ablauf>
@@ -51,6 +52,7 @@ Boolean Schreibe(std::uint16_t start, std::uint16_t anzahl, const Werte& werte, 
 
 /// The controller must hear of it whatever the line is like; nobody looks at the reply.
 Boolean SendeSteuerwert(std::int32_t wert) {
+    autosendGestartet = wert == SteuerwertAutosendEin;
     constexpr auto Adresse = Geraeteadresse(Speicherbereich::Kommunikationsdaten, kommunikation::Steuerwert);
     return Schreibe(Adresse, 1, {wert}, Verlass::Keiner);
 }
@@ -158,6 +160,10 @@ void SchreibeSteuerwert4() {
 
 void SchreibeSteuerwert2() {
     SchreibeSteuerwert(SteuerwertAutosendEin);
+}
+
+bool AutosendGestartet() {
+    return autosendGestartet;
 }
 
 void BeendeAutosendAmOffenenPort() {

@@ -45,6 +45,8 @@ Boolean SendeFunktion09Kommando();
 void SchreibeSteuerwert4();
 /// Starts autosend in the same way with the value 2.
 void SchreibeSteuerwert2();
+/// Whether this run has started autosend and not ended it since.
+bool AutosendGestartet();
 /// Ends autosend on a port that is open, opening it anew and closing it afterwards. Nothing happens when it
 /// is closed.
 void BeendeAutosendAmOffenenPort();

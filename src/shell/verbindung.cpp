@@ -6,6 +6,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
+#include "transaktionen.h"
 #include "zykluszeiten.h"
 
 namespace varnoth {
@@ -46,6 +47,8 @@ void UebernimmOptikteile() {
 bool Autostart(Verbindungsziel& ziel) {
     if (ziel.LiveDatenLaufen())
         ziel.StoppeLiveDaten();
+    else if (modModbus::AutosendGestartet())
+        modModbus::SchreibeSteuerwert4();
     VergissOptikteile();
     ziel.ZeigeAlleOffline();
     modDaten::LeereAbbild();

@@ -35,8 +35,9 @@ public:
     virtual bool Beendet() const = 0;
 };
 
-/// Connects: identification, whole configuration, optical parts, status report, plausibility, cycle times,
-/// views, polling. True when live data runs at the end.
+/// Connects: an end to autosend, if this run has started it, then identification, whole configuration,
+/// optical parts, status report, plausibility, cycle times, views, polling. True when live data runs at the
+/// end.
 bool Autostart(Verbindungsziel& ziel);
 
 /// Stores the presence of each part that specific register 44 tells, and how many parts a polling pass asks:

@@ -3,10 +3,13 @@
 #include "ansichtstitel.h"
 #include "polling.h"
 #include "pruefgeraet.h"
+#include "rahmen.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "schnittstelle.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
+#include "transaktionen.h"
 #include "zykluszeiten.h"
 
 #include <gtest/gtest.h>
@@ -78,6 +81,18 @@ TEST_F(VerbindungTest, Live_data_that_runs_is_stopped_first) {
     ziel.laeuft = true;
     Autostart(ziel);
     EXPECT_TRUE(ziel.ablauf.starts_with("stop offline"));
+}
+
+TEST_F(VerbindungTest, Autosend_that_this_run_has_started_is_ended_before_connecting_and_only_once) {
+    const pruefung::PruefGeraet geraet(port);
+    modSchnittstelle::OpenCommPort();
+    ASSERT_EQ(modModbus::RTUModeH11IndentifikationsAnforderung(), True);
+    modModbus::SchreibeSteuerwert2();
+    port.gesendet.clear();
+    Autostart(ziel);
+    EXPECT_EQ(port.gesendet, std::vector{SchreibAnforderung(1, 0x4084, 1, {4})});
+    Autostart(ziel);
+    EXPECT_EQ(port.gesendet.size(), 1U);
 }
 
 TEST_F(VerbindungTest, The_image_is_cleared_before_anything_is_read) {
