@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 /// The executable looks for its settings file where it lies itself.
 QString LegeProgrammAn(const QString& ordner) {
-    const QString programm = QDir(ordner).filePath("varnoth");
+    QString programm = QDir(ordner).filePath("varnoth");
     const fs::path ziel = programm.toStdString();
     std::error_code fehler;
     if (!fs::exists(ziel))
