@@ -18,6 +18,12 @@ if(VARNOTH_FUZZ)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+varnoth_headers(windows
+    HEADERS algorithm array functional map memory optional string vector
+        QAction QApplication QComboBox QDialog QFileInfo QLabel QLineEdit QMainWindow QMdiArea QMdiSubWindow QMessageBox
+        QMouseEvent QPainter QPainterPath QPushButton QTimer QVBoxLayout
+    LIBS Qt6::Widgets varnoth_warnings)
+
 # varnoth_room(NAME SOURCES file... [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...]): the static library
 # varnoth_NAME. Who uses a room also sees its ROOMS, because its headers name them; PRIVATE_ROOMS only its own sources see.
 function(varnoth_room name)
@@ -30,6 +36,7 @@ function(varnoth_room name)
         PUBLIC ${ROOM_ROOMS} ${ROOM_LIBS}
         PRIVATE ${ROOM_PRIVATE_ROOMS} varnoth_warnings)
     if(ROOM_LIBS MATCHES "Qt6::Widgets")
+        varnoth_use_headers(varnoth_${name} windows)
         set_target_properties(varnoth_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
     endif()
 endfunction()

@@ -11,8 +11,11 @@
 #include "zahlen.h"
 #include "zeichensatz.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace varnoth {
 
@@ -37,9 +40,10 @@ std::int32_t Zeichencode(char zeichen) {
 }
 
 /// The text cut or filled up with blanks to a length.
-std::string MitLaenge(std::string text, std::size_t laenge) {
-    text.resize(laenge, ' ');
-    return text;
+std::string MitLaenge(std::string_view text, std::size_t laenge) {
+    std::string gefuellt(laenge, ' ');
+    std::copy_n(text.begin(), std::min(text.size(), laenge), gefuellt.begin());
+    return gefuellt;
 }
 
 Werte PackePasswort(const Werksdaten& /*daten*/) {
