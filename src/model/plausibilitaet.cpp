@@ -16,19 +16,23 @@ namespace {
 
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
-bool IstErfuellt(const Werteregel& regel, const Abbild& abbild) {
-    const auto werte = abbild.Bereich(regel.bereich);
-    for (int teil = 0; teil < Exemplare(regel.bereich); ++teil)
-        if (!Erfuellt(regel, werte[Stelle(regel.bereich, regel.adresse, teil)]))
-            return false;
-    return true;
+bool IstErfuellt(const Werteregel& regel, const Abbild& abbild, int teil) {
+    return Erfuellt(regel, abbild.Bereich(regel.bereich)[Stelle(regel.bereich, regel.adresse, teil)]);
 }
 
 } // namespace
 
 bool IstPlausibel(const Abbild& abbild) {
-    return std::ranges::all_of(AlleWerteregeln(),
-                               [&](const Werteregel& regel) { return IstErfuellt(regel, abbild); });
+    return UnplausibleStellen(abbild).empty();
+}
+
+Parametermenge UnplausibleStellen(const Abbild& abbild) {
+    Parametermenge stellen;
+    for (const Werteregel& regel : AlleWerteregeln())
+        for (int teil = 0; teil < Exemplare(regel.bereich); ++teil)
+            if (!IstErfuellt(regel, abbild, teil))
+                stellen.insert({regel.bereich, regel.adresse, teil});
+    return stellen;
 }
 
 bool KorrigiereStrahlenzahlen(Abbild& abbild) {

@@ -2,6 +2,7 @@
 
 #include "abbild.h"
 #include "boolean.h"
+#include "parameterstelle.h"
 
 #include <functional>
 
@@ -9,6 +10,9 @@ namespace varnoth {
 
 /// Whether every register of the image, of all four optical parts, satisfies its rules.
 bool IstPlausibel(const Abbild& abbild);
+
+/// The parameters that do not satisfy their rules.
+Parametermenge UnplausibleStellen(const Abbild& abbild);
 
 /// Sets every beam count above 512 to 0: a part that reports an impossible count is treated as not connected.
 /// Gives whether there was one.

@@ -1,6 +1,9 @@
 #include "standardkonfiguration.h"
 
+#include "parameterstelle.h"
 #include "registerabbild.h"
+
+#include <tuple>
 
 namespace varnoth {
 
@@ -10,6 +13,15 @@ Abbild Standardkonfiguration() {
         for (int teil = 0; teil < Exemplare(standard.bereich); ++teil)
             abbild.Bereich(standard.bereich)[Stelle(standard.bereich, standard.adresse, teil)] =
                 standard.wert;
+    return abbild;
+}
+
+Abbild StandardkonfigurationWie(const Abbild& geraet) {
+    Abbild abbild = geraet;
+    const Abbild standard = Standardkonfiguration();
+    for (const auto& [bereich, adresse, teil] : AlleStellen(IstSchreibbar))
+        std::ignore =
+            abbild.SetzeParameter(bereich, adresse, standard.HoleParameter(bereich, adresse, teil), teil);
     return abbild;
 }
 

@@ -8,6 +8,10 @@ namespace varnoth {
 /// beam.
 Abbild Standardkonfiguration();
 
+/// The default configuration of a controller like that of the image: what no write changes (beam counts, bus
+/// type, line format, serial number and so on) is that of the image.
+Abbild StandardkonfigurationWie(const Abbild& geraet);
+
 } // namespace varnoth
 
 namespace varnoth::modDaten {

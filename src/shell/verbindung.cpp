@@ -1,5 +1,6 @@
 #include "verbindung.h"
 
+#include "geraetestand.h"
 #include "geraetestatus.h"
 #include "plausibilitaet.h"
 #include "polling.h"
@@ -50,6 +51,7 @@ bool Autostart(Verbindungsziel& ziel) {
     else if (modModbus::AutosendGestartet())
         modModbus::SchreibeSteuerwert4();
     VergissOptikteile();
+    modGeraetestand::BeginneVerbindung();
     ziel.ZeigeAlleOffline();
     modDaten::LeereAbbild();
     const bool gelesen = LiesGeraet(ziel);

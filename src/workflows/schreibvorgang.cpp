@@ -1,8 +1,10 @@
 #include "schreibvorgang.h"
 
+#include "geraetestand.h"
 #include "kommandoregister.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "seriennummer.h"
 #include "texte.h"
 #include "transaktionen.h"
 
@@ -54,6 +56,7 @@ bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage) {
     if (!Schreibtransfer(anzeige, ablage).Schreibe())
         return false;
     anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
+    modGeraetestand::MerkeGeschrieben(DasAbbild(), AlleStellen(IstSchreibbar), GeraeteSeriennummer());
     return true;
 }
 

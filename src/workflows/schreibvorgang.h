@@ -11,7 +11,8 @@ enum class Ablage {
 };
 
 /// Writes every writable parameter of the register image to the controller, each retried without limit. The
-/// image and its changed mark stay as they are. False when the user cancelled; the controller then keeps what
+/// image and its changed mark stay as they are. What a complete write has told the controller is remembered
+/// (`modGeraetestand`). False when the user cancelled; the controller then keeps what
 /// was written till then.
 bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage);
 

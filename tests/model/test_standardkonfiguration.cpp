@@ -54,4 +54,18 @@ TEST_F(Standardkonfiguration, Leaves_the_changed_mark_alone) {
     EXPECT_EQ(IstGeaendert(), True);
 }
 
+TEST_F(Standardkonfiguration, Like_a_controller_keeps_what_no_write_changes_and_sets_the_rest_back) {
+    FuelleMitFremdem();
+    const Abbild geraet = DasAbbild();
+    const Abbild standard = StandardkonfigurationWie(geraet);
+    for (const Parameter& parameter : AlleParameter())
+        for (int teil = 0; teil < Exemplare(parameter.bereich); ++teil) {
+            const Abbild& erwartet =
+                IstSchreibbar(parameter.beschreibung) ? varnoth::Standardkonfiguration() : geraet;
+            EXPECT_EQ(standard.HoleParameter(parameter.bereich, parameter.adresse, teil),
+                      erwartet.HoleParameter(parameter.bereich, parameter.adresse, teil))
+                << "address " << parameter.adresse << " part " << teil;
+        }
+}
+
 } // namespace varnoth::modDaten

@@ -1,6 +1,7 @@
 #include "verbindung.h"
 
 #include "ansichtstitel.h"
+#include "geraetestand.h"
 #include "polling.h"
 #include "pruefgeraet.h"
 #include "rahmen.h"
@@ -100,6 +101,13 @@ TEST_F(VerbindungTest, The_image_is_cleared_before_anything_is_read) {
     ziel.identGelingt = false;
     Autostart(ziel);
     EXPECT_EQ(modDaten::Strahlenzahl(3), 0);
+}
+
+TEST_F(VerbindungTest, What_the_controller_held_before_becomes_older_than_the_connection) {
+    modGeraetestand::MerkeGelesen({}, "4711");
+    ziel.identGelingt = false;
+    Autostart(ziel);
+    EXPECT_FALSE(modGeraetestand::HoleGeraetestand().value().ausDieserVerbindung);
 }
 
 TEST_F(VerbindungTest, Parts_are_polled_up_to_the_last_one_that_is_present) {

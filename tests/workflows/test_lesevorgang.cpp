@@ -1,6 +1,7 @@
 #include "lesevorgang.h"
 
 #include "ablauftest.h"
+#include "geraetestand.h"
 #include "registerabbild.h"
 #include "texte.h"
 #include "transfermitschrift.h"
@@ -191,6 +192,63 @@ TEST_F(LesevorgangTest, A_complete_transfer_ends_with_its_text_and_every_exchang
     ASSERT_EQ(anzeige.fortschritt.size(), 56U);
     EXPECT_EQ(anzeige.fortschritt.front(), std::make_pair(0, 55));
     EXPECT_EQ(anzeige.fortschritt.back(), std::make_pair(55, 55));
+}
+
+TEST_F(LesevorgangTest, What_a_complete_read_has_found_is_remembered_with_the_serial_number) {
+    geraet.Register(193) = 5;
+    geraet.Spezifisch(1, 12) = 600;
+    LiesKonfiguration(anzeige);
+    const auto stand = modGeraetestand::HoleGeraetestand();
+    ASSERT_TRUE(stand);
+    EXPECT_EQ(stand->abbild, modDaten::DasAbbild());
+    EXPECT_EQ(stand->seriennummer, "4711");
+    EXPECT_TRUE(stand->IstVollstaendig());
+}
+
+TEST_F(LesevorgangTest, A_read_that_is_cancelled_leaves_what_was_remembered) {
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "4000H + 126"; };
+    LiesKonfiguration(anzeige);
+    EXPECT_FALSE(modGeraetestand::HoleGeraetestand());
+}
+
+TEST_F(LesevorgangTest, Reading_aside_sends_the_same_requests_and_leaves_image_mark_and_memory_alone) {
+    LiesKonfiguration(anzeige);
+    const auto anfragen = port.gesendet;
+    modDaten::LoescheGeaendert();
+    const auto davor = GanzesAbbild();
+    const auto stand = modGeraetestand::HoleGeraetestand()->zeit;
+    port.gesendet.clear();
+    geraet.Spezifisch(2, 14) = 4;
+    Geraeteabzug abzug;
+    EXPECT_TRUE(LiesGeraeteabzug(anzeige, abzug));
+    EXPECT_EQ(port.gesendet, anfragen);
+    EXPECT_EQ(abzug.abbild.HoleRegister(Speicherbereich::SpezifischeGeraetedaten, 14, 2), 4);
+    EXPECT_TRUE(abzug.ungelesen.empty());
+    EXPECT_EQ(GanzesAbbild(), davor);
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+    EXPECT_EQ(modGeraetestand::HoleGeraetestand()->zeit, stand);
+}
+
+TEST_F(LesevorgangTest, Reading_aside_takes_an_impossible_beam_count_as_a_part_that_is_not_connected) {
+    geraet.Spezifisch(1, 12) = 600;
+    Geraeteabzug abzug;
+    LiesGeraeteabzug(anzeige, abzug);
+    EXPECT_EQ(abzug.abbild.HoleRegister(Speicherbereich::SpezifischeGeraetedaten, 12, 1), 0);
+}
+
+TEST_F(LesevorgangTest, A_controller_that_goes_silent_while_it_is_read_aside_leaves_the_rest_unread) {
+    geraet.Spezifisch(0, 14) = 4;
+    geraet.schweige = [this](const std::string& /*anforderung*/) { return geraet.geschrieben.size() == 2; };
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.versuch == 3; };
+    Geraeteabzug abzug;
+    EXPECT_FALSE(LiesGeraeteabzug(anzeige, abzug));
+    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+    EXPECT_EQ(abzug.abbild.HoleRegister(Spezifisch, 14, 0), 4);
+    EXPECT_FALSE(abzug.ungelesen.contains({Spezifisch, 52, 0}));
+    EXPECT_TRUE(abzug.ungelesen.contains({Spezifisch, 12, 1}));
+    EXPECT_TRUE(abzug.ungelesen.contains({Speicherbereich::Kommunikationsdaten, 126}));
+    EXPECT_EQ(abzug.ungelesen.size(), 3 * 9 + 7U);
+    EXPECT_EQ(anzeige.ende, "");
 }
 
 TEST_F(LesevorgangTest, Autosend_can_be_chosen_with_modes_1_and_3_only) {

@@ -1,6 +1,7 @@
 #include "schreibvorgang.h"
 
 #include "ablauftest.h"
+#include "geraetestand.h"
 #include "registerabbild.h"
 #include "texte.h"
 #include "transfermitschrift.h"
@@ -272,6 +273,28 @@ TEST_F(SchreibvorgangTest, The_progress_counts_storing_where_it_is_asked_for) {
 TEST_F(SchreibvorgangTest, A_complete_transfer_ends_with_its_text) {
     SchreibeKonfiguration(anzeige, Ablage::Dauerhaft);
     EXPECT_EQ(anzeige.ende, "Übertragung beendet.");
+}
+
+TEST_F(SchreibvorgangTest, What_a_complete_write_has_told_the_controller_is_remembered) {
+    FuelleAbbild();
+    Mitschrift mitschrift;
+    EXPECT_TRUE(SchreibeKonfiguration(mitschrift, Ablage::Fluechtig));
+    const auto stand = modGeraetestand::HoleGeraetestand();
+    ASSERT_TRUE(stand);
+    EXPECT_EQ(stand->seriennummer, "4711");
+    for (const auto& [bereich, adresse, teil] : AlleStellen(IstSchreibbar)) {
+        EXPECT_FALSE(stand->unbekannt.contains({bereich, adresse, teil}));
+        EXPECT_EQ(stand->abbild.HoleParameter(bereich, adresse, teil),
+                  modDaten::HoleParameter(bereich, adresse, teil));
+    }
+    EXPECT_FALSE(stand->IstVollstaendig()) << "nothing was read";
+}
+
+TEST_F(SchreibvorgangTest, A_write_that_is_cancelled_is_not_remembered) {
+    Mitschrift mitschrift;
+    mitschrift.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "4000H + 126"; };
+    EXPECT_FALSE(SchreibeKonfiguration(mitschrift, Ablage::Fluechtig));
+    EXPECT_FALSE(modGeraetestand::HoleGeraetestand());
 }
 
 } // namespace varnoth

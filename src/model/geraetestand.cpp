@@ -1,0 +1,65 @@
+#include "geraetestand.h"
+
+#include "startzustand.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace varnoth::modGeraetestand {
+
+namespace {
+
+std::optional<Geraetestand> derStand;
+const Startwert startwert(derStand);
+
+/// What is known before a write to a controller.
+Geraetestand StandVor(const std::string& seriennummer) {
+    if (derStand && derStand->seriennummer == seriennummer)
+        return *derStand;
+    Geraetestand stand;
+    stand.unbekannt = AlleStellen(IstLesbar);
+    return stand;
+}
+
+Werte WieImGeraet(Werte werte) {
+    constexpr std::int32_t Register = 0xFFFF;
+    std::ranges::for_each(werte, [](std::int32_t& wert) { wert &= Register; });
+    return werte;
+}
+
+void Merke(Geraetestand stand, const std::string& seriennummer) {
+    stand.zeit = std::chrono::system_clock::now();
+    stand.seriennummer = seriennummer;
+    stand.ausDieserVerbindung = true;
+    derStand = std::move(stand);
+}
+
+} // namespace
+
+std::optional<Geraetestand> HoleGeraetestand() {
+    return derStand;
+}
+
+void MerkeGelesen(const Abbild& abbild, const std::string& seriennummer) {
+    Geraetestand stand;
+    stand.abbild = abbild;
+    Merke(std::move(stand), seriennummer);
+}
+
+void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
+                      const std::string& seriennummer) {
+    Geraetestand stand = StandVor(seriennummer);
+    for (const auto& [bereich, adresse, teil] : geschriebenes) {
+        std::ignore = stand.abbild.SetzeParameter(
+            bereich, adresse, WieImGeraet(abbild.HoleParameter(bereich, adresse, teil)), teil);
+        stand.unbekannt.erase({bereich, adresse, teil});
+    }
+    Merke(std::move(stand), seriennummer);
+}
+
+void BeginneVerbindung() {
+    if (derStand)
+        derStand->ausDieserVerbindung = false;
+}
+
+} // namespace varnoth::modGeraetestand

@@ -1,0 +1,87 @@
+#include "geraetestand.h"
+
+#include "registeradressen.h"
+#include "standardkonfiguration.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth::modGeraetestand {
+
+namespace {
+
+constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
+constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+
+const Parameterstelle Ausgang{Global, global::PnpAusgang};
+
+Abbild MitAusgang(std::int32_t wert) {
+    Abbild abbild = Standardkonfiguration();
+    EXPECT_TRUE(abbild.SetzeRegister(Global, global::PnpAusgang, wert));
+    return abbild;
+}
+
+std::int32_t GemerkterAusgang() {
+    return HoleGeraetestand().value().abbild.HoleRegister(Global, global::PnpAusgang);
+}
+
+} // namespace
+
+TEST(Geraetestand, Nothing_is_known_at_first) {
+    EXPECT_FALSE(HoleGeraetestand());
+}
+
+TEST(Geraetestand, After_a_read_the_whole_image_is_known_with_time_and_serial_number) {
+    const auto vorher = std::chrono::system_clock::now();
+    MerkeGelesen(MitAusgang(3), "4711");
+    const auto stand = HoleGeraetestand();
+    ASSERT_TRUE(stand);
+    EXPECT_EQ(stand->abbild, MitAusgang(3));
+    EXPECT_TRUE(stand->IstVollstaendig());
+    EXPECT_EQ(stand->seriennummer, "4711");
+    EXPECT_GE(stand->zeit, vorher);
+    EXPECT_LE(stand->zeit, std::chrono::system_clock::now());
+    EXPECT_TRUE(stand->ausDieserVerbindung);
+}
+
+TEST(Geraetestand, A_write_changes_what_was_written_and_leaves_the_rest) {
+    Abbild gelesen = MitAusgang(3);
+    ASSERT_TRUE(gelesen.SetzeRegister(Spezifisch, spezifisch::Reichweite, 1, 2));
+    MerkeGelesen(gelesen, "4711");
+    MerkeGeschrieben(MitAusgang(5), {Ausgang}, "4711");
+    EXPECT_EQ(GemerkterAusgang(), 5);
+    EXPECT_EQ(HoleGeraetestand()->abbild.HoleRegister(Spezifisch, spezifisch::Reichweite, 2), 1);
+    EXPECT_TRUE(HoleGeraetestand()->IstVollstaendig());
+}
+
+TEST(Geraetestand, Of_a_written_register_the_controller_holds_16_bits) {
+    MerkeGeschrieben(MitAusgang(-1), {Ausgang}, "4711");
+    EXPECT_EQ(GemerkterAusgang(), 0xFFFF);
+}
+
+TEST(Geraetestand, After_a_write_without_a_read_only_what_was_written_is_known) {
+    MerkeGeschrieben(MitAusgang(5), {Ausgang, {Spezifisch, spezifisch::Reichweite, 3}}, "4711");
+    const auto stand = HoleGeraetestand().value();
+    EXPECT_FALSE(stand.IstVollstaendig());
+    EXPECT_FALSE(stand.unbekannt.contains(Ausgang));
+    EXPECT_FALSE(stand.unbekannt.contains({Spezifisch, spezifisch::Reichweite, 3}));
+    EXPECT_EQ(stand.unbekannt.size(), AlleStellen(IstLesbar).size() - 2);
+}
+
+TEST(Geraetestand, What_another_controller_held_does_not_stand_in_for_this_one) {
+    MerkeGelesen(MitAusgang(3), "4711");
+    MerkeGeschrieben(MitAusgang(5), {Ausgang}, "4712");
+    EXPECT_FALSE(HoleGeraetestand()->IstVollstaendig());
+    EXPECT_EQ(HoleGeraetestand()->seriennummer, "4712");
+}
+
+TEST(Geraetestand, A_new_connection_makes_what_is_known_older_than_itself_until_it_is_read_again) {
+    BeginneVerbindung();
+    MerkeGelesen(MitAusgang(3), "4711");
+    BeginneVerbindung();
+    EXPECT_FALSE(HoleGeraetestand()->ausDieserVerbindung);
+    EXPECT_EQ(GemerkterAusgang(), 3);
+    MerkeGelesen(MitAusgang(3), "4711");
+    EXPECT_TRUE(HoleGeraetestand()->ausDieserVerbindung);
+}
+
+} // namespace varnoth::modGeraetestand
