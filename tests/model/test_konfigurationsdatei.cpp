@@ -191,7 +191,9 @@ TEST_F(Konfigurationsdatei, Bytes_behind_a_complete_body_are_ignored) {
 
 TEST_F(Konfigurationsdatei, A_file_of_another_program_is_an_unknown_format) {
     ErwarteAblehnung("[Settings]\nSprache=0\n" + std::string(20000, 'x'), 3100);
-    ErwarteAblehnung(std::string("\x89PNG\r\n\x1A\n\0\0", 10) + std::string(20000, '\0'), 3100);
+    std::string bild("\x89PNG\r\n\x1A\n");
+    bild.resize(20000);
+    ErwarteAblehnung(bild, 3100);
 }
 
 TEST_F(Konfigurationsdatei, The_messages_are_in_the_chosen_language) {
