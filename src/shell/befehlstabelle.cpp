@@ -13,11 +13,14 @@ using enum Live;
 using enum Auftritt;
 using Ziel = Befehlswirkung;
 
+constexpr int LetzterMenuebefehl = 23; // the codes above are those of commands that no menu has
+
 constexpr Befehlszeile DieBefehle[] = {
     {Befehl::VisualisierenStart, "mnuMessdatenVisualisierenStart", LaeuftWeiter, Zeigt,
-     [](Ziel& z, int) { z.Verbinde(); }, 0, 1, "F5"},
+     [](Ziel& z, int) { z.Verbinde(); }, 0, 1, "F5", 9201, "verbinden", 9202, Leistengruppe::Verbindung},
     {Befehl::VisualisierenStop, "mnuMessdatenVisualisierenStop", LaeuftWeiter, Still,
-     [](Ziel& z, int) { z.StoppeLiveDaten(); }, 0, 1, "Shift+F5"},
+     [](Ziel& z, int) { z.StoppeLiveDaten(); }, 0, 1, "Shift+F5", 9510, "stopp", 9511,
+     Leistengruppe::Verbindung},
     {Befehl::LichtleisteAnzeigen, "mnuAnzeigeLichtleiste", LaeuftWeiter, Still,
      [](Ziel& z, int teil) { z.ZeigeAnsicht(teil); }, 0, 4, "Ctrl+%1"},
     {Befehl::Beenden, "mnuBeenden", Stoppt, Zeigt, [](Ziel& z, int) { z.Beende(); }, 0, 1, "Ctrl+Q"},
@@ -32,21 +35,25 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::FirmwareUpdate, "mnuFlasher", Stoppt, Zeigt, [](Ziel& z, int) { z.ErneuereFirmware(); }},
     {Befehl::InitHardware, "mnuInitHardware", StopptUndStartetWieder, Zeigt,
      [](Ziel& z, int) { z.InitialisiereHardware(); }},
-    {Befehl::KonfigurationAnzeigen, "mnuAnzeigeKonfiguration", StopptUndStartetWieder, Zeigt,
-     [](Ziel& z, int) { z.BearbeiteKonfiguration(); }, 0, 1, "Ctrl+K"},
+    {Befehl::NeueKonfiguration, "mnuNeu", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.MacheNeueKonfiguration(); }, 0, 1, "Ctrl+N", 9512, "neu", 9513,
+     Leistengruppe::Konfiguration},
     {Befehl::KonfigurationOeffnen, "mnuOeffnen", Stoppt, Zeigt, [](Ziel& z, int) { z.OeffneKonfiguration(); },
-     0, 1, "Ctrl+O"},
+     0, 1, "Ctrl+O", 9514, "oeffnen", 9515, Leistengruppe::Konfiguration},
     {Befehl::KonfigurationSpeichernUnter, "mnuSpeichernUnter", Stoppt, Zeigt,
-     [](Ziel& z, int) { z.SpeichereKonfiguration(); }, 0, 1, "Ctrl+S"},
+     [](Ziel& z, int) { z.SpeichereKonfiguration(); }, 0, 1, "Ctrl+S", 9516, "speichern", 9517,
+     Leistengruppe::Konfiguration},
+    {Befehl::KonfigurationAnzeigen, "mnuAnzeigeKonfiguration", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.BearbeiteKonfiguration(); }, 0, 1, "Ctrl+K", 9518, "konfiguration", 9519,
+     Leistengruppe::Konfiguration},
     {Befehl::UebertragenerWert, "mnuUebertragenerWert", LaeuftWeiter, Still,
      [](Ziel& z, int) { z.WechsleUebertragenerWert(); }},
-    {Befehl::NeueKonfiguration, "mnuNeu", LaeuftWeiter, Zeigt,
-     [](Ziel& z, int) { z.MacheNeueKonfiguration(); }, 0, 1, "Ctrl+N"},
     {Befehl::ResetHardware, "mnuResetHardware", Stoppt, Zeigt,
      [](Ziel& z, int) { z.SetzeHardwareZurueck(); }},
     {Befehl::ComPort, "mnuCom", Stoppt, Still, [](Ziel& z, int nummer) { z.WaehleComPort(nummer); }, 1, 4},
     {Befehl::Simulation, "mnuSimulation", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeSimulation(); }},
-    {Befehl::Hilfethemen, "mnuHilfethemen", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeHilfethemen(); }},
+    {Befehl::Hilfethemen, "mnuHilfethemen", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeHilfethemen(); }, 0, 1,
+     "", 9209, "hilfe", 9210, Leistengruppe::Hilfe},
     {Befehl::Info, "mnuInfo", Stoppt, Zeigt, [](Ziel& z, int) { z.ZeigeInfo(); }},
     {Befehl::AutosendStarten, "mnuAutosendStarten", Stoppt, Zeigt, [](Ziel& z, int) { z.StarteAutosend(); }},
     {Befehl::Deutsch, "mnuDeutsch", Stoppt, Still, [](Ziel& z, int) { z.SchalteSprache(varnoth::Deutsch); }},
@@ -60,6 +67,10 @@ constexpr Befehlszeile DieBefehle[] = {
 
 std::span<const Befehlszeile> Befehlstabelle() {
     return DieBefehle;
+}
+
+bool StehtImMenue(const Befehlszeile& zeile) {
+    return static_cast<int>(zeile.befehl) <= LetzterMenuebefehl;
 }
 
 const Befehlszeile* ZeileZu(Befehl befehl) {

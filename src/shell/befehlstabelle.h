@@ -49,6 +49,9 @@ enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder };
 /// Whether a command opens a dialog or asks a question; the others do their work without the user.
 enum class Auftritt { Still, Zeigt };
 
+/// The groups of the tool bar in their order; a line stands between two.
+enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Hilfe };
+
 /// A command as the program knows it; the fields stand in the order in which a row is read.
 struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)
     Befehl befehl;
@@ -60,12 +63,17 @@ struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)
     int ersterIndex = 0;      ///< of several actions: the index of the first one
     int anzahl = 1;           ///< how many actions the command has; 0: other controls lead to it
     const char* kuerzel = ""; ///< keys, in Qt's portable form; "%1" stands for the action's place from 1
-    std::int16_t textId = 0;  ///< of a command that no menu has: its text; it stands in the tool bar
+    std::int16_t textId = 0;  ///< its text in the tool bar; 0: it does not stand there
     const char* symbol = "";  ///< file name of its picture without ending
+    std::int16_t tippId = 0;  ///< its tool tip there; 0: the same as its text
+    Leistengruppe gruppe = Leistengruppe::Pruefen;
 };
 
 /// Every command, once.
 std::span<const Befehlszeile> Befehlstabelle();
+
+/// Whether the command's actions stand in a menu, and so in the form; those of the others are made for them.
+bool StehtImMenue(const Befehlszeile& zeile);
 
 /// The row of a command; nullptr for Befehl::Keiner.
 const Befehlszeile* ZeileZu(Befehl befehl);

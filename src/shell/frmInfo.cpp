@@ -1,7 +1,7 @@
 #include "frmInfo.h"
 
 #include "lokalisiereform.h"
-#include "symbole.h"
+#include "programmsymbol.h"
 #include "ui_frmInfo.h"
 #include "versionstext.h"
 

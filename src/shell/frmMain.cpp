@@ -5,13 +5,14 @@
 #include "frmDocument.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
+#include "programmsymbol.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
 #include "standardkonfiguration.h"
-#include "symbole.h"
 #include "trace.h"
 #include "ui_frmMain.h"
 #include "verbindungsanzeige.h"
+#include "werkzeugleiste.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -49,6 +50,7 @@ frmMain::frmMain(const QString& programmordner)
     QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));
     LokalisiereForm(*this);
+    leiste = new Werkzeugleiste(*this);
     LiesEinstellungen();
     modDaten::InitRegisterbeschreibung();
     modDaten::LadeStandardkonfiguration();
@@ -156,6 +158,7 @@ void frmMain::Entlade() {
     if (const auto platz = PlatzVon(*this))
         SchreibFensterplatz(DieEinstellungen(), Fensterabschnitt, *platz);
     ansichten->SpeicherePlaetze();
+    leiste->SpeicherePlatz();
     modTrace::Schliesse();
     SchliesseDialoge();
     hide();

@@ -24,6 +24,7 @@ class frmMain;
 }
 
 class frmDocument;
+class Werkzeugleiste;
 class Willkommensseite;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
@@ -137,6 +138,7 @@ private:
     Statusleiste status;
     Hauptmenue menue;
     std::unique_ptr<Ansichten> ansichten;
+    Werkzeugleiste* leiste = nullptr;
     Willkommensseite* willkommen = nullptr;
     std::unique_ptr<Konfigurationsablauf> ablauf;
     std::unique_ptr<Geraetebetrieb> betrieb;

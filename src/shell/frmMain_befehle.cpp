@@ -17,6 +17,7 @@
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 #include "umgebung.h"
+#include "werkzeugleiste.h"
 
 namespace varnoth {
 
@@ -125,6 +126,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     LadeQtTexte(offset);
     DieEinstellungen().SchreibText("Settings", "Sprache", std::to_string(offset));
     LokalisiereForm(*this);
+    leiste->Lokalisiere();
     ansichten->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");

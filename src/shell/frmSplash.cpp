@@ -1,7 +1,7 @@
 #include "frmSplash.h"
 
 #include "lokalisiereform.h"
-#include "symbole.h"
+#include "programmsymbol.h"
 #include "ui_frmSplash.h"
 #include "versionstext.h"
 

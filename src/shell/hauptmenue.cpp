@@ -2,31 +2,13 @@
 
 #include "aktionen.h"
 #include "registerabbild.h"
-#include "symbole.h"
 #include "texte.h"
 
 #include <QAction>
 #include <QKeySequence>
 #include <QMainWindow>
-#include <QToolBar>
 
 namespace varnoth {
-
-namespace {
-
-constexpr const char* Leistenname = "tlbBefehle";
-
-QToolBar& Werkzeugleiste(QMainWindow& fenster) {
-    if (auto* const da = fenster.findChild<QToolBar*>(QLatin1String(Leistenname)))
-        return *da;
-    auto* const leiste = new QToolBar(&fenster);
-    leiste->setObjectName(QLatin1String(Leistenname));
-    leiste->setMovable(false);
-    fenster.addToolBar(leiste);
-    return *leiste;
-}
-
-} // namespace
 
 Hauptmenue::Hauptmenue(QMainWindow& das, const Klick& klick, std::span<const Befehlszeile> befehle)
     : fenster(das) {
@@ -39,7 +21,7 @@ Hauptmenue::Hauptmenue(QMainWindow& das, const Klick& klick, std::span<const Bef
 /// A click stores the command and nothing else: the check mark that Qt has already turned is turned back.
 void Hauptmenue::Verbinde(const Befehlszeile& zeile, int platz, const Klick& klick) {
     const QString name = QString::fromStdString(Aktionsname(zeile, platz));
-    QAction& aktion = zeile.textId != 0 ? Werkzeug(zeile, name) : Aktion(fenster, name);
+    QAction& aktion = StehtImMenue(zeile) ? Aktion(fenster, name) : NeueAktion(zeile, name);
     aktion.setShortcut(
         QKeySequence(QString::fromStdString(Kuerzel(zeile, platz)), QKeySequence::PortableText));
     QObject::connect(
@@ -51,14 +33,15 @@ void Hauptmenue::Verbinde(const Befehlszeile& zeile, int platz, const Klick& kli
         });
 }
 
-/// The action of a command that no menu has: a button of the tool bar. Its text follows the language as those
-/// of the menus do.
-QAction& Hauptmenue::Werkzeug(const Befehlszeile& zeile, const QString& name) {
-    QAction& aktion = *Werkzeugleiste(fenster).addAction(Symbolbild(QLatin1String(zeile.symbol)), QString());
-    aktion.setObjectName(name);
-    aktion.setProperty("Tag", zeile.textId);
-    aktion.setText(QString::fromStdString(LadeText(zeile.textId)));
-    return aktion;
+/// The action of a command that no menu has. It belongs to the window, so that its keys work with the tool
+/// bar hidden, and its text follows the language as those of the menus do.
+QAction& Hauptmenue::NeueAktion(const Befehlszeile& zeile, const QString& name) {
+    auto* const aktion = new QAction(&fenster);
+    aktion->setObjectName(name);
+    aktion->setProperty("Tag", zeile.textId);
+    aktion->setText(QString::fromStdString(LadeText(zeile.textId)));
+    fenster.addAction(aktion);
+    return *aktion;
 }
 
 void Hauptmenue::Aktualisiere() {

@@ -12,14 +12,15 @@ class QMainWindow;
 
 namespace varnoth {
 
-/// The menu bar of the main window, and its tool bar where a command has a place there: what a click stores,
-/// what can be chosen in which state of the program, what is ticked.
+/// The commands of the main window as actions, those of the menu bar and those that no menu has: what a click
+/// stores, what can be chosen in which state of the program, what is ticked.
 class Hauptmenue {
 public:
     using Klick = std::function<void(Befehl befehl, int index)>;
 
-    /// Binds every action of the commands to `klick`. The window must outlive this object.
-    /// @throws std::logic_error when an action of a command or of the state table is missing
+    /// Binds every action of the commands to `klick` and makes those that no menu has. The window must
+    /// outlive this object.
+    /// @throws std::logic_error when an action of a menu or of the state table is missing
     Hauptmenue(QMainWindow& fenster, const Klick& klick,
                std::span<const Befehlszeile> befehle = Befehlstabelle());
 
@@ -46,7 +47,7 @@ public:
 
 private:
     void Verbinde(const Befehlszeile& zeile, int platz, const Klick& klick);
-    QAction& Werkzeug(const Befehlszeile& zeile, const QString& name);
+    QAction& NeueAktion(const Befehlszeile& zeile, const QString& name);
     void Aktualisiere();
 
     QMainWindow& fenster;

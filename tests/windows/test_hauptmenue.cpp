@@ -2,12 +2,10 @@
 
 #include "aktionen.h"
 #include "fenstertest.h"
-#include "lokalisiereform.h"
-#include "texte.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMainWindow>
-#include <QToolBar>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -17,23 +15,23 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextBeenden = 1020;
+constexpr std::int16_t TextInfo = 1720;
+constexpr int OhneMenue = 999;
 
-constexpr Befehlszeile Werkzeugzeile{.befehl = Befehl::Info,
-                                     .aktion = "tlbInfo",
-                                     .live = Live::LaeuftWeiter,
-                                     .auftritt = Auftritt::Zeigt,
-                                     .tut = [](Befehlswirkung& z, int) { z.ZeigeInfo(); },
-                                     .textId = TextBeenden,
-                                     .symbol = "varnoth"};
+constexpr Befehlszeile OhneMenuezeile{.befehl = static_cast<Befehl>(OhneMenue),
+                                      .aktion = "tlbPruefung",
+                                      .live = Live::LaeuftWeiter,
+                                      .auftritt = Auftritt::Zeigt,
+                                      .tut = [](Befehlswirkung& z, int) { z.ZeigeInfo(); },
+                                      .kuerzel = "Ctrl+P",
+                                      .textId = TextInfo,
+                                      .symbol = "bericht"};
 
 } // namespace
 
 /// A window with the action of every command but the one that is left out.
 class HauptmenueTest : public testing::Test {
 protected:
-    ~HauptmenueTest() override { SetzeSprachoffset(Deutsch); }
-
     void LegeAktionenAn(const QString& ausser = {}) {
         for (const Befehlszeile& zeile : Befehlstabelle())
             for (int platz = 0; platz < zeile.anzahl; ++platz)
@@ -67,24 +65,15 @@ TEST_F(HauptmenueTest, Each_of_several_actions_brings_its_own_index) {
     EXPECT_EQ(klicks, (decltype(klicks){{Befehl::ComPort, 3}, {Befehl::LichtleisteAnzeigen, 0}}));
 }
 
-TEST_F(HauptmenueTest, Without_a_command_for_it_there_is_no_tool_bar) {
+TEST_F(HauptmenueTest, A_command_that_no_menu_has_is_an_action_of_the_window_with_its_keys) {
     LegeAktionenAn();
-    const Hauptmenue menue(fenster, Merke());
-    EXPECT_EQ(fenster.findChild<QToolBar*>(), nullptr);
-}
-
-TEST_F(HauptmenueTest, A_row_with_a_text_is_a_button_of_the_tool_bar) {
-    LegeAktionenAn();
-    const Hauptmenue menue(fenster, Merke(), {&Werkzeugzeile, 1});
-    QAction& aktion = *fenster.findChild<QToolBar*>("tlbBefehle")->actions().at(0);
-    EXPECT_EQ(aktion.objectName(), "tlbInfo");
-    EXPECT_EQ(aktion.text(), "&Beenden");
-    EXPECT_FALSE(aktion.icon().pixmap(16).isNull());
+    const Hauptmenue menue(fenster, Merke(), {&OhneMenuezeile, 1});
+    QAction& aktion = Aktion(fenster, "tlbPruefung");
+    EXPECT_TRUE(fenster.actions().contains(&aktion));
+    EXPECT_EQ(aktion.shortcut(), QKeySequence("Ctrl+P"));
+    EXPECT_EQ(aktion.text(), "Inf&o");
     aktion.trigger();
-    EXPECT_EQ(klicks, (decltype(klicks){{Befehl::Info, 0}}));
-    SetzeSprachoffset(Englisch);
-    LokalisiereForm(fenster);
-    EXPECT_EQ(aktion.text(), "&Exit");
+    EXPECT_EQ(klicks, (decltype(klicks){{OhneMenuezeile.befehl, 0}}));
 }
 
 } // namespace varnoth

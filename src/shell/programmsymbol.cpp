@@ -1,4 +1,4 @@
-#include "symbole.h"
+#include "programmsymbol.h"
 
 /// The resources of a static library have to be asked for, and Qt wants that done outside of any namespace.
 static void InitRessourcen() {
@@ -8,12 +8,8 @@ static void InitRessourcen() {
 namespace varnoth {
 
 QIcon Programmsymbol() {
-    return Symbolbild(QStringLiteral("varnoth"));
-}
-
-QIcon Symbolbild(const QString& name) {
     InitRessourcen();
-    return QIcon(QStringLiteral(":/symbole/%1.svg").arg(name));
+    return QIcon(QStringLiteral(":/symbole/varnoth.svg"));
 }
 
 } // namespace varnoth

@@ -1,0 +1,102 @@
+#include "symbolbild.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QImageReader>
+#include <QPainter>
+#include <QPixmapCache>
+
+#include <utility>
+
+/// The resources of a static library have to be asked for, and Qt wants that done outside of any namespace.
+static void InitRessourcen() {
+    Q_INIT_RESOURCE(symbole);
+}
+
+namespace varnoth {
+
+namespace {
+
+constexpr char GezeichneteLinie[] = "#222222";
+constexpr char GezeichneteBetonung[] = "#2a6fb5";
+constexpr int Dunkel = 128; // lightness below which a background is dark
+
+QPixmap Gezeichnet(const QByteArray& svg, const QSize& groesse) {
+    QByteArray inhalt = svg;
+    QBuffer quelle(&inhalt);
+    QImageReader leser(&quelle, "svg");
+    leser.setScaledSize(groesse);
+    return QPixmap::fromImageReader(&leser);
+}
+
+/// Draws a picture in the palette's colours, which it looks up each time: a palette that changes needs no new
+/// icon.
+class Symbolmaschine : public QIconEngine {
+public:
+    Symbolmaschine(QString der, QByteArray das) : name(std::move(der)), svg(std::move(das)) {}
+
+    void paint(QPainter* maler, const QRect& flaeche, QIcon::Mode mode, QIcon::State zustand) override {
+        const qreal schaerfe = maler->device()->devicePixelRatioF();
+        maler->drawPixmap(flaeche, pixmap((QSizeF(flaeche.size()) * schaerfe).toSize(), mode, zustand));
+    }
+    QPixmap pixmap(const QSize& groesse, QIcon::Mode mode, QIcon::State /*zustand*/) override {
+        const int seite = std::min(groesse.width(), groesse.height());
+        const Symbolfarben farben = SymbolfarbenAus(QGuiApplication::palette(), mode);
+        const QString merkmal = QStringLiteral("symbol %1 %2 %3 %4")
+                                    .arg(name)
+                                    .arg(seite)
+                                    .arg(farben.linie.name(), farben.betonung.name());
+        QPixmap bild;
+        if (!QPixmapCache::find(merkmal, &bild)) {
+            bild = Gezeichnet(Umgefaerbt(svg, farben), {seite, seite});
+            QPixmapCache::insert(merkmal, bild);
+        }
+        return bild;
+    }
+    QSize actualSize(const QSize& groesse, QIcon::Mode /*mode*/, QIcon::State /*zustand*/) override {
+        const int seite = std::min(groesse.width(), groesse.height());
+        return {seite, seite};
+    }
+    QIconEngine* clone() const override { return new Symbolmaschine(name, svg); }
+
+private:
+    QString name;
+    QByteArray svg;
+};
+
+} // namespace
+
+Symbolfarben SymbolfarbenAus(const QPalette& palette, QIcon::Mode mode) {
+    if (mode == QIcon::Disabled) {
+        const QColor blass = palette.color(QPalette::Disabled, QPalette::WindowText);
+        return {blass, blass};
+    }
+    if (mode == QIcon::Selected) {
+        const QColor auf = palette.color(QPalette::HighlightedText);
+        return {auf, auf};
+    }
+    const bool dunkel = palette.color(QPalette::Window).lightness() < Dunkel;
+    return {palette.color(QPalette::WindowText),
+            dunkel ? QColor(0x7c, 0xb7, 0xf0) : QColor(0x2a, 0x6f, 0xb5)};
+}
+
+QByteArray Umgefaerbt(QByteArray svg, const Symbolfarben& farben) {
+    const QByteArray betonung = farben.betonung.name().toLatin1();
+    const QByteArray linie = farben.linie.name().toLatin1();
+    // By way of a mark of its own, for the new line's colour may be the designed colour of the other.
+    svg.replace(GezeichneteLinie, "\x01");
+    svg.replace(GezeichneteBetonung, betonung);
+    return svg.replace("\x01", linie);
+}
+
+QIcon Symbolbild(const QString& name) {
+    InitRessourcen();
+    QFile datei(QStringLiteral(":/symbole/%1.svg").arg(name));
+    if (!datei.open(QIODevice::ReadOnly))
+        return {};
+    return QIcon(new Symbolmaschine(name, datei.readAll()));
+}
+
+} // namespace varnoth
