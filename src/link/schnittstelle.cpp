@@ -43,11 +43,11 @@ void MerkeAktivitaet() {
 }
 
 void OeffnePort() {
-    if (derPort != nullptr && !LiesOffenstand()) {
-        derPort->Oeffne(zustand.comPort, zustand.comSettings);
-        zustand.takt.Stelle(zustand.comSettings);
-        zustand.gesendetSeitOeffnen = false;
-    }
+    if (LiesOffenstand() || derPort == nullptr)
+        return;
+    derPort->Oeffne(zustand.comPort, zustand.comSettings);
+    zustand.takt.Stelle(zustand.comSettings);
+    zustand.gesendetSeitOeffnen = false;
     LiesOffenstand();
 }
 

@@ -4,6 +4,9 @@
 #include "texte.h"
 
 #include <QAccessibleWidget>
+#include <QEvent>
+
+#include <algorithm>
 
 namespace varnoth {
 
@@ -34,6 +37,7 @@ QAccessibleInterface* MacheZugang(const QString& /*klasse*/, QObject* element) {
 
 Wertfeld::Wertfeld(QWidget* eltern) : QLabel(eltern) {
     QAccessible::installFactory(MacheZugang);
+    setAutoFillBackground(true); // a new value is then painted by itself, without all that lies behind it
 }
 
 QString Wertfeld::Ansage() const {
@@ -41,6 +45,24 @@ QString Wertfeld::Ansage() const {
         return accessibleName() + QStringLiteral(": ") + QString::fromStdString(LadeText(TextKeineWerte));
     const QString wert = accessibleName() + QLatin1Char(' ') + text();
     return zusatz.isEmpty() ? wert : wert + QStringLiteral(", ") + zusatz;
+}
+
+QSize Wertfeld::sizeHint() const {
+    if (zeichen != text().size()) {
+        zeichen = text().size();
+        QString breiteste = text();
+        std::ranges::replace_if(
+            breiteste, [](QChar eines) { return eines.isDigit(); }, QLatin1Char('8'));
+        platz = QLabel::minimumSizeHint();
+        platz.rwidth() +=
+            fontMetrics().horizontalAdvance(breiteste) - fontMetrics().horizontalAdvance(text());
+    }
+    return platz;
+}
+
+void Wertfeld::changeEvent(QEvent* ereignis) {
+    zeichen = -1;
+    QLabel::changeEvent(ereignis);
 }
 
 } // namespace varnoth

@@ -17,7 +17,17 @@ public:
     /// "TU 107, 530 mm"; without a value the caption and that there is none.
     QString Ansage() const;
 
+    /// The place that any number with as many digits needs: another value is no reason to arrange the view
+    /// anew.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void changeEvent(QEvent* ereignis) override;
+
 private:
+    mutable QSize platz;
+    mutable qsizetype zeichen = -1; // of the text that `platz` is for
     QString zusatz;
 };
 

@@ -46,6 +46,8 @@ void Stelle(QSerialPort& port, const Porteinstellungen& einstellungen) {
 constexpr Zeit Fensterblick = std::chrono::milliseconds(4);
 // The system hands a request on once this thread sleeps; painting right after sending would hold it up.
 constexpr Zeit Uebergabe = std::chrono::microseconds(200);
+// Whether the far end has hung up is asked for this often at most; an exchange would ask five times.
+constexpr Zeit Leitungsblick = std::chrono::milliseconds(1);
 
 /// Whether the line behind an open port is gone. Qt does not tell in every version and for every kind of
 /// device.
@@ -81,15 +83,16 @@ std::size_t BytesImSystem([[maybe_unused]] QSerialPort& port) {
     return static_cast<std::size_t>(std::max(anzahl, 0));
 }
 
-/// The bytes that wait in the system.
-std::string LiesAusSystem([[maybe_unused]] QSerialPort& port) {
-    std::string bytes(BytesImSystem(port), '\0');
+/// Adds the bytes that wait in the system.
+void LiesAusSystem([[maybe_unused]] QSerialPort& port, [[maybe_unused]] std::string& bytes) {
 #ifdef Q_OS_UNIX
-    if (!bytes.empty())
-        bytes.resize(static_cast<std::size_t>(
-            std::max<ssize_t>(::read(port.handle(), bytes.data(), bytes.size()), 0)));
+    std::array<char, 512> stueck; // NOLINT(*-member-init): read fills it
+    ssize_t gelesen = 0;
+    do {
+        gelesen = ::read(port.handle(), stueck.data(), stueck.size());
+        bytes.append(stueck.data(), static_cast<std::size_t>(std::max<ssize_t>(gelesen, 0)));
+    } while (gelesen == static_cast<ssize_t>(stueck.size()));
 #endif
-    return bytes;
 }
 
 /// Hands over what the system takes at once, which is all but always the whole request, and gives how many
@@ -160,8 +163,12 @@ void QtSeriellerPort::Schliesse() {
 }
 
 bool QtSeriellerPort::IstOffen() {
-    if (port.isOpen() && LeitungIstWeg(port))
-        Schliesse();
+    const Zeit jetzt = DieUmgebung().Uhr();
+    if (port.isOpen() && jetzt >= naechsterLeitungsblick) {
+        naechsterLeitungsblick = jetzt + Leitungsblick;
+        if (LeitungIstWeg(port))
+            Schliesse();
+    }
     return port.isOpen();
 }
 
@@ -210,7 +217,8 @@ std::string QtSeriellerPort::LiesAlles() {
     std::string bytes;
     if (port.bytesAvailable() > 0)
         bytes = port.readAll().toStdString();
-    return bytes + LiesAusSystem(port);
+    LiesAusSystem(port, bytes);
+    return bytes;
 }
 
 void QtSeriellerPort::Schreibe(std::string_view bytes) {

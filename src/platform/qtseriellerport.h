@@ -41,6 +41,7 @@ private:
     bool einstellungFalsch = false;
     bool leitungenWerdenGeschaltet = false;
     Zeit naechsterFensterblick{0};
+    Zeit naechsterLeitungsblick{0};
 };
 
 } // namespace varnoth
