@@ -232,7 +232,9 @@ void QtSeriellerPort::Schreibe(std::string_view bytes) {
         port.flush();
     if (port.isOpen())
         SchlafeAnDerLeitung(port, Uebergabe);
-    SchaueNachDemFenster();
+    // A line that has answered by now leaves the window to its usual turn.
+    if (BytesImSystem(port) == 0 || DieUmgebung().Uhr() >= naechsterFensterblick)
+        SchaueNachDemFenster();
 }
 
 /// The window's turn: the line is busy.
