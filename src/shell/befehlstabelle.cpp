@@ -61,6 +61,8 @@ constexpr Befehlszeile DieBefehle[] = {
      [](Ziel& z, int) { z.SchalteSprache(varnoth::Englisch); }},
     {Befehl::LetzteDatei, "", Stoppt, Zeigt, [](Ziel& z, int platz) { z.OeffneLetzteDatei(platz); }, 0, 0},
     {Befehl::SimuliertesGeraet, "", Stoppt, Zeigt, [](Ziel& z, int) { z.VerbindeSimuliert(); }, 0, 0},
+    {Befehl::Bericht, "mnuBericht", StopptUndStartetWieder, Zeigt, [](Ziel& z, int) { z.ZeigeBericht(); }, 0,
+     1, "Ctrl+P", 9730, "bericht", 9745, Leistengruppe::Pruefen},
 };
 
 } // namespace

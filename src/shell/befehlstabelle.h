@@ -42,6 +42,7 @@ public:
     virtual void OeffneLetzteDatei(int platz) = 0;
     /// Connects to the built-in controller, which takes the place of the serial ports in this run.
     virtual void VerbindeSimuliert() = 0;
+    virtual void ZeigeBericht() = 0;
 };
 
 /// How a command gets along with live data.

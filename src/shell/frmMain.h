@@ -130,6 +130,7 @@ private:
     void SchalteSprache(std::int16_t offset) override;
     void OeffneLetzteDatei(int platz) override;
     void VerbindeSimuliert() override;
+    void ZeigeBericht() override { ablauf->Berichte(); }
 
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;

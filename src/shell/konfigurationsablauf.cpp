@@ -1,5 +1,6 @@
 #include "konfigurationsablauf.h"
 
+#include "berichtsbefehl.h"
 #include "frmKeinKonturAngeschlossen.h"
 #include "frmKonfigurationEdit.h"
 #include "frmKonfigurationSchreibenInHardware.h"
@@ -48,6 +49,10 @@ void Konfigurationsablauf::MacheNeue() {
     dialog.exec();
     if (dialog.GetCancel() == False)
         Zeige();
+}
+
+void Konfigurationsablauf::Berichte() {
+    ZeigeBericht(&teile.fenster, [this] { Zeige(); });
 }
 
 /// A way that led to nothing, such as a file dialog that was cancelled, leads back to the question.

@@ -22,6 +22,8 @@ public:
     /// Opens the editor, after asking for a configuration where there is none, and writes to the controller
     /// what the editor hands over.
     void Bearbeite();
+    /// Shows the report about the configuration, in which another one can be imported.
+    void Berichte();
     /// Lets the user choose a configuration; false when he chose none.
     bool FrageNachKonfiguration();
 

@@ -2,6 +2,7 @@
 
 #include "dateidialog.h"
 #include "dateien.h"
+#include "dateiziel.h"
 #include "einstellungen.h"
 #include "konfigurationsdatei.h"
 #include "letztedateien.h"
@@ -18,7 +19,6 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextDateifilter = 2000;
-constexpr std::int16_t TextErsetzen = 2001;
 constexpr std::int16_t TextOeffnen = 2004;
 constexpr std::int16_t TextSpeichernUnter = 2005;
 constexpr std::int16_t TextAenderungenSpeichern = 6002;
@@ -34,18 +34,6 @@ void ZeigeDateifehler(const std::string& fehlertext, const std::string& pfad) {
     ZeigeWarnung(Dateifehlertext(fehlertext, pfad));
 }
 
-bool DarfErsetzen(const std::string& pfad) {
-    return DieUmgebung().ZeigeMeldung({.text = pfad + LadeText(TextErsetzen),
-                                       .symbol = Symbol::Warnung,
-                                       .knoepfe = Knoepfe::OkAbbrechen}) == Antwort::Ok;
-}
-
-/// The folder part of a path, empty where it has none.
-std::string Ordner(const std::string& pfad) {
-    const auto ende = pfad.find_last_of("/\\");
-    return ende == std::string::npos ? std::string() : pfad.substr(0, ende + 1);
-}
-
 /// Where the user last had to do with a configuration file; empty = nowhere yet.
 std::string LetzterOrdner() {
     const auto zuletzt = LetzteDateien();
@@ -54,21 +42,6 @@ std::string LetzterOrdner() {
         if (std::string ordner = Ordner(pfad); !ordner.empty())
             return ordner;
     return {};
-}
-
-/// A path that is free or may be replaced; nothing when the dialog was cancelled.
-std::optional<std::string> WaehleZiel() {
-    Dateifrage frage{.art = Dateiwahl::Speichern,
-                     .titel = LadeText(TextSpeichernUnter),
-                     .filter = LadeText(TextDateifilter),
-                     .ordner = LetzterOrdner(),
-                     .name = modDaten::GetDateiname()};
-    while (auto pfad = FrageNachDatei(frage)) {
-        if (!GibtEsDatei(*pfad) || DarfErsetzen(*pfad))
-            return pfad;
-        frage.name = *pfad;
-    }
-    return std::nullopt;
 }
 
 bool Speichere(const std::string& pfad) {
@@ -98,7 +71,10 @@ std::string Dateifehlertext(const std::string& fehlertext, const std::string& pf
 }
 
 bool KonfigurationSpeichernUnter() {
-    const auto pfad = WaehleZiel();
+    const auto pfad = FrageNachZiel({.titel = LadeText(TextSpeichernUnter),
+                                     .filter = LadeText(TextDateifilter),
+                                     .ordner = LetzterOrdner(),
+                                     .name = modDaten::GetDateiname()});
     return pfad.has_value() && Speichere(*pfad);
 }
 

@@ -8,10 +8,7 @@ namespace varnoth {
 
 namespace {
 
-constexpr double Lochzuschlag = 1;  // mm
-constexpr double Sendeverzug = 0.5; // ms
-constexpr double BitsJeByte = 11;   // on the line
-constexpr double MillisekundenJeSekunde = 1000;
+constexpr double Lochzuschlag = 1; // mm
 
 constexpr Lochregel Lochregeln[] = {
     {5, 1, 8040, 8044},
@@ -19,9 +16,6 @@ constexpr Lochregel Lochregeln[] = {
     {20, 16, 8042, 8046},
     {40, 26, 8043, 8047},
 };
-
-constexpr std::int32_t ErsterBaudcode = 10;
-constexpr std::int32_t Baudraten[] = {1200, 2400, 4800, 9600, 19200, 38400, 57600};
 
 /// Two decimals; a zero has no sign.
 double Gerundet(double wert) {
@@ -86,16 +80,6 @@ Lochergebnis MaximaleLochgeschwindigkeit(double durchmesser, double tz, std::int
     return {AlsErgebnis(kleinstes ? GeschwindigkeitKleinsterLoecher(tz)
                                   : Gerundet(Lochgeschwindigkeit(durchmesser, tz))),
             text};
-}
-
-std::int32_t AutosendBaudrate(std::int32_t autosendformat) {
-    const std::int32_t stelle = (autosendformat & 0xFF) - ErsterBaudcode;
-    return stelle >= 0 && stelle < std::ssize(Baudraten) ? Baudraten[stelle] : 0;
-}
-
-std::int32_t UebertragbareBytes(double tzl, std::int32_t baudrate) {
-    const double bytesJeMs = baudrate / BitsJeByte / MillisekundenJeSekunde;
-    return static_cast<std::int32_t>(std::floor((tzl - Sendeverzug) * bytesJeMs - 1));
 }
 
 } // namespace varnoth

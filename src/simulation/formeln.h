@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <optional>
 
-/// What a light curtain can detect, and what autosend can transmit. Lengths in mm, times in ms, speeds in m/s
-/// (which is mm/ms). tz is the cycle time of an optical part, tzl the longest of all parts. A part that is
+/// What a light curtain can detect. Lengths in mm, times in ms, speeds in m/s
+/// (which is mm/ms). tz is the cycle time of an optical part. A part that is
 /// not there has tz 0; nothing follows from that. A result below 0 or beyond all numbers is none.
 namespace varnoth {
 
@@ -56,11 +56,5 @@ double Lochgeschwindigkeit(double durchmesser, double tz);
 
 /// The shortest object for which there is a speed at all.
 inline constexpr double KuerzestesObjekt = 5;
-
-/// The autosend baud rate in the low byte of communication register 126; 0 for an unknown code.
-std::int32_t AutosendBaudrate(std::int32_t autosendformat);
-
-/// The number of bytes that autosend can transmit in one cycle; below 0 where there is no time for any.
-std::int32_t UebertragbareBytes(double tzl, std::int32_t baudrate);
 
 } // namespace varnoth

@@ -2,6 +2,7 @@
 
 #include "ui_frmSimulation.h"
 
+#include "autosendbudget.h"
 #include "eingabe.h"
 #include "formeln.h"
 #include "gebietszahl.h"

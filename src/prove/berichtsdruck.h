@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPagedPaintDevice>
+#include <QString>
+
+#include <string>
+
+namespace varnoth {
+
+/// A report as it goes to paper.
+struct Berichtsdruck {
+    QString html;
+    QString fuss;      ///< at the foot of each page, beside its number
+    QString seitewort; ///< "Seite %1 von %2"
+};
+
+/// The number of pages on a device, which may not be painted on meanwhile.
+int Seitenzahl(const Berichtsdruck& druck, QPagedPaintDevice& geraet);
+
+/// Paints all pages on a device, black on white whatever the colours of the screen. False when the device
+/// cannot be painted on.
+bool Drucke(const Berichtsdruck& druck, QPagedPaintDevice& geraet);
+
+/// The pages (A4) as a PDF file; empty when it could not be made.
+QByteArray AlsPdf(const Berichtsdruck& druck, const QString& titel);
+
+/// Makes A4 with margins of 15 mm of a device's pages.
+void RichteSeiteEin(QPagedPaintDevice& geraet);
+
+} // namespace varnoth

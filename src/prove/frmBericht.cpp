@@ -1,0 +1,146 @@
+#include "frmBericht.h"
+
+#include "berichtsdruck.h"
+#include "einstellungen.h"
+#include "fensterplatz.h"
+#include "lokalisiereform.h"
+#include "registerabbild.h"
+#include "standtext.h"
+#include "textmitwerten.h"
+#include "ui_frmBericht.h"
+#include "umgebung.h"
+
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QTimer>
+
+namespace varnoth {
+
+namespace {
+
+constexpr const char* Abschnittname = "frmBericht";
+
+constexpr std::int16_t TextSeitenzahl = 9737;
+constexpr std::int16_t TextSeiteVon = 9738;
+constexpr std::int16_t TextKeinDrucker = 9739;
+constexpr std::int16_t TextNichtGedruckt = 9740;
+constexpr std::int16_t TextPdffilter = 9741;
+constexpr std::int16_t TextHtmlfilter = 9742;
+constexpr std::int16_t TextTextfilter = 9674;
+
+constexpr int VerzugMs = 300; // between a typed letter and the new preview
+
+void StellePlatzHer(QWidget& fenster) {
+    Fensterplatz standard;
+    standard.zustand = ZustandNichtGespeichert;
+    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnittname, standard);
+    if (platz.zustand != ZustandNichtGespeichert)
+        WendeAn(platz, fenster);
+}
+
+} // namespace
+
+frmBericht::frmBericht(Berichtsumfeld neues, QWidget* parent)
+    : QDialog(parent), umfeld(std::move(neues)), ui(std::make_unique<Ui::frmBericht>()),
+      papier(std::make_unique<QPrinter>()), verzug(new QTimer(this)) {
+    ui->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    papier->setOutputFormat(QPrinter::PdfFormat);
+    RichteSeiteEin(*papier);
+    vorschau = new QPrintPreviewWidget(papier.get(), this);
+    vorschau->setObjectName("vorschau");
+    ui->rahmenVorschau->addWidget(vorschau);
+    verzug->setSingleShot(true);
+    verzug->setInterval(VerzugMs);
+    LokalisiereForm(*this);
+    for (const auto& [eingabe, schluessel] : Eingaben())
+        eingabe->setText(QString::fromStdString(DieEinstellungen().LiesText(Abschnittname, schluessel, "")));
+    Verbinde();
+    StellePlatzHer(*this);
+    Zeige();
+}
+
+frmBericht::~frmBericht() = default;
+
+std::vector<std::pair<QLineEdit*, const char*>> frmBericht::Eingaben() const {
+    return {{ui->txtAnlage, "Anlage"}, {ui->txtMaschine, "Maschine"}, {ui->txtPerson, "Person"}};
+}
+
+void frmBericht::Verbinde() {
+    connect(vorschau, &QPrintPreviewWidget::paintRequested, this,
+            [this](QPrinter* drucker) { Drucke(Druck(), *drucker); });
+    connect(verzug, &QTimer::timeout, this, [this] { Zeige(); });
+    for (const auto& [eingabe, schluessel] : Eingaben())
+        connect(eingabe, &QLineEdit::textEdited, verzug, qOverload<>(&QTimer::start));
+    connect(ui->cmdDrucken, &QPushButton::clicked, this, [this] { DruckeAufPapier(); });
+    connect(ui->cmdPdf, &QPushButton::clicked, this, [this] { SpeicherePdf(); });
+    connect(ui->cmdHtml, &QPushButton::clicked, this,
+            [this] { umfeld.speichere(LadeText(TextHtmlfilter), umfeld.name + ".html", Html()); });
+    connect(ui->cmdTextExport, &QPushButton::clicked, this, [this] {
+        umfeld.speichere(LadeText(TextTextfilter), umfeld.name + ".txt",
+                         Standtext(OhneMomentanes(modDaten::DasAbbild())));
+    });
+    connect(ui->cmdTextImport, &QPushButton::clicked, this, [this] { ImportiereText(); });
+    connect(ui->cmdSchliessen, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+Berichtsangaben frmBericht::Angaben() const {
+    Berichtsangaben angaben = umfeld.angaben();
+    angaben.anlage = ui->txtAnlage->text().toStdString();
+    angaben.maschine = ui->txtMaschine->text().toStdString();
+    angaben.person = ui->txtPerson->text().toStdString();
+    return angaben;
+}
+
+std::string frmBericht::Html() const {
+    return Bericht(modDaten::DasAbbild(), Angaben());
+}
+
+Berichtsdruck frmBericht::Druck() const {
+    return {QString::fromStdString(Html()),
+            QString::fromStdString(Berichtsfuss(modDaten::DasAbbild(), Angaben())),
+            QString::fromStdString(LadeText(TextSeiteVon))};
+}
+
+void frmBericht::Zeige() {
+    const int seiten = Seitenzahl(Druck(), *papier);
+    ui->lblSeiten->setText(QString::fromStdString(LadeTextMit(TextSeitenzahl, {std::to_string(seiten)})));
+    vorschau->updatePreview();
+}
+
+void frmBericht::DruckeAufPapier() {
+    if (umfeld.drucker().isEmpty())
+        return ZeigeWarnung(LadeText(TextKeinDrucker));
+    QPrinter drucker(QPrinter::HighResolution);
+    RichteSeiteEin(drucker);
+    drucker.setDocName(windowTitle());
+    if (umfeld.waehleDrucker(drucker) && !Drucke(Druck(), drucker))
+        ZeigeWarnung(LadeText(TextNichtGedruckt));
+}
+
+void frmBericht::SpeicherePdf() {
+    umfeld.speichere(LadeText(TextPdffilter), umfeld.name + ".pdf",
+                     AlsPdf(Druck(), windowTitle()).toStdString());
+}
+
+void frmBericht::ImportiereText() {
+    umfeld.importiereText();
+    Zeige();
+}
+
+void frmBericht::showEvent(QShowEvent* ereignis) {
+    QDialog::showEvent(ereignis);
+    VerfolgePlatz(*this);
+    vorschau->fitToWidth();
+    vorschau->setViewMode(QPrintPreviewWidget::AllPagesView);
+}
+
+void frmBericht::done(int ergebnis) {
+    for (const auto& [eingabe, schluessel] : Eingaben())
+        DieEinstellungen().SchreibText(Abschnittname, schluessel, eingabe->text().toStdString());
+    if (const auto platz = PlatzVon(*this))
+        SchreibFensterplatz(DieEinstellungen(), Abschnittname, *platz);
+    QDialog::done(ergebnis);
+}
+
+} // namespace varnoth

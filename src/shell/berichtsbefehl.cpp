@@ -1,0 +1,86 @@
+#include "berichtsbefehl.h"
+
+#include "dateiziel.h"
+#include "frmBericht.h"
+#include "geraetestand.h"
+#include "klartext.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "standtext.h"
+#include "textimport.h"
+#include "textmitwerten.h"
+#include "transaktionen.h"
+#include "versionstext.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <chrono>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextGelesen = 9746;
+
+QString Zeittext(const QDateTime& zeit) {
+    return zeit.toString(GetSprachoffset() == Englisch ? QStringLiteral("MM/dd/yyyy HH:mm")
+                                                       : QStringLiteral("dd.MM.yyyy HH:mm"));
+}
+
+std::string Namensvorschlag() {
+    const QString name = QFileInfo(QString::fromStdString(modDaten::GetDateiname())).completeBaseName();
+    return name.isEmpty() ? std::string("Varnoth") : name.toStdString();
+}
+
+/// Where the configuration comes from, if it is still the one that the controller held when it was read.
+void NenneGeraet(Berichtsangaben& angaben) {
+    const auto stand = modGeraetestand::HoleGeraetestand();
+    if (!stand || !stand->IstVollstaendig() ||
+        OhneMomentanes(stand->abbild) != OhneMomentanes(modDaten::DasAbbild()))
+        return;
+    const auto sekunden = std::chrono::system_clock::to_time_t(stand->zeit);
+    angaben.quelle =
+        LadeTextMit(TextGelesen, {Zeittext(QDateTime::fromSecsSinceEpoch(sekunden)).toStdString()});
+    angaben.geraetezustand =
+        Klartext(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus,
+                 stand->abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus));
+    if (stand->ausDieserVerbindung && modModbus::GetIdentGueltig() != False) {
+        angaben.geraetename = modModbus::GetIdentText1();
+        angaben.copyright = modModbus::GetIdentText3();
+    }
+}
+
+Berichtsangaben Angaben() {
+    Berichtsangaben angaben;
+    angaben.ausgestellt = Zeittext(QDateTime::currentDateTime()).toStdString();
+    angaben.programmversion = Versionstext().toStdString();
+    NenneGeraet(angaben);
+    return angaben;
+}
+
+bool WaehleDrucker(QPrinter& drucker) {
+    return QPrintDialog(&drucker).exec() == QDialog::Accepted;
+}
+
+} // namespace
+
+void ZeigeBericht(QWidget* eltern, const std::function<void()>& nachImport) {
+    const auto importiere = [&nachImport] {
+        if (ImportiereKonfigurationstext())
+            nachImport();
+    };
+    frmBericht({.angaben = Angaben,
+                .name = Namensvorschlag(),
+                .speichere = SpeichereDokument,
+                .importiereText = importiere,
+                .drucker = QPrinterInfo::availablePrinterNames,
+                .waehleDrucker = WaehleDrucker},
+               eltern)
+        .exec();
+}
+
+} // namespace varnoth
