@@ -28,6 +28,7 @@ struct Zustand {
     std::string letzteAntwort{};  ///< the one that was believed last
     std::string ungefragtes{};    ///< bytes since then that nobody was waiting for
     unsigned long verwundene = 0; ///< breaks after which the line has been quiet for long
+    bool unruhig = false;         ///< the line did not become quiet before the last request
 };
 
 Zustand zustand;
@@ -105,6 +106,19 @@ bool ErwarteIdentAntwort(std::string& strom, Zeit ende) {
     }
 }
 
+/// Takes the reply to an identification request wherever it comes among what a controller sends by itself.
+bool EmpfangeUnterAnderem(Erkenner& erkenner) {
+    constexpr Zeit Suchdauer = std::chrono::milliseconds(250);
+    std::string strom;
+    return ErwarteIdentAntwort(strom, DieUmgebung().Uhr() + Suchdauer) &&
+           erkenner.Verarbeite(zustand.letzteAntwort) && erkenner.Fertig() && erkenner.CrcStimmt();
+}
+
+void WarteVorAnforderung(Zeit ruhe) {
+    NimmUngefragtes(WarteAufRuhe(ruhe));
+    zustand.unruhig = !IstRuhig(ruhe);
+}
+
 /// Asks for an identification, whose reply comes behind all that was asked before, and lets that pass. At
 /// most one second in all. True once no late reply can be mistaken for the one to the given request.
 bool Klaere(const std::string& anforderung) {
@@ -137,7 +151,7 @@ bool Bereite(const std::string& anforderung, Verlass verlass) {
         zustand.zuordnung.Ueberzaehliges();
     if (!unerwartetes && zustand.zuordnung.Leer())
         return true;
-    NimmUngefragtes(WarteAufRuhe());
+    WarteVorAnforderung(Ruhezeit);
     if (verlass == Verlass::Voll && zustand.zuordnung.Verwechselbar(anforderung) && !Klaere(anforderung))
         return false;
     return GetPortIstOffen() == True; // a command may have closed it meanwhile
@@ -148,7 +162,7 @@ bool BereiteUndSende(const std::string& anforderung, Verlass verlass) {
     do {
         if (!Bereite(anforderung, verlass))
             return false;
-    } while (!Sende(anforderung, std::exchange(trotzdem, true)));
+    } while (!Sende(anforderung, std::exchange(trotzdem, true) || zustand.unruhig));
     return true;
 }
 
@@ -179,11 +193,19 @@ void BewerteErfolg(const std::string& anforderung, const Erkenner& erkenner, con
 
 bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     HoleVerlorenenPortZurueck();
+    zustand.unruhig = false;
     if (!BereiteUndSende(anforderung, verlass))
         return false;
     std::string strom;
-    if (!Empfange(erkenner, strom)) {
+    if (zustand.unruhig && anforderung == IdentifikationsAnforderung()) {
+        if (!EmpfangeUnterAnderem(erkenner))
+            return false;
+    } else if (!Empfange(erkenner, strom)) {
         BewerteScheitern(anforderung, strom);
+        return false;
+    }
+    if (KamZuFrueh() && !zustand.unruhig) {
+        zustand.gewissheit.Gebrochen();
         return false;
     }
     BewerteErfolg(anforderung, erkenner, strom);
@@ -219,13 +241,19 @@ unsigned long Brueche() {
     return zustand.gewissheit.Brueche();
 }
 
+bool IstUnruhig() {
+    return zustand.unruhig;
+}
+
 bool Vergewissere() {
     HoleVerlorenenPortZurueck();
     NimmUngefragtes(NimmVerworfenes());
     if (GetPortIstOffen() == False)
         return false;
     // Even the answer to an identification can come twice: after a break none may be under way.
-    NimmUngefragtes(WarteAufRuhe(Brueche() == zustand.verwundene ? Ruhezeit : LangeRuhe));
+    WarteVorAnforderung(Brueche() == zustand.verwundene ? Ruhezeit : LangeRuhe);
+    if (zustand.unruhig)
+        return false;
     const unsigned long bruecheDavor = zustand.verwundene = Brueche();
     const std::string frage = IdentifikationsAnforderung();
     Sende(frage, true);

@@ -36,9 +36,12 @@ unsigned long GewissBis();
 /// How often something unasked or misfitting has come: what was provisional then is worth nothing.
 unsigned long Brueche();
 
+/// Whether the line did not become quiet before the last request: the controller sends by itself.
+bool IstUnruhig();
+
 /// Settles whose turn it is: waits for quiet, after a break for long, and asks for an identification, whose
 /// reply must come first; at most three seconds in all. True makes all exchanges so far certain, unless a
-/// break has come meanwhile.
+/// break has come meanwhile. False when another reply came first or the line did not become quiet.
 bool Vergewissere();
 
 /// Listens for 200 ms: a reply that is one too many comes within that time. True when none came.

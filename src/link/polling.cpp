@@ -121,6 +121,8 @@ bool MitVersuchen(Transaktion transaktion) {
             NimmVorlaeufigesZurueck();
             return false;
         }
+        if (!gelungen)
+            BeruhigeGeraet();
         if (modAustausch::Brueche() != zustand.brueche) {
             VerwirfDurchgang();
             return false;
@@ -217,6 +219,7 @@ bool BeginneNachBruch() {
             return false;
         if (geklaert)
             return true;
+        BeruhigeGeraet();
     }
     MeldeVerlust();
     return false;

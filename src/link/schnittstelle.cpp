@@ -227,6 +227,14 @@ void WarteAufRest(std::size_t bytes) {
         derPort->Schlafe(dauer);
 }
 
+bool KamZuFrueh() {
+    return zustand.takt.KamZuFrueh();
+}
+
+bool IstRuhig(Zeit ruhe) {
+    return CommPortBytesAvailable() == 0 && DieUmgebung().Uhr() >= zustand.letzterEingang + ruhe;
+}
+
 std::string WarteAufRuhe(Zeit ruhe) {
     const Zeit spaetestens = DieUmgebung().Uhr() + std::max(LaengsteUnruhe, 3 * ruhe);
     std::string angekommenes;

@@ -63,11 +63,15 @@ void CommPortWriteOutput(std::string_view daten);
 /// Sleeps as long as, by the line's pace, so many further bytes of the reply cannot have arrived yet, at most
 /// until the window's turn. Returns at once where nothing is known of the pace.
 void WarteAufRest(std::size_t bytes);
+/// Whether what was read since the last write came too early to be a reply to it.
+bool KamZuFrueh();
 /// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
 /// asks CommPortBytesAvailable whether the time ran out.
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);
 /// How long a line in use is quiet at least when nothing is under way; USB adapters hand over every 16 ms.
 inline constexpr Zeit Ruhezeit = std::chrono::milliseconds(20);
+/// Whether nothing has come for so long.
+bool IstRuhig(Zeit ruhe = Ruhezeit);
 /// Takes what arrives until nothing has for so long, at most for one second or three times as long. Returns
 /// at once when the line has been quiet for that time already.
 std::string WarteAufRuhe(Zeit ruhe = Ruhezeit);

@@ -1,6 +1,7 @@
 #include "schrittfolge.h"
 
 #include "austausch.h"
+#include "transaktionen.h"
 #include "umgebung.h"
 
 namespace varnoth {
@@ -33,6 +34,8 @@ Schrittfolge::Ausgang Schrittfolge::Tue(std::size_t schritt) {
         DieUmgebung().LasseEreignisseLaufen();
         if (abgebrochen())
             return Ausgang::Abgebrochen;
+        if (!gelungen)
+            modModbus::BeruhigeGeraet();
         if (modAustausch::Brueche() != bruecheDavor)
             return Ausgang::Gestoert;
         if (gelungen)
@@ -48,6 +51,8 @@ Schrittfolge::Ausgang Schrittfolge::TueBewacht() {
         DieUmgebung().LasseEreignisseLaufen();
         if (abgebrochen())
             return Ausgang::Abgebrochen;
+        if (!vergewissert)
+            modModbus::BeruhigeGeraet();
     }
     const unsigned long bruecheDavor = modAustausch::Brueche();
     const bool waehlt = !gewaehlt;

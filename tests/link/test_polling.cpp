@@ -379,6 +379,25 @@ TEST_F(PollingMitWiederholungTest, Beam_states_that_come_twice_are_not_left_stan
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
+TEST_F(PollingMitWiederholungTest,
+       Wherever_a_reply_of_a_pass_comes_again_nothing_wrong_stays_for_longer_than_a_pass) {
+    VerbindeGleichlange();
+    for (const auto nach : {0ms, 10ms, 40ms, 120ms})
+        for (int welche = 0; welche < 5; ++welche) {
+            Wiederhole(welche, nach);
+            for (int durchgang = 0; durchgang < 4; ++durchgang) {
+                PollingZyklus();
+                if (durchgang > 0) {
+                    EXPECT_EQ(Spezifisch(0, 335, 18), 9) << welche << ' ' << nach.count();
+                    EXPECT_EQ(Strahlen(18), 5) << welche << ' ' << nach.count();
+                }
+            }
+            umgebung.uhr += 5s;
+        }
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(GetOptikteilStatus(0), Vorhanden);
+}
+
 TEST_F(PollingMitWiederholungTest, Behind_a_reply_too_many_an_identification_comes_first) {
     VerbindeGleichlange();
     Wiederhole(2, 3ms);

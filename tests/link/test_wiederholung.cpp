@@ -268,6 +268,18 @@ TEST_F(WiederholungTest, Nothing_is_certain_while_the_answer_to_the_identificati
     EXPECT_EQ(modAustausch::GewissBis(), modAustausch::Letzter());
 }
 
+TEST_F(WiederholungTest, A_reply_that_is_there_before_its_request_can_have_left_is_not_believed) {
+    for (int i = 0; i < 25; ++i)
+        Lies(i % 10); // the line is seen to keep its pace
+    basis = static_cast<int>(port.gesendet.size());
+    const auto bruecheDavor = modAustausch::Brueche();
+    Wiederhole(1, 1, 3ms);
+    EXPECT_EQ(Lies(0), 1000);
+    EXPECT_EQ(Lies(1), -1) << "1 ms behind the request";
+    EXPECT_GT(modAustausch::Brueche(), bruecheDavor);
+    EXPECT_EQ(Lies(1), 1001);
+}
+
 TEST_F(WiederholungTest, Listening_hears_a_reply_that_is_one_too_many) {
     Lies(5);
     EXPECT_TRUE(modAustausch::Lausche());
