@@ -1,6 +1,8 @@
 #include "austausch.h"
 
 #include "erkenner.h"
+#include "gestalt.h"
+#include "gewissheit.h"
 #include "leitungsstatistik.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
@@ -8,6 +10,7 @@
 #include "zuordnung.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace varnoth::modAustausch {
 
@@ -16,15 +19,49 @@ namespace {
 using namespace modSchnittstelle;
 
 constexpr int Antwortzeit = 1000; // milliseconds of silence that end an exchange
+/// Longer than a reply comes behind its first.
+constexpr Zeit LangeRuhe = std::chrono::milliseconds(600);
 
-Zuordnung zuordnung;
-const Startwert startwert(zuordnung);
+struct Zustand {
+    Zuordnung zuordnung{};
+    Gewissheit gewissheit{};
+    std::string letzteAntwort{};  ///< the one that was believed last
+    std::string ungefragtes{};    ///< bytes since then that nobody was waiting for
+    unsigned long verwundene = 0; ///< breaks after which the line has been quiet for long
+    bool unruhig = false;         ///< the line did not become quiet before the last request
+};
 
-void Sende(const std::string& anforderung) {
+Zustand zustand;
+const Startwert startwert(zustand);
+
+/// A copy right behind its original does no harm while there is nothing but this one exchange in doubt: the
+/// value is the same whichever of the two it was taken from.
+bool IstHarmlos(std::string_view antwort) {
+    return antwort == zustand.letzteAntwort &&
+           zustand.gewissheit.Letzter() <= zustand.gewissheit.GewissBis() + 1;
+}
+
+/// Takes note of bytes that nobody was waiting for. A whole reply among them is a break.
+void NimmUngefragtes(std::string_view bytes) {
+    zustand.ungefragtes += bytes;
+    const auto antworten = SucheAntworten(zustand.ungefragtes);
+    if (!std::ranges::all_of(antworten, IstHarmlos))
+        zustand.gewissheit.Gebrochen();
+    if (!antworten.empty())
+        zustand.ungefragtes.clear();
+}
+
+/// Sends the request. False when bytes have come before it could be sent, which nobody was waiting for;
+/// `trotzdem` sends it all the same.
+bool Sende(const std::string& anforderung, bool trotzdem) {
     ClearCommPort();
+    WarteSendepause();
+    if (!trotzdem && CommPortBytesAvailable() > 0)
+        return false;
     if (GetPortIstOffen() == True)
-        zuordnung.Gesendet(anforderung);
+        zustand.zuordnung.Gesendet(anforderung);
     CommPortWriteOutput(anforderung);
+    return true;
 }
 
 int MillisekundenBis(Zeit ende) {
@@ -32,28 +69,54 @@ int MillisekundenBis(Zeit ende) {
     return static_cast<int>(std::max(rest.count(), std::chrono::milliseconds::rep{0}));
 }
 
-bool Empfange(Erkenner& erkenner) {
+/// Feeds what arrives to the recogniser; `strom` gathers it.
+bool Empfange(Erkenner& erkenner, std::string& strom) {
     while (!erkenner.Fertig()) {
         const Zeit ende = DieUmgebung().Uhr() + std::chrono::milliseconds(Antwortzeit);
         WarteAufRest(erkenner.MindestensNoch());
         WarteAufZeichen(MillisekundenBis(ende), True);
         if (CommPortBytesAvailable() == 0)
             return false;
-        if (!erkenner.Verarbeite(CommPortReadInput()))
+        const std::string bytes = CommPortReadInput();
+        strom += bytes;
+        if (!erkenner.Verarbeite(bytes))
             return false;
     }
     return erkenner.CrcStimmt();
 }
 
-/// Reads on until the stream holds an identification reply, and takes it out of it.
+/// Reads on until the stream holds an identification reply, and takes it out of it. What came before it
+/// nobody was waiting for.
 bool ErwarteIdentAntwort(std::string& strom, Zeit ende) {
-    while (!NimmIdentAntwort(strom)) {
+    for (;;) {
+        const std::string bisher = strom;
+        if (NimmIdentAntwort(strom)) {
+            const std::string_view davor = std::string_view(bisher).substr(0, bisher.size() - strom.size());
+            const std::string_view identAntwort = SucheAntworten(davor).back();
+            NimmUngefragtes(davor.substr(0, davor.size() - identAntwort.size()));
+            zustand.letzteAntwort = identAntwort;
+            return true;
+        }
         WarteAufZeichen(MillisekundenBis(ende), True);
-        if (CommPortBytesAvailable() == 0)
+        if (CommPortBytesAvailable() == 0) {
+            NimmUngefragtes(std::exchange(strom, {}));
             return false;
+        }
         strom += CommPortReadInput();
     }
-    return true;
+}
+
+/// Takes the reply to an identification request wherever it comes among what a controller sends by itself.
+bool EmpfangeUnterAnderem(Erkenner& erkenner) {
+    constexpr Zeit Suchdauer = std::chrono::milliseconds(250);
+    std::string strom;
+    return ErwarteIdentAntwort(strom, DieUmgebung().Uhr() + Suchdauer) &&
+           erkenner.Verarbeite(zustand.letzteAntwort) && erkenner.Fertig() && erkenner.CrcStimmt();
+}
+
+void WarteVorAnforderung(Zeit ruhe) {
+    NimmUngefragtes(WarteAufRuhe(ruhe));
+    zustand.unruhig = !IstRuhig(ruhe);
 }
 
 /// Asks for an identification, whose reply comes behind all that was asked before, and lets that pass. At
@@ -63,44 +126,89 @@ bool Klaere(const std::string& anforderung) {
     const Zeit ende = DieUmgebung().Uhr() + std::chrono::milliseconds(Antwortzeit);
     std::string strom;
     // A reply may be that to an older identification request; then it takes one more.
-    while (zuordnung.Verwechselbar(anforderung)) {
-        Sende(frage);
+    while (zustand.zuordnung.Verwechselbar(anforderung)) {
+        Sende(frage, true);
         if (!ErwarteIdentAntwort(strom, ende))
             return false;
         do
-            zuordnung.Beantwortet(frage);
+            zustand.zuordnung.Beantwortet(frage);
         while (NimmIdentAntwort(strom));
     }
-    if (!strom.empty() || !zuordnung.Leer())
-        WarteAufRuhe();
+    if (!strom.empty() || !zustand.zuordnung.Leer())
+        NimmUngefragtes(strom + WarteAufRuhe());
     return true;
 }
 
 /// Gets the line ready for a request. False when the request must not be sent.
 bool Bereite(const std::string& anforderung, Verlass verlass) {
+    const std::string verworfenes = NimmVerworfenes();
+    if (!verworfenes.empty())
+        NimmUngefragtes(verworfenes);
     if (GetPortIstOffen() == False)
         return true;
     const bool unerwartetes = CommPortBytesAvailable() > 0;
     if (unerwartetes)
-        zuordnung.Ueberzaehliges();
-    if (!unerwartetes && zuordnung.Leer())
+        zustand.zuordnung.Ueberzaehliges();
+    if (!unerwartetes && zustand.zuordnung.Leer())
         return true;
-    WarteAufRuhe();
-    if (verlass == Verlass::Voll && zuordnung.Verwechselbar(anforderung) && !Klaere(anforderung))
+    WarteVorAnforderung(Ruhezeit);
+    if (verlass == Verlass::Voll && zustand.zuordnung.Verwechselbar(anforderung) && !Klaere(anforderung))
         return false;
     return GetPortIstOffen() == True; // a command may have closed it meanwhile
 }
 
+bool BereiteUndSende(const std::string& anforderung, Verlass verlass) {
+    bool trotzdem = verlass == Verlass::Keiner;
+    do {
+        if (!Bereite(anforderung, verlass))
+            return false;
+    } while (!Sende(anforderung, std::exchange(trotzdem, true) || zustand.unruhig));
+    return true;
+}
+
+/// What arrived while a reply was waited for in vain. Its own reply among stray bytes is none too many.
+void BewerteScheitern(const std::string& anforderung, const std::string& strom) {
+    const auto antworten = SucheAntworten(strom);
+    if (antworten.size() > 1 || (antworten.size() == 1 && !Passt(antworten[0], anforderung)))
+        zustand.gewissheit.Gebrochen();
+    // The rest of a reply that has begun may still be on its way.
+    const auto ende = antworten.empty() ? strom.data() : antworten.back().data() + antworten.back().size();
+    zustand.ungefragtes = strom.substr(static_cast<std::size_t>(ende - strom.data()));
+}
+
+void BewerteErfolg(const std::string& anforderung, const Erkenner& erkenner, const std::string& strom) {
+    const std::string_view bisEnde = std::string_view(strom).substr(0, erkenner.Genommen());
+    const auto antworten = SucheAntworten(bisEnde);
+    if (antworten.size() > 1)
+        zustand.gewissheit.Gebrochen();
+    zustand.letzteAntwort = antworten.empty() ? std::string() : std::string(antworten.back());
+    zustand.ungefragtes.clear();
+    zustand.gewissheit.Gelungen(Gestalt(anforderung));
+    zustand.zuordnung.Beantwortet(anforderung);
+    if (!erkenner.Ueberzaehlig())
+        return;
+    zustand.zuordnung.Ueberzaehliges();
+    NimmUngefragtes(std::string_view(strom).substr(erkenner.Genommen()));
+}
+
 bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     HoleVerlorenenPortZurueck();
-    if (!Bereite(anforderung, verlass))
+    zustand.unruhig = false;
+    if (!BereiteUndSende(anforderung, verlass))
         return false;
-    Sende(anforderung);
-    if (!Empfange(erkenner))
+    std::string strom;
+    if (zustand.unruhig && anforderung == IdentifikationsAnforderung()) {
+        if (!EmpfangeUnterAnderem(erkenner))
+            return false;
+    } else if (!Empfange(erkenner, strom)) {
+        BewerteScheitern(anforderung, strom);
         return false;
-    zuordnung.Beantwortet(anforderung);
-    if (erkenner.Ueberzaehlig())
-        zuordnung.Ueberzaehliges();
+    }
+    if (KamZuFrueh() && !zustand.unruhig) {
+        zustand.gewissheit.Gebrochen();
+        return false;
+    }
+    BewerteErfolg(anforderung, erkenner, strom);
     return true;
 }
 
@@ -116,9 +224,58 @@ bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass
 void SendeOhneAntwort(const std::string& rahmen) {
     ClearCommPort();
     // What it changes in the controller matters to requests that are still open.
-    if (!zuordnung.Leer())
-        zuordnung.Gesendet(rahmen);
+    if (!zustand.zuordnung.Leer())
+        zustand.zuordnung.Gesendet(rahmen);
     CommPortWriteOutput(rahmen);
+}
+
+unsigned long Letzter() {
+    return zustand.gewissheit.Letzter();
+}
+
+unsigned long GewissBis() {
+    return zustand.gewissheit.GewissBis();
+}
+
+unsigned long Brueche() {
+    return zustand.gewissheit.Brueche();
+}
+
+bool IstUnruhig() {
+    return zustand.unruhig;
+}
+
+bool Vergewissere() {
+    HoleVerlorenenPortZurueck();
+    NimmUngefragtes(NimmVerworfenes());
+    if (GetPortIstOffen() == False)
+        return false;
+    // Even the answer to an identification can come twice: after a break none may be under way.
+    WarteVorAnforderung(Brueche() == zustand.verwundene ? Ruhezeit : LangeRuhe);
+    if (zustand.unruhig)
+        return false;
+    const unsigned long bruecheDavor = zustand.verwundene = Brueche();
+    const std::string frage = IdentifikationsAnforderung();
+    Sende(frage, true);
+    std::string strom;
+    const Zeit ende = DieUmgebung().Uhr() + std::chrono::milliseconds(Antwortzeit);
+    if (!ErwarteIdentAntwort(strom, ende))
+        return false;
+    zustand.zuordnung.Beantwortet(frage);
+    const bool kamZuerst = Brueche() == bruecheDavor;
+    zustand.gewissheit.Geklaert();
+    NimmUngefragtes(strom);
+    return kamZuerst;
+}
+
+bool Lausche() {
+    constexpr Zeit Dauer = std::chrono::milliseconds(200);
+    const unsigned long bruecheDavor = Brueche();
+    const std::string gehoertes = WarteAufRuhe(Dauer);
+    if (!gehoertes.empty())
+        zustand.zuordnung.Ueberzaehliges();
+    NimmUngefragtes(gehoertes);
+    return Brueche() == bruecheDavor;
 }
 
 } // namespace varnoth::modAustausch

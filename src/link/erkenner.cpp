@@ -31,6 +31,7 @@ bool Erkenner::Verarbeite(std::string_view bytes) {
             ueberzaehlig = true;
             break;
         }
+        ++genommen;
         VerarbeiteByte(static_cast<std::uint8_t>(byte));
         if (abgelehnt > HoechstensAbgelehnt)
             return false;

@@ -4,6 +4,7 @@
 #include "identifikation.h"
 #include "werte.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -33,6 +34,8 @@ public:
     std::size_t MindestensNoch() const;
     /// Whether bytes followed the end of the reply.
     bool Ueberzaehlig() const { return ueberzaehlig; }
+    /// How many bytes were taken until the end of the reply.
+    std::size_t Genommen() const { return genommen; }
 
 protected:
     static constexpr int Adresse = 0;
@@ -57,6 +60,7 @@ private:
 
     int zustand = Adresse;
     int abgelehnt = 0;
+    std::size_t genommen = 0;
     Crc crc = CrcInit();
     std::uint8_t empfangenLow = 0;
     std::uint8_t empfangenHigh = 0;

@@ -12,14 +12,20 @@ namespace {
 constexpr double MikrosekundenJeSekunde = 1e6;
 constexpr double Ganggenauigkeit = 0.97; // the other side's clock may run so much faster
 constexpr std::size_t Vorsicht = 2;      // characters before the last one that are waited for awake
+constexpr int Bewaehrung = 20;           // replies after which a line is known to keep its pace
 constexpr Zeit KuerzesterSchlaf = std::chrono::microseconds(100); // waking takes about as long
 
 } // namespace
 
 void Leitungstakt::Stelle(std::string_view porteinstellungen) {
+    if (empfangen > 0)
+        Bewerte();
+    const auto gelesen = LiesPorteinstellungen(porteinstellungen);
+    const double neue = gelesen ? MikrosekundenJeSekunde * Bitzeiten(*gelesen) / gelesen->baud : 0;
+    const int bewaehrt = neue == zeichendauer ? imTakt : 0;
     *this = {};
-    if (const auto gelesen = LiesPorteinstellungen(porteinstellungen))
-        zeichendauer = MikrosekundenJeSekunde * Bitzeiten(*gelesen) / gelesen->baud;
+    zeichendauer = neue;
+    imTakt = bewaehrt;
 }
 
 Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
@@ -27,7 +33,20 @@ Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
         std::chrono::duration<double, Zeit::period>(zeichendauer * static_cast<double>(zeichen)));
 }
 
+/// What the last reply tells of the line.
+void Leitungstakt::Bewerte() {
+    constexpr int Widerlegung = 3; // so many in a row are no accident
+    zuFruehe = schneller ? zuFruehe + 1 : 0;
+    if (!schneller)
+        imTakt = std::min(imTakt + 1, Bewaehrung);
+    else if (imTakt < Bewaehrung || zuFruehe == Widerlegung)
+        imTakt = 0;
+}
+
 void Leitungstakt::Gesendet(Zeit wann, std::size_t zeichen) {
+    if (empfangen > 0)
+        Bewerte();
+    kamZuFrueh = false;
     sendeende = std::max(sendeende, wann) + Dauer(zeichen);
     sendebeginn = wann;
     gesendet = zeichen;
@@ -42,6 +61,7 @@ void Leitungstakt::Empfangen(Zeit wann, std::size_t zeichen) {
     letzterEingang = wann;
     // Nothing of a reply can be there before the request and so much of the reply have passed the line.
     schneller = schneller || wann - sendebeginn < Dauer(gesendet + empfangen) * Ganggenauigkeit;
+    kamZuFrueh = schneller && imTakt == Bewaehrung;
 }
 
 Zeit Leitungstakt::Schlafdauer(Zeit jetzt, std::size_t fehlende) const {

@@ -13,12 +13,16 @@ namespace varnoth {
 class Leitungstakt {
 public:
     /// Sets the line's speed and format by a port settings string; one that cannot be read means no pace.
+    /// What is known of a line stays while its settings do.
     void Stelle(std::string_view porteinstellungen);
     /// A request of so many characters was handed to the port.
     void Gesendet(Zeit wann, std::size_t zeichen);
     /// So many characters came out of the port, all that were there at that time.
     void Empfangen(Zeit wann, std::size_t zeichen);
 
+    /// Whether something came since the request that is too early for a reply to it, on a line that is
+    /// known to keep its pace.
+    bool KamZuFrueh() const { return kamZuFrueh; }
     /// When the last character handed over has left, reckoned at the line's pace.
     Zeit Sendeende() const { return sendeende; }
     /// How long nothing needs looking for while so many characters of the reply are missing. 0 until the
@@ -27,6 +31,7 @@ public:
 
 private:
     Zeit Dauer(std::size_t zeichen) const;
+    void Bewerte();
 
     double zeichendauer = 0; ///< microseconds; 0: no pace
     Zeit sendebeginn{0};
@@ -35,6 +40,9 @@ private:
     std::size_t empfangen = 0; ///< since the request
     std::size_t gesendet = 0;  ///< characters of the request
     bool schneller = false;
+    bool kamZuFrueh = false;
+    int imTakt = 0;   ///< replies that kept the pace since it was lost
+    int zuFruehe = 0; ///< replies in a row that did not
 };
 
 } // namespace varnoth

@@ -1,5 +1,6 @@
 #include "polling.h"
 
+#include "austausch.h"
 #include "bitsunddatum.h"
 #include "geraetestatus.h"
 #include "registerabbild.h"
@@ -13,6 +14,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace varnoth::modPolling {
 
@@ -38,11 +42,20 @@ struct Zustand {
     int anzahlOptikteile = 0;
     unsigned durchgaenge = 0;
     bool verloren = false;
+    unsigned long brueche = 0; ///< those that the passes have dealt with
+    int verworfene = 0;        ///< passes in a row that a break ended
+};
+
+/// What was stored before it was certain, and how to take it back.
+struct Vorlaeufiges {
+    unsigned long austausch;
+    std::function<void()> nimmZurueck;
 };
 
 Zustand zustand;
+std::vector<Vorlaeufiges> vorlaeufiges;
 PollingZiel* dasZiel = nullptr;
-const Startwert startwert(zustand, dasZiel);
+const Startwert startwert(zustand, vorlaeufiges, dasZiel);
 
 void MeldeVerlust() {
     zustand.verloren = true;
@@ -58,16 +71,62 @@ void MeldeRueckkehr() {
     dasZiel->AktualisiereGeraetestatus();
 }
 
-/// Tries a transaction until it succeeds. False ends the pass: polling was switched off or a command waits,
-/// or the attempts are used up, which the user is told. The last attempt counts as used up whatever its
-/// result.
+/// Keeps at hand what a parameter that was read just now replaces, until the new is certain.
+void MerkeVorlaeufiges(std::function<void()> nimmZurueck) {
+    std::erase_if(vorlaeufiges,
+                  [](const Vorlaeufiges& eines) { return eines.austausch <= modAustausch::GewissBis(); });
+    vorlaeufiges.push_back({modAustausch::Letzter(), std::move(nimmZurueck)});
+}
+
+bool SpeichereParameter(Speicherbereich bereich, std::int16_t adresse, const Werte& werte, int teil) {
+    MerkeVorlaeufiges([=, alte = HoleParameter(bereich, adresse, teil)] {
+        static_cast<void>(SetzeParameter(bereich, adresse, alte, teil));
+    });
+    return SetzeParameter(bereich, adresse, werte, teil);
+}
+
+void SpeichereStrahlen(int teil, std::int16_t anzahl, const Werte& werte) {
+    const auto optikteil = static_cast<std::int16_t>(teil);
+    Werte alte;
+    HoleStrahlzustaende(anzahl, optikteil, alte);
+    MerkeVorlaeufiges([=] { SetzeStrahlzustaende(anzahl, optikteil, alte); });
+    SetzeStrahlzustaende(anzahl, optikteil, werte);
+}
+
+void NimmVorlaeufigesZurueck() {
+    for (auto eines = vorlaeufiges.rbegin(); eines != vorlaeufiges.rend(); ++eines)
+        if (eines->austausch > modAustausch::GewissBis())
+            eines->nimmZurueck();
+    vorlaeufiges.clear();
+}
+
+/// A reply came that nobody was waiting for: what is not certain is taken back, and the pass begins anew.
+void VerwirfDurchgang() {
+    NimmVorlaeufigesZurueck();
+    if (++zustand.verworfene < Versuche)
+        return;
+    zustand.verworfene = 0;
+    MeldeVerlust();
+}
+
+/// Tries a transaction until it succeeds. False ends the pass: polling was switched off, a command waits, a
+/// reply came that nobody was waiting for, or the attempts are used up, which the user is told. The last
+/// attempt counts as used up whatever its result.
 template<class Transaktion>
 bool MitVersuchen(Transaktion transaktion) {
     for (int versuch = 1;;) {
         const bool gelungen = transaktion() != False;
         DieUmgebung().LasseEreignisseLaufen();
-        if (zustand.pollingAktiv == False || dasZiel->BefehlWartet())
+        if (zustand.pollingAktiv == False || dasZiel->BefehlWartet()) {
+            NimmVorlaeufigesZurueck();
             return false;
+        }
+        if (!gelungen)
+            BeruhigeGeraet();
+        if (modAustausch::Brueche() != zustand.brueche) {
+            VerwirfDurchgang();
+            return false;
+        }
         if (++versuch > Versuche) {
             MeldeVerlust();
             return false;
@@ -89,7 +148,7 @@ bool Lies(Speicherbereich bereich, std::int16_t adresse, std::int16_t anzahl, We
 bool LiesParameter(Speicherbereich bereich, std::int16_t adresse, int teil = 0) {
     Werte werte;
     return Lies(bereich, adresse, Beschreibung(bereich, adresse).Laenge, werte) &&
-           SetzeParameter(bereich, adresse, werte, teil);
+           SpeichereParameter(bereich, adresse, werte, teil);
 }
 
 bool LiesStrahlen(int teil, LiveAnsicht& ansicht) {
@@ -97,7 +156,7 @@ bool LiesStrahlen(int teil, LiveAnsicht& ansicht) {
     Werte werte;
     if (anzahl > 0 && !Lies(Spezifisch, spezifisch::Strahlzustaende, anzahl, werte))
         return false;
-    SetzeStrahlzustaende(anzahl, static_cast<std::int16_t>(teil), werte);
+    SpeichereStrahlen(teil, anzahl, werte);
     ansicht.StrahlzustaendeLiegenVor();
     ansicht.BlankingBekannt();
     return true;
@@ -115,6 +174,11 @@ bool UebernimmAnwesenheit(int teil, std::int32_t statusregister) {
     const auto neu = ZustandAus(statusregister);
     if (neu == GetOptikteilStatus(teil))
         return true;
+    // On a line that repeats replies nothing is said before this is certain to have been the part's own.
+    if (modAustausch::Brueche() > 0 && !modAustausch::Lausche()) {
+        VerwirfDurchgang();
+        return false;
+    }
     SetzeOptikteilStatus(teil, neu);
     dasZiel->AktualisiereGeraetestatus();
     ZeigeWarnung(LadeText(TextAnzahlGeaendert), LadeText(TextAchtung));
@@ -143,6 +207,24 @@ bool PolleGlobalstatus() {
     return true;
 }
 
+/// After a break it is settled first whose turn it is, which may take several attempts. False ends the pass.
+bool BeginneNachBruch() {
+    if (modAustausch::Brueche() == zustand.brueche)
+        return true;
+    for (int versuch = 1; versuch < Versuche; ++versuch) {
+        const bool geklaert = modAustausch::Vergewissere();
+        zustand.brueche = modAustausch::Brueche();
+        DieUmgebung().LasseEreignisseLaufen();
+        if (zustand.pollingAktiv == False || dasZiel->BefehlWartet())
+            return false;
+        if (geklaert)
+            return true;
+        BeruhigeGeraet();
+    }
+    MeldeVerlust();
+    return false;
+}
+
 } // namespace
 
 void SetzeZiel(PollingZiel* ziel) {
@@ -154,9 +236,12 @@ void StartePolling() {
     zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
     zustand.verloren = false;
     zustand.durchgaenge = 0;
+    zustand.brueche = modAustausch::Brueche();
+    zustand.verworfene = 0;
 }
 
 void StoppePolling() {
+    NimmVorlaeufigesZurueck();
     modSchnittstelle::CloseCommPort();
     zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
 }
@@ -201,12 +286,15 @@ int GeleseneStrahlregister(std::int32_t strahlenzahl) {
 }
 
 void PollingZyklus() {
+    if (!BeginneNachBruch())
+        return;
     for (int teil = 0; teil < zustand.anzahlOptikteile; ++teil)
         if (!PolleOptikteil(teil))
             return;
     if (!PolleGlobalstatus())
         return;
     ++zustand.durchgaenge;
+    zustand.verworfene = 0;
     MeldeRueckkehr();
 }
 

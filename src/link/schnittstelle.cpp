@@ -14,7 +14,6 @@ namespace varnoth::modSchnittstelle {
 namespace {
 
 constexpr Zeit Sendepause = std::chrono::milliseconds(2);
-constexpr Zeit Ruhezeit = std::chrono::milliseconds(20); // USB adapters hand over every 16 ms
 constexpr Zeit LaengsteUnruhe = std::chrono::seconds(1);
 constexpr Zeit LaengstesLeeren = std::chrono::seconds(1);
 
@@ -27,6 +26,7 @@ struct Zustand {
     Zeit letzterEingang{0};
     Leitungstakt takt;
     bool gesendetSeitOeffnen = false;
+    std::string verworfenes{};
 };
 
 Zustand zustand;
@@ -40,6 +40,20 @@ bool LiesOffenstand() {
 
 void MerkeAktivitaet() {
     zustand.letzteAktivitaet = DieUmgebung().Uhr();
+}
+
+/// What nobody was waiting for may be a reply all the same.
+void MerkeVerworfenes(std::string_view bytes) {
+    constexpr std::size_t Hoechstens = 4096;
+    zustand.verworfenes += bytes;
+    if (zustand.verworfenes.size() > Hoechstens)
+        zustand.verworfenes.erase(0, zustand.verworfenes.size() - Hoechstens);
+}
+
+void VerwirfEingang() {
+    if (derPort->BytesWartend() > 0)
+        MerkeVerworfenes(derPort->LiesAlles());
+    derPort->Verwirf();
 }
 
 void OeffnePort() {
@@ -117,6 +131,7 @@ void CloseCommPort() {
     zustand.sollOffenSein = false;
     if (derPort != nullptr && zustand.portIstOffen != False) {
         LeereSender();
+        VerwirfEingang();
         derPort->Schliesse();
     }
     LiesOffenstand();
@@ -145,11 +160,11 @@ void HoleVerlorenenPortZurueck() {
 
 void ClearCommPort() {
     if (derPort != nullptr)
-        derPort->Verwirf();
+        VerwirfEingang();
     DieUmgebung().LasseEreignisseLaufen();
     if (LiesOffenstand()) {
         modTrace::SchreibeLeerung();
-        CommPortReadInput();
+        MerkeVerworfenes(CommPortReadInput());
     }
     DieUmgebung().LasseEreignisseLaufen();
     MerkeAktivitaet();
@@ -174,12 +189,20 @@ std::string CommPortReadInput() {
     return bytes;
 }
 
-void CommPortWriteOutput(std::string_view daten) {
-    if (!LiesOffenstand())
-        return;
+void WarteSendepause() {
     const Zeit frei = zustand.letzteAktivitaet + Sendepause;
     for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < frei; jetzt = DieUmgebung().Uhr())
         DieUmgebung().WarteAufEreignis(frei - jetzt);
+}
+
+std::string NimmVerworfenes() {
+    return std::exchange(zustand.verworfenes, {});
+}
+
+void CommPortWriteOutput(std::string_view daten) {
+    if (!LiesOffenstand())
+        return;
+    WarteSendepause();
     zustand.takt.Gesendet(DieUmgebung().Uhr(), daten.size());
     zustand.gesendetSeitOeffnen = true;
     derPort->Schreibe(daten);
@@ -204,15 +227,24 @@ void WarteAufRest(std::size_t bytes) {
         derPort->Schlafe(dauer);
 }
 
-void WarteAufRuhe() {
-    const Zeit spaetestens = DieUmgebung().Uhr() + LaengsteUnruhe;
+bool KamZuFrueh() {
+    return zustand.takt.KamZuFrueh();
+}
+
+bool IstRuhig(Zeit ruhe) {
+    return CommPortBytesAvailable() == 0 && DieUmgebung().Uhr() >= zustand.letzterEingang + ruhe;
+}
+
+std::string WarteAufRuhe(Zeit ruhe) {
+    const Zeit spaetestens = DieUmgebung().Uhr() + std::max(LaengsteUnruhe, 3 * ruhe);
+    std::string angekommenes;
     for (;;) {
         if (CommPortBytesAvailable() > 0)
-            CommPortReadInput();
-        const Zeit ende = std::min(zustand.letzterEingang + Ruhezeit, spaetestens);
+            angekommenes += CommPortReadInput();
+        const Zeit ende = std::min(zustand.letzterEingang + ruhe, spaetestens);
         const Zeit jetzt = DieUmgebung().Uhr();
         if (jetzt >= ende)
-            return;
+            return angekommenes;
         SchlafeBisEingang(ende - jetzt);
     }
 }

@@ -49,6 +49,10 @@ void HoleVerlorenenPortZurueck();
 
 /// Discards what was received and starts the pause before the next write.
 void ClearCommPort();
+/// Waits for the end of the pause before the next write.
+void WarteSendepause();
+/// What was discarded since the last call because the port was cleared or closed; the newest 4096 bytes.
+std::string NimmVerworfenes();
 /// Number of received bytes waiting, at most 32767.
 std::int16_t CommPortBytesAvailable();
 /// Every byte waiting; empty when the port is not open.
@@ -59,12 +63,18 @@ void CommPortWriteOutput(std::string_view daten);
 /// Sleeps as long as, by the line's pace, so many further bytes of the reply cannot have arrived yet, at most
 /// until the window's turn. Returns at once where nothing is known of the pace.
 void WarteAufRest(std::size_t bytes);
+/// Whether what was read since the last write came too early to be a reply to it.
+bool KamZuFrueh();
 /// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
 /// asks CommPortBytesAvailable whether the time ran out.
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);
-/// Discards what arrives until nothing has for 20 ms, at most for one second. Returns at once when the line
-/// has been quiet for so long already.
-void WarteAufRuhe();
+/// How long a line in use is quiet at least when nothing is under way; USB adapters hand over every 16 ms.
+inline constexpr Zeit Ruhezeit = std::chrono::milliseconds(20);
+/// Whether nothing has come for so long.
+bool IstRuhig(Zeit ruhe = Ruhezeit);
+/// Takes what arrives until nothing has for so long, at most for one second or three times as long. Returns
+/// at once when the line has been quiet for that time already.
+std::string WarteAufRuhe(Zeit ruhe = Ruhezeit);
 /// Acts on the port's error events: an overflow of the receive buffer discards the input, all others pass.
 void BehandleCommEreignis(int ereignis);
 

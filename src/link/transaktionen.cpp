@@ -162,6 +162,11 @@ void SchreibeSteuerwert2() {
     SchreibeSteuerwert(SteuerwertAutosendEin);
 }
 
+void BeruhigeGeraet() {
+    if (modAustausch::IstUnruhig() && ident.gueltig == True)
+        SendeSteuerwert(SteuerwertAutosendAus);
+}
+
 bool AutosendGestartet() {
     return autosendGestartet;
 }

@@ -47,6 +47,9 @@ void SchreibeSteuerwert4();
 void SchreibeSteuerwert2();
 /// Whether this run has started autosend and not ended it since.
 bool AutosendGestartet();
+/// Behind an attempt that has failed: ends autosend on the port that is open when the line did not become
+/// quiet before it. Nothing happens on a line that did, or when no controller is identified.
+void BeruhigeGeraet();
 /// Ends autosend on a port that is open, opening it anew and closing it afterwards. Nothing happens when it
 /// is closed.
 void BeendeAutosendAmOffenenPort();

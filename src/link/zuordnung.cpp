@@ -1,5 +1,6 @@
 #include "zuordnung.h"
 
+#include "gestalt.h"
 #include "rahmen.h"
 
 #include <algorithm>
@@ -11,24 +12,6 @@ namespace {
 
 Funktion FunktionVon(const std::string& anforderung) {
     return static_cast<Funktion>(anforderung.at(1));
-}
-
-bool Schreibt(const std::string& anforderung) {
-    const Funktion funktion = FunktionVon(anforderung);
-    return funktion == Funktion::Schreiben || funktion == Funktion::Kommando;
-}
-
-/// What of a request its reply shows: two requests of the same shape accept each other's replies.
-std::string Gestalt(const std::string& anforderung) {
-    constexpr std::size_t Kopf = 2, Startadresse = 2, Anzahl = 2;
-    switch (FunktionVon(anforderung)) {
-    case Funktion::Lesen:
-        return anforderung.substr(0, Kopf) + anforderung.substr(Kopf + Startadresse, Anzahl);
-    case Funktion::Schreiben:
-        return anforderung.substr(0, Kopf + Startadresse + Anzahl);
-    default:
-        return anforderung.substr(0, Kopf);
-    }
 }
 
 } // namespace

@@ -122,13 +122,20 @@ bool Geraetebetrieb::Identifiziere() {
 bool Geraetebetrieb::LiesKonfiguration() {
     if (!Durchlaufe<frmKonfigurationLesenAusHardware>(teile.fenster))
         return false;
-    teile.menue.SetzeAutosendWaehlbar(AutosendWaehlbar(
-        modDaten::HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Autosend)));
+    FolgeAutosendart();
     return true;
 }
 
 bool Geraetebetrieb::HoleOptikteilInformation() {
-    return Durchlaufe<frmHoleLichtleistenInfo>(teile.fenster);
+    if (!Durchlaufe<frmHoleLichtleistenInfo>(teile.fenster))
+        return false;
+    FolgeAutosendart(); // what the read has left open may have been read once more
+    return true;
+}
+
+void Geraetebetrieb::FolgeAutosendart() {
+    teile.menue.SetzeAutosendWaehlbar(AutosendWaehlbar(
+        modDaten::HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Autosend)));
 }
 
 bool Geraetebetrieb::FrageNachKonfiguration() {

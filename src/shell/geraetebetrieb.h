@@ -50,6 +50,8 @@ public:
     std::string StarteFlasher(const std::string& parameter) override;
 
 private:
+    void FolgeAutosendart();
+
     Hauptteile teile;
     const Befehlsspeicher& befehle;
     Konfigurationsablauf& ablauf;

@@ -2,6 +2,7 @@
 
 #include "geraetestand.h"
 #include "geraetestatus.h"
+#include "nachlese.h"
 #include "plausibilitaet.h"
 #include "polling.h"
 #include "registerabbild.h"
@@ -58,8 +59,10 @@ bool Autostart(Verbindungsziel& ziel) {
     if (ziel.Beendet())
         return false;
     const bool gelungen = gelesen && PruefeGelesenes();
-    if (!gelesen)
+    if (!gelesen) {
+        modNachlese::Verwirf();
         ziel.FrageNachKonfiguration();
+    }
     modHilfsFunktionen::BerechneZykluszeiten();
     ziel.BaueAnsichtenAuf();
     if (gelungen) {

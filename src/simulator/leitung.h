@@ -18,6 +18,8 @@ public:
     std::chrono::nanoseconds Dauer(std::size_t zeichen) const;
     /// Sends a reply from the given time on, or as soon as what was sent before has left.
     void Sende(const Sendung& sendung, std::chrono::nanoseconds fruehestens);
+    /// Whether all that was sent has left by the given time.
+    bool IstFrei(Zeit jetzt) const { return sendeende <= jetzt; }
     /// When the next bytes become readable; nothing while the wire is quiet.
     std::optional<Zeit> NaechsteFaelligkeit() const;
     /// Takes the bytes that are readable by now.

@@ -11,6 +11,12 @@ namespace {
 /// A wire quiet for so long ends a frame that is not whole. A master on a PC may pause within one.
 constexpr std::chrono::milliseconds Rahmenpause{20};
 
+/// What a receiver makes of bytes in another speed or format.
+constexpr std::uint8_t Unlesbares = 0xF8;
+
+/// Data blocks that nobody has taken for so long are lost.
+constexpr std::chrono::seconds Aufbewahrung{1};
+
 } // namespace
 
 Simulator::Simulator(const Aufbau& aufbau)
@@ -21,6 +27,7 @@ Simulator::Simulator(const Aufbau& aufbau)
 }
 
 void Simulator::Empfange(std::span<const std::uint8_t> zeichen, Zeit jetzt) {
+    SendeDatenbloecke(jetzt);
     protokoll.SetzeZeit(jetzt);
     const std::chrono::nanoseconds beginn = std::max<std::chrono::nanoseconds>(empfangsende, jetzt);
     if (beginn > empfangsende + Rahmenpause && leser.Verwirf())
@@ -50,6 +57,7 @@ void Simulator::Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt) {
     const bool abgelehnt = stoerung && stoerung->art->lehntAb;
     Bytes antwort = abgelehnt ? Bytes{static_cast<std::uint8_t>(geraet.Adresse()), anfrage[1]}
                               : geraet.Bearbeite(anfrage, jetzt);
+    StelleAutosend(jetzt);
     if (antwort.empty())
         return;
     verlauf.Nimm(antwort);
@@ -64,9 +72,51 @@ void Simulator::Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt) {
     leitung.Sende(sendung, empfangsende + bedenkzeit);
 }
 
+std::optional<Zeit> Simulator::NaechsteFaelligkeit() const {
+    const auto faellig = leitung.NaechsteFaelligkeit();
+    return faellig && naechsterBlock ? std::min(faellig, naechsterBlock) : faellig ? faellig : naechsterBlock;
+}
+
+std::vector<std::uint8_t> Simulator::Entnimm(Zeit jetzt) {
+    SendeDatenbloecke(jetzt);
+    return leitung.Entnimm(jetzt);
+}
+
+/// Sends the blocks that were due by now. One that the line had no time for is left out.
+void Simulator::SendeDatenbloecke(Zeit jetzt) {
+    if (naechsterBlock && *naechsterBlock + Aufbewahrung < jetzt)
+        naechsterBlock = jetzt - Aufbewahrung;
+    while (naechsterBlock && *naechsterBlock <= jetzt) {
+        const Zeit wann = *naechsterBlock;
+        geraet.Aktualisiere(wann);
+        auto sendung = HoleAutosendung(geraet.Speicher(), geraet.Adresse());
+        if (!sendung) {
+            naechsterBlock.reset();
+            return;
+        }
+        naechsterBlock = wann + sendung->periode;
+        if (!sendung->lesbar)
+            std::ranges::fill(sendung->block, Unlesbares);
+        if (leitung.IstFrei(wann))
+            leitung.Sende({{.zeichen = std::move(sendung->block)}}, wann);
+    }
+}
+
+/// Autosend begins and ends with what the controller was just told.
+void Simulator::StelleAutosend(Zeit jetzt) {
+    if (!geraet.Autosend())
+        naechsterBlock.reset();
+    else if (!naechsterBlock)
+        if (const auto sendung = HoleAutosendung(geraet.Speicher(), geraet.Adresse()))
+            naechsterBlock = jetzt + sendung->periode;
+}
+
 std::string Simulator::Befehl(std::string_view zeile, Zeit jetzt) {
     protokoll.SetzeZeit(jetzt);
-    return FuehreBefehlAus({geraet, optik, stoerungen, protokoll, zaehlwerk, jetzt}, zeile);
+    const std::string ergebnis =
+        FuehreBefehlAus({geraet, optik, stoerungen, protokoll, zaehlwerk, jetzt}, zeile);
+    StelleAutosend(jetzt);
+    return ergebnis;
 }
 
 void Simulator::TrenneLeitung() {

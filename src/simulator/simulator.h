@@ -1,6 +1,7 @@
 #pragma once
 
 #include "anfragenleser.h"
+#include "autosendung.h"
 #include "leitung.h"
 #include "steuergeraet.h"
 
@@ -18,10 +19,11 @@ public:
     /// Bytes from the master, sent off at the given time: they take their time on the wire, and a reply is
     /// timed from the end of its request.
     void Empfange(std::span<const std::uint8_t> zeichen, Zeit jetzt);
-    /// When the next bytes of a reply become readable; nothing while there are none.
-    std::optional<Zeit> NaechsteFaelligkeit() const { return leitung.NaechsteFaelligkeit(); }
+    /// When there is something to do next: bytes become readable, or a data block is due in autosend. Nothing
+    /// while there is neither.
+    std::optional<Zeit> NaechsteFaelligkeit() const;
     /// Takes the bytes that have become readable by the given time.
-    std::vector<std::uint8_t> Entnimm(Zeit jetzt) { return leitung.Entnimm(jetzt); }
+    std::vector<std::uint8_t> Entnimm(Zeit jetzt);
     /// Carries a command out. Gives one line, "ok ..." or "error ...".
     std::string Befehl(std::string_view zeile, Zeit jetzt);
     /// The line is cut: what is on its way in either direction is lost.
@@ -31,6 +33,8 @@ private:
     void NimmZeichen(std::uint8_t zeichen, Zeit jetzt);
     void Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt);
     void ZaehleGebrochene();
+    void SendeDatenbloecke(Zeit jetzt);
+    void StelleAutosend(Zeit jetzt);
 
     Protokoll protokoll;
     Zaehlwerk zaehlwerk{};
@@ -41,6 +45,7 @@ private:
     Leitung leitung;
     Anfragenleser leser{};
     Zeit bedenkzeit;
+    std::optional<Zeit> naechsterBlock{}; ///< while the controller is in autosend
     std::chrono::nanoseconds empfangsende{std::chrono::nanoseconds::min()};
 };
 

@@ -19,6 +19,8 @@ public:
     int Adresse() const { return adresse; }
     bool Autosend() const { return autosend; }
     Registerspeicher& Speicher() { return speicher; }
+    /// Brings the registers that show the scene up to the given time.
+    void Aktualisiere(Zeit wann) { optik.Aktualisiere(speicher, wann); }
 
     /// Whether the request is one that this controller replies to.
     bool WirdBeantwortet(std::span<const std::uint8_t> anfrage) const;

@@ -3,10 +3,9 @@
 #include "registeradressen.h"
 #include "texte.h"
 #include "transaktionen.h"
-#include "versuche.h"
 #include "zahlen.h"
 
-#include <algorithm>
+#include <memory>
 
 namespace varnoth {
 
@@ -26,54 +25,57 @@ std::string Registertext(Speicherbereich bereich, std::int16_t adresse) {
 }
 
 bool Konfigurationstransfer::UebertrageAlles() {
-    erledigt = 0;
-    gesamt = AnzahlSchritte();
-    anzeige.ZeigeFortschritt(erledigt, gesamt);
-    return UebertrageBereich(Speicherbereich::GlobaleGeraetedaten) && UebertrageOptikteile() &&
-           Waehle(TextKanal, global::Kanalauswahl, Kanal) &&
-           UebertrageBereich(Speicherbereich::Kommunikationsdaten);
+    HaengeBereichAn(Speicherbereich::GlobaleGeraetedaten, Transferschritt::Ohne);
+    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil) {
+        HaengeAuswahlAn(TextOptikteil, global::Optikteilauswahl, teil);
+        HaengeBereichAn(Speicherbereich::SpezifischeGeraetedaten, schritte.size() - 1, teil);
+    }
+    HaengeAuswahlAn(TextKanal, global::Kanalauswahl, Kanal);
+    HaengeBereichAn(Speicherbereich::Kommunikationsdaten, schritte.size() - 1);
+    HaengeWeitereAn();
+    Schrittfolge folge(schritte, [this] { return anzeige.Abgebrochen(); });
+    if (!folge.Laufe())
+        return false;
+    anzeige.ZeigeFortschritt(AnzahlSchritte(), AnzahlSchritte());
+    for (std::size_t i = folge.ErsterOffener(); i < parameterDerSchritte.size(); ++i)
+        if (parameterDerSchritte[i].anzahl > 0)
+            offene.push_back(parameterDerSchritte[i]);
+    letzterAustausch = folge.LetzterAustausch();
+    return true;
 }
 
-bool Konfigurationstransfer::Versuche(const std::string& registertext, int anzahl,
-                                      const std::function<Boolean()>& transaktion) {
-    const auto zeige = [&](int versuch) { anzeige.ZeigeRegister(registertext, anzahl, versuch); };
-    const bool gelungen = VersucheBisErfolg(anzeige, zeige, transaktion);
-    if (gelungen)
-        anzeige.ZeigeFortschritt(++erledigt, gesamt);
-    return gelungen;
+void Konfigurationstransfer::HaengeAn(const std::string& bereichstext, const std::string& registertext,
+                                      int anzahl, const std::function<Boolean()>& tausche) {
+    const auto zeige = [=, this, erledigt = AnzahlSchritte()](int versuch) {
+        if (versuch == 1)
+            anzeige.ZeigeFortschritt(erledigt, AnzahlSchritte());
+        anzeige.ZeigeBereich(bereichstext);
+        anzeige.ZeigeRegister(registertext, anzahl, versuch);
+    };
+    schritte.push_back({.zeige = zeige, .tausche = [=] { return tausche() != False; }, .uebernimm = [] {}});
+    parameterDerSchritte.push_back({});
 }
 
-/// Every parameter, the selection of each part and of the channel, and what the class adds.
-int Konfigurationstransfer::AnzahlSchritte() const {
-    int anzahl = AnzahlOptikteile + 1 + weitereSchritte;
-    for (const Speicherbereich bereich : AlleSpeicherbereiche)
-        anzahl +=
-            Exemplare(bereich) * static_cast<int>(std::ranges::distance(ParameterMit(bereich, auswahl)));
-    return anzahl;
-}
-
-bool Konfigurationstransfer::Waehle(std::int16_t textId, std::int16_t auswahlregister, int nummer) {
-    anzeige.ZeigeBereich(LadeText(textId) + std::to_string(nummer));
-    return Versuche(std::to_string(auswahlregister), 1, [=] {
+void Konfigurationstransfer::HaengeAuswahlAn(std::int16_t textId, std::int16_t auswahlregister, int nummer) {
+    HaengeAn(LadeText(textId) + std::to_string(nummer), std::to_string(auswahlregister), 1, [=] {
         return modModbus::RTUModeH10SchreibenAnforderung(
             Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, auswahlregister), 1, {nummer});
     });
 }
 
-bool Konfigurationstransfer::UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil) {
-    anzeige.ZeigeBereich(
-        LadeText(static_cast<std::int16_t>(ErsterBereichstext() + static_cast<int>(bereich))));
-    return std::ranges::all_of(ParameterMit(bereich, auswahl), [&](const Parameter& parameter) {
-        return Uebertrage({bereich, parameter.adresse, parameter.beschreibung.Laenge, optikteil});
-    });
-}
-
-bool Konfigurationstransfer::UebertrageOptikteile() {
-    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
-        if (!Waehle(TextOptikteil, global::Optikteilauswahl, teil) ||
-            !UebertrageBereich(Speicherbereich::SpezifischeGeraetedaten, teil))
-            return false;
-    return true;
+void Konfigurationstransfer::HaengeBereichAn(Speicherbereich bereich, std::size_t auswahlschritt,
+                                             std::int16_t optikteil) {
+    const std::string text =
+        LadeText(static_cast<std::int16_t>(ErsterBereichstext() + static_cast<int>(bereich)));
+    for (const Parameter& einer : ParameterMit(bereich, auswahl)) {
+        const Transferparameter parameter{bereich, einer.adresse, einer.beschreibung.Laenge, optikteil};
+        const auto werte = std::make_shared<Werte>(static_cast<std::size_t>(parameter.anzahl));
+        HaengeAn(text, Registertext(bereich, parameter.adresse), parameter.anzahl,
+                 [this, parameter, werte] { return Tausche(parameter, *werte); });
+        schritte.back().uebernimm = [this, parameter, werte] { Uebernimm(parameter, *werte); };
+        schritte.back().auswahl = auswahlschritt;
+        parameterDerSchritte.back() = parameter;
+    }
 }
 
 } // namespace varnoth

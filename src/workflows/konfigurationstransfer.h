@@ -3,10 +3,13 @@
 #include "ablaufanzeige.h"
 #include "boolean.h"
 #include "registerbeschreibung.h"
+#include "schrittfolge.h"
+#include "werte.h"
 
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace varnoth {
 
@@ -37,42 +40,49 @@ std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
 /// The walk through all parameters that reading and writing a configuration have in common: the global range,
 /// the specific range of all four optical parts, connected or not, and the communication range of channel 0.
 /// Which parameters take part and what happens to them is the business of the class that reads or writes.
+/// What turns out not to have been certain is transferred again.
 class Konfigurationstransfer {
 public:
     /// Whether a parameter with that description takes part.
     using Auswahl = bool (*)(const Registerbeschreibung& beschreibung);
 
-    /// `weitere` is the number of exchanges that the class makes besides the walk; the progress counts them.
-    Konfigurationstransfer(Transferanzeige& transferanzeige, Auswahl nimmtTeil, int weitere = 0)
-        : anzeige(transferanzeige), auswahl(nimmtTeil), weitereSchritte(weitere) {}
+    Konfigurationstransfer(Transferanzeige& transferanzeige, Auswahl nimmtTeil)
+        : anzeige(transferanzeige), auswahl(nimmtTeil) {}
     Konfigurationstransfer(const Konfigurationstransfer&) = delete;
     Konfigurationstransfer& operator=(const Konfigurationstransfer&) = delete;
     virtual ~Konfigurationstransfer() = default;
 
-    /// Transfers everything. False when the user cancelled; what was transferred till then stays.
+    /// Transfers everything. False when the user cancelled; what was certain by then stays.
     bool UebertrageAlles();
+    /// The parameters at the end whose transfer is not certain yet, and the number of the last exchange.
+    const std::vector<Transferparameter>& Offene() const { return offene; }
+    unsigned long LetzterAustausch() const { return letzterAustausch; }
 
 protected:
-    /// Attempts at one exchange until it succeeds, shown with the register's text and count; then the
-    /// progress is one further. False = cancelled.
-    bool Versuche(const std::string& registertext, int anzahl, const std::function<Boolean()>& transaktion);
+    /// Appends an exchange: what is shown while it is tried, and one attempt at it.
+    void HaengeAn(const std::string& bereichstext, const std::string& registertext, int anzahl,
+                  const std::function<Boolean()>& tausche);
 
 private:
     /// The string id of the global range's name; the names of the other two ranges follow it.
     virtual std::int16_t ErsterBereichstext() const = 0;
-    /// Transfers one parameter. False = cancelled.
-    virtual bool Uebertrage(const Transferparameter& parameter) = 0;
+    /// One attempt at a parameter, whose values are in `werte` before or behind it.
+    virtual Boolean Tausche(const Transferparameter& parameter, Werte& werte) = 0;
+    /// The parameter's transfer counts.
+    virtual void Uebernimm(const Transferparameter& parameter, const Werte& werte) = 0;
+    /// Appends the exchanges that the class makes besides the walk.
+    virtual void HaengeWeitereAn() {}
 
-    int AnzahlSchritte() const;
-    bool Waehle(std::int16_t textId, std::int16_t auswahlregister, int nummer);
-    bool UebertrageBereich(Speicherbereich bereich, std::int16_t optikteil = 0);
-    bool UebertrageOptikteile();
+    int AnzahlSchritte() const { return static_cast<int>(schritte.size()); }
+    void HaengeAuswahlAn(std::int16_t textId, std::int16_t auswahlregister, int nummer);
+    void HaengeBereichAn(Speicherbereich bereich, std::size_t auswahlschritt, std::int16_t optikteil = 0);
 
     Transferanzeige& anzeige;
     Auswahl auswahl;
-    int weitereSchritte;
-    int erledigt = 0;
-    int gesamt = 0;
+    std::vector<Transferschritt> schritte{};
+    std::vector<Transferparameter> parameterDerSchritte{}; ///< 0 registers where a step has none
+    std::vector<Transferparameter> offene{};
+    unsigned long letzterAustausch = 0;
 };
 
 } // namespace varnoth

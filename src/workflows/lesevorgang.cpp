@@ -1,11 +1,11 @@
 #include "lesevorgang.h"
 
 #include "geraetestand.h"
+#include "nachlese.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
 #include "seriennummer.h"
 #include "texte.h"
-#include "transaktionen.h"
 
 #include <functional>
 #include <utility>
@@ -19,36 +19,31 @@ constexpr std::int16_t TextUebertragungBeendet = 7009;
 
 class Lesetransfer : public Konfigurationstransfer {
 public:
-    /// Where the values of a parameter go; false when they are refused.
-    using Ablage = std::function<bool(const Transferparameter& parameter, const Werte& werte)>;
+    /// Where the values of a parameter go.
+    using Ablage = std::function<void(const Transferparameter& parameter, const Werte& werte)>;
 
     Lesetransfer(Transferanzeige& transferanzeige, Ablage wohin)
         : Konfigurationstransfer(transferanzeige, IstLesbar), ablage(std::move(wohin)) {}
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
-    bool Uebertrage(const Transferparameter& parameter) override;
+    Boolean Tausche(const Transferparameter& parameter, Werte& werte) override {
+        return LiesParameter(parameter, werte);
+    }
+    void Uebernimm(const Transferparameter& parameter, const Werte& werte) override {
+        ablage(parameter, werte);
+    }
 
     Ablage ablage;
 };
 
-bool Lesetransfer::Uebertrage(const Transferparameter& parameter) {
-    Werte werte(static_cast<std::size_t>(parameter.anzahl));
-    const bool gelesen = Versuche(Registertext(parameter.bereich, parameter.adresse), parameter.anzahl, [&] {
-        return modModbus::RTUModeH03LeseAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
-                                                    static_cast<std::uint16_t>(parameter.anzahl), werte);
-    });
-    return gelesen && ablage(parameter, werte);
-}
-
 } // namespace
 
 bool LiesKonfiguration(Transferanzeige& anzeige) {
-    const auto insAbbild = [](const Transferparameter& parameter, const Werte& werte) {
-        return modDaten::SetzeParameter(parameter.bereich, parameter.adresse, werte, parameter.optikteil);
-    };
-    if (!Lesetransfer(anzeige, insAbbild).UebertrageAlles())
+    Lesetransfer transfer(anzeige, SpeichereParameter);
+    if (!transfer.UebertrageAlles())
         return false;
+    modNachlese::Merke(transfer.Offene(), transfer.LetzterAustausch());
     anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
     modDaten::KorrigiereStrahlenzahlen();
     modGeraetestand::MerkeGelesen(modDaten::DasAbbild(), GeraeteSeriennummer());
@@ -58,7 +53,9 @@ bool LiesKonfiguration(Transferanzeige& anzeige) {
 bool LiesGeraeteabzug(Transferanzeige& anzeige, Geraeteabzug& abzug) {
     const auto inDenAbzug = [&](const Transferparameter& parameter, const Werte& werte) {
         abzug.ungelesen.erase({parameter.bereich, parameter.adresse, parameter.optikteil});
-        return abzug.abbild.SetzeParameter(parameter.bereich, parameter.adresse, werte, parameter.optikteil);
+        // Its length is the description's, so there is room for it.
+        static_cast<void>(
+            abzug.abbild.SetzeParameter(parameter.bereich, parameter.adresse, werte, parameter.optikteil));
     };
     const bool vollstaendig = Lesetransfer(anzeige, inDenAbzug).UebertrageAlles();
     KorrigiereStrahlenzahlen(abzug.abbild);

@@ -1,11 +1,16 @@
 #include "optikteilinformation.h"
 
 #include "geraetestatus.h"
-#include "registerabbild.h"
+#include "nachlese.h"
 #include "registeradressen.h"
+#include "schrittfolge.h"
 #include "texte.h"
 #include "transaktionen.h"
-#include "versuche.h"
+
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
 
 namespace varnoth {
 
@@ -17,41 +22,70 @@ constexpr std::int16_t TextNichtVorhanden = 7405;
 
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
-bool Versuche(Ablaufanzeige& anzeige, const std::function<Boolean()>& transaktion) {
-    return VersucheBisErfolg(
-        anzeige, [](int /*versuch*/) {}, transaktion);
+/// The exchanges of one part: its selection, then its status register.
+class Optikteilfrage {
+public:
+    Optikteilfrage(Optikteilanzeige& optikteilanzeige, std::int16_t optikteil)
+        : anzeige(optikteilanzeige), teil(optikteil),
+          zeile(LadeText(TextOptikteil) + std::to_string(teil) + ":  ") {}
+
+    void Beginne() const { anzeige.ZeigeOptikteil(teil, zeile); }
+    bool LiesStatus() {
+        const bool gelesen = modModbus::RTUModeH03LeseAnforderung(
+                                 Geraeteadresse(Spezifisch, spezifisch::Optikteilstatus), 1, status) != False;
+        if (gelesen && !anzeige.Abgebrochen())
+            Zeige();
+        return gelesen;
+    }
+    void Uebernimm() const { SpeichereParameter({Spezifisch, spezifisch::Optikteilstatus, 1, teil}, status); }
+
+private:
+    void Zeige() const {
+        const bool vorhanden = modDaten::IstOptikteilVorhanden(status[0]);
+        anzeige.ZeigeOptikteil(teil, zeile + LadeText(vorhanden ? TextVorhanden : TextNichtVorhanden));
+        anzeige.ZeigeFortschritt(teil + 1, AnzahlOptikteile);
+    }
+
+    Optikteilanzeige& anzeige;
+    std::int16_t teil;
+    std::string zeile;
+    Werte status{0};
+};
+
+/// Each exchange also tells whether the configuration that was read before is right.
+std::function<bool()> MitNachlese(std::function<bool()> tausche) {
+    return [tausche = std::move(tausche)] {
+        const bool gelungen = tausche();
+        modNachlese::Pruefe();
+        return gelungen;
+    };
 }
 
-/// Reads the part's status register into `status`. False = cancelled.
-bool LiesStatus(Ablaufanzeige& anzeige, std::int16_t teil, Werte& status) {
-    return Versuche(anzeige, [=] { return modModbus::WaehleOptikteil(teil); }) && Versuche(anzeige, [&] {
-               return modModbus::RTUModeH03LeseAnforderung(
-                   Geraeteadresse(Spezifisch, spezifisch::Optikteilstatus), 1, status);
-           });
-}
-
-bool FrageOptikteil(Optikteilanzeige& anzeige, std::int16_t teil) {
-    const std::string zeile = LadeText(TextOptikteil) + std::to_string(teil) + ":  ";
-    anzeige.ZeigeOptikteil(teil, zeile);
-    Werte status(1);
-    if (!LiesStatus(anzeige, teil, status) ||
-        !modDaten::SetzeParameter(Spezifisch, spezifisch::Optikteilstatus, status, teil))
-        return false;
-    const bool vorhanden = modDaten::IstOptikteilVorhanden(status[0]);
-    anzeige.ZeigeOptikteil(teil, zeile + LadeText(vorhanden ? TextVorhanden : TextNichtVorhanden));
-    return true;
+std::vector<Transferschritt> Schritte(Optikteilanzeige& anzeige) {
+    std::vector<Transferschritt> schritte;
+    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil) {
+        const auto frage = std::make_shared<Optikteilfrage>(anzeige, teil);
+        schritte.push_back(
+            {.zeige = [frage](int /*versuch*/) { frage->Beginne(); },
+             .tausche = MitNachlese([teil] { return modModbus::WaehleOptikteil(teil) != False; }),
+             .uebernimm = [] {}});
+        schritte.push_back({.zeige = [](int /*versuch*/) {},
+                            .tausche = MitNachlese([frage] { return frage->LiesStatus(); }),
+                            .uebernimm = [frage] { frage->Uebernimm(); },
+                            .auswahl = schritte.size() - 1});
+    }
+    return schritte;
 }
 
 } // namespace
 
 bool HoleOptikteilInformation(Optikteilanzeige& anzeige) {
     anzeige.ZeigeFortschritt(0, AnzahlOptikteile);
-    for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil) {
-        if (!FrageOptikteil(anzeige, teil))
-            return false;
-        anzeige.ZeigeFortschritt(teil + 1, AnzahlOptikteile);
-    }
-    return true;
+    Schrittfolge folge(Schritte(anzeige), [&anzeige] { return anzeige.Abgebrochen(); });
+    const bool gelungen = folge.Laufe() && modNachlese::HoleNach(anzeige);
+    if (!gelungen)
+        modNachlese::Verwirf();
+    return gelungen;
 }
 
 } // namespace varnoth

@@ -21,39 +21,34 @@ constexpr std::int16_t TextSpeichern = 7112;
 class Schreibtransfer : public Konfigurationstransfer {
 public:
     Schreibtransfer(Transferanzeige& transferanzeige, Ablage wie)
-        : Konfigurationstransfer(transferanzeige, IstSchreibbar, wie == Ablage::Dauerhaft ? 1 : 0),
-          anzeige(transferanzeige), ablage(wie) {}
-
-    bool Schreibe() { return UebertrageAlles() && (ablage == Ablage::Fluechtig || Speichere()); }
+        : Konfigurationstransfer(transferanzeige, IstSchreibbar), ablage(wie) {}
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
-    bool Uebertrage(const Transferparameter& parameter) override;
-    bool Speichere();
+    Boolean Tausche(const Transferparameter& parameter, Werte& werte) override;
+    void Uebernimm(const Transferparameter& /*parameter*/, const Werte& /*werte*/) override {}
+    void HaengeWeitereAn() override;
 
-    Transferanzeige& anzeige;
     Ablage ablage;
 };
 
-bool Schreibtransfer::Uebertrage(const Transferparameter& parameter) {
-    const Werte werte = HoleParameter(parameter.bereich, parameter.adresse, parameter.optikteil);
-    return Versuche(Registertext(parameter.bereich, parameter.adresse), parameter.anzahl, [&] {
-        return modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
-                                                         static_cast<std::uint16_t>(parameter.anzahl), werte);
-    });
+Boolean Schreibtransfer::Tausche(const Transferparameter& parameter, Werte& werte) {
+    werte = HoleParameter(parameter.bereich, parameter.adresse, parameter.optikteil);
+    return modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
+                                                     static_cast<std::uint16_t>(parameter.anzahl), werte);
 }
 
-bool Schreibtransfer::Speichere() {
-    constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-    anzeige.ZeigeBereich(LadeText(TextSpeichern));
-    return Versuche(Registertext(Global, global::Kommando), 1,
-                    [] { return SendeKommando(Kommando::SpeichereKonfiguration); });
+void Schreibtransfer::HaengeWeitereAn() {
+    if (ablage == Ablage::Dauerhaft)
+        HaengeAn(LadeText(TextSpeichern),
+                 Registertext(Speicherbereich::GlobaleGeraetedaten, global::Kommando), 1,
+                 [] { return SendeKommando(Kommando::SpeichereKonfiguration); });
 }
 
 } // namespace
 
 bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage) {
-    if (!Schreibtransfer(anzeige, ablage).Schreibe())
+    if (!Schreibtransfer(anzeige, ablage).UebertrageAlles())
         return false;
     anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
     modGeraetestand::MerkeGeschrieben(DasAbbild(), AlleStellen(IstSchreibbar), GeraeteSeriennummer());

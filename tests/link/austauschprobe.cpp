@@ -47,7 +47,8 @@ void Drucke(const Probezahlen& zahlen, const Optionen& optionen) {
         trenner = ", ";
     }
     std::cout << "), failed " << zahlen.gescheiterte << ", settling exchanges " << zahlen.rueckfragen
-              << ", not recovered " << zahlen.nichtErholt << ", longest lead "
+              << ", breaks " << zahlen.brueche << ", rows to the end " << zahlen.reihen << ", not recovered "
+              << zahlen.nichtErholt << ", longest lead "
               << std::chrono::duration<double>(zahlen.laengsterVorlauf).count() << " s, lost writes "
               << zahlen.verloreneWrites << ", wrong values " << zahlen.falscheWerte << '\n';
 }

@@ -1,11 +1,16 @@
 #include "probelauf.h"
 
+#include "austausch.h"
+#include "rahmen.h"
 #include "schnittstelle.h"
+#include "schrittfolge.h"
 #include "transaktionen.h"
 
 #include <algorithm>
+#include <functional>
 #include <iostream>
 #include <iterator>
+#include <memory>
 
 namespace varnoth::pruefung {
 
@@ -19,13 +24,32 @@ struct Fehlerart {
     std::string_view name;
     int kleinster;
     int groesster;
+    int spaetestens = 0; ///< milliseconds
 };
 
+constexpr int Hoechstesbit = 8 * 256 - 1;
+constexpr int SpaetesteWiederholung = 500;
+
 constexpr Fehlerart Fehlerarten[] = {
-    {"silence", 0, 0},        {"crc", 0, 0},        {"address", 0, 0},   {"exception", 1, 4},
-    {"stray", 1, 30},         {"pieces", 50, 2500}, {"surplus", 1, 255}, {"late", 500, 3500},
-    {"flip", 0, 8 * 256 - 1}, {"lost", 0, 0},       {"garbled", 0, 255}, {"busy", 100, 5000},
+    {"silence", 0, 0},
+    {"lost", 0, 0},
+    {"garbled", 0, 255},
+    {"crc", 0, 0},
+    {"address", 0, 0},
+    {"exception", 1, 4},
+    {"stray", 1, 30},
+    {"pieces", 50, 2500},
+    {"surplus", 1, 255},
+    {"late", 500, 3500},
+    {"flip", 0, Hoechstesbit},
+    {"busy", 100, 5000},
+    {"repeat", 0, SpaetesteWiederholung},
+    {"repeat-twice", 0, SpaetesteWiederholung},
+    {"repeat-flip", 0, Hoechstesbit, SpaetesteWiederholung},
+    {"repeat-earlier", 1, 8, SpaetesteWiederholung},
 };
+constexpr int ErsteWiederholung = 12;
+constexpr int LetzteArt = static_cast<int>(std::size(Fehlerarten)) - 1;
 
 } // namespace
 
@@ -44,17 +68,23 @@ int Probelauf::Zufall(int von, int bis) {
     return von + static_cast<int>(zufall() % static_cast<std::uint64_t>(bis - von + 1));
 }
 
-std::optional<Probefehler> Probelauf::ZieheFehler() {
-    const Fehlerart& art = Fehlerarten[Zufall(0, static_cast<int>(std::size(Fehlerarten)) - 1)];
+std::optional<Probefehler> Probelauf::ZieheFehler(int ersteArt) {
+    const bool auchWiederholungen = wetter != Wetter::Sturm;
+    const int letzteArt = auchWiederholungen ? LetzteArt : ErsteWiederholung - 1;
+    const Fehlerart& art = Fehlerarten[Zufall(ersteArt, letzteArt)];
     ++zahlen.fehler;
     ++zahlen.fehlerarten[art.name];
-    return Probefehler{art.name, Zufall(art.kleinster, art.groesster)};
+    return Probefehler{art.name, Zufall(art.kleinster, art.groesster), Zufall(0, art.spaetestens)};
 }
 
 std::optional<Probefehler> Probelauf::NaechsterFehler() {
-    const bool einer =
-        (wetter == Wetter::EinFehler && bisFehler-- == 0) || (wetter == Wetter::Sturm && Manchmal(25));
-    return einer ? ZieheFehler() : std::nullopt;
+    if (wetter == Wetter::EinFehler && bisFehler-- == 0)
+        return ZieheFehler();
+    if (wetter == Wetter::Sturm && Manchmal(25))
+        return ZieheFehler();
+    if (wetter == Wetter::Wiederholungen && Manchmal(bisFehler))
+        return ZieheFehler(ErsteWiederholung);
+    return std::nullopt;
 }
 
 void Probelauf::Laufe(long austausche) {
@@ -64,6 +94,7 @@ void Probelauf::Laufe(long austausche) {
                                            : Probeleitung::Uebergabe{1, std::chrono::milliseconds(16)});
         LaufeAbschnitt(Wetter::EinFehler, Schritte);
         LaufeAbschnitt(Wetter::Sturm, Schritte);
+        LaufeAbschnitt(Wetter::Wiederholungen, Schritte);
         umgebung.gewartet.clear();
     }
 }
@@ -71,7 +102,8 @@ void Probelauf::Laufe(long austausche) {
 void Probelauf::LaufeAbschnitt(Wetter art, int schritte) {
     Beruhige();
     wetter = art;
-    bisFehler = Zufall(0, schritte);
+    // In repetitions it is their share: from one now and then to every second reply for a while.
+    bisFehler = art == Wetter::Wiederholungen ? Zufall(1, 5) * Zufall(1, 10) : Zufall(0, schritte);
     for (int i = 0; i < schritte; ++i)
         Schritt();
 }
@@ -80,6 +112,7 @@ void Probelauf::LaufeAbschnitt(Wetter art, int schritte) {
 void Probelauf::Beruhige() {
     wetter = Wetter::Ruhig;
     teil.reset();
+    geglaubte.clear(); // what never became certain was never relied on
     while (!regler.leitung.Leer() || regler.IstBeschaeftigt()) {
         umgebung.uhr += std::chrono::seconds(10);
         regler.Verarbeite();
@@ -90,12 +123,16 @@ void Probelauf::Beruhige() {
         RTUModeH11IndentifikationsAnforderung();
     for (int versuch = 0; versuch < Genug; ++versuch)
         WaehleOptikteil(0);
+    modAustausch::Vergewissere();
+    brueche = modAustausch::Brueche();
     zuletztGescheitert = false;
 }
 
 void Probelauf::Schritt() {
     const int was = Zufall(1, 100);
-    if (was <= 4)
+    if (wetter != Wetter::Sturm && was > 93)
+        Uebertrage();
+    else if (was <= 4)
         Identifiziere();
     else if (was <= 18)
         Waehle(Zufall(0, Proberegister::Optikteile - 1));
@@ -119,6 +156,8 @@ bool Probelauf::TauscheEinmal(Austausch austausch, int eigene) {
     zahlen.gescheiterte += gelungen ? 0 : 1;
     zahlen.nichtErholt += mussGelingen && !gelungen && fehlerDavor == zahlen.fehler ? 1 : 0;
     zuletztGescheitert = !gelungen;
+    BemerkeBruch();
+    PruefeGewisses();
     return gelungen;
 }
 
@@ -155,13 +194,52 @@ void Probelauf::Identifiziere() {
         ++zahlen.falscheWerte;
 }
 
+/// As every caller must: what is not certain is worth nothing, and it is settled whose turn it is.
+void Probelauf::BemerkeBruch() {
+    if (modAustausch::Brueche() == brueche)
+        return;
+    ++zahlen.brueche;
+    geglaubte.clear();
+    teil.reset();
+    constexpr int Versuche = 10;
+    for (int versuch = 0; versuch < Versuche && !modAustausch::Vergewissere(); ++versuch) {
+    }
+    brueche = modAustausch::Brueche();
+}
+
+void Probelauf::PruefeGewisses() {
+    std::erase_if(geglaubte, [this](const Glaube& einer) {
+        if (einer.austausch > modAustausch::GewissBis())
+            return false;
+        if (einer.geschrieben.empty())
+            PruefeWerte(einer.block, einer.gelesene, einer.soll);
+        else if (regler.ausgefuehrte[einer.geschrieben] == einer.ausgefuehrteDavor)
+            ++zahlen.verloreneWrites;
+        return true;
+    });
+}
+
+/// False when the write is not believed, or was taken back at once.
+bool Probelauf::SchreibGeprueft(Block block, const Werte& werte) {
+    const auto adresse = static_cast<std::uint16_t>(block.adresse);
+    const auto anzahl = static_cast<std::uint16_t>(block.anzahl);
+    const std::string rahmen = SchreibAnforderung(Proberegler::Slaveadresse, adresse, anzahl, werte);
+    const int davor = regler.ausgefuehrte[rahmen];
+    const long bruecheDavor = zahlen.brueche;
+    if (!MitVersuchen([&] { return RTUModeH10SchreibenAnforderung(adresse, anzahl, werte); }) ||
+        zahlen.brueche != bruecheDavor)
+        return false;
+    geglaubte.push_back({.austausch = modAustausch::Letzter(),
+                         .block = block,
+                         .geschrieben = rahmen,
+                         .ausgefuehrteDavor = davor});
+    return true;
+}
+
 void Probelauf::Waehle(int neu) {
     teil.reset();
-    if (!MitVersuchen([neu] { return WaehleOptikteil(neu); }))
-        return;
-    teil = neu;
-    if (regler.speicher.Auswahl() != neu)
-        ++zahlen.verloreneWrites;
+    if (SchreibGeprueft({Proberegister::Auswahlregister, 1}, {neu}))
+        teil = neu;
 }
 
 /// Often the block of the last exchange again, as a read behind a write or the other way round.
@@ -189,26 +267,32 @@ void Probelauf::Lies() {
         return;
     constexpr std::int32_t Unberuehrt = -7;
     Werte werte(static_cast<std::size_t>(block.anzahl), Unberuehrt);
+    const long bruecheDavor = zahlen.brueche;
     const bool gelungen = MitVersuchen([&] {
         return RTUModeH03LeseAnforderung(static_cast<std::uint16_t>(block.adresse),
                                          static_cast<std::uint16_t>(block.anzahl), werte);
     });
-    if (gelungen)
-        PruefeGelesenes(block, werte);
-    else if (std::ranges::count(werte, Unberuehrt) != block.anzahl)
+    if (!gelungen && std::ranges::count(werte, Unberuehrt) != block.anzahl)
         ++zahlen.falscheWerte;
+    if (gelungen && zahlen.brueche == bruecheDavor)
+        geglaubte.push_back({.austausch = modAustausch::Letzter(),
+                             .block = block,
+                             .gelesene = werte,
+                             .soll = Soll(block, teil.value_or(0))});
 }
 
-void Probelauf::PruefeGelesenes(Block block, const Werte& werte) {
-    for (int i = 0; i < block.anzahl; ++i) {
-        const int soll = regler.speicher.Wert(block.adresse + i, teil.value_or(0));
-        const int ist = werte[static_cast<std::size_t>(i)];
-        if (ist == soll)
-            continue;
-        if (++zahlen.falscheWerte <= 5)
-            std::cerr << "wrong value at address " << block.adresse + i << ": " << ist
-                      << ", the controller holds " << soll << '\n';
-    }
+Werte Probelauf::Soll(Block block, int auswahl) {
+    Werte soll;
+    for (int i = 0; i < block.anzahl; ++i)
+        soll.push_back(regler.speicher.Wert(block.adresse + i, auswahl));
+    return soll;
+}
+
+void Probelauf::PruefeWerte(Block block, const Werte& gelesene, const Werte& soll) {
+    for (std::size_t i = 0; i < soll.size(); ++i)
+        if (gelesene[i] != soll[i] && ++zahlen.falscheWerte <= 5)
+            std::cerr << "wrong value at address " << block.adresse + static_cast<int>(i) << ": "
+                      << gelesene[i] << ", the controller holds " << soll[i] << '\n';
 }
 
 void Probelauf::Schreib() {
@@ -218,18 +302,63 @@ void Probelauf::Schreib() {
     Werte werte;
     for (int i = 0; i < block.anzahl; ++i)
         werte.push_back(Proberegister::NeuerWert(block.adresse + i, teil.value_or(0), Zufall(0, 15)));
-    const bool gelungen = MitVersuchen([&] {
-        return RTUModeH10SchreibenAnforderung(static_cast<std::uint16_t>(block.adresse),
-                                              static_cast<std::uint16_t>(block.anzahl), werte);
-    });
-    if (gelungen)
-        PruefeGeschriebenes(block, werte);
+    SchreibGeprueft(block, werte);
 }
 
-void Probelauf::PruefeGeschriebenes(Block block, const Werte& werte) {
-    for (int i = 0; i < block.anzahl; ++i)
-        if (regler.speicher.Wert(block.adresse + i, teil.value_or(0)) != werte[static_cast<std::size_t>(i)])
-            ++zahlen.verloreneWrites;
+/// A transfer: runs of like reads of one optical part after the other, and at its end what shows whether its
+/// last values were right.
+void Probelauf::Uebertrage() {
+    struct Lesung {
+        Block block;
+        int teil;
+        Werte werte;
+        std::size_t schritt;
+        bool gilt = false;
+    };
+    std::vector<std::shared_ptr<Lesung>> lesungen;
+    std::vector<Transferschritt> schritte;
+    const auto haengeAn = [&](std::function<Boolean()> tausche) {
+        schritte.push_back({.zeige = [](int) {},
+                            .tausche =
+                                [this, tausche = std::move(tausche)] {
+                                    ++zahlen.austausche;
+                                    return tausche() != False;
+                                },
+                            .uebernimm = [] {}});
+    };
+    const auto lies = [&](Block block, int welcher, std::size_t auswahl) {
+        const auto lesung = std::make_shared<Lesung>(
+            Lesung{block, welcher, Werte(static_cast<std::size_t>(block.anzahl), -7), schritte.size()});
+        haengeAn([lesung] {
+            return RTUModeH03LeseAnforderung(static_cast<std::uint16_t>(lesung->block.adresse),
+                                             static_cast<std::uint16_t>(lesung->block.anzahl), lesung->werte);
+        });
+        schritte.back().uebernimm = [lesung] { lesung->gilt = true; };
+        schritte.back().auswahl = auswahl;
+        lesungen.push_back(lesung);
+    };
+    const int teile = Zufall(1, Proberegister::Optikteile);
+    for (int welcher = 0; welcher < teile; ++welcher) {
+        haengeAn([welcher] { return WaehleOptikteil(welcher); });
+        const std::size_t auswahl = schritte.size() - 1;
+        for (int i = Zufall(2, 9); i > 0; --i)
+            lies({0x2000 + Zufall(0, 60), Manchmal(85) ? 1 : Zufall(2, 32)}, welcher, auswahl);
+    }
+    for (int welcher = 0; welcher < Proberegister::Optikteile; ++welcher) {
+        haengeAn([welcher] { return WaehleOptikteil(welcher); });
+        lies({0x202C, 1}, welcher, schritte.size() - 1);
+    }
+    // A line that stays bad is given up, as a user would; it can only be given up before the end.
+    long verbleibend = 20000;
+    Schrittfolge folge(std::move(schritte), [&verbleibend] { return --verbleibend < 0; });
+    teil.reset();
+    geglaubte.clear();
+    const bool durch = folge.Laufe();
+    zahlen.reihen += durch ? 1 : 0;
+    for (const auto& lesung : lesungen)
+        if (lesung->gilt && (!durch || lesung->schritt < folge.ErsterOffener()))
+            PruefeWerte(lesung->block, lesung->werte, Soll(lesung->block, lesung->teil));
+    BemerkeBruch();
 }
 
 void Probelauf::ZaehleVorlauf(Zeit beginn, int eigene, int identifikationenDavor) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace varnoth::pruefung {
 
@@ -15,6 +16,8 @@ namespace varnoth::pruefung {
 struct Probezahlen {
     long austausche = 0;
     long gescheiterte = 0;
+    long brueche = 0;         ///< how often what was provisional had to be asked again
+    long reihen = 0;          ///< rows of exchanges that came to their end
     long rueckfragen = 0;     ///< identifications that the exchange put in between
     long falscheWerte = 0;    ///< values believed that are not the controller's
     long verloreneWrites = 0; ///< writes believed that the controller does not hold
@@ -37,11 +40,13 @@ public:
     const Probezahlen& Zahlen() const { return zahlen; }
 
 private:
-    enum class Wetter { Ruhig, EinFehler, Sturm };
+    /// Repetitions come among themselves: one reply too many and one lost within a run of like exchanges
+    /// leave as many replies as requests, which nobody can tell from a line in order.
+    enum class Wetter { Ruhig, EinFehler, Sturm, Wiederholungen };
 
     int Zufall(int von, int bis);
     bool Manchmal(int prozent) { return Zufall(1, 100) <= prozent; }
-    std::optional<Probefehler> ZieheFehler();
+    std::optional<Probefehler> ZieheFehler(int ersteArt = 0);
     std::optional<Probefehler> NaechsterFehler();
 
     void LaufeAbschnitt(Wetter art, int schritte);
@@ -57,10 +62,23 @@ private:
         int adresse;
         int anzahl;
     };
+    /// What an exchange brought, until it is certain.
+    struct Glaube {
+        unsigned long austausch = 0;
+        Block block{0, 0};
+        Werte gelesene{}; ///< empty: a write
+        Werte soll{};
+        std::string geschrieben{}; ///< its frame
+        int ausgefuehrteDavor = 0;
+    };
+    void Uebertrage();
+    void PruefeGewisses();
+    void BemerkeBruch();
+    bool SchreibGeprueft(Block block, const Werte& werte);
+    Werte Soll(Block block, int auswahl);
+    void PruefeWerte(Block block, const Werte& gelesene, const Werte& soll);
     Block ZieheBlock();
     bool BereiteTeilVor(Block block);
-    void PruefeGelesenes(Block block, const Werte& werte);
-    void PruefeGeschriebenes(Block block, const Werte& werte);
 
     /// One attempt; `eigene` is how many identification requests it sends of its own.
     template<class Austausch>
@@ -78,6 +96,8 @@ private:
     int bisFehler = 0;
     bool zuletztGescheitert = false;
     Block letzter{0, 1};
+    std::vector<Glaube> geglaubte;
+    unsigned long brueche = 0;
     std::optional<int> teil; ///< the optical part that is certain to be selected
 };
 

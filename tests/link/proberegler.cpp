@@ -138,6 +138,7 @@ std::string Proberegler::Schreib(const std::string& anforderung) {
     const int adresse = Wort(anforderung, 2), anzahl = Wort(anforderung, 4);
     if (anforderung.at(0) != Slaveadresse || !Proberegister::GibtEs(adresse, anzahl))
         return {};
+    ++ausgefuehrte[anforderung];
     const int teil = speicher.Auswahl();
     for (int i = 0; i < anzahl; ++i)
         speicher.Wert(adresse + i, teil) =

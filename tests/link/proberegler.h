@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -47,6 +48,7 @@ public:
     /// Late replies let later ones pass.
     bool ausserDerReihe = false;
 
+    std::map<std::string, int> ausgefuehrte; ///< write requests that were carried out, by frame
     Proberegister speicher;
     Probeleitung leitung;
     int anforderungen = 0;     ///< requests sent to it

@@ -33,6 +33,57 @@ TEST_F(LeitungstaktTest, A_request_has_left_after_the_time_of_its_characters) {
     EXPECT_EQ(takt.Sendeende(), 52ms);
 }
 
+/// A line whose requests and replies follow each other.
+class PuenktlichkeitTest : public testing::Test {
+protected:
+    PuenktlichkeitTest() { takt.Stelle("10000,n,8,1"); }
+    /// One exchange of 8 and 7 characters, its reply there so much before or behind its time.
+    bool KamZuFrueh(Zeit verspaetung) {
+        jetzt += 1s;
+        takt.Gesendet(jetzt, Anforderung);
+        takt.Empfangen(jetzt + (Anforderung + 7) * Zeichen + verspaetung, 7);
+        return takt.KamZuFrueh();
+    }
+    void Bewaehre(int austausche) {
+        for (int i = 0; i < austausche; ++i)
+            EXPECT_FALSE(KamZuFrueh(0us)) << i;
+    }
+
+    Leitungstakt takt;
+    Zeit jetzt{0};
+};
+
+TEST_F(PuenktlichkeitTest,
+       What_comes_sooner_than_request_and_reply_can_pass_the_line_is_too_early_to_be_the_reply) {
+    Bewaehre(20);
+    EXPECT_TRUE(KamZuFrueh(-2ms));
+    EXPECT_FALSE(KamZuFrueh(0us));
+    EXPECT_FALSE(KamZuFrueh(500ms));
+}
+
+TEST_F(PuenktlichkeitTest, A_line_is_believed_to_keep_its_pace_after_twenty_replies) {
+    Bewaehre(19);
+    EXPECT_FALSE(KamZuFrueh(-2ms));
+    Bewaehre(19);
+    EXPECT_FALSE(KamZuFrueh(-2ms));
+}
+
+TEST_F(PuenktlichkeitTest, A_line_that_turns_out_to_be_faster_is_believed_no_more_from_the_third_reply_on) {
+    Bewaehre(20);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(KamZuFrueh(-2ms)) << i;
+    for (int i = 0; i < 30; ++i)
+        EXPECT_FALSE(KamZuFrueh(-2ms)) << i;
+}
+
+TEST_F(PuenktlichkeitTest, What_is_known_of_a_line_stays_while_its_settings_do) {
+    Bewaehre(20);
+    takt.Stelle("10000,n,8,1");
+    EXPECT_TRUE(KamZuFrueh(-2ms));
+    takt.Stelle("9600,n,8,1");
+    EXPECT_FALSE(KamZuFrueh(-2ms));
+}
+
 TEST_F(LeitungstaktTest, Before_the_first_character_nothing_is_known) {
     EXPECT_EQ(takt.Schlafdauer(1ms, 40), 0us);
 }

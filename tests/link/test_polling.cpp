@@ -7,7 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <functional>
+#include <map>
 
 namespace varnoth {
 
@@ -31,11 +34,12 @@ struct PruefAnsicht : LiveAnsicht {
 struct PruefZiel : PollingZiel {
     LiveAnsicht& Ansicht(int optikteil) override { return ansichten.at(static_cast<std::size_t>(optikteil)); }
     void AktualisiereGeraetestatus() override { ++aktualisiert; }
-    bool BefehlWartet() override { return befehl; }
+    bool BefehlWartet() override { return befehl || (befehlAb && befehlAb()); }
 
     std::array<PruefAnsicht, AnzahlOptikteile> ansichten;
     int aktualisiert = 0;
     bool befehl = false;
+    std::function<bool()> befehlAb;
 };
 
 constexpr int DevAuswahl = 212;
@@ -318,6 +322,196 @@ TEST_F(PollingTest, A_part_that_returns_gives_the_message_again_and_is_read_agai
     EXPECT_EQ(umgebung.meldungen.size(), 2U);
     PollingZyklus();
     EXPECT_EQ(ziel.ansichten[0].ablauf, "nsbm");
+}
+
+/// A line on which replies take their time and some come twice.
+class PollingMitWiederholungTest : public PollingTest {
+protected:
+    PollingMitWiederholungTest() {
+        const auto antworte = port.antworte;
+        port.antworte = [this, antworte](const std::string& anforderung) {
+            auto stuecke = antworte(anforderung);
+            if (stuecke.empty())
+                return stuecke;
+            frei = std::max(frei, umgebung.uhr) + 5ms;
+            stuecke[0].nach = frei - umgebung.uhr;
+            const auto welche = wiederholte.find(static_cast<int>(port.gesendet.size()));
+            if (welche == wiederholte.end())
+                return stuecke;
+            frei += welche->second;
+            stuecke.push_back({frei - umgebung.uhr, stuecke[0].bytes});
+            return stuecke;
+        };
+    }
+
+    /// The next request's reply comes twice; the one behind it when `spaeter` is 1, and so on.
+    void Wiederhole(int spaeter, Zeit nach) {
+        wiederholte[static_cast<int>(port.gesendet.size()) + 1 + spaeter] = nach;
+    }
+    std::int32_t Strahlen(std::int16_t anzahl) {
+        Werte werte;
+        modDaten::HoleStrahlzustaende(anzahl, 0, werte);
+        return werte.at(0);
+    }
+    /// A part whose beam states and measured values are as many registers.
+    void VerbindeGleichlange() {
+        Verbinde({288});
+        for (int i = 0; i < 18; ++i) {
+            geraet.Spezifisch(0, 353 + i) = 5;
+            geraet.Spezifisch(0, 335 + i) = 9;
+        }
+    }
+
+    Zeit frei{0};
+    std::map<int, Zeit> wiederholte;
+};
+
+TEST_F(PollingMitWiederholungTest, Beam_states_that_come_twice_are_not_left_standing_as_measured_values) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    PollingZyklus();
+    EXPECT_EQ(GetDurchgaenge(), 0U) << "the pass ended where something did not fit";
+    EXPECT_EQ(Spezifisch(0, 335, 18), 0) << "what was believed is taken back";
+    PollingZyklus();
+    EXPECT_EQ(GetDurchgaenge(), 1U);
+    EXPECT_EQ(Spezifisch(0, 335, 18), 9);
+    EXPECT_EQ(Strahlen(18), 5);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(PollingMitWiederholungTest,
+       Wherever_a_reply_of_a_pass_comes_again_nothing_wrong_stays_for_longer_than_a_pass) {
+    VerbindeGleichlange();
+    for (const auto nach : {0ms, 10ms, 40ms, 120ms})
+        for (int welche = 0; welche < 5; ++welche) {
+            Wiederhole(welche, nach);
+            for (int durchgang = 0; durchgang < 4; ++durchgang) {
+                PollingZyklus();
+                if (durchgang > 0) {
+                    EXPECT_EQ(Spezifisch(0, 335, 18), 9) << welche << ' ' << nach.count();
+                    EXPECT_EQ(Strahlen(18), 5) << welche << ' ' << nach.count();
+                }
+            }
+            umgebung.uhr += 5s;
+        }
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(GetOptikteilStatus(0), Vorhanden);
+}
+
+TEST_F(PollingMitWiederholungTest, Behind_a_reply_too_many_an_identification_comes_first) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    PollingZyklus();
+    const std::size_t davor = port.gesendet.size();
+    PollingZyklus();
+    EXPECT_EQ(port.gesendet.at(davor).at(1), 0x11);
+    EXPECT_EQ(std::ranges::count_if(port.gesendet, [](const std::string& a) { return a.at(1) == 0x11; }), 2);
+}
+
+TEST_F(PollingMitWiederholungTest, A_part_that_goes_on_a_line_in_order_is_told_at_once) {
+    Verbinde({16});
+    PollingZyklus();
+    geraet.Spezifisch(0, 44) = 0;
+    const Zeit beginn = umgebung.uhr;
+    PollingZyklus();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.uhr - beginn, 14ms) << "two exchanges of 7 ms";
+}
+
+TEST_F(PollingMitWiederholungTest, A_part_that_goes_on_a_line_that_repeats_is_told_once_that_is_certain) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    PollingZyklus();
+    PollingZyklus();
+    geraet.Spezifisch(0, 44) = 0;
+    const Zeit beginn = umgebung.uhr;
+    PollingZyklus();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_GE(umgebung.uhr - beginn, 200ms);
+}
+
+TEST_F(PollingMitWiederholungTest,
+       A_status_of_earlier_that_comes_again_gives_no_message_on_a_line_that_repeats) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    geraet.Register(DevGlobal) = 0;
+    PollingZyklus();
+    PollingZyklus();
+    ASSERT_EQ(GetDurchgaenge(), 1U);
+    // The reply to the global status comes again behind that to the selection, where the part's is due.
+    const int auswahl = static_cast<int>(port.gesendet.size()) + 1;
+    const auto antworte = port.antworte;
+    port.antworte = [&, antworte](const std::string& anforderung) {
+        auto stuecke = antworte(anforderung);
+        if (static_cast<int>(port.gesendet.size()) == auswahl) {
+            frei += 3ms;
+            stuecke.push_back(
+                {frei - umgebung.uhr, pruefung::MitPruefsumme(pruefung::Bytes({1, 3, 2, 0, 0}))});
+        }
+        return stuecke;
+    };
+    PollingZyklus();
+    PollingZyklus();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(GetOptikteilStatus(0), Vorhanden);
+    EXPECT_EQ(GetDurchgaenge(), 2U);
+}
+
+TEST_F(PollingMitWiederholungTest, Ten_broken_passes_in_a_row_are_a_lost_connection) {
+    VerbindeGleichlange();
+    for (int i = 1; i < 1000; ++i)
+        wiederholte[i] = 3ms;
+    for (int i = 0; i < 9; ++i)
+        PollingZyklus();
+    EXPECT_FALSE(VerbindungVerloren());
+    PollingZyklus();
+    EXPECT_TRUE(VerbindungVerloren());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3000));
+    wiederholte.clear();
+    umgebung.uhr += 5s;
+    PollingZyklus();
+    EXPECT_FALSE(VerbindungVerloren());
+}
+
+TEST_F(PollingMitWiederholungTest, When_polling_stops_nothing_provisional_stays_in_the_image) {
+    VerbindeGleichlange();
+    geraet.Register(DevGlobal) = 2;
+    PollingZyklus();
+    geraet.Register(DevGlobal) = 3;
+    PollingZyklus();
+    Werte status;
+    modDaten::HoleGlobaleDaten(0xC4, 1, status);
+    EXPECT_EQ(status, Werte{3});
+    StoppePolling();
+    modDaten::HoleGlobaleDaten(0xC4, 1, status);
+    EXPECT_EQ(status, Werte{2}) << "nothing has come behind the other that shows it right";
+    EXPECT_EQ(Strahlen(18), 5);
+}
+
+TEST_F(PollingMitWiederholungTest, When_a_command_waits_nothing_provisional_stays_in_the_image) {
+    VerbindeGleichlange();
+    PollingZyklus();
+    for (int i = 0; i < 18; ++i)
+        geraet.Spezifisch(0, 353 + i) = 6;
+    const std::size_t bisStrahlen = port.gesendet.size() + 3;
+    ziel.befehlAb = [&] { return port.gesendet.size() == bisStrahlen + 1; };
+    PollingZyklus();
+    EXPECT_EQ(Strahlen(18), 5);
+}
+
+TEST_F(PollingMitWiederholungTest, A_pass_on_a_line_in_order_carries_its_requests_alone_at_their_times) {
+    VerbindeGleichlange();
+    const std::size_t davor = port.gesendet.size();
+    const Zeit beginn = umgebung.uhr;
+    for (int i = 0; i < 3; ++i)
+        PollingZyklus();
+    std::vector<Zeit> zeiten;
+    for (int i = 0; i < 15; ++i)
+        zeiten.push_back(beginn + 2ms + i * 7ms);
+    EXPECT_EQ(std::vector<Zeit>(port.sendezeiten.begin() + static_cast<std::ptrdiff_t>(davor),
+                                port.sendezeiten.end()),
+              zeiten);
 }
 
 TEST_F(PollingTest, Polling_is_on_exactly_when_the_port_could_be_opened) {

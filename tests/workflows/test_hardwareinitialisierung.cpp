@@ -208,7 +208,7 @@ TEST_F(HardwareinitialisierungTest, A_password_of_another_length_than_16_sends_n
 }
 
 TEST_F(HardwareinitialisierungTest, Password_characters_beyond_ASCII_are_sent_as_bytes) {
-    modService::SetzeServiceText(std::string(15, 'a') + "\xE4");
+    modService::SetzeServiceText("aaaaaaaaaaaaaaa\xE4");
     InitialisiereHardware(anzeige, Beispiel);
     EXPECT_EQ(geraet.geschrieben.at(0).werte.back(), 0x61E4);
 }

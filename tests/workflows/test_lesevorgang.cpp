@@ -1,8 +1,11 @@
 #include "lesevorgang.h"
 
 #include "ablauftest.h"
+#include "austausch.h"
 #include "geraetestand.h"
+#include "optikteilinformation.h"
 #include "registerabbild.h"
+#include "schreibvorgang.h"
 #include "texte.h"
 #include "transfermitschrift.h"
 
@@ -244,11 +247,135 @@ TEST_F(LesevorgangTest, A_controller_that_goes_silent_while_it_is_read_aside_lea
     EXPECT_FALSE(LiesGeraeteabzug(anzeige, abzug));
     constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     EXPECT_EQ(abzug.abbild.HoleRegister(Spezifisch, 14, 0), 4);
-    EXPECT_FALSE(abzug.ungelesen.contains({Spezifisch, 52, 0}));
+    EXPECT_TRUE(abzug.ungelesen.contains({Spezifisch, 52, 0})) << "nothing behind it shows it right";
     EXPECT_TRUE(abzug.ungelesen.contains({Spezifisch, 12, 1}));
     EXPECT_TRUE(abzug.ungelesen.contains({Speicherbereich::Kommunikationsdaten, 126}));
-    EXPECT_EQ(abzug.ungelesen.size(), 3 * 9 + 7U);
+    EXPECT_EQ(abzug.ungelesen.size(), 1 + 3 * 9 + 7U);
     EXPECT_EQ(anzeige.ende, "");
+}
+
+/// Replies that take 5 ms and come in their order; any can come once more.
+class LesevorgangMitWiederholungTest : public LesevorgangTest {
+protected:
+    static constexpr int Lesungen = 55, Optikteilfragen = 8;
+
+    LesevorgangMitWiederholungTest() {
+        const auto antworte = port.antworte;
+        port.antworte = [this, antworte](const std::string& anforderung) {
+            auto stuecke = antworte(anforderung);
+            frei = std::max(frei, umgebung.uhr) + std::chrono::milliseconds(5);
+            stuecke[0].nach = frei - umgebung.uhr;
+            if (AnzahlAnforderungen() != doppelte)
+                return stuecke;
+            frei += nach;
+            stuecke.push_back({frei - umgebung.uhr, stuecke[0].bytes});
+            return stuecke;
+        };
+        for (int adresse = 0; adresse < 256; ++adresse) {
+            geraet.Register(adresse) = adresse;
+            geraet.Register(0x4000 + adresse) = 300 + adresse;
+            for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+                geraet.Spezifisch(teil, adresse) = 600 + 100 * teil + adresse % 100;
+        }
+        for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+            geraet.Spezifisch(teil, 12) = 32 + teil;
+    }
+    /// Reads with the n-th reply coming twice, and asks for the optical parts.
+    void LiesMitDoppelter(int welche, std::chrono::milliseconds wann) {
+        modDaten::LeereAbbild();
+        port.gesendet.clear();
+        doppelte = welche;
+        nach = wann;
+        EXPECT_TRUE(LiesKonfiguration(anzeige));
+        modSchnittstelle::OpenCommPort();
+        EXPECT_TRUE(HoleOptikteilInformation(teile));
+        doppelte = 0;
+        umgebung.uhr += std::chrono::seconds(5);
+        modAustausch::Vergewissere();
+    }
+
+    void VergissBeschreibbares() {
+        for (const Speicherbereich bereich : AlleSpeicherbereiche)
+            for (const Parameter& parameter : ParameterMit(bereich, IstSchreibbar))
+                for (int i = 0; i < parameter.beschreibung.Laenge; ++i)
+                    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+                        (bereich == Speicherbereich::SpezifischeGeraetedaten
+                             ? geraet.Spezifisch(teil, parameter.adresse + i)
+                             : geraet.Register(Geraeteadresse(bereich, parameter.adresse) + i)) = 9;
+    }
+
+    struct Teilanzeige : Optikteilanzeige {
+        void ZeigeOptikteil(int /*optikteil*/, const std::string& /*text*/) override {}
+        void ZeigeFortschritt(int /*erledigt*/, int /*gesamt*/) override {}
+        bool Abgebrochen() override { return abbruch; }
+        bool abbruch = false;
+    };
+    Teilanzeige teile;
+    Zeit frei{0};
+    int doppelte = 0;
+    std::chrono::milliseconds nach{0};
+};
+
+TEST_F(LesevorgangMitWiederholungTest, The_image_is_right_whichever_reply_comes_twice_and_however_late) {
+    LiesMitDoppelter(0, {});
+    const auto richtig = GanzesAbbild();
+    for (const int wann : {0, 3, 10, 25, 40, 60, 90, 120})
+        for (int welche = 1; welche <= Lesungen + Optikteilfragen - 2; ++welche) {
+            LiesMitDoppelter(welche, std::chrono::milliseconds(wann));
+            EXPECT_EQ(GanzesAbbild() == richtig, true) << "reply " << welche << " after " << wann << " ms";
+        }
+}
+
+TEST_F(LesevorgangMitWiederholungTest,
+       A_download_after_a_read_that_met_a_repeat_writes_what_the_controller_held) {
+    LiesMitDoppelter(0, {});
+    geraet.geschrieben.clear();
+    ASSERT_TRUE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig));
+    const auto richtig = geraet.geschrieben;
+    for (int ms = 10; ms <= 120; ms += 22)
+        for (int welche = 1; welche <= Lesungen; welche += 3) {
+            LiesMitDoppelter(welche, std::chrono::milliseconds(ms));
+            geraet.geschrieben.clear();
+            ASSERT_TRUE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig));
+            EXPECT_EQ(geraet.geschrieben == richtig, true) << "reply " << welche << " after " << ms << " ms";
+        }
+}
+
+TEST_F(LesevorgangMitWiederholungTest,
+       A_download_that_meets_a_repeat_leaves_the_whole_configuration_in_the_controller) {
+    LiesMitDoppelter(0, {});
+    const auto richtig = GanzesAbbild();
+    for (const int ms : {0, 10, 60})
+        for (int welche = 1; welche <= Lesungen; welche += 2) {
+            LiesMitDoppelter(0, {});
+            VergissBeschreibbares();
+            port.gesendet.clear();
+            doppelte = welche;
+            nach = std::chrono::milliseconds(ms);
+            ASSERT_TRUE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig));
+            LiesMitDoppelter(0, {});
+            EXPECT_EQ(GanzesAbbild() == richtig, true) << "reply " << welche << " after " << ms << " ms";
+        }
+}
+
+TEST_F(LesevorgangMitWiederholungTest, A_read_and_the_parts_behind_it_are_the_requests_alone_at_their_times) {
+    const Zeit beginn = umgebung.uhr;
+    port.sendezeiten.clear();
+    EXPECT_TRUE(LiesKonfiguration(anzeige));
+    EXPECT_TRUE(HoleOptikteilInformation(teile));
+    std::vector<Zeit> zeiten;
+    for (int i = 0; i < Lesungen + Optikteilfragen; ++i)
+        zeiten.push_back(beginn + std::chrono::milliseconds(2 + 7 * i));
+    EXPECT_EQ(port.sendezeiten, zeiten);
+}
+
+TEST_F(LesevorgangMitWiederholungTest, What_the_read_left_open_is_emptied_when_the_parts_are_not_asked) {
+    EXPECT_TRUE(LiesKonfiguration(anzeige));
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 126), 426);
+    teile.abbruch = true;
+    EXPECT_FALSE(HoleOptikteilInformation(teile));
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 126), 0);
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 74), 374);
 }
 
 TEST_F(LesevorgangTest, Autosend_can_be_chosen_with_modes_1_and_3_only) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varnoth {
+
+/// What of a request its reply shows: two requests of the same shape accept each other's replies. Requests
+/// are whole frames.
+std::string Gestalt(const std::string& anforderung);
+
+/// Whether the request changes something in the controller.
+bool Schreibt(const std::string& anforderung);
+
+/// The whole replies with a right checksum in a stream of bytes, refusals among them, in order, whatever lies
+/// between them.
+std::vector<std::string_view> SucheAntworten(std::string_view strom);
+
+/// Whether a whole reply could be one to this request, or its refusal.
+bool Passt(std::string_view antwort, const std::string& anforderung);
+
+} // namespace varnoth

@@ -1,0 +1,26 @@
+#include "gewissheit.h"
+
+namespace varnoth {
+
+void Gewissheit::Gelungen(const std::string& neue) {
+    if (neue != gestalt && letzter > 0)
+        wechsel.push_back(letzter);
+    gestalt = neue;
+    ++letzter;
+    if (wechsel.size() < Belege)
+        return;
+    gewissBis = wechsel.front();
+    wechsel.pop_front();
+}
+
+void Gewissheit::Geklaert() {
+    gewissBis = letzter;
+    wechsel.clear();
+}
+
+void Gewissheit::Gebrochen() {
+    ++brueche;
+    wechsel.clear();
+}
+
+} // namespace varnoth

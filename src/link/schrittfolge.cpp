@@ -1,0 +1,88 @@
+#include "schrittfolge.h"
+
+#include "austausch.h"
+#include "transaktionen.h"
+#include "umgebung.h"
+
+namespace varnoth {
+
+bool Schrittfolge::Laufe() {
+    nummern.assign(schritte.size(), 0);
+    while (stelle < schritte.size()) {
+        switch (wache > 0 ? TueBewacht() : Tue(stelle)) {
+        case Ausgang::Gelungen:
+            MerkeGelungen();
+            break;
+        case Ausgang::Gestoert:
+            GeheZurueck();
+            break;
+        case Ausgang::Abgebrochen:
+            return false;
+        }
+    }
+    for (std::size_t offen = gewiss; offen < stelle; ++offen)
+        schritte[offen].uebernimm();
+    return true;
+}
+
+/// Attempts at a step until one succeeds or something comes that nobody was waiting for.
+Schrittfolge::Ausgang Schrittfolge::Tue(std::size_t schritt) {
+    const unsigned long bruecheDavor = modAustausch::Brueche();
+    for (;;) {
+        schritte[stelle].zeige(++versuch);
+        const bool gelungen = schritte[schritt].tausche();
+        DieUmgebung().LasseEreignisseLaufen();
+        if (abgebrochen())
+            return Ausgang::Abgebrochen;
+        if (!gelungen)
+            modModbus::BeruhigeGeraet();
+        if (modAustausch::Brueche() != bruecheDavor)
+            return Ausgang::Gestoert;
+        if (gelungen)
+            return Ausgang::Gelungen;
+    }
+}
+
+/// The step, and before it what selects for it, each between two identifications.
+Schrittfolge::Ausgang Schrittfolge::TueBewacht() {
+    while (!vergewissert) {
+        schritte[stelle].zeige(++versuch);
+        vergewissert = modAustausch::Vergewissere();
+        DieUmgebung().LasseEreignisseLaufen();
+        if (abgebrochen())
+            return Ausgang::Abgebrochen;
+        if (!vergewissert)
+            modModbus::BeruhigeGeraet();
+    }
+    const unsigned long bruecheDavor = modAustausch::Brueche();
+    const bool waehlt = !gewaehlt;
+    const Ausgang ausgang = Tue(waehlt ? schritte[stelle].auswahl : stelle);
+    vergewissert = false;
+    if (ausgang != Ausgang::Gelungen)
+        return ausgang;
+    vergewissert = modAustausch::Vergewissere() && modAustausch::Brueche() == bruecheDavor;
+    if (!vergewissert)
+        return Ausgang::Gestoert;
+    gewaehlt = true;
+    return waehlt ? TueBewacht() : Ausgang::Gelungen;
+}
+
+void Schrittfolge::MerkeGelungen() {
+    nummern[stelle++] = modAustausch::Letzter();
+    versuch = 0;
+    wache -= wache > 0 ? 1 : 0;
+    for (; gewiss < stelle && nummern[gewiss] <= modAustausch::GewissBis(); ++gewiss)
+        schritte[gewiss].uebernimm();
+}
+
+/// To the first step that is not certain.
+void Schrittfolge::GeheZurueck() {
+    if (stelle != gewiss)
+        versuch = 0;
+    stelle = gewiss;
+    vergewissert = false;
+    gewaehlt = schritte[stelle].auswahl == Transferschritt::Ohne;
+    wache = Wachdauer;
+}
+
+} // namespace varnoth

@@ -1,0 +1,94 @@
+#include "gewissheit.h"
+
+#include "gestalt.h"
+
+#include "pruefgeraet.h"
+#include "rahmen.h"
+
+#include <gtest/gtest.h>
+
+namespace varnoth {
+
+using pruefung::Bytes;
+using pruefung::MitPruefsumme;
+
+class GewissheitTest : public testing::Test {
+protected:
+    void Gelungen(std::initializer_list<const char*> gestalten) {
+        for (const char* gestalt : gestalten)
+            gewissheit.Gelungen(gestalt);
+    }
+
+    Gewissheit gewissheit;
+};
+
+TEST_F(GewissheitTest, At_the_start_nothing_is_provisional) {
+    EXPECT_EQ(gewissheit.Letzter(), 0U);
+    EXPECT_FALSE(gewissheit.IstVorlaeufiges());
+}
+
+TEST_F(GewissheitTest, Exchanges_of_one_shape_stay_provisional_however_many_they_are) {
+    Gelungen({"a", "a", "a", "a", "a", "a"});
+    EXPECT_EQ(gewissheit.Letzter(), 6U);
+    EXPECT_EQ(gewissheit.GewissBis(), 0U);
+}
+
+TEST_F(GewissheitTest, A_run_is_certain_once_two_changes_of_shape_have_gone_cleanly_behind_it) {
+    Gelungen({"a", "a", "b", "b"});
+    EXPECT_EQ(gewissheit.GewissBis(), 0U);
+    Gelungen({"a"});
+    EXPECT_EQ(gewissheit.GewissBis(), 2U);
+    Gelungen({"c"});
+    EXPECT_EQ(gewissheit.GewissBis(), 4U);
+}
+
+TEST_F(GewissheitTest, After_a_break_the_changes_are_counted_anew) {
+    Gelungen({"a", "b"});
+    gewissheit.Gebrochen();
+    EXPECT_EQ(gewissheit.Brueche(), 1U);
+    Gelungen({"a"});
+    EXPECT_EQ(gewissheit.GewissBis(), 0U);
+    Gelungen({"b"});
+    EXPECT_EQ(gewissheit.GewissBis(), 2U);
+}
+
+TEST_F(GewissheitTest, What_cannot_be_mistaken_makes_all_before_it_certain) {
+    Gelungen({"a", "a"});
+    gewissheit.Geklaert();
+    EXPECT_EQ(gewissheit.GewissBis(), 2U);
+    Gelungen({"b", "c"});
+    EXPECT_EQ(gewissheit.GewissBis(), 2U);
+    Gelungen({"d"});
+    EXPECT_EQ(gewissheit.GewissBis(), 3U);
+}
+
+TEST_F(GewissheitTest, Whole_replies_are_found_among_other_bytes) {
+    const std::string gelesen = MitPruefsumme(Bytes({1, 3, 2, 0, 7}));
+    const std::string geschrieben = MitPruefsumme(Bytes({1, 0x10, 0, 212, 0, 1}));
+    const std::string kennung = MitPruefsumme(Bytes({9, 0x11, 3, 7, 50, 'x'}));
+    const std::string strom = "UU" + gelesen + "x" + geschrieben + kennung + gelesen.substr(0, 6);
+    EXPECT_EQ(SucheAntworten(strom), (std::vector<std::string_view>{gelesen, geschrieben, kennung}));
+}
+
+TEST_F(GewissheitTest, Bytes_without_a_right_checksum_are_no_reply) {
+    std::string gelesen = MitPruefsumme(Bytes({1, 3, 2, 0, 7}));
+    gelesen[4] ^= 1;
+    EXPECT_TRUE(SucheAntworten(gelesen + "UUUUUUUU").empty());
+}
+
+TEST_F(GewissheitTest, A_reply_fits_the_requests_of_its_shape_only) {
+    const std::string gelesen = MitPruefsumme(Bytes({1, 3, 2, 0, 7}));
+    const std::string geschrieben = MitPruefsumme(Bytes({1, 0x10, 0, 212, 0, 1}));
+    EXPECT_TRUE(Passt(gelesen, LeseAnforderung(1, 9, 1)));
+    EXPECT_FALSE(Passt(gelesen, LeseAnforderung(1, 9, 2)));
+    EXPECT_FALSE(Passt(gelesen, LeseAnforderung(2, 9, 1)));
+    EXPECT_TRUE(Passt(geschrieben, SchreibAnforderung(1, 212, 1, {3})));
+    EXPECT_FALSE(Passt(geschrieben, SchreibAnforderung(1, 213, 1, {3})));
+    EXPECT_FALSE(Passt(geschrieben, LeseAnforderung(1, 212, 1)));
+    const std::string abgelehnt = MitPruefsumme(Bytes({1, 0x83, 4}));
+    EXPECT_EQ(SucheAntworten(abgelehnt).size(), 1U);
+    EXPECT_TRUE(Passt(abgelehnt, LeseAnforderung(1, 9, 2)));
+    EXPECT_FALSE(Passt(abgelehnt, SchreibAnforderung(1, 212, 1, {3})));
+}
+
+} // namespace varnoth

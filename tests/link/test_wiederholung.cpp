@@ -1,0 +1,293 @@
+// A reply that comes twice: what was believed since then is asked again.
+
+#include "austausch.h"
+
+#include "pruefgeraet.h"
+#include "schrittfolge.h"
+#include "transaktionen.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+namespace varnoth {
+
+namespace {
+
+using namespace modModbus;
+using namespace std::chrono_literals;
+using pruefung::PruefGeraet;
+using pruefung::Stueck;
+
+} // namespace
+
+/// A controller on a slow line: replies take 5 ms and come in their order, and any of them can be followed by
+/// others of earlier.
+class WiederholungTest : public testing::Test {
+protected:
+    WiederholungTest() {
+        const auto antworte = port.antworte;
+        port.antworte = [this, antworte](const std::string& anforderung) {
+            auto stuecke = antworte(anforderung);
+            antworten.push_back(stuecke.empty() ? std::string() : stuecke[0].bytes);
+            const int nummer = static_cast<int>(antworten.size());
+            frei = std::max(frei, umgebung.uhr) + 5ms;
+            if (!stuecke.empty())
+                stuecke[0].nach = frei - umgebung.uhr;
+            for (const auto& [nach, welche] : wiederholte[nummer]) {
+                frei += nach;
+                stuecke.push_back({frei - umgebung.uhr, antworten.at(static_cast<std::size_t>(welche - 1))});
+            }
+            return stuecke;
+        };
+        for (int i = 0; i < 60; ++i)
+            geraet.Register(i) = 1000 + i;
+        modSchnittstelle::OpenCommPort();
+        RTUModeH11IndentifikationsAnforderung();
+        modAustausch::Vergewissere();
+        basis = static_cast<int>(port.gesendet.size());
+    }
+
+    /// Behind the reply to the n-th request from now, that to the m-th comes once more.
+    void Wiederhole(int hinter, int welche, Zeit nach) {
+        wiederholte[basis + hinter].emplace_back(nach, basis + welche);
+    }
+    std::int32_t Lies(int adresse, int anzahl = 1) {
+        Werte werte(static_cast<std::size_t>(anzahl), -1);
+        RTUModeH03LeseAnforderung(static_cast<std::uint16_t>(adresse), static_cast<std::uint16_t>(anzahl),
+                                  werte);
+        return werte[0];
+    }
+    Transferschritt Lesung(int adresse, int anzahl = 1) {
+        const auto werte = std::make_shared<Werte>(static_cast<std::size_t>(anzahl));
+        return {.zeige = [this, adresse](int versuch) { gezeigte.emplace_back(adresse, versuch); },
+                .tausche =
+                    [=] {
+                        return RTUModeH03LeseAnforderung(static_cast<std::uint16_t>(adresse),
+                                                         static_cast<std::uint16_t>(anzahl), *werte) != False;
+                    },
+                .uebernimm = [this, adresse, werte] { uebernommen[adresse].push_back(werte->at(0)); }};
+    }
+    /// Registers 0 to 9 one by one, two of more registers in between and at the end.
+    std::vector<Transferschritt> Gang() {
+        std::vector<Transferschritt> schritte;
+        for (int i = 0; i < 10; ++i) {
+            schritte.push_back(Lesung(i));
+            if (i % 5 == 4)
+                schritte.push_back(Lesung(20 + i, 4));
+        }
+        schritte.push_back(Lesung(40));
+        return schritte;
+    }
+    void ErwarteRichtige() const {
+        for (const auto& [adresse, werte] : uebernommen)
+            EXPECT_EQ(werte, std::vector<std::int32_t>{1000 + adresse}) << adresse;
+    }
+    long Kennungen() const {
+        return std::ranges::count_if(port.gesendet, [](const std::string& a) { return a.at(1) == 0x11; }) - 2;
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefPort port{umgebung};
+    PruefGeraet geraet{port};
+    Zeit frei{0};
+    int basis = 0;
+    std::vector<std::string> antworten;
+    std::map<int, std::vector<std::pair<Zeit, int>>> wiederholte;
+    std::map<int, std::vector<std::int32_t>> uebernommen;
+    std::vector<std::pair<int, int>> gezeigte;
+    bool abbruch = false;
+};
+
+TEST_F(WiederholungTest, A_repeated_reply_is_believed_by_the_next_read_and_shows_at_another_shape) {
+    Wiederhole(1, 1, 3ms);
+    const auto bruecheDavor = modAustausch::Brueche();
+    EXPECT_EQ(Lies(0), 1000);
+    EXPECT_EQ(Lies(1), 1000);
+    EXPECT_GT(modAustausch::Letzter(), modAustausch::GewissBis());
+    Lies(20, 4);
+    EXPECT_GT(modAustausch::Brueche(), bruecheDavor);
+}
+
+TEST_F(WiederholungTest, A_reply_behind_the_last_exchange_shows_at_the_next_whatever_its_shape) {
+    Wiederhole(1, 1, 3ms);
+    Lies(0);
+    const auto bruecheDavor = modAustausch::Brueche();
+    umgebung.uhr += 10ms;
+    EXPECT_EQ(Lies(1), 1001);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor) << "nothing else was in doubt";
+    Wiederhole(4, 3, 3ms); // an identification has come in between
+    Lies(2);
+    umgebung.uhr += 10ms;
+    Lies(3);
+    EXPECT_GT(modAustausch::Brueche(), bruecheDavor);
+}
+
+TEST_F(WiederholungTest, A_reply_that_came_while_the_port_was_closed_and_opened_shows_too) {
+    Wiederhole(2, 1, 3ms);
+    Lies(0);
+    Lies(1);
+    const auto bruecheDavor = modAustausch::Brueche();
+    umgebung.uhr += 10ms;
+    modSchnittstelle::CloseCommPort();
+    modSchnittstelle::OpenCommPort();
+    Lies(2);
+    EXPECT_GT(modAustausch::Brueche(), bruecheDavor);
+}
+
+TEST_F(WiederholungTest, Stray_bytes_are_no_reply_too_many) {
+    for (int i = 0; i < 5; ++i) {
+        Lies(i);
+        port.eingang = "UUUUU";
+    }
+    EXPECT_EQ(modAustausch::Brueche(), 0U);
+}
+
+TEST_F(WiederholungTest, A_row_of_exchanges_ends_with_the_right_values_wherever_a_reply_is_repeated) {
+    for (int hinter = 1; hinter <= 12; ++hinter)
+        for (const auto nach : {0ms, 3ms, 60ms, 500ms})
+            for (int mal = 1; mal <= 2; ++mal) {
+                wiederholte.clear();
+                uebernommen.clear();
+                basis = static_cast<int>(antworten.size());
+                for (int i = 0; i < mal; ++i)
+                    Wiederhole(hinter, hinter, nach);
+                Schrittfolge folge(Gang(), [this] { return abbruch; });
+                EXPECT_TRUE(folge.Laufe());
+                EXPECT_EQ(uebernommen.size(), 13U);
+                ErwarteRichtige();
+                EXPECT_FALSE(HasFailure()) << hinter << ' ' << nach.count() << ' ' << mal;
+                umgebung.uhr += 5s;
+                modAustausch::Vergewissere();
+            }
+}
+
+TEST_F(WiederholungTest, A_row_ends_with_the_right_values_when_every_reply_is_repeated_for_a_while) {
+    for (const auto nach : {0ms, 3ms, 60ms}) {
+        wiederholte.clear();
+        uebernommen.clear();
+        basis = static_cast<int>(antworten.size());
+        for (int i = 1; i <= 30; ++i)
+            Wiederhole(i, i, nach);
+        Schrittfolge folge(Gang(), [this] { return abbruch; });
+        EXPECT_TRUE(folge.Laufe());
+        ErwarteRichtige();
+        umgebung.uhr += 5s;
+        modAustausch::Vergewissere();
+    }
+}
+
+TEST_F(WiederholungTest, A_row_ends_with_the_right_values_when_a_reply_of_earlier_comes_again) {
+    for (int hinter = 2; hinter <= 11; ++hinter)
+        for (int zurueck = 1; zurueck < hinter; ++zurueck) {
+            wiederholte.clear();
+            uebernommen.clear();
+            basis = static_cast<int>(antworten.size());
+            Wiederhole(hinter, hinter - zurueck, 3ms);
+            Schrittfolge folge(Gang(), [this] { return abbruch; });
+            EXPECT_TRUE(folge.Laufe());
+            ErwarteRichtige();
+            EXPECT_FALSE(HasFailure()) << hinter << ' ' << zurueck;
+            umgebung.uhr += 5s;
+            modAustausch::Vergewissere();
+        }
+}
+
+TEST_F(WiederholungTest, A_row_on_a_line_in_order_carries_the_requests_alone_two_milliseconds_apart) {
+    Schrittfolge folge(Gang(), [this] { return abbruch; });
+    const Zeit beginn = umgebung.uhr;
+    EXPECT_TRUE(folge.Laufe());
+    ErwarteRichtige();
+    std::vector<Zeit> zeiten;
+    for (int i = 0; i < 13; ++i)
+        zeiten.push_back(beginn + 2ms + i * 7ms);
+    EXPECT_EQ(std::vector<Zeit>(port.sendezeiten.begin() + basis, port.sendezeiten.end()), zeiten);
+    EXPECT_EQ(Kennungen(), 0);
+}
+
+TEST_F(WiederholungTest, What_is_not_certain_yet_at_the_end_of_a_row_is_named) {
+    Schrittfolge folge(Gang(), [this] { return abbruch; });
+    folge.Laufe();
+    EXPECT_EQ(folge.ErsterOffener(), 11U);
+    EXPECT_EQ(folge.LetzterAustausch(), modAustausch::Letzter());
+}
+
+TEST_F(WiederholungTest, What_is_not_certain_is_not_taken_over_when_a_row_is_cancelled) {
+    auto schritte = Gang();
+    const auto tausche = schritte[7].tausche;
+    schritte[7].tausche = [&, tausche] {
+        abbruch = true;
+        return tausche();
+    };
+    Schrittfolge folge(std::move(schritte), [this] { return abbruch; });
+    EXPECT_FALSE(folge.Laufe());
+    EXPECT_EQ(uebernommen.size(), 5U);
+}
+
+TEST_F(WiederholungTest, After_a_break_a_step_is_tried_again_behind_what_it_needs_selected) {
+    geraet.Spezifisch(0, 7) = 70;
+    geraet.Spezifisch(1, 7) = 71;
+    geraet.Spezifisch(1, 8) = 81;
+    const auto auswahl = [](int teil) {
+        return Transferschritt{.zeige = [](int) {},
+                               .tausche = [teil] { return WaehleOptikteil(teil) != False; },
+                               .uebernimm = [] {}};
+    };
+    std::vector<Transferschritt> schritte{auswahl(1), Lesung(0x2007), Lesung(0x2008),
+                                          auswahl(0), Lesung(0x2007), auswahl(0)};
+    schritte[1].auswahl = schritte[2].auswahl = 0;
+    schritte[4].auswahl = 3;
+    Wiederhole(2, 2, 3ms);
+    Schrittfolge folge(schritte, [this] { return abbruch; });
+    EXPECT_TRUE(folge.Laufe());
+    EXPECT_EQ(uebernommen[0x2007], (std::vector<std::int32_t>{71, 70}));
+    EXPECT_EQ(uebernommen[0x2008], (std::vector<std::int32_t>{81}));
+}
+
+TEST_F(WiederholungTest, The_identifications_end_ten_steps_after_the_disturbance) {
+    Wiederhole(1, 1, 3ms);
+    std::vector<Transferschritt> schritte;
+    for (int i = 0; i < 40; ++i)
+        schritte.push_back(Lesung(i, 1 + i % 2));
+    Schrittfolge folge(std::move(schritte), [this] { return abbruch; });
+    EXPECT_TRUE(folge.Laufe());
+    ErwarteRichtige();
+    EXPECT_GT(Kennungen(), Schrittfolge::Wachdauer);
+    EXPECT_LE(Kennungen(), Schrittfolge::Wachdauer + 3);
+}
+
+TEST_F(WiederholungTest, Nothing_is_certain_while_the_answer_to_the_identification_does_not_come_first) {
+    Wiederhole(2, 2, 60ms);
+    Lies(0);
+    Lies(1);
+    EXPECT_FALSE(modAustausch::Vergewissere());
+    umgebung.uhr += 1s;
+    EXPECT_TRUE(modAustausch::Vergewissere());
+    EXPECT_EQ(modAustausch::GewissBis(), modAustausch::Letzter());
+}
+
+TEST_F(WiederholungTest, A_reply_that_is_there_before_its_request_can_have_left_is_not_believed) {
+    for (int i = 0; i < 25; ++i)
+        Lies(i % 10); // the line is seen to keep its pace
+    basis = static_cast<int>(port.gesendet.size());
+    const auto bruecheDavor = modAustausch::Brueche();
+    Wiederhole(1, 1, 3ms);
+    EXPECT_EQ(Lies(0), 1000);
+    EXPECT_EQ(Lies(1), -1) << "1 ms behind the request";
+    EXPECT_GT(modAustausch::Brueche(), bruecheDavor);
+    EXPECT_EQ(Lies(1), 1001);
+}
+
+TEST_F(WiederholungTest, Listening_hears_a_reply_that_is_one_too_many) {
+    Lies(5);
+    EXPECT_TRUE(modAustausch::Lausche());
+    Wiederhole(2, 1, 150ms);
+    Lies(6);
+    const Zeit davor = umgebung.uhr;
+    EXPECT_FALSE(modAustausch::Lausche());
+    EXPECT_GE(umgebung.uhr - davor, 200ms);
+}
+
+} // namespace varnoth
