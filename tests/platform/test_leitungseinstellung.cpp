@@ -1,5 +1,5 @@
-// What a settings string asks for reaches the system. A pseudo terminal has no parity, no other number of data bits and
-// no modem lines: the calls show it.
+// What a settings string asks for reaches the system. A pseudo terminal has no parity, no other number of
+// data bits and no modem lines: the calls show it.
 
 #include "leitungsmitschrift.h"
 #include "porttest.h"

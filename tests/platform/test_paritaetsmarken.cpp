@@ -52,8 +52,8 @@ TEST(Paritaetsmarken, Begun_before_the_input_was_discarded_are_forgotten) {
     }
 }
 
-/// A port with a parity bit over a pseudo terminal. That knows no parity and doubles each FF, as a driver does that
-/// marks broken bytes.
+/// A port with a parity bit over a pseudo terminal. That knows no parity and doubles each FF, as a driver
+/// does that marks broken bytes.
 class GebrocheneBytes : public pruefung::PortTest {
 protected:
     std::string Gelesen(std::size_t anzahl) {
@@ -71,8 +71,10 @@ protected:
 };
 
 TEST_F(GebrocheneBytes, Are_marked_by_the_driver_wherever_the_line_has_a_parity_bit) {
-    for (const auto& [format, markiert] :
-         {std::pair{"38400,n,8,2", false}, {"38400,e,8,1", true}, {"38400,o,8,1", true}, {"38400,n,8,1", false}}) {
+    for (const auto& [format, markiert] : {std::pair{"38400,n,8,2", false},
+                                           {"38400,e,8,1", true},
+                                           {"38400,o,8,1", true},
+                                           {"38400,n,8,1", false}}) {
         port.Oeffne(1, format);
         termios stand{};
         ASSERT_EQ(tcgetattr(nahesEnde, &stand), 0);

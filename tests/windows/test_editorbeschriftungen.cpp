@@ -1,5 +1,5 @@
-// Which caption stands at which control of the editor: an option that bears its neighbour's words would be chosen for
-// what it does not do.
+// Which caption stands at which control of the editor: an option that bears its neighbour's words would be
+// chosen for what it does not do.
 
 #include "frmKonfigurationEdit.h"
 
@@ -107,7 +107,8 @@ protected:
             modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, teil, {64});
         modHilfsFunktionen::BerechneZykluszeiten();
     }
-    /// Opens the editor in each language and compares; `teil` follows the names, as those of a part's page do.
+    /// Opens the editor in each language and compares; `teil` follows the names, as those of a part's page
+    /// do.
     static void Erwarte(std::span<const Textstelle> beschriftungen, int teil = -1) {
         for (const std::int16_t sprache : {Deutsch, Englisch}) {
             SetzeSprachoffset(sprache);

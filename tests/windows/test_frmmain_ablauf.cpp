@@ -1,4 +1,5 @@
-// What the commands of the main window do one after the other: what goes over the line, what the views show meanwhile.
+// What the commands of the main window do one after the other: what goes over the line, what the views show
+// meanwhile.
 
 #include "frmmaintest.h"
 
@@ -27,7 +28,8 @@ protected:
         Waehle("mnuMessdatenVisualisierenStop");
         port.gesendet.clear();
     }
-    /// Every request since then: "identify", "read <address> <count>", "write <address> <values>", numbers in hex.
+    /// Every request since then: "identify", "read <address> <count>", "write <address> <values>", numbers in
+    /// hex.
     std::vector<std::string> Anforderungen() const {
         std::vector<std::string> zeilen;
         for (const std::string& bytes : port.gesendet)
@@ -125,8 +127,10 @@ TEST_F(FrmMainAblauf, An_editor_that_asks_for_no_download_sends_nothing_more) {
 
 TEST_F(FrmMainAblauf, Views_and_their_menu_items_follow_the_beams_before_the_editor_opens) {
     VerbindeUndStoppe({32, 64, 0, 0});
-    ASSERT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 0, 1));
-    ASSERT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 16, 2));
+    ASSERT_TRUE(
+        modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 0, 1));
+    ASSERT_TRUE(
+        modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 16, 2));
     std::vector<bool> gezeigt;
     Sobald("frmKonfigurationEdit", [&](QDialog& dialog) {
         for (const int teil : {0, 1, 2})
@@ -151,9 +155,9 @@ TEST_F(FrmMainAblauf, The_texts_of_all_four_views_follow_the_language_shown_or_n
         }
         return zeilen;
     };
-    const std::vector<std::string> deutsch{"Aktuell", "1. Optikteil offline",        "Aktuell",
-                                           "2. Optikteil nicht vorhanden", "Aktuell", "3. Optikteil nicht vorhanden",
-                                           "Aktuell", "4. Optikteil nicht vorhanden"};
+    const std::vector<std::string> deutsch{
+        "Aktuell", "1. Optikteil offline",         "Aktuell", "2. Optikteil nicht vorhanden",
+        "Aktuell", "3. Optikteil nicht vorhanden", "Aktuell", "4. Optikteil nicht vorhanden"};
     EXPECT_EQ(texte(), deutsch);
     Waehle("mnuEnglisch");
     EXPECT_EQ(texte(), (std::vector<std::string>{"Current", "1. Optical part offline", "Current",
@@ -192,8 +196,8 @@ TEST_F(FrmMainAblauf, While_it_connects_every_view_says_offline_and_has_no_menu_
         return false;
     };
     Fenster().Autostart();
-    EXPECT_EQ(titel, (std::vector<QString>{"1. Optikteil offline", "2. Optikteil offline", "3. Optikteil offline",
-                                           "4. Optikteil offline"}));
+    EXPECT_EQ(titel, (std::vector<QString>{"1. Optikteil offline", "2. Optikteil offline",
+                                           "3. Optikteil offline", "4. Optikteil offline"}));
     EXPECT_FALSE(einEintrag);
 }
 
