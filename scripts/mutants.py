@@ -63,6 +63,13 @@ def balanced(code):
     return code.count("(") == code.count(")")
 
 
+def one_more(literal):
+    """The next number, octal where the literal is: that is how permissions are written."""
+    if re.fullmatch(r"0\d+", literal):
+        return f"0{int(literal, 8) + 1:o}"
+    return str(int(literal, 0) + 1)
+
+
 def of_line(code):
     """(column, old, new) of every small change to one line of blanked code."""
     if LINES_WITHOUT_BEHAVIOUR.match(code):
@@ -71,7 +78,7 @@ def of_line(code):
         for match in re.finditer(pattern, code):
             yield match.start(1), match[1], new
     for match in NUMBER.finditer(code):
-        yield match.start(), match[0], str(int(match[0], 0) + 1)
+        yield match.start(), match[0], one_more(match[0])
     condition = CONDITION.search(code)
     if condition and balanced(condition[1]) and not OPERATOR.search(condition[1]):
         yield condition.start(1), condition[1], f"!({condition[1]})"

@@ -17,7 +17,7 @@ int Vorrang(QEvent::Type art) {
 
 } // namespace
 
-Malaufschub::Malaufschub(Ereignispumpe& die) : pumpe(die) {
+Malaufschub::Malaufschub(Ereignispumpe& ereignispumpe) : pumpe(ereignispumpe) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 

@@ -11,7 +11,7 @@ class Ereignispumpe;
 class Malaufschub : public QObject {
 public:
     /// Needs the application and the pump, which must outlive it.
-    explicit Malaufschub(Ereignispumpe& die);
+    explicit Malaufschub(Ereignispumpe& ereignispumpe);
 
 protected:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "registeradressen.h"
 #include "werte.h"
 
 #include <cstdint>
@@ -9,7 +10,7 @@
 namespace varnoth {
 
 /// The registers that hold the blanking pattern of an optical part, 16 beams each.
-inline constexpr std::int16_t Blankingregister = 32;
+using spezifisch::Blankingregister;
 
 /// Beam by beam (0-based) whether it is blanked.
 using Geblankte = std::vector<bool>;

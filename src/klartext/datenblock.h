@@ -1,5 +1,6 @@
 #pragma once
 
+#include "registeradressen.h"
 #include "texte.h"
 #include "werte.h"
 
@@ -13,7 +14,7 @@
 namespace varnoth {
 
 /// The registers that hold the data block, and the most entries it takes: one place stays 0 as its end.
-inline constexpr std::int16_t Datenblockregister = 30;
+using kommunikation::Datenblockregister;
 inline constexpr int MaxEintraege = 29;
 
 /// Where a value comes from; the numbers are those of the entry word.

@@ -1,15 +1,13 @@
 #include "optikteilstatus.h"
 #include "registerfelder.h"
+#include "statusbits.h"
 
 namespace varnoth {
 
 namespace {
 
-constexpr std::int32_t PnpAktiv = 1 << 1;
-constexpr std::int32_t KeinOptikteil = 1 << 2;
-constexpr int StrahlenzahlGeaendertBit = 4;
-constexpr int NichtLesbarBit = 12;
-constexpr std::int32_t Vorhanden = 1 << 7;
+using namespace geraetestatus;
+using optikteilstatus::Vorhanden;
 
 constexpr std::int16_t TextErstesOptikteil = 5200;
 constexpr std::int16_t TextKeinOptikteil = 9310;

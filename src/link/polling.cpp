@@ -1,12 +1,12 @@
 #include "polling.h"
 
 #include "austausch.h"
-#include "bitsunddatum.h"
 #include "geraetestatus.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
 #include "startzustand.h"
+#include "statusbits.h"
 #include "texte.h"
 #include "transaktionen.h"
 #include "verbindungsauskunft.h"
@@ -29,7 +29,6 @@ constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
 constexpr int Versuche = 10;
-constexpr std::int16_t BitSchaltausgang = 1;
 
 constexpr std::int16_t TextVerbindungUnterbrochen = 3000;
 constexpr std::int16_t TextAusgangAktiv = 3001;
@@ -201,7 +200,7 @@ bool PolleOptikteil(int teil) {
 bool PolleGlobalstatus() {
     if (!LiesParameter(Global, global::Geraetestatus))
         return false;
-    const bool aktiv = GetBit(HoleRegister(Global, global::Geraetestatus), BitSchaltausgang) != False;
+    const bool aktiv = (HoleRegister(Global, global::Geraetestatus) & geraetestatus::PnpAktiv) != 0;
     DieUmgebung().ZeigeStatustext(FeldSchaltausgang,
                                   LadeText(aktiv ? TextAusgangAktiv : TextAusgangNichtAktiv));
     return true;

@@ -31,7 +31,7 @@ public:
     virtual void Schliesse() = 0;
     /// Whether the port is open and its line still there.
     virtual bool IstOffen() = 0;
-    /// Why the last Oeffne failed, in the system's words.
+    /// Why the last Oeffne failed, in the current language; empty when it has not.
     virtual std::string Fehlertext() const = 0;
     /// What port 1..4 leads to.
     virtual Anschluss AnschlussVon(int /*nummer*/) const { return {}; }

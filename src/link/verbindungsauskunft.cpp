@@ -82,7 +82,7 @@ std::string UrsacheAufDerLeitung() {
 std::string Ursache(const Anschluss& anschluss, const Portbefund& befund) {
     switch (befund.hindernis) {
     case Hindernis::Einstellung:
-        return LadeTextMit(TextFalscheEinstellung, {modSchnittstelle::GetComSettings()});
+        return KeinLeitungsformat(modSchnittstelle::GetComSettings());
     case Hindernis::Fehlt:
         return LadeTextMit(TextFehlt, {anschluss.geraet});
     case Hindernis::KeinRecht:
@@ -116,6 +116,17 @@ Verbindungsauskunft LiesVerbindungsauskunft() {
     const std::string zeile = Anschlusszeile(anschluss);
     return {
         .anschluss = zeile, .ursache = Ursache(anschluss, befund), .einzelheiten = zeile + "\n" + Zaehlung()};
+}
+
+std::optional<Verbindungsauskunft> AuskunftNachFehlschlag() {
+    const auto ende = modLeitungsstatistik::GetStand().letztesEnde;
+    if (!ende || *ende == Austauschende::Gelungen)
+        return std::nullopt;
+    return LiesVerbindungsauskunft();
+}
+
+std::string KeinLeitungsformat(const std::string& einstellung) {
+    return LadeTextMit(TextFalscheEinstellung, {einstellung});
 }
 
 Meldung MeldungOhneVerbindung(const std::string& text, const std::string& titel) {

@@ -2,6 +2,7 @@
 
 #include "umgebung.h"
 
+#include <optional>
 #include <string>
 
 namespace varnoth {
@@ -16,6 +17,12 @@ struct Verbindungsauskunft {
 
 /// Looks at the port and the line now; takes some milliseconds. To be asked after an exchange has failed.
 Verbindungsauskunft LiesVerbindungsauskunft();
+
+/// The same where the last exchange has failed; nothing after one that got its reply, and before any.
+std::optional<Verbindungsauskunft> AuskunftNachFehlschlag();
+
+/// Says that a settings string is no line format, and what is expected.
+std::string KeinLeitungsformat(const std::string& einstellung);
 
 /// A warning with the given text that says why there is no connection.
 Meldung MeldungOhneVerbindung(const std::string& text, const std::string& titel);

@@ -2,6 +2,7 @@
 
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "statusbits.h"
 #include "texte.h"
 #include "umgebung.h"
 
@@ -11,11 +12,7 @@ namespace {
 
 constexpr const char* Zeilenumbruch = "\r\n";
 
-constexpr std::int32_t KeinOptikteilMaske = 1 << 2;
-constexpr int StrahlenzahlGeaendertBit = 4;
-constexpr int NichtLesbarBit = 12;
-
-constexpr std::int32_t VorhandenMaske = 1 << 7;
+using namespace geraetestatus;
 
 constexpr std::int16_t TextKeinOptikteil = 3103;
 constexpr std::int16_t TextOptikteil = 3104;
@@ -47,7 +44,7 @@ void HaengeAn(std::string& meldung, const std::string& liste, std::int16_t textI
 
 std::string Geraetestatustext(std::int32_t statuswort) {
     std::string meldung;
-    if ((statuswort & KeinOptikteilMaske) != 0)
+    if ((statuswort & KeinOptikteil) != 0)
         meldung = LadeText(TextKeinOptikteil);
     HaengeAn(meldung, Optikteilliste(statuswort, StrahlenzahlGeaendertBit), TextStrahlenzahlGeaendert);
     HaengeAn(meldung, Optikteilliste(statuswort, NichtLesbarBit), TextNichtLesbar);
@@ -55,7 +52,7 @@ std::string Geraetestatustext(std::int32_t statuswort) {
 }
 
 bool IstOptikteilVorhanden(std::int32_t statuswort) {
-    return (statuswort & VorhandenMaske) != 0;
+    return (statuswort & optikteilstatus::Vorhanden) != 0;
 }
 
 void ZeigeGeraetestatus() {

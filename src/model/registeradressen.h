@@ -31,6 +31,7 @@ inline constexpr std::int16_t Lochgroesse = 26;
 inline constexpr std::int16_t Mittentoleranz = 27;
 inline constexpr std::int16_t Optikteilstatus = 44;
 inline constexpr std::int16_t Blankingmuster = 52;
+inline constexpr std::int16_t Blankingregister = 32; ///< registers of the blanking pattern, 16 beams each
 inline constexpr std::int16_t Messwerte = 335;
 inline constexpr std::int16_t Strahlzustaende = 353;
 } // namespace spezifisch
@@ -42,6 +43,7 @@ inline constexpr std::int16_t Stationsadresse = 4;
 inline constexpr std::int16_t Pausenzeit = 8;
 inline constexpr std::int16_t Autosend = 74;
 inline constexpr std::int16_t Datenblock = 75;
+inline constexpr std::int16_t Datenblockregister = 30; ///< registers of the autosend data block, one an entry
 inline constexpr std::int16_t Autosendformat = 126;
 inline constexpr std::int16_t Steuerwert = 132; ///< 2 starts autosend, 4 ends it
 } // namespace kommunikation

@@ -32,14 +32,16 @@ constexpr Parameter DieParameter[] = {
     {Spezifisch, spezifisch::Lochgroesse, {1, 1, zugriff::LesenUndSchreiben}},
     {Spezifisch, spezifisch::Mittentoleranz, {1, 1, zugriff::LesenUndSchreiben}},
     {Spezifisch, spezifisch::Optikteilstatus, {1, 0, zugriff::KeineUebertragung}},
-    {Spezifisch, spezifisch::Blankingmuster, {32, 1, zugriff::LesenUndSchreiben}},
+    {Spezifisch, spezifisch::Blankingmuster, {spezifisch::Blankingregister, 1, zugriff::LesenUndSchreiben}},
     {Spezifisch, spezifisch::Messwerte, {18, 0, zugriff::KeineUebertragung}},
     {Kommunikation, kommunikation::Bustyp, {1, 0, zugriff::NurLesen}},
     {Kommunikation, kommunikation::Format, {1, 1, zugriff::NurLesen}},
     {Kommunikation, kommunikation::Stationsadresse, {1, 1, zugriff::LesenUndSchreiben}},
     {Kommunikation, kommunikation::Pausenzeit, {1, 1, zugriff::LesenUndSchreiben}},
     {Kommunikation, kommunikation::Autosend, {1, 1, zugriff::LesenUndSchreiben}},
-    {Kommunikation, kommunikation::Datenblock, {30, 1, zugriff::LesenUndSchreiben}},
+    {Kommunikation,
+     kommunikation::Datenblock,
+     {kommunikation::Datenblockregister, 1, zugriff::LesenUndSchreiben}},
     {Kommunikation, kommunikation::Autosendformat, {1, 1, zugriff::LesenUndSchreiben}},
 };
 

@@ -16,7 +16,8 @@ constexpr std::int16_t TextKeineWerte = 9000;
 
 class Wertfeldzugang : public QAccessibleWidget {
 public:
-    explicit Wertfeldzugang(Wertfeld* das) : QAccessibleWidget(das, QAccessible::StaticText), feld(das) {}
+    explicit Wertfeldzugang(Wertfeld* wertfeld)
+        : QAccessibleWidget(wertfeld, QAccessible::StaticText), feld(wertfeld) {}
 
     QString text(QAccessible::Text art) const override {
         if (art == QAccessible::Name)

@@ -16,7 +16,7 @@ constexpr int SchmalerKnopf = 18;
 
 } // namespace
 
-Zoomkopf::Zoomkopf(BeamBarControl& der) : QWidget(&der), balken(der) {
+Zoomkopf::Zoomkopf(BeamBarControl& strahlbalken) : QWidget(&strahlbalken), balken(strahlbalken) {
     setObjectName(QStringLiteral("Zoomkopf"));
     lblAusschnitt.setObjectName(QStringLiteral("lblAusschnitt"));
     lblAusschnitt.setTextFormat(Qt::PlainText);

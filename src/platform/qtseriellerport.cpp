@@ -3,9 +3,12 @@
 #include "geraetebefund.h"
 #include "geraetepfade.h"
 #include "porteinstellungen.h"
+#include "systemfehler.h"
+#include "verbindungsauskunft.h"
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <thread>
 #include <utility>
 
@@ -106,6 +109,36 @@ std::size_t SchreibeSofort([[maybe_unused]] QSerialPort& port, [[maybe_unused]] 
 #endif
 }
 
+/// Lets the driver check parity and mark the bytes that arrive broken, which QSerialPort does not ask for: it
+/// would hand them over like any other. Gives whether the driver does.
+bool MarkiereGebrochene([[maybe_unused]] QSerialPort& port) {
+#ifdef Q_OS_UNIX
+    termios stand{};
+    if (::tcgetattr(port.handle(), &stand) != 0)
+        return false;
+    stand.c_iflag |= INPCK | PARMRK;
+    stand.c_iflag &= ~static_cast<tcflag_t>(IGNPAR);
+    return ::tcsetattr(port.handle(), TCSANOW, &stand) == 0;
+#else
+    return false;
+#endif
+}
+
+/// The system's number for why a port could not be opened; 0 for no error.
+/// @param nummer what the system gave last, which may be nothing
+int Fehlernummer(QSerialPort::SerialPortError fehler, int nummer) {
+    switch (fehler) {
+    case QSerialPort::NoError:
+        return 0;
+    case QSerialPort::PermissionError: // also where another program's lock file stands for the port
+        return nummer == EACCES ? EACCES : EBUSY;
+    case QSerialPort::DeviceNotFoundError:
+        return nummer != 0 ? nummer : ENOENT;
+    default:
+        return nummer != 0 ? nummer : EIO;
+    }
+}
+
 /// Waits, serving events, until the driver has sent everything. The driver's own wait cannot be given a time;
 /// when that is up, dropping what is left ends it.
 bool LeereTreiber([[maybe_unused]] QSerialPort& port, [[maybe_unused]] Zeit ende) {
@@ -133,19 +166,29 @@ QtSeriellerPort::QtSeriellerPort() {
 bool QtSeriellerPort::Oeffne(int nummer, const std::string& einstellungen) {
     Schliesse();
     const auto gelesen = LiesPorteinstellungen(einstellungen);
-    einstellungFalsch = !gelesen;
+    falscheEinstellung.reset();
     if (!gelesen) {
-        fehlertext = "\"" + einstellungen + "\": baud rate, parity, data bits, stop bits expected";
+        falscheEinstellung = einstellungen;
         return false;
     }
     port.setPortName(QString::fromStdString(Geraetepfad(nummer)));
     Stelle(port, *gelesen);
+    errno = 0;
     const bool offen = port.open(QIODevice::ReadWrite);
+    const int systemnummer = errno;
     oeffnungsfehler = offen ? QSerialPort::NoError : port.error();
-    fehlertext = offen ? std::string() : port.errorString().toStdString();
+    fehlernummer = Fehlernummer(oeffnungsfehler, systemnummer);
+    marken.Vergiss();
+    markiert = offen && gelesen->paritaet != Paritaet::Keine && MarkiereGebrochene(port);
     if (offen)
         SchalteLeitungenEin();
     return offen;
+}
+
+std::string QtSeriellerPort::Fehlertext() const {
+    if (falscheEinstellung)
+        return KeinLeitungsformat(*falscheEinstellung);
+    return fehlernummer == 0 ? std::string() : Systemfehler(fehlernummer);
 }
 
 /// RTS and DTR on. A pseudo terminal has no such lines, and refuses; that does not matter.
@@ -177,7 +220,7 @@ Anschluss QtSeriellerPort::AnschlussVon(int nummer) const {
 }
 
 Portbefund QtSeriellerPort::BefundVon(int nummer) const {
-    if (einstellungFalsch)
+    if (falscheEinstellung)
         return {.hindernis = Hindernis::Einstellung};
     const std::string pfad = Geraetepfad(nummer);
     Portbefund befund = BefundDesGeraets(pfad);
@@ -203,6 +246,7 @@ Hindernis QtSeriellerPort::HindernisNachFehler() const {
 }
 
 void QtSeriellerPort::Verwirf() {
+    marken.Vergiss();
     if (port.isOpen())
         port.clear(QSerialPort::Input);
 }
@@ -218,7 +262,7 @@ std::string QtSeriellerPort::LiesAlles() {
     if (port.bytesAvailable() > 0)
         bytes = port.readAll().toStdString();
     LiesAusSystem(port, bytes);
-    return bytes;
+    return markiert ? marken.Entferne(bytes) : bytes;
 }
 
 void QtSeriellerPort::Schreibe(std::string_view bytes) {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "paritaetsmarken.h"
 #include "seriellerport.h"
 
 #include <QSerialPort>
 
+#include <optional>
+
 namespace varnoth {
 
-/// A serial port of the system. A line that disappears closes the port at the first sign of it.
+/// A serial port of the system. A line that disappears closes the port at the first sign of it. Where the
+/// line has a parity bit, '?' is read in place of a byte that arrived broken.
 class QtSeriellerPort : public SeriellerPort {
 public:
     QtSeriellerPort();
@@ -14,7 +18,7 @@ public:
     bool Oeffne(int nummer, const std::string& einstellungen) override;
     void Schliesse() override;
     bool IstOffen() override;
-    std::string Fehlertext() const override { return fehlertext; }
+    std::string Fehlertext() const override;
     Anschluss AnschlussVon(int nummer) const override;
     Portbefund BefundVon(int nummer) const override;
 
@@ -35,10 +39,12 @@ private:
     void SchaueNachDemFenster();
 
     QSerialPort port;
+    Paritaetsmarken marken;
+    bool markiert = false; // the driver marks broken bytes
     std::function<void(int)> ereignisbehandlung;
-    std::string fehlertext;
+    std::optional<std::string> falscheEinstellung; // the settings string that is no line format
+    int fehlernummer = 0;                          // of the system, why the last opening failed
     QSerialPort::SerialPortError oeffnungsfehler = QSerialPort::NoError;
-    bool einstellungFalsch = false;
     bool leitungenWerdenGeschaltet = false;
     Zeit naechsterFensterblick{0};
     Zeit naechsterLeitungsblick{0};

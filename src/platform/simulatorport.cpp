@@ -2,6 +2,7 @@
 
 #include "porteinstellungen.h"
 #include "simulator.h"
+#include "verbindungsauskunft.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,13 +15,16 @@ SimulatorPort::~SimulatorPort() = default;
 
 bool SimulatorPort::Oeffne(int /*nummer*/, const std::string& einstellungen) {
     offen = LiesPorteinstellungen(einstellungen).has_value();
-    fehlertext =
-        offen ? std::string() : "\"" + einstellungen + "\": baud rate, parity, data bits, stop bits expected";
+    falscheEinstellung = offen ? std::nullopt : std::optional(einstellungen);
     return offen;
 }
 
+std::string SimulatorPort::Fehlertext() const {
+    return falscheEinstellung ? KeinLeitungsformat(*falscheEinstellung) : std::string();
+}
+
 Portbefund SimulatorPort::BefundVon(int /*nummer*/) const {
-    return {.hindernis = fehlertext.empty() ? Hindernis::Keines : Hindernis::Einstellung};
+    return {.hindernis = falscheEinstellung ? Hindernis::Einstellung : Hindernis::Keines};
 }
 
 void SimulatorPort::Schliesse() {

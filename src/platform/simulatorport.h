@@ -3,6 +3,7 @@
 #include "seriellerport.h"
 
 #include <memory>
+#include <optional>
 
 namespace varnoth {
 
@@ -20,7 +21,7 @@ public:
     bool Oeffne(int nummer, const std::string& einstellungen) override;
     void Schliesse() override;
     bool IstOffen() override { return offen; }
-    std::string Fehlertext() const override { return fehlertext; }
+    std::string Fehlertext() const override;
     Anschluss AnschlussVon(int /*nummer*/) const override { return {.simuliert = true}; }
     Portbefund BefundVon(int nummer) const override;
 
@@ -38,7 +39,7 @@ private:
 
     std::unique_ptr<simulator::Simulator> geraet;
     std::string eingang;
-    std::string fehlertext;
+    std::optional<std::string> falscheEinstellung; // the settings string that is no line format
     bool offen = false;
 };
 

@@ -46,7 +46,7 @@ void SpeichereKachelung(std::optional<Anordnung> kachelung) {
 /// Sets a mark for as long as it lives.
 class Waehrend {
 public:
-    explicit Waehrend(bool& die) : marke(die), vorher(std::exchange(die, true)) {}
+    explicit Waehrend(bool& gesetzte) : marke(gesetzte), vorher(std::exchange(gesetzte, true)) {}
     Waehrend(const Waehrend&) = delete;
     Waehrend& operator=(const Waehrend&) = delete;
     ~Waehrend() { marke = vorher; }
@@ -58,7 +58,8 @@ private:
 
 } // namespace
 
-Ansichten::Ansichten(QMdiArea& der) : bereich(der), kachelung(GespeicherteKachelung()), vonFrueher(true) {
+Ansichten::Ansichten(QMdiArea& mdiBereich)
+    : bereich(mdiBereich), kachelung(GespeicherteKachelung()), vonFrueher(true) {
     for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil)
         Lade(teil);
     bereich.viewport()->installEventFilter(this);

@@ -14,7 +14,7 @@ constexpr int TaktMs = 250;
 
 } // namespace
 
-Ausgangsanzeige::Ausgangsanzeige(QLabel& das) : feld(das) {
+Ausgangsanzeige::Ausgangsanzeige(QLabel& statusfeld) : feld(statusfeld) {
     takt.setInterval(TaktMs);
     feld.parentWidget()->installEventFilter(this);
     connect(&takt, &QTimer::timeout, this, &Ausgangsanzeige::PruefeAlter);

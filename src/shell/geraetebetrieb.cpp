@@ -17,6 +17,7 @@
 #include "transaktionen.h"
 #include "umgebung.h"
 #include "verbindungsanzeige.h"
+#include "verbindungsauskunft.h"
 
 #include <QDir>
 
@@ -40,9 +41,9 @@ bool Durchlaufe(QWidget& fenster) {
 
 } // namespace
 
-Geraetebetrieb::Geraetebetrieb(const Hauptteile& die, const Befehlsspeicher& speicher,
-                               Konfigurationsablauf& der, QString ordner)
-    : teile(die), befehle(speicher), ablauf(der), programmordner(std::move(ordner)) {
+Geraetebetrieb::Geraetebetrieb(const Hauptteile& hauptteile, const Befehlsspeicher& speicher,
+                               Konfigurationsablauf& konfigurationsablauf, QString ordner)
+    : teile(hauptteile), befehle(speicher), ablauf(konfigurationsablauf), programmordner(std::move(ordner)) {
     modPolling::SetzeZiel(this);
 }
 
@@ -140,7 +141,7 @@ void Geraetebetrieb::FolgeAutosendart() {
 
 bool Geraetebetrieb::FrageNachKonfiguration() {
     teile.verbindung.SetzeVerbindet(false);
-    return ablauf.FrageNachKonfiguration();
+    return ablauf.FrageNachKonfiguration(AuskunftNachFehlschlag());
 }
 
 std::string Geraetebetrieb::StarteFlasher(const std::string& parameter) {

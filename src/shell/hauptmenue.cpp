@@ -10,8 +10,8 @@
 
 namespace varnoth {
 
-Hauptmenue::Hauptmenue(QMainWindow& das, const Klick& klick, std::span<const Befehlszeile> befehle)
-    : fenster(das) {
+Hauptmenue::Hauptmenue(QMainWindow& hauptfenster, const Klick& klick, std::span<const Befehlszeile> befehle)
+    : fenster(hauptfenster) {
     for (const Befehlszeile& zeile : befehle)
         for (int platz = 0; platz < zeile.anzahl; ++platz)
             Verbinde(zeile, platz, klick);

@@ -25,7 +25,7 @@ bool HatStrahlen() {
 
 } // namespace
 
-Konfigurationsablauf::Konfigurationsablauf(const Hauptteile& die) : teile(die) {}
+Konfigurationsablauf::Konfigurationsablauf(const Hauptteile& hauptteile) : teile(hauptteile) {}
 
 /// The views and the menu follow the beam counts in the image.
 void Konfigurationsablauf::Zeige() {
@@ -56,10 +56,12 @@ void Konfigurationsablauf::Berichte() {
 }
 
 /// A way that led to nothing, such as a file dialog that was cancelled, leads back to the question.
-bool Konfigurationsablauf::FrageNachKonfiguration() {
+bool Konfigurationsablauf::FrageNachKonfiguration(const std::optional<Verbindungsauskunft>& ohneVerbindung) {
     using Wahl = frmKeinKonturAngeschlossen::Wahl;
     do {
         frmKeinKonturAngeschlossen dialog(&teile.fenster);
+        if (ohneVerbindung)
+            dialog.ZeigeUrsache(*ohneVerbindung);
         dialog.exec();
         const Wahl wahl = dialog.GetWahl();
         if (wahl == Wahl::Abgebrochen || teile.beendet())

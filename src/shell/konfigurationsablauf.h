@@ -1,7 +1,9 @@
 #pragma once
 
 #include "hauptteile.h"
+#include "verbindungsauskunft.h"
 
+#include <optional>
 #include <string>
 
 namespace varnoth {
@@ -25,7 +27,8 @@ public:
     /// Shows the report about the configuration, in which another one can be imported.
     void Berichte();
     /// Lets the user choose a configuration; false when he chose none.
-    bool FrageNachKonfiguration();
+    /// @param ohneVerbindung why there is no connection, where one was tried
+    bool FrageNachKonfiguration(const std::optional<Verbindungsauskunft>& ohneVerbindung = {});
 
 private:
     void Zeige();

@@ -89,7 +89,8 @@ QString Knopftext(const QFileInfo& datei, const QFontMetrics& schrift) {
 
 } // namespace
 
-Willkommensseite::Willkommensseite(QMdiArea& der, const Klick& klick) : QScrollArea(&der), bereich(der) {
+Willkommensseite::Willkommensseite(QMdiArea& mdiBereich, const Klick& klick)
+    : QScrollArea(&mdiBereich), bereich(mdiBereich) {
     setObjectName(QStringLiteral("Willkommensseite"));
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);

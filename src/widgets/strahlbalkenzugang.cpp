@@ -11,8 +11,8 @@ namespace {
 
 class Strahlbalkenzugang : public QAccessibleWidget {
 public:
-    explicit Strahlbalkenzugang(BeamBarControl* der)
-        : QAccessibleWidget(der, QAccessible::Graphic), balken(der) {}
+    explicit Strahlbalkenzugang(BeamBarControl* strahlbalken)
+        : QAccessibleWidget(strahlbalken, QAccessible::Graphic), balken(strahlbalken) {}
 
     QString text(QAccessible::Text art) const override {
         if (art == QAccessible::Value)

@@ -45,6 +45,12 @@ void frmKeinKonturAngeschlossen::BieteLetztenDatensatzAn() {
     wahl.setFocus();
 }
 
+void frmKeinKonturAngeschlossen::ZeigeUrsache(const Verbindungsauskunft& auskunft) {
+    ui->lblUrsache->setText(QString::fromStdString(auskunft.ursache));
+    ui->lblUrsache->setToolTip(AlsTipp(QString::fromStdString(auskunft.einzelheiten)));
+    ui->lblUrsache->setVisible(!auskunft.ursache.empty());
+}
+
 frmKeinKonturAngeschlossen::Wahl frmKeinKonturAngeschlossen::GetWahl() const {
     if (result() != Accepted)
         return Wahl::Abgebrochen;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "boolean.h"
+#include "verbindungsauskunft.h"
 
 #include <QDialog>
 
@@ -25,6 +26,8 @@ public:
     explicit frmKeinKonturAngeschlossen(QWidget* parent = nullptr);
     ~frmKeinKonturAngeschlossen() override;
 
+    /// Says above the choices why there is no connection; what was looked at stands in the tip.
+    void ZeigeUrsache(const Verbindungsauskunft& auskunft);
     /// What the user chose; what follows from it is the caller's business. Abgebrochen until OK is accepted.
     Wahl GetWahl() const;
     Boolean GetCancel() const { return AlsBoolean(GetWahl() == Wahl::Abgebrochen); }

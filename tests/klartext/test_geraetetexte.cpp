@@ -9,7 +9,7 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Anfang = "Format zwischen Master/Slave:   ";
+const std::string Anfang = "Format zwischen Master/Slave:   ";
 
 } // namespace
 
@@ -57,7 +57,7 @@ TEST(GeraetetexteTest, The_bus_types_have_their_names) {
 }
 
 TEST(GeraetetexteTest, Format_0x040F_shows_38_4_KB_0_and_a_question_mark_for_odd_parity) {
-    EXPECT_EQ(Formattext(0x040F), std::string(Anfang) + "38,4 KB, 0, ?, ");
+    EXPECT_EQ(Formattext(0x040F), Anfang + "38,4 KB, 0, ?, ");
 }
 
 TEST(GeraetetexteTest, Each_baud_code_has_its_text) {
@@ -72,14 +72,14 @@ TEST(GeraetetexteTest, Each_baud_code_has_its_text) {
 TEST(GeraetetexteTest, Each_stop_bit_code_has_its_text) {
     const char* const texte[] = {"0, ", "1, ", "1,5, ", "2, "};
     for (int code = 0; code < 4; ++code)
-        EXPECT_EQ(Formattext(10 + code * 0x100), std::string(Anfang) + "1,2 KB, " + texte[code] + "kein");
+        EXPECT_EQ(Formattext(10 + code * 0x100), Anfang + "1,2 KB, " + texte[code] + "kein");
 }
 
 TEST(GeraetetexteTest, No_and_even_parity_are_recognised_and_no_other) {
-    EXPECT_EQ(Formattext(0x00A), std::string(Anfang) + "1,2 KB, 0, kein");
-    EXPECT_EQ(Formattext(0x80A), std::string(Anfang) + "1,2 KB, 0, gerade");
-    EXPECT_EQ(Formattext(0xC0A), std::string(Anfang) + "1,2 KB, 0, ?, ");
-    EXPECT_EQ(Formattext(0x60A), std::string(Anfang) + "1,2 KB, 1,5, ?, ");
+    EXPECT_EQ(Formattext(0x00A), Anfang + "1,2 KB, 0, kein");
+    EXPECT_EQ(Formattext(0x80A), Anfang + "1,2 KB, 0, gerade");
+    EXPECT_EQ(Formattext(0xC0A), Anfang + "1,2 KB, 0, ?, ");
+    EXPECT_EQ(Formattext(0x60A), Anfang + "1,2 KB, 1,5, ?, ");
 }
 
 TEST(GeraetetexteTest, The_format_text_follows_the_language) {

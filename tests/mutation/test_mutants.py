@@ -1,11 +1,22 @@
 """What scripts/mutants.py finds in a source; run by ctest."""
+import importlib.machinery
+import importlib.util
 import pathlib
+import re
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "scripts"))
 import mutants
+
+
+def the_tool():
+    loader = importlib.machinery.SourceFileLoader("mutation", str(ROOT / "scripts/mutation"))
+    tool = importlib.util.module_from_spec(importlib.util.spec_from_loader("mutation", loader))
+    loader.exec_module(tool)
+    return tool
 
 
 def changes(line):
@@ -15,6 +26,9 @@ def changes(line):
 class Mutants(unittest.TestCase):
     def test_a_comparison_is_swapped_and_its_number_is_off_by_one(self):
         self.assertEqual(changes("    return anzahl < 8;"), {"< -> <=", "8 -> 9"})
+
+    def test_an_octal_number_stays_one(self):
+        self.assertEqual(changes("    Oeffne(pfad, 0600);"), {"0600 -> 0601", "Oeffne(pfad, 0600); -> ;"})
 
     def test_and_becomes_or(self):
         self.assertEqual(changes("    return a && b;"), {"&& -> ||"})
@@ -48,6 +62,15 @@ class Mutants(unittest.TestCase):
         applied = {mutant.applied_to(content) for mutant in mutants.of_source("a.cpp", content)}
         self.assertEqual(applied, {content.replace("a + b", "a - b"), content.replace("b + 1", "b - 1"),
                                    content.replace("1;", "2;")})
+
+
+class Programs(unittest.TestCase):
+    def test_every_room_is_one_and_its_programs_are_test_programs(self):
+        lists = "".join(path.read_text() for path in (ROOT / "tests").glob("*/CMakeLists.txt"))
+        known = set(re.findall(r"varnoth_test\((\w+)", lists))
+        for room, programs in the_tool().ROOMS.items():
+            self.assertTrue((ROOT / "src" / room).is_dir(), room)
+            self.assertLessEqual(set(programs), known, room)
 
 
 if __name__ == "__main__":

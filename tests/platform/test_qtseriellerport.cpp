@@ -1,9 +1,8 @@
 #include "qtseriellerport.h"
 
 #include "fenstertest.h"
-#include "geraetepfade.h"
-#include "pruefumgebung.h"
-#include "qtumgebung.h"
+#include "porttest.h"
+#include "texte.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -11,17 +10,16 @@
 
 #include <pty.h>
 #include <sys/resource.h>
-#include <termios.h>
-#include <unistd.h>
 
 namespace varnoth {
 
 using namespace std::chrono_literals;
+using pruefung::Standard;
 using pruefung::WarteBis;
 
-namespace {
+using QtSeriellerPortTest = pruefung::PortTest;
 
-constexpr const char* Standard = "38400,n,8,2";
+namespace {
 
 double Prozessorsekunden() {
     rusage verbrauch{};
@@ -33,47 +31,6 @@ double Prozessorsekunden() {
 }
 
 } // namespace
-
-/// A port over a pseudo terminal whose far end the test holds.
-class QtSeriellerPortTest : public testing::Test {
-protected:
-    QtSeriellerPortTest() {
-        char name[128];
-        EXPECT_EQ(openpty(&fernesEnde, &nahesEnde, name, nullptr, nullptr), 0);
-        termios roh{};
-        tcgetattr(nahesEnde, &roh);
-        cfmakeraw(&roh);
-        tcsetattr(nahesEnde, TCSANOW, &roh);
-        SetzeGeraetepfad(name);
-    }
-    ~QtSeriellerPortTest() override {
-        port.Schliesse();
-        ZieheAb();
-    }
-
-    void Sende(const std::string& bytes) const {
-        EXPECT_EQ(write(fernesEnde, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-    }
-    std::string Empfange(std::size_t anzahl) const {
-        std::string bytes(anzahl, '\0');
-        EXPECT_EQ(read(fernesEnde, bytes.data(), anzahl), static_cast<ssize_t>(anzahl));
-        return bytes;
-    }
-    /// Pulls the plug.
-    void ZieheAb() {
-        for (int* ende : {&nahesEnde, &fernesEnde})
-            if (*ende >= 0) {
-                close(*ende);
-                *ende = -1;
-            }
-    }
-
-    QtUmgebung umgebung;
-    pruefung::PruefEinstellungen einstellungen;
-    QtSeriellerPort port;
-    int fernesEnde = -1;
-    int nahesEnde = -1;
-};
 
 TEST_F(QtSeriellerPortTest, Opens_a_pseudo_terminal_although_it_has_no_modem_lines) {
     EXPECT_TRUE(port.Oeffne(1, Standard));
@@ -199,14 +156,19 @@ TEST_F(QtSeriellerPortTest, Settings_that_cannot_be_understood_keep_the_port_clo
     for (const char* text : {"abc", "38400,x,9,7", ""}) {
         EXPECT_FALSE(port.Oeffne(1, text)) << text;
         EXPECT_FALSE(port.IstOffen());
-        EXPECT_NE(port.Fehlertext(), "");
+        EXPECT_TRUE(port.Fehlertext().starts_with("„" + std::string(text) + "“ ist kein Leitungsformat."))
+            << text;
     }
+    EXPECT_TRUE(port.Oeffne(1, Standard));
+    EXPECT_EQ(port.Fehlertext(), "");
 }
 
 TEST_F(QtSeriellerPortTest, A_device_that_does_not_exist_keeps_the_port_closed_and_says_why) {
     SetzeGeraetepfad("/dev/there-is-no-such-line");
     EXPECT_FALSE(port.Oeffne(1, Standard));
-    EXPECT_NE(port.Fehlertext(), "");
+    EXPECT_EQ(port.Fehlertext(), "Datei oder Ordner ist nicht vorhanden.");
+    SetzeSprachoffset(Englisch);
+    EXPECT_EQ(port.Fehlertext(), "The file or folder does not exist.");
 }
 
 TEST_F(QtSeriellerPortTest, A_port_number_without_a_device_keeps_the_port_closed) {

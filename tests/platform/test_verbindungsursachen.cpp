@@ -139,7 +139,10 @@ TEST_F(Verbindungsursachen, A_settings_string_that_is_no_line_format) {
 TEST_F(Verbindungsursachen, A_file_that_is_no_port) {
     SetzeGeraetepfad("/dev/null");
     const std::string ursache = UrsacheBeimOeffnen();
-    EXPECT_TRUE(ursache.starts_with("/dev/null cannot be opened: ")) << ursache;
+    EXPECT_EQ(ursache, "/dev/null cannot be opened: It is not a serial port.");
+    SetzeSprachoffset(Deutsch);
+    EXPECT_EQ(LiesVerbindungsauskunft().ursache,
+              "/dev/null lässt sich nicht öffnen: Das ist keine serielle Schnittstelle.");
 }
 
 } // namespace varnoth

@@ -3,12 +3,17 @@
 #include "einstellungen.h"
 #include "fenstertest.h"
 #include "frmSplash.h"
+#include "plausibilitaet.h"
 #include "polling.h"
 #include "qttexte.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
 #include "schnittstelle.h"
 #include "servicetext.h"
+#include "symbole.h"
 #include "texte.h"
 #include "trace.h"
+#include "transaktionen.h"
 #include "versionstext.h"
 
 #include <QAction>
@@ -26,6 +31,8 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -251,6 +258,54 @@ TEST_F(AnwendungTest, A_run_begins_in_the_start_state_whatever_was_before) {
     EXPECT_EQ(modSchnittstelle::GetComPort(), 1);
 }
 
+TEST_F(AnwendungTest, The_splash_stays_over_the_window_until_the_second_full_second_and_no_longer) {
+    Startbedingungen bedingungen = Bedingungen({});
+    bedingungen.splashSekunden = Startbedingungen{}.splashSekunden;
+    anwendung = std::make_unique<Anwendung>(bedingungen);
+    const auto splash = [] {
+        const auto fenster = QApplication::topLevelWidgets();
+        return std::ranges::any_of(fenster, [](const QWidget* einer) {
+            return einer->isVisible() && einer->inherits("varnoth::frmSplash");
+        });
+    };
+    const auto sekunden = [] {
+        return std::chrono::floor<std::chrono::seconds>(DieUmgebung().Uhr()).count();
+    };
+    std::int64_t zuletztGesehen = 0;
+    QTimer blick;
+    QObject::connect(&blick, &QTimer::timeout, &blick, [&] {
+        if (splash())
+            zuletztGesehen = sekunden();
+    });
+    blick.start(1);
+    const std::int64_t beginn = sekunden();
+    EXPECT_TRUE(anwendung->Starte());
+    EXPECT_FALSE(splash());
+    EXPECT_GE(zuletztGesehen, beginn + 1);
+    EXPECT_GE(sekunden(), beginn + 2);
+    EXPECT_LE(sekunden(), beginn + 4);
+}
+
+TEST_F(AnwendungTest, An_implausible_image_takes_the_controller_of_an_open_port_out_of_autosend) {
+    Mit({"/Simulator"});
+    modSchnittstelle::OpenCommPort();
+    ASSERT_EQ(modModbus::RTUModeH11IndentifikationsAnforderung(), True);
+    modModbus::SchreibeSteuerwert2();
+    ASSERT_TRUE(modModbus::AutosendGestartet());
+    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+    const auto pruefe = [] {
+        ASSERT_TRUE(modDaten::SetzeRegister(Spezifisch, spezifisch::Reichweite, 6));
+        EXPECT_EQ(modDaten::PruefeKonfiguration(), False);
+    };
+    modSchnittstelle::CloseCommPort();
+    pruefe();
+    EXPECT_TRUE(modModbus::AutosendGestartet()) << "nothing is sent over a port that is closed";
+    modSchnittstelle::OpenCommPort();
+    pruefe();
+    EXPECT_FALSE(modModbus::AutosendGestartet());
+    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False);
+}
+
 TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {
     SetzeSprachoffset(Deutsch);
     const frmSplash splash;
@@ -258,6 +313,8 @@ TEST(Splash, Shows_product_and_owner_in_the_middle_of_the_screen) {
     EXPECT_LE((splash.geometry().center() - schirm.center()).manhattanLength(), 2);
     EXPECT_EQ(splash.findChild<QLabel*>("lblProduktText")->text(), "Varnoth  Softwareversion 1.0.0");
     EXPECT_EQ(splash.findChild<QLabel*>("lblEigentuemerText")->text(), Eigentuemerzeile());
+    EXPECT_EQ(splash.findChild<QLabel*>("Image1")->pixmap().toImage(),
+              Programmsymbol().pixmap(QSize(72, 72)).toImage());
 }
 
 TEST(Versionstext, Is_three_numbers_joined_by_points) {

@@ -76,6 +76,19 @@ TEST_F(frmKeinKonturAngeschlossenTest, A_file_name_of_200_characters_does_not_wi
     EXPECT_EQ(lang.sizeHint().width(), kurz.sizeHint().width());
 }
 
+TEST_F(frmKeinKonturAngeschlossenTest, The_cause_of_a_failed_connection_stands_above_the_choices_as_text) {
+    Dialog dialog;
+    auto& zeile = Kind<QLabel>(dialog, "lblUrsache");
+    EXPECT_TRUE(zeile.isHidden());
+    dialog.ZeigeUrsache({.anschluss = {}, .ursache = "<b>Niemand</b> antwortet.", .einzelheiten = "COM1"});
+    EXPECT_FALSE(zeile.isHidden());
+    EXPECT_EQ(zeile.text(), "<b>Niemand</b> antwortet.");
+    EXPECT_EQ(zeile.textFormat(), Qt::PlainText);
+    EXPECT_EQ(zeile.toolTip(), "COM1");
+    dialog.ZeigeUrsache({});
+    EXPECT_TRUE(zeile.isHidden()) << "nothing is known";
+}
+
 TEST_F(frmKeinKonturAngeschlossenTest, Only_the_beam_count_option_enables_the_beam_counts) {
     Sichere("eine.con");
     Dialog dialog;

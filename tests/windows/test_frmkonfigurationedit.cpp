@@ -463,6 +463,7 @@ TEST_F(KonfigurationEditTest, A_Profibus_hides_what_only_a_Modbus_has) {
                                      "optTriggerStartetDatenübertragungSofort",
                                      "optTriggerStartetDatenübertragungNachVollständigenScan",
                                      "fraBaudrate",
+                                     "lblBaudrate",
                                      "cboBaudrate",
                                      "lblByteformat",
                                      "opt2StopbitsohneParität",

@@ -44,6 +44,11 @@ protected:
         Feld(name).setText({});
         QTest::keyClicks(&Feld(name), QString::fromUtf8(text));
     }
+    /// The text of a label or button, the title of a group.
+    static std::string Worte(const QWidget& element) {
+        const char* const eigenschaft = element.inherits("QGroupBox") ? "title" : "text";
+        return element.property(eigenschaft).toString().toStdString();
+    }
     QString Wert(const char* name) { return Beschriftung(Dialog(), name); }
     /// The results of length, speed, hole diameter and hole speed.
     QStringList Ergebnisse() {
@@ -73,6 +78,57 @@ protected:
 
     std::unique_ptr<frmSimulation> geoeffnet;
 };
+
+TEST_F(FrmSimulationTest, Every_heading_formula_field_and_unit_bears_its_own_words) {
+    const std::pair<const char*, std::int16_t> beschriftungen[] = {
+        {"lblOptikteil", 8020},
+        {"optKx_0", 8021},
+        {"optKx_1", 8022},
+        {"optKx_2", 8023},
+        {"optKx_3", 8024},
+        {"lblZykluszeit", 8025},
+        {"lblZykluszeitEinheit", 8018},
+        {"lblStrahlabstand", 8026},
+        {"lblStrahlabstandEinheit", 8008},
+        {"Objekterfassung", 8038},
+        {"lblFormel1Titel", 8013},
+        {"lblFormel1", 8005},
+        {"lblFormel1Eingabe", 8016},
+        {"lblFormel1Eingabeeinheit", 8008},
+        {"lblFormel1Einheit", 8007},
+        {"lblFormel2Titel", 8014},
+        {"lblFormel2", 8006},
+        {"lblFormel2Eingabe", 8017},
+        {"lblFormel2Eingabeeinheit", 8010},
+        {"lblFormel2Einheit", 8009},
+        {"Locherkennung", 8039},
+        {"lblFormel3Titel", 8028},
+        {"lblFormel3", 8032},
+        {"lblFormel3Eingabe", 8029},
+        {"lblFormel3Eingabeeinheit", 8010},
+        {"lblFormel3Einheit", 8030},
+        {"lblFormel4Titel", 8033},
+        {"lblFormel4", 8037},
+        {"lblFormel4Eingabe", 8034},
+        {"lblFormel4Eingabeeinheit", 8008},
+        {"lblFormel4Einheit", 8035},
+        {"lblAutosendBaudrate", 8003},
+        {"lblAutosendBaudrateEinheit", 8019},
+        {"lblZykluszeitLaengste", 8004},
+        {"lblZykluszeitLaengsteEinheit", 8018},
+        {"lblBmaxTitel", 8015},
+        {"lblBmaxFormel", 8012},
+        {"lblBmaxEinheit", 8011},
+        {"cmdCancel", 8002},
+    };
+    for (const std::int16_t sprache : {Deutsch, Englisch}) {
+        SetzeSprachoffset(sprache);
+        Oeffne();
+        EXPECT_EQ(Dialog().windowTitle().toStdString(), LadeText(8000));
+        for (const auto& [name, text] : beschriftungen)
+            EXPECT_EQ(Worte(Kind<QWidget>(Dialog(), name)), LadeText(text)) << name;
+    }
+}
 
 TEST_F(FrmSimulationTest, The_first_part_with_a_cycle_time_is_chosen) {
     SetzeTeil(1, 32, 10);

@@ -19,6 +19,9 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <cerrno>
 #include <deque>
 
 namespace varnoth {
@@ -249,6 +252,75 @@ TEST_F(Speichern, A_file_in_place_of_the_folder_gives_the_systems_text) {
     EXPECT_FALSE(KonfigurationSpeichernUnter());
     ErwarteEineWarnung(Systemfehler(ENOTDIR) + "\n" + pfad);
     EXPECT_EQ(Inhalt(Pfad("da.con")), modDaten::SpeichereKonfigurationsdatei());
+}
+
+TEST_F(Speichern, Through_a_link_the_file_it_leads_to_is_replaced_and_the_link_stays) {
+    const std::string ziel = Gespeichert("ziel.con");
+    modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {64});
+    ASSERT_TRUE(QFile::link(QString::fromStdString(ziel), ordner.filePath("link.con")));
+    gewaehlt = {Pfad("link.con")};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    EXPECT_EQ(umgebung.meldungen.size(), 1U) << "the question whether to replace it";
+    EXPECT_TRUE(QFileInfo(ordner.filePath("link.con")).isSymLink());
+    EXPECT_EQ(Inhalt(ziel), modDaten::SpeichereKonfigurationsdatei());
+}
+
+TEST_F(Speichern, A_pipe_a_device_and_links_to_what_is_no_file_are_kept) {
+    ASSERT_EQ(mkfifo(Pfad("rohr").c_str(), 0600), 0);
+    ASSERT_TRUE(QFile::link(ordner.filePath("rohr"), ordner.filePath("rohr.con")));
+    ASSERT_TRUE(QFile::link(ordner.path(), ordner.filePath("ordner.con")));
+    ASSERT_TRUE(QFile::link("/dev/full", ordner.filePath("geraet.con")));
+    const std::pair<std::string, std::string> faelle[] = {{Pfad("rohr"), KeineGewoehnlicheDatei()},
+                                                          {Pfad("rohr.con"), KeineGewoehnlicheDatei()},
+                                                          {"/dev/full", KeineGewoehnlicheDatei()},
+                                                          {Pfad("geraet.con"), KeineGewoehnlicheDatei()},
+                                                          {Pfad("ordner.con"), Systemfehler(EISDIR)}};
+    for (const auto& [pfad, grund] : faelle) {
+        umgebung.meldungen.clear();
+        gewaehlt = {pfad};
+        modDaten::SetzeGeaendert();
+        EXPECT_FALSE(KonfigurationSpeichernUnter()) << pfad;
+        ASSERT_EQ(umgebung.meldungen.size(), 2U) << pfad;
+        EXPECT_EQ(umgebung.meldungen[1].text, grund + "\n" + pfad);
+        EXPECT_EQ(modDaten::IstGeaendert(), True);
+    }
+    for (const char* name : {"rohr.con", "ordner.con", "geraet.con"})
+        EXPECT_TRUE(QFileInfo(ordner.filePath(name)).isSymLink()) << name;
+}
+
+TEST_F(Speichern, A_link_that_leads_nowhere_gets_its_file) {
+    ASSERT_TRUE(QFile::link(ordner.filePath("ziel.con"), ordner.filePath("link.con")));
+    gewaehlt = {Pfad("link.con")};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    EXPECT_TRUE(QFileInfo(ordner.filePath("link.con")).isSymLink());
+    EXPECT_EQ(Inhalt(Pfad("ziel.con")), modDaten::SpeichereKonfigurationsdatei());
+}
+
+TEST_F(Oeffnen, A_link_opens_the_file_it_leads_to) {
+    const std::string ziel = Gespeichert("ziel.con");
+    modDaten::LadeStandardkonfiguration();
+    ASSERT_TRUE(QFile::link(QString::fromStdString(ziel), ordner.filePath("link.con")));
+    EXPECT_TRUE(LadeDatei(Pfad("link.con")));
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
+    EXPECT_EQ(modDaten::GetDateiname(), Pfad("link.con"));
+}
+
+TEST_F(Oeffnen, What_is_no_file_gives_the_reason_at_once) {
+    ASSERT_EQ(mkfifo(Pfad("rohr").c_str(), 0600), 0);
+    ASSERT_TRUE(QFile::link(ordner.filePath("rohr"), ordner.filePath("rohr.con")));
+    ASSERT_TRUE(QFile::link(ordner.path(), ordner.filePath("ordner.con")));
+    ASSERT_TRUE(QFile::link(ordner.filePath("weg.con"), ordner.filePath("nirgends.con")));
+    ASSERT_TRUE(QFile::link(ordner.filePath("kreis.con"), ordner.filePath("kreis.con")));
+    const std::pair<std::string, std::string> faelle[] = {
+        {Pfad("rohr"), KeineGewoehnlicheDatei()},     {Pfad("rohr.con"), KeineGewoehnlicheDatei()},
+        {"/dev/zero", KeineGewoehnlicheDatei()},      {Pfad("ordner.con"), Systemfehler(EISDIR)},
+        {Pfad("nirgends.con"), Systemfehler(ENOENT)}, {Pfad("kreis.con"), Systemfehler(ELOOP)}};
+    for (const auto& [pfad, grund] : faelle) {
+        umgebung.meldungen.clear();
+        EXPECT_FALSE(LadeDatei(pfad)) << pfad;
+        ErwarteEineWarnung(grund + "\n" + pfad);
+        EXPECT_EQ(modDaten::Strahlenzahl(0), 32) << pfad;
+    }
 }
 
 TEST_F(Oeffnen, The_dialog_bears_title_and_filters) {

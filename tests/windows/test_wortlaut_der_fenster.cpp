@@ -6,6 +6,7 @@
 #include "frmBlankingmuster.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
+#include "frmHilfe.h"
 #include "frmHoleLichtleistenInfo.h"
 #include "frmIdentifikationsAnforderung.h"
 #include "frmInfo.h"
@@ -17,6 +18,7 @@
 #include "frmReihenfolge.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmSplash.h"
 #include "frmStrahlenBestimmen.h"
 #include "meldungsfenster.h"
 #include "polling.h"
@@ -138,6 +140,7 @@ TEST_F(FensterwortlautTest, Every_dialog_shows_texts_with_tags_as_text) {
         [] { return std::make_unique<frmReihenfolge>(); },
         [] { return std::make_unique<frmSimulation>(); },
         [] { return std::make_unique<frmInfo>(nullptr); },
+        [] { return std::make_unique<frmSplash>(); },
         [] {
             auto editor = std::make_unique<frmKonfigurationEdit>();
             editor->InitKonfiguration({.zeigeUebertrageneWerte = true});

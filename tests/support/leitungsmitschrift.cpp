@@ -1,12 +1,15 @@
 #include "leitungsmitschrift.h"
 
 #include <dlfcn.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
 
 #include <atomic>
+#include <cstdarg>
 #include <mutex>
+#include <optional>
 #include <stdexcept>
 
 namespace varnoth::pruefung {
@@ -20,6 +23,8 @@ std::atomic<bool> schreibtMit{false};
 dev_t leitung = 0;
 std::mutex schloss; // the driver is waited for in a thread of its own
 std::vector<Leitungsmitschrift::Eintrag> eintraege;
+std::optional<termios> einstellung;
+int modemleitungen = 0;
 
 bool IstDieLeitung(int deskriptor) {
     struct stat zustand {};
@@ -47,6 +52,32 @@ auto SchreibMit(Aufruf aufruf, int deskriptor, Ruf ruf) {
     return ergebnis;
 }
 
+void MerkeEinstellung(int deskriptor, const termios& neue) {
+    const std::lock_guard sperre(schloss);
+    if (IstDieLeitung(deskriptor))
+        einstellung = neue;
+}
+
+/// A pseudo terminal forgets parity and the number of data bits, which a serial line keeps: who sets one
+/// after the other would lose what he has set before.
+void ErgaenzeWieGesetzt(int deskriptor, termios& stand) {
+    const std::lock_guard sperre(schloss);
+    if (einstellung && IstDieLeitung(deskriptor))
+        stand.c_cflag = einstellung->c_cflag;
+}
+
+void MerkeModemleitungen(int deskriptor, unsigned long auftrag, const void* wert) {
+    const std::lock_guard sperre(schloss);
+    if (!IstDieLeitung(deskriptor))
+        return;
+    if (auftrag == TIOCMBIS)
+        modemleitungen |= *static_cast<const int*>(wert);
+    else if (auftrag == TIOCMBIC)
+        modemleitungen &= ~*static_cast<const int*>(wert);
+    else if (auftrag == TIOCMSET)
+        modemleitungen = *static_cast<const int*>(wert);
+}
+
 } // namespace
 
 Leitungsmitschrift::Leitungsmitschrift(const std::string& pfad) {
@@ -55,6 +86,8 @@ Leitungsmitschrift::Leitungsmitschrift(const std::string& pfad) {
         throw std::runtime_error("no line at " + pfad);
     leitung = zustand.st_rdev;
     eintraege.clear();
+    einstellung.reset();
+    modemleitungen = 0;
     schreibtMit = true;
 }
 
@@ -65,6 +98,16 @@ Leitungsmitschrift::~Leitungsmitschrift() {
 std::vector<Leitungsmitschrift::Eintrag> Leitungsmitschrift::Eintraege() const {
     const std::lock_guard sperre(schloss);
     return eintraege;
+}
+
+termios Leitungsmitschrift::Einstellung() const {
+    const std::lock_guard sperre(schloss);
+    return einstellung.value_or(termios{});
+}
+
+int Leitungsmitschrift::Modemleitungen() const {
+    const std::lock_guard sperre(schloss);
+    return modemleitungen;
 }
 
 std::ostream& operator<<(std::ostream& ziel, const Leitungsmitschrift::Eintrag& eintrag) {
@@ -90,16 +133,34 @@ int tcdrain(int deskriptor) {
     return SchreibMit(Aufruf::Leeren, deskriptor, [&] { return eigentliche(deskriptor); });
 }
 
-int tcsetattr(int deskriptor, int wann, const struct termios* einstellung) noexcept {
+int tcsetattr(int deskriptor, int wann, const struct termios* neue) noexcept {
     using namespace varnoth::pruefung;
     static const auto eigentliche = Eigentliche<int (*)(int, int, const struct termios*)>("tcsetattr");
-    return SchreibMit(Aufruf::Einstellen, deskriptor,
-                      [&] { return eigentliche(deskriptor, wann, einstellung); });
+    MerkeEinstellung(deskriptor, *neue);
+    return SchreibMit(Aufruf::Einstellen, deskriptor, [&] { return eigentliche(deskriptor, wann, neue); });
+}
+
+int tcgetattr(int deskriptor, struct termios* stand) noexcept {
+    using namespace varnoth::pruefung;
+    static const auto eigentliche = Eigentliche<int (*)(int, struct termios*)>("tcgetattr");
+    const int ergebnis = eigentliche(deskriptor, stand);
+    ErgaenzeWieGesetzt(deskriptor, *stand);
+    return ergebnis;
 }
 
 int close(int deskriptor) {
     using namespace varnoth::pruefung;
     static const auto eigentliche = Eigentliche<int (*)(int)>("close");
     return SchreibMit(Aufruf::Schliessen, deskriptor, [&] { return eigentliche(deskriptor); });
+}
+int ioctl(int deskriptor, unsigned long auftrag, ...) noexcept {
+    using namespace varnoth::pruefung;
+    static const auto eigentliche = Eigentliche<int (*)(int, unsigned long, void*)>("ioctl");
+    va_list werte;
+    va_start(werte, auftrag);
+    void* const wert = va_arg(werte, void*);
+    va_end(werte);
+    MerkeModemleitungen(deskriptor, auftrag, wert);
+    return eigentliche(deskriptor, auftrag, wert);
 }
 }

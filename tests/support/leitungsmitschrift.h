@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <termios.h>
+
 namespace varnoth::pruefung {
 
 /// What this process asks the system to do with one line: the calls are recorded on their way, also those
@@ -29,6 +31,10 @@ public:
     Leitungsmitschrift& operator=(const Leitungsmitschrift&) = delete;
 
     std::vector<Eintrag> Eintraege() const;
+    /// What the line was set to last; zeros where it was not.
+    termios Einstellung() const;
+    /// The modem lines (TIOCM_...) that were switched on and not off again.
+    int Modemleitungen() const;
 };
 
 std::ostream& operator<<(std::ostream& ziel, const Leitungsmitschrift::Eintrag& eintrag);
