@@ -7,7 +7,9 @@
 #include "letztedateien.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
+#include "sicherungen.h"
 #include "texte.h"
+#include "textmitwerten.h"
 #include "umgebung.h"
 #include "zykluszeiten.h"
 
@@ -80,6 +82,7 @@ bool Speichere(const std::string& pfad) {
     DieEinstellungen().SchreibText(Abschnitt, Schluessel, pfad);
     MerkeDatei(pfad);
     modDaten::LoescheGeaendert();
+    MerkeAusgangslage();
     return true;
 }
 
@@ -118,12 +121,15 @@ bool LadeDatei(const std::string& pfad) {
         ZeigeDateifehler(datei.fehlertext, pfad);
         return false;
     }
+    MeldeUngesichertes(SichereAenderungen(Sicherungsanlass::VorDemOeffnen));
     const bool geladen = modDaten::LadeKonfigurationsdatei(datei.bytes) != False;
     modDaten::SetDateiname(pfad);
     const bool plausibel = modDaten::PruefeKonfiguration() != False;
     modHilfsFunktionen::BerechneZykluszeiten();
-    if (geladen && plausibel)
+    if (geladen && plausibel) {
         MerkeDatei(pfad);
+        MerkeAusgangslage();
+    }
     return geladen && plausibel;
 }
 

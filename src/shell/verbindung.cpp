@@ -6,6 +6,7 @@
 #include "polling.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "transaktionen.h"
 #include "zykluszeiten.h"
@@ -53,11 +54,13 @@ bool Autostart(Verbindungsziel& ziel) {
     VergissOptikteile();
     modGeraetestand::BeginneVerbindung();
     ziel.ZeigeAlleOffline();
+    const std::string ungesichert = SichereAenderungen(Sicherungsanlass::VorDemVerbinden);
     modDaten::LeereAbbild();
     const bool gelesen = LiesGeraet(ziel);
     if (ziel.Beendet())
         return false;
     const bool gelungen = gelesen && PruefeGelesenes();
+    MerkeAusgangslage();
     if (!gelesen)
         ziel.FrageNachKonfiguration();
     modHilfsFunktionen::BerechneZykluszeiten();
@@ -67,6 +70,7 @@ bool Autostart(Verbindungsziel& ziel) {
         ziel.LiveDatenLaufenAn();
     }
     ziel.ZeigeLichtleistenmenue();
+    MeldeUngesichertes(ungesichert);
     return gelungen && GetPollingAktiv() != False;
 }
 
