@@ -68,8 +68,9 @@ std::string Versionsworte(std::int32_t version) {
 std::string Strahlenworte(const Abbild& abbild) {
     std::string text;
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        text += (teil == 0 ? "" : ", ") + std::to_string(abbild.HoleRegister(
-                                              Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, teil));
+        text += (teil == 0 ? "" : ", ") +
+                std::to_string(abbild.HoleRegister(Speicherbereich::SpezifischeGeraetedaten,
+                                                   spezifisch::Strahlenzahl, teil));
     return text;
 }
 
@@ -100,8 +101,8 @@ bool PasstZumMuster(std::string_view name) {
 }
 
 bool IstNachnummer(std::string_view text) {
-    return text.empty() ||
-           (text.size() > 1 && text.size() < 6 && text.front() == '_' && std::ranges::all_of(text.substr(1), IstZiffer));
+    return text.empty() || (text.size() > 1 && text.size() < 6 && text.front() == '_' &&
+                            std::ranges::all_of(text.substr(1), IstZiffer));
 }
 
 int Zahl(std::string_view text, std::size_t stelle, std::size_t laenge) {
@@ -130,7 +131,8 @@ bool IstGeraetename(std::string name) {
 
 std::string Seriennummer(const Abbild& abbild) {
     std::string text;
-    for (const std::int32_t wert : abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Seriennummer)) {
+    for (const std::int32_t wert :
+         abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Seriennummer)) {
         if (text.empty() && wert == 0)
             return {};
         text += RegisterAlsUtf8(wert);
@@ -176,7 +178,8 @@ Sicherungsangaben LiesSicherungstext(std::string_view bytes) {
 
 std::string Sicherungsordnername(std::string_view seriennummer) {
     std::string name(seriennummer.substr(0, LaengsterOrdnername));
-    std::ranges::replace_if(name, [](char zeichen) { return !IstOrdnerzeichen(zeichen); }, '_');
+    std::ranges::replace_if(
+        name, [](char zeichen) { return !IstOrdnerzeichen(zeichen); }, '_');
     if (name.empty())
         return "ohne-nummer";
     return IstGeraetename(name) ? name + "_" : name;
@@ -197,8 +200,9 @@ std::optional<system_clock::time_point> ZeitAusName(std::string_view name) {
                              day{static_cast<unsigned>(Zahl(zeit, 8, 2))}};
     if (!tag.ok())
         return std::nullopt;
-    return time_point_cast<system_clock::duration>(sys_days{tag} + hours{Zahl(zeit, 11, 2)} + minutes{Zahl(zeit, 14, 2)} +
-                                                   seconds{Zahl(zeit, 17, 2)} + milliseconds{Zahl(zeit, 20, 3)});
+    return time_point_cast<system_clock::duration>(sys_days{tag} + hours{Zahl(zeit, 11, 2)} +
+                                                   minutes{Zahl(zeit, 14, 2)} + seconds{Zahl(zeit, 17, 2)} +
+                                                   milliseconds{Zahl(zeit, 20, 3)});
 }
 
 } // namespace varnoth

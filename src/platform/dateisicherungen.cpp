@@ -54,9 +54,9 @@ QFileInfoList AlleDateien(const QString& wurzel) {
     QFileInfoList dateien;
     for (const QFileInfo& ordner :
          QDir(wurzel).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks))
-        for (const QFileInfo& datei : QDir(ordner.filePath())
-                                          .entryInfoList({QStringLiteral("*") + Endung},
-                                                         QDir::Files | QDir::NoSymLinks))
+        for (const QFileInfo& datei :
+             QDir(ordner.filePath())
+                 .entryInfoList({QStringLiteral("*") + Endung}, QDir::Files | QDir::NoSymLinks))
             if (ZeitAusName(datei.completeBaseName().toStdString()))
                 dateien += datei;
     std::ranges::stable_sort(dateien, [](const QFileInfo& eine, const QFileInfo& andere) {

@@ -2,12 +2,12 @@
 
 #include "frmKeinKonturAngeschlossen.h"
 #include "frmKonfigurationEdit.h"
-#include "frmKonfigurationSchreibenInHardware.h"
 #include "frmStrahlenBestimmen.h"
 #include "hauptmenue.h"
 #include "konfigurationsbefehle.h"
 #include "letzterdatensatz.h"
 #include "registerabbild.h"
+#include "schreibablauf.h"
 #include "transaktionen.h"
 #include "zykluszeiten.h"
 
@@ -84,7 +84,7 @@ void Konfigurationsablauf::Bearbeite() {
 }
 
 void Konfigurationsablauf::Schreibe() {
-    frmKonfigurationSchreibenInHardware(&teile.fenster).exec();
+    SchreibeInDialogen(&teile.fenster, teile.beendet);
     modModbus::SchreibeSteuerwert4();
 }
 

@@ -43,6 +43,10 @@ bool Konfigurationstransfer::Versuche(const std::string& registertext, int anzah
     return gelungen;
 }
 
+void Konfigurationstransfer::Ueberspringe() {
+    anzeige.ZeigeFortschritt(++erledigt, gesamt);
+}
+
 /// Every parameter, the selection of each part and of the channel, and what the class adds.
 int Konfigurationstransfer::AnzahlSchritte() const {
     int anzahl = AnzahlOptikteile + 1 + weitereSchritte;

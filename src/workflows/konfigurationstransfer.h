@@ -57,6 +57,9 @@ protected:
     /// progress is one further. False = cancelled.
     bool Versuche(const std::string& registertext, int anzahl, const std::function<Boolean()>& transaktion);
 
+    /// A parameter that the class leaves out: the progress is one further all the same.
+    void Ueberspringe();
+
 private:
     /// The string id of the global range's name; the names of the other two ranges follow it.
     virtual std::int16_t ErsterBereichstext() const = 0;

@@ -20,9 +20,10 @@ constexpr std::int16_t TextSpeichern = 7112;
 
 class Schreibtransfer : public Konfigurationstransfer {
 public:
-    Schreibtransfer(Transferanzeige& transferanzeige, Ablage wie)
+    Schreibtransfer(Transferanzeige& transferanzeige, Ablage wie, const Schreibauftrag& was,
+                    Schreibspur& welche)
         : Konfigurationstransfer(transferanzeige, IstSchreibbar, wie == Ablage::Dauerhaft ? 1 : 0),
-          anzeige(transferanzeige), ablage(wie) {}
+          anzeige(transferanzeige), ablage(wie), auftrag(was), spur(welche) {}
 
     bool Schreibe() { return UebertrageAlles() && (ablage == Ablage::Fluechtig || Speichere()); }
 
@@ -33,13 +34,28 @@ private:
 
     Transferanzeige& anzeige;
     Ablage ablage;
+    const Schreibauftrag& auftrag;
+    Schreibspur& spur;
 };
 
 bool Schreibtransfer::Uebertrage(const Transferparameter& parameter) {
-    const Werte werte = HoleParameter(parameter.bereich, parameter.adresse, parameter.optikteil);
+    const Parameterstelle stelle{parameter.bereich, parameter.adresse, parameter.optikteil};
+    if (!auftrag.stellen.contains(stelle)) {
+        Ueberspringe();
+        return true;
+    }
+    const Werte werte =
+        auftrag.abbild.HoleParameter(parameter.bereich, parameter.adresse, parameter.optikteil);
+    spur.ungewiss.insert(stelle);
     return Versuche(Registertext(parameter.bereich, parameter.adresse), parameter.anzahl, [&] {
-        return modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
-                                                         static_cast<std::uint16_t>(parameter.anzahl), werte);
+        const Boolean gelungen =
+            modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
+                                                      static_cast<std::uint16_t>(parameter.anzahl), werte);
+        if (gelungen != False) {
+            spur.geschrieben.insert(stelle);
+            spur.ungewiss.erase(stelle);
+        }
+        return gelungen;
     });
 }
 
@@ -52,19 +68,25 @@ bool Schreibtransfer::Speichere() {
 
 } // namespace
 
-bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage) {
-    if (!Schreibtransfer(anzeige, ablage).Schreibe())
-        return false;
-    anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
-    modGeraetestand::MerkeGeschrieben(DasAbbild(), AlleStellen(IstSchreibbar), GeraeteSeriennummer());
-    return true;
+bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage, const Schreibauftrag& auftrag,
+                           Schreibspur& spur) {
+    const bool vollstaendig = Schreibtransfer(anzeige, ablage, auftrag, spur).Schreibe();
+    if (!spur.geschrieben.empty())
+        modGeraetestand::MerkeGeschrieben(auftrag.abbild, spur.geschrieben, GeraeteSeriennummer());
+    if (vollstaendig)
+        anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
+    return vollstaendig;
 }
 
-int AnzahlSchreibbarerRegister() {
+bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage) {
+    Schreibspur spur;
+    return SchreibeKonfiguration(anzeige, ablage, {.abbild = DasAbbild()}, spur);
+}
+
+int AnzahlRegister(const Parametermenge& stellen) {
     int anzahl = 0;
-    for (const Speicherbereich bereich : AlleSpeicherbereiche)
-        for (const Parameter& parameter : ParameterMit(bereich, IstSchreibbar))
-            anzahl += Exemplare(bereich) * parameter.beschreibung.Laenge;
+    for (const Parameterstelle& stelle : stellen)
+        anzahl += Beschreibung(stelle.bereich, stelle.adresse).Laenge;
     return anzahl;
 }
 

@@ -39,9 +39,10 @@ TEST(Sicherungsnamen, A_name_gives_its_time_back_also_with_a_number_behind_it) {
 }
 
 TEST(Sicherungsnamen, Other_names_give_no_time) {
-    for (const char* name : {"", "a", "2026-11-22_04-30-12-007", "2026-11-22_04-30-12-007Z_", "2026-11-22_04-30-12-007Zx",
-                             "2026-11-22_04-30-12-007Z_1x", "2026-13-22_04-30-12-007Z", "2026-02-30_04-30-12-007Z",
-                             "x2026-11-22_04-30-12-007Z", "2026-11-22_04-30-12-00aZ", "2026-11-22_04-30-12-007Z_1234567"})
+    for (const char* name :
+         {"", "a", "2026-11-22_04-30-12-007", "2026-11-22_04-30-12-007Z_", "2026-11-22_04-30-12-007Zx",
+          "2026-11-22_04-30-12-007Z_1x", "2026-13-22_04-30-12-007Z", "2026-02-30_04-30-12-007Z",
+          "x2026-11-22_04-30-12-007Z", "2026-11-22_04-30-12-00aZ", "2026-11-22_04-30-12-007Z_1234567"})
         EXPECT_FALSE(ZeitAusName(name)) << name;
 }
 
@@ -51,19 +52,20 @@ struct Ordnerfall {
 };
 
 TEST(Sicherungsordnernamen, Of_a_serial_number_only_harmless_characters_stay) {
-    for (const auto& [nummer, ordner] : {Ordnerfall{"SIM-0001", "SIM-0001"}, Ordnerfall{"ab_9", "ab_9"},
-                                         Ordnerfall{"../../etc", "______etc"}, Ordnerfall{"..", "__"},
-                                         Ordnerfall{".", "_"}, Ordnerfall{"a/b\\c:d", "a_b_c_d"},
-                                         Ordnerfall{"\n\t\x01", "___"}, Ordnerfall{"Ä", "__"},
-                                         Ordnerfall{"", "ohne-nummer"}, Ordnerfall{"CON", "CON_"},
-                                         Ordnerfall{"lpt1", "lpt1_"}, Ordnerfall{"COM9", "COM9_"}})
+    for (const auto& [nummer, ordner] :
+         {Ordnerfall{"SIM-0001", "SIM-0001"}, Ordnerfall{"ab_9", "ab_9"},
+          Ordnerfall{"../../etc", "______etc"}, Ordnerfall{"..", "__"}, Ordnerfall{".", "_"},
+          Ordnerfall{"a/b\\c:d", "a_b_c_d"}, Ordnerfall{"\n\t\x01", "___"}, Ordnerfall{"Ä", "__"},
+          Ordnerfall{"", "ohne-nummer"}, Ordnerfall{"CON", "CON_"}, Ordnerfall{"lpt1", "lpt1_"},
+          Ordnerfall{"COM9", "COM9_"}})
         EXPECT_EQ(Sicherungsordnername(nummer), ordner) << nummer;
     EXPECT_EQ(Sicherungsordnername(std::string(500, 'x')), std::string(40, 'x'));
     EXPECT_EQ(Sicherungsordnername(std::string("a\0b", 3)), "a_b");
 }
 
 TEST(Seriennummer, Two_characters_of_each_register_make_it_without_blanks_around_it) {
-    EXPECT_EQ(Seriennummer(MitNummer({0x2041, 0x4231, 0x3220, 0x2020, 0x2020, 0x2020, 0x2020, 0x2020, 0x2020, 0x2020})),
+    EXPECT_EQ(Seriennummer(MitNummer(
+                  {0x2041, 0x4231, 0x3220, 0x2020, 0x2020, 0x2020, 0x2020, 0x2020, 0x2020, 0x2020})),
               "AB12");
 }
 
@@ -104,7 +106,8 @@ TEST(Sicherungstext, Any_other_text_says_nothing) {
 TEST(Sicherungstext, Number_version_and_beam_counts_come_from_the_image) {
     Abbild abbild = MitNummer(Werte(10, 0x4141));
     EXPECT_TRUE(abbild.SetzeRegister(Global, global::Softwareversion, 0x0203));
-    EXPECT_TRUE(abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 64, 1));
+    EXPECT_TRUE(
+        abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 64, 1));
     const auto angaben = AngabenZu(abbild, Zeit());
     EXPECT_EQ(angaben.zeit, Zeit());
     EXPECT_EQ(angaben.seriennummer, std::string(20, 'A'));

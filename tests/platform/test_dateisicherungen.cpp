@@ -24,7 +24,8 @@ system_clock::time_point Zeit(int sekunden) {
 
 Abbild MitReichweite(std::int32_t wert) {
     Abbild abbild;
-    EXPECT_TRUE(abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Reichweite, wert, 0));
+    EXPECT_TRUE(
+        abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Reichweite, wert, 0));
     return abbild;
 }
 
@@ -38,7 +39,8 @@ class DateisicherungenTest : public testing::Test {
 protected:
     QString Pfad(const QString& name) const { return QDir(wurzel).filePath(name); }
     QStringList Namen(const QString& unterordner) const {
-        return QDir(Pfad("sicherungen/" + unterordner)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        return QDir(Pfad("sicherungen/" + unterordner))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
     void Schreibe(const QString& name, const QByteArray& bytes) const {
         QDir().mkpath(QFileInfo(Pfad(name)).path());
@@ -60,7 +62,8 @@ protected:
 
 TEST_F(DateisicherungenTest, A_backup_and_its_text_lie_in_the_folder_of_their_controller) {
     EXPECT_EQ(sicherungen.Lege(MitReichweite(3), Angaben(1)), "");
-    EXPECT_EQ(Namen("SIM-0001"), QStringList({"2026-11-22_00-00-01-000Z.con", "2026-11-22_00-00-01-000Z.txt"}));
+    EXPECT_EQ(Namen("SIM-0001"),
+              QStringList({"2026-11-22_00-00-01-000Z.con", "2026-11-22_00-00-01-000Z.txt"}));
     QFile text(Pfad("sicherungen/SIM-0001/2026-11-22_00-00-01-000Z.txt"));
     ASSERT_TRUE(text.open(QIODevice::ReadOnly));
     const QByteArray inhalt = text.readAll();
