@@ -56,7 +56,8 @@ std::string Worte(const Abbild& abbild, const Parameterstelle& stelle) {
     Werte werte = abbild.HoleParameter(stelle.bereich, stelle.adresse, stelle.optikteil);
     for (std::int32_t& wert : werte)
         wert &= 0xFFFF;
-    return Klartext(stelle.bereich, stelle.adresse, werte, LesartFuer(abbild, stelle.bereich, stelle.optikteil));
+    return Klartext(stelle.bereich, stelle.adresse, werte,
+                    LesartFuer(abbild, stelle.bereich, stelle.optikteil));
 }
 
 Geraetestand NichtsBekannt() {
@@ -74,7 +75,8 @@ Registerzeile Zeile(const Parameterstelle& stelle, std::string links, std::strin
             .ort = Registertext(stelle.bereich, stelle.adresse)};
 }
 
-std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetestand& stand, const std::string& wann) {
+std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetestand& stand,
+                           const std::string& wann) {
     const int verschieden = vergleich.Anzahl(Vergleichsklasse::Verschieden);
     const int unbekannt = vergleich.Anzahl(Vergleichsklasse::NichtLesbar);
     std::string text = verschieden > 0 || unbekannt > 0
@@ -96,8 +98,8 @@ Registerbefund BefundVorDemSchreiben(const Schreibauftrag& auftrag, const std::o
                           .links = LadeText(TextImGeraet),
                           .rechts = LadeText(TextNachher)};
     const Geraetestand bekannt = stand ? *stand : NichtsBekannt();
-    const auto vergleich =
-        Vergleiche(bekannt.abbild, auftrag.abbild, {.inA = bekannt.unbekannt}, Vergleichsumfang::Geschriebenes);
+    const auto vergleich = Vergleiche(bekannt.abbild, auftrag.abbild, {.inA = bekannt.unbekannt},
+                                      Vergleichsumfang::Geschriebenes);
     Vergleichsergebnis betroffen;
     for (const Vergleichszeile& zeile : vergleich.zeilen) {
         if (!auftrag.stellen.contains(zeile.stelle))
@@ -130,19 +132,22 @@ Registerbefund BefundDerPruefung(const Schreibauftrag& auftrag, const Pruefergeb
     if (!ergebnis.abweichend.empty())
         befund.text += "\n" + LadeTextMit(TextAbweichend, {std::to_string(ergebnis.abweichend.size())});
     if (!ergebnis.nichtVerglichen.empty())
-        befund.text +=
-            "\n" + LadeTextMit(TextNichtVergleichbar, {std::to_string(ergebnis.nichtVerglichen.size()),
-                                                       std::to_string(AnzahlRegister(ergebnis.nichtVerglichen))});
+        befund.text += "\n" + LadeTextMit(TextNichtVergleichbar,
+                                          {std::to_string(ergebnis.nichtVerglichen.size()),
+                                           std::to_string(AnzahlRegister(ergebnis.nichtVerglichen))});
     for (const Parameterstelle& stelle : auftrag.stellen) {
         if (ergebnis.abweichend.contains(stelle))
-            befund.zeilen.push_back(Zeile(stelle, Worte(auftrag.abbild, stelle), Worte(ruecklesung.abbild, stelle)));
+            befund.zeilen.push_back(
+                Zeile(stelle, Worte(auftrag.abbild, stelle), Worte(ruecklesung.abbild, stelle)));
         if (ergebnis.nichtVerglichen.contains(stelle))
-            befund.zeilen.push_back(Zeile(stelle, Worte(auftrag.abbild, stelle), LadeText(TextNichtVerglichen)));
+            befund.zeilen.push_back(
+                Zeile(stelle, Worte(auftrag.abbild, stelle), LadeText(TextNichtVerglichen)));
     }
     return befund;
 }
 
-Registerbefund BefundDesAbbruchs(const Schreibauftrag& auftrag, const Schreibspur& spur, bool zurueckschreibbar) {
+Registerbefund BefundDesAbbruchs(const Schreibauftrag& auftrag, const Schreibspur& spur,
+                                 bool zurueckschreibbar) {
     const int geschrieben = AnzahlRegister(spur.geschrieben);
     const int ungewiss = AnzahlRegister(spur.ungewiss);
     const int alle = AnzahlRegister(auftrag.stellen);

@@ -13,10 +13,10 @@ namespace varnoth {
 /// A parameter in words (UTF-8, one line each).
 struct Registerzeile {
     Parameterstelle stelle;
-    std::string bereich;  ///< global, which optical part, communication
-    std::string name;     ///< of the parameter
-    std::string links;    ///< value or state in the third column
-    std::string rechts;   ///< in the fourth
+    std::string bereich; ///< global, which optical part, communication
+    std::string name;    ///< of the parameter
+    std::string links;   ///< value or state in the third column
+    std::string rechts;  ///< in the fourth
     std::string ort;     ///< where it lies: "2000H + 14"
 
     bool operator==(const Registerzeile&) const = default;
@@ -43,7 +43,8 @@ Registerbefund BefundDerPruefung(const Schreibauftrag& auftrag, const Pruefergeb
 
 /// Which parameters a write that did not reach its end has written, and which not.
 /// @param zurueckschreibbar whether what the controller held before can be written back
-Registerbefund BefundDesAbbruchs(const Schreibauftrag& auftrag, const Schreibspur& spur, bool zurueckschreibbar);
+Registerbefund BefundDesAbbruchs(const Schreibauftrag& auftrag, const Schreibspur& spur,
+                                 bool zurueckschreibbar);
 
 /// "191 of 191 read back equal."
 std::string Pruefsatz(const Pruefergebnis& ergebnis);

@@ -24,14 +24,16 @@ Schreibfolge FolgeDesAbbruchs(const Schreibergebnis& ergebnis, const std::option
 
 Schreibfolge FolgeDerPruefung(const Schreibergebnis& ergebnis) {
     Schreibauftrag naechster{.abbild = ergebnis.auftrag.abbild, .stellen = ergebnis.pruefung->abweichend};
-    naechster.stellen.insert(ergebnis.pruefung->nichtVerglichen.begin(), ergebnis.pruefung->nichtVerglichen.end());
+    naechster.stellen.insert(ergebnis.pruefung->nichtVerglichen.begin(),
+                             ergebnis.pruefung->nichtVerglichen.end());
     return {.befund = BefundDerPruefung(ergebnis.auftrag, *ergebnis.pruefung, ergebnis.ruecklesung),
             .naechster = std::move(naechster)};
 }
 
 } // namespace
 
-std::optional<Schreibfolge> FolgeAus(const Schreibergebnis& ergebnis, const std::optional<Geraetestand>& vorher) {
+std::optional<Schreibfolge> FolgeAus(const Schreibergebnis& ergebnis,
+                                     const std::optional<Geraetestand>& vorher) {
     const bool nichtsGesendet = ergebnis.spur.geschrieben.empty() && ergebnis.spur.ungewiss.empty();
     if (!ergebnis.vollstaendig && !nichtsGesendet)
         return FolgeDesAbbruchs(ergebnis, vorher);

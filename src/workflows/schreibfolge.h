@@ -22,8 +22,9 @@ struct Schreibfolge {
 };
 
 /// What follows from a write: nothing where it did what it was meant to, or sent nothing. After one that was
-/// broken off, what is written and what not, and writing back what the controller is known to have held before;
-/// after a check that found anything but equality, its rows, and writing just those again.
-std::optional<Schreibfolge> FolgeAus(const Schreibergebnis& ergebnis, const std::optional<Geraetestand>& vorher);
+/// broken off, what is written and what not, and writing back what the controller is known to have held
+/// before; after a check that found anything but equality, its rows, and writing just those again.
+std::optional<Schreibfolge> FolgeAus(const Schreibergebnis& ergebnis,
+                                     const std::optional<Geraetestand>& vorher);
 
 } // namespace varnoth

@@ -133,7 +133,8 @@ TEST_F(SchreibenImBetrieb, The_backup_holds_what_was_before_and_written_back_res
     EXPECT_EQ(Unterschiede(), 0);
 }
 
-TEST_F(SchreibenImBetrieb, A_register_that_the_controller_silently_refuses_is_found_and_can_be_written_again) {
+TEST_F(SchreibenImBetrieb,
+       A_register_that_the_controller_silently_refuses_is_found_and_can_be_written_again) {
     GeheLiveMitSpeicher();
     geraet->Befehl("fault forget=0x4008");
     AendereFuenf();
@@ -215,7 +216,8 @@ TEST_F(SchreibenImBetrieb, A_broken_write_is_listed_and_what_was_before_is_writt
     EXPECT_THAT(befund, HasSubstr("Das Schreiben wurde nicht beendet."));
     EXPECT_THAT(befund, HasSubstr("ungewiss"));
     EXPECT_EQ(Unterschiede(), 0) << "what was read after that";
-    EXPECT_EQ(AlleSicherungen().size(), 2U) << "another write, another backup, and no changes were lost in silence";
+    EXPECT_EQ(AlleSicherungen().size(), 2U)
+        << "another write, another backup, and no changes were lost in silence";
 }
 
 TEST_F(SchreibenImBetrieb, Changes_that_were_not_written_are_backed_up_when_the_program_connects_again) {
@@ -230,7 +232,8 @@ TEST_F(SchreibenImBetrieb, Changes_that_were_not_written_are_backed_up_when_the_
     EXPECT_EQ(alle[0].angaben.anlass, Sicherungsanlass::VorDemVerbinden);
     const auto gesichertes = DieSicherungen()->Lies(alle[0]);
     ASSERT_TRUE(gesichertes);
-    EXPECT_EQ(gesichertes->HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit), 1234);
+    EXPECT_EQ(gesichertes->HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit),
+              1234);
 }
 
 } // namespace varnoth::pruefung

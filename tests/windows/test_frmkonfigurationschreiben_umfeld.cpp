@@ -1,5 +1,5 @@
-// What stands around a write: the backup before it, the check after it, what it will change, what is left of a
-// broken one.
+// What stands around a write: the backup before it, the check after it, what it will change, what is left of
+// a broken one.
 
 #include "dialogtest.h"
 #include "frmKonfigurationSchreibenInHardware.h"
@@ -44,7 +44,9 @@ protected:
 
     static void Starte(QDialog& dialog) { Kind<QPushButton>(dialog, "cmdStart").click(); }
     static QCheckBox& Pruefen(QDialog& dialog) { return Kind<QCheckBox>(dialog, "chkPruefen"); }
-    static bool IstSichtbar(QDialog& dialog, const char* name) { return !Kind<QLabel>(dialog, name).isHidden(); }
+    static bool IstSichtbar(QDialog& dialog, const char* name) {
+        return !Kind<QLabel>(dialog, name).isHidden();
+    }
     void Schreibe(bool pruefen) {
         Dialog dialog;
         Pruefen(dialog).setChecked(pruefen);
@@ -118,10 +120,12 @@ TEST_F(SchreibumfeldTest, A_dialog_closed_while_the_backup_is_asked_about_writes
 
 TEST_F(SchreibumfeldTest, The_dialog_says_what_will_be_put_aside_or_that_nothing_is_known) {
     Dialog bekannt;
-    EXPECT_TRUE(Beschriftung(bekannt, "lblSicherung").startsWith("Zuvor wird gesichert, was das Gerät zuletzt enthielt ("));
+    EXPECT_TRUE(Beschriftung(bekannt, "lblSicherung")
+                    .startsWith("Zuvor wird gesichert, was das Gerät zuletzt enthielt ("));
     modGeraetestand::MerkeGeschrieben({}, {{Global, global::PnpAusgang, 0}}, "another");
     Dialog unbekannt;
-    EXPECT_EQ(Beschriftung(unbekannt, "lblSicherung"), "Was das Gerät enthält, ist nicht bekannt und wird nicht gesichert.");
+    EXPECT_EQ(Beschriftung(unbekannt, "lblSicherung"),
+              "Was das Gerät enthält, ist nicht bekannt und wird nicht gesichert.");
     SetzeSicherungen(nullptr);
     Dialog ohne;
     EXPECT_FALSE(IstSichtbar(ohne, "lblSicherung"));
@@ -158,8 +162,8 @@ TEST_F(SchreibumfeldTest, With_checking_the_same_is_written_and_then_read_back) 
     EXPECT_EQ(geraet.gelesen.size(), AlleStellen(IstSchreibbar).size());
     ASSERT_TRUE(ergebnis.pruefung);
     EXPECT_TRUE(ergebnis.pruefung->IstGut());
-    EXPECT_TRUE(umgebung.statustexte[0].ends_with(
-        "gespeichert. 191 von 191 Registern zurückgelesen und gleich."))
+    EXPECT_TRUE(
+        umgebung.statustexte[0].ends_with("gespeichert. 191 von 191 Registern zurückgelesen und gleich."))
         << umgebung.statustexte[0];
 }
 
@@ -240,7 +244,8 @@ TEST_F(SchreibumfeldTest, A_broken_write_is_listed_and_what_was_there_before_can
         Starte(dialog);
     });
     SchreibeInDialogen(nullptr, [] { return false; });
-    EXPECT_EQ(geraet.Spezifisch(2, spezifisch::Reichweite), vorher.HoleRegister(Spezifisch, spezifisch::Reichweite, 2));
+    EXPECT_EQ(geraet.Spezifisch(2, spezifisch::Reichweite),
+              vorher.HoleRegister(Spezifisch, spezifisch::Reichweite, 2));
     EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Reichweite, 2), 5) << "what is edited stays";
     EXPECT_EQ(sicherungen.gelegte.size(), 2U);
 }
@@ -281,7 +286,8 @@ TEST_F(SchreibumfeldTest, A_program_that_is_to_end_shows_no_list) {
 
 TEST_F(SchreibumfeldTest, Texts_of_the_controller_are_shown_letter_by_letter) {
     Registerbefund befund{.titel = "t", .text = "<b>x</b>", .links = "l", .rechts = "r"};
-    befund.zeilen.push_back({.stelle = {}, .bereich = "b", .name = "n", .links = "<b>y</b>", .rechts = "z", .ort = "o"});
+    befund.zeilen.push_back(
+        {.stelle = {}, .bereich = "b", .name = "n", .links = "<b>y</b>", .rechts = "z", .ort = "o"});
     frmRegisterliste liste(befund);
     EXPECT_EQ(Kind<QLabel>(liste, "lblBefund").textFormat(), Qt::PlainText);
     EXPECT_FALSE(Kind<QTreeWidget>(liste, "lstRegister").topLevelItem(0)->toolTip(2).contains("<b>"));

@@ -56,7 +56,8 @@ TEST(Aenderungsbefund, Exactly_what_differs_is_listed_with_both_values_in_words)
 TEST(Aenderungsbefund, That_nothing_changes_is_said) {
     const auto befund = BefundVorDemSchreiben({.abbild = Mit(Pause, 7)}, Stand(Mit(Pause, 7)), "today");
     EXPECT_TRUE(befund.zeilen.empty());
-    EXPECT_EQ(befund.text, "Das Schreiben ändert nichts: das Gerät enthielt zuletzt (today) schon alle Werte.");
+    EXPECT_EQ(befund.text,
+              "Das Schreiben ändert nichts: das Gerät enthielt zuletzt (today) schon alle Werte.");
 }
 
 TEST(Aenderungsbefund, What_a_write_does_not_send_is_no_change) {
@@ -107,16 +108,18 @@ TEST(Schreibfolgen, A_write_that_sent_nothing_has_no_sequel) {
 }
 
 TEST(Schreibfolgen, A_broken_write_tells_what_is_written_what_not_and_what_is_uncertain) {
-    const Schreibergebnis ergebnis{.auftrag = {.abbild = {}, .stellen = {{Global, global::PnpAusgang, 0}, Reichweite, Pause}},
-                                   .spur = {.geschrieben = {{Global, global::PnpAusgang, 0}}, .ungewiss = {Reichweite}}};
+    const Schreibergebnis ergebnis{
+        .auftrag = {.abbild = {}, .stellen = {{Global, global::PnpAusgang, 0}, Reichweite, Pause}},
+        .spur = {.geschrieben = {{Global, global::PnpAusgang, 0}}, .ungewiss = {Reichweite}}};
     const auto folge = FolgeAus(ergebnis, Stand({}));
     ASSERT_TRUE(folge);
     ASSERT_EQ(folge->befund.zeilen.size(), 3U);
     EXPECT_EQ(folge->befund.zeilen[0].links, "geschrieben");
     EXPECT_EQ(folge->befund.zeilen[1].links, "ungewiss");
     EXPECT_EQ(folge->befund.zeilen[2].links, "nicht geschrieben");
-    EXPECT_EQ(folge->befund.text, "Das Schreiben wurde nicht beendet. Von 3 Registern sind 1 geschrieben, 1 nicht "
-                                  "und 1 ungewiss.");
+    EXPECT_EQ(folge->befund.text,
+              "Das Schreiben wurde nicht beendet. Von 3 Registern sind 1 geschrieben, 1 nicht "
+              "und 1 ungewiss.");
 }
 
 TEST(Schreibfolgen, After_a_broken_write_all_that_the_controller_held_can_be_written_back) {
@@ -143,7 +146,8 @@ TEST(Schreibfolgen, What_was_not_known_before_is_not_written_back) {
 }
 
 TEST(Schreibfolgen, Everything_written_and_not_stored_is_said) {
-    const Schreibergebnis ergebnis{.auftrag = {.abbild = {}, .stellen = {Pause}}, .spur = {.geschrieben = {Pause}}};
+    const Schreibergebnis ergebnis{.auftrag = {.abbild = {}, .stellen = {Pause}},
+                                   .spur = {.geschrieben = {Pause}}};
     const auto folge = FolgeAus(ergebnis, std::nullopt);
     ASSERT_TRUE(folge);
     EXPECT_EQ(folge->befund.text,
@@ -165,8 +169,10 @@ TEST(Schreibfolgen, A_check_that_found_differences_leads_to_writing_just_those_a
     ASSERT_EQ(Stellen(folge->befund), (Stellenliste{Reichweite, Pause}));
     EXPECT_EQ(folge->befund.zeilen[0].rechts, "nicht verglichen");
     EXPECT_NE(folge->befund.zeilen[1].links, folge->befund.zeilen[1].rechts);
-    EXPECT_TRUE(folge->befund.text.starts_with("189 von 191 Registern zurückgelesen und gleich.\n")) << folge->befund.text;
-    EXPECT_NE(folge->befund.text.find("1 Einstellungen (1 Register) wurden nicht verglichen"), std::string::npos);
+    EXPECT_TRUE(folge->befund.text.starts_with("189 von 191 Registern zurückgelesen und gleich.\n"))
+        << folge->befund.text;
+    EXPECT_NE(folge->befund.text.find("1 Einstellungen (1 Register) wurden nicht verglichen"),
+              std::string::npos);
 }
 
 TEST(Schreibfolgen, A_check_that_found_equality_has_no_sequel) {
