@@ -1,5 +1,5 @@
-// Time of a backup on the disk of the current folder: beside as many as there can be, with its text, until the
-// disk holds both.
+// Time of a backup on the disk of the current folder: beside as many as there can be, with its text, until
+// the disk holds both.
 
 #include "bericht.h"
 #include "dateisicherungen.h"
@@ -37,7 +37,8 @@ int main() {
         lege();
         dauern.push_back(std::chrono::duration<double, std::milli>(Uhr::now() - beginn).count());
     }
-    Berichte(QStringLiteral("backup before a write"), Median(dauern), QStringLiteral("ms"), Ziel::Hoechstens, Hoechstdauer,
+    Berichte(QStringLiteral("backup before a write"), Median(dauern), QStringLiteral("ms"), Ziel::Hoechstens,
+             Hoechstdauer,
              QStringLiteral("beside %1 others, slowest of %2 %3 ms")
                  .arg(Dateisicherungen::Hoechstens)
                  .arg(Messungen)

@@ -20,7 +20,8 @@ TEST_F(Platz, Depends_on_how_many_digits_a_value_has_and_not_on_which) {
     feld.setFont(QFont(QStringLiteral("Serif"), 20));
     const QSize schmal = Fuer("111");
     EXPECT_EQ(Fuer("888"), schmal);
-    EXPECT_GE(schmal.width(), static_cast<QLabel&>(feld).fontMetrics().horizontalAdvance(QStringLiteral("888")));
+    EXPECT_GE(schmal.width(),
+              static_cast<QLabel&>(feld).fontMetrics().horizontalAdvance(QStringLiteral("888")));
     EXPECT_GT(Fuer("1111").width(), schmal.width());
     EXPECT_LT(Fuer("1").width(), schmal.width());
     EXPECT_EQ(feld.minimumSizeHint(), feld.sizeHint());
