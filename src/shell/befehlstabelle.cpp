@@ -60,6 +60,9 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Englisch, "mnuEnglisch", Stoppt, Still,
      [](Ziel& z, int) { z.SchalteSprache(varnoth::Englisch); }},
     {Befehl::LetzteDatei, "", Stoppt, Zeigt, [](Ziel& z, int platz) { z.OeffneLetzteDatei(platz); }, 0, 0},
+    {Befehl::Vergleich, "mnuVergleich", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeVergleich(); }, 0, 1,
+     "Ctrl+D", 9581, "vergleich", 9569, Leistengruppe::Pruefen},
+    {Befehl::GeraetVergleichen, "", Ruht, Zeigt, [](Ziel& z, int) { z.LiesGeraetZumVergleich(); }, 0, 0},
     {Befehl::SimuliertesGeraet, "", Stoppt, Zeigt, [](Ziel& z, int) { z.VerbindeSimuliert(); }, 0, 0},
 };
 

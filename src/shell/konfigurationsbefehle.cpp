@@ -48,31 +48,6 @@ std::string Ordner(const std::string& pfad) {
     return ende == std::string::npos ? std::string() : pfad.substr(0, ende + 1);
 }
 
-/// Where the user last had to do with a configuration file; empty = nowhere yet.
-std::string LetzterOrdner() {
-    const auto zuletzt = LetzteDateien();
-    for (const std::string& pfad :
-         {zuletzt.empty() ? std::string() : zuletzt.front(), modDaten::GetDateiname(), ZuletztGespeichert()})
-        if (std::string ordner = Ordner(pfad); !ordner.empty())
-            return ordner;
-    return {};
-}
-
-/// A path that is free or may be replaced; nothing when the dialog was cancelled.
-std::optional<std::string> WaehleZiel() {
-    Dateifrage frage{.art = Dateiwahl::Speichern,
-                     .titel = LadeText(TextSpeichernUnter),
-                     .filter = LadeText(TextDateifilter),
-                     .ordner = LetzterOrdner(),
-                     .name = modDaten::GetDateiname()};
-    while (auto pfad = FrageNachDatei(frage)) {
-        if (!GibtEsDatei(*pfad) || DarfErsetzen(*pfad))
-            return pfad;
-        frage.name = *pfad;
-    }
-    return std::nullopt;
-}
-
 bool Speichere(const std::string& pfad) {
     const std::string fehler = ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei());
     if (!fehler.empty()) {
@@ -95,13 +70,42 @@ Antwort FrageNachAenderungen() {
 
 } // namespace
 
+std::string LetzterOrdner() {
+    const auto zuletzt = LetzteDateien();
+    for (const std::string& pfad :
+         {zuletzt.empty() ? std::string() : zuletzt.front(), modDaten::GetDateiname(), ZuletztGespeichert()})
+        if (std::string ordner = Ordner(pfad); !ordner.empty())
+            return ordner;
+    return {};
+}
+
+std::optional<std::string> WaehleZiel(Dateifrage frage) {
+    while (auto pfad = FrageNachDatei(frage)) {
+        if (!GibtEsDatei(*pfad) || DarfErsetzen(*pfad))
+            return pfad;
+        frage.name = *pfad;
+    }
+    return std::nullopt;
+}
+
+bool LiesKonfigurationsdatei(const std::string& pfad, Abbild& abbild) {
+    const auto datei = LiesDatei(pfad, LaengeKonfigurationsdatei);
+    if (!datei.gelungen)
+        ZeigeDateifehler(datei.fehlertext, pfad);
+    return datei.gelungen && ZerlegeMitMeldung(datei.bytes, abbild);
+}
+
 std::string Dateifehlertext(const std::string& fehlertext, const std::string& pfad) {
     const bool nenntPfad = fehlertext.find(pfad) != std::string::npos;
     return nenntPfad ? fehlertext : fehlertext + "\n" + pfad;
 }
 
 bool KonfigurationSpeichernUnter() {
-    const auto pfad = WaehleZiel();
+    const auto pfad = WaehleZiel({.art = Dateiwahl::Speichern,
+                                  .titel = LadeText(TextSpeichernUnter),
+                                  .filter = LadeText(TextDateifilter),
+                                  .ordner = LetzterOrdner(),
+                                  .name = modDaten::GetDateiname()});
     return pfad.has_value() && Speichere(*pfad);
 }
 

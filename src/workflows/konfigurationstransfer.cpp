@@ -4,7 +4,6 @@
 #include "texte.h"
 #include "transaktionen.h"
 #include "versuche.h"
-#include "zahlen.h"
 
 #include <algorithm>
 
@@ -18,12 +17,6 @@ constexpr std::int16_t TextKanal = 7115;
 constexpr int Kanal = 0;
 
 } // namespace
-
-std::string Registertext(Speicherbereich bereich, std::int16_t adresse) {
-    if (bereich == Speicherbereich::GlobaleGeraetedaten)
-        return std::to_string(adresse);
-    return AlsHex(Bereichsanfang(bereich)) + "H + " + std::to_string(adresse);
-}
 
 bool Konfigurationstransfer::UebertrageAlles() {
     erledigt = 0;

@@ -31,9 +31,6 @@ struct Transferparameter {
     std::int16_t optikteil = 0;
 };
 
-/// How a register is shown: "12", "2000H + 12" or "4000H + 12".
-std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
-
 /// The walk through all parameters that reading and writing a configuration have in common: the global range,
 /// the specific range of all four optical parts, connected or not, and the communication range of channel 0.
 /// Which parameters take part and what happens to them is the business of the class that reads or writes.

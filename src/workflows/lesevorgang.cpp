@@ -3,6 +3,7 @@
 #include "geraetestand.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
+#include "registertext.h"
 #include "seriennummer.h"
 #include "texte.h"
 #include "transaktionen.h"

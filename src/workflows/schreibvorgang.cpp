@@ -4,6 +4,7 @@
 #include "kommandoregister.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "registertext.h"
 #include "seriennummer.h"
 #include "texte.h"
 #include "transaktionen.h"
