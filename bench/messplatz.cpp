@@ -29,6 +29,7 @@ Startbedingungen Bedingungen(const QString& ordner, const QString& geraet, int b
             .programmordner = ordner,
             .programmname = Programmname,
             .sperrordner = ordner,
+            .datenordner = ordner + QStringLiteral("/daten"),
             .splashSekunden = 0};
 }
 

@@ -56,10 +56,14 @@ void frmKonfigurationEdit::VerbindeKnoepfe() {
     connect(ui->cmdDownLoad, &QPushButton::clicked, this, [this] { Uebernimm(True); });
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     for (Optikseite* const seite : optikseiten)
-        connect(seite, &Optikseite::BlankingmusterVerlangt, this,
-                [this](int teil) { OeffneBlankingmuster(this, teil); });
-    connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this,
-            [this] { OeffneReihenfolge(this); });
+        connect(seite, &Optikseite::BlankingmusterVerlangt, this, [this, seite](int teil) {
+            OeffneBlankingmuster(this, teil);
+            seite->AktualisiereMarken();
+        });
+    connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this, [this] {
+        OeffneReihenfolge(this);
+        ui->picOptions_5->AktualisiereMarken();
+    });
     connect(ui->picOptions_5, &Kommunikationsseite::AutosendStartbar, this, [this](bool startbar) {
         if (umfeld.autosendStartbar)
             umfeld.autosendStartbar(startbar);

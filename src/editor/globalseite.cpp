@@ -6,6 +6,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "ui_globalseite.h"
+#include "vorgabemarken.h"
 
 namespace varnoth {
 
@@ -21,11 +22,20 @@ void Nummeriere(QButtonGroup& gruppe) {
 
 } // namespace
 
-Globalseite::Globalseite(QWidget* eltern) : QWidget(eltern), ui(std::make_unique<Ui::Globalseite>()) {
+Globalseite::Globalseite(QWidget* eltern)
+    : QWidget(eltern), ui(std::make_unique<Ui::Globalseite>()), marken(new Vorgabemarken(this)) {
     ui->setupUi(this);
     for (QButtonGroup* const gruppe :
          {ui->optPNPAusgang_Option1, ui->optPNPAusgang_Option2, ui->optAusgangAktive})
         Nummeriere(*gruppe);
+    BaueMarken();
+}
+
+void Globalseite::BaueMarken() {
+    const auto vorgabe = [] { return PnpAusgangAus(Vorgabewert({Global, global::PnpAusgang})); };
+    marken->Fuege(VorgabeVon(*ui->optPNPAusgang_Option1, [vorgabe] { return vorgabe().funktion; }));
+    marken->Fuege(VorgabeVon(*ui->optPNPAusgang_Option2, [vorgabe] { return vorgabe().optikteil; }));
+    marken->Fuege(VorgabeVon(*ui->optAusgangAktive, [vorgabe] { return vorgabe().pegel; }));
 }
 
 Globalseite::~Globalseite() = default;
@@ -51,6 +61,7 @@ void Globalseite::Fuelle() {
     ui->optPNPAusgang_Option1->button(ausgang.funktion)->setChecked(true);
     ui->optPNPAusgang_Option2->button(ausgang.optikteil)->setChecked(true);
     ui->optAusgangAktive->button(ausgang.pegel)->setChecked(true);
+    marken->Aktualisiere();
 }
 
 void Globalseite::SchreibeZurueck() const {

@@ -10,6 +10,8 @@ namespace Ui {
 class Globalseite;
 }
 
+class Vorgabemarken;
+
 /// The page of the whole device: what it is, and what its switching output does.
 class Globalseite : public QWidget {
 public:
@@ -22,9 +24,11 @@ public:
     void SchreibeZurueck() const;
 
 private:
+    void BaueMarken();
     void ZeigeGeraet();
 
     std::unique_ptr<Ui::Globalseite> ui;
+    Vorgabemarken* marken;
 };
 
 } // namespace varnoth

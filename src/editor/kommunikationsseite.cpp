@@ -9,6 +9,7 @@
 #include "registeradressen.h"
 #include "texte.h"
 #include "ui_kommunikationsseite.h"
+#include "vorgabemarken.h"
 #include "zykluszeiten.h"
 
 #include <algorithm>
@@ -38,6 +39,12 @@ void Waehle(QButtonGroup& gruppe, std::optional<Art> art) {
     gruppe.setExclusive(true);
 }
 
+/// The number that an option of a group has; -1 for none.
+template<class Art>
+int Knopfnummer(std::optional<Art> art) {
+    return art ? static_cast<int>(*art) : -1;
+}
+
 template<class Art>
 std::optional<Art> Gewaehlt(const QButtonGroup& gruppe) {
     if (gruppe.checkedButton() == nullptr)
@@ -48,7 +55,7 @@ std::optional<Art> Gewaehlt(const QButtonGroup& gruppe) {
 } // namespace
 
 Kommunikationsseite::Kommunikationsseite(QWidget* eltern)
-    : QWidget(eltern), ui(std::make_unique<Ui::Kommunikationsseite>()) {
+    : QWidget(eltern), ui(std::make_unique<Ui::Kommunikationsseite>()), marken(new Vorgabemarken(this)) {
     ui->setupUi(this);
     Nummeriere<Autosendart>(*ui->optAutosend,
                             {{ui->optkeinAutosend, Autosendart::Keines},
@@ -64,6 +71,8 @@ Kommunikationsseite::Kommunikationsseite(QWidget* eltern)
                             {ui->opt1StopbitParitätungerade, Byteformat::EinStopbitUngerade},
                             {ui->opt1StopbitParitätgerade, Byteformat::EinStopbitGerade}});
     Verbinde();
+    BaueMarken();
+    BaueAutosendmarken();
 }
 
 Kommunikationsseite::~Kommunikationsseite() = default;
@@ -75,6 +84,36 @@ void Kommunikationsseite::Verbinde() {
         const std::string text = ui->txtPausenzeit->text().toStdString();
         ui->txtPausenzeit->setText(QString::fromStdString(PausenzeitBeimVerlassen(text)));
     });
+}
+
+void Kommunikationsseite::BaueMarken() {
+    const auto format = [] { return Vorgabewert({Kommunikation, kommunikation::Autosendformat}); };
+    marken->Fuege(VorgabeVon(*ui->cboStationsAdresse, [this] {
+        return AuswahlFuer(Stationsadressen(MaxStationsadresse(derBustyp)),
+                           Vorgabewert({Kommunikation, kommunikation::Stationsadresse}));
+    }));
+    marken->Fuege(VorgabeVon(*ui->txtPausenzeit,
+                             QString::number(Vorgabewert({Kommunikation, kommunikation::Pausenzeit}))));
+    marken->Fuege(
+        VorgabeVon(*ui->cboBaudrate, [format] { return AuswahlFuer(Autosendbaudraten(), format()); }));
+    marken->Fuege(VorgabeVon(*ui->optByteformat, [format] { return Knopfnummer(ByteformatAus(format())); }));
+    marken->Fuege(VorgabeVon(*ui->cmdReihenfolge, {Kommunikation, kommunikation::Datenblock}));
+}
+
+void Kommunikationsseite::BaueAutosendmarken() {
+    const auto vorgabe = [this] {
+        return AutosendAus(Vorgabewert({Kommunikation, kommunikation::Autosend}), MaxAutosendrate(derBustyp));
+    };
+    marken->Fuege(VorgabeVon(*ui->optAutosend, [vorgabe] { return Knopfnummer(vorgabe().art); }));
+    marken->Fuege(VorgabeVon(*ui->optTrigger, [vorgabe] { return Knopfnummer(vorgabe().trigger); }));
+    marken->Fuege(VorgabeVon(*ui->chkStrahldatenMerken, vorgabe().strahldatenMerken));
+    marken->Fuege(VorgabeVon(*ui->cbolOhneTriggerAutosendrate, [this, vorgabe] {
+        return AuswahlFuer(Autosendraten(MaxAutosendrate(derBustyp)), vorgabe().rate);
+    }));
+}
+
+void Kommunikationsseite::AktualisiereMarken() {
+    marken->Aktualisiere();
 }
 
 void Kommunikationsseite::ZeigeUebertrageneWerte() {
@@ -94,6 +133,7 @@ void Kommunikationsseite::Fuelle(std::int32_t typ) {
     FuelleAutosendformat();
     PasseAnBusAn();
     Sperre(BedienungFuer(AutosendKlasse(Art()), derBustyp));
+    AktualisiereMarken();
 }
 
 void Kommunikationsseite::FuelleStationsadresse() {

@@ -14,6 +14,8 @@ namespace Ui {
 class Kommunikationsseite;
 }
 
+class Vorgabemarken;
+
 /// The page of the bus: station address, pause time, and how the controller sends without being asked.
 class Kommunikationsseite : public QWidget {
     Q_OBJECT
@@ -29,6 +31,8 @@ public:
     void Fuelle(std::int32_t typ);
     /// Stores what the controls show.
     void SchreibeZurueck() const;
+    /// Looks again at which settings differ from the factory default.
+    void AktualisiereMarken();
 
 signals:
     /// Filling found a mode in which the controller can be told to start sending, or one in which it cannot.
@@ -37,6 +41,8 @@ signals:
     void ReihenfolgeVerlangt();
 
 private:
+    void BaueMarken();
+    void BaueAutosendmarken();
     void Verbinde();
     void FuelleStationsadresse();
     void FuelleAutosend();
@@ -48,6 +54,7 @@ private:
     std::optional<Autosendart> Art() const;
 
     std::unique_ptr<Ui::Kommunikationsseite> ui;
+    Vorgabemarken* marken;
     std::int32_t derBustyp = 0;
 };
 

@@ -5,6 +5,7 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "ui_optikseite.h"
+#include "vorgabemarken.h"
 #include "zykluszeiten.h"
 
 #include <tuple>
@@ -15,7 +16,8 @@ namespace {
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 }
 
-Optikseite::Optikseite(QWidget* eltern) : QWidget(eltern), ui(std::make_unique<Ui::Optikseite>()) {
+Optikseite::Optikseite(QWidget* eltern)
+    : QWidget(eltern), ui(std::make_unique<Ui::Optikseite>()), marken(new Vorgabemarken(this)) {
     ui->setupUi(this);
     boxen = {ui->cboAuflösung,       ui->cboReichweite, ui->cboAnzahlDurchlaeufeFilter, ui->cboGruppenzähler,
              ui->cboMinMaxHaltezeit, ui->cboLochgröße,  ui->cboMittentoleranz};
@@ -30,6 +32,27 @@ void Optikseite::SetzeOptikteil(int teil) {
     for (QObject* const kind : findChildren<QObject*>())
         if (const QString name = kind->objectName(); !name.isEmpty() && !name.startsWith("qt_"))
             kind->setObjectName(QStringLiteral("%1_%2").arg(name).arg(teil));
+    BaueMarken();
+}
+
+void Optikseite::BaueMarken() {
+    constexpr int Und = 0;
+    constexpr int Oder = 1;
+    for (std::size_t i = 0; i < boxen.size(); ++i)
+        marken->Fuege(VorgabeVon(*boxen[i], [i] {
+            const Auswahlliste& liste = AlleTeillisten()[i];
+            return AuswahlFuer(liste, Vorgabewert({Spezifisch, liste.adresse}));
+        }));
+    ui->optGruppenzähler->setId(ui->optGruppenzählerUnd, Und);
+    ui->optGruppenzähler->setId(ui->optGruppenzählerOder, Oder);
+    marken->Fuege(VorgabeVon(*ui->optGruppenzähler, [] {
+        return GruppenzaehlerOder(Vorgabewert({Spezifisch, spezifisch::Gruppenzaehler})) ? Oder : Und;
+    }));
+    marken->Fuege(VorgabeVon(*ui->cmdBlankingmuster, {Spezifisch, spezifisch::Blankingmuster, optikteil}));
+}
+
+void Optikseite::AktualisiereMarken() {
+    marken->Aktualisiere();
 }
 
 void Optikseite::ZeigeUebertrageneWerte() {
@@ -53,6 +76,7 @@ void Optikseite::Fuelle() {
     const bool oder =
         GruppenzaehlerOder(modDaten::HoleRegister(Spezifisch, spezifisch::Gruppenzaehler, optikteil));
     (oder ? ui->optGruppenzählerOder : ui->optGruppenzählerUnd)->setChecked(true);
+    AktualisiereMarken();
 }
 
 std::int32_t Optikseite::Wert(const QComboBox& box, const Auswahlliste& liste) const {

@@ -14,6 +14,7 @@ class Optikseite;
 }
 
 struct Auswahlliste;
+class Vorgabemarken;
 
 /// The page of an optical part: its evaluation and filter settings.
 class Optikseite : public QWidget {
@@ -33,15 +34,19 @@ public:
     void Fuelle();
     /// Stores what the controls show.
     void SchreibeZurueck() const;
+    /// Looks again at which settings differ from the factory default.
+    void AktualisiereMarken();
 
 signals:
     /// The user wants to edit the blanking pattern of this part.
     void BlankingmusterVerlangt(int teil);
 
 private:
+    void BaueMarken();
     std::int32_t Wert(const QComboBox& box, const Auswahlliste& liste) const;
 
     std::unique_ptr<Ui::Optikseite> ui;
+    Vorgabemarken* marken;
     std::vector<QComboBox*> boxen; ///< in the order of the lists of an optical part
     int optikteil = 0;
 };

@@ -11,6 +11,9 @@ namespace varnoth {
 
 namespace {
 
+constexpr std::int16_t TextUnbekanntesFormat = 3100;
+constexpr std::int16_t TextUnbekannteVersion = 3101;
+
 constexpr std::string_view Kennung = "Varnoth Konfiguration";
 constexpr char Version = 0;
 constexpr std::size_t BytesJeWert = 4;
@@ -69,6 +72,14 @@ Dateibefund ZerlegeKonfigurationsdatei(std::string_view bytes, Abbild& abbild) {
     return Dateibefund::Gut;
 }
 
+bool ZerlegeMitMeldung(std::string_view bytes, Abbild& abbild) {
+    const auto befund = ZerlegeKonfigurationsdatei(bytes, abbild);
+    if (befund != Dateibefund::Gut)
+        ZeigeWarnung(LadeText(befund == Dateibefund::UnbekannteVersion ? TextUnbekannteVersion
+                                                                       : TextUnbekanntesFormat));
+    return befund == Dateibefund::Gut;
+}
+
 std::string AlsKonfigurationsdatei(const Abbild& abbild) {
     std::string bytes(Kennung);
     bytes.reserve(LaengeKonfigurationsdatei);
@@ -81,25 +92,14 @@ std::string AlsKonfigurationsdatei(const Abbild& abbild) {
 
 namespace modDaten {
 
-namespace {
-
-constexpr std::int16_t TextUnbekanntesFormat = 3100;
-constexpr std::int16_t TextUnbekannteVersion = 3101;
-
-} // namespace
-
 std::string SpeichereKonfigurationsdatei() {
     return AlsKonfigurationsdatei(DasAbbild());
 }
 
 Boolean LadeKonfigurationsdatei(std::string_view bytes) {
     Abbild gelesen;
-    const auto befund = ZerlegeKonfigurationsdatei(bytes, gelesen);
-    if (befund != Dateibefund::Gut) {
-        ZeigeWarnung(LadeText(befund == Dateibefund::UnbekannteVersion ? TextUnbekannteVersion
-                                                                       : TextUnbekanntesFormat));
+    if (!ZerlegeMitMeldung(bytes, gelesen))
         return False;
-    }
     ErsetzeAbbild(gelesen);
     SetzeGeaendert();
     return True;

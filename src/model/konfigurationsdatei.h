@@ -27,6 +27,10 @@ enum class Dateibefund { Gut, UnbekanntesFormat, UnbekannteVersion };
 /// behind a complete body are ignored; a wrong version is reported before a short body.
 [[nodiscard]] Dateibefund ZerlegeKonfigurationsdatei(std::string_view bytes, Abbild& abbild);
 
+/// The same; a body that is not good gives a warning box (3100 unknown format, 3101 unknown version) and
+/// false.
+[[nodiscard]] bool ZerlegeMitMeldung(std::string_view bytes, Abbild& abbild);
+
 /// The body of a file with the image as it stands, values beyond 16 bits included.
 std::string AlsKonfigurationsdatei(const Abbild& abbild);
 

@@ -14,6 +14,7 @@
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
+#include "versionstext.h"
 
 #include <QApplication>
 #include <QDir>
@@ -49,9 +50,12 @@ double Sekundenuhr() {
 Anwendung::Anwendung(Startbedingungen start)
     : bedingungen(std::move(start)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
       einstellungen(Einstellungspfad(bedingungen.programmordner, bedingungen.programmname)),
+      sicherungen(bedingungen.datenordner.isEmpty() ? UeblicherDatenordner() : bedingungen.datenordner,
+                  Versionstext().toStdString()),
       sperre(bedingungen.programmname, bedingungen.sperrordner), simuliert(kommandozeile.simulator),
       port(MachePort(simuliert)), hilfe([this] { return Hilfedatei(); }),
       hilfetaste([this](QWidget* stelle) { hilfe.ZeigeSeiteZu(stelle); }) {
+    SetzeSicherungen(&sicherungen);
     SetzeGeraetepfad(kommandozeile.geraet.toStdString());
     modSchnittstelle::SetzePort(port.get());
     modDaten::SetzeReaktionAufUnplausiblesAbbild(modModbus::BeendeAutosendAmOffenenPort);
@@ -63,6 +67,7 @@ Anwendung::~Anwendung() {
     modSchnittstelle::CloseCommPort();
     einstellungen.SetzeFehlermeldung({});
     hauptfenster.reset();
+    SetzeSicherungen(nullptr);
     modSchnittstelle::SetzePort(nullptr);
 }
 

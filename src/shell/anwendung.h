@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dateisicherungen.h"
 #include "dialogplatz.h"
 #include "fensterumgebung.h"
 #include "frmMain.h"
@@ -25,6 +26,7 @@ struct Startbedingungen {
     QString programmordner;    ///< where settings and help files lie
     QString programmname;      ///< file name of the executable without ending
     QString sperrordner{};     ///< where the lock of the single instance lies; empty: the usual place
+    QString datenordner{};     ///< where backups lie; empty: the usual place
     double splashSekunden = 2; ///< how long the splash window stays at least
 };
 
@@ -65,6 +67,7 @@ private:
     Kommandozeile kommandozeile;
     Fensterumgebung umgebung;
     IniEinstellungen einstellungen;
+    Dateisicherungen sicherungen;
     Instanzsperre sperre;
     bool simuliert;
     std::unique_ptr<SeriellerPort> port;

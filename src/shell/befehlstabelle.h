@@ -43,10 +43,14 @@ public:
     /// Connects to the built-in controller, which takes the place of the serial ports in this run.
     virtual void VerbindeSimuliert() = 0;
     virtual void ZeigeBericht() = 0;
+    virtual void ZeigeVergleich() = 0;
+    /// Reads the controller for the comparison that asked for it.
+    virtual void LiesGeraetZumVergleich() = 0;
 };
 
-/// How a command gets along with live data.
-enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder };
+/// How a command gets along with live data: whether it stops before, starts again after as when connecting,
+/// or only rests meanwhile.
+enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder, Ruht };
 /// Whether a command opens a dialog or asks a question; the others do their work without the user.
 enum class Auftritt { Still, Zeigt };
 

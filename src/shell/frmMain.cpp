@@ -12,6 +12,7 @@
 #include "trace.h"
 #include "ui_frmMain.h"
 #include "verbindungsanzeige.h"
+#include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
 #include "willkommensseite.h"
 
@@ -73,6 +74,7 @@ frmMain::frmMain(const QString& programmordner)
                            .beendet = [this] { return Beendet(); }};
     ablauf = std::make_unique<Konfigurationsablauf>(teile);
     betrieb = std::make_unique<Geraetebetrieb>(teile, befehle, *ablauf, programmordner);
+    vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
 }
 
 frmMain::~frmMain() = default;
@@ -161,6 +163,7 @@ void frmMain::Entlade() {
     leiste->SpeicherePlatz();
     modTrace::Schliesse();
     SchliesseDialoge();
+    vergleich->Schliesse();
     hide();
 }
 

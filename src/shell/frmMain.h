@@ -23,6 +23,7 @@ namespace Ui {
 class frmMain;
 }
 
+class Vergleichsablauf;
 class frmDocument;
 class Werkzeugleiste;
 class Willkommensseite;
@@ -108,6 +109,7 @@ private:
 
     void Verbinde() override { Autostart(); }
     void StoppeLiveDaten() override { SubMessdatenVisualisierenStop(); }
+    void SetzeLiveDatenFort() override { betrieb->SetzeLiveDatenFort(); }
     void ZeigeAnsicht(int optikteil) override;
     void Beende() override { SubBeenden(); }
     void BearbeiteEinzelwerte() override;
@@ -131,6 +133,8 @@ private:
     void OeffneLetzteDatei(int platz) override;
     void VerbindeSimuliert() override;
     void ZeigeBericht() override { ablauf->Berichte(); }
+    void ZeigeVergleich() override;
+    void LiesGeraetZumVergleich() override;
 
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;
@@ -143,6 +147,7 @@ private:
     Willkommensseite* willkommen = nullptr;
     std::unique_ptr<Konfigurationsablauf> ablauf;
     std::unique_ptr<Geraetebetrieb> betrieb;
+    std::unique_ptr<Vergleichsablauf> vergleich;
     bool entladen = false;
 };
 

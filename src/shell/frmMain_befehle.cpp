@@ -17,6 +17,7 @@
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 #include "umgebung.h"
+#include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
 
 namespace varnoth {
@@ -37,6 +38,7 @@ void frmMain::MenuAusführen() {
         return;
     befehle.FuehreAus(*this);
     ZeigeWillkommen();
+    vergleich->Erneuere();
 }
 
 void frmMain::mnuBeenden_Click() {
@@ -128,6 +130,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     LokalisiereForm(*this);
     leiste->Lokalisiere();
     ansichten->Lokalisiere();
+    vergleich->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
 }
@@ -142,6 +145,14 @@ void frmMain::VerbindeSimuliert() {
     if (WechslePort(true))
         menue.HakePort(0);
     Autostart();
+}
+
+void frmMain::ZeigeVergleich() {
+    vergleich->Zeige();
+}
+
+void frmMain::LiesGeraetZumVergleich() {
+    vergleich->LiesGeraet(*betrieb);
 }
 
 void frmMain::ZeigeSimulation() {

@@ -73,6 +73,24 @@ bool Geraetebetrieb::LiveDatenLaufen() const {
     return modPolling::GetPollingAktiv() != False;
 }
 
+void Geraetebetrieb::SetzeLiveDatenFort() {
+    if (Beendet())
+        return;
+    modPolling::StartePolling();
+    if (LiveDatenLaufen())
+        LiveDatenLaufenAn();
+}
+
+bool Geraetebetrieb::LiesAbzug(QWidget& ueber, Geraeteabzug& abzug) {
+    modModbus::SchreibeSteuerwert4();
+    if (Beendet() || !Durchlaufe<frmIdentifikationsAnforderung>(ueber) || Beendet())
+        return false;
+    frmKonfigurationLesenAusHardware dialog(&ueber, &abzug);
+    dialog.SetWeiter(True);
+    dialog.exec();
+    return true;
+}
+
 bool Geraetebetrieb::IstLive() const {
     return LiveDatenLaufen() && !modPolling::VerbindungVerloren();
 }

@@ -12,6 +12,7 @@
 namespace varnoth {
 
 class Befehlsspeicher;
+struct Geraeteabzug;
 class Konfigurationsablauf;
 
 /// The main window's dealings with the controller: connecting, live data and its end, the dialogs that every
@@ -28,6 +29,12 @@ public:
     /// Stops live data and takes the controller out of autosend.
     void StoppeLiveDaten() override;
     bool LiveDatenLaufen() const override;
+    /// Live data that has rested goes on with the parts and values that were known, if the port can be
+    /// opened.
+    void SetzeLiveDatenFort();
+    /// Identifies the controller and reads its configuration aside, in dialogs over a window. False when
+    /// nobody has answered; a read that was cancelled leaves the rest unread.
+    bool LiesAbzug(QWidget& ueber, Geraeteabzug& abzug);
     /// Whether live data is running on a line that answers.
     bool IstLive() const;
     /// Asks, and on OK lets the controller send by itself.

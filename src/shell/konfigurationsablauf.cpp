@@ -3,12 +3,12 @@
 #include "berichtsbefehl.h"
 #include "frmKeinKonturAngeschlossen.h"
 #include "frmKonfigurationEdit.h"
-#include "frmKonfigurationSchreibenInHardware.h"
 #include "frmStrahlenBestimmen.h"
 #include "hauptmenue.h"
 #include "konfigurationsbefehle.h"
 #include "letzterdatensatz.h"
 #include "registerabbild.h"
+#include "schreibablauf.h"
 #include "transaktionen.h"
 #include "zykluszeiten.h"
 
@@ -91,7 +91,7 @@ void Konfigurationsablauf::Bearbeite() {
 }
 
 void Konfigurationsablauf::Schreibe() {
-    frmKonfigurationSchreibenInHardware(&teile.fenster).exec();
+    SchreibeInDialogen(&teile.fenster, teile.beendet);
     modModbus::SchreibeSteuerwert4();
 }
 

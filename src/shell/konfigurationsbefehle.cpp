@@ -8,7 +8,9 @@
 #include "letztedateien.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
+#include "sicherungen.h"
 #include "texte.h"
+#include "textmitwerten.h"
 #include "umgebung.h"
 #include "zykluszeiten.h"
 
@@ -34,16 +36,6 @@ void ZeigeDateifehler(const std::string& fehlertext, const std::string& pfad) {
     ZeigeWarnung(Dateifehlertext(fehlertext, pfad));
 }
 
-/// Where the user last had to do with a configuration file; empty = nowhere yet.
-std::string LetzterOrdner() {
-    const auto zuletzt = LetzteDateien();
-    for (const std::string& pfad :
-         {zuletzt.empty() ? std::string() : zuletzt.front(), modDaten::GetDateiname(), ZuletztGespeichert()})
-        if (std::string ordner = Ordner(pfad); !ordner.empty())
-            return ordner;
-    return {};
-}
-
 bool Speichere(const std::string& pfad) {
     const std::string fehler = ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei());
     if (!fehler.empty()) {
@@ -53,6 +45,7 @@ bool Speichere(const std::string& pfad) {
     DieEinstellungen().SchreibText(Abschnitt, Schluessel, pfad);
     MerkeDatei(pfad);
     modDaten::LoescheGeaendert();
+    MerkeAusgangslage();
     return true;
 }
 
@@ -64,6 +57,22 @@ Antwort FrageNachAenderungen() {
 }
 
 } // namespace
+
+std::string LetzterOrdner() {
+    const auto zuletzt = LetzteDateien();
+    for (const std::string& pfad :
+         {zuletzt.empty() ? std::string() : zuletzt.front(), modDaten::GetDateiname(), ZuletztGespeichert()})
+        if (std::string ordner = Ordner(pfad); !ordner.empty())
+            return ordner;
+    return {};
+}
+
+bool LiesKonfigurationsdatei(const std::string& pfad, Abbild& abbild) {
+    const auto datei = LiesDatei(pfad, LaengeKonfigurationsdatei);
+    if (!datei.gelungen)
+        ZeigeDateifehler(datei.fehlertext, pfad);
+    return datei.gelungen && ZerlegeMitMeldung(datei.bytes, abbild);
+}
 
 std::string Dateifehlertext(const std::string& fehlertext, const std::string& pfad) {
     const bool nenntPfad = fehlertext.find(pfad) != std::string::npos;
@@ -94,12 +103,15 @@ bool LadeDatei(const std::string& pfad) {
         ZeigeDateifehler(datei.fehlertext, pfad);
         return false;
     }
+    MeldeUngesichertes(SichereAenderungen(Sicherungsanlass::VorDemOeffnen));
     const bool geladen = modDaten::LadeKonfigurationsdatei(datei.bytes) != False;
     modDaten::SetDateiname(pfad);
     const bool plausibel = modDaten::PruefeKonfiguration() != False;
     modHilfsFunktionen::BerechneZykluszeiten();
-    if (geladen && plausibel)
+    if (geladen && plausibel) {
         MerkeDatei(pfad);
+        MerkeAusgangslage();
+    }
     return geladen && plausibel;
 }
 

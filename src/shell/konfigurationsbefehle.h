@@ -1,5 +1,9 @@
 #pragma once
 
+#include "abbild.h"
+#include "dateidialog.h"
+
+#include <optional>
 #include <string>
 
 namespace varnoth {
@@ -27,6 +31,13 @@ bool LadeDatei(const std::string& pfad);
 /// saves them on Yes. True when the program may end; the changed mark is then cleared. False after Cancel,
 /// and after a Yes that saved nothing (dialog cancelled, write failed): only a No gives changes up.
 bool FrageNachSpeichern();
+
+/// Reads a configuration file (UTF-8 path) without touching the configuration. One that cannot be read or is
+/// no good gives its message and false.
+bool LiesKonfigurationsdatei(const std::string& pfad, Abbild& abbild);
+
+/// Where the user last had to do with a configuration file; empty = nowhere yet.
+std::string LetzterOrdner();
 
 /// What a warning says about a file that could not be read or written: the system's text, and the path in a
 /// line of its own where that text does not name it.

@@ -14,6 +14,11 @@ bool StartetLiveDatenWieder(Befehl befehl) {
     return zeile != nullptr && zeile->live == Live::StopptUndStartetWieder;
 }
 
+bool SetztLiveDatenFort(Befehl befehl) {
+    const Befehlszeile* const zeile = ZeileZu(befehl);
+    return zeile != nullptr && zeile->live == Live::Ruht;
+}
+
 bool ZeigtFenster(Befehl befehl) {
     const Befehlszeile* const zeile = ZeileZu(befehl);
     return zeile != nullptr && zeile->auftritt == Auftritt::Zeigt;
@@ -35,6 +40,8 @@ void Befehlsspeicher::FuehreAus(Befehlsziel& ziel) {
     if (liefLive && StopptLiveDaten(befehl))
         ziel.StoppeLiveDaten();
     ziel.FuehreAus(befehl, index);
+    if (liefLive && SetztLiveDatenFort(befehl))
+        ziel.SetzeLiveDatenFort();
     if (klicks != klicksVorher)
         return;
     befehlscode = liefLive && StartetLiveDatenWieder(befehl) ? Befehl::VisualisierenStart : Befehl::Keiner;

@@ -30,13 +30,19 @@ enum class Befehl {
     Englisch = 23,
     LetzteDatei = 101,
     SimuliertesGeraet = 102,
-    Bericht = 110,
+    Vergleich = 110,
+    GeraetVergleichen = 111,
+    Bericht = 112,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.
 bool StopptLiveDaten(Befehl befehl);
 /// Whether live data that ran before the command starts again after it.
 bool StartetLiveDatenWieder(Befehl befehl);
+
+/// Whether live data that ran before the command goes on after it where it was: nothing is connected or read
+/// anew.
+bool SetztLiveDatenFort(Befehl befehl);
 
 /// Whether the command opens a dialog or asks a question; the others do their work without the user.
 bool ZeigtFenster(Befehl befehl);
@@ -51,6 +57,7 @@ public:
 
     virtual bool LiveDatenLaufen() const = 0;
     virtual void StoppeLiveDaten() = 0;
+    virtual void SetzeLiveDatenFort() = 0;
     /// Runs a command; the index is that of the clicked item where the item is one of several.
     virtual void FuehreAus(Befehl befehl, int index) = 0;
 };

@@ -7,6 +7,7 @@
 #include "polling.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "transaktionen.h"
 #include "zykluszeiten.h"
@@ -54,11 +55,13 @@ bool Autostart(Verbindungsziel& ziel) {
     VergissOptikteile();
     modGeraetestand::BeginneVerbindung();
     ziel.ZeigeAlleOffline();
+    const std::string ungesichert = SichereAenderungen(Sicherungsanlass::VorDemVerbinden);
     modDaten::LeereAbbild();
     const bool gelesen = LiesGeraet(ziel);
     if (ziel.Beendet())
         return false;
     const bool gelungen = gelesen && PruefeGelesenes();
+    MerkeAusgangslage();
     if (!gelesen) {
         modNachlese::Verwirf();
         ziel.FrageNachKonfiguration();
@@ -70,6 +73,7 @@ bool Autostart(Verbindungsziel& ziel) {
         ziel.LiveDatenLaufenAn();
     }
     ziel.ZeigeLichtleistenmenue();
+    MeldeUngesichertes(ungesichert);
     return gelungen && GetPollingAktiv() != False;
 }
 

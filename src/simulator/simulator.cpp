@@ -10,6 +10,7 @@ namespace {
 
 /// A wire quiet for so long ends a frame that is not whole. A master on a PC may pause within one.
 constexpr std::chrono::milliseconds Rahmenpause{20};
+constexpr std::uint8_t Schreibfunktion = 0x10;
 
 /// What a receiver makes of bytes in another speed or format.
 constexpr std::uint8_t Unlesbares = 0xF8;
@@ -51,12 +52,37 @@ void Simulator::ZaehleGebrochene() {
     protokoll.Zeile([] { return std::string("broken frame ignored"); });
 }
 
+/// A write may meet a restart, or registers that stay as they are.
+Bytes Simulator::Bearbeite(std::span<const std::uint8_t> anfrage, Zeit jetzt) {
+    if (anfrage[1] != Schreibfunktion || !geraet.WirdBeantwortet(anfrage))
+        return geraet.Bearbeite(anfrage, jetzt);
+    const int adresse = anfrage[2] * 256 + anfrage[3];
+    const int anzahl = anfrage[4] * 256 + anfrage[5];
+    if (!stoerungen.NimmSchreibend(Eingriff::Neustart, adresse, anzahl).empty()) {
+        geraet.Neustart();
+        protokoll.Zeile([] { return std::string("fault restart-at"); });
+    }
+    Registerspeicher& speicher = geraet.Speicher();
+    const int teil = speicher.Global(reg::Optikteilauswahl);
+    std::vector<std::pair<Ort, std::uint16_t>> bleibende;
+    for (const int vergessene : stoerungen.NimmSchreibend(Eingriff::Vergessen, adresse, anzahl))
+        if (const auto ort = FindeOrt(vergessene, 1))
+            bleibende.emplace_back(*ort, speicher.Block(*ort, teil, 1)[0]);
+    Bytes antwort = geraet.Bearbeite(anfrage, jetzt);
+    for (const auto& [ort, wert] : bleibende) {
+        speicher.Block(ort, teil, 1)[0] = wert;
+        protokoll.Zeile([&ort = ort, teil] { return "fault forget " + Name(ort, teil, 1); });
+    }
+    optik.Erneuere();
+    return antwort;
+}
+
 void Simulator::Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt) {
     const int funktion = anfrage[1];
     const auto stoerung = geraet.WirdBeantwortet(anfrage) ? stoerungen.Nimm(funktion) : std::nullopt;
     const bool abgelehnt = stoerung && stoerung->art->lehntAb;
     Bytes antwort = abgelehnt ? Bytes{static_cast<std::uint8_t>(geraet.Adresse()), anfrage[1]}
-                              : geraet.Bearbeite(anfrage, jetzt);
+                              : Bearbeite(anfrage, jetzt);
     StelleAutosend(jetzt);
     if (antwort.empty())
         return;

@@ -31,6 +31,7 @@ public:
 
 private:
     void NimmZeichen(std::uint8_t zeichen, Zeit jetzt);
+    Bytes Bearbeite(std::span<const std::uint8_t> anfrage, Zeit jetzt);
     void Beantworte(std::span<const std::uint8_t> anfrage, Zeit jetzt);
     void ZaehleGebrochene();
     void SendeDatenbloecke(Zeit jetzt);

@@ -65,7 +65,8 @@ constexpr Option AlleOptionen[] = {
      [](Optionen& o, std::string_view wert) { o.steuerkanal = wert; }},
     {"--fault", "NAME[=ARG[,MS]][:COUNT][@FUNCTION]",
      "silence, crc, address, exception=CODE, stray=BYTES, pieces=MS, surplus=BYTES, late=MS, flip=BIT, "
-     "repeat=MS, repeat-twice=MS, repeat-flip=BIT,MS, repeat-earlier=BACK,MS",
+     "repeat=MS, repeat-twice=MS, repeat-flip=BIT,MS, repeat-earlier=BACK,MS, forget=ADDRESS,PASS, "
+     "restart-at=ADDRESS,PASS",
      [](Optionen& o, std::string_view wert) { o.aufbau.stoerungen.push_back(LiesStoerung(wert)); }},
     {"--exit-with-parent", "", "end when the program that started this one ends",
      [](Optionen& o, std::string_view) { o.endetMitEltern = true; }},

@@ -98,6 +98,8 @@ void WiederholeFruehere(Sendung& sendung, const Umstaende& umstaende) {
 
 constexpr int LaengstePause = 60000;
 constexpr int HoechstesBit = 8 * 256 - 1;
+constexpr int HoechsteAdresse = 0xFFFF;
+constexpr int MeisteVorbei = 1000;
 constexpr Stoerungsart Arten[] = {
     {"silence", 0, 0, false, Schweige},
     {"crc", 0, 0, false, VerdirbCrc},
@@ -113,6 +115,8 @@ constexpr Stoerungsart Arten[] = {
     {"repeat-flip", 24, HoechstesBit, false, WiederholeGekippt, 50, LaengstePause},
     {"repeat-earlier", 1, static_cast<int>(Antwortverlauf::Laenge) - 1, false, WiederholeFruehere, 50,
      LaengstePause},
+    {"forget", 0, HoechsteAdresse, false, nullptr, 0, MeisteVorbei, Eingriff::Vergessen},
+    {"restart-at", 0, HoechsteAdresse, false, nullptr, 0, MeisteVorbei, Eingriff::Neustart},
 };
 
 const Stoerungsart& FindeArt(std::string_view name) {
@@ -163,6 +167,8 @@ Stoerung LiesStoerung(std::string_view text) {
         stoerung.nach = LiesZahl(*nach, "fault " + std::string(text), 0, art.groesstesNach);
     if (wert)
         stoerung.wert = LiesZahl(*wert, "fault " + std::string(text), 0, art.groesste);
+    else if (art.eingriff != Eingriff::Antwort)
+        throw std::invalid_argument("fault " + std::string(text) + ": the address is missing");
     if (anzahl)
         stoerung.anzahl = LiesZahl(*anzahl, "fault count", 1, std::numeric_limits<int>::max());
     if (funktion)
@@ -171,14 +177,37 @@ Stoerung LiesStoerung(std::string_view text) {
 }
 
 std::optional<Stoerung> Stoerungen::Nimm(int funktion) {
-    const auto passt = [funktion](const Stoerung& s) { return s.funktion.value_or(funktion) == funktion; };
+    const auto passt = [funktion](const Stoerung& s) {
+        return s.art->eingriff == Eingriff::Antwort && s.funktion.value_or(funktion) == funktion;
+    };
     const auto gefunden = std::ranges::find_if(liste, passt);
     if (gefunden == liste.end())
         return std::nullopt;
     const Stoerung stoerung = *gefunden;
-    if (gefunden->anzahl && --*gefunden->anzahl == 0)
-        liste.erase(gefunden);
+    ZaehleHerunter(gefunden);
     return stoerung;
+}
+
+std::vector<int> Stoerungen::NimmSchreibend(Eingriff eingriff, int adresse, int anzahl) {
+    std::vector<int> getroffene;
+    for (std::size_t i = liste.size(); i-- > 0;) {
+        const int stelle = liste[i].wert;
+        if (liste[i].art->eingriff != eingriff || stelle < adresse || stelle >= adresse + anzahl)
+            continue;
+        if (liste[i].nach > 0) {
+            --liste[i].nach;
+            continue;
+        }
+        getroffene.push_back(stelle);
+        ZaehleHerunter(liste.begin() + static_cast<std::ptrdiff_t>(i));
+    }
+    return getroffene;
+}
+
+/// A fault that has struck as often as it should goes.
+void Stoerungen::ZaehleHerunter(std::vector<Stoerung>::iterator stoerung) {
+    if (stoerung->anzahl && --*stoerung->anzahl == 0)
+        liste.erase(stoerung);
 }
 
 } // namespace varnoth::simulator

@@ -40,6 +40,14 @@ struct Umstaende {
     const Antwortverlauf& verlauf;  ///< its newest reply is the one that goes wrong
 };
 
+/// Where a fault strikes: at the reply, or at a write that touches the register its argument names, which is
+/// confirmed all the same.
+enum class Eingriff {
+    Antwort,
+    Vergessen, ///< the register keeps what it held
+    Neustart,  ///< the controller starts anew just before it takes the write
+};
+
 /// A way for a reply to go wrong.
 struct Stoerungsart {
     std::string_view name;
@@ -49,6 +57,7 @@ struct Stoerungsart {
     void (*verfaelsche)(Sendung& sendung, const Umstaende& umstaende);
     int vorgabeNach = 0;   ///< milliseconds when none are given
     int groesstesNach = 0; ///< 0 = it takes none
+    Eingriff eingriff = Eingriff::Antwort;
 };
 
 /// One fault on demand.
@@ -57,7 +66,7 @@ struct Stoerung {
     int wert;
     std::optional<int> anzahl{};   ///< for so many replies, without a number until it is taken back
     std::optional<int> funktion{}; ///< only for replies to this function
-    int nach = 0;                  ///< milliseconds
+    int nach = 0;                  ///< milliseconds; of a fault at a write: how many it still lets pass
 
     void Verfaelsche(Sendung& sendung, const Antwortverlauf& verlauf) const;
 };
@@ -65,7 +74,8 @@ struct Stoerung {
 /// Reads "NAME[=ARGUMENT[,MS]][:COUNT][@FUNCTION]", for example "late=1500:3@0x03". Names: silence, crc,
 /// address, exception=CODE, stray=BYTES, pieces=MS, surplus=BYTES, late=MS, flip=BIT, and what sends a reply
 /// again behind itself: repeat=MS, repeat-twice=MS, repeat-flip=BIT,MS (with one bit changed),
-/// repeat-earlier=BACK,MS (the one sent so many replies earlier).
+/// repeat-earlier=BACK,MS (the one sent so many replies earlier). At a write that touches a device address:
+/// forget=ADDRESS,PASS, restart-at=ADDRESS,PASS, the first PASS such writes going undisturbed.
 /// @throws std::invalid_argument with a sentence for the user
 Stoerung LiesStoerung(std::string_view text);
 
@@ -76,8 +86,13 @@ public:
     void Loesche() { liste.clear(); }
     /// The fault for the next reply to a function, counted down.
     std::optional<Stoerung> Nimm(int funktion);
+    /// The registers of a write of so many from a device address on at which such a fault strikes, each
+    /// counted down.
+    std::vector<int> NimmSchreibend(Eingriff eingriff, int adresse, int anzahl);
 
 private:
+    void ZaehleHerunter(std::vector<Stoerung>::iterator stoerung);
+
     std::vector<Stoerung> liste;
 };
 

@@ -6,8 +6,9 @@
 
 namespace varnoth {
 
-frmKonfigurationLesenAusHardware::frmKonfigurationLesenAusHardware(QWidget* parent)
-    : Ablaufdialog(Beginn::BeimZeigen, parent), ui(std::make_unique<Ui::frmKonfigurationLesenAusHardware>()) {
+frmKonfigurationLesenAusHardware::frmKonfigurationLesenAusHardware(QWidget* parent, Geraeteabzug* wohin)
+    : Ablaufdialog(Beginn::BeimZeigen, parent), ui(std::make_unique<Ui::frmKonfigurationLesenAusHardware>()),
+      abzug(wohin) {
     ui->setupUi(this);
     connect(ui->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     Lade(*ui->cmdCancel);
@@ -18,7 +19,7 @@ frmKonfigurationLesenAusHardware::~frmKonfigurationLesenAusHardware() = default;
 bool frmKonfigurationLesenAusHardware::Ablauf() {
     Transferansicht ansicht(*this, {ui->txtSpeicherbereich, ui->txtAktuellesRegister, ui->txtRegisteranzahl,
                                     ui->txtLeseversuch, ui->pbFortschritt});
-    if (!LiesKonfiguration(ansicht))
+    if (!(abzug != nullptr ? LiesGeraeteabzug(ansicht, *abzug) : LiesKonfiguration(ansicht)))
         return false;
     ui->cmdOK->setEnabled(true);
     ui->cmdCancel->setEnabled(false);

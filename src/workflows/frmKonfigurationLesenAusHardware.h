@@ -10,16 +10,20 @@ namespace Ui {
 class frmKonfigurationLesenAusHardware;
 }
 
-/// Reads the whole configuration of the controller into the register image.
+struct Geraeteabzug;
+
+/// Reads the whole configuration of the controller into the register image, or into one aside.
 class frmKonfigurationLesenAusHardware : public Ablaufdialog {
 public:
-    explicit frmKonfigurationLesenAusHardware(QWidget* parent = nullptr);
+    /// @param abzug takes what is read instead of the image in use; it must outlive the dialog
+    explicit frmKonfigurationLesenAusHardware(QWidget* parent = nullptr, Geraeteabzug* abzug = nullptr);
     ~frmKonfigurationLesenAusHardware() override;
 
 private:
     bool Ablauf() override;
 
     std::unique_ptr<Ui::frmKonfigurationLesenAusHardware> ui;
+    Geraeteabzug* abzug;
 };
 
 } // namespace varnoth

@@ -1,9 +1,9 @@
 #include "konfigurationstransfer.h"
 
 #include "registeradressen.h"
+#include "registertext.h"
 #include "texte.h"
 #include "transaktionen.h"
-#include "zahlen.h"
 
 #include <memory>
 
@@ -17,12 +17,6 @@ constexpr std::int16_t TextKanal = 7115;
 constexpr int Kanal = 0;
 
 } // namespace
-
-std::string Registertext(Speicherbereich bereich, std::int16_t adresse) {
-    if (bereich == Speicherbereich::GlobaleGeraetedaten)
-        return std::to_string(adresse);
-    return AlsHex(Bereichsanfang(bereich)) + "H + " + std::to_string(adresse);
-}
 
 bool Konfigurationstransfer::UebertrageAlles() {
     HaengeBereichAn(Speicherbereich::GlobaleGeraetedaten, Transferschritt::Ohne);
@@ -69,6 +63,8 @@ void Konfigurationstransfer::HaengeBereichAn(Speicherbereich bereich, std::size_
         LadeText(static_cast<std::int16_t>(ErsterBereichstext() + static_cast<int>(bereich)));
     for (const Parameter& einer : ParameterMit(bereich, auswahl)) {
         const Transferparameter parameter{bereich, einer.adresse, einer.beschreibung.Laenge, optikteil};
+        if (!Betrifft(parameter))
+            continue;
         const auto werte = std::make_shared<Werte>(static_cast<std::size_t>(parameter.anzahl));
         HaengeAn(text, Registertext(bereich, parameter.adresse), parameter.anzahl,
                  [this, parameter, werte] { return Tausche(parameter, *werte); });

@@ -34,9 +34,6 @@ struct Transferparameter {
     std::int16_t optikteil = 0;
 };
 
-/// How a register is shown: "12", "2000H + 12" or "4000H + 12".
-std::string Registertext(Speicherbereich bereich, std::int16_t adresse);
-
 /// The walk through all parameters that reading and writing a configuration have in common: the global range,
 /// the specific range of all four optical parts, connected or not, and the communication range of channel 0.
 /// Which parameters take part and what happens to them is the business of the class that reads or writes.
@@ -66,6 +63,8 @@ protected:
 private:
     /// The string id of the global range's name; the names of the other two ranges follow it.
     virtual std::int16_t ErsterBereichstext() const = 0;
+    /// Whether this one of the parameters that take part is transferred.
+    virtual bool Betrifft(const Transferparameter& /*parameter*/) const { return true; }
     /// One attempt at a parameter, whose values are in `werte` before or behind it.
     virtual Boolean Tausche(const Transferparameter& parameter, Werte& werte) = 0;
     /// The parameter's transfer counts.

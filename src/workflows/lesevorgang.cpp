@@ -4,6 +4,7 @@
 #include "nachlese.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
+#include "registertext.h"
 #include "seriennummer.h"
 #include "texte.h"
 

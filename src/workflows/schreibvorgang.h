@@ -1,6 +1,8 @@
 #pragma once
 
+#include "abbild.h"
 #include "konfigurationstransfer.h"
+#include "parameterstelle.h"
 
 namespace varnoth {
 
@@ -10,13 +12,28 @@ enum class Ablage {
     Dauerhaft, ///< the controller is also told to store it
 };
 
-/// Writes every writable parameter of the register image to the controller, each retried without limit. The
-/// image and its changed mark stay as they are. What a complete write has told the controller is remembered
-/// (`modGeraetestand`). False when the user cancelled; the controller then keeps what
-/// was written till then.
+/// What is to be written: these parameters of this image.
+struct Schreibauftrag {
+    Abbild abbild;
+    Parametermenge stellen = AlleStellen(IstSchreibbar);
+};
+
+/// What has become of a write.
+struct Schreibspur {
+    Parametermenge geschrieben{}; ///< the controller has confirmed them
+    Parametermenge ungewiss{};    ///< sent, and not confirmed till the end
+};
+
+/// Writes parameters to the controller, each retried without limit. The image in use and its changed mark
+/// stay as they are. What the controller has confirmed is remembered (`modGeraetestand`). False when the user
+/// cancelled; the controller then keeps what was written till then, which the track tells.
+bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage, const Schreibauftrag& auftrag,
+                           Schreibspur& spur);
+
+/// The same with every writable parameter of the image in use.
 bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage);
 
-/// How many registers such a transfer writes, those of all optical parts together.
-int AnzahlSchreibbarerRegister();
+/// How many registers these parameters have together.
+int AnzahlRegister(const Parametermenge& stellen);
 
 } // namespace varnoth

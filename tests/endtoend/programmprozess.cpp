@@ -32,6 +32,7 @@ Programmprozess::Programmprozess(const QString& ordner, const QStringList& schal
     auto umwelt = QProcessEnvironment::systemEnvironment();
     umwelt.insert("QT_QPA_PLATFORM", "offscreen");
     umwelt.insert("TMPDIR", ordner);
+    umwelt.insert("XDG_DATA_HOME", QDir(ordner).filePath("daten"));
     umwelt.remove("XDG_RUNTIME_DIR");
     prozess.setProcessEnvironment(umwelt);
     prozess.setWorkingDirectory(ordner);

@@ -52,6 +52,7 @@ void ProgrammTest::Starte(const QStringList& worte) {
                                                             .programmordner = ordner.path(),
                                                             .programmname = "varnoth",
                                                             .sperrordner = ordner.path(),
+                                                            .datenordner = Pfad("daten"),
                                                             .splashSekunden = 0});
     ASSERT_TRUE(programm->Starte());
 }

@@ -42,6 +42,7 @@ Startbedingungen Bedingungen(const QTemporaryDir& ordner, const QString& geraet,
             .programmordner = ordner.path(),
             .programmname = "varnoth",
             .sperrordner = ordner.path(),
+            .datenordner = ordner.filePath(QStringLiteral("daten")),
             .splashSekunden = 0};
 }
 

@@ -181,6 +181,67 @@ TEST(Stoerung, Holds_from_the_start_when_the_bench_says_so) {
     EXPECT_FALSE(probe.Frage(Kennungsanfrage()).empty());
 }
 
+TEST(Stoerung, A_forgotten_register_keeps_its_value_though_the_write_is_confirmed) {
+    Probe probe;
+    probe.Befehl("fault forget=0x200E");
+    for (const int teil : {0, 1}) {
+        probe.Waehle(teil);
+        const int vorher = probe.Lies(0x200E, 1).at(0);
+        EXPECT_TRUE(probe.Schreibe(0x200D, {20}));
+        EXPECT_TRUE(probe.Schreibe(0x200E, {vorher + 1}));
+        EXPECT_EQ(probe.Lies(0x200D, 2), (std::vector{20, vorher}));
+    }
+}
+
+TEST(Stoerung, Of_a_block_only_the_forgotten_register_keeps_its_value) {
+    Probe probe;
+    probe.Befehl("fault forget=0x404C");
+    const int vorher = probe.Lies(0x404C, 1).at(0);
+    EXPECT_TRUE(probe.Schreibe(0x404B, {1, 2, 3}));
+    EXPECT_EQ(probe.Lies(0x404B, 3), (std::vector{1, vorher, 3}));
+}
+
+TEST(Stoerung, A_register_is_forgotten_so_many_times_and_reads_do_not_count) {
+    Probe probe;
+    probe.Befehl("fault forget=0x4008:1");
+    probe.Lies(0x4008, 1);
+    probe.Schreibe(0x4008, {77});
+    EXPECT_NE(probe.Lies(0x4008, 1), std::vector{77});
+    probe.Schreibe(0x4008, {77});
+    EXPECT_EQ(probe.Lies(0x4008, 1), std::vector{77});
+}
+
+TEST(Stoerung, A_restart_at_a_write_loses_what_is_not_stored_and_the_part_that_was_selected) {
+    Probe probe;
+    probe.Schreibe(0x4008, {77});
+    probe.Waehle(2);
+    probe.Befehl("fault restart-at=0x200E:1");
+    EXPECT_TRUE(probe.Schreibe(0x200E, {5}));
+    EXPECT_EQ(probe.Befehl("get specific 0 14"), "ok 5");
+    EXPECT_NE(probe.Befehl("get specific 2 14"), "ok 5");
+    EXPECT_NE(probe.Lies(0x4008, 1), std::vector{77});
+}
+
+TEST(Stoerung, At_a_write_lets_as_many_pass_as_it_says) {
+    Probe probe;
+    probe.Befehl("fault forget=0x4008,2:1");
+    for (const int wert : {71, 72, 73, 74})
+        probe.Schreibe(0x4008, {wert});
+    EXPECT_EQ(probe.Lies(0x4008, 1), std::vector{74});
+    probe.Befehl("fault forget=0x4008,1:1");
+    probe.Schreibe(0x4008, {75});
+    probe.Schreibe(0x4008, {76});
+    EXPECT_EQ(probe.Lies(0x4008, 1), std::vector{75});
+}
+
+TEST(Stoerung, At_a_write_leaves_replies_alone_and_stands_beside_one_that_does_not) {
+    Probe probe;
+    probe.Befehl("fault forget=0x4008");
+    EXPECT_EQ(probe.Frage(Leseanfrage(0, 1)), Richtig);
+    probe.Befehl("fault silence:1");
+    EXPECT_TRUE(probe.Frage(Leseanfrage(0, 1)).empty());
+}
+
 TEST(Stoerung, Is_noted_in_the_log) {
     Probe probe;
     probe.Befehl("fault crc:1");
@@ -189,9 +250,9 @@ TEST(Stoerung, Is_noted_in_the_log) {
 }
 
 TEST(Stoerung, Written_wrongly_is_refused) {
-    for (const char* text :
-         {"", "bogus", "late=x", "late=-1", "late=60001", "crc:0", "crc@0", "crc=1", "crc:", "late=1500:3@x",
-          "repeat=60001", "repeat=1,2", "repeat-earlier=32", "repeat-flip=1,60001", "repeat-flip=1,"})
+    for (const char* text : {"", "bogus", "late=x", "late=-1", "late=60001", "crc:0", "crc@0", "crc=1",
+                             "crc:", "late=1500:3@x", "repeat=60001", "repeat=1,2", "repeat-earlier=32",
+                             "repeat-flip=1,60001", "repeat-flip=1,", "forget", "restart-at", "forget=65536"})
         EXPECT_THROW(LiesStoerung(text), std::invalid_argument) << text;
 }
 

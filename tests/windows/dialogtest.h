@@ -78,6 +78,7 @@ protected:
     }
 
     PruefUmgebung umgebung;
+    PruefEinstellungen einstellungen;
     PruefPort port{umgebung};
     PruefGeraet geraet{port};
 };

@@ -56,6 +56,7 @@ protected:
                 .programmordner = ordner.path(),
                 .programmname = QStringLiteral("varnoth"),
                 .sperrordner = ordner.path(),
+                .datenordner = ordner.filePath(QStringLiteral("daten")),
                 .splashSekunden = 0};
     }
     Anwendung& Mit(const QStringList& worte) {

@@ -40,6 +40,8 @@ struct PruefWirkung : Befehlswirkung {
     void OeffneLetzteDatei(int platz) override { getan = "last file " + std::to_string(platz); }
     void VerbindeSimuliert() override { getan = "simulated"; }
     void ZeigeBericht() override { getan = "report"; }
+    void ZeigeVergleich() override { getan = "comparison"; }
+    void LiesGeraetZumVergleich() override { getan = "read to compare"; }
 
     std::string getan;
 };
@@ -87,7 +89,9 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
         EXPECT_EQ(GetanVon(++code), arbeit) << "code " << code;
     EXPECT_EQ(GetanVon(101), "last file 2");
     EXPECT_EQ(GetanVon(102), "simulated");
-    EXPECT_EQ(GetanVon(110), "report");
+    EXPECT_EQ(GetanVon(110), "comparison");
+    EXPECT_EQ(GetanVon(111), "read to compare");
+    EXPECT_EQ(GetanVon(112), "report");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -100,6 +104,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::VisualisierenStop, "Shift+F5"},
         {Befehl::KonfigurationAnzeigen, "Ctrl+K"},
         {Befehl::ResetHardware, ""},
+        {Befehl::Vergleich, "Ctrl+D"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);

@@ -549,7 +549,6 @@ TEST_F(KonfigurationEditTest, Ctrl_Tab_walks_round_the_pages_in_both_directions)
 }
 
 TEST_F(KonfigurationEditTest, The_sub_editors_open_for_their_part_and_over_the_editor) {
-    const pruefung::PruefEinstellungen einstellungen;
     Oeffne();
     EXPECT_EQ(UntereditorNach("cmdBlankingmuster_2"), "frmBlankingmuster K3");
     EXPECT_EQ(UntereditorNach("cmdBlankingmuster_0"), "frmBlankingmuster K1");

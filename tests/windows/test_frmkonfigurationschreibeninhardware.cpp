@@ -228,8 +228,8 @@ TEST_F(frmKonfigurationSchreibenInHardwareTest, No_text_is_cut_off_in_either_lan
 }
 
 TEST_F(frmKonfigurationSchreibenInHardwareTest,
-       Tab_leads_to_storing_Start_and_cancel_and_to_no_field_that_only_shows) {
-    EXPECT_EQ(Tabfolge(dialog), "chkSpeichern cmdStart cmdCancel");
+       Tab_leads_to_storing_checking_changes_Start_and_cancel_and_to_no_field_that_only_shows) {
+    EXPECT_EQ(Tabfolge(dialog), "chkSpeichern chkPruefen cmdAenderungen cmdStart cmdCancel");
 }
 
 TEST_F(frmKonfigurationSchreibenInHardwareTest,

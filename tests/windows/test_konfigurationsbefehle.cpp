@@ -5,6 +5,7 @@
 #include "konfigurationsdatei.h"
 #include "letztedateien.h"
 #include "plausibilitaet.h"
+#include "pruefsicherungen.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -77,6 +78,52 @@ protected:
 class Speichern : public Konfigurationsbefehle {};
 class Oeffnen : public Konfigurationsbefehle {};
 class Beendenfrage : public Konfigurationsbefehle {};
+
+class Sicherungsfaelle : public Konfigurationsbefehle {
+protected:
+    static void Aendere() { modDaten::SetzeSpezifischeDaten(spezifisch::Reichweite, 1, 0, {4}); }
+
+    pruefung::PruefSicherungen sicherungen;
+};
+
+TEST_F(Sicherungsfaelle, Opening_a_file_puts_unsaved_changes_aside_first_without_a_word) {
+    const std::string pfad = Gespeichert("a.con");
+    Aendere();
+    const Abbild geaendertes = modDaten::DasAbbild();
+    EXPECT_TRUE(LadeDatei(pfad));
+    ASSERT_EQ(sicherungen.gelegte.size(), 1U);
+    EXPECT_EQ(sicherungen.gelegte[0].second, geaendertes);
+    EXPECT_EQ(sicherungen.gelegte[0].first.angaben.anlass, Sicherungsanlass::VorDemOeffnen);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Sicherungsfaelle, What_was_only_opened_or_saved_is_not_put_aside) {
+    const std::string pfad = Gespeichert("a.con");
+    LadeDatei(pfad);
+    LadeDatei(pfad);
+    Aendere();
+    gewaehlt = {Pfad("b.con")};
+    EXPECT_TRUE(KonfigurationSpeichernUnter());
+    modDaten::SetzeGeaendert();
+    LadeDatei(pfad);
+    EXPECT_TRUE(sicherungen.gelegte.empty());
+}
+
+TEST_F(Sicherungsfaelle, A_file_that_cannot_be_read_replaces_nothing_and_puts_nothing_aside) {
+    Aendere();
+    EXPECT_FALSE(LadeDatei(Pfad("missing.con")));
+    EXPECT_TRUE(sicherungen.gelegte.empty());
+}
+
+TEST_F(Sicherungsfaelle, A_backup_that_fails_does_not_keep_a_file_from_being_opened) {
+    const std::string pfad = Gespeichert("a.con");
+    Aendere();
+    sicherungen.fehler = "the disk is full";
+    EXPECT_TRUE(LadeDatei(pfad));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1],
+              "Die Änderungen konnten nicht gesichert werden: the disk is full");
+}
 
 TEST_F(Speichern, The_dialog_bears_title_and_filters_and_starts_in_the_programs_folder) {
     KonfigurationSpeichernUnter();

@@ -18,6 +18,10 @@ struct PruefBefehlsziel : Befehlsziel {
         if (waehrendStop)
             waehrendStop();
     }
+    void SetzeLiveDatenFort() override {
+        live = true;
+        ablauf.push_back("on");
+    }
     void FuehreAus(Befehl befehl, int index) override {
         ablauf.push_back(std::to_string(static_cast<int>(befehl)) + "/" + std::to_string(index));
         if (waehrend)
@@ -103,6 +107,32 @@ TEST_F(MenuebefehleTest, After_single_values_with_live_data_running_live_data_st
     speicher.FuehreAus(ziel);
     speicher.FuehreAus(ziel);
     EXPECT_EQ(ziel.ablauf, (Ablauf{"stop", "5/0", "1/0"}));
+}
+
+TEST_F(MenuebefehleTest, After_the_controller_was_read_for_a_comparison_live_data_goes_on_where_it_was) {
+    ziel.live = true;
+    speicher.Klick(Befehl::GeraetVergleichen);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"stop", "111/0", "on"}));
+    EXPECT_FALSE(speicher.Wartet());
+}
+
+TEST_F(MenuebefehleTest, Live_data_that_has_rested_goes_on_before_the_next_command_runs) {
+    ziel.live = true;
+    ziel.waehrend = [this] {
+        ziel.waehrend = nullptr;
+        speicher.Klick(Befehl::Info);
+    };
+    speicher.Klick(Befehl::GeraetVergleichen);
+    speicher.FuehreAus(ziel);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"stop", "111/0", "on", "stop", "20/0"}));
+}
+
+TEST_F(MenuebefehleTest, Live_data_that_did_not_run_does_not_start_after_a_comparison) {
+    speicher.Klick(Befehl::GeraetVergleichen);
+    speicher.FuehreAus(ziel);
+    EXPECT_EQ(ziel.ablauf, (Ablauf{"111/0"}));
 }
 
 TEST_F(MenuebefehleTest, After_a_reset_of_the_hardware_live_data_stays_stopped) {

@@ -4,6 +4,7 @@
 #include "geraetestand.h"
 #include "polling.h"
 #include "pruefgeraet.h"
+#include "pruefsicherungen.h"
 #include "rahmen.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -94,6 +95,44 @@ TEST_F(VerbindungTest, Autosend_that_this_run_has_started_is_ended_before_connec
     EXPECT_EQ(port.gesendet, std::vector{SchreibAnforderung(1, 0x4084, 1, {4})});
     Autostart(ziel);
     EXPECT_EQ(port.gesendet.size(), 1U);
+}
+
+class SicherungBeimVerbinden : public VerbindungTest {
+protected:
+    SicherungBeimVerbinden() { Autostart(ziel); }
+
+    pruefung::PruefSicherungen sicherungen;
+};
+
+TEST_F(SicherungBeimVerbinden, Changes_are_put_aside_before_the_image_is_cleared) {
+    modDaten::SetzeSpezifischeDaten(spezifisch::Reichweite, 1, 0, {4});
+    const Abbild geaendertes = modDaten::DasAbbild();
+    Autostart(ziel);
+    ASSERT_EQ(sicherungen.gelegte.size(), 1U);
+    EXPECT_EQ(sicherungen.gelegte[0].second, geaendertes);
+    EXPECT_EQ(sicherungen.gelegte[0].first.angaben.anlass, Sicherungsanlass::VorDemVerbinden);
+}
+
+TEST_F(SicherungBeimVerbinden, What_was_only_read_is_not_put_aside) {
+    EXPECT_EQ(modDaten::IstGeaendert(), True) << "a read counts as a change";
+    Autostart(ziel);
+    EXPECT_TRUE(sicherungen.gelegte.empty());
+}
+
+TEST_F(SicherungBeimVerbinden, What_a_cancelled_connection_left_is_not_put_aside) {
+    ziel.infoGelingt = false;
+    Autostart(ziel);
+    Autostart(ziel);
+    EXPECT_TRUE(sicherungen.gelegte.empty());
+}
+
+TEST_F(SicherungBeimVerbinden, A_backup_that_fails_is_told_at_the_end_and_stops_nothing) {
+    modDaten::SetzeSpezifischeDaten(spezifisch::Reichweite, 1, 0, {4});
+    sicherungen.fehler = "no room";
+    EXPECT_TRUE(Autostart(ziel));
+    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1],
+              "Die Änderungen konnten nicht gesichert werden: no room");
+    EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 TEST_F(VerbindungTest, The_image_is_cleared_before_anything_is_read) {

@@ -290,11 +290,55 @@ TEST_F(SchreibvorgangTest, What_a_complete_write_has_told_the_controller_is_reme
     EXPECT_FALSE(stand->IstVollstaendig()) << "nothing was read";
 }
 
-TEST_F(SchreibvorgangTest, A_write_that_is_cancelled_is_not_remembered) {
+TEST_F(SchreibvorgangTest, Of_a_write_that_is_cancelled_what_was_confirmed_is_remembered) {
+    constexpr Parameterstelle Letzter{Speicherbereich::Kommunikationsdaten, kommunikation::Autosendformat, 0};
+    geraet.schweige = [](const std::string& anforderung) { return pruefung::Wort(anforderung, 2) == 0x407E; };
     Mitschrift mitschrift;
     mitschrift.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "4000H + 126"; };
     EXPECT_FALSE(SchreibeKonfiguration(mitschrift, Ablage::Fluechtig));
+    const auto stand = modGeraetestand::HoleGeraetestand();
+    ASSERT_TRUE(stand);
+    for (const Parameterstelle& stelle : AlleStellen(IstSchreibbar))
+        EXPECT_EQ(stand->unbekannt.contains(stelle), stelle == Letzter);
+}
+
+TEST_F(SchreibvorgangTest, A_write_of_which_nothing_was_confirmed_is_not_remembered) {
+    SchweigeImmer();
+    Mitschrift mitschrift;
+    mitschrift.abbruchBei = [](const Schritt&) { return true; };
+    EXPECT_FALSE(SchreibeKonfiguration(mitschrift, Ablage::Fluechtig));
     EXPECT_FALSE(modGeraetestand::HoleGeraetestand());
+}
+
+TEST_F(SchreibvorgangTest, The_track_tells_what_was_confirmed_and_what_only_sent) {
+    constexpr Parameterstelle Global{Speicherbereich::GlobaleGeraetedaten, global::PnpAusgang, 0};
+    constexpr Parameterstelle Erster{Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 0};
+    geraet.schweige = [](const std::string& anforderung) { return pruefung::Wort(anforderung, 2) == 0x200D; };
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.versuch == 3; };
+    Schreibspur spur;
+    EXPECT_FALSE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig, {.abbild = modDaten::DasAbbild()}, spur));
+    EXPECT_EQ(spur.geschrieben, Parametermenge{Global});
+    EXPECT_EQ(spur.ungewiss, Parametermenge{Erster});
+}
+
+TEST_F(SchreibvorgangTest, A_write_that_reached_the_controller_while_the_user_cancelled_is_certain) {
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "193"; };
+    Schreibspur spur;
+    EXPECT_FALSE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig, {.abbild = modDaten::DasAbbild()}, spur));
+    EXPECT_EQ(spur.geschrieben.size(), 1U);
+    EXPECT_TRUE(spur.ungewiss.empty());
+}
+
+TEST_F(SchreibvorgangTest, Only_the_parameters_asked_for_are_written_from_the_image_given) {
+    constexpr Parameterstelle Pause{Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit, 0};
+    Schreibauftrag auftrag{.abbild = {}, .stellen = {Pause}};
+    EXPECT_TRUE(auftrag.abbild.SetzeRegister(Pause.bereich, Pause.adresse, 77));
+    Schreibspur spur;
+    EXPECT_TRUE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig, auftrag, spur));
+    EXPECT_EQ(spur.geschrieben, auftrag.stellen);
+    EXPECT_EQ(geraet.Register(0x4008), 77);
+    EXPECT_EQ(geraet.geschrieben.size(), 6U) << "the selections and one register";
+    EXPECT_EQ(anzeige.fortschritt.back(), std::make_pair(43, 43));
 }
 
 } // namespace varnoth

@@ -1,0 +1,66 @@
+#include "seitenjetzt.h"
+
+#include "geraetestand.h"
+#include "registerabbild.h"
+#include "texte.h"
+#include "textmitwerten.h"
+
+#include <ctime>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextStand = 9576;
+constexpr std::int16_t TextOhneNummer = 9577;
+constexpr std::int16_t TextAelter = 9578;
+constexpr std::int16_t TextUngespeichert = 9579;
+
+Vergleichsseite InBearbeitung() {
+    std::string einzelheit = modDaten::GetDateiname();
+    if (modDaten::IstGeaendert() != False)
+        einzelheit += (einzelheit.empty() ? "" : ", ") + LadeText(TextUngespeichert);
+    return {Vergleichsquelle::InBearbeitung, einzelheit, modDaten::DasAbbild(), {}};
+}
+
+Vergleichsseite ZuletztGelesen() {
+    const auto stand = modGeraetestand::HoleGeraetestand();
+    if (!stand)
+        return {Vergleichsquelle::ZuletztGelesen, {}, {}, AlleStellen(IstLesbar)};
+    std::string einzelheit = Lesezeile(stand->zeit, stand->seriennummer);
+    if (!stand->ausDieserVerbindung)
+        einzelheit += ", " + LadeText(TextAelter);
+    return {Vergleichsquelle::ZuletztGelesen, einzelheit, stand->abbild, stand->unbekannt};
+}
+
+} // namespace
+
+bool IstBekannt(Vergleichsquelle quelle) {
+    if (quelle == Vergleichsquelle::ZuletztGelesen)
+        return modGeraetestand::HoleGeraetestand().has_value();
+    return !FragtNach(quelle);
+}
+
+Vergleichsseite SeiteJetzt(Vergleichsquelle quelle) {
+    if (quelle == Vergleichsquelle::InBearbeitung)
+        return InBearbeitung();
+    if (quelle == Vergleichsquelle::ZuletztGelesen)
+        return ZuletztGelesen();
+    return {quelle, {}, {}, {}};
+}
+
+std::string Zeitpunkt(std::chrono::system_clock::time_point zeit) {
+    const std::time_t sekunden = std::chrono::system_clock::to_time_t(zeit);
+    std::tm ortszeit{};
+    localtime_r(&sekunden, &ortszeit);
+    char text[32];
+    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &ortszeit)};
+}
+
+std::string Lesezeile(std::chrono::system_clock::time_point zeit, const std::string& seriennummer) {
+    if (seriennummer.empty())
+        return LadeTextMit(TextOhneNummer, {Zeitpunkt(zeit)});
+    return LadeTextMit(TextStand, {Zeitpunkt(zeit), seriennummer});
+}
+
+} // namespace varnoth

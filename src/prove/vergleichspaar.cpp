@@ -1,0 +1,94 @@
+#include "vergleichspaar.h"
+
+#include "klartext.h"
+#include "standardkonfiguration.h"
+#include "texte.h"
+#include "textmitwerten.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextTitel = 9560;
+constexpr std::int16_t TextLinks = 9588;
+constexpr std::int16_t TextRechts = 9589;
+constexpr std::int16_t TextNichtUebernommen = 9591;
+
+std::string Kopfzeile(std::int16_t beschriftung, const Vergleichsseite& seite) {
+    const std::string einzelheit = seite.einzelheit.empty() ? "" : ", " + seite.einzelheit;
+    return LadeText(beschriftung) + ": " + Quellenname(seite.quelle) + einzelheit + "\n";
+}
+
+} // namespace
+
+Vergleichspaar::Vergleichspaar() {
+    Vergleiche();
+}
+
+void Vergleichspaar::Setze(Seitenwahl wahl, Vergleichsseite seite) {
+    DieSeite(wahl) = std::move(seite);
+    Vergleiche();
+}
+
+const Vergleichsseite& Vergleichspaar::Seite(Seitenwahl wahl) const {
+    return seiten.at(static_cast<std::size_t>(wahl));
+}
+
+void Vergleichspaar::Vergleiche() {
+    for (const Seitenwahl wahl : BeideSeiten)
+        if (Seite(wahl).quelle == Vergleichsquelle::Werksvorgabe)
+            DieSeite(wahl).abbild = StandardkonfigurationWie(Seite(Gegenueber(wahl)).abbild);
+    const Vergleichsseite& a = Seite(Seitenwahl::A);
+    const Vergleichsseite& b = Seite(Seitenwahl::B);
+    ergebnis = varnoth::Vergleiche(a.abbild, b.abbild, {a.ungelesen, b.ungelesen});
+}
+
+std::vector<Vergleichsworte> Vergleichspaar::Zeilen() const {
+    const Vergleichsseite& a = Seite(Seitenwahl::A);
+    const Vergleichsseite& b = Seite(Seitenwahl::B);
+    return InWorten(ergebnis, {a.abbild, a.ungelesen}, {b.abbild, b.ungelesen});
+}
+
+std::string Vergleichspaar::Titel() const {
+    return LadeTextMit(TextTitel, {Seitenname(Seite(Seitenwahl::A)), Seitenname(Seite(Seitenwahl::B))});
+}
+
+std::string Vergleichspaar::Text(const std::vector<Vergleichsworte>& zeilen) const {
+    return Titel() + "\n\n" + Kopfzeile(TextLinks, Seite(Seitenwahl::A)) +
+           Kopfzeile(TextRechts, Seite(Seitenwahl::B)) + "\n" + Vergleichsbefund(ergebnis) + "\n" +
+           Klassenanzahlen(ergebnis) + "\n\n" + AlsText(zeilen, LadeText(TextLinks), LadeText(TextRechts));
+}
+
+std::optional<Seitenwahl> Vergleichspaar::Geberseite() const {
+    const auto wirdBearbeitet = [this](Seitenwahl wahl) {
+        return Seite(wahl).quelle == Vergleichsquelle::InBearbeitung;
+    };
+    if (wirdBearbeitet(Seitenwahl::A) == wirdBearbeitet(Seitenwahl::B))
+        return std::nullopt;
+    return wirdBearbeitet(Seitenwahl::A) ? Seitenwahl::B : Seitenwahl::A;
+}
+
+bool Vergleichspaar::IstUebernehmbar(const Parameterstelle& stelle) const {
+    const auto zeile = std::ranges::find(ergebnis.zeilen, stelle, &Vergleichszeile::stelle);
+    return Geberseite() && zeile != ergebnis.zeilen.end() && varnoth::IstUebernehmbar(*zeile);
+}
+
+Uebernahme Vergleichspaar::Uebernimm(const Abbild& inBearbeitung, const Parametermenge& stellen) const {
+    return varnoth::Uebernimm(inBearbeitung, Seite(Geberseite().value()).abbild, stellen);
+}
+
+std::string Ablehnung(const Uebernahme& uebernahme) {
+    std::string werte;
+    for (const Parameterstelle& stelle : uebernahme.unplausible) {
+        const auto& [bereich, adresse, teil] = stelle;
+        werte += "\n" + Stellenname(stelle) + ": " +
+                 Klartext(bereich, adresse, uebernahme.abbild.HoleParameter(bereich, adresse, teil),
+                          LesartFuer(uebernahme.abbild, bereich, teil));
+    }
+    return LadeText(TextNichtUebernommen) + werte;
+}
+
+} // namespace varnoth

@@ -1,0 +1,174 @@
+#include "registerbefund.h"
+
+#include "klartext.h"
+#include "texte.h"
+#include "textmitwerten.h"
+#include "vergleich.h"
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextUnbekannt = 5103;
+constexpr std::int16_t TextPruefsatz = 9766;
+constexpr std::int16_t TextAenderungstitel = 9767;
+constexpr std::int16_t TextAenderungen = 9768;
+constexpr std::int16_t TextKeineAenderung = 9769;
+constexpr std::int16_t TextStandUnbekannt = 9770;
+constexpr std::int16_t TextTeilweiseUnbekannt = 9771;
+constexpr std::int16_t TextAelter = 9772;
+constexpr std::int16_t TextImGeraet = 9775;
+constexpr std::int16_t TextNachher = 9776;
+constexpr std::int16_t TextGlobal = 9778;
+constexpr std::int16_t TextOptikteil = 9779;
+constexpr std::int16_t TextKommunikation = 9780;
+constexpr std::int16_t TextNichtGespeichert = 9781;
+constexpr std::int16_t TextPrueftitel = 9782;
+constexpr std::int16_t TextAbweichend = 9783;
+constexpr std::int16_t TextNichtVergleichbar = 9784;
+constexpr std::int16_t TextGeschriebenerWert = 9785;
+constexpr std::int16_t TextGelesenerWert = 9786;
+constexpr std::int16_t TextNichtVerglichen = 9787;
+constexpr std::int16_t TextNochEinmal = 9788;
+constexpr std::int16_t TextAbbruchtitel = 9789;
+constexpr std::int16_t TextAbbruch = 9790;
+constexpr std::int16_t TextZustand = 9791;
+constexpr std::int16_t TextGeschrieben = 9792;
+constexpr std::int16_t TextNichtGeschrieben = 9793;
+constexpr std::int16_t TextUngewiss = 9794;
+constexpr std::int16_t TextZurueckschreiben = 9795;
+constexpr std::int16_t TextWert = 9800;
+
+std::string Bereichsname(const Parameterstelle& stelle) {
+    switch (stelle.bereich) {
+    case Speicherbereich::GlobaleGeraetedaten:
+        return LadeText(TextGlobal);
+    case Speicherbereich::SpezifischeGeraetedaten:
+        return LadeTextMit(TextOptikteil, {std::to_string(stelle.optikteil + 1)});
+    case Speicherbereich::Kommunikationsdaten:
+        return LadeText(TextKommunikation);
+    }
+    return {};
+}
+
+/// A register keeps 16 bits, whatever an image holds.
+std::string Worte(const Abbild& abbild, const Parameterstelle& stelle) {
+    Werte werte = abbild.HoleParameter(stelle.bereich, stelle.adresse, stelle.optikteil);
+    for (std::int32_t& wert : werte)
+        wert &= 0xFFFF;
+    return Klartext(stelle.bereich, stelle.adresse, werte,
+                    LesartFuer(abbild, stelle.bereich, stelle.optikteil));
+}
+
+Geraetestand NichtsBekannt() {
+    Geraetestand stand;
+    stand.unbekannt = AlleStellen(IstLesbar);
+    return stand;
+}
+
+Registerzeile Zeile(const Parameterstelle& stelle, std::string links, std::string rechts) {
+    return {.stelle = stelle,
+            .bereich = Bereichsname(stelle),
+            .name = Parametername(stelle.bereich, stelle.adresse),
+            .links = std::move(links),
+            .rechts = std::move(rechts),
+            .ort = Registertext(stelle.bereich, stelle.adresse)};
+}
+
+std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetestand& stand,
+                           const std::string& wann) {
+    const int verschieden = vergleich.Anzahl(Vergleichsklasse::Verschieden);
+    const int unbekannt = vergleich.Anzahl(Vergleichsklasse::NichtLesbar);
+    std::string text = verschieden > 0 || unbekannt > 0
+                           ? LadeTextMit(TextAenderungen, {std::to_string(verschieden), wann})
+                           : LadeTextMit(TextKeineAenderung, {wann});
+    if (unbekannt > 0)
+        text += "\n" + LadeTextMit(TextTeilweiseUnbekannt, {std::to_string(unbekannt)});
+    if (!stand.ausDieserVerbindung)
+        text += "\n" + LadeText(TextAelter);
+    return text;
+}
+
+} // namespace
+
+Registerbefund BefundVorDemSchreiben(const Schreibauftrag& auftrag, const std::optional<Geraetestand>& stand,
+                                     const std::string& wann) {
+    Registerbefund befund{.titel = LadeText(TextAenderungstitel),
+                          .text = LadeTextMit(TextStandUnbekannt, {std::to_string(auftrag.stellen.size())}),
+                          .links = LadeText(TextImGeraet),
+                          .rechts = LadeText(TextNachher)};
+    const Geraetestand bekannt = stand ? *stand : NichtsBekannt();
+    const auto vergleich = Vergleiche(bekannt.abbild, auftrag.abbild, {.inA = bekannt.unbekannt},
+                                      Vergleichsumfang::Geschriebenes);
+    Vergleichsergebnis betroffen;
+    for (const Vergleichszeile& zeile : vergleich.zeilen) {
+        if (!auftrag.stellen.contains(zeile.stelle))
+            continue;
+        betroffen.Fuege(zeile);
+        if (zeile.klasse != Vergleichsklasse::Gleich)
+            befund.zeilen.push_back(Zeile(zeile.stelle,
+                                          zeile.klasse == Vergleichsklasse::NichtLesbar
+                                              ? LadeText(TextUnbekannt)
+                                              : Worte(bekannt.abbild, zeile.stelle),
+                                          Worte(auftrag.abbild, zeile.stelle)));
+    }
+    if (stand)
+        befund.text = Aenderungstext(betroffen, *stand, wann);
+    return befund;
+}
+
+std::string Pruefsatz(const Pruefergebnis& ergebnis) {
+    return LadeTextMit(TextPruefsatz,
+                       {std::to_string(ergebnis.gleicheRegister), std::to_string(ergebnis.alleRegister)});
+}
+
+Registerbefund BefundDerPruefung(const Schreibauftrag& auftrag, const Pruefergebnis& ergebnis,
+                                 const Ruecklesung& ruecklesung) {
+    Registerbefund befund{.titel = LadeText(TextPrueftitel),
+                          .text = Pruefsatz(ergebnis),
+                          .links = LadeText(TextGeschriebenerWert),
+                          .rechts = LadeText(TextGelesenerWert),
+                          .weiter = LadeText(TextNochEinmal)};
+    if (!ergebnis.abweichend.empty())
+        befund.text += "\n" + LadeTextMit(TextAbweichend, {std::to_string(ergebnis.abweichend.size())});
+    if (!ergebnis.nichtVerglichen.empty())
+        befund.text += "\n" + LadeTextMit(TextNichtVergleichbar,
+                                          {std::to_string(ergebnis.nichtVerglichen.size()),
+                                           std::to_string(AnzahlRegister(ergebnis.nichtVerglichen))});
+    for (const Parameterstelle& stelle : auftrag.stellen) {
+        if (ergebnis.abweichend.contains(stelle))
+            befund.zeilen.push_back(
+                Zeile(stelle, Worte(auftrag.abbild, stelle), Worte(ruecklesung.abbild, stelle)));
+        if (ergebnis.nichtVerglichen.contains(stelle))
+            befund.zeilen.push_back(
+                Zeile(stelle, Worte(auftrag.abbild, stelle), LadeText(TextNichtVerglichen)));
+    }
+    return befund;
+}
+
+Registerbefund BefundDesAbbruchs(const Schreibauftrag& auftrag, const Schreibspur& spur,
+                                 bool zurueckschreibbar) {
+    const int geschrieben = AnzahlRegister(spur.geschrieben);
+    const int ungewiss = AnzahlRegister(spur.ungewiss);
+    const int alle = AnzahlRegister(auftrag.stellen);
+    Registerbefund befund{.titel = LadeText(TextAbbruchtitel),
+                          .text = LadeTextMit(TextAbbruch, {std::to_string(geschrieben), std::to_string(alle),
+                                                            std::to_string(alle - geschrieben - ungewiss),
+                                                            std::to_string(ungewiss)}),
+                          .links = LadeText(TextZustand),
+                          .rechts = LadeText(TextWert),
+                          .weiter = zurueckschreibbar ? LadeText(TextZurueckschreiben) : std::string()};
+    if (geschrieben == alle)
+        befund.text = LadeText(TextNichtGespeichert);
+    for (const Parameterstelle& stelle : auftrag.stellen) {
+        std::int16_t zustand = TextNichtGeschrieben;
+        if (spur.geschrieben.contains(stelle))
+            zustand = TextGeschrieben;
+        else if (spur.ungewiss.contains(stelle))
+            zustand = TextUngewiss;
+        befund.zeilen.push_back(Zeile(stelle, LadeText(zustand), Worte(auftrag.abbild, stelle)));
+    }
+    return befund;
+}
+
+} // namespace varnoth

@@ -1,0 +1,239 @@
+// What a write is worth: the backup before it, what it will change, the check behind it, and the way back.
+
+#include "programmtest.h"
+
+#include "dateisicherungen.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "vergleich.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeWidget>
+#include <gmock/gmock.h>
+
+namespace varnoth::pruefung {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr const char* Schreibfenster = "frmKonfigurationSchreibenInHardware";
+constexpr const char* Listenfenster = "frmRegisterliste";
+
+} // namespace
+
+class SchreibenImBetrieb : public ProgrammTest {
+protected:
+    void GeheLiveMitSpeicher() {
+        GeheLive({"--beams", "32,16,32,0", "--store", Pfad("speicher")});
+        vorher = modDaten::DasAbbild();
+    }
+    /// Changes five settings in the editor and leaves it for the write dialog.
+    void AendereFuenf() {
+        ImEditor([](QWidget& editor) {
+            Klicke(editor, "optPNPAusgang_Option1_4");
+            Kind<QComboBox>(editor, "cboReichweite_0").setCurrentIndex(4);
+            Kind<QComboBox>(editor, "cboMinMaxHaltezeit_1").setCurrentIndex(99);
+            Kind<QComboBox>(editor, "cboMinMaxHaltezeit_2").setCurrentIndex(49);
+            Kind<QLineEdit>(editor, "txtPausenzeit").setText("1234");
+            Klicke(editor, "cmdDownLoad");
+        });
+    }
+    void LeereEditoraenderungen() {
+        ImEditor([](QWidget& editor) { Klicke(editor, "cmdDownLoad"); });
+    }
+    void ImEditor(std::function<void(QWidget&)> tat) {
+        fahrer.Sobald(
+            [] {
+                QWidget* editor = SichtbaresFenster("frmKonfigurationEdit");
+                return editor != nullptr && Kind<QAbstractButton>(*editor, "cmdDownLoad").isEnabled();
+            },
+            [tat = std::move(tat)] { tat(*SichtbaresFenster("frmKonfigurationEdit")); });
+    }
+    /// Starts the write, with the check or without.
+    void Starte(bool pruefen, std::function<void()> vorDemStart = {}) {
+        InFenster(Schreibfenster, [pruefen, vorDemStart = std::move(vorDemStart)](QWidget& dialog) {
+            Kind<QAbstractButton>(dialog, "chkPruefen").setChecked(pruefen);
+            if (vorDemStart)
+                vorDemStart();
+            Klicke(dialog, "cmdStart");
+        });
+    }
+    /// Cancels the write dialog at its so many-th attempt at the same register.
+    void BrichAbBeiVersuch(int versuch) {
+        fahrer.Sobald(
+            [versuch] {
+                QWidget* dialog = SichtbaresFenster(Schreibfenster);
+                return dialog != nullptr &&
+                       Kind<QLineEdit>(*dialog, "txtSchreibversuch").text().toInt() >= versuch;
+            },
+            [] { Klicke(*SichtbaresFenster(Schreibfenster), "cmdCancel"); });
+    }
+    /// Notes what the list shows, and presses a button of it.
+    void InListe(const QString& knopf) {
+        InFenster(Listenfenster, [this, knopf](QWidget& liste) {
+            zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
+            befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+            Klicke(liste, knopf);
+        });
+    }
+    bool Bearbeite() { return FuehreAus("mnuAnzeigeKonfiguration"); }
+    int Unterschiede() const {
+        return Vergleiche(vorher, modDaten::DasAbbild(), {}, Vergleichsumfang::Geschriebenes).Unterschiede();
+    }
+    std::vector<Sicherung> AlleSicherungen() const { return DieSicherungen()->Alle(); }
+
+    Abbild vorher;
+    int zeilen = -1;
+    std::string befund;
+};
+
+TEST_F(SchreibenImBetrieb, Exactly_the_changed_settings_are_shown_before_and_read_back_equal_after) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    InFenster(Schreibfenster, [this](QWidget& dialog) {
+        InListe("cmdSchliessen");
+        Starte(true);
+        Klicke(dialog, "cmdAenderungen");
+    });
+    std::string statustext;
+    fahrer.Sobald([this] { return Statusfeld(1).ends_with("gleich."); }, [&] { statustext = Statusfeld(1); });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(zeilen, 5);
+    EXPECT_THAT(befund, HasSubstr("ändert 5 Einstellungen"));
+    EXPECT_EQ(geraet->Register("communication 8"), 1234);
+    EXPECT_EQ(geraet->Register("specific 1 25"), 100);
+    EXPECT_EQ(Unterschiede(), 5) << "what was read after the write";
+    EXPECT_THAT(Meldungen(), IsEmpty());
+    EXPECT_TRUE(fahrer.AllesGetan()) << Statusfeld(1);
+}
+
+TEST_F(SchreibenImBetrieb, The_backup_holds_what_was_before_and_written_back_restores_every_register) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(false);
+    ASSERT_TRUE(Bearbeite());
+    const auto alle = AlleSicherungen();
+    ASSERT_EQ(alle.size(), 1U);
+    const auto gesichertes = DieSicherungen()->Lies(alle[0]);
+    ASSERT_TRUE(gesichertes);
+    EXPECT_EQ(Vergleiche(vorher, *gesichertes).Unterschiede(), 0);
+    EXPECT_EQ(alle[0].angaben.seriennummer, "SIM-0001");
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
+    Hauptfenster().LadeDatei(alle[0].pfad);
+    LeereEditoraenderungen();
+    Starte(true);
+    ASSERT_TRUE(Bearbeite());
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
+    EXPECT_EQ(Unterschiede(), 0);
+}
+
+TEST_F(SchreibenImBetrieb,
+       A_register_that_the_controller_silently_refuses_is_found_and_can_be_written_again) {
+    GeheLiveMitSpeicher();
+    geraet->Befehl("fault forget=0x4008");
+    AendereFuenf();
+    Starte(true);
+    InFenster(Listenfenster, [this](QWidget& liste) {
+        zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
+        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+        geraet->Befehl("fault none");
+        Starte(true);
+        Klicke(liste, "cmdWeiter");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(zeilen, 1);
+    EXPECT_THAT(befund, HasSubstr("190 von 191 Registern zurückgelesen und gleich."));
+    EXPECT_EQ(geraet->Register("communication 8"), 1234);
+    EXPECT_EQ(AlleSicherungen().size(), 2U);
+}
+
+TEST_F(SchreibenImBetrieb, A_controller_that_restarts_in_the_middle_of_a_part_is_found) {
+    GeheLiveMitSpeicher();
+    geraet->Befehl("fault restart-at=0x2018,2:1");
+    AendereFuenf();
+    Starte(true);
+    InListe("cmdSchliessen");
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(geraet->Register("specific 0 25"), 50) << "the value of the third part has gone to the first";
+    EXPECT_GE(zeilen, 3);
+    EXPECT_THAT(befund, Not(HasSubstr("191 von 191")));
+}
+
+TEST_F(SchreibenImBetrieb, A_write_and_its_check_survive_a_line_that_fails_for_a_while) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(true, [this] {
+        geraet->Befehl("fault silence:1@0x10");
+        geraet->Befehl("fault crc:1@0x10");
+        geraet->Befehl("fault silence:1@0x03");
+        geraet->Befehl("fault flip=27:1@0x03");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(Unterschiede(), 5);
+    EXPECT_EQ(SichtbaresFenster(Listenfenster), nullptr);
+    EXPECT_THAT(Meldungen(), IsEmpty());
+}
+
+TEST_F(SchreibenImBetrieb, A_controller_that_falls_silent_while_it_is_checked_is_told_as_not_compared) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(true, [this] { geraet->Befehl("fault silence@0x03"); });
+    BrichAbBeiVersuch(2);
+    InFenster(Listenfenster, [this](QWidget& liste) {
+        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+        geraet->Befehl("fault none");
+        Klicke(liste, "cmdSchliessen");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_THAT(befund, HasSubstr("0 von 191 Registern"));
+    EXPECT_THAT(befund, HasSubstr("(191 Register) wurden nicht verglichen"));
+    EXPECT_EQ(geraet->Register("communication 8"), 1234);
+}
+
+TEST_F(SchreibenImBetrieb, A_broken_write_is_listed_and_what_was_before_is_written_back) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(false, [this] {
+        geraet->Befehl("fault late=0:30@0x10");
+        geraet->Befehl("fault silence@0x10");
+    });
+    BrichAbBeiVersuch(2);
+    InFenster(Listenfenster, [this](QWidget& liste) {
+        zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
+        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+        geraet->Befehl("fault none");
+        Starte(true);
+        Klicke(liste, "cmdWeiter");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(zeilen, 38);
+    EXPECT_THAT(befund, HasSubstr("Das Schreiben wurde nicht beendet."));
+    EXPECT_THAT(befund, HasSubstr("ungewiss"));
+    EXPECT_EQ(Unterschiede(), 0) << "what was read after that";
+    EXPECT_EQ(AlleSicherungen().size(), 2U)
+        << "another write, another backup, and no changes were lost in silence";
+}
+
+TEST_F(SchreibenImBetrieb, Changes_that_were_not_written_are_backed_up_when_the_program_connects_again) {
+    GeheLiveMitSpeicher();
+    ImEditor([](QWidget& editor) {
+        Kind<QLineEdit>(editor, "txtPausenzeit").setText("1234");
+        Klicke(editor, "cmdUebernehmen");
+    });
+    ASSERT_TRUE(Bearbeite());
+    const auto alle = AlleSicherungen();
+    ASSERT_EQ(alle.size(), 1U);
+    EXPECT_EQ(alle[0].angaben.anlass, Sicherungsanlass::VorDemVerbinden);
+    const auto gesichertes = DieSicherungen()->Lies(alle[0]);
+    ASSERT_TRUE(gesichertes);
+    EXPECT_EQ(gesichertes->HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit),
+              1234);
+}
+
+} // namespace varnoth::pruefung
