@@ -1,6 +1,7 @@
 #include "ruecklesung.h"
 
 #include "geraetestand.h"
+#include "registertext.h"
 #include "schreibvorgang.h"
 #include "seriennummer.h"
 #include "texte.h"
