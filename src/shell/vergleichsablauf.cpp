@@ -10,6 +10,7 @@
 #include "lesevorgang.h"
 #include "seitenjetzt.h"
 #include "seriennummer.h"
+#include "sicherungen.h"
 #include "texte.h"
 #include "umgebung.h"
 
@@ -25,19 +26,15 @@ constexpr std::int16_t TextDateiWaehlen = 9597;
 constexpr std::int16_t TextTextfilter = 9598;
 constexpr std::int16_t TextSpeichern = 9599;
 constexpr std::int16_t TextUnvollstaendig = 9580;
+constexpr std::int16_t TextKeineSicherung = 9600;
 
-/// A source that asks further, and what asks.
-struct Fragezeile {
-    Vergleichsquelle quelle;
-    bool verfuegbar;
-};
-
-// A backup can be chosen as soon as something keeps backups.
-constexpr Fragezeile DieFragbaren[] = {
-    {Vergleichsquelle::Geraet, true},
-    {Vergleichsquelle::Datei, true},
-    {Vergleichsquelle::Sicherung, false},
-};
+/// Where the newest backup lies; nothing where there is none.
+std::optional<std::string> Sicherungsordner() {
+    const auto alle = DieSicherungen()->Alle();
+    if (alle.empty())
+        return std::nullopt;
+    return alle.front().pfad.substr(0, alle.front().pfad.find_last_of('/') + 1);
+}
 
 Vergleichsseite Geraeteseite(const Geraeteabzug& abzug) {
     std::string einzelheit = Lesezeile(std::chrono::system_clock::now(), GeraeteSeriennummer());
@@ -93,30 +90,38 @@ void Vergleichsablauf::Schliesse() {
 }
 
 std::vector<Vergleichsquelle> Vergleichsablauf::Fragbare() {
-    std::vector<Vergleichsquelle> quellen;
-    for (const Fragezeile& zeile : DieFragbaren)
-        if (zeile.verfuegbar)
-            quellen.push_back(zeile.quelle);
+    std::vector<Vergleichsquelle> quellen{Vergleichsquelle::Geraet, Vergleichsquelle::Datei};
+    if (DieSicherungen() != nullptr)
+        quellen.push_back(Vergleichsquelle::Sicherung);
     return quellen;
 }
 
 void Vergleichsablauf::Verlange(Vergleichsquelle quelle, Seitenwahl seite) {
     if (quelle == Vergleichsquelle::Datei)
-        OeffneDatei(seite);
+        OeffneDatei(quelle, LetzterOrdner(), seite);
+    if (quelle == Vergleichsquelle::Sicherung)
+        OeffneSicherung(seite);
     if (quelle != Vergleichsquelle::Geraet)
         return;
     geraeteseite = seite;
     verlangeGeraet();
 }
 
-void Vergleichsablauf::OeffneDatei(Seitenwahl seite) {
+void Vergleichsablauf::OeffneSicherung(Seitenwahl seite) {
+    if (const auto ordner = Sicherungsordner())
+        OeffneDatei(Vergleichsquelle::Sicherung, *ordner, seite);
+    else
+        ZeigeWarnung(LadeText(TextKeineSicherung), LadeText(TextAchtung));
+}
+
+void Vergleichsablauf::OeffneDatei(Vergleichsquelle quelle, const std::string& ordner, Seitenwahl seite) {
     const auto pfad = FrageNachDatei({.art = Dateiwahl::Oeffnen,
                                       .titel = LadeText(TextDateiWaehlen),
                                       .filter = LadeText(TextDateifilter),
-                                      .ordner = LetzterOrdner()});
+                                      .ordner = ordner});
     if (!pfad)
         return;
-    Vergleichsseite gelesene{Vergleichsquelle::Datei, *pfad, {}, {}};
+    Vergleichsseite gelesene{quelle, *pfad, {}, {}};
     if (LiesKonfigurationsdatei(*pfad, gelesene.abbild))
         Fenster().Setze(seite, gelesene);
 }

@@ -38,7 +38,8 @@ private:
     std::vector<Vergleichsquelle> Fragbare() override;
     void Verlange(Vergleichsquelle quelle, Seitenwahl seite) override;
     void SpeichereText(const std::string& text) override;
-    void OeffneDatei(Seitenwahl seite);
+    void OeffneDatei(Vergleichsquelle quelle, const std::string& ordner, Seitenwahl seite);
+    void OeffneSicherung(Seitenwahl seite);
 
     std::function<void()> verlangeGeraet;
     Seitenwahl geraeteseite = Seitenwahl::A;

@@ -1,6 +1,7 @@
 #include "registerbefund.h"
 
 #include "klartext.h"
+#include "registertext.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "vergleich.h"

@@ -1,7 +1,11 @@
 #include "ruecklesung.h"
 
 #include "geraetestand.h"
+<<<<<<< HEAD
 #include "nachlese.h"
+=======
+#include "registertext.h"
+>>>>>>> h4
 #include "schreibvorgang.h"
 #include "seriennummer.h"
 #include "texte.h"

@@ -7,6 +7,7 @@
 #include "polling.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "sicherungen.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -170,6 +171,24 @@ TEST_F(VergleichImBetrieb, A_file_is_compared_without_a_word_to_the_controller_a
     EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Lochgroesse, 1), 1);
     EXPECT_THAT(Zeilen(), IsEmpty());
     EXPECT_EQ(modDaten::IstGeaendert(), True);
+}
+
+TEST_F(VergleichImBetrieb, A_backup_is_chosen_where_the_newest_one_lies_and_without_one_that_is_said) {
+    GeheLive({"--beams", "32"});
+    WaehleQuelle("cboSeiteA", Vergleichsquelle::Sicherung);
+    EXPECT_THAT(Meldungen(), ElementsAre("Es gibt noch keine Sicherung."));
+    ASSERT_EQ(SichereGeraetestand(), "");
+    const std::string pfad = DieSicherungen()->Alle().at(0).pfad;
+    std::string gefragter;
+    SetzeDateiantwort([&](const Dateifrage& frage) {
+        gefragter = frage.ordner;
+        return pfad;
+    });
+    WaehleQuelle("cboSeiteA", Vergleichsquelle::Sicherung);
+    EXPECT_NE(gefragter, "");
+    EXPECT_THAT(pfad, StartsWith(gefragter));
+    EXPECT_EQ(Vergleich().Paar().Seite(Seitenwahl::A).quelle, Vergleichsquelle::Sicherung);
+    EXPECT_THAT(Label("lblBefund"), StartsWith("Kein Unterschied: Alle 17 Werte sind gleich."));
 }
 
 TEST_F(VergleichImBetrieb, A_file_that_is_no_configuration_is_refused_and_the_side_stays) {
