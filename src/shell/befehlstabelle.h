@@ -42,6 +42,8 @@ public:
     virtual void OeffneLetzteDatei(int platz) = 0;
     /// Connects to the built-in controller, which takes the place of the serial ports in this run.
     virtual void VerbindeSimuliert() = 0;
+    /// Offers looks and beam colours.
+    virtual void BieteDarstellung() = 0;
 };
 
 /// How a command gets along with live data.
@@ -50,7 +52,7 @@ enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder };
 enum class Auftritt { Still, Zeigt };
 
 /// The groups of the tool bar in their order; a line stands between two.
-enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Hilfe };
+enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Darstellung, Hilfe };
 
 /// A command as the program knows it; the fields stand in the order in which a row is read.
 struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)

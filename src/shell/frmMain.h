@@ -2,6 +2,7 @@
 
 #include "ansichten.h"
 #include "befehlstabelle.h"
+#include "erscheinungsbild.h"
 #include "geraetebetrieb.h"
 #include "hauptmenue.h"
 #include "hauptteile.h"
@@ -130,7 +131,9 @@ private:
     void SchalteSprache(std::int16_t offset) override;
     void OeffneLetzteDatei(int platz) override;
     void VerbindeSimuliert() override;
+    void BieteDarstellung() override;
 
+    Erscheinungsbild erscheinungsbild; ///< comes first: what is made below has its colours
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;
     std::function<bool(bool)> portwechsel;

@@ -1,5 +1,6 @@
 // What the menu commands of the main window do.
 
+#include "darstellungsmenue.h"
 #include "einstellungen.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmInfo.h"
@@ -18,6 +19,8 @@
 #include "ui_frmMain.h"
 #include "umgebung.h"
 #include "werkzeugleiste.h"
+
+#include <QMenu>
 
 namespace varnoth {
 
@@ -126,6 +129,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     LadeQtTexte(offset);
     DieEinstellungen().SchreibText("Settings", "Sprache", std::to_string(offset));
     LokalisiereForm(*this);
+    menue.ZeigeFundorte();
     leiste->Lokalisiere();
     ansichten->Lokalisiere();
     status.ZeigePort();
@@ -142,6 +146,15 @@ void frmMain::VerbindeSimuliert() {
     if (WechslePort(true))
         menue.HakePort(0);
     Autostart();
+}
+
+void frmMain::BieteDarstellung() {
+    QMenu* const auswahl =
+        MacheDarstellungsmenue(*this, erscheinungsbild.Gewaehlt(), [this](const Darstellung& gewaehlt) {
+            erscheinungsbild.WendeAn(gewaehlt);
+            SchreibDarstellung(DieEinstellungen(), gewaehlt);
+        });
+    auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));
 }
 
 void frmMain::ZeigeSimulation() {

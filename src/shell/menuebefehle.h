@@ -30,6 +30,7 @@ enum class Befehl {
     Englisch = 23,
     LetzteDatei = 101,
     SimuliertesGeraet = 102,
+    Darstellung = 130,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

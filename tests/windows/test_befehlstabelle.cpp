@@ -39,6 +39,7 @@ struct PruefWirkung : Befehlswirkung {
 
     void OeffneLetzteDatei(int platz) override { getan = "last file " + std::to_string(platz); }
     void VerbindeSimuliert() override { getan = "simulated"; }
+    void BieteDarstellung() override { getan = "appearance"; }
 
     std::string getan;
 };
@@ -86,6 +87,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
         EXPECT_EQ(GetanVon(++code), arbeit) << "code " << code;
     EXPECT_EQ(GetanVon(101), "last file 2");
     EXPECT_EQ(GetanVon(102), "simulated");
+    EXPECT_EQ(GetanVon(130), "appearance");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
