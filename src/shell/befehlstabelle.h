@@ -46,6 +46,8 @@ public:
     virtual void ZeigeVergleich() = 0;
     /// Reads the controller for the comparison that asked for it.
     virtual void LiesGeraetZumVergleich() = 0;
+    /// Offers looks and beam colours.
+    virtual void BieteDarstellung() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,
@@ -55,7 +57,7 @@ enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder, Ruht };
 enum class Auftritt { Still, Zeigt };
 
 /// The groups of the tool bar in their order; a line stands between two.
-enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Hilfe };
+enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Darstellung, Hilfe };
 
 /// A command as the program knows it; the fields stand in the order in which a row is read.
 struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)

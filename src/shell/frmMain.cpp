@@ -46,11 +46,12 @@ void SchliesseDialoge() {
 } // namespace
 
 frmMain::frmMain(const QString& programmordner)
-    : ui(MacheForm(*this)), status(*ui->sbStatusBar),
+    : erscheinungsbild(LiesDarstellung(DieEinstellungen())), ui(MacheForm(*this)), status(*ui->sbStatusBar),
       menue(*this, [this](Befehl befehl, int index) { befehle.Klick(befehl, index); }) {
     QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));
     LokalisiereForm(*this);
+    menue.ZeigeFundorte();
     leiste = new Werkzeugleiste(*this);
     LiesEinstellungen();
     modDaten::InitRegisterbeschreibung();

@@ -2,6 +2,7 @@
 
 #include "ansichten.h"
 #include "befehlstabelle.h"
+#include "erscheinungsbild.h"
 #include "geraetebetrieb.h"
 #include "hauptmenue.h"
 #include "hauptteile.h"
@@ -135,7 +136,9 @@ private:
     void ZeigeBericht() override { ablauf->Berichte(); }
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
+    void BieteDarstellung() override;
 
+    Erscheinungsbild erscheinungsbild; ///< comes first: what is made below has its colours
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;
     std::function<bool(bool)> portwechsel;

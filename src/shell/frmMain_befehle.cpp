@@ -1,5 +1,6 @@
 // What the menu commands of the main window do.
 
+#include "darstellungsmenue.h"
 #include "einstellungen.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmInfo.h"
@@ -19,6 +20,8 @@
 #include "umgebung.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+
+#include <QMenu>
 
 namespace varnoth {
 
@@ -128,6 +131,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     LadeQtTexte(offset);
     DieEinstellungen().SchreibText("Settings", "Sprache", std::to_string(offset));
     LokalisiereForm(*this);
+    menue.ZeigeFundorte();
     leiste->Lokalisiere();
     ansichten->Lokalisiere();
     vergleich->Lokalisiere();
@@ -153,6 +157,15 @@ void frmMain::ZeigeVergleich() {
 
 void frmMain::LiesGeraetZumVergleich() {
     vergleich->LiesGeraet(*betrieb);
+}
+
+void frmMain::BieteDarstellung() {
+    QMenu* const auswahl =
+        MacheDarstellungsmenue(*this, erscheinungsbild.Gewaehlt(), [this](const Darstellung& gewaehlt) {
+            erscheinungsbild.WendeAn(gewaehlt);
+            SchreibDarstellung(DieEinstellungen(), gewaehlt);
+        });
+    auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));
 }
 
 void frmMain::ZeigeSimulation() {

@@ -2,13 +2,31 @@
 
 #include "aktionen.h"
 #include "registerabbild.h"
+#include "symbolbild.h"
 #include "texte.h"
 
 #include <QAction>
 #include <QKeySequence>
 #include <QMainWindow>
+#include <QMenu>
 
 namespace varnoth {
+
+namespace {
+
+/// A menu item without a command, the action of the tool bar where its subject is found, the text that says
+/// so.
+struct Fundort {
+    const char* punkt;
+    const char* ziel;
+    std::int16_t textId;
+};
+
+constexpr Fundort DieFundorte[] = {{"mnuDruckereinrichtung", "mnuBericht", 9535},
+                                   {"mnuKonfigurationDrucken", "mnuBericht", 9535},
+                                   {"mnuOptionFarben", "tlbDarstellung", 9536}};
+
+} // namespace
 
 Hauptmenue::Hauptmenue(QMainWindow& hauptfenster, const Klick& klick, std::span<const Befehlszeile> befehle)
     : fenster(hauptfenster) {
@@ -22,6 +40,8 @@ Hauptmenue::Hauptmenue(QMainWindow& hauptfenster, const Klick& klick, std::span<
 void Hauptmenue::Verbinde(const Befehlszeile& zeile, int platz, const Klick& klick) {
     const QString name = QString::fromStdString(Aktionsname(zeile, platz));
     QAction& aktion = StehtImMenue(zeile) ? Aktion(fenster, name) : NeueAktion(zeile, name);
+    if (*zeile.symbol != 0)
+        aktion.setIcon(Symbolbild(QLatin1String(zeile.symbol)));
     aktion.setShortcut(
         QKeySequence(QString::fromStdString(Kuerzel(zeile, platz)), QKeySequence::PortableText));
     QObject::connect(
@@ -42,6 +62,20 @@ QAction& Hauptmenue::NeueAktion(const Befehlszeile& zeile, const QString& name) 
     aktion->setText(QString::fromStdString(LadeText(zeile.textId)));
     fenster.addAction(aktion);
     return *aktion;
+}
+
+void Hauptmenue::ZeigeFundorte() {
+    for (const auto& [punkt, ziel, textId] : DieFundorte)
+        if (fenster.findChild<QAction*>(QLatin1String(ziel)) != nullptr)
+            ZeigeTipp(Aktion(fenster, QLatin1String(punkt)), textId);
+}
+
+/// Tips are shown in the item's own menu alone.
+void Hauptmenue::ZeigeTipp(QAction& punkt, std::int16_t textId) {
+    punkt.setToolTip(QString::fromStdString(LadeText(textId)));
+    for (QObject* ort : punkt.associatedObjects())
+        if (auto* const menue = qobject_cast<QMenu*>(ort))
+            menue->setToolTipsVisible(true);
 }
 
 void Hauptmenue::Aktualisiere() {

@@ -39,6 +39,8 @@ public:
     void HakePort(int nummer);
     /// Ticks the current language alone.
     void HakeSprache();
+    /// Tells, in the current language, where the subjects of menu items without a command are found by now.
+    void ZeigeFundorte();
     /// Ticks the view of optical part 0..3 or takes the tick away.
     void HakeAnsicht(int optikteil, bool gezeigt);
     bool UebertragenerWert() const;
@@ -49,6 +51,7 @@ private:
     void Verbinde(const Befehlszeile& zeile, int platz, const Klick& klick);
     QAction& NeueAktion(const Befehlszeile& zeile, const QString& name);
     void Aktualisiere();
+    void ZeigeTipp(QAction& punkt, std::int16_t textId);
 
     QMainWindow& fenster;
     Programmzustand zustand;

@@ -33,6 +33,7 @@ enum class Befehl {
     Vergleich = 110,
     GeraetVergleichen = 111,
     Bericht = 112,
+    Darstellung = 130,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

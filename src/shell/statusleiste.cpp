@@ -18,6 +18,15 @@ namespace {
 constexpr std::int16_t TextSimuliert = 9220;
 constexpr std::int16_t TextOhneAnschluss = 9221;
 
+/// Between two panels, and so behind each one, for the connection follows the last.
+QFrame* MacheTrennlinie(QWidget& leiste, std::size_t nummer) {
+    auto* const linie = new QFrame(&leiste);
+    linie->setObjectName(QStringLiteral("linStatusBar_%1").arg(nummer));
+    linie->setFrameStyle(QFrame::VLine | QFrame::Plain);
+    linie->setEnabled(false); // the colour of what cannot be chosen is to be seen on every ground
+    return linie;
+}
+
 } // namespace
 
 Statusleiste::Statusleiste(QStatusBar& leiste) {
@@ -25,8 +34,8 @@ Statusleiste::Statusleiste(QStatusBar& leiste) {
         // Messages give way where room is short; port and output stay whole.
         QLabel* feld = i + 1 == FeldMeldungen ? new Kurzlabel(&leiste) : new QLabel(&leiste);
         feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
-        feld->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         leiste.addPermanentWidget(feld, 1);
+        leiste.addPermanentWidget(MacheTrennlinie(leiste, i + 1));
         felder[i] = feld;
     }
     ausgang = std::make_unique<Ausgangsanzeige>(*felder[FeldSchaltausgang - 1]);

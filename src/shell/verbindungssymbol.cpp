@@ -1,5 +1,7 @@
 #include "verbindungssymbol.h"
 
+#include "strahlfarben.h"
+
 #include <QPainter>
 
 namespace varnoth {
@@ -7,6 +9,8 @@ namespace varnoth {
 namespace {
 
 using enum Verbindungszustand;
+
+constexpr double Deutlich = 2.9; // contrast of the sign with its ground
 
 void MalePunkte(QPainter& maler) {
     for (const double x : {-0.7, 0.0, 0.7})
@@ -98,7 +102,8 @@ QSize Verbindungssymbol::sizeHint() const {
 }
 
 void Verbindungssymbol::paintEvent(QPaintEvent* /*ereignis*/) {
-    const QColor farbe = Verbindungsfarbe(zustand, simuliert);
+    const QColor farbe =
+        Abgehoben(Verbindungsfarbe(zustand, simuliert), palette().color(QPalette::Window), Deutlich);
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
     maler.translate(width() / 2.0, height() / 2.0);

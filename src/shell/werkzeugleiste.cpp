@@ -3,7 +3,6 @@
 #include "aktionen.h"
 #include "einstellungen.h"
 #include "leistenplan.h"
-#include "symbolbild.h"
 #include "texte.h"
 
 #include <QActionEvent>
@@ -74,7 +73,6 @@ void Werkzeugleiste::FuelleLeiste(std::span<const Befehlszeile> befehle) {
             addSeparator();
         QAction& vorbild = Aktion(fenster, QString::fromStdString(Aktionsname(*zeile, 0)));
         QAction& aktion = StehtImMenue(*zeile) ? Stellvertreter(vorbild) : vorbild;
-        aktion.setIcon(Symbolbild(QLatin1String(zeile->symbol)));
         aktion.setProperty("Tag", zeile->textId);
         addAction(&aktion);
         werkzeuge.push_back({&aktion, zeile});
@@ -86,6 +84,7 @@ void Werkzeugleiste::FuelleLeiste(std::span<const Befehlszeile> befehle) {
 QAction& Werkzeugleiste::Stellvertreter(QAction& vorbild) {
     auto* const aktion = new QAction(this);
     aktion->setObjectName(QLatin1String("tlb") + vorbild.objectName().mid(3));
+    aktion->setIcon(vorbild.icon());
     const auto folge = [aktion, &vorbild] {
         aktion->setEnabled(vorbild.isEnabled());
         aktion->setVisible(vorbild.isVisible());
@@ -115,6 +114,14 @@ void Werkzeugleiste::SpeicherePlatz() const {
     const auto* const da = std::ranges::find(DieSeiten, fenster.toolBarArea(this), &Seite::bereich);
     const Fensterseite seite = da == std::ranges::end(DieSeiten) ? Fensterseite::Oben : da->seite;
     SchreibLeistenplatz(DieEinstellungen(), {.sichtbar = !isHidden(), .seite = seite});
+}
+
+QPoint Werkzeugleiste::StelleUnter(Befehl befehl) const {
+    for (const auto& [aktion, zeile] : werkzeuge)
+        if (const QWidget* const knopf = widgetForAction(aktion);
+            zeile->befehl == befehl && knopf != nullptr && knopf->isVisible())
+            return knopf->mapToGlobal(knopf->rect().bottomLeft());
+    return isVisible() ? mapToGlobal(rect().bottomLeft()) : fenster.mapToGlobal(QPoint());
 }
 
 void Werkzeugleiste::ZeigeMenue(QPoint stelle) const {

@@ -29,6 +29,9 @@ public:
     void Lokalisiere();
     /// Stores place and visibility.
     void SpeicherePlatz() const;
+    /// Where on the screen a menu of the command's button opens: below it; in the bar's corner where the
+    /// button is not in sight.
+    QPoint StelleUnter(Befehl befehl) const;
     /// What F10 does: shows the bar and steps into it; out of it when it has the keys already.
     void Betritt();
 

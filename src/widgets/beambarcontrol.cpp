@@ -166,7 +166,8 @@ Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
     schrift.setPixelSize(std::max(1, static_cast<int>(std::lround(QFontInfo(font()).pixelSize() * dichte))));
     const QSize groesse(static_cast<int>(std::ceil(width() * dichte)),
                         static_cast<int>(std::ceil(height() * dichte)));
-    return {groesse, dichte, schrift, Strahlanzahl(), abstandMm, ausschnitt, stand, beobachtung};
+    return {groesse,    dichte, schrift,     Strahlanzahl(),     abstandMm,
+            ausschnitt, stand,  beobachtung, GetStrahlfarbsatz()};
 }
 
 Aufteilung BeamBarControl::Plan() const {

@@ -1,5 +1,6 @@
 #include "lokalisiereform.h"
 
+#include "knopfsymbole.h"
 #include "texte.h"
 #include "zahlen.h"
 
@@ -228,6 +229,7 @@ void LokalisiereForm(QWidget& form) {
     if (Zahl(form.property(TagName)) > GroessterFormIndex)
         SchreibeText(form, &QWidget::windowTitle, &QWidget::setWindowTitle, TextZuTag(form));
     LokalisiereElemente(form);
+    GibKnoepfenSymbole(form);
 }
 
 } // namespace varnoth

@@ -4,8 +4,8 @@ class QWidget;
 
 namespace varnoth {
 
-/// Fills a form's texts in the current language; run it when a form is made and again after a language
-/// switch.
+/// Fills a form's texts in the current language, and gives its buttons their pictures; run it when a form is
+/// made and again after a language switch.
 ///
 /// Where the string ids (decimal text) stand:
 /// - title of the form: dynamic property "Tag" of the form; numbers up to 10 are no ids, the title then stays

@@ -91,7 +91,7 @@ void Strahlbild::Bereite(const Bildvorgabe& neueVorgabe, const QPalette& neuePal
         return;
     vorgabe = neueVorgabe;
     palette = neuePalette;
-    farben = FarbenAus(palette, vorgabe.stand);
+    farben = FarbenAus(palette, vorgabe.stand, vorgabe.farbsatz);
     aufteilung = TeileAuf(vorgabe);
     hintergrund = Hintergrund(vorgabe, aufteilung, farben);
     if (vorgabe.stand == Datenstand::Ungueltig) {

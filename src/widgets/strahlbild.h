@@ -12,7 +12,8 @@ class QPainter;
 
 namespace varnoth {
 
-/// All that decides where on a beam bar something lies. Lengths in device pixels.
+/// All that decides how a beam bar looks but the states of its beams and the palette. Lengths in device
+/// pixels.
 struct Bildvorgabe {
     QSize groesse;
     double dichte = 1;
@@ -22,6 +23,7 @@ struct Bildvorgabe {
     Ausschnitt ausschnitt{};
     Datenstand stand = Datenstand::Gueltig;
     bool beobachtung = false;
+    Strahlfarbsatz farbsatz = Strahlfarbsatz::GruenUndRot;
 
     bool ZeigtUebersicht() const {
         return beobachtung && strahlen > 0 && ausschnitt != GanzerAusschnitt(strahlen);

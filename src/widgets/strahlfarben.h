@@ -1,5 +1,6 @@
 #pragma once
 
+#include "darstellung.h"
 #include "datenstand.h"
 
 #include <QColor>
@@ -23,7 +24,12 @@ struct Strahlfarben {
 
 /// Colours that stand out from the palette's base whether that is light or dark: interrupted beams most. What
 /// is old is pale.
-Strahlfarben FarbenAus(const QPalette& palette, Datenstand stand = Datenstand::Gueltig);
+Strahlfarben FarbenAus(const QPalette& palette, Datenstand stand = Datenstand::Gueltig,
+                       Strahlfarbsatz satz = GetStrahlfarbsatz());
+
+/// The colour, made lighter or darker as far as it has to stand out from the ground.
+/// @param kontrast from 1 to 21, as `Kontrast` counts
+QColor Abgehoben(const QColor& farbe, const QColor& grund, double kontrast);
 
 /// A colour for an area rather than a line: nearer to the ground.
 QColor AlsFlaeche(const QColor& farbe, const QColor& grund);

@@ -1,5 +1,7 @@
 #include "symbolbild.h"
 
+#include "darstellung.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
@@ -21,7 +23,8 @@ namespace {
 
 constexpr char GezeichneteLinie[] = "#222222";
 constexpr char GezeichneteBetonung[] = "#2a6fb5";
-constexpr int Dunkel = 128; // lightness below which a background is dark
+constexpr QColor AufHell(0x2a, 0x6f, 0xb5);
+constexpr QColor AufDunkel(0x7c, 0xb7, 0xf0);
 
 QPixmap Gezeichnet(const QByteArray& svg, const QSize& groesse) {
     QByteArray inhalt = svg;
@@ -77,9 +80,10 @@ Symbolfarben SymbolfarbenAus(const QPalette& palette, QIcon::Mode mode) {
         const QColor auf = palette.color(QPalette::HighlightedText);
         return {auf, auf};
     }
-    const bool dunkel = palette.color(QPalette::Window).lightness() < Dunkel;
-    return {palette.color(QPalette::WindowText),
-            dunkel ? QColor(0x7c, 0xb7, 0xf0) : QColor(0x2a, 0x6f, 0xb5)};
+    const QColor linie = palette.color(QPalette::WindowText);
+    if (IstHoherKontrast(palette))
+        return {linie, palette.color(QPalette::Link)};
+    return {linie, IstDunkel(palette) ? AufDunkel : AufHell};
 }
 
 QByteArray Umgefaerbt(QByteArray svg, const Symbolfarben& farben) {

@@ -42,6 +42,7 @@ struct PruefWirkung : Befehlswirkung {
     void ZeigeBericht() override { getan = "report"; }
     void ZeigeVergleich() override { getan = "comparison"; }
     void LiesGeraetZumVergleich() override { getan = "read to compare"; }
+    void BieteDarstellung() override { getan = "appearance"; }
 
     std::string getan;
 };
@@ -92,6 +93,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(110), "comparison");
     EXPECT_EQ(GetanVon(111), "read to compare");
     EXPECT_EQ(GetanVon(112), "report");
+    EXPECT_EQ(GetanVon(130), "appearance");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {

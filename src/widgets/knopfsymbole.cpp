@@ -1,0 +1,66 @@
+#include "knopfsymbole.h"
+
+#include "symbolbild.h"
+
+#include <QPushButton>
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+namespace varnoth {
+
+namespace {
+
+struct Knopfsymbol {
+    std::string_view name;
+    std::string_view symbol;
+};
+
+constexpr Knopfsymbol DieSymbole[] = {
+    {"cmdOK", "ok"},
+    {"cmdUebernehmen", "ok"},
+    {"cmdCancel", "abbrechen"},
+    {"cmdWeiter", "weiter"},
+    {"cmdVor", "weiter"},
+    {"cmdZurück", "zurueck"},
+    {"cmdStart", "schreiben"},
+    {"cmdDownLoad", "schreiben"},
+    {"cmdSchreiben", "schreiben"},
+    {"cmdLesen", "lesen"},
+    {"cmdReset", "neustart"},
+    {"cmdReihenfolge", "reihenfolge"},
+    {"cmdBlankingmuster", "blanking"},
+    {"cmdWillkommenVerbinden", "verbinden"},
+    {"cmdWillkommenOeffnen", "oeffnen"},
+    {"cmdWillkommenNeu", "neu"},
+    {"cmdWillkommenSimuliert", "simuliert"},
+    {"cmdWillkommenHilfe", "hilfe"},
+    {"cmdOeffnen", "oeffnen"},
+    {"cmdSpeichern", "speichern"},
+    {"cmdDrucken", "drucken"},
+    {"cmdLoeschen", "loeschen"},
+    {"cmdVergleichen", "vergleich"},
+    {"frmInfo/Command1", "ok"},
+    {"frmReihenfolge/Command3", "loeschen"},
+};
+
+} // namespace
+
+std::string_view SymbolFuerKnopf(const std::string& form, const std::string& name) {
+    const std::string genau = form + "/" + name;
+    const auto* const da = std::ranges::find_if(
+        DieSymbole, [&](const auto& zeile) { return zeile.name == name || zeile.name == genau; });
+    return da == std::ranges::end(DieSymbole) ? std::string_view() : da->symbol;
+}
+
+void GibKnoepfenSymbole(QWidget& form) {
+    for (auto* knopf : form.findChildren<QPushButton*>()) {
+        const std::string name = knopf->objectName().toStdString();
+        const std::string_view symbol = SymbolFuerKnopf(form.objectName().toStdString(), name);
+        if (!symbol.empty() && knopf->icon().isNull() && knopf->window() == form.window())
+            knopf->setIcon(Symbolbild(QLatin1String(symbol.data(), static_cast<qsizetype>(symbol.size()))));
+    }
+}
+
+} // namespace varnoth
