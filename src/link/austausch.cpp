@@ -51,6 +51,13 @@ void NimmUngefragtes(std::string_view bytes) {
         zustand.ungefragtes.clear();
 }
 
+/// With a line that disappeared went what would have shown a reply too many.
+void OeffneWieder() {
+    HoleVerlorenenPortZurueck();
+    if (NimmVerlust() && zustand.gewissheit.IstVorlaeufiges())
+        zustand.gewissheit.Gebrochen();
+}
+
 /// Sends the request. False when bytes have come before it could be sent, which nobody was waiting for;
 /// `trotzdem` sends it all the same.
 bool Sende(const std::string& anforderung, bool trotzdem) {
@@ -192,7 +199,7 @@ void BewerteErfolg(const std::string& anforderung, const Erkenner& erkenner, con
 }
 
 bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
-    HoleVerlorenenPortZurueck();
+    OeffneWieder();
     zustand.unruhig = false;
     if (!BereiteUndSende(anforderung, verlass))
         return false;
@@ -246,7 +253,7 @@ bool IstUnruhig() {
 }
 
 bool Vergewissere() {
-    HoleVerlorenenPortZurueck();
+    OeffneWieder();
     NimmUngefragtes(NimmVerworfenes());
     if (GetPortIstOffen() == False)
         return false;

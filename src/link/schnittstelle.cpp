@@ -27,6 +27,7 @@ struct Zustand {
     Leitungstakt takt;
     bool gesendetSeitOeffnen = false;
     std::string verworfenes{};
+    bool linieVerschwand = false;
 };
 
 Zustand zustand;
@@ -128,7 +129,8 @@ void OpenCommPort() {
 }
 
 void CloseCommPort() {
-    zustand.sollOffenSein = false;
+    if (std::exchange(zustand.sollOffenSein, false) && derPort != nullptr && !derPort->IstOffen())
+        zustand.linieVerschwand = true;
     if (derPort != nullptr && zustand.portIstOffen != False) {
         LeereSender();
         VerwirfEingang();
@@ -154,8 +156,14 @@ std::string GetPortfehler() {
 }
 
 void HoleVerlorenenPortZurueck() {
-    if (zustand.sollOffenSein)
-        OeffnePort();
+    if (!zustand.sollOffenSein || LiesOffenstand())
+        return;
+    OeffnePort();
+    zustand.linieVerschwand = zustand.linieVerschwand || GetPortIstOffen() == True;
+}
+
+bool NimmVerlust() {
+    return std::exchange(zustand.linieVerschwand, false);
 }
 
 void ClearCommPort() {

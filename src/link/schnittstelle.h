@@ -47,6 +47,10 @@ std::string GetPortfehler();
 /// away.
 void HoleVerlorenenPortZurueck();
 
+/// Whether the line has disappeared since the last call and is open anew, or was when the port was closed:
+/// what was on its way is lost.
+bool NimmVerlust();
+
 /// Discards what was received and starts the pause before the next write.
 void ClearCommPort();
 /// Waits for the end of the pause before the next write.

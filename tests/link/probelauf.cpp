@@ -229,6 +229,8 @@ bool Probelauf::SchreibGeprueft(Block block, const Werte& werte) {
     if (!MitVersuchen([&] { return RTUModeH10SchreibenAnforderung(adresse, anzahl, werte); }) ||
         zahlen.brueche != bruecheDavor)
         return false;
+    if (Soll(block, teil.value_or(0)) == werte)
+        return true; // it is there, whichever attempt it was
     geglaubte.push_back({.austausch = modAustausch::Letzter(),
                          .block = block,
                          .geschrieben = rahmen,

@@ -137,6 +137,19 @@ TEST_F(WiederholungTest, A_reply_that_came_while_the_port_was_closed_and_opened_
     EXPECT_GT(modAustausch::Brueche(), bruecheDavor);
 }
 
+TEST_F(WiederholungTest, With_a_line_that_disappears_goes_what_would_have_shown_a_reply_too_many) {
+    Lies(0);
+    Lies(1);
+    const auto bruecheDavor = modAustausch::Brueche();
+    port.offen = false;
+    Lies(2);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 1) << "opened anew by the exchange";
+    port.offen = false;
+    modSchnittstelle::OpenCommPort();
+    Lies(3);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 2) << "opened anew by somebody else";
+}
+
 TEST_F(WiederholungTest, Stray_bytes_are_no_reply_too_many) {
     for (int i = 0; i < 5; ++i) {
         Lies(i);

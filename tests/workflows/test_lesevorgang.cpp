@@ -265,10 +265,11 @@ protected:
             auto stuecke = antworte(anforderung);
             frei = std::max(frei, umgebung.uhr) + std::chrono::milliseconds(5);
             stuecke[0].nach = frei - umgebung.uhr;
+            antworten.push_back(stuecke[0].bytes);
             if (AnzahlAnforderungen() != doppelte)
                 return stuecke;
             frei += nach;
-            stuecke.push_back({frei - umgebung.uhr, stuecke[0].bytes});
+            stuecke.push_back({frei - umgebung.uhr, *(antworten.end() - 1 - zurueck)});
             return stuecke;
         };
         for (int adresse = 0; adresse < 256; ++adresse) {
@@ -312,7 +313,9 @@ protected:
     };
     Teilanzeige teile;
     Zeit frei{0};
+    std::vector<std::string> antworten;
     int doppelte = 0;
+    int zurueck = 0; ///< not that reply comes again but the one before it by so many
     std::chrono::milliseconds nach{0};
 };
 
@@ -324,6 +327,20 @@ TEST_F(LesevorgangMitWiederholungTest, The_image_is_right_whichever_reply_comes_
             LiesMitDoppelter(welche, std::chrono::milliseconds(wann));
             EXPECT_EQ(GanzesAbbild() == richtig, true) << "reply " << welche << " after " << wann << " ms";
         }
+}
+
+TEST_F(LesevorgangMitWiederholungTest,
+       What_the_end_of_a_read_took_from_an_earlier_reply_is_read_again_with_the_parts) {
+    LiesMitDoppelter(0, {});
+    const auto richtig = GanzesAbbild();
+    zurueck = 1; // the order of the data block is longer than its neighbours
+    for (const int ms : {0, 3, 10}) {
+        LiesMitDoppelter(Lesungen - 1, std::chrono::milliseconds(ms));
+        EXPECT_EQ(GanzesAbbild() == richtig, true) << ms;
+        EXPECT_EQ(modGeraetestand::HoleGeraetestand()->abbild.HoleRegister(
+                      Speicherbereich::Kommunikationsdaten, 126),
+                  426);
+    }
 }
 
 TEST_F(LesevorgangMitWiederholungTest,

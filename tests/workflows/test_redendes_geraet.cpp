@@ -4,6 +4,7 @@
 #include "identifizierung.h"
 #include "lesevorgang.h"
 #include "optikteilinformation.h"
+#include "polling.h"
 #include "pruefport.h"
 #include "rahmen.h"
 #include "registerabbild.h"
@@ -62,6 +63,24 @@ struct Teilmitschrift : Optikteilanzeige {
     void ZeigeOptikteil(int /*optikteil*/, const std::string& /*text*/) override {}
     void ZeigeFortschritt(int /*erledigt*/, int /*gesamt*/) override {}
     bool Abgebrochen() override { return false; }
+};
+
+struct Nullansicht : LiveAnsicht {
+    bool ZeigtLiveDaten() const override { return true; }
+    void NeuerDatensatz() override {}
+    void StrahlzustaendeLiegenVor() override {}
+    void BlankingBekannt() override {}
+    void MesswerteLiegenVor() override {}
+};
+
+struct Ziel : PollingZiel {
+    Ziel() { modPolling::SetzeZiel(this); }
+    ~Ziel() override { modPolling::SetzeZiel(nullptr); }
+    LiveAnsicht& Ansicht(int /*optikteil*/) override { return ansicht; }
+    void AktualisiereGeraetestatus() override {}
+    bool BefehlWartet() override { return false; }
+
+    Nullansicht ansicht;
 };
 
 } // namespace
@@ -144,6 +163,23 @@ TEST_P(RedendesGeraetTest, Its_configuration_is_read_right_and_the_read_comes_to
     modDaten::LeereAbbild();
     ASSERT_TRUE(Lies());
     EXPECT_EQ(gelesenes, GanzesAbbild());
+}
+
+TEST_P(RedendesGeraetTest, Live_data_goes_on_when_another_program_has_it_talk) {
+    ASSERT_TRUE(Identifiziere(kennung));
+    ASSERT_TRUE(Lies());
+    Sage({4});
+    umgebung.uhr += 5s;
+    Ziel ziel;
+    modPolling::SetzeAnzahlOptikteile(1);
+    modPolling::SetzeOptikteilStatus(0, modPolling::Vorhanden);
+    modPolling::StartePolling();
+    Sage({2});
+    const Zeit beginn = umgebung.uhr;
+    while (umgebung.uhr - beginn < 30s && modPolling::GetDurchgaenge() < 50)
+        modPolling::PollingZyklus();
+    EXPECT_EQ(modPolling::GetDurchgaenge(), 50U) << umgebung.meldungen.size();
+    modPolling::StoppePolling();
 }
 
 INSTANTIATE_TEST_SUITE_P(Arten, RedendesGeraetTest,
