@@ -42,6 +42,22 @@ TEST_F(SchnittstelleTest, Opening_an_open_port_closes_it_first) {
     EXPECT_EQ(port.geoeffnet.size(), 2U);
 }
 
+TEST_F(SchnittstelleTest, Nobody_sleeps_through_a_reply_of_unknown_pace_or_on_a_closed_port) {
+    OpenCommPort();
+    CommPortWriteOutput("request");
+    WarteAufRest(40);
+    EXPECT_TRUE(port.geschlafen.empty()) << "nothing has come yet";
+    umgebung.uhr += 20ms;
+    port.eingang = "x";
+    CommPortReadInput();
+    port.offen = false;
+    WarteAufRest(40);
+    EXPECT_TRUE(port.geschlafen.empty()) << "the line is gone";
+    port.offen = true;
+    WarteAufRest(40);
+    EXPECT_EQ(port.geschlafen.size(), 1U) << "the pace is known now";
+}
+
 TEST_F(SchnittstelleTest, Opening_discards_what_was_waiting) {
     port.eingang = "old";
     OpenCommPort();

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <fstream>
 #include <iterator>
@@ -115,6 +116,16 @@ TEST_F(TraceTest, A_link_in_the_files_place_is_replaced_and_what_it_leads_to_kep
     EXPECT_EQ(modTrace::Starte(pfad), "");
     EXPECT_FALSE(std::filesystem::is_symlink(pfad));
     EXPECT_EQ(std::filesystem::file_size(fremde), 8U);
+}
+
+TEST_F(TraceTest, A_program_without_standard_input_can_trace) {
+    const int eingabe = ::dup(STDIN_FILENO);
+    ::close(STDIN_FILENO);
+    EXPECT_EQ(modTrace::Starte(pfad), "");
+    modTrace::Schliesse();
+    ::dup2(eingabe, STDIN_FILENO);
+    ::close(eingabe);
+    EXPECT_EQ(Inhalt(), "Start\r\n");
 }
 
 TEST_F(TraceTest, A_file_that_cannot_be_created_gives_the_reason) {

@@ -14,7 +14,7 @@ protected:
 
     /// Opens the port and gives the flags of the line's characters.
     tcflag_t Zeichenflaggen(const char* format) {
-        port.Oeffne(1, format);
+        EXPECT_TRUE(port.Oeffne(1, format)) << port.Fehlertext();
         return mitschrift.Einstellung().c_cflag & (CSIZE | CSTOPB | PARENB | PARODD | CMSPAR | CRTSCTS);
     }
 

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <cstdarg>
 #include <mutex>
 #include <optional>
@@ -137,7 +138,10 @@ int tcsetattr(int deskriptor, int wann, const struct termios* neue) noexcept {
     using namespace varnoth::pruefung;
     static const auto eigentliche = Eigentliche<int (*)(int, int, const struct termios*)>("tcsetattr");
     MerkeEinstellung(deskriptor, *neue);
-    return SchreibMit(Aufruf::Einstellen, deskriptor, [&] { return eigentliche(deskriptor, wann, neue); });
+    const int ergebnis =
+        SchreibMit(Aufruf::Einstellen, deskriptor, [&] { return eigentliche(deskriptor, wann, neue); });
+    // What a pseudo terminal forgets is reported as an error.
+    return ergebnis != 0 && errno == EINVAL && IstDieLeitung(deskriptor) ? 0 : ergebnis;
 }
 
 int tcgetattr(int deskriptor, struct termios* stand) noexcept {
