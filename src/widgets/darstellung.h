@@ -15,9 +15,9 @@ enum class Strahlfarbsatz { GruenUndRot, BlauUndOrange, GruenUndMagenta, Graustu
 
 inline constexpr Erscheinung DieErscheinungen[] = {Erscheinung::System, Erscheinung::Hell,
                                                    Erscheinung::Dunkel, Erscheinung::HoherKontrast};
-inline constexpr Strahlfarbsatz DieFarbsaetze[] = {
-    Strahlfarbsatz::GruenUndRot, Strahlfarbsatz::BlauUndOrange, Strahlfarbsatz::GruenUndMagenta,
-    Strahlfarbsatz::Graustufen};
+inline constexpr Strahlfarbsatz DieFarbsaetze[] = {Strahlfarbsatz::GruenUndRot, Strahlfarbsatz::BlauUndOrange,
+                                                   Strahlfarbsatz::GruenUndMagenta,
+                                                   Strahlfarbsatz::Graustufen};
 
 /// The colours of an appearance; nothing for that of the system.
 std::optional<QPalette> PaletteFuer(Erscheinung erscheinung);

@@ -2,6 +2,7 @@
 
 #include "darstellung.h"
 
+#include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -12,11 +13,11 @@ namespace varnoth {
 
 namespace {
 
-constexpr QStyle::PrimitiveElement ImmerMitRand[] = {
-    QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton};
-constexpr QStyle::PrimitiveElement MitRand[] = {
-    QStyle::PE_PanelButtonCommand, QStyle::PE_FrameGroupBox, QStyle::PE_FrameMenu,
-    QStyle::PE_FrameTabWidget,     QStyle::PE_PanelTipLabel, QStyle::PE_FrameWindow};
+constexpr QStyle::PrimitiveElement ImmerMitRand[] = {QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox,
+                                                     QStyle::PE_IndicatorRadioButton};
+constexpr QStyle::PrimitiveElement MitRand[] = {QStyle::PE_PanelButtonCommand, QStyle::PE_FrameGroupBox,
+                                                QStyle::PE_FrameMenu,          QStyle::PE_FrameTabWidget,
+                                                QStyle::PE_PanelTipLabel,      QStyle::PE_FrameWindow};
 constexpr QStyle::ControlElement TeileMitRand[] = {QStyle::CE_ProgressBarGroove, QStyle::CE_TabBarTabShape};
 constexpr QStyle::ComplexControl GanzeMitRand[] = {QStyle::CC_ComboBox, QStyle::CC_SpinBox};
 constexpr float Zurueckhaltend = 0.45F;
@@ -50,10 +51,12 @@ void Umrande(QPainter& maler, const QStyleOption& vorgabe, const QRectF& rand, b
 }
 
 /// The frame of a group box begins below its title.
-QRectF Rahmen(QStyle::PrimitiveElement element, const QStyleOption& vorgabe, const QStyle& stil) {
+QRectF Rahmen(QStyle::PrimitiveElement element, const QStyleOption& vorgabe, const QWidget* widget) {
     if (element != QStyle::PE_FrameGroupBox)
         return vorgabe.rect;
-    const int titel = std::max(stil.pixelMetric(QStyle::PM_IndicatorHeight), vorgabe.fontMetrics.height());
+    const auto* const gruppe = qobject_cast<const QGroupBox*>(widget);
+    const bool hatTitel = gruppe != nullptr && !gruppe->title().isEmpty();
+    const int titel = hatTitel ? vorgabe.fontMetrics.height() : 0;
     return vorgabe.rect.adjusted(0, titel + LueckeUnterTitel, 0, 0);
 }
 
@@ -70,9 +73,8 @@ QStyleOptionTitleBar MitHellenZeichen(const QStyleOptionTitleBar& leiste) {
 void Dunkelstil::drawPrimitive(PrimitiveElement element, const QStyleOption* vorgabe, QPainter* maler,
                                const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, vorgabe, maler, widget);
-    if (Enthaelt(ImmerMitRand, element) ||
-        (IstHoherKontrast(vorgabe->palette) && Enthaelt(MitRand, element)))
-        Umrande(*maler, *vorgabe, Rahmen(element, *vorgabe, *this), element == PE_IndicatorRadioButton);
+    if (Enthaelt(ImmerMitRand, element) || (IstHoherKontrast(vorgabe->palette) && Enthaelt(MitRand, element)))
+        Umrande(*maler, *vorgabe, Rahmen(element, *vorgabe, widget), element == PE_IndicatorRadioButton);
 }
 
 void Dunkelstil::drawControl(ControlElement element, const QStyleOption* vorgabe, QPainter* maler,

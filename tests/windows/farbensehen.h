@@ -18,8 +18,8 @@ inline Dreizahl Mal(const Matrix& matrix, const Dreizahl& farbe) {
     return ergebnis;
 }
 
-/// What a person sees of linear red, green and blue: all, or without the cones for long, middle or short waves
-/// (model of Machado, Oliveira and Fernandes, severity 1), or the lightness alone.
+/// What a person sees of linear red, green and blue: all, or without the cones for long, middle or short
+/// waves (model of Machado, Oliveira and Fernandes, severity 1), or the lightness alone.
 struct Sehweise {
     const char* name;
     Matrix sicht;
@@ -43,11 +43,11 @@ inline double Linear(double anteil) {
 
 /// CIE L*a*b* (D65) of what is seen.
 inline Dreizahl Eindruck(const QColor& farbe, const Sehweise& sehweise) {
-    constexpr Matrix NachXyz{
-        {{0.4124 / 0.95047, 0.3576 / 0.95047, 0.1805 / 0.95047},
-         {0.2126, 0.7152, 0.0722},
-         {0.0193 / 1.08883, 0.1192 / 1.08883, 0.9505 / 1.08883}}};
-    Dreizahl gesehen = Mal(sehweise.sicht, {Linear(farbe.redF()), Linear(farbe.greenF()), Linear(farbe.blueF())});
+    constexpr Matrix NachXyz{{{0.4124 / 0.95047, 0.3576 / 0.95047, 0.1805 / 0.95047},
+                              {0.2126, 0.7152, 0.0722},
+                              {0.0193 / 1.08883, 0.1192 / 1.08883, 0.9505 / 1.08883}}};
+    Dreizahl gesehen =
+        Mal(sehweise.sicht, {Linear(farbe.redF()), Linear(farbe.greenF()), Linear(farbe.blueF())});
     for (double& anteil : gesehen)
         anteil = std::clamp(anteil, 0.0, 1.0);
     Dreizahl f = Mal(NachXyz, gesehen);

@@ -19,8 +19,8 @@ using pruefung::Sehweise;
 namespace {
 
 constexpr Erscheinung EigeneFarben[] = {Erscheinung::Hell, Erscheinung::Dunkel, Erscheinung::HoherKontrast};
-constexpr Strahlfarbsatz FuerFarbenblinde[] = {
-    Strahlfarbsatz::BlauUndOrange, Strahlfarbsatz::GruenUndMagenta, Strahlfarbsatz::Graustufen};
+constexpr Strahlfarbsatz FuerFarbenblinde[] = {Strahlfarbsatz::BlauUndOrange, Strahlfarbsatz::GruenUndMagenta,
+                                               Strahlfarbsatz::Graustufen};
 
 /// The lowest distances that colours may have: of free and interrupted beams, of blanked ones from either, of
 /// each from the ground.
@@ -41,7 +41,9 @@ void ErwarteAbstaende(Strahlfarbsatz satz, std::span<const Sehweise> sehweisen, 
     for (const QPalette& palette : Paletten())
         for (const Sehweise& sehweise : sehweisen) {
             const Strahlfarben f = FarbenAus(palette, Datenstand::Gueltig, satz);
-            const auto abstand = [&](const QColor& a, const QColor& b) { return Farbabstand(a, b, sehweise); };
+            const auto abstand = [&](const QColor& a, const QColor& b) {
+                return Farbabstand(a, b, sehweise);
+            };
             const std::string stelle = std::string(sehweise.name) + ", set " +
                                        std::to_string(static_cast<int>(satz)) + " on " +
                                        f.grund.name().toStdString();
@@ -99,7 +101,8 @@ TEST(Strahlfarbsatz, What_is_old_is_pale_in_every_set) {
         for (const Strahlfarbsatz satz : DieFarbsaetze) {
             const Strahlfarben neu = FarbenAus(palette, Datenstand::Gueltig, satz);
             const Strahlfarben alt = FarbenAus(palette, Datenstand::Veraltet, satz);
-            for (const auto farbe : {&Strahlfarben::frei, &Strahlfarben::unterbrochen, &Strahlfarben::geblankt})
+            for (const auto farbe :
+                 {&Strahlfarben::frei, &Strahlfarben::unterbrochen, &Strahlfarben::geblankt})
                 EXPECT_LT(Kontrast(alt.*farbe, alt.grund), 0.8 * Kontrast(neu.*farbe, neu.grund));
         }
 }
@@ -111,13 +114,17 @@ TEST(Darstellung, The_system_has_no_palette_of_ours) {
 TEST(Darstellung, Writing_is_readable_on_every_ground) {
     using Paar = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
     for (const QPalette& palette : Paletten())
-        for (const auto& [schrift, grund] :
-             {Paar{QPalette::WindowText, QPalette::Window}, {QPalette::Text, QPalette::Base},
-              {QPalette::Text, QPalette::AlternateBase}, {QPalette::ButtonText, QPalette::Button},
-              {QPalette::HighlightedText, QPalette::Highlight}, {QPalette::ToolTipText, QPalette::ToolTipBase},
-              {QPalette::Link, QPalette::Base}, {QPalette::LinkVisited, QPalette::Base}})
+        for (const auto& [schrift, grund] : {Paar{QPalette::WindowText, QPalette::Window},
+                                             {QPalette::Text, QPalette::Base},
+                                             {QPalette::Text, QPalette::AlternateBase},
+                                             {QPalette::ButtonText, QPalette::Button},
+                                             {QPalette::HighlightedText, QPalette::Highlight},
+                                             {QPalette::ToolTipText, QPalette::ToolTipBase},
+                                             {QPalette::Link, QPalette::Base},
+                                             {QPalette::LinkVisited, QPalette::Base}})
             EXPECT_GE(Kontrast(palette.color(schrift), palette.color(grund)), 4.5)
-                << schrift << " on " << grund << ", window " << palette.color(QPalette::Window).name().toStdString();
+                << schrift << " on " << grund << ", window "
+                << palette.color(QPalette::Window).name().toStdString();
 }
 
 TEST(Darstellung, What_cannot_be_chosen_is_paler_and_still_to_be_seen) {

@@ -27,7 +27,8 @@ using pruefung::WarteBis;
 
 TEST(Darstellungswahl, Without_settings_all_is_as_the_system_has_it) {
     pruefung::PruefEinstellungen einstellungen;
-    EXPECT_EQ(LiesDarstellung(einstellungen), (Darstellung{Erscheinung::System, Strahlfarbsatz::GruenUndRot}));
+    EXPECT_EQ(LiesDarstellung(einstellungen),
+              (Darstellung{Erscheinung::System, Strahlfarbsatz::GruenUndRot}));
 }
 
 TEST(Darstellungswahl, Words_that_nobody_knows_count_as_none) {
