@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include "einstellungen.h"
+#include "erscheinungsbild.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
 #include "letztedateien.h"
@@ -46,7 +47,8 @@ void SchliesseDialoge() {
 } // namespace
 
 frmMain::frmMain(const QString& programmordner)
-    : erscheinungsbild(LiesDarstellung(DieEinstellungen())), ui(MacheForm(*this)), status(*ui->sbStatusBar),
+    : erscheinungsbild(std::make_unique<Erscheinungsbild>(LiesDarstellung(DieEinstellungen()))),
+      ui(MacheForm(*this)), status(*ui->sbStatusBar),
       menue(*this, [this](Befehl befehl, int index) { befehle.Klick(befehl, index); }) {
     QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));

@@ -2,7 +2,6 @@
 
 #include "ansichten.h"
 #include "befehlstabelle.h"
-#include "erscheinungsbild.h"
 #include "geraetebetrieb.h"
 #include "hauptmenue.h"
 #include "hauptteile.h"
@@ -26,6 +25,7 @@ class frmMain;
 
 class Vergleichsablauf;
 class frmDocument;
+class Erscheinungsbild;
 class Werkzeugleiste;
 class Willkommensseite;
 
@@ -138,7 +138,7 @@ private:
     void LiesGeraetZumVergleich() override;
     void BieteDarstellung() override;
 
-    Erscheinungsbild erscheinungsbild; ///< comes first: what is made below has its colours
+    std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;
     std::function<bool(bool)> portwechsel;

@@ -2,6 +2,7 @@
 
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmInfo.h"
 #include "frmInitHardware.h"
@@ -161,8 +162,8 @@ void frmMain::LiesGeraetZumVergleich() {
 
 void frmMain::BieteDarstellung() {
     QMenu* const auswahl =
-        MacheDarstellungsmenue(*this, erscheinungsbild.Gewaehlt(), [this](const Darstellung& gewaehlt) {
-            erscheinungsbild.WendeAn(gewaehlt);
+        MacheDarstellungsmenue(*this, erscheinungsbild->Gewaehlt(), [this](const Darstellung& gewaehlt) {
+            erscheinungsbild->WendeAn(gewaehlt);
             SchreibDarstellung(DieEinstellungen(), gewaehlt);
         });
     auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));

@@ -2,6 +2,7 @@
 
 #include "darstellung.h"
 
+#include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -50,10 +51,12 @@ void Umrande(QPainter& maler, const QStyleOption& vorgabe, const QRectF& rand, b
 }
 
 /// The frame of a group box begins below its title.
-QRectF Rahmen(QStyle::PrimitiveElement element, const QStyleOption& vorgabe, const QStyle& stil) {
+QRectF Rahmen(QStyle::PrimitiveElement element, const QStyleOption& vorgabe, const QWidget* widget) {
     if (element != QStyle::PE_FrameGroupBox)
         return vorgabe.rect;
-    const int titel = std::max(stil.pixelMetric(QStyle::PM_IndicatorHeight), vorgabe.fontMetrics.height());
+    const auto* const gruppe = qobject_cast<const QGroupBox*>(widget);
+    const bool hatTitel = gruppe != nullptr && !gruppe->title().isEmpty();
+    const int titel = hatTitel ? vorgabe.fontMetrics.height() : 0;
     return vorgabe.rect.adjusted(0, titel + LueckeUnterTitel, 0, 0);
 }
 
@@ -71,7 +74,7 @@ void Dunkelstil::drawPrimitive(PrimitiveElement element, const QStyleOption* vor
                                const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, vorgabe, maler, widget);
     if (Enthaelt(ImmerMitRand, element) || (IstHoherKontrast(vorgabe->palette) && Enthaelt(MitRand, element)))
-        Umrande(*maler, *vorgabe, Rahmen(element, *vorgabe, *this), element == PE_IndicatorRadioButton);
+        Umrande(*maler, *vorgabe, Rahmen(element, *vorgabe, widget), element == PE_IndicatorRadioButton);
 }
 
 void Dunkelstil::drawControl(ControlElement element, const QStyleOption* vorgabe, QPainter* maler,

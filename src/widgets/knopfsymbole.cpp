@@ -45,12 +45,21 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"frmReihenfolge/Command3", "loeschen"},
 };
 
+/// The name of one of several, such as "cmdBlankingmuster_2", without its index.
+std::string OhneIndex(const std::string& name) {
+    const auto strich = name.rfind('_');
+    if (strich == std::string::npos || name.find_first_not_of("0123456789", strich + 1) != std::string::npos)
+        return name;
+    return name.substr(0, strich);
+}
+
 } // namespace
 
 std::string_view SymbolFuerKnopf(const std::string& form, const std::string& name) {
+    const std::string allgemein = OhneIndex(name);
     const std::string genau = form + "/" + name;
     const auto* const da = std::ranges::find_if(
-        DieSymbole, [&](const auto& zeile) { return zeile.name == name || zeile.name == genau; });
+        DieSymbole, [&](const auto& zeile) { return zeile.name == allgemein || zeile.name == genau; });
     return da == std::ranges::end(DieSymbole) ? std::string_view() : da->symbol;
 }
 

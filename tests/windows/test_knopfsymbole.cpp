@@ -59,6 +59,16 @@ TEST(Knopfsymbole, A_form_gives_its_buttons_their_pictures_with_its_texts) {
     EXPECT_TRUE(fremd.icon().isNull());
 }
 
+TEST(Knopfsymbole, One_of_several_buttons_has_the_picture_of_all) {
+    EXPECT_EQ(SymbolFuerKnopf("frmX", "cmdBlankingmuster_2"), "blanking");
+    EXPECT_EQ(SymbolFuerKnopf("frmX", "cmdBlankingmuster_x"), "");
+}
+
+TEST(Knopfsymbole, A_name_that_says_nothing_counts_in_its_form_alone) {
+    EXPECT_EQ(SymbolFuerKnopf("frmInfo", "Command1"), "ok");
+    EXPECT_EQ(SymbolFuerKnopf("frmReihenfolge", "Command1"), "");
+}
+
 TEST(Knopfsymbole, A_button_that_has_a_picture_keeps_it) {
     QDialog form;
     QPushButton& ok = Knopf(form, "cmdOK");
