@@ -187,7 +187,6 @@ void frmVergleich::Zeige() {
     ZeigeKopf();
     FuelleBaum();
     WendeFilterAn();
-    ZeigeAuswahl();
 }
 
 void frmVergleich::FuelleQuellen(Seitenwahl wahl) {
@@ -229,10 +228,9 @@ void frmVergleich::FuelleBaum() {
         gruppen.back()->addChild(NeueZeile(i, angekreuzte.contains(zeilen[i].stelle)));
     }
     ui->trvVergleich->addTopLevelItems(gruppen);
-    for (QTreeWidgetItem* const gruppe : gruppen) {
+    for (QTreeWidgetItem* const gruppe : gruppen)
         gruppe->setFirstColumnSpanned(true);
-        gruppe->setExpanded(true);
-    }
+    ui->trvVergleich->expandAll();
 }
 
 QTreeWidgetItem* frmVergleich::NeueZeile(std::size_t nummer, bool angekreuzt) {
@@ -258,6 +256,8 @@ bool frmVergleich::IstGezeigt(const Vergleichsworte& zeile) const {
     if (ui->chkNurUnterschiede->isChecked() && !Unterscheidet(zeile))
         return false;
     const QString gesucht = ui->txtSuchen->text().trimmed();
+    if (gesucht.isEmpty())
+        return true;
     return std::ranges::any_of(
         std::initializer_list<const std::string*>{&zeile.gruppe, &zeile.name, &zeile.a, &zeile.b,
                                                   &zeile.registertext},

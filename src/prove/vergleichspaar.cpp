@@ -72,8 +72,9 @@ std::optional<Seitenwahl> Vergleichspaar::Geberseite() const {
 }
 
 bool Vergleichspaar::IstUebernehmbar(const Parameterstelle& stelle) const {
-    const auto zeile = std::ranges::find(ergebnis.zeilen, stelle, &Vergleichszeile::stelle);
-    return Geberseite() && zeile != ergebnis.zeilen.end() && varnoth::IstUebernehmbar(*zeile);
+    const auto zeile = std::ranges::lower_bound(ergebnis.zeilen, stelle, {}, &Vergleichszeile::stelle);
+    return Geberseite() && zeile != ergebnis.zeilen.end() && zeile->stelle == stelle &&
+           varnoth::IstUebernehmbar(*zeile);
 }
 
 Uebernahme Vergleichspaar::Uebernimm(const Abbild& inBearbeitung, const Parametermenge& stellen) const {
