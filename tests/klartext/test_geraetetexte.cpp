@@ -57,7 +57,7 @@ TEST(GeraetetexteTest, The_bus_types_have_their_names) {
 }
 
 TEST(GeraetetexteTest, Format_0x040F_shows_38_4_KB_0_and_a_question_mark_for_odd_parity) {
-    EXPECT_EQ(Formattext(0x040F), std::string(Anfang) + "38,4 KB, 0, ?, ");
+    EXPECT_EQ(Formattext(0x040F), std::string(Anfang).append("38,4 KB, 0, ?, "));
 }
 
 TEST(GeraetetexteTest, Each_baud_code_has_its_text) {
