@@ -29,6 +29,8 @@ public:
     void Fuelle(std::int32_t typ);
     /// Stores what the controls show.
     void SchreibeZurueck() const;
+    /// Lets what can be used follow the mode that is selected.
+    void FolgeArt();
 
 signals:
     /// Filling found a mode in which the controller can be told to start sending, or one in which it cannot.
