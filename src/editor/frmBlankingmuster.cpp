@@ -4,10 +4,12 @@
 
 #include "einstellungen.h"
 #include "fensterplatz.h"
+#include "klartext.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
-#include "texte.h"
+#include "textmitwerten.h"
+#include "verlauf.h"
 
 #include <QButtonGroup>
 
@@ -20,6 +22,7 @@ namespace {
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
 constexpr auto Abschnitt = "frmBlankingmuster";
+constexpr std::int16_t TextVonNach = 9863;
 constexpr std::int16_t TextErstesOptikteil = 5200;
 constexpr std::int16_t TextAnzahlGeblankter = 4019;
 
@@ -48,6 +51,11 @@ frmBlankingmuster::frmBlankingmuster(QWidget* parent)
     ui->lblHinweis->setSizePolicy(platz);
     NimmVorgabenWeg();
     LokalisiereForm(*this);
+    verlauf = new Verlauf(*this, *ui->knoepfe,
+                          {.stand = [this] { return Stand(); },
+                           .zeige = [this](const QVariantMap& stand) { StelleHer(stand); },
+                           .worte = [this] { return Aenderung(); }});
+    ui->BeamBar1->installEventFilter(this);
     Verbinde();
     SetzeBedienart(ui->Option1->checkedId());
     StellePlatzHer(*this);
@@ -58,11 +66,18 @@ frmBlankingmuster::~frmBlankingmuster() = default;
 void frmBlankingmuster::Verbinde() {
     connect(ui->cmdOK, &QPushButton::clicked, this, [this] { SchreibeZurueck(); });
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(ui->cmdAllesBlanking, &QPushButton::clicked, this,
-            [this] { Zeige(Geblankte(Gezeigte().size(), true)); });
-    connect(ui->cmdKeinBlanking, &QPushButton::clicked, this,
-            [this] { Zeige(Geblankte(Gezeigte().size(), false)); });
-    connect(ui->cmdReset, &QPushButton::clicked, this, [this] { Fuelle(); });
+    connect(ui->cmdAllesBlanking, &QPushButton::clicked, this, [this] {
+        Zeige(Geblankte(Gezeigte().size(), true));
+        verlauf->Merke();
+    });
+    connect(ui->cmdKeinBlanking, &QPushButton::clicked, this, [this] {
+        Zeige(Geblankte(Gezeigte().size(), false));
+        verlauf->Merke();
+    });
+    connect(ui->cmdReset, &QPushButton::clicked, this, [this] {
+        Fuelle();
+        verlauf->Merke();
+    });
     connect(ui->Option1, &QButtonGroup::idToggled, this, [this](int art, bool gewaehlt) {
         if (gewaehlt)
             SetzeBedienart(art);
@@ -83,6 +98,41 @@ void frmBlankingmuster::InitFormBlankingmuster(std::int32_t Index) {
     ui->BeamBar1->SetzeStrahlabstand(Register(Optikteil, spezifisch::Aufloesung));
     Fuelle();
     anfangs = Gezeigte();
+    gemerkte = anfangs;
+    verlauf->Beginne();
+}
+
+/// What one movement of the mouse or one key has blanked is one step.
+bool frmBlankingmuster::eventFilter(QObject* element, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::MouseButtonRelease || ereignis->type() == QEvent::KeyRelease)
+        verlauf->MerkeDanach();
+    return Eingabedialog::eventFilter(element, ereignis);
+}
+
+QVariantMap frmBlankingmuster::Stand() const {
+    QVariantList strahlen;
+    for (const bool geblankt : Gezeigte())
+        strahlen.append(geblankt);
+    return {{"muster", strahlen}};
+}
+
+void frmBlankingmuster::StelleHer(const QVariantMap& stand) {
+    Geblankte geblankte;
+    for (const QVariant& geblankt : stand.value("muster").toList())
+        geblankte.push_back(geblankt.toBool());
+    Zeige(geblankte);
+    gemerkte = geblankte;
+}
+
+QString frmBlankingmuster::Aenderung() {
+    const auto worte = [](const Geblankte& geblankte) {
+        return Klartext(Spezifisch, spezifisch::Blankingmuster, MusterAus(geblankte));
+    };
+    const std::string aenderung =
+        LadeTextMit(TextVonNach, {Parametername(Spezifisch, spezifisch::Blankingmuster), worte(gemerkte),
+                                  worte(Gezeigte())});
+    gemerkte = Gezeigte();
+    return QString::fromStdString(aenderung);
 }
 
 bool frmBlankingmuster::IstGeaendert() const {

@@ -12,6 +12,8 @@ namespace Ui {
 class frmBlankingmuster;
 }
 
+class Verlauf;
+
 /// Lets the user choose beam by beam what an optical part blanks. The caller makes it, runs
 /// InitFormBlankingmuster and then exec(). The pattern goes into the image only with OK; the window's place
 /// is kept in the settings file.
@@ -28,6 +30,7 @@ public:
 protected:
     void showEvent(QShowEvent* ereignis) override;
     bool IstGeaendert() const override;
+    bool eventFilter(QObject* element, QEvent* ereignis) override;
 
 private:
     void Verbinde();
@@ -38,9 +41,14 @@ private:
     void SetzeBedienart(int art);
     void SchreibeZurueck();
     void SpeicherePlatz() const;
+    QVariantMap Stand() const;
+    void StelleHer(const QVariantMap& stand);
+    QString Aenderung();
 
     std::unique_ptr<Ui::frmBlankingmuster> ui;
-    Geblankte anfangs; ///< what was shown at first
+    Verlauf* verlauf;
+    Geblankte anfangs;  ///< what was shown at first
+    Geblankte gemerkte; ///< what was shown when a change was last noted
     std::int16_t Optikteil = 0;
     bool warSichtbar = false;
 };

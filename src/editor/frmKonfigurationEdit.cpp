@@ -1,5 +1,6 @@
 #include "frmKonfigurationEdit.h"
 
+#include "aenderungsworte.h"
 #include "eingabestand.h"
 #include "frmBlankingmuster.h"
 #include "frmReihenfolge.h"
@@ -9,9 +10,16 @@
 #include "registeradressen.h"
 #include "schnittstelle.h"
 #include "ui_frmKonfigurationEdit.h"
+#include "verlauf.h"
 #include "zykluszeiten.h"
 
+#include <QButtonGroup>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
+
+#include <tuple>
+#include <vector>
 
 namespace varnoth {
 
@@ -22,6 +30,36 @@ constexpr int ErsteOptikseite = 1;
 bool WechseltSeite(const QKeyEvent& taste) {
     return (taste.key() == Qt::Key_Tab || taste.key() == Qt::Key_Backtab) &&
            taste.modifiers().testFlag(Qt::ControlModifier);
+}
+
+constexpr std::int16_t TextEingabe = 9864;
+
+/// A parameter that a sub-editor edits.
+struct Nebenregister {
+    QString name;
+    Speicherbereich bereich;
+    std::int16_t adresse;
+    int optikteil;
+};
+
+std::vector<Nebenregister> Nebenregisterliste() {
+    std::vector<Nebenregister> alle{
+        {"datenblock", Speicherbereich::Kommunikationsdaten, kommunikation::Datenblock, 0}};
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        alle.push_back({QStringLiteral("muster_%1").arg(teil), Speicherbereich::SpezifischeGeraetedaten,
+                        spezifisch::Blankingmuster, teil});
+    return alle;
+}
+
+QVariantList AlsListe(const Werte& werte) {
+    return {werte.begin(), werte.end()};
+}
+
+Werte AusListe(const QVariantList& liste) {
+    Werte werte;
+    for (const QVariant& wert : liste)
+        werte.push_back(wert.toInt());
+    return werte;
 }
 
 void OeffneBlankingmuster(QWidget* eltern, int optikteil) {
@@ -44,6 +82,10 @@ frmKonfigurationEdit::frmKonfigurationEdit(QWidget* parent)
         optikseiten.at(static_cast<std::size_t>(teil))->SetzeOptikteil(teil);
     NimmVorgabenWeg();
     VerbindeKnoepfe();
+    verlauf = new Verlauf(*this, *ui->knoepfe,
+                          {.stand = [this] { return Stand(); },
+                           .zeige = [this](const QVariantMap& stand) { StelleHer(stand); },
+                           .worte = [this] { return Aenderung(); }});
     LokalisiereForm(*this);
 }
 
@@ -59,10 +101,12 @@ void frmKonfigurationEdit::VerbindeKnoepfe() {
         connect(seite, &Optikseite::BlankingmusterVerlangt, this, [this, seite](int teil) {
             OeffneBlankingmuster(this, teil);
             seite->AktualisiereMarken();
+            verlauf->Merke();
         });
     connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this, [this] {
         OeffneReihenfolge(this);
         ui->picOptions_5->AktualisiereMarken();
+        verlauf->Merke();
     });
     connect(ui->picOptions_5, &Kommunikationsseite::AutosendStartbar, this, [this](bool startbar) {
         if (umfeld.autosendStartbar)
@@ -80,6 +124,61 @@ void frmKonfigurationEdit::InitKonfiguration(Editorumfeld neues) {
     }
     SeitenFuellen();
     anfangsstand = EingabestandVon(*this);
+    gemerktes = Geschriebenes();
+    verlauf->Beginne();
+    VerfolgeAenderungen();
+}
+
+/// What follows from a change by itself belongs to the same step: of a group's button the page hears first.
+void frmKonfigurationEdit::VerfolgeAenderungen() {
+    const auto merke = [this] { verlauf->Merke(); };
+    for (const QComboBox* const box : findChildren<QComboBox*>())
+        connect(box, &QComboBox::currentIndexChanged, verlauf, merke);
+    for (const QButtonGroup* const gruppe : findChildren<QButtonGroup*>())
+        connect(gruppe, &QButtonGroup::idClicked, verlauf, merke);
+    for (const QAbstractButton* const knopf : findChildren<QAbstractButton*>())
+        if (knopf->isCheckable() && knopf->group() == nullptr)
+            connect(knopf, &QAbstractButton::clicked, verlauf, merke);
+    for (const QLineEdit* const feld : findChildren<QLineEdit*>())
+        connect(feld, &QLineEdit::editingFinished, verlauf, merke);
+}
+
+/// The image as it would be if the dialog were applied now. The one in use is put back as it was.
+Abbild frmKonfigurationEdit::Geschriebenes() {
+    const Abbild vorher = modDaten::DasAbbild();
+    const bool geaendert = modDaten::IstGeaendert() != False;
+    SeitenZurueckschreiben();
+    const Abbild geschrieben = modDaten::DasAbbild();
+    modDaten::ErsetzeAbbild(vorher);
+    if (!geaendert)
+        modDaten::LoescheGeaendert();
+    return geschrieben;
+}
+
+/// The controls, and what the sub-editors have stored.
+QVariantMap frmKonfigurationEdit::Stand() const {
+    QVariantMap stand = EingabestandVon(*this);
+    for (const Nebenregister& neben : Nebenregisterliste())
+        stand[neben.name] = AlsListe(modDaten::HoleParameter(neben.bereich, neben.adresse, neben.optikteil));
+    return stand;
+}
+
+void frmKonfigurationEdit::StelleHer(const QVariantMap& stand) {
+    for (const Nebenregister& neben : Nebenregisterliste()) {
+        const Werte werte = AusListe(stand.value(neben.name).toList());
+        if (werte != modDaten::HoleParameter(neben.bereich, neben.adresse, neben.optikteil))
+            std::ignore = modDaten::SetzeParameter(neben.bereich, neben.adresse, werte, neben.optikteil);
+    }
+    StelleEingabestandHer(*this, stand);
+    ui->picOptions_5->FolgeArt();
+    gemerktes = Geschriebenes();
+}
+
+QString frmKonfigurationEdit::Aenderung() {
+    const Abbild jetzt = Geschriebenes();
+    std::string worte = Aenderungsworte(gemerktes, jetzt);
+    gemerktes = jetzt;
+    return QString::fromStdString(worte.empty() ? LadeText(TextEingabe) : worte);
 }
 
 bool frmKonfigurationEdit::IstGeaendert() const {

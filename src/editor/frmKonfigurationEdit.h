@@ -1,5 +1,6 @@
 #pragma once
 
+#include "abbild.h"
 #include "boolean.h"
 #include "eingabedialog.h"
 
@@ -17,6 +18,7 @@ class frmKonfigurationEdit;
 }
 
 class Optikseite;
+class Verlauf;
 
 /// What the main window has to do with the editor.
 struct Editorumfeld {
@@ -50,6 +52,11 @@ private:
     void EntferneFehlendeTeile();
     void SeitenFuellen();
     void SeitenZurueckschreiben();
+    void VerfolgeAenderungen();
+    Abbild Geschriebenes();
+    QVariantMap Stand() const;
+    void StelleHer(const QVariantMap& stand);
+    QString Aenderung();
     void Uebernimm(Boolean mitDownload);
     void SucheGeraet();
     void ErlaubeDownload();
@@ -58,6 +65,8 @@ private:
     std::unique_ptr<Ui::frmKonfigurationEdit> ui;
     std::array<Optikseite*, 4> optikseiten;
     Editorumfeld umfeld;
+    Verlauf* verlauf;
+    Abbild gemerktes;         ///< what the dialog would have written when a change was last noted
     QVariantMap anfangsstand; ///< what the controls held when they were filled
     Boolean DownloadAngefordert = False;
     bool angestossen = false;

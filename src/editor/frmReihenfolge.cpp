@@ -5,7 +5,9 @@
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "textmitwerten.h"
 #include "umgebung.h"
+#include "verlauf.h"
 
 #include <QButtonGroup>
 #include <QShortcut>
@@ -20,6 +22,9 @@ namespace {
 constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
 // This box speaks to the programmer, not to the user: no sign, no translation.
+constexpr std::int16_t TextEingefuegt = 9865;
+constexpr std::int16_t TextGeloescht = 9866;
+
 constexpr auto Fehlertext = "Error in Ausgabedaten für Autosend, Registeradressen";
 
 void WaehleId(QButtonGroup& gruppe, int id) {
@@ -35,11 +40,16 @@ frmReihenfolge::frmReihenfolge(QWidget* parent)
     NimmVorgabenWeg();
     LokalisiereForm(*this);
     ui->List1->setAccessibleName(windowTitle());
+    verlauf = new Verlauf(*this, *ui->knoepfe,
+                          {.stand = [this] { return Stand(); },
+                           .zeige = [this](const QVariantMap& stand) { StelleHer(stand); },
+                           .worte = [this] { return aenderung; }});
     Nummeriere();
     Verbinde();
     VerbindeListe();
     Waehle(Wahl());
     Lade();
+    verlauf->Beginne();
 }
 
 frmReihenfolge::~frmReihenfolge() = default;
@@ -123,18 +133,38 @@ void frmReihenfolge::SperreUnpassende(const Eintragswahl& wahl) {
 
 void frmReihenfolge::FuegeEinBei(int stelle) {
     const int platz = std::max(0, stelle);
-    if (FuegeEin(liste, platz, Eintragswort(Wahl())))
-        ZeigeListe(platz);
-    else
-        ZeigeWarnung(GrenzeText());
+    const std::int16_t eintrag = Eintragswort(Wahl());
+    if (!FuegeEin(liste, platz, eintrag))
+        return ZeigeWarnung(GrenzeText());
+    ZeigeListe(platz);
+    Merke(TextEingefuegt, eintrag, ui->List1->currentRow());
 }
 
 void frmReihenfolge::LoescheGewaehlten() {
     const int gewaehlt = ui->List1->currentRow();
     if (gewaehlt < 0)
         return;
+    const std::int16_t eintrag = liste.at(static_cast<std::size_t>(gewaehlt));
     Loesche(liste, gewaehlt);
     ZeigeListe(gewaehlt);
+    Merke(TextGeloescht, eintrag, gewaehlt);
+}
+
+void frmReihenfolge::Merke(std::int16_t text, std::int16_t eintrag, int platz) {
+    aenderung = QString::fromStdString(LadeTextMit(text, {Eintragstext(eintrag), std::to_string(platz + 1)}));
+    verlauf->Merke();
+}
+
+QVariantMap frmReihenfolge::Stand() const {
+    return {{"liste", QVariantList(liste.begin(), liste.end())}};
+}
+
+void frmReihenfolge::StelleHer(const QVariantMap& stand) {
+    const QVariantList eintraege = stand.value("liste").toList();
+    std::ranges::transform(eintraege, liste.begin(), [](const QVariant& eintrag) {
+        return static_cast<std::int16_t>(eintrag.toInt());
+    });
+    ZeigeListe(std::max(0, ui->List1->currentRow()));
 }
 
 void frmReihenfolge::UebernimmWahl(std::int16_t eintrag) {

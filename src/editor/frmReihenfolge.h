@@ -3,6 +3,9 @@
 #include "datenblock.h"
 #include "eingabedialog.h"
 
+#include <QString>
+#include <QVariantMap>
+
 #include <array>
 #include <memory>
 
@@ -14,6 +17,8 @@ namespace varnoth {
 namespace Ui {
 class frmReihenfolge;
 }
+
+class Verlauf;
 
 /// Edits which values the controller sends in a data block, and in which order. It takes the list from the
 /// image when it is made; the list goes back into the image only with OK.
@@ -40,8 +45,13 @@ private:
     void LoescheGewaehlten();
     void UebernimmWahl(std::int16_t eintrag);
     void SchreibeZurueck();
+    void Merke(std::int16_t text, std::int16_t eintrag, int platz);
+    QVariantMap Stand() const;
+    void StelleHer(const QVariantMap& stand);
 
     std::unique_ptr<Ui::frmReihenfolge> ui;
+    Verlauf* verlauf;
+    QString aenderung; ///< what was done last, in words
     Eintragsliste liste{};
     Eintragsliste geladene{}; ///< the list as it came from the image
 };

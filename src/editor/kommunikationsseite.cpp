@@ -132,6 +132,10 @@ void Kommunikationsseite::Fuelle(std::int32_t typ) {
     FuelleAutosend();
     FuelleAutosendformat();
     PasseAnBusAn();
+    FolgeArt();
+}
+
+void Kommunikationsseite::FolgeArt() {
     Sperre(BedienungFuer(AutosendKlasse(Art()), derBustyp));
     AktualisiereMarken();
 }

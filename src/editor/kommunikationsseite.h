@@ -33,6 +33,8 @@ public:
     void SchreibeZurueck() const;
     /// Looks again at which settings differ from the factory default.
     void AktualisiereMarken();
+    /// Lets what can be used follow the mode that is selected.
+    void FolgeArt();
 
 signals:
     /// Filling found a mode in which the controller can be told to start sending, or one in which it cannot.

@@ -9,6 +9,8 @@ namespace varnoth {
 
 namespace {
 
+constexpr const char* Hinweis = "Hinweis"; // property of a box: what it says while nothing is selected
+
 const QString LaengsterUebertragenerWert = QStringLiteral("(255)");
 
 QStringList AlsListe(const std::vector<std::string>& texte) {
@@ -25,8 +27,15 @@ void ZeigeListe(QComboBox& box, const Auswahlliste& liste, std::int32_t zyklus, 
     box.clear();
     box.addItems(AlsListe(Postentexte(liste, zyklus, format)));
     box.setCurrentIndex(AuswahlFuer(liste, registerwert));
-    box.setToolTip(QString::fromStdString(Hinweistext(liste, registerwert)));
+    box.setProperty(Hinweis, QString::fromStdString(Hinweistext(liste, registerwert)));
+    box.setToolTip({});
+    ZeigeHinweis(box);
     QObject::connect(&box, &QComboBox::currentIndexChanged, &box, [&box] { box.setToolTip({}); });
+}
+
+void ZeigeHinweis(QComboBox& box) {
+    if (box.currentIndex() == KeineAuswahl)
+        box.setToolTip(box.property(Hinweis).toString());
 }
 
 std::int32_t GewaehlterWert(const QComboBox& box, const Auswahlliste& liste) {

@@ -11,6 +11,9 @@ namespace varnoth {
 /// leaves the box empty; its tool tip then tells the value until something is selected.
 void ZeigeListe(QComboBox& box, const Auswahlliste& liste, std::int32_t zyklus, std::int32_t registerwert);
 
+/// Lets the tool tip tell the value that the box was filled with, if nothing is selected.
+void ZeigeHinweis(QComboBox& box);
+
 /// The register value of the selected item.
 std::int32_t GewaehlterWert(const QComboBox& box, const Auswahlliste& liste);
 

@@ -7,6 +7,7 @@
 #include "registeradressen.h"
 #include "texte.h"
 
+#include <QUndoView>
 #include <array>
 
 namespace varnoth {
@@ -345,6 +346,37 @@ TEST_F(FrmBlankingmusterTest, The_smallest_window_cuts_the_hint_off_in_no_langua
         EXPECT_GE(hinweis.width(), hinweis.sizeHint().width()) << sprache;
         EXPECT_GE(hinweis.height(), hinweis.sizeHint().height()) << sprache;
     }
+}
+
+TEST_F(FrmBlankingmusterTest, Blanked_beams_are_undone_and_done_again) {
+    Oeffne();
+    Klicke(dialog, "cmdAllesBlanking");
+    Klicke(dialog, "cmdKeinBlanking");
+    QTest::keyClick(&dialog, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(GezeigteGeblankte().size(), 20U);
+    QTest::keyClick(&dialog, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(GezeigteGeblankte().empty());
+    QTest::keyClick(&dialog, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(GezeigteGeblankte().size(), 20U);
+}
+
+TEST_F(FrmBlankingmusterTest, A_beam_blanked_with_the_mouse_is_a_step_told_as_ranges) {
+    Oeffne();
+    KlickeStrahl(4);
+    ASSERT_EQ(GezeigteGeblankte(), std::vector{4});
+    QTest::keyClick(&dialog, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(GezeigteGeblankte().empty());
+    const auto* const modell = Kind<QUndoView>(dialog, "lstVerlauf").model();
+    ASSERT_EQ(modell->rowCount(), 2);
+    EXPECT_EQ(modell->index(1, 0).data().toString(), "Blankingmuster: keine → 5");
+}
+
+TEST_F(FrmBlankingmusterTest, After_undoing_everything_closing_asks_nothing) {
+    Oeffne();
+    Klicke(dialog, "cmdAllesBlanking");
+    QTest::keyClick(&dialog, Qt::Key_Z, Qt::ControlModifier);
+    dialog.close();
+    EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 } // namespace varnoth

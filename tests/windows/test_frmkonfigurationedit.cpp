@@ -18,7 +18,10 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTest>
 #include <QTimer>
+#include <QToolButton>
+#include <QUndoView>
 
 #include <span>
 #include <utility>
@@ -865,6 +868,145 @@ TEST_F(KonfigurationEditTest, Every_option_reads_as_the_words_for_its_value) {
         for (std::size_t i = 0; i < namen.size(); ++i)
             EXPECT_EQ(K<QRadioButton>(namen[i]).text().toStdString(), LadeText(optionen[i].text)) << namen[i];
     }
+}
+
+/// The editor with a part of 64 beams, in front.
+class EditorverlaufTest : public KonfigurationEditTest {
+protected:
+    EditorverlaufTest() {
+        Oeffne().show();
+        dialog->activateWindow();
+        EXPECT_TRUE(pruefung::WarteBis([&] { return dialog->isActiveWindow(); }));
+    }
+    void Rueckgaengig() { QTest::keyClick(dialog.get(), Qt::Key_Z, Qt::ControlModifier); }
+    void Wiederhole() { QTest::keyClick(dialog.get(), Qt::Key_Y, Qt::ControlModifier); }
+    /// The steps of the list, the state at the beginning among them.
+    QStringList Liste() {
+        const auto& ansicht = K<QUndoView>("lstVerlauf");
+        QStringList zeilen;
+        for (int zeile = 0; zeile < ansicht.model()->rowCount(); ++zeile)
+            zeilen += ansicht.model()->index(zeile, 0).data().toString();
+        return zeilen;
+    }
+};
+
+TEST_F(EditorverlaufTest, A_changed_list_is_undone_and_done_again) {
+    QComboBox& box = Box("cboAuflösung_0");
+    const int vorher = box.currentIndex();
+    box.setCurrentIndex(3);
+    Rueckgaengig();
+    EXPECT_EQ(box.currentIndex(), vorher);
+    Wiederhole();
+    EXPECT_EQ(box.currentIndex(), 3);
+}
+
+TEST_F(EditorverlaufTest, Steps_are_undone_one_by_one_in_reverse) {
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    Box("cboReichweite_1").setCurrentIndex(5);
+    Rueckgaengig();
+    EXPECT_EQ(Box("cboAuflösung_0").currentIndex(), 3);
+    EXPECT_EQ(Box("cboReichweite_1").currentIndex(), 3);
+    Rueckgaengig();
+    EXPECT_EQ(Box("cboAuflösung_0").currentIndex(), 0);
+}
+
+TEST_F(EditorverlaufTest, The_list_tells_the_changes_in_words_and_a_button_appears_with_the_first) {
+    auto& knopf = K<QToolButton>("cmdVerlauf");
+    EXPECT_FALSE(knopf.isVisible());
+    Box("cboAuflösung_0").setCurrentIndex(2);
+    Klicke("optAutosendmitTriggerModbus");
+    EXPECT_TRUE(knopf.isVisible());
+    EXPECT_EQ(knopf.text(), "Geändert: 2");
+    const QStringList liste = Liste();
+    ASSERT_EQ(liste.size(), 3);
+    EXPECT_EQ(liste[0], "Stand beim Öffnen");
+    EXPECT_EQ(liste[1], "K1 Auflösung: 5mm → 20mm");
+    EXPECT_TRUE(liste[2].startsWith("Autosend: ")) << liste[2].toStdString();
+    Rueckgaengig();
+    EXPECT_EQ(knopf.text(), "Geändert: 1");
+}
+
+TEST_F(EditorverlaufTest, What_follows_from_a_mode_comes_back_with_it) {
+    ASSERT_TRUE(Bedienbar("cbolOhneTriggerAutosendrate"));
+    Klicke("optkeinAutosend");
+    ASSERT_FALSE(Bedienbar("cbolOhneTriggerAutosendrate"));
+    Rueckgaengig();
+    EXPECT_TRUE(Bedienbar("cbolOhneTriggerAutosendrate"));
+    EXPECT_TRUE(Angewaehlt("optAutosendohneTriggerModbus"));
+    EXPECT_FALSE(Angewaehlt("optkeinAutosend"));
+}
+
+TEST_F(EditorverlaufTest, After_undoing_everything_closing_asks_nothing) {
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    Klicke("optkeinAutosend");
+    Rueckgaengig();
+    Rueckgaengig();
+    dialog->close();
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(EditorverlaufTest, A_change_that_was_done_again_is_asked_for) {
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    Rueckgaengig();
+    Wiederhole();
+    umgebung.antworten = {Antwort::Abbrechen};
+    dialog->close();
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(EditorverlaufTest, Undoing_and_cancelling_leave_image_and_mark_alone) {
+    const auto vorher = Abbild();
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    Klicke("optkeinAutosend");
+    Rueckgaengig();
+    Klicke("cmdCancel");
+    EXPECT_EQ(Abbild(), vorher);
+    EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+TEST_F(EditorverlaufTest, A_field_undoes_its_own_typing_first_and_what_was_typed_before_is_a_step) {
+    auto& feld = K<QLineEdit>("txtPausenzeit");
+    K<QTabWidget>("tbsOptions").setCurrentIndex(5);
+    feld.setFocus();
+    feld.selectAll();
+    QTest::keyClicks(&feld, "125");
+    QTest::keyClick(&feld, Qt::Key_Return);
+    feld.setFocus();
+    QTest::keyClicks(&feld, "9");
+    QTest::keyClick(&feld, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(feld.text(), "125");
+    QTest::keyClick(&feld, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(feld.text(), "0");
+}
+
+TEST_F(EditorverlaufTest, Undoing_back_to_a_value_outside_its_list_tells_that_value_again) {
+    Setze(Spezifisch, spezifisch::Aufloesung, 99, 0);
+    Oeffne().show();
+    dialog->activateWindow();
+    ASSERT_TRUE(pruefung::WarteBis([&] { return dialog->isActiveWindow(); }));
+    QComboBox& box = Box("cboAuflösung_0");
+    const QString hinweis = box.toolTip();
+    ASSERT_NE(hinweis, "");
+    box.setCurrentIndex(1);
+    Rueckgaengig();
+    EXPECT_EQ(box.currentIndex(), -1);
+    EXPECT_EQ(box.toolTip(), hinweis);
+}
+
+TEST_F(EditorverlaufTest, What_a_sub_editor_has_stored_is_a_step_of_the_editor) {
+    const auto vorher = modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock);
+    QTimer::singleShot(0, dialog.get(), [] {
+        QWidget* const fenster = QApplication::activeModalWidget();
+        fenster->findChild<QAbstractButton*>("Command3")->click();
+        fenster->findChild<QAbstractButton*>("cmdOK")->click();
+    });
+    Klicke("cmdReihenfolge");
+    ASSERT_NE(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock), vorher);
+    ASSERT_EQ(Liste().size(), 2);
+    Rueckgaengig();
+    EXPECT_EQ(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock), vorher);
 }
 
 } // namespace varnoth

@@ -6,6 +6,7 @@
 #include "texte.h"
 
 #include <QListWidget>
+#include <QUndoView>
 
 #include <memory>
 
@@ -337,6 +338,37 @@ TEST_F(FrmReihenfolgeTest, The_texts_are_in_the_language_of_the_moment) {
     for (const auto& [name, text] : texte)
         EXPECT_EQ(Knopf(Dialog(), name).text(), text);
     EXPECT_EQ(Zeilen(), QStringList("Beam data:C2"));
+}
+
+TEST_F(FrmReihenfolgeTest, Inserted_and_deleted_entries_are_undone_and_done_again) {
+    Oeffne({0x0014, 0x0108});
+    Druecke("Command3");
+    Druecke("Command2");
+    ASSERT_EQ(Zeilen(), QStringList({"TUMin:K1", "Status:Varnoth"}));
+    QTest::keyClick(&Dialog(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Zeilen(), QStringList({"TUMin:K1"}));
+    QTest::keyClick(&Dialog(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Zeilen(), QStringList({"Status:Varnoth", "TUMin:K1"}));
+    QTest::keyClick(&Dialog(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Zeilen(), QStringList({"TUMin:K1"}));
+}
+
+TEST_F(FrmReihenfolgeTest, The_list_of_changes_names_entry_and_place) {
+    Oeffne({0x0014, 0x0108});
+    Druecke("Command3");
+    Druecke("Command2");
+    const auto* const modell = Kind<QUndoView>(Dialog(), "lstVerlauf").model();
+    ASSERT_EQ(modell->rowCount(), 3);
+    EXPECT_EQ(modell->index(1, 0).data().toString(), "Status:Varnoth gelöscht an Platz 1");
+    EXPECT_EQ(modell->index(2, 0).data().toString(), "Status:Varnoth eingefügt an Platz 2");
+}
+
+TEST_F(FrmReihenfolgeTest, After_undoing_everything_closing_asks_nothing) {
+    Oeffne({0x0014, 0x0108});
+    Druecke("Command3");
+    QTest::keyClick(&Dialog(), Qt::Key_Z, Qt::ControlModifier);
+    Dialog().close();
+    EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 } // namespace varnoth
