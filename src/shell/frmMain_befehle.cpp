@@ -13,6 +13,7 @@
 #include "lokalisiereform.h"
 #include "qttexte.h"
 #include "schnittstelle.h"
+#include "sicherungsablauf.h"
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
@@ -42,6 +43,7 @@ void frmMain::MenuAusführen() {
     befehle.FuehreAus(*this);
     ZeigeWillkommen();
     vergleich->Erneuere();
+    sicherungen->Erneuere();
 }
 
 void frmMain::mnuBeenden_Click() {
@@ -134,6 +136,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     menue.ZeigeFundorte();
     leiste->Lokalisiere();
     ansichten->Lokalisiere();
+    sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -166,6 +169,14 @@ void frmMain::BieteDarstellung() {
             SchreibDarstellung(DieEinstellungen(), gewaehlt);
         });
     auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));
+}
+
+void frmMain::ZeigeSicherungen() {
+    sicherungen->Zeige();
+}
+
+void frmMain::OeffneSicherung() {
+    LadeDatei(sicherungen->ZuOeffnende());
 }
 
 void frmMain::ZeigeSimulation() {

@@ -3,9 +3,10 @@
 #include "geraetestand.h"
 <<<<<<< HEAD
 #include "nachlese.h"
-    =======
+    == == ==
+    =
 #include "registertext.h"
-    >>>>>>> h4
+        >>>>>>> h4
 #include "schreibvorgang.h"
 #include "seriennummer.h"
 #include "texte.h"
@@ -13,7 +14,7 @@
 #include <algorithm>
 #include <tuple>
 
-    namespace varnoth {
+        namespace varnoth {
 
     namespace {
 

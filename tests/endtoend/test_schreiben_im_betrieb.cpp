@@ -223,6 +223,28 @@ TEST_F(SchreibenImBetrieb, A_broken_write_is_listed_and_what_was_before_is_writt
     EXPECT_EQ(alle[0].angaben.anlass, Sicherungsanlass::VorDemVerbinden);
 }
 
+TEST_F(SchreibenImBetrieb, A_backup_is_opened_from_the_window_of_backups) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(false);
+    ASSERT_TRUE(Bearbeite());
+    ASSERT_TRUE(LaufeBis(IstLive));
+    ASSERT_TRUE(FuehreAus("mnuSicherungen"));
+    QWidget* const fenster = SichtbaresFenster("frmSicherungen");
+    ASSERT_NE(fenster, nullptr);
+    auto& liste = Kind<QTreeWidget>(*fenster, "lstSicherungen");
+    ASSERT_EQ(liste.topLevelItemCount(), 1);
+    QTreeWidgetItem* const eintrag = liste.topLevelItem(0)->child(0);
+    EXPECT_EQ(eintrag->text(2), "5 Einstellungen");
+    liste.setCurrentItem(eintrag);
+    Klicke(*fenster, "cmdOeffnen");
+    ASSERT_TRUE(LaufeBis([this] { return Unterschiede() == 0; }));
+    EXPECT_EQ(modDaten::GetDateiname(), AlleSicherungen()[0].pfad);
+    EXPECT_FALSE(IstLive());
+    EXPECT_EQ(liste.topLevelItem(0)->child(0)->text(2), "gleich");
+    fenster->close();
+}
+
 TEST_F(SchreibenImBetrieb, Changes_that_were_not_written_are_backed_up_when_the_program_connects_again) {
     GeheLiveMitSpeicher();
     ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
