@@ -42,6 +42,9 @@ public:
     virtual void OeffneLetzteDatei(int platz) = 0;
     /// Connects to the built-in controller, which takes the place of the serial ports in this run.
     virtual void VerbindeSimuliert() = 0;
+    virtual void ZeigeSicherungen() = 0;
+    /// Opens the backup that the window of backups asked for.
+    virtual void OeffneSicherung() = 0;
     virtual void ZeigeBericht() = 0;
     virtual void ZeigeVergleich() = 0;
     /// Reads the controller for the comparison that asked for it.

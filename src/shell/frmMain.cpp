@@ -9,6 +9,8 @@
 #include "programmsymbol.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
+#include "seitenjetzt.h"
+#include "sicherungsablauf.h"
 #include "standardkonfiguration.h"
 #include "trace.h"
 #include "ui_frmMain.h"
@@ -77,6 +79,13 @@ frmMain::frmMain(const QString& programmordner)
                            .beendet = [this] { return Beendet(); }};
     ablauf = std::make_unique<Konfigurationsablauf>(teile);
     betrieb = std::make_unique<Geraetebetrieb>(teile, befehle, *ablauf, programmordner);
+    sicherungen = std::make_unique<Sicherungsablauf>(Sicherungsablauf::Ziel{
+        .oeffne = [this] { befehle.Klick(Befehl::SicherungOeffnen); },
+        .vergleiche =
+            [this](const Sicherung& sicherung, const Abbild& abbild) {
+                vergleich->Zeige({Vergleichsquelle::Sicherung, sicherung.pfad, abbild, {}},
+                                 SeiteJetzt(Vergleichsquelle::InBearbeitung));
+            }});
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
 }
 
@@ -166,6 +175,7 @@ void frmMain::Entlade() {
     leiste->SpeicherePlatz();
     modTrace::Schliesse();
     SchliesseDialoge();
+    sicherungen->Schliesse();
     vergleich->Schliesse();
     hide();
 }

@@ -24,6 +24,7 @@ class frmMain;
 }
 
 class Vergleichsablauf;
+class Sicherungsablauf;
 class frmDocument;
 class Erscheinungsbild;
 class Werkzeugleiste;
@@ -133,6 +134,8 @@ private:
     void SchalteSprache(std::int16_t offset) override;
     void OeffneLetzteDatei(int platz) override;
     void VerbindeSimuliert() override;
+    void ZeigeSicherungen() override;
+    void OeffneSicherung() override;
     void ZeigeBericht() override { ablauf->Berichte(); }
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
@@ -151,6 +154,7 @@ private:
     std::unique_ptr<Konfigurationsablauf> ablauf;
     std::unique_ptr<Geraetebetrieb> betrieb;
     std::unique_ptr<Vergleichsablauf> vergleich;
+    std::unique_ptr<Sicherungsablauf> sicherungen;
     bool entladen = false;
 };
 

@@ -14,6 +14,7 @@
 #include "lokalisiereform.h"
 #include "qttexte.h"
 #include "schnittstelle.h"
+#include "sicherungsablauf.h"
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
@@ -43,6 +44,7 @@ void frmMain::MenuAusführen() {
     befehle.FuehreAus(*this);
     ZeigeWillkommen();
     vergleich->Erneuere();
+    sicherungen->Erneuere();
 }
 
 void frmMain::mnuBeenden_Click() {
@@ -135,6 +137,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     menue.ZeigeFundorte();
     leiste->Lokalisiere();
     ansichten->Lokalisiere();
+    sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -167,6 +170,14 @@ void frmMain::BieteDarstellung() {
             SchreibDarstellung(DieEinstellungen(), gewaehlt);
         });
     auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));
+}
+
+void frmMain::ZeigeSicherungen() {
+    sicherungen->Zeige();
+}
+
+void frmMain::OeffneSicherung() {
+    LadeDatei(sicherungen->ZuOeffnende());
 }
 
 void frmMain::ZeigeSimulation() {

@@ -30,6 +30,8 @@ enum class Befehl {
     Englisch = 23,
     LetzteDatei = 101,
     SimuliertesGeraet = 102,
+    Sicherungen = 120,
+    SicherungOeffnen = 121,
     Vergleich = 110,
     GeraetVergleichen = 111,
     Bericht = 112,

@@ -36,7 +36,7 @@ void MeldeErfolg(const Schreibergebnis& ergebnis, Ablage ablage) {
     std::string text = LadeTextMit(ablage == Ablage::Dauerhaft ? TextGespeichert : TextNichtGespeichert,
                                    {wann, std::to_string(AnzahlRegister(ergebnis.auftrag.stellen))});
     if (ergebnis.pruefung)
-        text += ". " + Pruefsatz(*ergebnis.pruefung);
+        text = wann + ": " + Pruefsatz(*ergebnis.pruefung) + " " + text.substr(text.find(": ") + 2);
     DieUmgebung().ZeigeStatustext(FeldMeldungen, text);
 }
 

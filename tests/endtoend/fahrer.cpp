@@ -33,6 +33,8 @@ void Fahrer::Blicke() {
     } else if (auto* frage =
                    qobject_cast<QDialog*>(SichtbaresFenster(QStringLiteral("frmKeinKonturAngeschlossen")))) {
         frage->reject();
+    } else if (auto* liste = qobject_cast<QDialog*>(SichtbaresFenster(QStringLiteral("frmRegisterliste")))) {
+        liste->reject();
     }
 }
 

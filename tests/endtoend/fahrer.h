@@ -14,7 +14,8 @@ namespace varnoth::pruefung {
 
 /// The user at the screen. He looks at it every few milliseconds, also while the program waits or shows a
 /// dialog: he does what was planned once its time has come, else he writes a message box down and presses its
-/// default button, saves no changes, and chooses no configuration when none could be read.
+/// default button, saves no changes, chooses no configuration when none could be read, and closes the list
+/// that follows a write.
 class Fahrer {
 public:
     Fahrer();

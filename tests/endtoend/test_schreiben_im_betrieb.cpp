@@ -16,7 +16,7 @@
 
 namespace varnoth::pruefung {
 
-using testing::EndsWith;
+using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -95,14 +95,15 @@ protected:
 
 TEST_F(SchreibenImBetrieb, Exactly_the_changed_settings_are_shown_before_and_read_back_equal_after) {
     GeheLiveMitSpeicher();
+    std::vector<std::string> statustexte;
+    programm->DieFensterumgebung().SetzeStatusanzeige(
+        [&](int, const std::string& text) { statustexte.push_back(text); });
     AendereFuenf();
     InFenster(Schreibfenster, [this](QWidget& dialog) {
         InListe("cmdSchliessen");
         Starte(true);
         Klicke(dialog, "cmdAenderungen");
     });
-    std::string statustext;
-    fahrer.Sobald([this] { return Statusfeld(1).ends_with("gleich."); }, [&] { statustext = Statusfeld(1); });
     ASSERT_TRUE(Bearbeite());
     EXPECT_EQ(zeilen, 5);
     EXPECT_THAT(befund, HasSubstr("ändert 5 Einstellungen"));
@@ -110,7 +111,8 @@ TEST_F(SchreibenImBetrieb, Exactly_the_changed_settings_are_shown_before_and_rea
     EXPECT_EQ(geraet->Register("specific 1 25"), 100);
     EXPECT_EQ(Unterschiede(), 5) << "what was read after the write";
     EXPECT_THAT(Meldungen(), IsEmpty());
-    EXPECT_TRUE(fahrer.AllesGetan()) << Statusfeld(1);
+    EXPECT_THAT(statustexte, Contains(HasSubstr("191 von 191 Registern zurückgelesen und gleich")));
+    programm->DieFensterumgebung().SetzeStatusanzeige({});
 }
 
 TEST_F(SchreibenImBetrieb, The_backup_holds_what_was_before_and_written_back_restores_every_register) {
@@ -216,24 +218,46 @@ TEST_F(SchreibenImBetrieb, A_broken_write_is_listed_and_what_was_before_is_writt
     EXPECT_THAT(befund, HasSubstr("Das Schreiben wurde nicht beendet."));
     EXPECT_THAT(befund, HasSubstr("ungewiss"));
     EXPECT_EQ(Unterschiede(), 0) << "what was read after that";
-    EXPECT_EQ(AlleSicherungen().size(), 2U)
-        << "another write, another backup, and no changes were lost in silence";
+    const auto alle = AlleSicherungen();
+    ASSERT_EQ(alle.size(), 3U) << "one for each write, and what was edited before connecting replaced it";
+    EXPECT_EQ(alle[0].angaben.anlass, Sicherungsanlass::VorDemVerbinden);
+}
+
+TEST_F(SchreibenImBetrieb, A_backup_is_opened_from_the_window_of_backups) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(false);
+    ASSERT_TRUE(Bearbeite());
+    ASSERT_TRUE(LaufeBis(IstLive));
+    ASSERT_TRUE(FuehreAus("mnuSicherungen"));
+    QWidget* const fenster = SichtbaresFenster("frmSicherungen");
+    ASSERT_NE(fenster, nullptr);
+    auto& liste = Kind<QTreeWidget>(*fenster, "lstSicherungen");
+    ASSERT_EQ(liste.topLevelItemCount(), 1);
+    QTreeWidgetItem* const eintrag = liste.topLevelItem(0)->child(0);
+    EXPECT_EQ(eintrag->text(2), "5 Einstellungen");
+    liste.setCurrentItem(eintrag);
+    Klicke(*fenster, "cmdOeffnen");
+    ASSERT_TRUE(LaufeBis([this] { return Unterschiede() == 0; }));
+    EXPECT_EQ(modDaten::GetDateiname(), AlleSicherungen()[0].pfad);
+    EXPECT_FALSE(IstLive());
+    EXPECT_EQ(liste.topLevelItem(0)->child(0)->text(2), "gleich");
+    fenster->close();
 }
 
 TEST_F(SchreibenImBetrieb, Changes_that_were_not_written_are_backed_up_when_the_program_connects_again) {
     GeheLiveMitSpeicher();
-    ImEditor([](QWidget& editor) {
-        Kind<QLineEdit>(editor, "txtPausenzeit").setText("1234");
-        Klicke(editor, "cmdUebernehmen");
-    });
-    ASSERT_TRUE(Bearbeite());
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
+    InFenster("frmStrahlenBestimmen", [](QWidget& dialog) { Klicke(dialog, "cmdOK"); });
+    ASSERT_TRUE(FuehreAus("mnuNeu"));
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
     const auto alle = AlleSicherungen();
     ASSERT_EQ(alle.size(), 1U);
     EXPECT_EQ(alle[0].angaben.anlass, Sicherungsanlass::VorDemVerbinden);
     const auto gesichertes = DieSicherungen()->Lies(alle[0]);
     ASSERT_TRUE(gesichertes);
-    EXPECT_EQ(gesichertes->HoleRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit),
-              1234);
+    EXPECT_EQ(
+        gesichertes->HoleRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 3), 32);
 }
 
 } // namespace varnoth::pruefung

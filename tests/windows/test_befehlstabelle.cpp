@@ -39,6 +39,8 @@ struct PruefWirkung : Befehlswirkung {
 
     void OeffneLetzteDatei(int platz) override { getan = "last file " + std::to_string(platz); }
     void VerbindeSimuliert() override { getan = "simulated"; }
+    void ZeigeSicherungen() override { getan = "backups"; }
+    void OeffneSicherung() override { getan = "open backup"; }
     void ZeigeBericht() override { getan = "report"; }
     void ZeigeVergleich() override { getan = "comparison"; }
     void LiesGeraetZumVergleich() override { getan = "read to compare"; }
@@ -90,6 +92,8 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
         EXPECT_EQ(GetanVon(++code), arbeit) << "code " << code;
     EXPECT_EQ(GetanVon(101), "last file 2");
     EXPECT_EQ(GetanVon(102), "simulated");
+    EXPECT_EQ(GetanVon(120), "backups");
+    EXPECT_EQ(GetanVon(121), "open backup");
     EXPECT_EQ(GetanVon(110), "comparison");
     EXPECT_EQ(GetanVon(111), "read to compare");
     EXPECT_EQ(GetanVon(112), "report");
@@ -106,6 +110,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::VisualisierenStop, "Shift+F5"},
         {Befehl::KonfigurationAnzeigen, "Ctrl+K"},
         {Befehl::ResetHardware, ""},
+        {Befehl::Sicherungen, "Ctrl+B"},
         {Befehl::Vergleich, "Ctrl+D"},
     };
     for (const auto& [befehl, taste] : tasten)
