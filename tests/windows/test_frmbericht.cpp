@@ -7,6 +7,7 @@
 #include "standtext.h"
 #include "untereditortest.h"
 
+#include <QLineEdit>
 #include <QPdfWriter>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
