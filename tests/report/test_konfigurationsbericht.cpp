@@ -128,7 +128,7 @@ TEST(BerichtTest, The_same_configuration_and_fields_give_the_same_bytes) {
 }
 
 TEST(BerichtTest, A_setting_that_differs_from_the_default_is_bold_and_has_the_default_beside_it) {
-    const std::string teil = Zwischen(Deutscher(), "<h3>Optikteil 2</h3>", "<h3>Optikteil 3</h3>");
+    const std::string teil = Zwischen(Deutscher(), ">Optikteil 2</h3>", "<h3>Optikteil 3</h3>");
     EXPECT_THAT(teil, ContainsRegex("Auflösung</td><td[^>]*><b>20mm</b></td><td[^>]*>5mm</td>"));
     EXPECT_THAT(teil, ContainsRegex("Blankingmuster</td><td[^>]*><b>11-15, 37</b></td><td[^>]*>keine</td>"));
 }
@@ -162,6 +162,15 @@ TEST(BerichtTest, Optical_parts_are_told_with_beams_spacing_field_cycle_and_blan
                 ContainsRegex("Optikteil 1</td><td[^>]*>128</td><td[^>]*>10 mm</td><td[^>]*>1270 mm</td>"
                               "<td[^>]*>26,2 ms</td><td[^>]*>6</td>"));
     EXPECT_THAT(teil, HasSubstr("Längste Zykluszeit: 26,2 ms"));
+}
+
+TEST(BerichtTest, The_second_part_that_is_there_begins_a_page) {
+    Abbild abbild = abbildproben::Vierteilig();
+    ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 0, 1));
+    EXPECT_THAT(Deutscher(abbild),
+                AllOf(HasSubstr("<h3>Optikteil 1</h3>"),
+                      HasSubstr("<h3 style=\"page-break-before: always;\">Optikteil 3</h3>"),
+                      HasSubstr("<h3>Optikteil 4</h3>")));
 }
 
 TEST(BerichtTest, A_part_that_is_not_there_has_one_line_and_no_settings) {
