@@ -67,6 +67,8 @@ constexpr std::int16_t TextVon = 9726;
 
 constexpr const char* Seitenumbruch = R"(style="page-break-before: always;")";
 
+constexpr int TeileJeSeite = 3; // that fit on one page of paper
+
 constexpr double MikrosekundenJeMillisekunde = 1000;
 
 /// Puts the document together, part by part.
@@ -199,7 +201,7 @@ private:
         for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
             zeilen.push_back(Teilzeile(teil));
             if (IstDa(teil))
-                einzelne += Optikteil(teil, ++anzahl == 2);
+                einzelne += Optikteil(teil, anzahl++ % TeileJeSeite == 0);
         }
         Zeile kopf{{Text(TextTeil), R"(align="left")"}};
         for (const std::int16_t spalte : {TextStrahlen, TextAbstand, TextMessfeld, TextZyklus, TextGeblankt})
@@ -208,7 +210,6 @@ private:
                Element("p", Text(TextGesamtzyklus) + AlsHtml(Millisekunden(zeiten.gesamt))) + "\n" + einzelne;
     }
 
-    /// The first part still fits below the head; the second one begins a page.
     std::string Optikteil(int teil, bool beginntSeite) const {
         const std::string name = AlsHtml(Abschnittsname({Spezifisch, teil}, sprache));
         const std::string bild = Strahlenbild(GeblankteVon(teil));
@@ -221,7 +222,7 @@ private:
 
     std::string Kommunikationsteil() const {
         return Titel(TextKommunikation) + Einstellungstabelle(abbild, {Kommunikation, 0}, sprache) +
-               Titel(TextDatenblock) + Datenblock() + Titel(TextAutosend) + Autosendbudget();
+               Titel(TextAutosend) + Autosendbudget() + Titel(TextDatenblock) + Datenblock();
     }
 
     std::string Datenblock() const {
