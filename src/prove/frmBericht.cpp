@@ -131,8 +131,8 @@ void frmBericht::ImportiereText() {
 void frmBericht::showEvent(QShowEvent* ereignis) {
     QDialog::showEvent(ereignis);
     VerfolgePlatz(*this);
+    vorschau->setViewMode(QPrintPreviewWidget::SinglePageView);
     vorschau->fitToWidth();
-    vorschau->setViewMode(QPrintPreviewWidget::AllPagesView);
 }
 
 void frmBericht::done(int ergebnis) {

@@ -65,6 +65,10 @@ constexpr std::int16_t TextAnhang = 9724;
 constexpr std::int16_t TextSeite = 9725;
 constexpr std::int16_t TextVon = 9726;
 
+constexpr const char* Seitenumbruch = R"(style="page-break-before: always;")";
+
+constexpr int TeileJeSeite = 3; // that fit on one page of paper
+
 constexpr double MikrosekundenJeMillisekunde = 1000;
 
 /// Puts the document together, part by part.
@@ -193,10 +197,11 @@ private:
     std::string Optikteile() const {
         std::vector<Zeile> zeilen;
         std::string einzelne;
+        int anzahl = 0;
         for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
             zeilen.push_back(Teilzeile(teil));
             if (IstDa(teil))
-                einzelne += Optikteil(teil);
+                einzelne += Optikteil(teil, anzahl++ % TeileJeSeite == 0);
         }
         Zeile kopf{{Text(TextTeil), R"(align="left")"}};
         for (const std::int16_t spalte : {TextStrahlen, TextAbstand, TextMessfeld, TextZyklus, TextGeblankt})
@@ -205,19 +210,19 @@ private:
                Element("p", Text(TextGesamtzyklus) + AlsHtml(Millisekunden(zeiten.gesamt))) + "\n" + einzelne;
     }
 
-    std::string Optikteil(int teil) const {
+    std::string Optikteil(int teil, bool beginntSeite) const {
         const std::string name = AlsHtml(Abschnittsname({Spezifisch, teil}, sprache));
         const std::string bild = Strahlenbild(GeblankteVon(teil));
-        return Element("h3", name) + R"(<p><img src="data:image/svg+xml;base64,)" + AlsBase64(bild) +
-               R"(" width=")" + std::to_string(Strahlenbildbreite) + R"(" height=")" +
-               std::to_string(Strahlenbildhoehe) + R"(" alt=")" + name + R"("><br>)" +
-               Text(TextBildunterschrift) + "</p>\n" +
+        return Element("h3", name, beginntSeite ? Seitenumbruch : "") +
+               R"(<p><img src="data:image/svg+xml;base64,)" + AlsBase64(bild) + R"(" width=")" +
+               std::to_string(Strahlenbildbreite) + R"(" height=")" + std::to_string(Strahlenbildhoehe) +
+               R"(" alt=")" + name + R"("><br>)" + Text(TextBildunterschrift) + "</p>\n" +
                Einstellungstabelle(abbild, {Spezifisch, teil}, sprache);
     }
 
     std::string Kommunikationsteil() const {
         return Titel(TextKommunikation) + Einstellungstabelle(abbild, {Kommunikation, 0}, sprache) +
-               Titel(TextDatenblock) + Datenblock() + Titel(TextAutosend) + Autosendbudget();
+               Titel(TextAutosend) + Autosendbudget() + Titel(TextDatenblock) + Datenblock();
     }
 
     std::string Datenblock() const {
@@ -256,8 +261,7 @@ private:
     }
 
     std::string Anhang() const {
-        return Element("h2", Text(TextAnhang), R"(style="page-break-before: always;")") + "\n" +
-               Registertabelle(abbild, sprache);
+        return Element("h2", Text(TextAnhang), Seitenumbruch) + "\n" + Registertabelle(abbild, sprache);
     }
 
     const Abbild& abbild;

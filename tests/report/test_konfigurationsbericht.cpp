@@ -128,7 +128,7 @@ TEST(BerichtTest, The_same_configuration_and_fields_give_the_same_bytes) {
 }
 
 TEST(BerichtTest, A_setting_that_differs_from_the_default_is_bold_and_has_the_default_beside_it) {
-    const std::string teil = Zwischen(Deutscher(), "<h3>Optikteil 2</h3>", "<h3>Optikteil 3</h3>");
+    const std::string teil = Zwischen(Deutscher(), ">Optikteil 2</h3>", ">Optikteil 3</h3>");
     EXPECT_THAT(teil, ContainsRegex("Auflösung</td><td[^>]*><b>20mm</b></td><td[^>]*>5mm</td>"));
     EXPECT_THAT(teil, ContainsRegex("Blankingmuster</td><td[^>]*><b>11-15, 37</b></td><td[^>]*>keine</td>"));
 }
@@ -157,11 +157,22 @@ TEST(BerichtTest, The_line_format_that_no_write_changes_is_no_difference) {
 }
 
 TEST(BerichtTest, Optical_parts_are_told_with_beams_spacing_field_cycle_and_blanked_beams) {
-    const std::string teil = Zwischen(Deutscher(), "<h2>Optikteile</h2>", "<h3>");
+    const std::string teil = Zwischen(Deutscher(), "<h2>Optikteile</h2>", "<h3");
     EXPECT_THAT(teil,
                 ContainsRegex("Optikteil 1</td><td[^>]*>128</td><td[^>]*>10 mm</td><td[^>]*>1270 mm</td>"
                               "<td[^>]*>26,2 ms</td><td[^>]*>6</td>"));
     EXPECT_THAT(teil, HasSubstr("Längste Zykluszeit: 26,2 ms"));
+}
+
+TEST(BerichtTest, Three_parts_stand_on_a_page) {
+    const std::string umbruch = "<h3 style=\"page-break-before: always;\">";
+    Abbild abbild = abbildproben::Vierteilig();
+    EXPECT_THAT(Deutscher(abbild),
+                AllOf(HasSubstr(umbruch + "Optikteil 1</h3>"), HasSubstr("<h3>Optikteil 2</h3>"),
+                      HasSubstr("<h3>Optikteil 3</h3>"), HasSubstr(umbruch + "Optikteil 4</h3>")));
+    ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 0, 0));
+    EXPECT_THAT(Deutscher(abbild),
+                AllOf(HasSubstr(umbruch + "Optikteil 2</h3>"), HasSubstr("<h3>Optikteil 4</h3>")));
 }
 
 TEST(BerichtTest, A_part_that_is_not_there_has_one_line_and_no_settings) {
@@ -169,12 +180,12 @@ TEST(BerichtTest, A_part_that_is_not_there_has_one_line_and_no_settings) {
     ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 0, 2));
     const std::string html = Deutscher(abbild);
     EXPECT_THAT(html, HasSubstr("<td>Optikteil 3</td><td colspan=\"5\">nicht vorhanden</td>"));
-    EXPECT_THAT(html, Not(HasSubstr("<h3>Optikteil 3</h3>")));
+    EXPECT_THAT(html, Not(HasSubstr(">Optikteil 3</h3>")));
     EXPECT_EQ(Anzahl(html, "<img"), 3U);
 }
 
 TEST(BerichtTest, The_data_block_is_a_table_in_the_order_in_which_it_is_sent) {
-    const std::string teil = Zwischen(Deutscher(), "<h2>Datenblock</h2>", "<h2>Was");
+    const std::string teil = Zwischen(Deutscher(), "<h2>Datenblock</h2>", "<h2>Unter");
     EXPECT_THAT(teil, ContainsRegex(">1</td><td>TU:K1</td><td[^>]*>75</td><td[^>]*>0x102</td>"));
     EXPECT_THAT(teil, ContainsRegex(">2</td><td>HU:K2</td><td[^>]*>76</td><td[^>]*>0x203</td>"));
     EXPECT_EQ(Anzahl(teil, "<tr>"), 30U);

@@ -1005,6 +1005,8 @@ TEST_F(EditorverlaufTest, What_a_sub_editor_has_stored_is_a_step_of_the_editor) 
     Klicke("cmdReihenfolge");
     ASSERT_NE(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock), vorher);
     ASSERT_EQ(Liste().size(), 2);
+    dialog->activateWindow();
+    ASSERT_TRUE(pruefung::WarteBis([&] { return dialog->isActiveWindow(); }));
     Rueckgaengig();
     EXPECT_EQ(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock), vorher);
 }

@@ -344,7 +344,7 @@ TEST_F(FrmReihenfolgeTest, Inserted_and_deleted_entries_are_undone_and_done_agai
     Oeffne({0x0014, 0x0108});
     Druecke("Command3");
     Druecke("Command2");
-    ASSERT_EQ(Zeilen(), QStringList({"TUMin:K1", "Status:Varnoth"}));
+    ASSERT_EQ(Zeilen(), QStringList({"TUMin:K1", "TU:K1"}));
     QTest::keyClick(&Dialog(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Zeilen(), QStringList({"TUMin:K1"}));
     QTest::keyClick(&Dialog(), Qt::Key_Z, Qt::ControlModifier);
@@ -360,7 +360,7 @@ TEST_F(FrmReihenfolgeTest, The_list_of_changes_names_entry_and_place) {
     const auto* const modell = Kind<QUndoView>(Dialog(), "lstVerlauf").model();
     ASSERT_EQ(modell->rowCount(), 3);
     EXPECT_EQ(modell->index(1, 0).data().toString(), "Status:Varnoth gelöscht an Platz 1");
-    EXPECT_EQ(modell->index(2, 0).data().toString(), "Status:Varnoth eingefügt an Platz 2");
+    EXPECT_EQ(modell->index(2, 0).data().toString(), "TU:K1 eingefügt an Platz 2");
 }
 
 TEST_F(FrmReihenfolgeTest, After_undoing_everything_closing_asks_nothing) {
