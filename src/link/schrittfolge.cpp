@@ -8,6 +8,7 @@ namespace varnoth {
 
 bool Schrittfolge::Laufe() {
     nummern.assign(schritte.size(), 0);
+    const unsigned long bruecheDavor = modAustausch::Brueche();
     while (stelle < schritte.size()) {
         switch (wache > 0 ? TueBewacht() : Tue(stelle)) {
         case Ausgang::Gelungen:
@@ -17,12 +18,18 @@ bool Schrittfolge::Laufe() {
             GeheZurueck();
             break;
         case Ausgang::Abgebrochen:
+            if (modAustausch::Brueche() == bruecheDavor)
+                UebernimmOffene();
             return false;
         }
     }
+    UebernimmOffene();
+    return true;
+}
+
+void Schrittfolge::UebernimmOffene() {
     for (std::size_t offen = gewiss; offen < stelle; ++offen)
         schritte[offen].uebernimm();
-    return true;
 }
 
 /// Attempts at a step until one succeeds or something comes that nobody was waiting for.

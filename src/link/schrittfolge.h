@@ -29,8 +29,8 @@ public:
 
     /// Lets the next steps stand between identifications, since the line is known to be disturbed.
     void Bewache() { wache = Wachdauer; }
-    /// False when it was cancelled: then what is not certain is not taken over. True when all steps are
-    /// through and taken over; those from ErsterOffener on are not certain yet.
+    /// False when it was cancelled: what is through by then is taken over, but after a disturbance only what is
+    /// certain. True when all steps are through and taken over; those from ErsterOffener on are not certain yet.
     bool Laufe();
     /// How many steps are through.
     std::size_t Erledigt() const { return stelle; }
@@ -43,6 +43,7 @@ private:
     enum class Ausgang { Gelungen, Gestoert, Abgebrochen };
     Ausgang Tue(std::size_t schritt);
     Ausgang TueBewacht();
+    void UebernimmOffene();
     void MerkeGelungen();
     void GeheZurueck();
 

@@ -1,5 +1,6 @@
 #include "schreibvorgang.h"
 
+#include "austausch.h"
 #include "geraetestand.h"
 #include "kommandoregister.h"
 #include "registerabbild.h"
@@ -8,6 +9,9 @@
 #include "seriennummer.h"
 #include "texte.h"
 #include "transaktionen.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace varnoth {
 
@@ -25,9 +29,11 @@ Parameterstelle StelleVon(const Transferparameter& parameter) {
 
 class Schreibtransfer : public Konfigurationstransfer {
 public:
-    Schreibtransfer(Transferanzeige& transferanzeige, Ablage wie, const Schreibauftrag& was,
-                    Schreibspur& welche)
-        : Konfigurationstransfer(transferanzeige, IstSchreibbar), ablage(wie), auftrag(was), spur(welche) {}
+    Schreibtransfer(Transferanzeige& transferanzeige, Ablage wie, const Schreibauftrag& was)
+        : Konfigurationstransfer(transferanzeige, IstSchreibbar), ablage(wie), auftrag(was) {}
+
+    /// What has become of the parameters, once UebertrageAlles has given its answer.
+    Schreibspur Spur(bool vollstaendig) const;
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
@@ -35,24 +41,37 @@ private:
         return auftrag.stellen.contains(StelleVon(parameter));
     }
     Boolean Tausche(const Transferparameter& parameter, Werte& werte) override;
-    void Uebernimm(const Transferparameter& parameter, const Werte& werte) override;
+    void Uebernimm(const Transferparameter& parameter, const Werte& /*werte*/) override {
+        gewisse.insert(StelleVon(parameter));
+    }
     void HaengeWeitereAn() override;
 
     Ablage ablage;
     const Schreibauftrag& auftrag;
-    Schreibspur& spur;
+    unsigned long bruecheZuvor = modAustausch::Brueche();
+    Parametermenge gesendete{};
+    Parametermenge bestaetigte{};
+    Parametermenge gewisse{};
 };
 
 Boolean Schreibtransfer::Tausche(const Transferparameter& parameter, Werte& werte) {
-    werte = auftrag.abbild.HoleParameter(parameter.bereich, parameter.adresse, parameter.optikteil);
-    spur.ungewiss.insert(StelleVon(parameter));
-    return modModbus::RTUModeH10SchreibenAnforderung(Geraeteadresse(parameter.bereich, parameter.adresse),
-                                                     static_cast<std::uint16_t>(parameter.anzahl), werte);
+    const Parameterstelle stelle = StelleVon(parameter);
+    werte = auftrag.abbild.HoleParameter(stelle.bereich, stelle.adresse, stelle.optikteil);
+    gesendete.insert(stelle);
+    const Boolean gelungen = modModbus::RTUModeH10SchreibenAnforderung(
+        Geraeteadresse(stelle.bereich, stelle.adresse), static_cast<std::uint16_t>(parameter.anzahl), werte);
+    if (gelungen != False)
+        bestaetigte.insert(stelle);
+    return gelungen;
 }
 
-void Schreibtransfer::Uebernimm(const Transferparameter& parameter, const Werte& /*werte*/) {
-    spur.geschrieben.insert(StelleVon(parameter));
-    spur.ungewiss.erase(StelleVon(parameter));
+/// A confirmation may be another's on a line that was disturbed; then only what is certain counts.
+Schreibspur Schreibtransfer::Spur(bool vollstaendig) const {
+    const bool ungestoert = modAustausch::Brueche() == bruecheZuvor;
+    Schreibspur spur{.geschrieben = vollstaendig || ungestoert ? bestaetigte : gewisse};
+    std::ranges::set_difference(gesendete, spur.geschrieben,
+                                std::inserter(spur.ungewiss, spur.ungewiss.end()));
+    return spur;
 }
 
 void Schreibtransfer::HaengeWeitereAn() {
@@ -66,7 +85,9 @@ void Schreibtransfer::HaengeWeitereAn() {
 
 bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage, const Schreibauftrag& auftrag,
                            Schreibspur& spur) {
-    const bool vollstaendig = Schreibtransfer(anzeige, ablage, auftrag, spur).UebertrageAlles();
+    Schreibtransfer transfer(anzeige, ablage, auftrag);
+    const bool vollstaendig = transfer.UebertrageAlles();
+    spur = transfer.Spur(vollstaendig);
     if (!spur.geschrieben.empty())
         modGeraetestand::MerkeGeschrieben(auftrag.abbild, spur.geschrieben, GeraeteSeriennummer());
     if (vollstaendig)
