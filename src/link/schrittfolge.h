@@ -29,8 +29,9 @@ public:
 
     /// Lets the next steps stand between identifications, since the line is known to be disturbed.
     void Bewache() { wache = Wachdauer; }
-    /// False when it was cancelled: what is through by then is taken over, but after a disturbance only what is
-    /// certain. True when all steps are through and taken over; those from ErsterOffener on are not certain yet.
+    /// False when it was cancelled: what is through by then is taken over, but after a disturbance only what
+    /// is certain. True when all steps are through and taken over; those from ErsterOffener on are not
+    /// certain yet.
     bool Laufe();
     /// How many steps are through.
     std::size_t Erledigt() const { return stelle; }

@@ -41,6 +41,12 @@ protected:
                 if (const QString name = QString::fromStdString(Aktionsname(zeile, platz)); name != ausser)
                     fenster.addAction(name)->setObjectName(name);
     }
+    /// The two menu items without a command whose subject is the report.
+    void LegeDruckpunkteAn() {
+        QMenu* const datei = fenster.menuBar()->addMenu(QString());
+        for (const char* name : {"mnuDruckereinrichtung", "mnuKonfigurationDrucken"})
+            datei->addAction(QString())->setObjectName(QString::fromLatin1(name));
+    }
     Hauptmenue::Klick Merke() {
         return [this](Befehl befehl, int index) { klicks.emplace_back(befehl, index); };
     }
@@ -83,6 +89,7 @@ TEST_F(HauptmenueTest, Every_picture_of_the_table_is_there_and_its_menu_item_has
 
 TEST_F(HauptmenueTest, A_menu_item_without_a_command_tells_where_its_subject_is_found_by_now) {
     LegeAktionenAn();
+    LegeDruckpunkteAn();
     QAction* const farben = fenster.menuBar()->addMenu(QString())->addAction(QString());
     farben->setObjectName("mnuOptionFarben");
     Hauptmenue menue(fenster, Merke());
@@ -95,6 +102,7 @@ TEST_F(HauptmenueTest, A_menu_item_without_a_command_tells_where_its_subject_is_
 
 TEST_F(HauptmenueTest, A_tip_is_shown_in_the_menu_of_its_item_alone) {
     LegeAktionenAn();
+    LegeDruckpunkteAn();
     QMenu& option = *fenster.menuBar()->addMenu(QString());
     QMenu& anderes = *fenster.menuBar()->addMenu(QString());
     option.addAction(QString())->setObjectName("mnuOptionFarben");
