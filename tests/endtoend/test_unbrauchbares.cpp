@@ -109,7 +109,8 @@ TEST_F(Unbrauchbares, A_controller_that_appears_after_a_cancel_is_found_by_start
 }
 
 TEST_F(Unbrauchbares, Cancel_during_the_third_part_keeps_what_was_read_of_the_first_two) {
-    SchliesseGeraetAn();
+    geraet.emplace(ordner.path(), QStringList{}); // at the wire's pace, so that each text is seen
+    SchreibeEinstellungen("[Settings]\nComGeraet1=" + geraet->Geraet().toUtf8() + "\n");
     Starte();
     std::vector<std::int32_t> strahlenzahlen;
     std::vector<std::int32_t> aufloesungen;

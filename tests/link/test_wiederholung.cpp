@@ -81,6 +81,12 @@ protected:
         schritte.push_back(Lesung(40));
         return schritte;
     }
+    void BrichAbBei(Transferschritt& schritt) {
+        schritt.tausche = [this, tausche = schritt.tausche] {
+            abbruch = true;
+            return tausche();
+        };
+    }
     void ErwarteRichtige() const {
         for (const auto& [adresse, werte] : uebernommen)
             EXPECT_EQ(werte, std::vector<std::int32_t>{1000 + adresse}) << adresse;
@@ -227,16 +233,22 @@ TEST_F(WiederholungTest, What_is_not_certain_yet_at_the_end_of_a_row_is_named) {
     EXPECT_EQ(folge.LetzterAustausch(), modAustausch::Letzter());
 }
 
-TEST_F(WiederholungTest, What_is_not_certain_is_not_taken_over_when_a_row_is_cancelled) {
+TEST_F(WiederholungTest, What_is_through_is_taken_over_when_a_row_on_a_line_in_order_is_cancelled) {
     auto schritte = Gang();
-    const auto tausche = schritte[7].tausche;
-    schritte[7].tausche = [&, tausche] {
-        abbruch = true;
-        return tausche();
-    };
+    BrichAbBei(schritte[7]);
     Schrittfolge folge(std::move(schritte), [this] { return abbruch; });
     EXPECT_FALSE(folge.Laufe());
-    EXPECT_EQ(uebernommen.size(), 5U);
+    EXPECT_EQ(uebernommen.size(), 7U);
+    ErwarteRichtige();
+}
+
+TEST_F(WiederholungTest, What_is_not_certain_is_not_taken_over_when_a_disturbed_row_is_cancelled) {
+    Wiederhole(2, 2, 3ms);
+    auto schritte = Gang();
+    BrichAbBei(schritte[5]);
+    Schrittfolge folge(std::move(schritte), [this] { return abbruch; });
+    EXPECT_FALSE(folge.Laufe());
+    EXPECT_TRUE(uebernommen.empty());
 }
 
 TEST_F(WiederholungTest, After_a_break_a_step_is_tried_again_behind_what_it_needs_selected) {
