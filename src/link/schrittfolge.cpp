@@ -9,6 +9,17 @@ namespace varnoth {
 bool Schrittfolge::Laufe() {
     nummern.assign(schritte.size(), 0);
     const unsigned long bruecheDavor = modAustausch::Brueche();
+    bool durch = LaufeBisZuletzt();
+    while (durch && !VergewissereAmEnde()) {
+        GeheZurueck();
+        durch = !abgebrochen() && LaufeBisZuletzt();
+    }
+    if (durch || modAustausch::Brueche() == bruecheDavor)
+        UebernimmOffene();
+    return durch;
+}
+
+bool Schrittfolge::LaufeBisZuletzt() {
     while (stelle < schritte.size()) {
         switch (wache > 0 ? TueBewacht() : Tue(stelle)) {
         case Ausgang::Gelungen:
@@ -18,13 +29,16 @@ bool Schrittfolge::Laufe() {
             GeheZurueck();
             break;
         case Ausgang::Abgebrochen:
-            if (modAustausch::Brueche() == bruecheDavor)
-                UebernimmOffene();
             return false;
         }
     }
-    UebernimmOffene();
     return true;
+}
+
+bool Schrittfolge::VergewissereAmEnde() {
+    const unsigned long bruecheDavor = modAustausch::Brueche();
+    return !gewissheitVerlangt || gewiss == stelle ||
+           (modAustausch::Vergewissere() && modAustausch::Brueche() == bruecheDavor);
 }
 
 void Schrittfolge::UebernimmOffene() {

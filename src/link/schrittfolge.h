@@ -29,6 +29,8 @@ public:
 
     /// Lets the next steps stand between identifications, since the line is known to be disturbed.
     void Bewache() { wache = Wachdauer; }
+    /// Nothing follows that would show the last steps right: an identification at the end does.
+    void VerlangeGewissheit() { gewissheitVerlangt = true; }
     /// False when it was cancelled: what is through by then is taken over, but after a disturbance only what
     /// is certain. True when all steps are through and taken over; those from ErsterOffener on are not
     /// certain yet.
@@ -44,6 +46,8 @@ private:
     enum class Ausgang { Gelungen, Gestoert, Abgebrochen };
     Ausgang Tue(std::size_t schritt);
     Ausgang TueBewacht();
+    bool LaufeBisZuletzt();
+    bool VergewissereAmEnde();
     void UebernimmOffene();
     void MerkeGelungen();
     void GeheZurueck();
@@ -56,7 +60,8 @@ private:
     int versuch = 0;
     int wache = 0;             ///< steps that still stand between identifications
     bool vergewissert = false; ///< one has just been answered
-    bool gewaehlt = true;      ///< what the step needs is selected
+    bool gewissheitVerlangt = false;
+    bool gewaehlt = true; ///< what the step needs is selected
 };
 
 } // namespace varnoth

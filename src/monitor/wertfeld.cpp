@@ -38,7 +38,6 @@ QAccessibleInterface* MacheZugang(const QString& /*klasse*/, QObject* element) {
 
 Wertfeld::Wertfeld(QWidget* eltern) : QLabel(eltern) {
     QAccessible::installFactory(MacheZugang);
-    setAutoFillBackground(true); // a new value is then painted by itself, without all that lies behind it
 }
 
 QString Wertfeld::Ansage() const {

@@ -71,8 +71,8 @@ constexpr Befehlszeile DieBefehle[] = {
      0, 1, "Ctrl+B", 9802, "sicherungen", 9803, Leistengruppe::Pruefen},
     {Befehl::SicherungOeffnen, "", Stoppt, Zeigt, [](Ziel& z, int) { z.OeffneSicherung(); }, 0, 0},
     {Befehl::SimuliertesGeraet, "", Stoppt, Zeigt, [](Ziel& z, int) { z.VerbindeSimuliert(); }, 0, 0},
-    {Befehl::Bericht, "mnuBericht", StopptUndStartetWieder, Zeigt, [](Ziel& z, int) { z.ZeigeBericht(); }, 0,
-     1, "Ctrl+P", 9730, "bericht", 9745, Leistengruppe::Pruefen},
+    {Befehl::Bericht, "mnuBericht", Ruht, Zeigt, [](Ziel& z, int) { z.ZeigeBericht(); }, 0, 1, "Ctrl+P", 9730,
+     "bericht", 9745, Leistengruppe::Pruefen},
     {Befehl::Darstellung, "tlbDarstellung", LaeuftWeiter, Still, [](Ziel& z, int) { z.BieteDarstellung(); },
      0, 1, "", 9520, "darstellung", 9521, Leistengruppe::Darstellung},
 };

@@ -111,7 +111,12 @@ private:
 
     void Verbinde() override { Autostart(); }
     void StoppeLiveDaten() override { SubMessdatenVisualisierenStop(); }
-    void SetzeLiveDatenFort() override { betrieb->SetzeLiveDatenFort(); }
+    /// Not behind a configuration that was imported meanwhile: the controller's values are not measured with
+    /// it.
+    void SetzeLiveDatenFort() override {
+        if (std::exchange(liveDatenPassen, true))
+            betrieb->SetzeLiveDatenFort();
+    }
     void ZeigeAnsicht(int optikteil) override;
     void Beende() override { SubBeenden(); }
     void BearbeiteEinzelwerte() override;
@@ -136,7 +141,7 @@ private:
     void VerbindeSimuliert() override;
     void ZeigeSicherungen() override;
     void OeffneSicherung() override;
-    void ZeigeBericht() override { ablauf->Berichte(); }
+    void ZeigeBericht() override { liveDatenPassen = !ablauf->Berichte(); }
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
     void BieteDarstellung() override;
@@ -155,6 +160,7 @@ private:
     std::unique_ptr<Geraetebetrieb> betrieb;
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
+    bool liveDatenPassen = true; ///< to the configuration, when a command that paused them has ended
     bool entladen = false;
 };
 

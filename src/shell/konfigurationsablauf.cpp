@@ -51,8 +51,13 @@ void Konfigurationsablauf::MacheNeue() {
         Zeige();
 }
 
-void Konfigurationsablauf::Berichte() {
-    ZeigeBericht(&teile.fenster, [this] { Zeige(); });
+bool Konfigurationsablauf::Berichte() {
+    bool ersetzt = false;
+    ZeigeBericht(&teile.fenster, [this, &ersetzt] {
+        ersetzt = true;
+        Zeige();
+    });
+    return ersetzt;
 }
 
 /// A way that led to nothing, such as a file dialog that was cancelled, leads back to the question.

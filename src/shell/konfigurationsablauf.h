@@ -24,8 +24,8 @@ public:
     /// Opens the editor, after asking for a configuration where there is none, and writes to the controller
     /// what the editor hands over.
     void Bearbeite();
-    /// Shows the report about the configuration, in which another one can be imported.
-    void Berichte();
+    /// Shows the report about the configuration, in which another one can be imported. Whether one was.
+    [[nodiscard]] bool Berichte();
     /// Lets the user choose a configuration; false when he chose none.
     /// @param ohneVerbindung why there is no connection, where one was tried
     bool FrageNachKonfiguration(const std::optional<Verbindungsauskunft>& ohneVerbindung = {});

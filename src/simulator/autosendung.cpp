@@ -76,7 +76,9 @@ Bytes Block(const Bytes& daten, bool modbus, int adresse) {
                                         [](auto a, auto b) { return static_cast<std::uint8_t>(a + b); }));
         return block;
     }
-    Bytes block{static_cast<std::uint8_t>(adresse), LiesFunktion, static_cast<std::uint8_t>(daten.size())};
+    Bytes block;
+    for (const int zeichen : {adresse, int{LiesFunktion}, static_cast<int>(daten.size())})
+        block.push_back(static_cast<std::uint8_t>(zeichen));
     block.insert(block.end(), daten.begin(), daten.end());
     HaengeCrcAn(block);
     return block;

@@ -28,6 +28,8 @@ bool Konfigurationstransfer::UebertrageAlles() {
     HaengeBereichAn(Speicherbereich::Kommunikationsdaten, schritte.size() - 1);
     HaengeWeitereAn();
     Schrittfolge folge(schritte, [this] { return anzeige.Abgebrochen(); });
+    if (gewissheitVerlangt)
+        folge.VerlangeGewissheit();
     if (!folge.Laufe())
         return false;
     anzeige.ZeigeFortschritt(AnzahlSchritte(), AnzahlSchritte());

@@ -56,6 +56,8 @@ public:
     unsigned long LetzterAustausch() const { return letzterAustausch; }
 
 protected:
+    /// Nothing is exchanged behind this transfer that would show its last values right.
+    void VerlangeGewissheit() { gewissheitVerlangt = true; }
     /// Appends an exchange: what is shown while it is tried, and one attempt at it.
     void HaengeAn(const std::string& bereichstext, const std::string& registertext, int anzahl,
                   const std::function<Boolean()>& tausche);
@@ -82,6 +84,7 @@ private:
     std::vector<Transferparameter> parameterDerSchritte{}; ///< 0 registers where a step has none
     std::vector<Transferparameter> offene{};
     unsigned long letzterAustausch = 0;
+    bool gewissheitVerlangt = false;
 };
 
 } // namespace varnoth

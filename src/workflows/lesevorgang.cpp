@@ -25,6 +25,7 @@ public:
 
     Lesetransfer(Transferanzeige& transferanzeige, Ablage wohin)
         : Konfigurationstransfer(transferanzeige, IstLesbar), ablage(std::move(wohin)) {}
+    using Konfigurationstransfer::VerlangeGewissheit;
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
@@ -58,7 +59,9 @@ bool LiesGeraeteabzug(Transferanzeige& anzeige, Geraeteabzug& abzug) {
         static_cast<void>(
             abzug.abbild.SetzeParameter(parameter.bereich, parameter.adresse, werte, parameter.optikteil));
     };
-    const bool vollstaendig = Lesetransfer(anzeige, inDenAbzug).UebertrageAlles();
+    Lesetransfer transfer(anzeige, inDenAbzug);
+    transfer.VerlangeGewissheit();
+    const bool vollstaendig = transfer.UebertrageAlles();
     KorrigiereStrahlenzahlen(abzug.abbild);
     if (vollstaendig)
         anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));

@@ -19,7 +19,9 @@ constexpr std::int16_t TextUebertragungBeendet = 7009;
 class Ruecklesetransfer : public Konfigurationstransfer {
 public:
     Ruecklesetransfer(Transferanzeige& transferanzeige, const Parametermenge& welche, Ruecklesung& ziel)
-        : Konfigurationstransfer(transferanzeige, IstSchreibbar), stellen(welche), ruecklesung(ziel) {}
+        : Konfigurationstransfer(transferanzeige, IstSchreibbar), stellen(welche), ruecklesung(ziel) {
+        VerlangeGewissheit();
+    }
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }

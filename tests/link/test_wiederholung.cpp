@@ -233,6 +233,24 @@ TEST_F(WiederholungTest, What_is_not_certain_yet_at_the_end_of_a_row_is_named) {
     EXPECT_EQ(folge.LetzterAustausch(), modAustausch::Letzter());
 }
 
+TEST_F(WiederholungTest, A_row_behind_which_nothing_follows_can_be_made_certain_to_its_end) {
+    Wiederhole(1, 1, 3ms);
+    Schrittfolge folge({Lesung(0), Lesung(1), Lesung(2)}, [this] { return abbruch; });
+    folge.VerlangeGewissheit();
+    EXPECT_TRUE(folge.Laufe());
+    EXPECT_EQ(uebernommen.size(), 3U);
+    ErwarteRichtige();
+}
+
+TEST_F(WiederholungTest, A_row_that_is_to_be_certain_asks_once_more_on_a_line_in_order) {
+    Schrittfolge folge({Lesung(0), Lesung(1)}, [this] { return abbruch; });
+    folge.VerlangeGewissheit();
+    const auto bisher = Kennungen();
+    EXPECT_TRUE(folge.Laufe());
+    EXPECT_EQ(Kennungen(), bisher + 1);
+    ErwarteRichtige();
+}
+
 TEST_F(WiederholungTest, What_is_through_is_taken_over_when_a_row_on_a_line_in_order_is_cancelled) {
     auto schritte = Gang();
     BrichAbBei(schritte[7]);

@@ -163,6 +163,14 @@ TEST(Menuebefehle, Exactly_three_commands_start_live_data_again) {
             << "code " << code;
 }
 
+TEST(Menuebefehle, A_report_and_a_reading_aside_only_pause_live_data) {
+    for (const Befehl befehl : {Befehl::Bericht, Befehl::GeraetVergleichen}) {
+        EXPECT_TRUE(StopptLiveDaten(befehl));
+        EXPECT_TRUE(SetztLiveDatenFort(befehl));
+        EXPECT_FALSE(StartetLiveDatenWieder(befehl)) << "reading anew would lose what is being edited";
+    }
+}
+
 TEST(Menuebefehle, Exactly_these_commands_do_without_a_window) {
     for (int code = 1; code <= 23; ++code) {
         const bool ohneFenster =
