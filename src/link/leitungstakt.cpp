@@ -57,8 +57,11 @@ void Leitungstakt::Gesendet(Zeit wann, std::size_t zeichen) {
 void Leitungstakt::Empfangen(Zeit wann, std::size_t zeichen) {
     if (zeichen == 0)
         return;
+    if (empfangen == 0) {
+        ersterEingang = wann;
+        zuerst = zeichen;
+    }
     empfangen += zeichen;
-    letzterEingang = wann;
     // Nothing of a reply can be there before the request and so much of the reply have passed the line.
     schneller = schneller || wann - sendebeginn < Dauer(gesendet + empfangen) * Ganggenauigkeit;
     kamZuFrueh = schneller && imTakt == Bewaehrung;
@@ -67,7 +70,9 @@ void Leitungstakt::Empfangen(Zeit wann, std::size_t zeichen) {
 Zeit Leitungstakt::Schlafdauer(Zeit jetzt, std::size_t fehlende) const {
     if (schneller || empfangen == 0 || fehlende <= Vorsicht)
         return Zeit{0};
-    const auto bis = letzterEingang + std::chrono::floor<Zeit>(Dauer(fehlende - Vorsicht) * Ganggenauigkeit);
+    // What is read after a sleep arrived some time before; only the first bytes tell when they came.
+    const std::size_t seitdem = empfangen - zuerst + fehlende - Vorsicht;
+    const auto bis = ersterEingang + std::chrono::floor<Zeit>(Dauer(seitdem) * Ganggenauigkeit);
     return bis - jetzt < KuerzesterSchlaf ? Zeit{0} : bis - jetzt;
 }
 

@@ -36,7 +36,8 @@ private:
     double zeichendauer = 0; ///< microseconds; 0: no pace
     Zeit sendebeginn{0};
     Zeit sendeende{0};
-    Zeit letzterEingang{0};
+    Zeit ersterEingang{0};     ///< of the reply
+    std::size_t zuerst = 0;    ///< characters that came then
     std::size_t empfangen = 0; ///< since the request
     std::size_t gesendet = 0;  ///< characters of the request
     bool schneller = false;

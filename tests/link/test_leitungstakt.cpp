@@ -98,6 +98,13 @@ TEST_F(LeitungstaktTest, The_rest_needs_its_time_on_the_line_and_is_awaited_a_li
     EXPECT_EQ(takt.Schlafdauer(jetzt, 2), 0us);
 }
 
+TEST_F(LeitungstaktTest, What_is_read_late_does_not_put_off_the_end_of_the_reply) {
+    BringeErstes();
+    takt.Empfangen(30ms, 19); // the last of them came at 28 ms
+    EXPECT_GT(takt.Schlafdauer(30ms, 10), 4ms);
+    EXPECT_LE(takt.Schlafdauer(30ms, 10), 6ms);
+}
+
 TEST_F(LeitungstaktTest, A_line_that_is_faster_than_its_settings_has_no_pace_until_the_next_request) {
     takt.Empfangen(3ms, 1);
     EXPECT_EQ(takt.Schlafdauer(3ms, 40), 0us);

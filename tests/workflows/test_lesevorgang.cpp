@@ -4,6 +4,7 @@
 #include "austausch.h"
 #include "geraetestand.h"
 #include "optikteilinformation.h"
+#include "rahmen.h"
 #include "registerabbild.h"
 #include "schreibvorgang.h"
 #include "texte.h"
@@ -214,9 +215,11 @@ TEST_F(LesevorgangTest, A_read_that_is_cancelled_leaves_what_was_remembered) {
     EXPECT_FALSE(modGeraetestand::HoleGeraetestand());
 }
 
-TEST_F(LesevorgangTest, Reading_aside_sends_the_same_requests_and_leaves_image_mark_and_memory_alone) {
+TEST_F(LesevorgangTest,
+       Reading_aside_sends_the_same_requests_and_one_to_be_certain_and_leaves_image_mark_and_memory_alone) {
     LiesKonfiguration(anzeige);
-    const auto anfragen = port.gesendet;
+    auto anfragen = port.gesendet;
+    anfragen.push_back(IdentifikationsAnforderung());
     modDaten::LoescheGeaendert();
     const auto davor = GanzesAbbild();
     const auto stand = modGeraetestand::HoleGeraetestand()->zeit;
