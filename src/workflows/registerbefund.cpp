@@ -5,6 +5,7 @@
 #include "texte.h"
 #include "textmitwerten.h"
 #include "vergleich.h"
+#include "vergleichsworte.h"
 
 namespace varnoth {
 
@@ -20,9 +21,6 @@ constexpr std::int16_t TextTeilweiseUnbekannt = 9771;
 constexpr std::int16_t TextAelter = 9772;
 constexpr std::int16_t TextImGeraet = 9775;
 constexpr std::int16_t TextNachher = 9776;
-constexpr std::int16_t TextGlobal = 9778;
-constexpr std::int16_t TextOptikteil = 9779;
-constexpr std::int16_t TextKommunikation = 9780;
 constexpr std::int16_t TextNichtGespeichert = 9781;
 constexpr std::int16_t TextPrueftitel = 9782;
 constexpr std::int16_t TextAbweichend = 9783;
@@ -39,18 +37,6 @@ constexpr std::int16_t TextNichtGeschrieben = 9793;
 constexpr std::int16_t TextUngewiss = 9794;
 constexpr std::int16_t TextZurueckschreiben = 9795;
 constexpr std::int16_t TextWert = 9800;
-
-std::string Bereichsname(const Parameterstelle& stelle) {
-    switch (stelle.bereich) {
-    case Speicherbereich::GlobaleGeraetedaten:
-        return LadeText(TextGlobal);
-    case Speicherbereich::SpezifischeGeraetedaten:
-        return LadeTextMit(TextOptikteil, {std::to_string(stelle.optikteil + 1)});
-    case Speicherbereich::Kommunikationsdaten:
-        return LadeText(TextKommunikation);
-    }
-    return {};
-}
 
 /// A register keeps 16 bits, whatever an image holds.
 std::string Worte(const Abbild& abbild, const Parameterstelle& stelle) {
@@ -69,7 +55,7 @@ Geraetestand NichtsBekannt() {
 
 Registerzeile Zeile(const Parameterstelle& stelle, std::string links, std::string rechts) {
     return {.stelle = stelle,
-            .bereich = Bereichsname(stelle),
+            .bereich = Gruppenname(stelle),
             .name = Parametername(stelle.bereich, stelle.adresse),
             .links = std::move(links),
             .rechts = std::move(rechts),
