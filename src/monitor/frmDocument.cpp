@@ -68,6 +68,9 @@ void frmDocument::RichteWerteEin() {
               ui->lblInhaltTNU, ui->lblInhaltHNU, ui->lblInhaltZNU};
     positionen = {ui->lblPositionTU,  ui->lblPositionHU,  nullptr,
                   ui->lblPositionTNU, ui->lblPositionHNU, nullptr};
+    for (QLabel* position : positionen)
+        if (position != nullptr)
+            position->setAutoFillBackground(true);
     gezeigteWerte.fill(-1);
     ui->Frame1->installEventFilter(this);
     for (QLabel* element : ui->Frame1->findChildren<QLabel*>())

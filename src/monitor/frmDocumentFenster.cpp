@@ -124,15 +124,13 @@ void frmDocument::PasseZiffernAn() {
         QFontMetrics(klein).horizontalAdvance(QString::fromStdString(Positionstext(hoechste)));
     for (QLabel* element : ui->Frame1->findChildren<QLabel*>())
         element->setFont(klein);
-    for (Wertfeld* feld : ui->Frame1->findChildren<Wertfeld*>()) {
-        feld->setFont(gross);
-        feld->setMinimumWidth(zahlbreite);
-    }
+    for (Wertfeld* feld : ui->Frame1->findChildren<Wertfeld*>())
+        feld->SetzeZiffern(gross, zahlbreite);
     for (QLabel* position : positionen) {
         if (position == nullptr)
             continue;
         position->setVisible(mitPosition);
-        position->setMinimumWidth(positionsbreite);
+        position->setFixedSize(positionsbreite, QFontMetrics(klein).height());
     }
 }
 

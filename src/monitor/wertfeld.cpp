@@ -4,9 +4,7 @@
 #include "texte.h"
 
 #include <QAccessibleWidget>
-#include <QEvent>
-
-#include <algorithm>
+#include <QEnterEvent>
 
 namespace varnoth {
 
@@ -38,6 +36,7 @@ QAccessibleInterface* MacheZugang(const QString& /*klasse*/, QObject* element) {
 
 Wertfeld::Wertfeld(QWidget* eltern) : QLabel(eltern) {
     QAccessible::installFactory(MacheZugang);
+    setAutoFillBackground(true); // spares drawing all that lies below
 }
 
 QString Wertfeld::Ansage() const {
@@ -47,22 +46,20 @@ QString Wertfeld::Ansage() const {
     return zusatz.isEmpty() ? wert : wert + QStringLiteral(", ") + zusatz;
 }
 
-QSize Wertfeld::sizeHint() const {
-    if (zeichen != text().size()) {
-        zeichen = text().size();
-        QString breiteste = text();
-        std::ranges::replace_if(
-            breiteste, [](QChar eines) { return eines.isDigit(); }, QLatin1Char('8'));
-        platz = QLabel::minimumSizeHint();
-        platz.rwidth() +=
-            fontMetrics().horizontalAdvance(breiteste) - fontMetrics().horizontalAdvance(text());
-    }
-    return platz;
+void Wertfeld::SetzeZiffern(const QFont& schrift, int breite) {
+    setFont(schrift);
+    setFixedSize(breite, QFontMetrics(schrift).height());
 }
 
-void Wertfeld::changeEvent(QEvent* ereignis) {
-    zeichen = -1;
-    QLabel::changeEvent(ereignis);
+void Wertfeld::enterEvent(QEnterEvent* ereignis) {
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QLabel::enterEvent(ereignis);
+}
+
+void Wertfeld::leaveEvent(QEvent* ereignis) {
+    if (!hasSelectedText())
+        setTextInteractionFlags(Qt::NoTextInteraction);
+    QLabel::leaveEvent(ereignis);
 }
 
 } // namespace varnoth

@@ -5,7 +5,8 @@
 namespace varnoth {
 
 /// A label with a measured value. Its accessible name is the caption of the value; a screen reader hears
-/// caption, value and what is added.
+/// caption, value and what is added. Its text can be selected while the pointer is over it: a label whose text
+/// can be takes several times as long to show another.
 class Wertfeld : public QLabel {
     Q_OBJECT
 
@@ -17,17 +18,15 @@ public:
     /// "TU 107, 530 mm"; without a value the caption and that there is none.
     QString Ansage() const;
 
-    /// The place that any number with as many digits needs: another value is no reason to arrange the view
-    /// anew.
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Gives the field its font and, once for all values, a place of so many pixels: another value is no
+    /// reason to arrange the view anew.
+    void SetzeZiffern(const QFont& schrift, int breite);
 
 protected:
-    void changeEvent(QEvent* ereignis) override;
+    void enterEvent(QEnterEvent* ereignis) override;
+    void leaveEvent(QEvent* ereignis) override;
 
 private:
-    mutable QSize platz;
-    mutable qsizetype zeichen = -1; // of the text that `platz` is for
     QString zusatz;
 };
 
