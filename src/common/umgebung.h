@@ -47,6 +47,8 @@ public:
     /// Runs every pending event and does what was put off for this (FuerWartezeit), painting too: the line is
     /// busy for a while, and nobody waits for this thread.
     virtual void NutzeWartezeit() = 0;
+    /// Whether there is anything that was put off for this.
+    virtual bool BrauchtWartezeit() = 0;
     /// Puts work off until the line is busy anyway. Between a reply and the next request it would slow the
     /// exchange down; where nothing is exchanged, it is done as soon as events run. In the order of the
     /// calls.

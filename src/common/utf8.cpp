@@ -11,7 +11,7 @@ namespace {
 struct Form {
     std::uint8_t maske;
     std::uint8_t kennung;
-    std::size_t folgebytes;
+    std::uint8_t folgebytes;
     std::uint32_t kleinster;
 };
 

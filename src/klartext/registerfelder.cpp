@@ -25,6 +25,7 @@ std::vector<std::string> Worte(const Auswahlliste& liste, const Lesart& lesart) 
     if (liste.posten != Postenart::Dauer || lesart.zyklus != 0)
         return Postentexte(liste, lesart.zyklus, [&](double zahl) { return Zahlwort(zahl, lesart); });
     std::vector<std::string> worte;
+    worte.reserve(static_cast<std::size_t>(liste.anzahl));
     for (int auswahl = 0; auswahl < liste.anzahl; ++auswahl)
         worte.push_back(LadeText(TextZyklen, lesart.sprache) + std::to_string(WertFuer(liste, auswahl)));
     return worte;

@@ -93,9 +93,9 @@ void SpeichereStrahlen(int teil, std::int16_t anzahl, const Werte& werte) {
 }
 
 void NimmVorlaeufigesZurueck() {
-    for (auto eines = vorlaeufiges.rbegin(); eines != vorlaeufiges.rend(); ++eines)
-        if (eines->austausch > modAustausch::GewissBis())
-            eines->nimmZurueck();
+    for (const auto& eines : std::views::reverse(vorlaeufiges))
+        if (eines.austausch > modAustausch::GewissBis())
+            eines.nimmZurueck();
     vorlaeufiges.clear();
 }
 

@@ -85,7 +85,7 @@ std::string Starte(const std::filesystem::path& pfad) {
     if (!LegeAn(pfad))
         return LetzterFehler();
     Schreibe("Start\r\n");
-    const std::string fehler = schreibfehler;
+    std::string fehler = schreibfehler;
     if (!fehler.empty())
         Schliesse();
     return fehler;

@@ -37,6 +37,7 @@ QAccessibleInterface* MacheZugang(const QString& /*klasse*/, QObject* element) {
 Wertfeld::Wertfeld(QWidget* eltern) : QLabel(eltern) {
     QAccessible::installFactory(MacheZugang);
     setAutoFillBackground(true); // spares drawing all that lies below
+    setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
 QString Wertfeld::Ansage() const {
@@ -48,7 +49,7 @@ QString Wertfeld::Ansage() const {
 
 void Wertfeld::SetzeZiffern(const QFont& schrift, int breite) {
     setFont(schrift);
-    setFixedSize(breite, QFontMetrics(schrift).height());
+    setFixedSize(breite, QFontMetrics(schrift).boundingRect(rect(), 0, QStringLiteral("8")).height());
 }
 
 void Wertfeld::enterEvent(QEnterEvent* ereignis) {

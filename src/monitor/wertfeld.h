@@ -5,8 +5,8 @@
 namespace varnoth {
 
 /// A label with a measured value. Its accessible name is the caption of the value; a screen reader hears
-/// caption, value and what is added. Its text can be selected while the pointer is over it: a label whose text
-/// can be takes several times as long to show another.
+/// caption, value and what is added. Its text can be selected while the pointer is over it: a label whose
+/// text can be takes several times as long to show another.
 class Wertfeld : public QLabel {
     Q_OBJECT
 

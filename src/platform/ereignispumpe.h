@@ -28,6 +28,7 @@ public:
     /// Puts work off: it is done, in the order of the calls, by whatever runs events next but
     /// LaufeOhneAufgeschobenes.
     void SchiebeAuf(std::function<void()> arbeit);
+    bool HatAufgeschobenes() const { return !aufgeschobenes.empty(); }
     /// Whether the events that run right now are those of LaufeOhneAufgeschobenes.
     bool HaeltZurueck() const;
 

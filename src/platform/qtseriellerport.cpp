@@ -247,7 +247,7 @@ Hindernis QtSeriellerPort::HindernisNachFehler() const {
 
 void QtSeriellerPort::Verwirf() {
     marken.Vergiss();
-    if (port.isOpen())
+    if (BytesWartend() > 0)
         port.clear(QSerialPort::Input);
 }
 
@@ -274,9 +274,18 @@ void QtSeriellerPort::Schreibe(std::string_view bytes) {
         port.write(bytes.data(), static_cast<qint64>(bytes.size()));
     if (port.isOpen() && !bytes.empty())
         port.flush();
+    UebergibUndMale();
+}
+
+/// The line is busy: a good time for what was put off. Events have just run in the pause before a request. A
+/// line that has answered by now leaves the window to its usual turn.
+void QtSeriellerPort::UebergibUndMale() {
+    if (!DieUmgebung().BrauchtWartezeit()) {
+        naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
+        return;
+    }
     if (port.isOpen())
         SchlafeAnDerLeitung(port, Uebergabe);
-    // A line that has answered by now leaves the window to its usual turn.
     if (BytesImSystem(port) == 0 || DieUmgebung().Uhr() >= naechsterFensterblick)
         SchaueNachDemFenster();
 }

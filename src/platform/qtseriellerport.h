@@ -37,6 +37,7 @@ private:
     void BeiEingang();
     void SchalteLeitungenEin();
     void SchaueNachDemFenster();
+    void UebergibUndMale();
 
     QSerialPort port;
     Paritaetsmarken marken;

@@ -15,6 +15,7 @@ public:
 
     int LasseEreignisseLaufen() override;
     void NutzeWartezeit() override;
+    bool BrauchtWartezeit() override { return pumpe.HatAufgeschobenes(); }
     void FuerWartezeit(std::function<void()> arbeit) override;
     void WarteAufEreignis(Zeit hoechstens) override;
     Zeit Uhr() override;

@@ -23,7 +23,7 @@
 namespace varnoth {
 
 /// The longest text that is looked at, in bytes. A whole image has less than a fifth of it.
-inline constexpr std::size_t LaengsterStandtext = 1024 * 1024;
+inline constexpr std::size_t LaengsterStandtext = std::size_t{1024} * 1024;
 
 /// The most errors that are told of a text.
 inline constexpr std::size_t HoechstensStandfehler = 20;

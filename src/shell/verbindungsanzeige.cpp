@@ -8,7 +8,6 @@
 #include "tipptext.h"
 #include "transaktionen.h"
 #include "verbindungssymbol.h"
-#include "verbindungstexte.h"
 #include "zeichensatz.h"
 
 #include <QHBoxLayout>
@@ -101,10 +100,17 @@ void Verbindungsanzeige::SetzeVerbindet(bool ob) {
 
 void Verbindungsanzeige::Aktualisiere() {
     const Verbindungstatsachen tatsachen = Tatsachen(verbindet);
-    Zeige(regel.Betrachte(tatsachen), tatsachen.uhrzeit);
+    const Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
+                        .gegenstand = Gegenstand(),
+                        .tag = tatsachen.uhrzeit.date(),
+                        .sprache = GetSprachoffset()};
+    if (inhalt != gezeigt)
+        Zeige(inhalt, tatsachen.uhrzeit);
+    gezeigt = inhalt;
 }
 
-void Verbindungsanzeige::Zeige(const Verbindungsbild& bild, const QDateTime& jetzt) {
+void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {
+    const Verbindungsbild& bild = inhalt.bild;
     symbol->Zeige(bild.zustand, bild.simuliert);
     SetzeText(*zustandstext, Zustandstext(bild, jetzt));
     SetzeText(*zahlen, Zahlentext(bild));
@@ -114,7 +120,7 @@ void Verbindungsanzeige::Zeige(const Verbindungsbild& bild, const QDateTime& jet
         start->setText(QString::fromStdString(LadeText(TextStart)));
         SetzeHinweis(*start, LadeText(TextStartHinweis));
     }
-    SetzeHinweis(*this, Verbindungshinweis(bild, Gegenstand(), jetzt));
+    SetzeHinweis(*this, Verbindungshinweis(bild, inhalt.gegenstand, jetzt));
     setAccessibleName(zustandstext->text());
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "verbindungsregel.h"
+#include "verbindungstexte.h"
 
 #include <QTimer>
 #include <QWidget>
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 
 class QPushButton;
 class QStatusBar;
@@ -29,7 +32,17 @@ public:
     void Aktualisiere();
 
 private:
-    void Zeige(const Verbindungsbild& bild, const QDateTime& jetzt);
+    /// What the texts depend on.
+    struct Inhalt {
+        Verbindungsbild bild;
+        Verbindungsgegenstand gegenstand;
+        QDate tag;
+        std::int16_t sprache;
+
+        bool operator==(const Inhalt&) const = default;
+    };
+
+    void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;
@@ -37,6 +50,7 @@ private:
     QPushButton* start;
     QTimer takt;
     Verbindungsregel regel;
+    std::optional<Inhalt> gezeigt;
     bool verbindet = false;
 };
 

@@ -15,6 +15,8 @@ struct Verbindungsgegenstand {
     std::string format;         ///< "38400,n,8,2"
     std::string bezeichnung{};  ///< what the controller calls itself (UTF-8); empty while it has not said
     std::string seriennummer{}; ///< the same of its serial number
+
+    bool operator==(const Verbindungsgegenstand&) const = default;
 };
 
 /// The state in words. `jetzt` decides whether a time of day is enough.

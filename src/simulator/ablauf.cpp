@@ -56,7 +56,7 @@ timespec AlsTimespec(std::chrono::nanoseconds dauer) {
 
 } // namespace
 
-Ablauf::Ablauf(Optionen optionen)
+Ablauf::Ablauf(const Optionen& optionen)
     : schlafmaske(RichteSignaleEin()), simulator(MitProtokoll(optionen)), pty(optionen.verknuepfung),
       kanal(optionen.steuerkanal) {
     WeckePuenktlich();

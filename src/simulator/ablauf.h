@@ -15,7 +15,7 @@ class Ablauf {
 public:
     /// Opens all that the options name, and blocks the signals that end the program but for its sleep.
     /// @throws std::invalid_argument or std::runtime_error with a sentence for the user
-    explicit Ablauf(Optionen optionen);
+    explicit Ablauf(const Optionen& optionen);
 
     /// The path of the terminal that is served.
     const std::string& Geraet() const { return pty.Geraet(); }

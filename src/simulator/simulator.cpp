@@ -139,8 +139,7 @@ void Simulator::StelleAutosend(Zeit jetzt) {
 
 std::string Simulator::Befehl(std::string_view zeile, Zeit jetzt) {
     protokoll.SetzeZeit(jetzt);
-    const std::string ergebnis =
-        FuehreBefehlAus({geraet, optik, stoerungen, protokoll, zaehlwerk, jetzt}, zeile);
+    std::string ergebnis = FuehreBefehlAus({geraet, optik, stoerungen, protokoll, zaehlwerk, jetzt}, zeile);
     StelleAutosend(jetzt);
     return ergebnis;
 }

@@ -101,22 +101,22 @@ constexpr int HoechstesBit = 8 * 256 - 1;
 constexpr int HoechsteAdresse = 0xFFFF;
 constexpr int MeisteVorbei = 1000;
 constexpr Stoerungsart Arten[] = {
-    {"silence", 0, 0, false, Schweige},
-    {"crc", 0, 0, false, VerdirbCrc},
-    {"address", 0, 0, false, TauscheAdresse},
-    {"exception", 4, 255, true, LehneAb},
-    {"stray", 1, 255, false, StreueDavor},
-    {"pieces", 50, LaengstePause, false, Zerteile},
-    {"surplus", 1, 255, false, HaengeUeberzaehligeAn},
-    {"late", 1500, LaengstePause, false, Verspaete},
-    {"flip", 24, HoechstesBit, false, KippeBit},
-    {"repeat", 50, LaengstePause, false, Wiederhole},
-    {"repeat-twice", 50, LaengstePause, false, WiederholeZweimal},
-    {"repeat-flip", 24, HoechstesBit, false, WiederholeGekippt, 50, LaengstePause},
-    {"repeat-earlier", 1, static_cast<int>(Antwortverlauf::Laenge) - 1, false, WiederholeFruehere, 50,
+    {"silence", 0, 0, Schweige, false},
+    {"crc", 0, 0, VerdirbCrc, false},
+    {"address", 0, 0, TauscheAdresse, false},
+    {"exception", 4, 255, LehneAb, true},
+    {"stray", 1, 255, StreueDavor, false},
+    {"pieces", 50, LaengstePause, Zerteile, false},
+    {"surplus", 1, 255, HaengeUeberzaehligeAn, false},
+    {"late", 1500, LaengstePause, Verspaete, false},
+    {"flip", 24, HoechstesBit, KippeBit, false},
+    {"repeat", 50, LaengstePause, Wiederhole, false},
+    {"repeat-twice", 50, LaengstePause, WiederholeZweimal, false},
+    {"repeat-flip", 24, HoechstesBit, WiederholeGekippt, false, 50, LaengstePause},
+    {"repeat-earlier", 1, static_cast<int>(Antwortverlauf::Laenge) - 1, WiederholeFruehere, false, 50,
      LaengstePause},
-    {"forget", 0, HoechsteAdresse, false, nullptr, 0, MeisteVorbei, Eingriff::Vergessen},
-    {"restart-at", 0, HoechsteAdresse, false, nullptr, 0, MeisteVorbei, Eingriff::Neustart},
+    {"forget", 0, HoechsteAdresse, nullptr, false, 0, MeisteVorbei, Eingriff::Vergessen},
+    {"restart-at", 0, HoechsteAdresse, nullptr, false, 0, MeisteVorbei, Eingriff::Neustart},
 };
 
 const Stoerungsart& FindeArt(std::string_view name) {

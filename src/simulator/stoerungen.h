@@ -53,8 +53,8 @@ struct Stoerungsart {
     std::string_view name;
     int vorgabe;  ///< argument when none is given
     int groesste; ///< greatest argument
-    bool lehntAb; ///< the request is refused and not carried out
     void (*verfaelsche)(Sendung& sendung, const Umstaende& umstaende);
+    bool lehntAb;          ///< the request is refused and not carried out
     int vorgabeNach = 0;   ///< milliseconds when none are given
     int groesstesNach = 0; ///< 0 = it takes none
     Eingriff eingriff = Eingriff::Antwort;

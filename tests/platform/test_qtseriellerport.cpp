@@ -73,12 +73,15 @@ TEST_F(QtSeriellerPortTest, Bytes_taken_up_while_events_ran_come_before_those_th
     EXPECT_EQ(port.LiesAlles(), "firstsecond");
 }
 
-TEST_F(QtSeriellerPortTest, Window_events_are_served_once_a_request_is_out) {
+TEST_F(QtSeriellerPortTest, Sending_leaves_window_events_to_their_turn_where_nothing_was_put_off) {
     port.Oeffne(1, Standard);
     bool gelaufen = false;
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [&gelaufen] { gelaufen = true; }, Qt::QueuedConnection);
+    QTimer::singleShot(0, [&gelaufen] { gelaufen = true; });
     port.Schreibe("request");
+    EXPECT_FALSE(gelaufen);
+    const Zeit beginn = umgebung.Uhr();
+    while (!gelaufen && umgebung.Uhr() - beginn < 10s)
+        port.WarteAufEingang(10s);
     EXPECT_TRUE(gelaufen);
 }
 

@@ -31,6 +31,7 @@ public:
         ErledigeAufgeschobenes();
         LasseEreignisseLaufen();
     }
+    bool BrauchtWartezeit() override { return !aufgeschobenes.empty(); }
     void FuerWartezeit(std::function<void()> arbeit) override { aufgeschobenes.push_back(std::move(arbeit)); }
     /// Time passes at once: to the end of the wait, or up to the next planned event.
     void WarteAufEreignis(Zeit hoechstens) override {
