@@ -12,7 +12,7 @@ constexpr std::int16_t TextErstesOptikteil = 5200;
 
 /// The name of a parameter, that of its optical part before it.
 std::string Name(const Parameter& parameter, int teil) {
-    const std::string name = Parametername(parameter.bereich, parameter.adresse);
+    std::string name = Parametername(parameter.bereich, parameter.adresse);
     if (parameter.bereich != Speicherbereich::SpezifischeGeraetedaten)
         return name;
     return LadeText(static_cast<std::int16_t>(TextErstesOptikteil + teil)) + " " + name;

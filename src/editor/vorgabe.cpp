@@ -47,14 +47,14 @@ std::int32_t Vorgabewert(const Parameterstelle& stelle) {
     return Vorgabewerte(stelle).at(0);
 }
 
-Vorgabe VorgabeVon(QComboBox& box, std::function<int()> platz) {
+Vorgabe VorgabeVon(QComboBox& box, const std::function<int()>& platz) {
     return {.elemente = {&box},
             .weichtAb = [&box, platz] { return box.currentIndex() != platz(); },
             .worte = [&box, platz] { return box.itemText(platz()); },
             .stelleZurueck = [&box, platz] { box.setCurrentIndex(platz()); }};
 }
 
-Vorgabe VorgabeVon(QButtonGroup& gruppe, std::function<int()> knopf) {
+Vorgabe VorgabeVon(QButtonGroup& gruppe, const std::function<int()>& knopf) {
     const auto knoepfe = gruppe.buttons();
     return {.elemente = {knoepfe.begin(), knoepfe.end()},
             .weichtAb = [&gruppe, knopf] { return knopf() != -1 && gruppe.checkedId() != knopf(); },

@@ -27,8 +27,8 @@ struct Vorgabe {
 
 /// The settings of the kinds of controls. Which item, button or text is the default may hang on what else is
 /// set, so it is asked for each time; -1 of a group: none of them is.
-Vorgabe VorgabeVon(QComboBox& box, std::function<int()> platz);
-Vorgabe VorgabeVon(QButtonGroup& gruppe, std::function<int()> knopf);
+Vorgabe VorgabeVon(QComboBox& box, const std::function<int()>& platz);
+Vorgabe VorgabeVon(QButtonGroup& gruppe, const std::function<int()>& knopf);
 Vorgabe VorgabeVon(QCheckBox& kasten, bool angekreuzt);
 Vorgabe VorgabeVon(QLineEdit& feld, const QString& text);
 /// A parameter that a window behind the button edits in the image.

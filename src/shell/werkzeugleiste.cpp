@@ -48,8 +48,8 @@ QToolButton& Mehrknopf(const QToolBar& leiste) {
 
 } // namespace
 
-Werkzeugleiste::Werkzeugleiste(QMainWindow& das, std::span<const Befehlszeile> befehle)
-    : QToolBar(&das), fenster(das), mehr(Mehrknopf(*this)) {
+Werkzeugleiste::Werkzeugleiste(QMainWindow& hauptfenster, std::span<const Befehlszeile> befehle)
+    : QToolBar(&hauptfenster), fenster(hauptfenster), mehr(Mehrknopf(*this)) {
     setObjectName(QStringLiteral("tlbBefehle"));
     setFloatable(false);
     setIconSize({Bildgroesse, Bildgroesse});
