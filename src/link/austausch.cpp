@@ -271,6 +271,8 @@ bool Vergewissere() {
     zustand.zuordnung.Beantwortet(frage);
     const bool kamZuerst = Brueche() == bruecheDavor;
     zustand.gewissheit.Geklaert();
+    if (!strom.empty())
+        zustand.zuordnung.Ueberzaehliges();
     NimmUngefragtes(strom);
     return kamZuerst;
 }

@@ -30,6 +30,25 @@ bool TrifftAnforderung(std::string& anforderung, const Probefehler& fehler) {
 
 } // namespace
 
+/// Time in milliseconds, what happens, the fault and its figures, the bytes.
+void Proberegler::Schreibmit(std::string_view was, std::string_view bytes, const Probefehler& dazu) {
+    if (!mitschrift)
+        return;
+    constexpr double MikrosekundenJeMillisekunde = 1000;
+    std::string zeile =
+        std::to_string(static_cast<double>(umgebung.uhr.count()) / MikrosekundenJeMillisekunde) + ' ';
+    zeile += was;
+    if (!dazu.name.empty())
+        zeile += " [" + std::string(dazu.name) + ' ' + std::to_string(dazu.wert) + ' ' +
+                 std::to_string(dazu.nach) + ']';
+    for (const char byte : bytes) {
+        constexpr std::string_view Ziffern = "0123456789abcdef";
+        const auto zahl = static_cast<unsigned char>(byte);
+        zeile += {' ', Ziffern[zahl / 16U], Ziffern[zahl % 16U]};
+    }
+    mitschrift(zeile);
+}
+
 void Proberegler::Verwirf() {
     Verarbeite();
     leitung.Verwirf();
@@ -44,6 +63,8 @@ std::string Proberegler::LiesAlles() {
     Verarbeite();
     std::string bytes = leitung.LiesAlles(umgebung.uhr);
     gelesen += bytes.size();
+    if (!bytes.empty())
+        Schreibmit("read", bytes);
     return bytes;
 }
 
@@ -69,6 +90,7 @@ void Proberegler::Schreibe(std::string_view bytes) {
     identifikationen += letzteSendung.at(1) == 0x11 ? 1 : 0;
     std::string anforderung(bytes);
     auto einer = fehler ? fehler() : std::nullopt;
+    Schreibmit("sent", bytes, einer.value_or(Probefehler{}));
     // A whole identification from another address is true for all that anybody can tell.
     if (einer && einer->name == "address" && anforderung.at(1) == 0x11)
         einer->name = "crc";
@@ -105,6 +127,9 @@ void Proberegler::Beantworte(const Wartende& eine) {
         stoerung->Verfaelsche(sendung, verlauf);
     }
     const bool verspaetet = eine.fehler && (eine.fehler->name == "late" || eine.fehler->name == "pieces");
+    for (const auto& stueck : sendung)
+        Schreibmit("  answered after " + std::to_string(stueck.pause.count()),
+                   {reinterpret_cast<const char*>(stueck.zeichen.data()), stueck.zeichen.size()});
     leitung.Sende(sendung, eine.faellig, ausserDerReihe && verspaetet);
 }
 

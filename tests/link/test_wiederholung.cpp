@@ -311,6 +311,21 @@ TEST_F(WiederholungTest, Nothing_is_certain_while_the_answer_to_the_identificati
     EXPECT_EQ(modAustausch::GewissBis(), modAustausch::Letzter());
 }
 
+TEST_F(WiederholungTest, Bytes_behind_the_answer_that_settles_are_let_pass_before_the_next_request) {
+    std::vector<Stueck> dahinter{{0ms, "UUUU"}, {3ms, "UUUU"}, {6ms, "UUUU"}};
+    port.antworte = [&, antworte = port.antworte](const std::string& anforderung) {
+        auto stuecke = antworte(anforderung);
+        stuecke[0].bytes += std::exchange(dahinter[0].bytes, {});
+        for (Stueck& stueck : dahinter)
+            stuecke.push_back({stuecke[0].nach + stueck.nach, std::exchange(stueck.bytes, {})});
+        return stuecke;
+    };
+    EXPECT_TRUE(modAustausch::Vergewissere());
+    const Zeit davor = umgebung.uhr;
+    EXPECT_EQ(Lies(1), 1001);
+    EXPECT_EQ(port.sendezeiten.back() - davor, 6ms + modSchnittstelle::Ruhezeit + 2ms);
+}
+
 TEST_F(WiederholungTest, A_reply_that_is_there_before_its_request_can_have_left_is_not_believed) {
     for (int i = 0; i < 25; ++i)
         Lies(i % 10); // the line is seen to keep its pace
