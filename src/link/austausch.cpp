@@ -28,6 +28,7 @@ struct Zustand {
     std::string letzteAntwort{};  ///< the one that was believed last
     std::string ungefragtes{};    ///< bytes since then that nobody was waiting for
     unsigned long verwundene = 0; ///< breaks after which the line has been quiet for long
+    int gestoert = 0;             ///< exchanges that must succeed until the line counts as undisturbed
     bool unruhig = false;         ///< the line did not become quiet before the last request
 };
 
@@ -198,6 +199,12 @@ void BewerteErfolg(const std::string& anforderung, const Erkenner& erkenner, con
     NimmUngefragtes(std::string_view(strom).substr(erkenner.Genommen()));
 }
 
+/// On a line that was disturbed lately a reply that comes late may be another's, sent a second time, while its
+/// own is lost: nothing but its time tells that. A write is not sent twice for that.
+bool IstZweifelhaft(const std::string& anforderung) {
+    return zustand.gestoert > 0 && !zustand.unruhig && !Schreibt(anforderung) && KamSpaet();
+}
+
 bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     OeffneWieder();
     zustand.unruhig = false;
@@ -215,15 +222,24 @@ bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verl
         zustand.gewissheit.Gebrochen();
         return false;
     }
+    if (IstZweifelhaft(anforderung))
+        return false;
     BewerteErfolg(anforderung, erkenner, strom);
     return true;
+}
+
+void MerkeStoerung(bool gestoert) {
+    constexpr int Nachwirkung = 1000;
+    zustand.gestoert = gestoert ? Nachwirkung : std::max(zustand.gestoert - 1, 0);
 }
 
 } // namespace
 
 bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     modLeitungsstatistik::Beginnt();
+    const unsigned long bruecheDavor = Brueche();
     const bool gelungen = TauscheAus(anforderung, erkenner, verlass);
+    MerkeStoerung(!gelungen || Brueche() != bruecheDavor);
     modLeitungsstatistik::Endet(gelungen, GetPortIstOffen() == True);
     return gelungen;
 }

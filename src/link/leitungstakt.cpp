@@ -13,6 +13,8 @@ constexpr double MikrosekundenJeSekunde = 1e6;
 constexpr double Ganggenauigkeit = 0.97; // the other side's clock may run so much faster
 constexpr std::size_t Vorsicht = 2;      // characters before the last one that are waited for awake
 constexpr int Bewaehrung = 20;           // replies after which a line is known to keep its pace
+constexpr int Widerlegung = 3;           // so many in a row are no accident
+constexpr Zeit Spielraum = std::chrono::milliseconds(20); // adapters hand over every 16 ms
 constexpr Zeit KuerzesterSchlaf = std::chrono::microseconds(100); // waking takes about as long
 
 } // namespace
@@ -22,10 +24,14 @@ void Leitungstakt::Stelle(std::string_view porteinstellungen) {
         Bewerte();
     const auto gelesen = LiesPorteinstellungen(porteinstellungen);
     const double neue = gelesen ? MikrosekundenJeSekunde * Bitzeiten(*gelesen) / gelesen->baud : 0;
-    const int bewaehrt = neue == zeichendauer ? imTakt : 0;
-    *this = {};
-    zeichendauer = neue;
-    imTakt = bewaehrt;
+    Leitungstakt neuer;
+    neuer.zeichendauer = neue;
+    if (neue == zeichendauer) {
+        neuer.imTakt = imTakt;
+        neuer.uebliche = uebliche;
+        neuer.gesehene = gesehene;
+    }
+    *this = neuer;
 }
 
 Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
@@ -35,12 +41,30 @@ Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
 
 /// What the last reply tells of the line.
 void Leitungstakt::Bewerte() {
-    constexpr int Widerlegung = 3; // so many in a row are no accident
+    BewerteAntwortzeit();
     zuFruehe = schneller ? zuFruehe + 1 : 0;
     if (!schneller)
         imTakt = std::min(imTakt + 1, Bewaehrung);
     else if (imTakt < Bewaehrung || zuFruehe == Widerlegung)
         imTakt = 0;
+}
+
+Zeit Leitungstakt::Antwortzeit() const {
+    return std::max(ersterEingang - sendeende, Zeit{0});
+}
+
+bool Leitungstakt::KamSpaet() const {
+    return empfangen > 0 && gesehene == Bewaehrung && Antwortzeit() > 2 * uebliche + Spielraum;
+}
+
+/// A longer time counts at once, a shorter one bit by bit; what is late counts when it stays so.
+void Leitungstakt::BewerteAntwortzeit() {
+    constexpr int Traegheit = 8;
+    spaete = KamSpaet() ? spaete + 1 : 0;
+    if (spaete > 0 && spaete < Widerlegung)
+        return;
+    gesehene = std::min(gesehene + 1, Bewaehrung);
+    uebliche = std::max(Antwortzeit(), uebliche - (uebliche - Antwortzeit()) / Traegheit);
 }
 
 void Leitungstakt::Gesendet(Zeit wann, std::size_t zeichen) {

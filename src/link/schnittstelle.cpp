@@ -239,6 +239,10 @@ bool KamZuFrueh() {
     return zustand.takt.KamZuFrueh();
 }
 
+bool KamSpaet() {
+    return zustand.takt.KamSpaet();
+}
+
 bool IstRuhig(Zeit ruhe) {
     return CommPortBytesAvailable() == 0 && DieUmgebung().Uhr() >= zustand.letzterEingang + ruhe;
 }
