@@ -17,6 +17,8 @@ public:
     void Stelle(std::string_view porteinstellungen);
     /// A request of so many characters was handed to the port.
     void Gesendet(Zeit wann, std::size_t zeichen);
+    /// Nothing of the reply has come by now.
+    void NochNichts(Zeit wann);
     /// So many characters came out of the port, all that were there at that time.
     void Empfangen(Zeit wann, std::size_t zeichen);
 
@@ -41,6 +43,7 @@ private:
     double zeichendauer = 0; ///< microseconds; 0: no pace
     Zeit sendebeginn{0};
     Zeit sendeende{0};
+    Zeit zuletztNichts{0};     ///< when nothing of the reply had come yet
     Zeit ersterEingang{0};     ///< of the reply
     std::size_t zuerst = 0;    ///< characters that came then
     std::size_t empfangen = 0; ///< since the request

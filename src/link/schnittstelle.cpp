@@ -223,6 +223,7 @@ void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
     for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < ende; jetzt = DieUmgebung().Uhr()) {
         if (AufZeichenWarten == True && CommPortBytesAvailable() > 0)
             return;
+        zustand.takt.NochNichts(jetzt);
         SchlafeBisEingang(ende - jetzt);
     }
     if (AufZeichenWarten != True || CommPortBytesAvailable() == 0)

@@ -65,7 +65,8 @@ void Drucke(const Probezahlen& zahlen, const Optionen& optionen) {
 int main(int anzahl, char** worte) {
     const Optionen optionen = LiesOptionen(anzahl, worte);
     if (!optionen.gueltig) {
-        std::cerr << "austauschprobe [--exchanges N] [--seed S] [--mixed PERMILLE] [--trace LINES] [--out-of-order]\n";
+        std::cerr << "austauschprobe [--exchanges N] [--seed S] [--mixed PERMILLE] [--trace LINES] "
+                     "[--out-of-order]\n";
         return 2;
     }
     Probelauf lauf(optionen.startwert, optionen.ausserDerReihe);

@@ -257,13 +257,18 @@ void Probelauf::PruefeGewisses() {
 
 /// False when the write is not believed, or was taken back at once.
 bool Probelauf::SchreibGeprueft(Block block, const Werte& werte) {
+    const auto schreibe = [&] {
+        if (block.adresse == Proberegister::Auswahlregister)
+            return WaehleOptikteil(werte[0]);
+        return RTUModeH10SchreibenAnforderung(static_cast<std::uint16_t>(block.adresse),
+                                              static_cast<std::uint16_t>(block.anzahl), werte);
+    };
     const auto adresse = static_cast<std::uint16_t>(block.adresse);
     const auto anzahl = static_cast<std::uint16_t>(block.anzahl);
     const std::string rahmen = SchreibAnforderung(Proberegler::Slaveadresse, adresse, anzahl, werte);
     const int davor = regler.ausgefuehrte[rahmen];
     const long bruecheDavor = zahlen.brueche;
-    if (!MitVersuchen([&] { return RTUModeH10SchreibenAnforderung(adresse, anzahl, werte); }) ||
-        zahlen.brueche != bruecheDavor)
+    if (!MitVersuchen(schreibe) || zahlen.brueche != bruecheDavor)
         return false;
     if (Soll(block, teil.value_or(0)) == werte)
         return true; // it is there, whichever attempt it was

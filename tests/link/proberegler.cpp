@@ -9,6 +9,8 @@ namespace varnoth::pruefung {
 
 namespace {
 
+constexpr Zeit Fensterblick = std::chrono::milliseconds(4); // waits come back so often
+
 bool HatGueltigePruefsumme(const std::string& rahmen) {
     return rahmen.size() > 2 && MitPruefsumme(rahmen.substr(0, rahmen.size() - 2)) == rahmen;
 }
@@ -70,7 +72,7 @@ std::string Proberegler::LiesAlles() {
 
 void Proberegler::WarteAufEingang(Zeit hoechstens) {
     Verarbeite();
-    Zeit naechstes = umgebung.uhr + hoechstens;
+    Zeit naechstes = umgebung.uhr + std::min(hoechstens, Fensterblick);
     if (!wartende.empty())
         naechstes = std::min(naechstes, wartende.front().faellig);
     naechstes = std::min(naechstes, leitung.NaechsteFaelligkeit().value_or(naechstes));
@@ -78,8 +80,7 @@ void Proberegler::WarteAufEingang(Zeit hoechstens) {
 }
 
 void Proberegler::Schlafe(Zeit hoechstens) {
-    constexpr Zeit LaengsterSchlaf = std::chrono::milliseconds(4);
-    umgebung.uhr += std::min(hoechstens, LaengsterSchlaf);
+    umgebung.uhr += std::min(hoechstens, Fensterblick);
 }
 
 void Proberegler::Schreibe(std::string_view bytes) {
