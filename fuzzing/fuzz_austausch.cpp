@@ -1,6 +1,6 @@
-// A row of reads over a line that sends replies a second time: whichever, when and how often, alone or with one bit
-// changed, what the row takes over is what the controller holds, and the row comes to its end once the replies come
-// once only.
+// A row of reads over a line that sends replies a second time: whichever, when and how often, alone or with
+// one bit changed, what the row takes over is what the controller holds, and the row comes to its end once
+// the replies come once only.
 //
 // The first byte chooses how bytes become readable, the next ones the reads; what follows tells of one reply
 // after the other whether and how it is repeated.

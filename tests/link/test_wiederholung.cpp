@@ -265,6 +265,22 @@ TEST_F(WiederholungTest, A_row_behind_which_nothing_follows_can_be_made_certain_
     ErwarteRichtige();
 }
 
+TEST_F(WiederholungTest, On_a_line_that_has_had_a_break_every_row_is_made_certain_to_its_end) {
+    Wiederhole(2, 1, 3ms);
+    Lies(0);
+    Lies(1);
+    umgebung.uhr += 10ms;
+    modAustausch::Vergewissere();
+    ASSERT_GT(modAustausch::Brueche(), 0U);
+    basis = static_cast<int>(antworten.size());
+    Wiederhole(1, 1, 3ms);
+    Schrittfolge folge({Lesung(0), Lesung(1), Lesung(2)}, [this] { return abbruch; });
+    EXPECT_TRUE(folge.Laufe());
+    EXPECT_EQ(folge.ErsterOffener(), 3U);
+    EXPECT_EQ(uebernommen.size(), 3U);
+    ErwarteRichtige();
+}
+
 TEST_F(WiederholungTest, A_row_that_is_to_be_certain_asks_once_more_on_a_line_in_order) {
     Schrittfolge folge({Lesung(0), Lesung(1)}, [this] { return abbruch; });
     folge.VerlangeGewissheit();
