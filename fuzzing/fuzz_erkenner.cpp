@@ -1,11 +1,12 @@
 // Any bytes as the reply to a read, a write or an identification: in whatever pieces they arrive, verdict and
 // data are those of the same bytes at once. A reply that is made of them is recognised, and one with a wrong
-// bit is not.
+// bit is not; one that comes twice is recognised as once, and found twice.
 //
 // The first bytes choose: kind of reply, slave address, start and number of registers, where the reply is
 // cut, and whether it gets a right checksum.
 
 #include "erkenner.h"
+#include "gestalt.h"
 
 #include "pruefe.h"
 #include "rahmen.h"
@@ -14,6 +15,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -140,6 +142,10 @@ void PruefeGuteAntwort(Auftrag auftrag, std::string_view inhalt) {
         Pruefe(gut.daten == inhalt.substr(std::min<std::size_t>(2, inhalt.size())),
                "a right identification gives its text");
     PruefeFalscheBits(auftrag, antwort);
+    Pruefe(AufEinmal(auftrag, antwort + antwort) == AufEinmal(auftrag, antwort),
+           "a reply that comes twice is recognised as once");
+    Pruefe(SucheAntworten(antwort + antwort) == std::vector<std::string_view>{antwort, antwort},
+           "both are found among the bytes");
 }
 
 } // namespace

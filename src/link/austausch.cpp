@@ -25,10 +25,13 @@ constexpr Zeit LangeRuhe = std::chrono::milliseconds(600);
 struct Zustand {
     Zuordnung zuordnung{};
     Gewissheit gewissheit{};
+    std::string beantwortete{};   ///< the request that succeeded last
     std::string letzteAntwort{};  ///< the one that was believed last
     std::string ungefragtes{};    ///< bytes since then that nobody was waiting for
     unsigned long verwundene = 0; ///< breaks after which the line has been quiet for long
-    bool unruhig = false;         ///< the line did not become quiet before the last request
+    int gestoert = 0;             ///< exchanges that must succeed until the line counts as undisturbed
+    unsigned long beachteteBrueche = 0;
+    bool unruhig = false; ///< the line did not become quiet before the last request
 };
 
 Zustand zustand;
@@ -41,11 +44,20 @@ bool IstHarmlos(std::string_view antwort) {
            zustand.gewissheit.Letzter() <= zustand.gewissheit.GewissBis() + 1;
 }
 
-/// Takes note of bytes that nobody was waiting for. A whole reply among them is a break.
+/// Whether the bytes hold what may be the own reply, broken, of a request that believed another's.
+bool IstZerbrochene(std::string_view bytes) {
+    return !zustand.beantwortete.empty() && EnthaeltAehnliche(bytes, zustand.beantwortete);
+}
+
+/// Takes note of bytes that nobody was waiting for. A whole reply among them is a break, and so is a broken
+/// one.
 void NimmUngefragtes(std::string_view bytes) {
     zustand.ungefragtes += bytes;
     const auto antworten = SucheAntworten(zustand.ungefragtes);
-    if (!std::ranges::all_of(antworten, IstHarmlos))
+    const bool zerbrochene = antworten.empty() && IstZerbrochene(zustand.ungefragtes);
+    if (zerbrochene)
+        zustand.ungefragtes.clear();
+    if (zerbrochene || !std::ranges::all_of(antworten, IstHarmlos))
         zustand.gewissheit.Gebrochen();
     if (!antworten.empty())
         zustand.ungefragtes.clear();
@@ -159,7 +171,7 @@ bool Bereite(const std::string& anforderung, Verlass verlass) {
     if (!unerwartetes && zustand.zuordnung.Leer())
         return true;
     WarteVorAnforderung(Ruhezeit);
-    if (verlass == Verlass::Voll && zustand.zuordnung.Verwechselbar(anforderung) && !Klaere(anforderung))
+    if (verlass != Verlass::Keiner && zustand.zuordnung.Verwechselbar(anforderung) && !Klaere(anforderung))
         return false;
     return GetPortIstOffen() == True; // a command may have closed it meanwhile
 }
@@ -176,11 +188,18 @@ bool BereiteUndSende(const std::string& anforderung, Verlass verlass) {
 /// What arrived while a reply was waited for in vain. Its own reply among stray bytes is none too many.
 void BewerteScheitern(const std::string& anforderung, const std::string& strom) {
     const auto antworten = SucheAntworten(strom);
-    if (antworten.size() > 1 || (antworten.size() == 1 && !Passt(antworten[0], anforderung)))
+    const auto vorDerAntwort = [&] {
+        return std::string_view(strom).substr(0,
+                                              static_cast<std::size_t>(antworten[0].data() - strom.data()));
+    };
+    if (antworten.size() > 1 ||
+        (antworten.size() == 1 && (!Passt(antworten[0], anforderung) || IstZerbrochene(vorDerAntwort()))))
         zustand.gewissheit.Gebrochen();
     // The rest of a reply that has begun may still be on its way.
     const auto ende = antworten.empty() ? strom.data() : antworten.back().data() + antworten.back().size();
     zustand.ungefragtes = strom.substr(static_cast<std::size_t>(ende - strom.data()));
+    if (antworten.empty() && EnthaeltAehnliche(strom, anforderung))
+        zustand.ungefragtes.clear(); // broken, but all of it
 }
 
 void BewerteErfolg(const std::string& anforderung, const Erkenner& erkenner, const std::string& strom) {
@@ -190,12 +209,19 @@ void BewerteErfolg(const std::string& anforderung, const Erkenner& erkenner, con
         zustand.gewissheit.Gebrochen();
     zustand.letzteAntwort = antworten.empty() ? std::string() : std::string(antworten.back());
     zustand.ungefragtes.clear();
+    zustand.beantwortete = anforderung;
     zustand.gewissheit.Gelungen(Gestalt(anforderung));
     zustand.zuordnung.Beantwortet(anforderung);
     if (!erkenner.Ueberzaehlig())
         return;
     zustand.zuordnung.Ueberzaehliges();
     NimmUngefragtes(std::string_view(strom).substr(erkenner.Genommen()));
+}
+
+/// On a line that was disturbed lately a reply that comes late may be another's, sent a second time, while
+/// its own is lost: nothing but its time tells that.
+bool IstZweifelhaft(Verlass verlass) {
+    return zustand.gestoert > 0 && verlass == Verlass::Wiederholbar && KamSpaet();
 }
 
 bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
@@ -215,8 +241,19 @@ bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verl
         zustand.gewissheit.Gebrochen();
         return false;
     }
+    if (IstZweifelhaft(verlass)) {
+        BewerteScheitern(anforderung, strom);
+        return false;
+    }
     BewerteErfolg(anforderung, erkenner, strom);
     return true;
+}
+
+/// An exchange that failed, or a break before it, tells that the line is disturbed.
+void MerkeStoerung(bool gelungen) {
+    constexpr int Nachwirkung = 1000;
+    const bool bricht = std::exchange(zustand.beachteteBrueche, Brueche()) != zustand.beachteteBrueche;
+    zustand.gestoert = gelungen && !bricht ? std::max(zustand.gestoert - 1, 0) : Nachwirkung;
 }
 
 } // namespace
@@ -224,6 +261,7 @@ bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verl
 bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     modLeitungsstatistik::Beginnt();
     const bool gelungen = TauscheAus(anforderung, erkenner, verlass);
+    MerkeStoerung(gelungen);
     modLeitungsstatistik::Endet(gelungen, GetPortIstOffen() == True);
     return gelungen;
 }
@@ -271,6 +309,8 @@ bool Vergewissere() {
     zustand.zuordnung.Beantwortet(frage);
     const bool kamZuerst = Brueche() == bruecheDavor;
     zustand.gewissheit.Geklaert();
+    if (!strom.empty())
+        zustand.zuordnung.Ueberzaehliges();
     NimmUngefragtes(strom);
     return kamZuerst;
 }

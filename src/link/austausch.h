@@ -18,8 +18,9 @@ namespace modAustausch {
 
 /// How much the caller relies on the reply.
 enum class Verlass {
-    Voll,  ///< a reply must be certain to belong to the request, otherwise the request is not sent
-    Keiner ///< the request matters and its reply does not: it is sent in any case
+    Voll,         ///< a reply must be certain to belong to the request, otherwise the request is not sent
+    Wiederholbar, ///< the same, and asking twice does no harm: a doubtful reply is not believed
+    Keiner        ///< the request matters and its reply does not: it is sent in any case
 };
 
 /// Sends the request and feeds what arrives to the recogniser, at most one second from byte to byte. True

@@ -3,6 +3,7 @@
 #include "crc.h"
 #include "rahmen.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -34,6 +35,26 @@ std::size_t Antwortlaenge(std::string_view bytes) {
     }
 }
 
+/// What every reply to a read or write begins with; empty for other requests.
+std::string Antwortbeginn(const std::string& anforderung) {
+    switch (FunktionVon(anforderung)) {
+    case Funktion::Lesen:
+        return anforderung.substr(0, Kopf) + static_cast<char>(2 * anforderung[Kopf + Startadresse + 1]);
+    case Funktion::Schreiben:
+        return anforderung.substr(0, Kopf + Startadresse + Anzahl);
+    default:
+        return {};
+    }
+}
+
+/// In how many bits the bytes begin differently.
+int AndereBits(std::string_view bytes, std::string_view beginn) {
+    int andere = 0;
+    for (std::size_t i = 0; i < beginn.size(); ++i)
+        andere += std::popcount(static_cast<std::uint8_t>(bytes[i] ^ beginn[i]));
+    return andere;
+}
+
 } // namespace
 
 std::string Gestalt(const std::string& anforderung) {
@@ -63,6 +84,16 @@ std::vector<std::string_view> SucheAntworten(std::string_view strom) {
         strom.remove_prefix(ganz ? laenge : 1);
     }
     return antworten;
+}
+
+bool EnthaeltAehnliche(std::string_view bytes, const std::string& anforderung) {
+    constexpr int MeisteAndereBits = 2;
+    const std::string beginn = Antwortbeginn(anforderung);
+    const std::size_t laenge = beginn.empty() ? 0 : Antwortlaenge(beginn);
+    for (; laenge != 0 && bytes.size() >= laenge; bytes.remove_prefix(1))
+        if (AndereBits(bytes, beginn) <= MeisteAndereBits)
+            return true;
+    return false;
 }
 
 bool Passt(std::string_view antwort, const std::string& anforderung) {

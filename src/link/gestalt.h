@@ -17,6 +17,10 @@ bool Schreibt(const std::string& anforderung);
 /// between them.
 std::vector<std::string_view> SucheAntworten(std::string_view strom);
 
+/// Whether the bytes hold a reply to this read or write, be it whole or broken: as many bytes as it has,
+/// beginning like it but for two bits at most.
+bool EnthaeltAehnliche(std::string_view bytes, const std::string& anforderung);
+
 /// Whether a whole reply could be one to this request, or its refusal.
 bool Passt(std::string_view antwort, const std::string& anforderung);
 

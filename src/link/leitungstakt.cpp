@@ -13,6 +13,9 @@ constexpr double MikrosekundenJeSekunde = 1e6;
 constexpr double Ganggenauigkeit = 0.97; // the other side's clock may run so much faster
 constexpr std::size_t Vorsicht = 2;      // characters before the last one that are waited for awake
 constexpr int Bewaehrung = 20;           // replies after which a line is known to keep its pace
+constexpr int Widerlegung = 3;           // so many too early in a row are no accident
+constexpr int Verlangsamung = 5;         // so many late ones are none either
+constexpr Zeit Spielraum = std::chrono::milliseconds(10);         // between times that are alike
 constexpr Zeit KuerzesterSchlaf = std::chrono::microseconds(100); // waking takes about as long
 
 } // namespace
@@ -22,10 +25,14 @@ void Leitungstakt::Stelle(std::string_view porteinstellungen) {
         Bewerte();
     const auto gelesen = LiesPorteinstellungen(porteinstellungen);
     const double neue = gelesen ? MikrosekundenJeSekunde * Bitzeiten(*gelesen) / gelesen->baud : 0;
-    const int bewaehrt = neue == zeichendauer ? imTakt : 0;
-    *this = {};
-    zeichendauer = neue;
-    imTakt = bewaehrt;
+    Leitungstakt neuer;
+    neuer.zeichendauer = neue;
+    if (neue == zeichendauer) {
+        neuer.imTakt = imTakt;
+        neuer.uebliche = uebliche;
+        neuer.gesehene = gesehene;
+    }
+    *this = neuer;
 }
 
 Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
@@ -35,7 +42,7 @@ Zeit Leitungstakt::Dauer(std::size_t zeichen) const {
 
 /// What the last reply tells of the line.
 void Leitungstakt::Bewerte() {
-    constexpr int Widerlegung = 3; // so many in a row are no accident
+    BewerteAntwortzeit();
     zuFruehe = schneller ? zuFruehe + 1 : 0;
     if (!schneller)
         imTakt = std::min(imTakt + 1, Bewaehrung);
@@ -43,15 +50,40 @@ void Leitungstakt::Bewerte() {
         imTakt = 0;
 }
 
+/// How long nothing came: a program that was held up does not make a reply late.
+Zeit Leitungstakt::Antwortzeit() const {
+    return std::max(zuletztNichts - sendeende, Zeit{0});
+}
+
+bool Leitungstakt::KamSpaet() const {
+    return empfangen > 0 && gesehene == Bewaehrung && Antwortzeit() > 2 * uebliche + Spielraum;
+}
+
+/// What comes late counts only when it stays so.
+void Leitungstakt::BewerteAntwortzeit() {
+    constexpr int Traegheit = 8;
+    spaete = KamSpaet() ? spaete + 1 : 0;
+    if (spaete == Verlangsamung || gesehene == 0)
+        uebliche = Antwortzeit();
+    else if (spaete == 0)
+        uebliche += (Antwortzeit() - uebliche) / Traegheit;
+    gesehene = std::min(gesehene + 1, Bewaehrung);
+}
+
 void Leitungstakt::Gesendet(Zeit wann, std::size_t zeichen) {
     if (empfangen > 0)
         Bewerte();
     kamZuFrueh = false;
     sendeende = std::max(sendeende, wann) + Dauer(zeichen);
-    sendebeginn = wann;
+    sendebeginn = zuletztNichts = wann;
     gesendet = zeichen;
     empfangen = 0;
     schneller = false;
+}
+
+void Leitungstakt::NochNichts(Zeit wann) {
+    if (empfangen == 0)
+        zuletztNichts = wann;
 }
 
 void Leitungstakt::Empfangen(Zeit wann, std::size_t zeichen) {

@@ -17,12 +17,17 @@ public:
     void Stelle(std::string_view porteinstellungen);
     /// A request of so many characters was handed to the port.
     void Gesendet(Zeit wann, std::size_t zeichen);
+    /// Nothing of the reply has come by now.
+    void NochNichts(Zeit wann);
     /// So many characters came out of the port, all that were there at that time.
     void Empfangen(Zeit wann, std::size_t zeichen);
 
     /// Whether something came since the request that is too early for a reply to it, on a line that is
     /// known to keep its pace.
     bool KamZuFrueh() const { return kamZuFrueh; }
+    /// Whether the reply to the last request began so much later than those before it that it may not be its
+    /// own; never before enough replies were seen.
+    bool KamSpaet() const;
     /// When the last character handed over has left, reckoned at the line's pace.
     Zeit Sendeende() const { return sendeende; }
     /// How long nothing needs looking for while so many characters of the reply are missing. 0 until the
@@ -31,11 +36,14 @@ public:
 
 private:
     Zeit Dauer(std::size_t zeichen) const;
+    Zeit Antwortzeit() const;
     void Bewerte();
+    void BewerteAntwortzeit();
 
     double zeichendauer = 0; ///< microseconds; 0: no pace
     Zeit sendebeginn{0};
     Zeit sendeende{0};
+    Zeit zuletztNichts{0};     ///< when nothing of the reply had come yet
     Zeit ersterEingang{0};     ///< of the reply
     std::size_t zuerst = 0;    ///< characters that came then
     std::size_t empfangen = 0; ///< since the request
@@ -44,6 +52,9 @@ private:
     bool kamZuFrueh = false;
     int imTakt = 0;   ///< replies that kept the pace since it was lost
     int zuFruehe = 0; ///< replies in a row that did not
+    Zeit uebliche{0}; ///< until a reply begins, as seen lately
+    int gesehene = 0; ///< replies that it was learned from
+    int spaete = 0;   ///< replies in a row that came late
 };
 
 } // namespace varnoth

@@ -223,6 +223,7 @@ void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
     for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < ende; jetzt = DieUmgebung().Uhr()) {
         if (AufZeichenWarten == True && CommPortBytesAvailable() > 0)
             return;
+        zustand.takt.NochNichts(jetzt);
         SchlafeBisEingang(ende - jetzt);
     }
     if (AufZeichenWarten != True || CommPortBytesAvailable() == 0)
@@ -237,6 +238,10 @@ void WarteAufRest(std::size_t bytes) {
 
 bool KamZuFrueh() {
     return zustand.takt.KamZuFrueh();
+}
+
+bool KamSpaet() {
+    return zustand.takt.KamSpaet();
 }
 
 bool IstRuhig(Zeit ruhe) {

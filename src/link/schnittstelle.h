@@ -69,6 +69,8 @@ void CommPortWriteOutput(std::string_view daten);
 void WarteAufRest(std::size_t bytes);
 /// Whether what was read since the last write came too early to be a reply to it.
 bool KamZuFrueh();
+/// Whether what was read since the last write came much later than replies on this line did before.
+bool KamSpaet();
 /// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
 /// asks CommPortBytesAvailable whether the time ran out.
 void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);

@@ -35,10 +35,17 @@ bool Schrittfolge::LaufeBisZuletzt() {
     return true;
 }
 
+/// On a line that has had a break nothing is left to what follows: what would show a mistake may come behind
+/// a port that was closed.
 bool Schrittfolge::VergewissereAmEnde() {
     const unsigned long bruecheDavor = modAustausch::Brueche();
-    return !gewissheitVerlangt || gewiss == stelle ||
-           (modAustausch::Vergewissere() && modAustausch::Brueche() == bruecheDavor);
+    if ((!gewissheitVerlangt && bruecheDavor == 0) || gewiss == stelle)
+        return true;
+    if (!modAustausch::Vergewissere() || modAustausch::Brueche() != bruecheDavor)
+        return false;
+    UebernimmOffene();
+    gewiss = stelle;
+    return true;
 }
 
 void Schrittfolge::UebernimmOffene() {

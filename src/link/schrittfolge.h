@@ -33,11 +33,11 @@ public:
     void VerlangeGewissheit() { gewissheitVerlangt = true; }
     /// False when it was cancelled: what is through by then is taken over, but after a disturbance only what
     /// is certain. True when all steps are through and taken over; those from ErsterOffener on are not
-    /// certain yet.
+    /// certain yet, which happens only on a line that has had no break.
     bool Laufe();
     /// How many steps are through.
     std::size_t Erledigt() const { return stelle; }
-    /// The first step that was not certain when the last one was through; the number of steps when all were.
+    /// The first step that was not certain at the end; the number of steps when all were.
     std::size_t ErsterOffener() const { return gewiss; }
     /// The number of the last step's exchange.
     unsigned long LetzterAustausch() const { return nummern.empty() ? 0 : nummern.back(); }

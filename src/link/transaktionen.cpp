@@ -82,7 +82,8 @@ void SchreibeSteuerwert(std::int32_t wert) {
 Boolean RTUModeH03LeseAnforderung(std::uint16_t Startadresse, std::uint16_t Anzahl, Werte& werte) {
     return MitFehlermeldung("RTUModeH03LeseAnforderung", [&] {
         LeseErkenner erkenner(ident.slaveAdresse, Anzahl);
-        if (!Tausche(LeseAnforderung(ident.slaveAdresse, Startadresse, Anzahl), erkenner))
+        if (!Tausche(LeseAnforderung(ident.slaveAdresse, Startadresse, Anzahl), erkenner,
+                     Verlass::Wiederholbar))
             return false;
         if (werte.size() < Anzahl)
             throw std::out_of_range("Werte: no room for the reply");
@@ -115,7 +116,7 @@ Boolean SendeFunktion09() {
 
 Boolean WaehleOptikteil(int optikteil) {
     constexpr auto Adresse = Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, global::Optikteilauswahl);
-    return RTUModeH10SchreibenAnforderung(Adresse, 1, {optikteil});
+    return Schreibe(Adresse, 1, {optikteil}, Verlass::Wiederholbar);
 }
 
 void IdentReset() {

@@ -18,6 +18,8 @@ constexpr Zeit HoechsterVorlauf = std::chrono::seconds(3);
 struct Optionen {
     long austausche = 20000;
     std::uint64_t startwert = 1;
+    int gemischt = 0;
+    std::size_t mitschrift = 0;
     bool ausserDerReihe = false;
     bool gueltig = true;
 };
@@ -32,6 +34,10 @@ Optionen LiesOptionen(int anzahl, char** worte) {
             optionen.austausche = std::atol(worte[++i]);
         else if (wort == "--seed" && i + 1 < anzahl)
             optionen.startwert = std::strtoull(worte[++i], nullptr, 10);
+        else if (wort == "--mixed" && i + 1 < anzahl)
+            optionen.gemischt = std::atoi(worte[++i]);
+        else if (wort == "--trace" && i + 1 < anzahl)
+            optionen.mitschrift = std::strtoull(worte[++i], nullptr, 10);
         else
             optionen.gueltig = false;
     }
@@ -59,10 +65,13 @@ void Drucke(const Probezahlen& zahlen, const Optionen& optionen) {
 int main(int anzahl, char** worte) {
     const Optionen optionen = LiesOptionen(anzahl, worte);
     if (!optionen.gueltig) {
-        std::cerr << "austauschprobe [--exchanges N] [--seed S] [--out-of-order]\n";
+        std::cerr << "austauschprobe [--exchanges N] [--seed S] [--mixed PERMILLE] [--trace LINES] "
+                     "[--out-of-order]\n";
         return 2;
     }
     Probelauf lauf(optionen.startwert, optionen.ausserDerReihe);
+    lauf.Mische(optionen.gemischt);
+    lauf.SchreibMit(optionen.mitschrift);
     lauf.Laufe(optionen.austausche);
     const Probezahlen& zahlen = lauf.Zahlen();
     Drucke(zahlen, optionen);

@@ -84,6 +84,8 @@ std::optional<Probefehler> Probelauf::NaechsterFehler() {
         return ZieheFehler();
     if (wetter == Wetter::Wiederholungen && Manchmal(bisFehler))
         return ZieheFehler(ErsteWiederholung);
+    if (wetter == Wetter::Gemischt && Zufall(1, 1000) <= gemischt)
+        return ZieheFehler();
     return std::nullopt;
 }
 
@@ -92,11 +94,36 @@ void Probelauf::Laufe(long austausche) {
     while (zahlen.austausche < austausche) {
         regler.leitung.Stelle(Manchmal(50) ? Probeleitung::Uebergabe{}
                                            : Probeleitung::Uebergabe{1, std::chrono::milliseconds(16)});
-        LaufeAbschnitt(Wetter::EinFehler, Schritte);
-        LaufeAbschnitt(Wetter::Sturm, Schritte);
-        LaufeAbschnitt(Wetter::Wiederholungen, Schritte);
+        if (gemischt > 0)
+            LaufeAbschnitt(Wetter::Gemischt, Schritte);
+        else
+            for (const Wetter art : {Wetter::EinFehler, Wetter::Sturm, Wetter::Wiederholungen})
+                LaufeAbschnitt(art, Schritte);
         umgebung.gewartet.clear();
     }
+}
+
+void Probelauf::SchreibMit(std::size_t zeilen) {
+    mitschriftLaenge = zeilen;
+    regler.mitschrift = [this](const std::string& zeile) { Notiere(zeile); };
+}
+
+void Probelauf::Notiere(const std::string& zeile) {
+    if (mitschriftLaenge == 0)
+        return;
+    mitschrift.push_back(zeile);
+    if (mitschrift.size() > mitschriftLaenge)
+        mitschrift.pop_front();
+}
+
+/// The first few mistakes, each with what happened before it.
+void Probelauf::Melde(const std::string& irrtum) {
+    constexpr int Hoechstens = 5;
+    if (++gemeldete > Hoechstens)
+        return;
+    for (const std::string& zeile : std::exchange(mitschrift, {}))
+        std::cerr << zeile << '\n';
+    std::cerr << irrtum << '\n';
 }
 
 void Probelauf::LaufeAbschnitt(Wetter art, int schritte) {
@@ -154,8 +181,15 @@ bool Probelauf::TauscheEinmal(Austausch austausch, int eigene) {
     ++zahlen.austausche;
     ZaehleVorlauf(beginn, eigene, identifikationenDavor);
     zahlen.gescheiterte += gelungen ? 0 : 1;
-    zahlen.nichtErholt += mussGelingen && !gelungen && fehlerDavor == zahlen.fehler ? 1 : 0;
+    if (mussGelingen && !gelungen && fehlerDavor == zahlen.fehler) {
+        ++zahlen.nichtErholt;
+        Melde("not recovered");
+    }
     zuletztGescheitert = !gelungen;
+    Notiere(std::string(gelungen ? "  succeeded" : "  failed") + ", exchange " +
+            std::to_string(modAustausch::Letzter()) + ", certain to " +
+            std::to_string(modAustausch::GewissBis()) + ", breaks " +
+            std::to_string(modAustausch::Brueche()));
     BemerkeBruch();
     PruefeGewisses();
     return gelungen;
@@ -213,21 +247,28 @@ void Probelauf::PruefeGewisses() {
             return false;
         if (einer.geschrieben.empty())
             PruefeWerte(einer.block, einer.gelesene, einer.soll);
-        else if (regler.ausgefuehrte[einer.geschrieben] == einer.ausgefuehrteDavor)
+        else if (regler.ausgefuehrte[einer.geschrieben] == einer.ausgefuehrteDavor) {
             ++zahlen.verloreneWrites;
+            Melde("lost write at address " + std::to_string(einer.block.adresse));
+        }
         return true;
     });
 }
 
 /// False when the write is not believed, or was taken back at once.
 bool Probelauf::SchreibGeprueft(Block block, const Werte& werte) {
+    const auto schreibe = [&] {
+        if (block.adresse == Proberegister::Auswahlregister)
+            return WaehleOptikteil(werte[0]);
+        return RTUModeH10SchreibenAnforderung(static_cast<std::uint16_t>(block.adresse),
+                                              static_cast<std::uint16_t>(block.anzahl), werte);
+    };
     const auto adresse = static_cast<std::uint16_t>(block.adresse);
     const auto anzahl = static_cast<std::uint16_t>(block.anzahl);
     const std::string rahmen = SchreibAnforderung(Proberegler::Slaveadresse, adresse, anzahl, werte);
     const int davor = regler.ausgefuehrte[rahmen];
     const long bruecheDavor = zahlen.brueche;
-    if (!MitVersuchen([&] { return RTUModeH10SchreibenAnforderung(adresse, anzahl, werte); }) ||
-        zahlen.brueche != bruecheDavor)
+    if (!MitVersuchen(schreibe) || zahlen.brueche != bruecheDavor)
         return false;
     if (Soll(block, teil.value_or(0)) == werte)
         return true; // it is there, whichever attempt it was
@@ -292,9 +333,11 @@ Werte Probelauf::Soll(Block block, int auswahl) {
 
 void Probelauf::PruefeWerte(Block block, const Werte& gelesene, const Werte& soll) {
     for (std::size_t i = 0; i < soll.size(); ++i)
-        if (gelesene[i] != soll[i] && ++zahlen.falscheWerte <= 5)
-            std::cerr << "wrong value at address " << block.adresse + static_cast<int>(i) << ": "
-                      << gelesene[i] << ", the controller holds " << soll[i] << '\n';
+        if (gelesene[i] != soll[i]) {
+            ++zahlen.falscheWerte;
+            Melde("wrong value at address " + std::to_string(block.adresse + static_cast<int>(i)) + ": " +
+                  std::to_string(gelesene[i]) + ", the controller holds " + std::to_string(soll[i]));
+        }
 }
 
 void Probelauf::Schreib() {

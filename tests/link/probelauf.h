@@ -3,7 +3,9 @@
 #include "proberegler.h"
 #include "werte.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <optional>
 #include <random>
@@ -38,11 +40,15 @@ public:
     /// Runs about so many exchanges.
     void Laufe(long austausche);
     const Probezahlen& Zahlen() const { return zahlen; }
+    /// Only with all kinds of faults at once from now on, at so many of 1000 replies.
+    void Mische(int promille) { gemischt = promille; }
+    /// Keeps the last so many lines of what happened and prints them with each of the first few mistakes.
+    void SchreibMit(std::size_t zeilen);
 
 private:
     /// Repetitions come among themselves: one reply too many and one lost within a run of like exchanges
     /// leave as many replies as requests, which nobody can tell from a line in order.
-    enum class Wetter { Ruhig, EinFehler, Sturm, Wiederholungen };
+    enum class Wetter { Ruhig, EinFehler, Sturm, Wiederholungen, Gemischt };
 
     int Zufall(int von, int bis);
     bool Manchmal(int prozent) { return Zufall(1, 100) <= prozent; }
@@ -86,6 +92,8 @@ private:
     template<class Austausch>
     bool MitVersuchen(Austausch austausch);
     bool MussGelingen();
+    void Melde(const std::string& irrtum);
+    void Notiere(const std::string& zeile);
     void ZaehleVorlauf(Zeit beginn, int eigene, int identifikationenDavor);
 
     std::mt19937_64 zufall;
@@ -98,6 +106,10 @@ private:
     Block letzter{0, 1};
     std::vector<Glaube> geglaubte;
     unsigned long brueche = 0;
+    int gemischt = 0;
+    std::size_t mitschriftLaenge = 0;
+    std::deque<std::string> mitschrift;
+    int gemeldete = 0;
     std::optional<int> teil; ///< the optical part that is certain to be selected
 };
 

@@ -9,6 +9,8 @@ namespace varnoth::pruefung {
 
 namespace {
 
+constexpr Zeit Fensterblick = std::chrono::milliseconds(4); // waits come back so often
+
 bool HatGueltigePruefsumme(const std::string& rahmen) {
     return rahmen.size() > 2 && MitPruefsumme(rahmen.substr(0, rahmen.size() - 2)) == rahmen;
 }
@@ -30,6 +32,25 @@ bool TrifftAnforderung(std::string& anforderung, const Probefehler& fehler) {
 
 } // namespace
 
+/// Time in milliseconds, what happens, the fault and its figures, the bytes.
+void Proberegler::Schreibmit(std::string_view was, std::string_view bytes, const Probefehler& dazu) {
+    if (!mitschrift)
+        return;
+    constexpr double MikrosekundenJeMillisekunde = 1000;
+    std::string zeile =
+        std::to_string(static_cast<double>(umgebung.uhr.count()) / MikrosekundenJeMillisekunde) + ' ';
+    zeile += was;
+    if (!dazu.name.empty())
+        zeile += " [" + std::string(dazu.name) + ' ' + std::to_string(dazu.wert) + ' ' +
+                 std::to_string(dazu.nach) + ']';
+    for (const char byte : bytes) {
+        constexpr std::string_view Ziffern = "0123456789abcdef";
+        const auto zahl = static_cast<unsigned char>(byte);
+        zeile += {' ', Ziffern[zahl / 16U], Ziffern[zahl % 16U]};
+    }
+    mitschrift(zeile);
+}
+
 void Proberegler::Verwirf() {
     Verarbeite();
     leitung.Verwirf();
@@ -44,12 +65,14 @@ std::string Proberegler::LiesAlles() {
     Verarbeite();
     std::string bytes = leitung.LiesAlles(umgebung.uhr);
     gelesen += bytes.size();
+    if (!bytes.empty())
+        Schreibmit("read", bytes);
     return bytes;
 }
 
 void Proberegler::WarteAufEingang(Zeit hoechstens) {
     Verarbeite();
-    Zeit naechstes = umgebung.uhr + hoechstens;
+    Zeit naechstes = umgebung.uhr + std::min(hoechstens, Fensterblick);
     if (!wartende.empty())
         naechstes = std::min(naechstes, wartende.front().faellig);
     naechstes = std::min(naechstes, leitung.NaechsteFaelligkeit().value_or(naechstes));
@@ -57,8 +80,7 @@ void Proberegler::WarteAufEingang(Zeit hoechstens) {
 }
 
 void Proberegler::Schlafe(Zeit hoechstens) {
-    constexpr Zeit LaengsterSchlaf = std::chrono::milliseconds(4);
-    umgebung.uhr += std::min(hoechstens, LaengsterSchlaf);
+    umgebung.uhr += std::min(hoechstens, Fensterblick);
 }
 
 void Proberegler::Schreibe(std::string_view bytes) {
@@ -69,6 +91,7 @@ void Proberegler::Schreibe(std::string_view bytes) {
     identifikationen += letzteSendung.at(1) == 0x11 ? 1 : 0;
     std::string anforderung(bytes);
     auto einer = fehler ? fehler() : std::nullopt;
+    Schreibmit("sent", bytes, einer.value_or(Probefehler{}));
     // A whole identification from another address is true for all that anybody can tell.
     if (einer && einer->name == "address" && anforderung.at(1) == 0x11)
         einer->name = "crc";
@@ -105,6 +128,9 @@ void Proberegler::Beantworte(const Wartende& eine) {
         stoerung->Verfaelsche(sendung, verlauf);
     }
     const bool verspaetet = eine.fehler && (eine.fehler->name == "late" || eine.fehler->name == "pieces");
+    for (const auto& stueck : sendung)
+        Schreibmit("  answered after " + std::to_string(stueck.pause.count()),
+                   {reinterpret_cast<const char*>(stueck.zeichen.data()), stueck.zeichen.size()});
     leitung.Sende(sendung, eine.faellig, ausserDerReihe && verspaetet);
 }
 

@@ -45,6 +45,8 @@ public:
 
     /// Asked for each request: what goes wrong with it.
     std::function<std::optional<Probefehler>()> fehler;
+    /// Told what goes over the line, one line of text each, with the time.
+    std::function<void(const std::string& zeile)> mitschrift;
     /// Late replies let later ones pass.
     bool ausserDerReihe = false;
 
@@ -70,6 +72,7 @@ private:
         std::optional<Probefehler> fehler;
     };
     void Beantworte(const Wartende& wartende);
+    void Schreibmit(std::string_view was, std::string_view bytes, const Probefehler& dazu = {});
     std::string Antwort(const std::string& anforderung);
     std::string Lies(const std::string& anforderung);
     std::string Schreib(const std::string& anforderung);

@@ -91,4 +91,16 @@ TEST_F(GewissheitTest, A_reply_fits_the_requests_of_its_shape_only) {
     EXPECT_FALSE(Passt(abgelehnt, SchreibAnforderung(1, 212, 1, {3})));
 }
 
+TEST_F(GewissheitTest, A_broken_reply_is_known_by_a_beginning_that_differs_in_two_bits_at_most) {
+    const std::string lesung = LeseAnforderung(1, 9, 1), schreibung = SchreibAnforderung(1, 212, 1, {3});
+    EXPECT_TRUE(EnthaeltAehnliche("UU" + Bytes({1, 3, 2, 0, 7, 0, 0}), lesung));
+    EXPECT_TRUE(EnthaeltAehnliche(Bytes({1, 7, 0, 0, 7, 0, 0}), lesung));
+    EXPECT_FALSE(EnthaeltAehnliche(Bytes({3, 7, 0, 0, 7, 0, 0}), lesung)) << "three bits";
+    EXPECT_FALSE(EnthaeltAehnliche(Bytes({1, 3, 2, 0, 7, 0}), lesung)) << "too short";
+    EXPECT_TRUE(EnthaeltAehnliche(Bytes({1, 0x10, 0, 212, 0, 0, 0, 0}), schreibung));
+    EXPECT_FALSE(EnthaeltAehnliche(Bytes({1, 0x10, 0, 171, 0, 1, 0, 0}), schreibung));
+    EXPECT_FALSE(EnthaeltAehnliche(std::string(40, 'U'), lesung));
+    EXPECT_FALSE(EnthaeltAehnliche(Bytes({1, 0x11, 2, 7, 50, 0, 0}), IdentifikationsAnforderung()));
+}
+
 } // namespace varnoth

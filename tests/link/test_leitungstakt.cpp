@@ -84,6 +84,74 @@ TEST_F(PuenktlichkeitTest, What_is_known_of_a_line_stays_while_its_settings_do) 
     EXPECT_FALSE(KamZuFrueh(-2ms));
 }
 
+/// A line whose replies begin some time behind their requests.
+class AntwortzeitTest : public testing::Test {
+protected:
+    AntwortzeitTest() { takt.Stelle("10000,n,8,1"); }
+    /// One exchange: nothing of the reply had come so long behind the request's end.
+    bool KamSpaet(Zeit nichtsBis, Zeit gelesen) {
+        jetzt += 1s;
+        takt.Gesendet(jetzt, Anforderung);
+        takt.NochNichts(jetzt + Anforderung * Zeichen + nichtsBis);
+        takt.Empfangen(jetzt + Anforderung * Zeichen + gelesen, 1);
+        takt.NochNichts(jetzt + Anforderung * Zeichen + gelesen + 300ms); // of the rest
+        takt.Empfangen(jetzt + Anforderung * Zeichen + gelesen + 400ms, 6);
+        return takt.KamSpaet();
+    }
+    bool KamSpaet(Zeit nach) { return KamSpaet(nach, nach + 1ms); }
+    void Gewoehne(Zeit nach, int austausche = 20) {
+        for (int i = 0; i < austausche; ++i)
+            EXPECT_FALSE(KamSpaet(nach)) << i;
+    }
+
+    Leitungstakt takt;
+    Zeit jetzt{0};
+};
+
+TEST_F(AntwortzeitTest, A_reply_is_late_that_begins_more_than_ten_milliseconds_behind_twice_the_usual_time) {
+    Gewoehne(5ms);
+    EXPECT_FALSE(KamSpaet(20ms));
+    EXPECT_TRUE(KamSpaet(24ms));
+    takt.Gesendet(jetzt + 1s, Anforderung);
+    EXPECT_FALSE(takt.KamSpaet()) << "nothing has come";
+}
+
+TEST_F(AntwortzeitTest, Before_twenty_replies_none_is_late) {
+    Gewoehne(5ms, 19);
+    EXPECT_FALSE(KamSpaet(500ms));
+}
+
+TEST_F(AntwortzeitTest, A_reply_that_was_read_late_because_nobody_looked_is_not_late) {
+    Gewoehne(5ms);
+    EXPECT_FALSE(KamSpaet(4ms, 900ms));
+}
+
+TEST_F(AntwortzeitTest, One_late_reply_does_not_change_what_is_usual_and_five_in_a_row_do) {
+    Gewoehne(5ms);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_TRUE(KamSpaet(200ms));
+    EXPECT_FALSE(KamSpaet(5ms));
+    for (int i = 0; i < 5; ++i)
+        EXPECT_TRUE(KamSpaet(200ms));
+    EXPECT_FALSE(KamSpaet(400ms));
+}
+
+TEST_F(AntwortzeitTest, What_is_usual_follows_a_line_that_grows_slower_or_faster) {
+    Gewoehne(5ms);
+    Gewoehne(19ms, 40);
+    EXPECT_FALSE(KamSpaet(45ms));
+    Gewoehne(5ms, 40);
+    EXPECT_TRUE(KamSpaet(24ms));
+}
+
+TEST_F(AntwortzeitTest, What_is_usual_stays_known_while_the_settings_do) {
+    Gewoehne(5ms);
+    takt.Stelle("10000,n,8,1");
+    EXPECT_TRUE(KamSpaet(50ms));
+    takt.Stelle("9600,n,8,1");
+    EXPECT_FALSE(KamSpaet(50ms));
+}
+
 TEST_F(LeitungstaktTest, Before_the_first_character_nothing_is_known) {
     EXPECT_EQ(takt.Schlafdauer(1ms, 40), 0us);
 }

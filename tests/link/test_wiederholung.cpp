@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <set>
 
 namespace varnoth {
 
@@ -33,14 +34,19 @@ protected:
             auto stuecke = antworte(anforderung);
             antworten.push_back(stuecke.empty() ? std::string() : stuecke[0].bytes);
             const int nummer = static_cast<int>(antworten.size());
-            frei = std::max(frei, umgebung.uhr) + 5ms;
+            frei = std::max(frei, umgebung.uhr) + 5ms + verspaetung[nummer];
             if (!stuecke.empty())
                 stuecke[0].nach = frei - umgebung.uhr;
+            if (zerbrochene.contains(nummer))
+                stuecke[0].bytes.back() ^= 1;
             for (const auto& [nach, welche] : wiederholte[nummer]) {
                 frei += nach;
                 stuecke.push_back({frei - umgebung.uhr, antworten.at(static_cast<std::size_t>(welche - 1))});
             }
             return stuecke;
+        };
+        geraet.schweige = [this](const std::string&) {
+            return verlorene.contains(static_cast<int>(antworten.size()) + 1);
         };
         for (int i = 0; i < 60; ++i)
             geraet.Register(i) = 1000 + i;
@@ -53,6 +59,21 @@ protected:
     /// Behind the reply to the n-th request from now, that to the m-th comes once more.
     void Wiederhole(int hinter, int welche, Zeit nach) {
         wiederholte[basis + hinter].emplace_back(nach, basis + welche);
+    }
+    /// The replies from now on are counted anew, on a line whose usual times are known.
+    void BeginneAufBekannterLeitung() {
+        port.laengsteWartezeit = 4ms;
+        for (int i = 0; i < 25; ++i)
+            Lies(i % 10);
+        basis = static_cast<int>(antworten.size());
+    }
+    /// An exchange fails.
+    void Stoere() {
+        verlorene.insert(basis + 1);
+        EXPECT_EQ(Lies(9), -1);
+        EXPECT_EQ(Lies(9), 1009);
+        modAustausch::Vergewissere();
+        basis = static_cast<int>(antworten.size());
     }
     std::int32_t Lies(int adresse, int anzahl = 1) {
         Werte werte(static_cast<std::size_t>(anzahl), -1);
@@ -102,6 +123,8 @@ protected:
     int basis = 0;
     std::vector<std::string> antworten;
     std::map<int, std::vector<std::pair<Zeit, int>>> wiederholte;
+    std::map<int, Zeit> verspaetung; ///< by the number of the request
+    std::set<int> verlorene, zerbrochene;
     std::map<int, std::vector<std::int32_t>> uebernommen;
     std::vector<std::pair<int, int>> gezeigte;
     bool abbruch = false;
@@ -242,6 +265,22 @@ TEST_F(WiederholungTest, A_row_behind_which_nothing_follows_can_be_made_certain_
     ErwarteRichtige();
 }
 
+TEST_F(WiederholungTest, On_a_line_that_has_had_a_break_every_row_is_made_certain_to_its_end) {
+    Wiederhole(2, 1, 3ms);
+    Lies(0);
+    Lies(1);
+    umgebung.uhr += 10ms;
+    modAustausch::Vergewissere();
+    ASSERT_GT(modAustausch::Brueche(), 0U);
+    basis = static_cast<int>(antworten.size());
+    Wiederhole(1, 1, 3ms);
+    Schrittfolge folge({Lesung(0), Lesung(1), Lesung(2)}, [this] { return abbruch; });
+    EXPECT_TRUE(folge.Laufe());
+    EXPECT_EQ(folge.ErsterOffener(), 3U);
+    EXPECT_EQ(uebernommen.size(), 3U);
+    ErwarteRichtige();
+}
+
 TEST_F(WiederholungTest, A_row_that_is_to_be_certain_asks_once_more_on_a_line_in_order) {
     Schrittfolge folge({Lesung(0), Lesung(1)}, [this] { return abbruch; });
     folge.VerlangeGewissheit();
@@ -311,6 +350,21 @@ TEST_F(WiederholungTest, Nothing_is_certain_while_the_answer_to_the_identificati
     EXPECT_EQ(modAustausch::GewissBis(), modAustausch::Letzter());
 }
 
+TEST_F(WiederholungTest, Bytes_behind_the_answer_that_settles_are_let_pass_before_the_next_request) {
+    std::vector<Stueck> dahinter{{0ms, "UUUU"}, {3ms, "UUUU"}, {6ms, "UUUU"}};
+    port.antworte = [&, antworte = port.antworte](const std::string& anforderung) {
+        auto stuecke = antworte(anforderung);
+        stuecke[0].bytes += std::exchange(dahinter[0].bytes, {});
+        for (Stueck& stueck : dahinter)
+            stuecke.push_back({stuecke[0].nach + stueck.nach, std::exchange(stueck.bytes, {})});
+        return stuecke;
+    };
+    EXPECT_TRUE(modAustausch::Vergewissere());
+    const Zeit davor = umgebung.uhr;
+    EXPECT_EQ(Lies(1), 1001);
+    EXPECT_EQ(port.sendezeiten.back() - davor, 6ms + modSchnittstelle::Ruhezeit + 2ms);
+}
+
 TEST_F(WiederholungTest, A_reply_that_is_there_before_its_request_can_have_left_is_not_believed) {
     for (int i = 0; i < 25; ++i)
         Lies(i % 10); // the line is seen to keep its pace
@@ -331,6 +385,94 @@ TEST_F(WiederholungTest, Listening_hears_a_reply_that_is_one_too_many) {
     const Zeit davor = umgebung.uhr;
     EXPECT_FALSE(modAustausch::Lausche());
     EXPECT_GE(umgebung.uhr - davor, 200ms);
+}
+
+TEST_F(WiederholungTest, On_a_disturbed_line_a_reply_much_later_than_usual_is_asked_for_again) {
+    BeginneAufBekannterLeitung();
+    Stoere();
+    const auto bruecheDavor = modAustausch::Brueche();
+    Wiederhole(1, 1, 40ms);
+    verlorene.insert(basis + 2);
+    EXPECT_EQ(Lies(0), 1000);
+    EXPECT_EQ(Lies(1), -1);
+    EXPECT_EQ(Lies(1), 1001);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor) << "nothing else is in doubt";
+}
+
+TEST_F(WiederholungTest, On_a_line_without_a_disturbance_a_late_reply_counts) {
+    BeginneAufBekannterLeitung();
+    verspaetung[basis + 1] = 300ms;
+    EXPECT_EQ(Lies(1), 1001);
+}
+
+TEST_F(WiederholungTest, A_break_is_a_disturbance_too) {
+    BeginneAufBekannterLeitung();
+    Wiederhole(2, 1, 3ms);
+    Lies(0);
+    Lies(1);
+    umgebung.uhr += 10ms;
+    modAustausch::Vergewissere();
+    Lies(2);
+    verspaetung[static_cast<int>(antworten.size()) + 1] = 300ms;
+    EXPECT_EQ(Lies(3), -1);
+}
+
+TEST_F(WiederholungTest, A_disturbance_is_over_after_a_thousand_exchanges) {
+    BeginneAufBekannterLeitung();
+    Stoere();
+    verspaetung[basis + 999] = 300ms; // one has succeeded before
+    for (int i = 1; i <= 998; ++i)
+        ASSERT_EQ(Lies(i % 10), 1000 + i % 10);
+    EXPECT_EQ(Lies(1), -1);
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_EQ(Lies(1), 1001);
+    verspaetung[static_cast<int>(antworten.size()) + 1] = 300ms;
+    EXPECT_EQ(Lies(1), 1001);
+}
+
+TEST_F(WiederholungTest, An_echo_that_comes_late_is_doubted_for_a_selection_and_for_no_other_write) {
+    BeginneAufBekannterLeitung();
+    Stoere();
+    verspaetung[basis + 1] = verspaetung[basis + 2] = 300ms;
+    EXPECT_EQ(RTUModeH10SchreibenAnforderung(5, 1, {7}), True);
+    EXPECT_EQ(WaehleOptikteil(1), False);
+}
+
+TEST_F(WiederholungTest, A_second_reply_behind_a_late_one_is_a_break) {
+    BeginneAufBekannterLeitung();
+    Stoere();
+    const auto bruecheDavor = modAustausch::Brueche();
+    Wiederhole(1, 1, 40ms);
+    Wiederhole(1, 1, 0ms);
+    verlorene.insert(basis + 2);
+    Lies(0);
+    EXPECT_EQ(Lies(1), -1);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 1);
+}
+
+TEST_F(WiederholungTest, A_broken_reply_that_nobody_waits_for_is_a_break_and_one_that_is_waited_for_is_none) {
+    const auto bruecheDavor = modAustausch::Brueche();
+    Wiederhole(1, 1, 3ms);
+    zerbrochene.insert(basis + 2);
+    EXPECT_EQ(Lies(0), 1000);
+    EXPECT_EQ(Lies(1), 1000) << "the repeated one";
+    umgebung.uhr += 10ms;
+    Lies(2);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 1);
+    zerbrochene.insert(static_cast<int>(antworten.size()) + 1);
+    EXPECT_EQ(Lies(3), -1);
+    EXPECT_EQ(Lies(3), 1003);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 1);
+}
+
+TEST_F(WiederholungTest, A_broken_reply_in_front_of_the_own_is_a_break) {
+    const auto bruecheDavor = modAustausch::Brueche();
+    Wiederhole(1, 1, 3ms);
+    zerbrochene.insert(basis + 2);
+    Lies(0);
+    EXPECT_EQ(Lies(1), 1000) << "the repeated one";
+    EXPECT_EQ(Lies(20, 4), -1);
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 1);
 }
 
 } // namespace varnoth

@@ -60,6 +60,31 @@ std::vector<Befehle> ZerreisseReihum(const Belastung& platz) {
     return TriffReihum(platz, "pieces=1200");
 }
 
+/// Comes once more, with the request waiting that follows.
+std::vector<Befehle> WiederholeReihum(const Belastung& platz) {
+    return TriffReihum(platz, "repeat=60");
+}
+
+std::vector<Befehle> WiederholeSofortReihum(const Belastung& platz) {
+    return TriffReihum(platz, "repeat=0");
+}
+
+std::vector<Befehle> WiederholeSpaetReihum(const Belastung& platz) {
+    return TriffReihum(platz, "repeat=500");
+}
+
+std::vector<Befehle> WiederholeZweimalReihum(const Belastung& platz) {
+    return TriffReihum(platz, "repeat-twice=40");
+}
+
+std::vector<Befehle> WiederholeGekipptReihum(const Belastung& platz) {
+    return TriffReihum(platz, "repeat-flip=26,60");
+}
+
+std::vector<Befehle> WiederholeFruehereReihum(const Belastung& platz) {
+    return TriffReihum(platz, "repeat-earlier=2,30");
+}
+
 } // namespace
 
 std::span<const Stoerfall> AlleStoerfaelle() {
@@ -75,6 +100,13 @@ std::span<const Stoerfall> AlleStoerfaelle() {
         {"surplus bytes", Wirkung::Keine, {"fault surplus=5"}, keineMehr},
         {"late", Wirkung::Reihum, {}, keineMehr, VerspaeteReihum},
         {"flipped bits", Wirkung::Reihum, {}, keineMehr, KippeJedeStelle},
+        {"repeated 0 ms", Wirkung::Reihum, {}, keineMehr, WiederholeSofortReihum},
+        {"repeated 60 ms", Wirkung::Reihum, {}, keineMehr, WiederholeReihum},
+        {"repeated 500 ms", Wirkung::Reihum, {}, keineMehr, WiederholeSpaetReihum},
+        {"repeated twice", Wirkung::Reihum, {}, keineMehr, WiederholeZweimalReihum},
+        {"repeated flipped", Wirkung::Reihum, {}, keineMehr, WiederholeGekipptReihum},
+        {"repeated earlier", Wirkung::Reihum, {}, keineMehr, WiederholeFruehereReihum},
+        {"all repeated", Wirkung::Voruebergehend, {"fault repeat=60:6"}, keineMehr},
         {"unplugged", Wirkung::Anhaltend, {"unplug"}, {"plug"}},
         {"restart", Wirkung::Voruebergehend, {"restart", "fault silence:2"}, keineMehr},
     };

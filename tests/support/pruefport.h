@@ -63,6 +63,7 @@ public:
             unterwegs.emplace(umgebung.uhr + stueck.nach, std::move(stueck.bytes));
     }
     void WarteAufEingang(Zeit hoechstens) override {
+        hoechstens = std::min(hoechstens, laengsteWartezeit);
         const Zeit ende = umgebung.uhr + hoechstens;
         const bool kommtEtwas = !unterwegs.empty() && unterwegs.begin()->first <= ende;
         umgebung.WarteAufEreignis(kommtEtwas ? unterwegs.begin()->first - umgebung.uhr : hoechstens);
@@ -84,6 +85,7 @@ public:
     bool oeffnenGelingt = true;
     Anschluss anschluss{.geraet = "/dev/pruefung"};
     Portbefund befund;
+    Zeit laengsteWartezeit = Zeit::max(); ///< after which a wait comes back
     int geschlossen = 0;
     Zeit geschlossenUm{0};
     int verworfen = 0;
