@@ -37,7 +37,7 @@ bool Schrittfolge::LaufeBisZuletzt() {
 
 bool Schrittfolge::VergewissereAmEnde() {
     const unsigned long bruecheDavor = modAustausch::Brueche();
-    return !gewissheitVerlangt || gewiss == stelle ||
+    return !gewissheitVerlangt || gewiss == stelle || modAustausch::IstUnverwechselbar() ||
            (modAustausch::Vergewissere() && modAustausch::Brueche() == bruecheDavor);
 }
 
