@@ -115,6 +115,15 @@ TEST_F(SchreibenImBetrieb, Exactly_the_changed_settings_are_shown_before_and_rea
     programm->DieFensterumgebung().SetzeStatusanzeige({});
 }
 
+TEST_F(SchreibenImBetrieb, What_was_written_stays_readable_while_live_data_runs_again) {
+    GeheLiveMitSpeicher();
+    AendereFuenf();
+    Starte(false);
+    ASSERT_TRUE(Bearbeite());
+    ASSERT_TRUE(LaufeDurchgaenge(2));
+    EXPECT_THAT(Statusfeld(1), HasSubstr("191 Register geschrieben und im Steuergerät gespeichert"));
+}
+
 TEST_F(SchreibenImBetrieb, The_backup_holds_what_was_before_and_written_back_restores_every_register) {
     GeheLiveMitSpeicher();
     AendereFuenf();
