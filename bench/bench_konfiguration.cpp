@@ -5,11 +5,13 @@
 #include "bericht.h"
 #include "frmIdentifikationsAnforderung.h"
 #include "frmKonfigurationLesenAusHardware.h"
+#include "gewissheit.h"
 #include "lesevorgang.h"
 #include "messplatz.h"
 #include "statistik.h"
 
 #include <QApplication>
+#include <QThread>
 
 namespace {
 
@@ -82,6 +84,7 @@ int main(int argc, char** argv) {
          [&] { return Lies(platz); });
     Miss(QStringLiteral("the same for a comparison at 38400: limit / median"), [&] {
         Geraeteabzug abzug;
+        QThread::usleep(Gewissheit::LangeRuhe.count()); // nobody asks again sooner
         return Lies(platz, &abzug);
     });
     return 0;

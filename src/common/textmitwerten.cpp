@@ -2,9 +2,13 @@
 
 #include "texte.h"
 
+#include <span>
+
 namespace varnoth {
 
-std::string LadeTextMit(std::int16_t id, std::initializer_list<std::string> werte) {
+namespace {
+
+std::string MitWerten(std::int16_t id, std::span<const std::string> werte) {
     const std::string& vorlage = LadeText(id);
     std::string text;
     for (std::size_t i = 0; i < vorlage.size(); ++i) {
@@ -17,6 +21,19 @@ std::string LadeTextMit(std::int16_t id, std::initializer_list<std::string> wert
         }
     }
     return text;
+}
+
+} // namespace
+
+std::string LadeTextMit(std::int16_t id, std::initializer_list<std::string> werte) {
+    return MitWerten(id, werte);
+}
+
+std::string LadeAnzahltext(std::int16_t einzahl, std::int16_t mehrzahl, int anzahl,
+                           const std::vector<std::string>& weitere) {
+    std::vector<std::string> werte{std::to_string(anzahl)};
+    werte.insert(werte.end(), weitere.begin(), weitere.end());
+    return MitWerten(anzahl == 1 ? einzahl : mehrzahl, werte);
 }
 
 } // namespace varnoth

@@ -20,6 +20,8 @@ constexpr std::int16_t TextAllesGleich = 9556;
 constexpr std::int16_t TextSonstGleich = 9557;
 constexpr std::int16_t TextNichtVerglichen = 9558;
 constexpr std::int16_t TextNirgends = 9559;
+constexpr std::int16_t TextNichtsVerglichen = 9902;
+constexpr std::int16_t TextSonstGleichEiner = 9903;
 
 /// How the values of a side are told.
 class Erzaehler {
@@ -62,9 +64,12 @@ std::string Unterschiedssatz(const Vergleichsergebnis& ergebnis) {
         return LadeText(TextEinUnterschied);
     if (anzahl > 1)
         return LadeTextMit(TextUnterschiede, {std::to_string(anzahl)});
+    const int gleiche = ergebnis.Anzahl(Vergleichsklasse::Gleich);
+    if (gleiche == 0)
+        return LadeText(TextNichtsVerglichen);
     if (ergebnis.IstGleich())
-        return LadeTextMit(TextAllesGleich, {std::to_string(ergebnis.Anzahl(Vergleichsklasse::Gleich))});
-    return LadeTextMit(TextSonstGleich, {std::to_string(ergebnis.Anzahl(Vergleichsklasse::Gleich))});
+        return LadeTextMit(TextAllesGleich, {std::to_string(gleiche)});
+    return LadeAnzahltext(TextSonstGleichEiner, TextSonstGleich, gleiche);
 }
 
 } // namespace

@@ -19,8 +19,6 @@ namespace {
 using namespace modSchnittstelle;
 
 constexpr int Antwortzeit = 1000; // milliseconds of silence that end an exchange
-/// Longer than a reply comes behind its first.
-constexpr Zeit LangeRuhe = std::chrono::milliseconds(600);
 
 struct Zustand {
     Zuordnung zuordnung{};
@@ -79,6 +77,7 @@ bool Sende(const std::string& anforderung, bool trotzdem) {
         return false;
     if (GetPortIstOffen() == True)
         zustand.zuordnung.Gesendet(anforderung);
+    zustand.gewissheit.Gefragt(Gestalt(anforderung), DieUmgebung().Uhr());
     CommPortWriteOutput(anforderung);
     return true;
 }
@@ -282,6 +281,10 @@ unsigned long GewissBis() {
     return zustand.gewissheit.GewissBis();
 }
 
+bool IstUnverwechselbar() {
+    return zustand.gewissheit.IstUnverwechselbar();
+}
+
 unsigned long Brueche() {
     return zustand.gewissheit.Brueche();
 }
@@ -296,7 +299,7 @@ bool Vergewissere() {
     if (GetPortIstOffen() == False)
         return false;
     // Even the answer to an identification can come twice: after a break none may be under way.
-    WarteVorAnforderung(Brueche() == zustand.verwundene ? Ruhezeit : LangeRuhe);
+    WarteVorAnforderung(Brueche() == zustand.verwundene ? Ruhezeit : Gewissheit::LangeRuhe);
     if (zustand.unruhig)
         return false;
     const unsigned long bruecheDavor = zustand.verwundene = Brueche();

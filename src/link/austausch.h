@@ -34,6 +34,8 @@ void SendeOhneAntwort(const std::string& rahmen);
 unsigned long Letzter();
 /// The number of the last exchange that is certain.
 unsigned long GewissBis();
+/// Whether those behind it cannot have got the reply to another request either.
+bool IstUnverwechselbar();
 /// How often something unasked or misfitting has come: what was provisional then is worth nothing.
 unsigned long Brueche();
 

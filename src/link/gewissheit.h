@@ -1,7 +1,10 @@
 #pragma once
 
+#include "umgebung.h"
+
 #include <cstddef>
 #include <deque>
+#include <map>
 #include <string>
 
 namespace varnoth {
@@ -16,6 +19,11 @@ public:
     /// So many changes of shape must have gone cleanly behind an exchange.
     static constexpr std::size_t Belege = 2;
 
+    /// Longer than a reply comes behind its first.
+    static constexpr Zeit LangeRuhe = std::chrono::milliseconds(600);
+
+    /// A request of this shape is sent.
+    void Gefragt(const std::string& gestalt, Zeit jetzt);
     /// An exchange of this shape has succeeded.
     void Gelungen(const std::string& gestalt);
     /// An exchange whose reply cannot be mistaken has succeeded: all before it is certain.
@@ -29,6 +37,9 @@ public:
     /// though its numbers lie below: whoever relies on an exchange also watches the breaks.
     unsigned long GewissBis() const { return gewissBis; }
     bool IstVorlaeufiges() const { return letzter > gewissBis; }
+    /// Whether all but the last few are certain, and these few cannot have taken another's reply: nothing
+    /// else of their shape was asked for so long that none of its replies was under way.
+    bool IstUnverwechselbar() const { return gewissBis >= verwechselbarBis; }
     /// How many breaks there were.
     unsigned long Brueche() const { return brueche; }
 
@@ -36,8 +47,11 @@ private:
     unsigned long letzter = 0;
     unsigned long gewissBis = 0;
     unsigned long brueche = 0;
-    std::string gestalt;                 ///< of the last exchange
-    std::deque<unsigned long> wechsel{}; ///< the last exchange before each change of shape
+    unsigned long verwechselbarBis = 0;   ///< the last that could have taken the reply to another request
+    bool alleingefragt = false;           ///< no other request of the last one's shape was sent lately
+    std::map<std::string, Zeit> fragen{}; ///< when a request of each shape was last sent, of the late ones
+    std::string gestalt;                  ///< of the last exchange
+    std::deque<unsigned long> wechsel{};  ///< the last exchange before each change of shape
 };
 
 } // namespace varnoth

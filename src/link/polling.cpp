@@ -1,6 +1,7 @@
 #include "polling.h"
 
 #include "austausch.h"
+#include "geraetestand.h"
 #include "geraetestatus.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -40,6 +42,7 @@ struct Zustand {
     std::array<Optikteilzustand, AnzahlOptikteile> optikteilStatus{};
     int anzahlOptikteile = 0;
     unsigned durchgaenge = 0;
+    std::chrono::system_clock::time_point letzter{}; ///< when the last pass ended
     bool verloren = false;
     unsigned long brueche = 0; ///< those that the passes have dealt with
     int verworfene = 0;        ///< passes in a row that a break ended
@@ -241,6 +244,8 @@ void StartePolling() {
 
 void StoppePolling() {
     NimmVorlaeufigesZurueck();
+    if (zustand.pollingAktiv != False && zustand.durchgaenge > 0)
+        modGeraetestand::MerkeTeilzustaende(DasAbbild(), zustand.anzahlOptikteile, zustand.letzter);
     modSchnittstelle::CloseCommPort();
     zustand.pollingAktiv = modSchnittstelle::GetPortIstOffen();
 }
@@ -293,6 +298,7 @@ void PollingZyklus() {
     if (!PolleGlobalstatus())
         return;
     ++zustand.durchgaenge;
+    zustand.letzter = std::chrono::system_clock::now();
     zustand.verworfene = 0;
     MeldeRueckkehr();
 }

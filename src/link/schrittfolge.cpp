@@ -41,6 +41,8 @@ bool Schrittfolge::VergewissereAmEnde() {
     const unsigned long bruecheDavor = modAustausch::Brueche();
     if ((!gewissheitVerlangt && bruecheDavor == 0) || gewiss == stelle)
         return true;
+    if (bruecheDavor == 0 && modAustausch::IstUnverwechselbar())
+        return true;
     if (!modAustausch::Vergewissere() || modAustausch::Brueche() != bruecheDavor)
         return false;
     UebernimmOffene();

@@ -29,7 +29,8 @@ public:
 
     /// Lets the next steps stand between identifications, since the line is known to be disturbed.
     void Bewache() { wache = Wachdauer; }
-    /// Nothing follows that would show the last steps right: an identification at the end does.
+    /// Nothing follows that would show the last steps right. Where they could have got the reply to another
+    /// request, an identification at the end does.
     void VerlangeGewissheit() { gewissheitVerlangt = true; }
     /// False when it was cancelled: what is through by then is taken over, but after a disturbance only what
     /// is certain. True when all steps are through and taken over; those from ErsterOffener on are not

@@ -1,5 +1,6 @@
 #include "geraetestand.h"
 
+#include "registeradressen.h"
 #include "startzustand.h"
 
 #include <algorithm>
@@ -10,7 +11,8 @@ namespace varnoth::modGeraetestand {
 namespace {
 
 std::optional<Geraetestand> derStand;
-const Startwert startwert(derStand);
+std::optional<Teilzustaende> dieZustaende;
+const Startwert startwert(derStand, dieZustaende);
 
 /// What is known before a write to a controller.
 Geraetestand StandVor(const std::string& seriennummer) {
@@ -57,7 +59,19 @@ void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
     Merke(std::move(stand), seriennummer);
 }
 
+std::optional<Teilzustaende> HoleTeilzustaende() {
+    return dieZustaende;
+}
+
+void MerkeTeilzustaende(const Abbild& abbild, int anzahl, std::chrono::system_clock::time_point zeit) {
+    dieZustaende = {.status = {}, .zeit = zeit};
+    for (int teil = 0; teil < anzahl; ++teil)
+        dieZustaende->status.push_back(
+            abbild.HoleRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Optikteilstatus, teil));
+}
+
 void BeginneVerbindung() {
+    dieZustaende.reset();
     if (derStand)
         derStand->ausDieserVerbindung = false;
 }

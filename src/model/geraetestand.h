@@ -6,6 +6,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace varnoth {
 
@@ -19,6 +20,13 @@ struct Geraetestand {
     bool ausDieserVerbindung = true;            ///< no connection was begun since
 
     bool IstVollstaendig() const { return unbekannt.empty(); }
+};
+
+/// What the optical parts said of their state, and when.
+struct Teilzustaende {
+    std::vector<std::int32_t>
+        status; ///< the status registers of those that live data asked, from the first on
+    std::chrono::system_clock::time_point zeit;
 };
 
 } // namespace varnoth
@@ -37,7 +45,14 @@ void MerkeGelesen(const Abbild& abbild, const std::string& seriennummer);
 void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
                       const std::string& seriennummer);
 
-/// A new connection begins: what is known is from an earlier one.
+/// What the optical parts last said of their state in this connection; nothing before live data has ended.
+[[nodiscard]] std::optional<Teilzustaende> HoleTeilzustaende();
+
+/// After live data of the first so many parts, whose last values, of that time, the image holds.
+void MerkeTeilzustaende(const Abbild& abbild, int anzahl, std::chrono::system_clock::time_point zeit);
+
+/// A new connection begins: what is known of the configuration is from an earlier one, the states are not
+/// known any more.
 void BeginneVerbindung();
 
 } // namespace varnoth::modGeraetestand

@@ -21,6 +21,7 @@ constexpr std::int16_t TextLoeschen = 9822;
 constexpr std::int16_t TextKeine = 9823;
 constexpr std::int16_t TextAnzahl = 9824;
 constexpr std::int16_t TextNichtGeloescht = 9825;
+constexpr std::int16_t TextEine = 9891;
 
 constexpr int Pfadrolle = Qt::UserRole;
 
@@ -73,7 +74,8 @@ void frmSicherungen::Fuelle() {
     for (int spalte = 0; spalte < ui->lstSicherungen->columnCount(); ++spalte)
         ui->lstSicherungen->resizeColumnToContents(spalte);
     ui->lblAnzahl->setText(QString::fromStdString(
-        gezeigte.empty() ? LadeText(TextKeine) : LadeTextMit(TextAnzahl, {std::to_string(gezeigte.size())})));
+        gezeigte.empty() ? LadeText(TextKeine)
+                         : LadeAnzahltext(TextEine, TextAnzahl, static_cast<int>(gezeigte.size()))));
     ZeigeAuswahl();
 }
 

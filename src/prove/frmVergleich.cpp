@@ -1,5 +1,7 @@
 #include "frmVergleich.h"
 
+#include "einstellungen.h"
+#include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "seitenjetzt.h"
@@ -30,6 +32,8 @@ namespace {
 constexpr std::int16_t TextUebernehmen = 9583;
 constexpr std::int16_t TextUebernommen = 9590;
 constexpr std::int16_t TextNurEineSeite = 9593;
+
+constexpr const char* Abschnitt = "frmVergleich";
 
 enum Spalte { SpalteName, SpalteA, SpalteB, SpalteRegister };
 constexpr int NummerRolle = Qt::UserRole;
@@ -62,7 +66,7 @@ std::string Zeilentext(const Vergleichsworte& zeile) {
 frmVergleich::frmVergleich(Vergleichsanbieter& der)
     : ui(std::make_unique<Ui::frmVergleich>()), anbieter(der) {
     ui->setupUi(this);
-    resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
+    StellePlatzHer();
     BemisSpalten();
     for (const Seitenwahl wahl : BeideSeiten)
         connect(&Quellenliste(wahl), &QComboBox::activated, this,
@@ -81,6 +85,27 @@ frmVergleich::frmVergleich(Vergleichsanbieter& der)
 }
 
 frmVergleich::~frmVergleich() = default;
+
+void frmVergleich::StellePlatzHer() {
+    Fensterplatz standard;
+    standard.zustand = ZustandNichtGespeichert;
+    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt, standard);
+    if (platz.zustand == ZustandNichtGespeichert)
+        resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
+    else
+        WendeAn(platz, *this);
+}
+
+void frmVergleich::showEvent(QShowEvent* ereignis) {
+    QWidget::showEvent(ereignis);
+    VerfolgePlatz(*this);
+}
+
+void frmVergleich::closeEvent(QCloseEvent* ereignis) {
+    if (const auto platz = PlatzVon(*this))
+        SchreibFensterplatz(DieEinstellungen(), Abschnitt, *platz);
+    QWidget::closeEvent(ereignis);
+}
 
 /// The values share what names and registers leave.
 void frmVergleich::BemisSpalten() {

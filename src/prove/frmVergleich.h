@@ -41,10 +41,13 @@ public:
 
 protected:
     void changeEvent(QEvent* ereignis) override;
+    void showEvent(QShowEvent* ereignis) override;
+    void closeEvent(QCloseEvent* ereignis) override;
 
 private:
     QComboBox& Quellenliste(Seitenwahl wahl) const;
     QLabel& Einzelheit(Seitenwahl wahl) const;
+    void StellePlatzHer();
     void BemisSpalten();
     void VerbindeKnoepfe();
     void VerbindeTasten();

@@ -20,6 +20,7 @@ constexpr std::int16_t TextOhneNummer = 9814;
 constexpr std::int16_t TextUnterschiede = 9815;
 constexpr std::int16_t TextGleich = 9816;
 constexpr std::int16_t TextNichtLesbar = 9817;
+constexpr std::int16_t TextEinUnterschied = 9890;
 
 } // namespace
 
@@ -59,7 +60,7 @@ std::string Unterschiedstext(const std::optional<Abbild>& sicherung, const Abbil
     if (!sicherung)
         return LadeText(TextNichtLesbar);
     const int anzahl = Vergleiche(*sicherung, jetzt).Unterschiede();
-    return anzahl == 0 ? LadeText(TextGleich) : LadeTextMit(TextUnterschiede, {std::to_string(anzahl)});
+    return anzahl == 0 ? LadeText(TextGleich) : LadeAnzahltext(TextEinUnterschied, TextUnterschiede, anzahl);
 }
 
 } // namespace varnoth

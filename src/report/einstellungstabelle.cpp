@@ -3,10 +3,10 @@
 #include "datenblock.h"
 #include "htmltext.h"
 #include "klartext.h"
-#include "konfigurationsbericht.h"
 #include "registeradressen.h"
 #include "rohwert.h"
 #include "standardkonfiguration.h"
+#include "vergleich.h"
 
 namespace varnoth {
 
@@ -124,18 +124,21 @@ void FuegeRegisterAn(std::vector<Zeile>& zeilen, const Abbild& abbild, const Abs
 
 } // namespace
 
-bool WeichtAb(const Abbild& abbild, const Parameter& parameter, int optikteil) {
-    static const Abbild vorgabe = Standardkonfiguration();
-    return IstSchreibbar(parameter.beschreibung) &&
-           abbild.HoleParameter(parameter.bereich, parameter.adresse, optikteil) !=
-               vorgabe.HoleParameter(parameter.bereich, parameter.adresse, optikteil);
+Parametermenge Abweichungen(const Abbild& abbild) {
+    Parametermenge abweichungen;
+    for (const Vergleichszeile& zeile : Vergleiche(StandardkonfigurationWie(abbild), abbild).zeilen)
+        if (zeile.klasse != Vergleichsklasse::Gleich)
+            abweichungen.insert(zeile.stelle);
+    return abweichungen;
 }
 
-std::string Einstellungstabelle(const Abbild& abbild, const Abschnitt& abschnitt, std::int16_t sprache) {
+std::string Einstellungstabelle(const Abbild& abbild, const Abschnitt& abschnitt,
+                                const Parametermenge& abweichungen, std::int16_t sprache) {
     static const Abbild vorgabe = Standardkonfiguration();
     std::vector<Zeile> zeilen;
     for (const Parameter& parameter : ParameterMit(abschnitt.bereich, IstEinstellung)) {
-        const bool anders = WeichtAb(abbild, parameter, abschnitt.optikteil);
+        const bool anders =
+            abweichungen.contains({abschnitt.bereich, parameter.adresse, abschnitt.optikteil});
         const std::string wert = AlsHtml(Worte(abbild, abschnitt, parameter.adresse, abbild, sprache));
         const std::string standard =
             anders ? AlsHtml(Worte(abbild, abschnitt, parameter.adresse, vorgabe, sprache)) : std::string();

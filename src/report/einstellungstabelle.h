@@ -2,6 +2,7 @@
 
 #include "abbild.h"
 #include "abschnitte.h"
+#include "parameterstelle.h"
 
 #include <cstdint>
 #include <string>
@@ -11,9 +12,14 @@
 /// The tables of a report that are made from the registers.
 namespace varnoth {
 
-/// Every setting of a range in words: name, value, and the default value where it is another one; the value
-/// is then bold.
-std::string Einstellungstabelle(const Abbild& abbild, const Abschnitt& abschnitt, std::int16_t sprache);
+/// The settings that a write could set back to what the default configuration has; those of missing parts
+/// left out.
+Parametermenge Abweichungen(const Abbild& abbild);
+
+/// Every setting of a range in words: name, value, and the default value where it is one of those that
+/// differ; the value is then bold.
+std::string Einstellungstabelle(const Abbild& abbild, const Abschnitt& abschnitt,
+                                const Parametermenge& abweichungen, std::int16_t sprache);
 
 /// Type, serial number, date and versions of the controller; none of these can be set.
 std::string Geraetetabelle(const Abbild& abbild,

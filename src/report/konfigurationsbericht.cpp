@@ -75,7 +75,8 @@ constexpr double MikrosekundenJeMillisekunde = 1000;
 class Schreiber {
 public:
     Schreiber(const Abbild& inhalt, const Berichtsangaben& kopf, std::int16_t offset)
-        : abbild(inhalt), angaben(kopf), sprache(offset), zeiten(ZykluszeitenFuer(Strahlenzahlen())) {}
+        : abbild(inhalt), angaben(kopf), sprache(offset), zeiten(ZykluszeitenFuer(Strahlenzahlen())),
+          abweichungen(Abweichungen(inhalt)) {}
 
     std::string Dokument() const {
         const std::string koerper =
@@ -149,19 +150,8 @@ private:
     }
 
     std::string Abweichungssatz() const {
-        int anzahl = 0;
-        for (const Abschnitt& abschnitt : AlleAbschnitte())
-            for (const Parameter& parameter : AlleParameter())
-                if (parameter.bereich == abschnitt.bereich && Zaehlt(abschnitt) &&
-                    WeichtAb(abbild, parameter, abschnitt.optikteil))
-                    ++anzahl;
-        return anzahl == 0 ? Text(TextKeineAbweichung)
-                           : AlsHtml(Roh(TextAbweichungen) + std::to_string(anzahl));
-    }
-
-    /// A part that is not there has no settings worth a word.
-    bool Zaehlt(const Abschnitt& abschnitt) const {
-        return abschnitt.bereich != Spezifisch || IstDa(abschnitt.optikteil);
+        return abweichungen.empty() ? Text(TextKeineAbweichung)
+                                    : AlsHtml(Roh(TextAbweichungen) + std::to_string(abweichungen.size()));
     }
 
     std::string Steuergeraet() const {
@@ -171,7 +161,7 @@ private:
                                {Roh(TextCopyright), angaben.copyright},
                                {Roh(TextGeraetezustand), angaben.geraetezustand}},
                               sprache) +
-               Titel(TextSchaltausgang) + Einstellungstabelle(abbild, {Global, 0}, sprache);
+               Titel(TextSchaltausgang) + Einstellungstabelle(abbild, {Global, 0}, abweichungen, sprache);
     }
 
     Geblankte GeblankteVon(int teil) const {
@@ -213,16 +203,19 @@ private:
     std::string Optikteil(int teil, bool beginntSeite) const {
         const std::string name = AlsHtml(Abschnittsname({Spezifisch, teil}, sprache));
         const std::string bild = Strahlenbild(GeblankteVon(teil));
+        const std::string& zustand = angaben.teilzustaende.at(static_cast<std::size_t>(teil));
         return Element("h3", name, beginntSeite ? Seitenumbruch : "") +
+               (zustand.empty() ? std::string() : Element("p", AlsHtml(zustand)) + "\n") +
                R"(<p><img src="data:image/svg+xml;base64,)" + AlsBase64(bild) + R"(" width=")" +
                std::to_string(Strahlenbildbreite) + R"(" height=")" + std::to_string(Strahlenbildhoehe) +
                R"(" alt=")" + name + R"("><br>)" + Text(TextBildunterschrift) + "</p>\n" +
-               Einstellungstabelle(abbild, {Spezifisch, teil}, sprache);
+               Einstellungstabelle(abbild, {Spezifisch, teil}, abweichungen, sprache);
     }
 
     std::string Kommunikationsteil() const {
-        return Titel(TextKommunikation) + Einstellungstabelle(abbild, {Kommunikation, 0}, sprache) +
-               Titel(TextAutosend) + Autosendbudget() + Titel(TextDatenblock) + Datenblock();
+        return Titel(TextKommunikation) +
+               Einstellungstabelle(abbild, {Kommunikation, 0}, abweichungen, sprache) + Titel(TextAutosend) +
+               Autosendbudget() + Titel(TextDatenblock) + Datenblock();
     }
 
     std::string Datenblock() const {
@@ -268,6 +261,7 @@ private:
     const Berichtsangaben& angaben;
     std::int16_t sprache;
     Zykluszeiten zeiten;
+    Parametermenge abweichungen;
 };
 
 } // namespace

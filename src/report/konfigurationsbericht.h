@@ -3,6 +3,7 @@
 #include "abbild.h"
 #include "texte.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -23,6 +24,8 @@ struct Berichtsangaben {
     std::string geraetename{};    ///< the controller's own texts ...
     std::string copyright{};      ///< ... of its identification
     std::string geraetezustand{}; ///< what the controller last said of its state
+    std::array<std::string, AnzahlOptikteile>
+        teilzustaende{}; ///< what each optical part last said of its own
     std::string programmversion{};
 };
 
@@ -34,8 +37,5 @@ std::string Bericht(const Abbild& abbild, const Berichtsangaben& angaben,
 /// What stands at the foot of each page beside its number: plant, machine and checksum.
 std::string Berichtsfuss(const Abbild& abbild, const Berichtsangaben& angaben,
                          std::int16_t sprache = GetSprachoffset());
-
-/// Whether a parameter's value is one that a write changes and not that of the default configuration.
-bool WeichtAb(const Abbild& abbild, const Parameter& parameter, int optikteil);
 
 } // namespace varnoth

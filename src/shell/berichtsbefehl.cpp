@@ -25,6 +25,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextGelesen = 9746;
+constexpr std::int16_t TextTeilzustand = 9904;
 
 QString Zeittext(const QDateTime& zeit) {
     return zeit.toString(GetSprachoffset() == Englisch ? QStringLiteral("MM/dd/yyyy HH:mm")
@@ -36,18 +37,32 @@ std::string Namensvorschlag() {
     return name.isEmpty() ? std::string("Varnoth") : name.toStdString();
 }
 
+QString Zeittext(std::chrono::system_clock::time_point zeit) {
+    return Zeittext(QDateTime::fromSecsSinceEpoch(std::chrono::system_clock::to_time_t(zeit)));
+}
+
+void NenneTeilzustaende(Berichtsangaben& angaben) {
+    const auto zustaende = modGeraetestand::HoleTeilzustaende();
+    if (!zustaende)
+        return;
+    for (std::size_t teil = 0; teil < zustaende->status.size(); ++teil)
+        angaben.teilzustaende.at(teil) = LadeTextMit(
+            TextTeilzustand, {Zeittext(zustaende->zeit).toStdString(),
+                              Klartext(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Optikteilstatus,
+                                       {zustaende->status.at(teil)})});
+}
+
 /// Where the configuration comes from, if it is still the one that the controller held when it was read.
 void NenneGeraet(Berichtsangaben& angaben) {
     const auto stand = modGeraetestand::HoleGeraetestand();
     if (!stand || !stand->IstVollstaendig() ||
         OhneMomentanes(stand->abbild) != OhneMomentanes(modDaten::DasAbbild()))
         return;
-    const auto sekunden = std::chrono::system_clock::to_time_t(stand->zeit);
-    angaben.quelle =
-        LadeTextMit(TextGelesen, {Zeittext(QDateTime::fromSecsSinceEpoch(sekunden)).toStdString()});
+    angaben.quelle = LadeTextMit(TextGelesen, {Zeittext(stand->zeit).toStdString()});
     angaben.geraetezustand =
         Klartext(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus,
                  stand->abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus));
+    NenneTeilzustaende(angaben);
     if (stand->ausDieserVerbindung && modModbus::GetIdentGueltig() != False) {
         angaben.geraetename = modModbus::GetIdentText1();
         angaben.copyright = modModbus::GetIdentText3();

@@ -32,9 +32,10 @@ QFrame* MacheTrennlinie(QWidget& leiste, std::size_t nummer) {
 Statusleiste::Statusleiste(QStatusBar& leiste) {
     for (std::size_t i = 0; i < felder.size(); ++i) {
         // Messages give way where room is short; port and output stay whole.
-        QLabel* feld = i + 1 == FeldMeldungen ? new Kurzlabel(&leiste) : new QLabel(&leiste);
+        const bool meldungen = i + 1 == FeldMeldungen;
+        QLabel* feld = meldungen ? new Kurzlabel(&leiste) : new QLabel(&leiste);
         feld->setObjectName(QStringLiteral("sbStatusBar_%1").arg(i + 1));
-        leiste.addPermanentWidget(feld, 1);
+        leiste.addPermanentWidget(feld, meldungen ? 2 : 1); // a sentence is longer than what the others say
         leiste.addPermanentWidget(MacheTrennlinie(leiste, i + 1));
         felder[i] = feld;
     }

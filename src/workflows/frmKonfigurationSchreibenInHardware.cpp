@@ -23,6 +23,8 @@ namespace {
 constexpr std::int16_t TextLeseversuch = 7004;
 constexpr std::int16_t TextGespeichert = 9170;
 constexpr std::int16_t TextNichtGespeichert = 9171;
+constexpr std::int16_t TextEinesGespeichert = 9900;
+constexpr std::int16_t TextEinesNichtGespeichert = 9901;
 constexpr std::int16_t TextSicherungMisslungen = 9763;
 constexpr std::int16_t TextWirdGesichert = 9764;
 constexpr std::int16_t TextNichtsZuSichern = 9765;
@@ -33,8 +35,12 @@ constexpr const char* Schluessel = "chkPruefen";
 /// The status bar says what was written, and when: the dialog closes by itself.
 void MeldeErfolg(const Schreibergebnis& ergebnis, Ablage ablage) {
     const std::string wann = QTime::currentTime().toString(QStringLiteral("hh:mm")).toStdString();
-    std::string text = LadeTextMit(ablage == Ablage::Dauerhaft ? TextGespeichert : TextNichtGespeichert,
-                                   {wann, std::to_string(AnzahlRegister(ergebnis.auftrag.stellen))});
+    const bool dauerhaft = ablage == Ablage::Dauerhaft;
+    const int anzahl = AnzahlRegister(ergebnis.auftrag.stellen);
+    std::string text =
+        anzahl == 1
+            ? LadeTextMit(dauerhaft ? TextEinesGespeichert : TextEinesNichtGespeichert, {"1", wann})
+            : LadeTextMit(dauerhaft ? TextGespeichert : TextNichtGespeichert, {wann, std::to_string(anzahl)});
     if (ergebnis.pruefung)
         text = wann + ": " + Pruefsatz(*ergebnis.pruefung) + " " + text.substr(text.find(": ") + 2);
     DieUmgebung().ZeigeStatustext(FeldMeldungen, text);

@@ -26,6 +26,7 @@ bool Konfigurationstransfer::UebertrageAlles() {
     }
     HaengeAuswahlAn(TextKanal, global::Kanalauswahl, Kanal);
     HaengeBereichAn(Speicherbereich::Kommunikationsdaten, schritte.size() - 1);
+    HaengeBereichAn(Speicherbereich::GlobaleGeraetedaten, Transferschritt::Ohne, 0, true);
     HaengeWeitereAn();
     Schrittfolge folge(schritte, [this] { return anzeige.Abgebrochen(); });
     if (gewissheitVerlangt)
@@ -60,12 +61,12 @@ void Konfigurationstransfer::HaengeAuswahlAn(std::int16_t textId, std::int16_t a
 }
 
 void Konfigurationstransfer::HaengeBereichAn(Speicherbereich bereich, std::size_t auswahlschritt,
-                                             std::int16_t optikteil) {
+                                             std::int16_t optikteil, bool zuletzt) {
     const std::string text =
         LadeText(static_cast<std::int16_t>(ErsterBereichstext() + static_cast<int>(bereich)));
     for (const Parameter& einer : ParameterMit(bereich, auswahl)) {
         const Transferparameter parameter{bereich, einer.adresse, einer.beschreibung.Laenge, optikteil};
-        if (!Betrifft(parameter))
+        if (!Betrifft(parameter) || KommtZuletzt(parameter) != zuletzt)
             continue;
         const auto werte = std::make_shared<Werte>(static_cast<std::size_t>(parameter.anzahl));
         HaengeAn(text, Registertext(bereich, parameter.adresse), parameter.anzahl,

@@ -67,6 +67,8 @@ private:
     virtual std::int16_t ErsterBereichstext() const = 0;
     /// Whether this one of the parameters that take part is transferred.
     virtual bool Betrifft(const Transferparameter& /*parameter*/) const { return true; }
+    /// Whether this parameter of the global range comes behind all others instead.
+    virtual bool KommtZuletzt(const Transferparameter& /*parameter*/) const { return false; }
     /// One attempt at a parameter, whose values are in `werte` before or behind it.
     virtual Boolean Tausche(const Transferparameter& parameter, Werte& werte) = 0;
     /// The parameter's transfer counts.
@@ -76,7 +78,8 @@ private:
 
     int AnzahlSchritte() const { return static_cast<int>(schritte.size()); }
     void HaengeAuswahlAn(std::int16_t textId, std::int16_t auswahlregister, int nummer);
-    void HaengeBereichAn(Speicherbereich bereich, std::size_t auswahlschritt, std::int16_t optikteil = 0);
+    void HaengeBereichAn(Speicherbereich bereich, std::size_t auswahlschritt, std::int16_t optikteil = 0,
+                         bool zuletzt = false);
 
     Transferanzeige& anzeige;
     Auswahl auswahl;

@@ -4,6 +4,7 @@
 #include "nachlese.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
+#include "registeradressen.h"
 #include "registertext.h"
 #include "seriennummer.h"
 #include "texte.h"
@@ -25,7 +26,6 @@ public:
 
     Lesetransfer(Transferanzeige& transferanzeige, Ablage wohin)
         : Konfigurationstransfer(transferanzeige, IstLesbar), ablage(std::move(wohin)) {}
-    using Konfigurationstransfer::VerlangeGewissheit;
 
 private:
     std::int16_t ErsterBereichstext() const override { return TextGlobaleGeraetedaten; }
@@ -37,6 +37,22 @@ private:
     }
 
     Ablage ablage;
+};
+
+/// Nothing follows that would show its end right. So what no other parameter is as long as comes last: its
+/// reply cannot be another's.
+class Abzugstransfer : public Lesetransfer {
+public:
+    Abzugstransfer(Transferanzeige& transferanzeige, Ablage wohin)
+        : Lesetransfer(transferanzeige, std::move(wohin)) {
+        VerlangeGewissheit();
+    }
+
+private:
+    bool KommtZuletzt(const Transferparameter& parameter) const override {
+        return parameter.bereich == Speicherbereich::GlobaleGeraetedaten &&
+               (parameter.adresse == global::Seriennummer || parameter.adresse == global::Herstelldatum);
+    }
 };
 
 } // namespace
@@ -59,8 +75,7 @@ bool LiesGeraeteabzug(Transferanzeige& anzeige, Geraeteabzug& abzug) {
         static_cast<void>(
             abzug.abbild.SetzeParameter(parameter.bereich, parameter.adresse, werte, parameter.optikteil));
     };
-    Lesetransfer transfer(anzeige, inDenAbzug);
-    transfer.VerlangeGewissheit();
+    Abzugstransfer transfer(anzeige, inDenAbzug);
     const bool vollstaendig = transfer.UebertrageAlles();
     KorrigiereStrahlenzahlen(abzug.abbild);
     if (vollstaendig)

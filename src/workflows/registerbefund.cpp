@@ -37,6 +37,13 @@ constexpr std::int16_t TextNichtGeschrieben = 9793;
 constexpr std::int16_t TextUngewiss = 9794;
 constexpr std::int16_t TextZurueckschreiben = 9795;
 constexpr std::int16_t TextWert = 9800;
+constexpr std::int16_t TextEineAenderung = 9892;
+constexpr std::int16_t TextStandUnbekanntEine = 9893;
+constexpr std::int16_t TextTeilweiseUnbekanntEine = 9894;
+constexpr std::int16_t TextEineAbweichend = 9895;
+constexpr std::int16_t TextEineNichtVergleichbar = 9896;
+constexpr std::int16_t TextEinRegisterNichtVergleichbar = 9897;
+constexpr std::int16_t TextPruefsatzEines = 9899;
 
 /// A register keeps 16 bits, whatever an image holds.
 std::string Worte(const Abbild& abbild, const Parameterstelle& stelle) {
@@ -67,13 +74,20 @@ std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetesta
     const int verschieden = vergleich.Anzahl(Vergleichsklasse::Verschieden);
     const int unbekannt = vergleich.Anzahl(Vergleichsklasse::NichtLesbar);
     std::string text = verschieden > 0 || unbekannt > 0
-                           ? LadeTextMit(TextAenderungen, {std::to_string(verschieden), wann})
+                           ? LadeAnzahltext(TextEineAenderung, TextAenderungen, verschieden, {wann})
                            : LadeTextMit(TextKeineAenderung, {wann});
     if (unbekannt > 0)
-        text += "\n" + LadeTextMit(TextTeilweiseUnbekannt, {std::to_string(unbekannt)});
+        text += "\n" + LadeAnzahltext(TextTeilweiseUnbekanntEine, TextTeilweiseUnbekannt, unbekannt);
     if (!stand.ausDieserVerbindung)
         text += "\n" + LadeText(TextAelter);
     return text;
+}
+
+std::string NichtVerglichenes(const Parametermenge& stellen) {
+    const int anzahl = AnzahlRegister(stellen);
+    const auto eine = anzahl == 1 ? TextEinRegisterNichtVergleichbar : TextEineNichtVergleichbar;
+    return LadeAnzahltext(eine, TextNichtVergleichbar, static_cast<int>(stellen.size()),
+                          {std::to_string(anzahl)});
 }
 
 } // namespace
@@ -81,7 +95,8 @@ std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetesta
 Registerbefund BefundVorDemSchreiben(const Schreibauftrag& auftrag, const std::optional<Geraetestand>& stand,
                                      const std::string& wann) {
     Registerbefund befund{.titel = LadeText(TextAenderungstitel),
-                          .text = LadeTextMit(TextStandUnbekannt, {std::to_string(auftrag.stellen.size())}),
+                          .text = LadeAnzahltext(TextStandUnbekanntEine, TextStandUnbekannt,
+                                                 static_cast<int>(auftrag.stellen.size())),
                           .links = LadeText(TextImGeraet),
                           .rechts = LadeText(TextNachher)};
     const Geraetestand bekannt = stand ? *stand : NichtsBekannt();
@@ -105,8 +120,10 @@ Registerbefund BefundVorDemSchreiben(const Schreibauftrag& auftrag, const std::o
 }
 
 std::string Pruefsatz(const Pruefergebnis& ergebnis) {
-    return LadeTextMit(TextPruefsatz,
-                       {std::to_string(ergebnis.gleicheRegister), std::to_string(ergebnis.alleRegister)});
+    const std::string gleiche = std::to_string(ergebnis.gleicheRegister);
+    return ergebnis.alleRegister == 1
+               ? LadeTextMit(TextPruefsatzEines, {"1", gleiche})
+               : LadeTextMit(TextPruefsatz, {gleiche, std::to_string(ergebnis.alleRegister)});
 }
 
 Registerbefund BefundDerPruefung(const Schreibauftrag& auftrag, const Pruefergebnis& ergebnis,
@@ -117,11 +134,10 @@ Registerbefund BefundDerPruefung(const Schreibauftrag& auftrag, const Pruefergeb
                           .rechts = LadeText(TextGelesenerWert),
                           .weiter = LadeText(TextNochEinmal)};
     if (!ergebnis.abweichend.empty())
-        befund.text += "\n" + LadeTextMit(TextAbweichend, {std::to_string(ergebnis.abweichend.size())});
+        befund.text += "\n" + LadeAnzahltext(TextEineAbweichend, TextAbweichend,
+                                             static_cast<int>(ergebnis.abweichend.size()));
     if (!ergebnis.nichtVerglichen.empty())
-        befund.text += "\n" + LadeTextMit(TextNichtVergleichbar,
-                                          {std::to_string(ergebnis.nichtVerglichen.size()),
-                                           std::to_string(AnzahlRegister(ergebnis.nichtVerglichen))});
+        befund.text += "\n" + NichtVerglichenes(ergebnis.nichtVerglichen);
     for (const Parameterstelle& stelle : auftrag.stellen) {
         if (ergebnis.abweichend.contains(stelle))
             befund.zeilen.push_back(

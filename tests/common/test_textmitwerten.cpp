@@ -28,6 +28,15 @@ TEST_F(TextMitWerten, A_mark_without_a_value_stays) {
     EXPECT_EQ(LadeTextMit(9111, {"COM1"}), "Port: COM1, %2");
 }
 
+TEST_F(TextMitWerten, One_thing_is_told_otherwise_than_several_or_none) {
+    SetzeSprachoffset(Englisch);
+    EXPECT_EQ(LadeAnzahltext(9890, 9815, 1), "1 setting");
+    EXPECT_EQ(LadeAnzahltext(9890, 9815, 0), "0 settings");
+    EXPECT_EQ(LadeAnzahltext(9890, 9815, 21), "21 settings");
+    EXPECT_EQ(LadeAnzahltext(9892, 9768, 1, {"today"}),
+              "The write will change 1 setting from what the controller held last (today).");
+}
+
 TEST_F(TextMitWerten, An_id_without_a_text_gives_an_empty_one) {
     EXPECT_EQ(LadeTextMit(9999, {"x"}), "");
 }

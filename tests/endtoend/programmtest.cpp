@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStatusBar>
 
 #include <algorithm>
 
@@ -96,7 +97,9 @@ std::vector<int> ProgrammTest::GezeigteWerte(int teil) {
 }
 
 std::string ProgrammTest::Statusfeld(int nummer) {
-    return Kind<QLabel>(Hauptfenster(), QStringLiteral("sbStatusBar_%1").arg(nummer)).text().toStdString();
+    return Kind<QLabel>(*Hauptfenster().statusBar(), QStringLiteral("sbStatusBar_%1").arg(nummer))
+        .text()
+        .toStdString();
 }
 
 bool ProgrammTest::HatLeitungOffen() const {

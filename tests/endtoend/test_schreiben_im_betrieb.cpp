@@ -3,6 +3,7 @@
 #include "programmtest.h"
 
 #include "dateisicherungen.h"
+#include "leitungsstatistik.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "vergleich.h"
@@ -93,66 +94,13 @@ protected:
     std::string befund;
 };
 
-TEST_F(SchreibenImBetrieb, Exactly_the_changed_settings_are_shown_before_and_read_back_equal_after) {
-    GeheLiveMitSpeicher();
-    std::vector<std::string> statustexte;
-    programm->DieFensterumgebung().SetzeStatusanzeige(
-        [&](int, const std::string& text) { statustexte.push_back(text); });
-    AendereFuenf();
-    InFenster(Schreibfenster, [this](QWidget& dialog) {
-        InListe("cmdSchliessen");
-        Starte(true);
-        Klicke(dialog, "cmdAenderungen");
-    });
-    ASSERT_TRUE(Bearbeite());
-    EXPECT_EQ(zeilen, 5);
-    EXPECT_THAT(befund, HasSubstr("ändert 5 Einstellungen"));
-    EXPECT_EQ(geraet->Register("communication 8"), 1234);
-    EXPECT_EQ(geraet->Register("specific 1 25"), 100);
-    EXPECT_EQ(Unterschiede(), 5) << "what was read after the write";
-    EXPECT_THAT(Meldungen(), IsEmpty());
-    EXPECT_THAT(statustexte, Contains(HasSubstr("191 von 191 Registern zurückgelesen und gleich")));
-    programm->DieFensterumgebung().SetzeStatusanzeige({});
-}
-
-TEST_F(SchreibenImBetrieb, The_backup_holds_what_was_before_and_written_back_restores_every_register) {
+TEST_F(SchreibenImBetrieb, What_was_written_stays_readable_while_live_data_runs_again) {
     GeheLiveMitSpeicher();
     AendereFuenf();
     Starte(false);
     ASSERT_TRUE(Bearbeite());
-    const auto alle = AlleSicherungen();
-    ASSERT_EQ(alle.size(), 1U);
-    const auto gesichertes = DieSicherungen()->Lies(alle[0]);
-    ASSERT_TRUE(gesichertes);
-    EXPECT_EQ(Vergleiche(vorher, *gesichertes).Unterschiede(), 0);
-    EXPECT_EQ(alle[0].angaben.seriennummer, "SIM-0001");
-    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
-    Hauptfenster().LadeDatei(alle[0].pfad);
-    LeereEditoraenderungen();
-    Starte(true);
-    ASSERT_TRUE(Bearbeite());
-    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
-    EXPECT_EQ(Unterschiede(), 0);
-}
-
-TEST_F(SchreibenImBetrieb,
-       A_register_that_the_controller_silently_refuses_is_found_and_can_be_written_again) {
-    GeheLiveMitSpeicher();
-    geraet->Befehl("fault forget=0x4008");
-    AendereFuenf();
-    Starte(true);
-    InFenster(Listenfenster, [this](QWidget& liste) {
-        zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
-        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
-        geraet->Befehl("fault none");
-        Starte(true);
-        Klicke(liste, "cmdWeiter");
-    });
-    ASSERT_TRUE(Bearbeite());
-    EXPECT_EQ(zeilen, 1);
-    EXPECT_THAT(befund, HasSubstr("190 von 191 Registern zurückgelesen und gleich."));
-    EXPECT_EQ(geraet->Register("communication 8"), 1234);
-    EXPECT_EQ(AlleSicherungen().size(), 2U);
+    ASSERT_TRUE(LaufeDurchgaenge(2));
+    EXPECT_THAT(Statusfeld(1), HasSubstr("191 Register geschrieben und im Steuergerät gespeichert"));
 }
 
 TEST_F(SchreibenImBetrieb, A_controller_that_restarts_in_the_middle_of_a_part_is_found) {
@@ -165,21 +113,6 @@ TEST_F(SchreibenImBetrieb, A_controller_that_restarts_in_the_middle_of_a_part_is
     EXPECT_EQ(geraet->Register("specific 0 25"), 50) << "the value of the third part has gone to the first";
     EXPECT_GE(zeilen, 3);
     EXPECT_THAT(befund, Not(HasSubstr("191 von 191")));
-}
-
-TEST_F(SchreibenImBetrieb, A_write_and_its_check_survive_a_line_that_fails_for_a_while) {
-    GeheLiveMitSpeicher();
-    AendereFuenf();
-    Starte(true, [this] {
-        geraet->Befehl("fault silence:1@0x10");
-        geraet->Befehl("fault crc:1@0x10");
-        geraet->Befehl("fault silence:1@0x03");
-        geraet->Befehl("fault flip=27:1@0x03");
-    });
-    ASSERT_TRUE(Bearbeite());
-    EXPECT_EQ(Unterschiede(), 5);
-    EXPECT_EQ(SichtbaresFenster(Listenfenster), nullptr);
-    EXPECT_THAT(Meldungen(), IsEmpty());
 }
 
 TEST_F(SchreibenImBetrieb, A_controller_that_falls_silent_while_it_is_checked_is_told_as_not_compared) {
@@ -259,5 +192,124 @@ TEST_F(SchreibenImBetrieb, Changes_that_were_not_written_are_backed_up_when_the_
     EXPECT_EQ(
         gesichertes->HoleRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 3), 32);
 }
+
+/// The same on a line in order and on one that fails again and again, from the first request on.
+class SchreibenAufJederLeitung : public SchreibenImBetrieb, public testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override {
+        SchliesseGeraetAn({"--beams", "32,16,32,0", "--store", Pfad("speicher")});
+        Stoere();
+        ProgrammTest::Starte();
+        Verbinde();
+        ASSERT_TRUE(LaufeBis(IstLive));
+        vorher = modDaten::DasAbbild();
+    }
+    void TearDown() override {
+        EXPECT_EQ(modLeitungsstatistik::FehlschlaegeDerLetztenMinute() > 0, GetParam());
+        EXPECT_THAT(Meldungen(), IsEmpty());
+    }
+    /// Lets replies of reads and of writes go wrong, with some in order between them.
+    void Stoere() {
+        if (!GetParam())
+            return;
+        geraet->Befehl("fault none");
+        for (const char* fehler :
+             {"late=0:4@0x03", "silence:1@0x03", "late=0:5@0x03", "repeat=3:1@0x03", "late=0:7@0x03",
+              "repeat-earlier=2,3:1@0x03", "late=0:4@0x10", "crc:1@0x10", "late=0:6@0x10", "repeat=3:1@0x10"})
+            geraet->Befehl(std::string("fault ") + fehler);
+    }
+    /// All that a write sends, as the controller itself has it.
+    std::vector<int> ImGeraet() {
+        std::vector<int> werte;
+        FuerJedesRegister([&](const std::string& ort) { werte.push_back(geraet->Register(ort)); });
+        return werte;
+    }
+    static void FuerJedesRegister(const std::function<void(const std::string&)>& tat) {
+        for (const auto& [bereich, adresse, teil] : AlleStellen(IstSchreibbar))
+            for (int i = 0; i < Beschreibung(bereich, adresse).Laenge; ++i)
+                tat(Ort(bereich, teil) + std::to_string(adresse + i));
+    }
+
+private:
+    static std::string Ort(Speicherbereich bereich, int teil) {
+        if (bereich == Speicherbereich::SpezifischeGeraetedaten)
+            return "specific " + std::to_string(teil) + " ";
+        return bereich == Speicherbereich::GlobaleGeraetedaten ? "global " : "communication ";
+    }
+};
+
+TEST_P(SchreibenAufJederLeitung, Exactly_the_changed_settings_are_shown_before_and_read_back_equal_after) {
+    std::vector<std::string> statustexte;
+    programm->DieFensterumgebung().SetzeStatusanzeige(
+        [&](int, const std::string& text) { statustexte.push_back(text); });
+    AendereFuenf();
+    InFenster(Schreibfenster, [this](QWidget& dialog) {
+        InListe("cmdSchliessen");
+        Starte(true, [this] { Stoere(); });
+        Klicke(dialog, "cmdAenderungen");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(zeilen, 5);
+    EXPECT_THAT(befund, HasSubstr("ändert 5 Einstellungen"));
+    EXPECT_EQ(geraet->Register("communication 8"), 1234);
+    EXPECT_EQ(geraet->Register("specific 1 25"), 100);
+    EXPECT_EQ(Unterschiede(), 5) << "what was read after the write";
+    EXPECT_THAT(statustexte, Contains(HasSubstr("191 von 191 Registern zurückgelesen und gleich")));
+    programm->DieFensterumgebung().SetzeStatusanzeige({});
+}
+
+TEST_P(SchreibenAufJederLeitung, The_backup_holds_what_was_before_and_written_back_restores_every_register) {
+    const auto imGeraet = ImGeraet();
+    AendereFuenf();
+    Starte(false);
+    ASSERT_TRUE(Bearbeite());
+    ASSERT_NE(ImGeraet(), imGeraet);
+    const auto alle = AlleSicherungen();
+    ASSERT_EQ(alle.size(), 1U);
+    const auto gesichertes = DieSicherungen()->Lies(alle[0]);
+    ASSERT_TRUE(gesichertes);
+    EXPECT_EQ(Vergleiche(vorher, *gesichertes).Unterschiede(), 0);
+    EXPECT_EQ(alle[0].angaben.seriennummer, "SIM-0001");
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
+    FuerJedesRegister([this](const std::string& ort) {
+        if (ort != "communication 4" && ort != "communication 74") // these two are the line's own
+            geraet->Befehl("set " + ort + " 3");
+    });
+    Hauptfenster().LadeDatei(alle[0].pfad);
+    LeereEditoraenderungen();
+    Starte(true, [this] { Stoere(); });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(ImGeraet(), imGeraet);
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
+    EXPECT_EQ(Unterschiede(), 0);
+}
+
+TEST_P(SchreibenAufJederLeitung,
+       A_register_that_the_controller_silently_refuses_is_found_and_can_be_written_again) {
+    geraet->Befehl("fault none");
+    geraet->Befehl("fault forget=0x4008");
+    AendereFuenf();
+    Starte(true, [this] {
+        Stoere();
+        geraet->Befehl("fault forget=0x4008");
+    });
+    InFenster(Listenfenster, [this](QWidget& liste) {
+        zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
+        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+        geraet->Befehl("fault none");
+        Starte(true);
+        Klicke(liste, "cmdWeiter");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(zeilen, 1);
+    EXPECT_EQ(befund, "190 von 191 Registern zurückgelesen und gleich.\n"
+                      "Anders als geschrieben ist 1 Einstellung.");
+    EXPECT_EQ(geraet->Register("communication 8"), 1234);
+    EXPECT_EQ(AlleSicherungen().size(), 2U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Line, SchreibenAufJederLeitung, testing::Bool(), [](const auto& stoerung) {
+    return stoerung.param ? std::string("that_fails") : std::string("in_order");
+});
 
 } // namespace varnoth::pruefung

@@ -136,4 +136,17 @@ TEST(Vergleichsworte, As_text_each_group_stands_once_above_its_rows) {
                                                   "    rechts: 6\n");
 }
 
+TEST(Vergleichsworte, What_was_not_compared_at_all_has_no_difference_to_speak_of) {
+    Vergleichsprobe probe{Geraet(), Geraet(), {.inA = AlleStellen(IstLesbar)}};
+    EXPECT_TRUE(Vergleichsbefund(probe.Ergebnis())
+                    .starts_with("Es wurde nichts verglichen. Nicht verglichen, weil nicht gelesen: "));
+}
+
+TEST(Vergleichsworte, A_single_value_that_was_compared_is_told_as_one) {
+    Vergleichsprobe probe{Geraet(), Geraet(), {.inA = AlleStellen(IstLesbar)}};
+    probe.ungelesen.inA.erase({Global, global::PnpAusgang, 0});
+    EXPECT_TRUE(Vergleichsbefund(probe.Ergebnis())
+                    .starts_with("Kein Unterschied in dem einzigen verglichenen Wert. Nicht verglichen"));
+}
+
 } // namespace varnoth

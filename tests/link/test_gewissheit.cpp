@@ -19,7 +19,15 @@ protected:
             gewissheit.Gelungen(gestalt);
     }
 
+    void FrageUndLies(std::initializer_list<const char*> gestalten) {
+        for (const char* gestalt : gestalten) {
+            gewissheit.Gefragt(gestalt, jetzt);
+            gewissheit.Gelungen(gestalt);
+        }
+    }
+
     Gewissheit gewissheit;
+    Zeit jetzt = std::chrono::seconds(5);
 };
 
 TEST_F(GewissheitTest, At_the_start_nothing_is_provisional) {
@@ -60,6 +68,36 @@ TEST_F(GewissheitTest, What_cannot_be_mistaken_makes_all_before_it_certain) {
     EXPECT_EQ(gewissheit.GewissBis(), 2U);
     Gelungen({"d"});
     EXPECT_EQ(gewissheit.GewissBis(), 3U);
+}
+
+TEST_F(GewissheitTest, What_is_asked_alone_of_its_shape_behind_what_is_certain_cannot_be_mistaken) {
+    FrageUndLies({"a", "a", "b"});
+    EXPECT_FALSE(gewissheit.IstUnverwechselbar());
+    FrageUndLies({"c"});
+    EXPECT_EQ(gewissheit.GewissBis(), 2U);
+    EXPECT_TRUE(gewissheit.IstUnverwechselbar());
+    FrageUndLies({"c"});
+    EXPECT_FALSE(gewissheit.IstUnverwechselbar());
+}
+
+TEST_F(GewissheitTest, One_that_was_asked_for_already_is_no_more_alone_until_no_reply_can_be_under_way) {
+    FrageUndLies({"b", "a", "a"});
+    jetzt += Gewissheit::LangeRuhe - Zeit(1);
+    FrageUndLies({"b", "c"});
+    gewissheit.Geklaert();
+    gewissheit.Gefragt("a", jetzt);
+    gewissheit.Gelungen("a");
+    EXPECT_FALSE(gewissheit.IstUnverwechselbar());
+    gewissheit.Geklaert();
+    jetzt += Gewissheit::LangeRuhe;
+    FrageUndLies({"a"});
+    EXPECT_TRUE(gewissheit.IstUnverwechselbar());
+}
+
+TEST_F(GewissheitTest, A_request_that_failed_counts_among_those_that_were_asked) {
+    gewissheit.Gefragt("a", jetzt);
+    FrageUndLies({"a"});
+    EXPECT_FALSE(gewissheit.IstUnverwechselbar());
 }
 
 TEST_F(GewissheitTest, Whole_replies_are_found_among_other_bytes) {

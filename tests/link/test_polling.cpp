@@ -1,5 +1,6 @@
 #include "polling.h"
 
+#include "geraetestand.h"
 #include "pruefgeraet.h"
 #include "registerabbild.h"
 #include "texte.h"
@@ -487,6 +488,25 @@ TEST_F(PollingMitWiederholungTest, When_polling_stops_nothing_provisional_stays_
     modDaten::HoleGlobaleDaten(0xC4, 1, status);
     EXPECT_EQ(status, Werte{2}) << "nothing has come behind the other that shows it right";
     EXPECT_EQ(Strahlen(18), 5);
+}
+
+TEST_F(PollingMitWiederholungTest, What_the_parts_said_last_is_remembered_when_polling_stops) {
+    VerbindeGleichlange();
+    StoppePolling();
+    EXPECT_FALSE(modGeraetestand::HoleTeilzustaende()) << "no pass has ended";
+    StartePolling();
+    const auto davor = std::chrono::system_clock::now();
+    PollingZyklus();
+    const auto danach = std::chrono::system_clock::now();
+    StoppePolling();
+    const auto zustaende = modGeraetestand::HoleTeilzustaende();
+    ASSERT_TRUE(zustaende);
+    EXPECT_EQ(zustaende->status, std::vector<std::int32_t>{0x80});
+    EXPECT_LE(davor, zustaende->zeit);
+    EXPECT_LE(zustaende->zeit, danach);
+    modDaten::LeereAbbild();
+    StoppePolling();
+    EXPECT_EQ(modGeraetestand::HoleTeilzustaende()->status.at(0), 0x80) << "polling was off already";
 }
 
 TEST_F(PollingMitWiederholungTest, When_a_command_waits_nothing_provisional_stays_in_the_image) {

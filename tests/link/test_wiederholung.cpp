@@ -281,6 +281,36 @@ TEST_F(WiederholungTest, On_a_line_that_has_had_a_break_every_row_is_made_certai
     ErwarteRichtige();
 }
 
+TEST_F(WiederholungTest, A_row_whose_last_steps_cannot_be_mistaken_is_certain_without_asking_more) {
+    umgebung.uhr += 600ms;
+    Schrittfolge folge({Lesung(0), Lesung(1), Lesung(20, 4), Lesung(30, 7)}, [this] { return abbruch; });
+    folge.VerlangeGewissheit();
+    const auto bisher = Kennungen();
+    const Zeit beginn = umgebung.uhr;
+    EXPECT_TRUE(folge.Laufe());
+    EXPECT_EQ(Kennungen(), bisher);
+    EXPECT_EQ(umgebung.uhr - beginn, 4 * 7ms);
+    ErwarteRichtige();
+}
+
+TEST_F(WiederholungTest, A_row_that_is_to_be_certain_is_so_whichever_reply_comes_again_and_however_late) {
+    for (const auto nach : {0ms, 3ms, 10ms, 25ms})
+        for (int welche = 1; welche <= 5; ++welche) {
+            umgebung.uhr += 5s;
+            modAustausch::Vergewissere();
+            wiederholte.clear();
+            uebernommen.clear();
+            basis = static_cast<int>(antworten.size());
+            Wiederhole(welche, welche, nach);
+            Schrittfolge folge({Lesung(0), Lesung(1), Lesung(2), Lesung(20, 4), Lesung(30, 7)},
+                               [this] { return abbruch; });
+            folge.VerlangeGewissheit();
+            EXPECT_TRUE(folge.Laufe());
+            EXPECT_EQ(uebernommen.size(), 5U);
+            ErwarteRichtige();
+        }
+}
+
 TEST_F(WiederholungTest, A_row_that_is_to_be_certain_asks_once_more_on_a_line_in_order) {
     Schrittfolge folge({Lesung(0), Lesung(1)}, [this] { return abbruch; });
     folge.VerlangeGewissheit();

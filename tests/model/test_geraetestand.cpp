@@ -84,4 +84,18 @@ TEST(Geraetestand, A_new_connection_makes_what_is_known_older_than_itself_until_
     EXPECT_TRUE(HoleGeraetestand()->ausDieserVerbindung);
 }
 
+TEST(Geraetestand, States_of_the_parts_that_were_asked_are_known_until_a_new_connection_begins) {
+    EXPECT_FALSE(HoleTeilzustaende());
+    Abbild abbild;
+    ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Optikteilstatus, 0x80, 0));
+    ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Optikteilstatus, 0x81, 1));
+    const auto zeit = std::chrono::system_clock::now();
+    MerkeTeilzustaende(abbild, 2, zeit);
+    ASSERT_TRUE(HoleTeilzustaende());
+    EXPECT_EQ(HoleTeilzustaende()->status, (std::vector<std::int32_t>{0x80, 0x81}));
+    EXPECT_EQ(HoleTeilzustaende()->zeit, zeit);
+    BeginneVerbindung();
+    EXPECT_FALSE(HoleTeilzustaende());
+}
+
 } // namespace varnoth::modGeraetestand

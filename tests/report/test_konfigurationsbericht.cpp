@@ -164,6 +164,14 @@ TEST(BerichtTest, Optical_parts_are_told_with_beams_spacing_field_cycle_and_blan
     EXPECT_THAT(teil, HasSubstr("Längste Zykluszeit: 26,2 ms"));
 }
 
+TEST(BerichtTest, An_optical_part_says_its_state_where_it_is_known_and_nothing_where_it_is_not) {
+    Berichtsangaben angaben = AlleAngaben;
+    angaben.teilzustaende = {"Zustand am 1.2.: <gut>", "", "", ""};
+    const std::string html = Deutscher(abbildproben::Vierteilig(), angaben);
+    EXPECT_THAT(html, HasSubstr("Optikteil 1</h3><p>Zustand am 1.2.: &lt;gut&gt;</p>\n<p><img"));
+    EXPECT_THAT(html, HasSubstr("Optikteil 2</h3><p><img"));
+}
+
 TEST(BerichtTest, Three_parts_stand_on_a_page) {
     const std::string umbruch = "<h3 style=\"page-break-before: always;\">";
     Abbild abbild = abbildproben::Vierteilig();

@@ -273,7 +273,7 @@ TEST_F(SchreibumfeldTest, Rows_that_are_not_as_written_can_be_written_again_alon
     EXPECT_EQ(geraet.Register(193), modDaten::HoleRegister(Global, global::PnpAusgang));
     EXPECT_EQ(std::ranges::count_if(geraet.geschrieben, [](const auto& v) { return v.adresse > 213; }), 0);
     EXPECT_TRUE(umgebung.statustexte[0].ends_with(
-        ": 1 von 1 Registern zurückgelesen und gleich. 1 Register geschrieben und im "
+        ": 1 von 1 Register zurückgelesen und gleich. 1 Register geschrieben und im "
         "Steuergerät gespeichert"))
         << umgebung.statustexte[0];
 }

@@ -13,6 +13,7 @@
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
+#include "textmitwerten.h"
 #include "transaktionen.h"
 #include "zykluszeiten.h"
 
@@ -768,6 +769,20 @@ TEST_F(FrmMainTest, The_three_status_panels_take_texts) {
     Fenster().ZeigeStatustext(FeldSchaltausgang, "Status");
     EXPECT_EQ(Statusfeld(FeldSchaltausgang).text(), "Status");
     EXPECT_EQ(Statusfeld(FeldPort).text(), "COM1: 38400,n,8,2");
+}
+
+TEST_F(FrmMainTest, A_window_of_the_usual_width_has_room_for_the_whole_sentence_about_a_write) {
+    Fenster().resize(1280, 700);
+    Fenster().ZeigeStatustext(FeldSchaltausgang, LadeText(3002));
+    for (const std::int16_t sprache : {Deutsch, Englisch}) {
+        SetzeSprachoffset(sprache);
+        Fenster().ZeigeStatustext(FeldMeldungen, LadeTextMit(9170, {"12:34", "172"}));
+        const QLabel& feld = Statusfeld(FeldMeldungen);
+        EXPECT_TRUE(pruefung::WarteBis([&] {
+            return feld.fontMetrics().horizontalAdvance(feld.text()) <= feld.contentsRect().width();
+        }));
+        EXPECT_EQ(feld.toolTip(), feld.text());
+    }
 }
 
 TEST_F(FrmMainTest,

@@ -3,13 +3,17 @@
 
 #include "frmmaintest.h"
 
+#include "dateidialog.h"
+#include "dateien.h"
 #include "qttexte.h"
+#include "standtext.h"
 #include "texte.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 
 #include <vector>
 
@@ -279,6 +283,39 @@ TEST_F(FrmMainAblauf, The_about_box_shows_the_symbol_of_the_program) {
     Waehle("mnuInfo");
     EXPECT_EQ(bild, Fenster().windowIcon().pixmap(QSize(72, 72)).toImage());
     EXPECT_NE(bild.pixelColor(bild.rect().center()).alpha(), 0);
+}
+
+TEST_F(FrmMainAblauf, Behind_the_report_live_data_goes_on_with_what_it_showed_and_reads_nothing_anew) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    port.gesendet.clear();
+    Sobald("frmBericht", [](QDialog& dialog) { dialog.reject(); });
+    Waehle("mnuBericht");
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+    EXPECT_EQ(Anforderungen(), std::vector<std::string>{"write 4084 4"});
+}
+
+TEST_F(FrmMainAblauf, Behind_a_report_that_took_another_configuration_in_live_data_stays_off) {
+    const QTemporaryDir ordner;
+    const std::string pfad = ordner.filePath("stand.txt").toStdString();
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    modDaten::LoescheGeaendert();
+    Abbild andere = modDaten::DasAbbild();
+    ASSERT_TRUE(andere.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 64));
+    ASSERT_EQ(ErsetzeDatei(pfad, Standtext(andere)), "");
+    SetzeDateiantwort([&](const Dateifrage&) { return pfad; });
+    Sobald("frmBericht", [](QDialog& dialog) {
+        dialog.findChild<QPushButton*>("cmdTextImport")->click();
+        dialog.reject();
+    });
+    Waehle("mnuBericht");
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+    EXPECT_EQ(Fenster().Fenster(0).findChild<BeamBarControl*>()->Strahlanzahl(), 64);
+    Waehle("mnuMessdatenVisualisierenStart");
+    Sobald("frmBericht", [](QDialog& dialog) { dialog.reject(); });
+    Waehle("mnuBericht");
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True) << "it is the next report that counts";
 }
 
 } // namespace varnoth

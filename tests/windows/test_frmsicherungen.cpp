@@ -110,7 +110,7 @@ TEST_F(frmSicherungenTest, Backups_stand_below_their_controller_with_occasion_an
     ASSERT_EQ(gruppe.childCount(), 2);
     EXPECT_EQ(gruppe.child(0)->text(1), "vor dem Schreiben");
     EXPECT_EQ(gruppe.child(0)->text(2), "gleich");
-    EXPECT_EQ(gruppe.child(1)->text(2), "1 Einstellungen");
+    EXPECT_EQ(gruppe.child(1)->text(2), "1 Einstellung");
     EXPECT_EQ(gruppe.child(1)->text(3), "32, 0, 0, 0");
     EXPECT_EQ(Liste(fenster).topLevelItem(1)->text(0), "ohne Seriennummer");
     EXPECT_EQ(Anzahl(fenster), "3 Sicherungen");
@@ -159,6 +159,9 @@ TEST_F(frmSicherungenTest, Deleting_asks_first_and_Enter_keeps_the_backup) {
     ASSERT_EQ(sicherungen.gelegte.size(), 2U);
     EXPECT_EQ(sicherungen.gelegte[0].first.pfad, "a");
     EXPECT_EQ(Anzahl(fenster), "2 Sicherungen");
+    Waehle(fenster, 0, 0);
+    Knopf(fenster, "cmdLoeschen").click();
+    EXPECT_EQ(Anzahl(fenster), "1 Sicherung");
 }
 
 TEST_F(frmSicherungenTest, A_backup_that_cannot_be_deleted_is_said) {

@@ -110,6 +110,7 @@ protected:
     static std::int32_t Reichweite() { return modDaten::HoleRegister(Spezifisch, spezifisch::Reichweite, 1); }
 
     pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
     PruefAnbieter anbieter;
     std::unique_ptr<frmVergleich> fenster;
 };
@@ -128,6 +129,7 @@ TEST_F(frmVergleichTest, Begins_with_what_was_read_last_and_what_is_being_edited
 
 TEST_F(frmVergleichTest, Without_a_read_it_begins_with_the_factory_default_and_offers_no_last_read) {
     const Startzustand frisch;
+    const pruefung::PruefEinstellungen leere;
     modDaten::ErsetzeAbbild(Geraet());
     EXPECT_EQ(Fenster().Paar().Seite(Seitenwahl::A).quelle, Vergleichsquelle::Werksvorgabe);
     EXPECT_EQ(Quellen("cboSeiteA"),
@@ -356,6 +358,16 @@ TEST_F(frmVergleichTest, Another_language_changes_every_text) {
     EXPECT_EQ(Namen(), (Namensliste{"Optical part 2: Sensing distance", "Communication: Station address"}));
     EXPECT_EQ(Kind<QPushButton>("cmdSchliessen").text(), "Clos&e");
     EXPECT_EQ(Baum().headerItem()->text(3), "Register");
+}
+
+TEST_F(frmVergleichTest, The_window_comes_back_where_it_was_closed) {
+    Fenster().show();
+    Fenster().setGeometry(40, 60, 0, 777);
+    const QRect ort = Fenster().geometry();
+    Fenster().close();
+    fenster.reset();
+    Fenster().show();
+    EXPECT_TRUE(pruefung::WarteBis([&] { return Fenster().geometry() == ort; }));
 }
 
 } // namespace varnoth

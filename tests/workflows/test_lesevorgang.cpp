@@ -3,12 +3,14 @@
 #include "ablauftest.h"
 #include "austausch.h"
 #include "geraetestand.h"
+#include "gewissheit.h"
 #include "optikteilinformation.h"
-#include "rahmen.h"
 #include "registerabbild.h"
 #include "schreibvorgang.h"
 #include "texte.h"
 #include "transfermitschrift.h"
+
+#include <algorithm>
 
 namespace varnoth {
 
@@ -216,10 +218,11 @@ TEST_F(LesevorgangTest, A_read_that_is_cancelled_leaves_what_was_remembered) {
 }
 
 TEST_F(LesevorgangTest,
-       Reading_aside_sends_the_same_requests_and_one_to_be_certain_and_leaves_image_mark_and_memory_alone) {
+       Reading_aside_asks_the_same_with_what_cannot_be_mistaken_last_and_leaves_image_mark_and_memory_alone) {
     LiesKonfiguration(anzeige);
     auto anfragen = port.gesendet;
-    anfragen.push_back(IdentifikationsAnforderung());
+    std::rotate(anfragen.begin() + 1, anfragen.begin() + 3, anfragen.end());
+    umgebung.uhr += Gewissheit::LangeRuhe;
     modDaten::LoescheGeaendert();
     const auto davor = GanzesAbbild();
     const auto stand = modGeraetestand::HoleGeraetestand()->zeit;
@@ -253,7 +256,7 @@ TEST_F(LesevorgangTest, A_controller_that_goes_silent_while_it_is_read_aside_lea
     EXPECT_FALSE(abzug.ungelesen.contains({Spezifisch, 52, 0}));
     EXPECT_TRUE(abzug.ungelesen.contains({Spezifisch, 12, 1}));
     EXPECT_TRUE(abzug.ungelesen.contains({Speicherbereich::Kommunikationsdaten, 126}));
-    EXPECT_EQ(abzug.ungelesen.size(), 3 * 9 + 7U);
+    EXPECT_EQ(abzug.ungelesen.size(), 3 * 9 + 7 + 2U);
     EXPECT_EQ(anzeige.ende, "");
 }
 
@@ -330,6 +333,27 @@ TEST_F(LesevorgangMitWiederholungTest, The_image_is_right_whichever_reply_comes_
             LiesMitDoppelter(welche, std::chrono::milliseconds(wann));
             EXPECT_EQ(GanzesAbbild() == richtig, true) << "reply " << welche << " after " << wann << " ms";
         }
+}
+
+TEST_F(LesevorgangMitWiederholungTest, What_is_read_aside_is_right_whichever_reply_comes_twice) {
+    const auto gelesen = [this](int welche, std::chrono::milliseconds wann) {
+        umgebung.uhr += std::chrono::seconds(5);
+        modAustausch::Vergewissere();
+        port.gesendet.clear();
+        doppelte = welche;
+        nach = wann;
+        Geraeteabzug abzug;
+        EXPECT_TRUE(LiesGeraeteabzug(anzeige, abzug));
+        EXPECT_TRUE(abzug.ungelesen.empty());
+        doppelte = 0;
+        return abzug.abbild;
+    };
+    const Abbild richtig = gelesen(0, {});
+    for (zurueck = 0; zurueck < 2; ++zurueck)
+        for (const int wann : {0, 3, 10, 40})
+            for (int welche = 1 + zurueck; welche <= Lesungen; ++welche)
+                EXPECT_EQ(gelesen(welche, std::chrono::milliseconds(wann)) == richtig, true)
+                    << "reply " << welche << " after " << wann << " ms, " << zurueck << " back";
 }
 
 TEST_F(LesevorgangMitWiederholungTest,

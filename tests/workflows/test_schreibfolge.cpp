@@ -80,7 +80,7 @@ TEST(Aenderungsbefund, A_value_that_is_not_known_is_never_called_equal) {
     stand.unbekannt = {Pause};
     const auto befund = BefundVorDemSchreiben({.abbild = {}}, stand, "today");
     EXPECT_EQ(Stellen(befund), Stellenliste{Pause});
-    EXPECT_NE(befund.text.find("Von 1 Einstellungen ist nicht bekannt"), std::string::npos) << befund.text;
+    EXPECT_NE(befund.text.find("Von 1 Einstellung ist nicht bekannt"), std::string::npos) << befund.text;
     EXPECT_EQ(befund.text.find("ändert nichts"), std::string::npos) << befund.text;
 }
 
@@ -118,8 +118,8 @@ TEST(Schreibfolgen, A_broken_write_tells_what_is_written_what_not_and_what_is_un
     EXPECT_EQ(folge->befund.zeilen[1].links, "ungewiss");
     EXPECT_EQ(folge->befund.zeilen[2].links, "nicht geschrieben");
     EXPECT_EQ(folge->befund.text,
-              "Das Schreiben wurde nicht beendet. Von 3 Registern sind 1 geschrieben, 1 nicht "
-              "und 1 ungewiss.");
+              "Das Schreiben wurde nicht beendet. Register: 1 von 3 geschrieben, 1 nicht geschrieben, "
+              "1 ungewiss.");
 }
 
 TEST(Schreibfolgen, After_a_broken_write_all_that_the_controller_held_can_be_written_back) {
@@ -171,8 +171,26 @@ TEST(Schreibfolgen, A_check_that_found_differences_leads_to_writing_just_those_a
     EXPECT_NE(folge->befund.zeilen[1].links, folge->befund.zeilen[1].rechts);
     EXPECT_TRUE(folge->befund.text.starts_with("189 von 191 Registern zurückgelesen und gleich.\n"))
         << folge->befund.text;
-    EXPECT_NE(folge->befund.text.find("1 Einstellungen (1 Register) wurden nicht verglichen"),
+    EXPECT_NE(folge->befund.text.find("1 Einstellung (1 Register) wurde nicht verglichen"),
               std::string::npos);
+}
+
+TEST(Schreibfolgen, One_setting_or_register_is_told_as_one) {
+    SetzeSprachoffset(Englisch);
+    const Schreibauftrag eine{.abbild = Mit(Pause, 1), .stellen = {Pause}};
+    EXPECT_EQ(BefundVorDemSchreiben(eine, Stand({}), "today").text,
+              "The write will change 1 setting from what the controller held last (today).");
+    EXPECT_EQ(BefundVorDemSchreiben(eine, std::nullopt, "").text,
+              "What the controller holds is not known. 1 setting will be written; whether it will change "
+              "cannot be told.");
+    EXPECT_EQ(BefundDerPruefung(eine, {.alleRegister = 1, .abweichend = {Pause}}, {}).text,
+              "0 of 1 register read back equal.\n1 setting is not as it was written.");
+    const Parameterstelle muster{Spezifisch, spezifisch::Blankingmuster, 2};
+    EXPECT_EQ(BefundDerPruefung({.abbild = {}, .stellen = {muster}},
+                                {.alleRegister = 32, .nichtVerglichen = {muster}}, {})
+                  .text,
+              "0 of 32 registers read back equal.\n"
+              "The check was cancelled: 1 setting (32 registers) was not compared.");
 }
 
 TEST(Schreibfolgen, A_check_that_found_equality_has_no_sequel) {
