@@ -14,6 +14,8 @@ namespace varnoth {
 
 namespace {
 
+constexpr const char* Groesse = "Einpassgroesse"; // the property that keeps a size until the window appears
+
 /// What a window manager puts around a window whose frame is not known yet, in logical pixels.
 constexpr QSize Rahmen(16, 40);
 
@@ -61,6 +63,7 @@ void PasseEin(QWidget& fenster, QSize platz) {
         const QSize ganz = MitRollbalken(fenster.sizeHint().expandedTo(mindestens));
         MacheRollbar(fenster);
         fenster.resize(ganz.boundedTo(platz));
+        fenster.setProperty(Groesse, fenster.size());
     } else if (const QSize groesse =
                    fenster.testAttribute(Qt::WA_Resized) ? fenster.size() : fenster.sizeHint();
                !Passt(groesse, platz)) {
@@ -72,12 +75,18 @@ Dialogplatz::Dialogplatz() {
     QApplication::instance()->installEventFilter(this);
 }
 
-/// A window is polished once, before it is laid out and shown.
+/// A window is polished once, before it is laid out and shown. Qt then gives one that had no size before that
+/// of two thirds of the screen at most, so what scrolls gets its own once more when it appears.
 bool Dialogplatz::eventFilter(QObject* ziel, QEvent* ereignis) {
-    if (ereignis->type() == QEvent::Polish)
-        if (auto* const fenster = qobject_cast<QWidget*>(ziel);
-            fenster != nullptr && WirdEingepasst(*fenster))
-            PasseEin(*fenster, fenster->screen()->availableSize() - Rahmen);
+    auto* const fenster = qobject_cast<QWidget*>(ziel);
+    if (fenster == nullptr)
+        return false;
+    if (ereignis->type() == QEvent::Polish && WirdEingepasst(*fenster)) {
+        PasseEin(*fenster, fenster->screen()->availableSize() - Rahmen);
+    } else if (ereignis->type() == QEvent::Show && fenster->property(Groesse).isValid()) {
+        fenster->resize(fenster->property(Groesse).toSize());
+        fenster->setProperty(Groesse, {});
+    }
     return false;
 }
 

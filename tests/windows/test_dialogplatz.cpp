@@ -67,6 +67,23 @@ TEST_F(DialogplatzTest, Every_dialog_of_the_program_is_fitted_when_it_appears) {
     EXPECT_NE(dialog.findChild<QScrollArea*>("Dialogrollbereich"), nullptr);
 }
 
+TEST_F(DialogplatzTest, A_dialog_that_scrolls_takes_the_height_of_the_screen) {
+    const Dialogplatz platz;
+    HoherDialog dialog(100);
+    dialog.show();
+    EXPECT_GT(dialog.height(), dialog.screen()->availableSize().height() * 9 / 10);
+}
+
+TEST_F(DialogplatzTest, A_dialog_that_the_user_has_made_smaller_keeps_that_size_when_it_comes_back) {
+    const Dialogplatz platz;
+    HoherDialog dialog(100);
+    dialog.show();
+    dialog.resize(200, 150);
+    dialog.hide();
+    dialog.show();
+    EXPECT_EQ(dialog.size(), QSize(200, 150));
+}
+
 TEST_F(DialogplatzTest, A_window_beside_the_main_one_is_fitted_too) {
     const Dialogplatz platz;
     QWidget fenster;
