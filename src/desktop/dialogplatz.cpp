@@ -1,9 +1,9 @@
 #include "dialogplatz.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QEvent>
 #include <QLayout>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
@@ -14,11 +14,13 @@ namespace varnoth {
 
 namespace {
 
+constexpr const char* Groesse = "Einpassgroesse"; // the property that keeps a size until the window appears
+
 /// What a window manager puts around a window whose frame is not known yet, in logical pixels.
 constexpr QSize Rahmen(16, 40);
 
 /// The controls move into an area that scrolls, with their layout and their order.
-void MacheRollbar(QDialog& dialog) {
+void MacheRollbar(QWidget& fenster) {
     auto* const bereich = new QScrollArea;
     auto* const inhalt = new QWidget;
     bereich->setObjectName(QStringLiteral("Dialogrollbereich"));
@@ -26,11 +28,11 @@ void MacheRollbar(QDialog& dialog) {
     bereich->setFocusPolicy(Qt::NoFocus);
     bereich->setWidgetResizable(true);
     inhalt->setObjectName(QStringLiteral("Dialoginhalt"));
-    dialog.layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
-    dialog.setMinimumSize(0, 0);
-    inhalt->setLayout(dialog.layout());
+    fenster.layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    fenster.setMinimumSize(0, 0);
+    inhalt->setLayout(fenster.layout());
     bereich->setWidget(inhalt);
-    auto* const aussen = new QVBoxLayout(&dialog);
+    auto* const aussen = new QVBoxLayout(&fenster);
     aussen->setContentsMargins(0, 0, 0, 0);
     aussen->addWidget(bereich);
 }
@@ -44,19 +46,28 @@ bool Passt(QSize groesse, QSize platz) {
     return groesse.width() <= platz.width() && groesse.height() <= platz.height();
 }
 
+/// Message boxes find their own size, and the main window finds its place by itself.
+bool WirdEingepasst(const QWidget& fenster) {
+    const bool fensterart = fenster.windowType() == Qt::Window || fenster.windowType() == Qt::Dialog;
+    return fenster.isWindow() && fensterart && qobject_cast<const QMessageBox*>(&fenster) == nullptr &&
+           qobject_cast<const QMainWindow*>(&fenster) == nullptr;
+}
+
 } // namespace
 
-void PasseEin(QDialog& dialog, QSize platz) {
-    if (dialog.layout() == nullptr)
+void PasseEin(QWidget& fenster, QSize platz) {
+    if (fenster.layout() == nullptr)
         return;
-    const QSize mindestens = dialog.minimumSizeHint().expandedTo(dialog.minimumSize());
+    const QSize mindestens = fenster.minimumSizeHint().expandedTo(fenster.minimumSize());
     if (!Passt(mindestens, platz)) {
-        const QSize ganz = MitRollbalken(dialog.sizeHint().expandedTo(mindestens));
-        MacheRollbar(dialog);
-        dialog.resize(ganz.boundedTo(platz));
-    } else if (const QSize groesse = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
+        const QSize ganz = MitRollbalken(fenster.sizeHint().expandedTo(mindestens));
+        MacheRollbar(fenster);
+        fenster.resize(ganz.boundedTo(platz));
+        fenster.setProperty(Groesse, fenster.size());
+    } else if (const QSize groesse =
+                   fenster.testAttribute(Qt::WA_Resized) ? fenster.size() : fenster.sizeHint();
                !Passt(groesse, platz)) {
-        dialog.resize(groesse.boundedTo(platz).expandedTo(mindestens));
+        fenster.resize(groesse.boundedTo(platz).expandedTo(mindestens));
     }
 }
 
@@ -64,12 +75,18 @@ Dialogplatz::Dialogplatz() {
     QApplication::instance()->installEventFilter(this);
 }
 
-/// A dialog is polished once, before it is laid out and shown. Message boxes find their own size.
+/// A window is polished once, before it is laid out and shown. Qt then gives one that had no size before that
+/// of two thirds of the screen at most, so what scrolls gets its own once more when it appears.
 bool Dialogplatz::eventFilter(QObject* ziel, QEvent* ereignis) {
-    if (ereignis->type() == QEvent::Polish)
-        if (auto* const dialog = qobject_cast<QDialog*>(ziel);
-            dialog != nullptr && qobject_cast<QMessageBox*>(ziel) == nullptr)
-            PasseEin(*dialog, dialog->screen()->availableSize() - Rahmen);
+    auto* const fenster = qobject_cast<QWidget*>(ziel);
+    if (fenster == nullptr)
+        return false;
+    if (ereignis->type() == QEvent::Polish && WirdEingepasst(*fenster)) {
+        PasseEin(*fenster, fenster->screen()->availableSize() - Rahmen);
+    } else if (ereignis->type() == QEvent::Show && fenster->property(Groesse).isValid()) {
+        fenster->resize(fenster->property(Groesse).toSize());
+        fenster->setProperty(Groesse, {});
+    }
     return false;
 }
 

@@ -2,17 +2,17 @@
 
 #include <QObject>
 
-class QDialog;
 class QSize;
+class QWidget;
 
 namespace varnoth {
 
-/// Makes a dialog that is not shown yet no larger than `platz` (logical pixels). One whose controls need more
+/// Makes a window that is not shown yet no larger than `platz` (logical pixels). One whose controls need more
 /// room than that scrolls; any other keeps its layout.
-void PasseEin(QDialog& dialog, QSize platz);
+void PasseEin(QWidget& fenster, QSize platz);
 
-/// Fits every dialog of the program into the work area of its screen when it appears, as long as this object
-/// lives.
+/// Fits every dialog of the program, and every window beside the main one, into the work area of its screen
+/// when it appears, as long as this object lives.
 class Dialogplatz : public QObject {
 public:
     Dialogplatz();

@@ -10,9 +10,9 @@
 #include <QMdiSubWindow>
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace varnoth {
 
@@ -60,9 +60,23 @@ private:
 
 Ansichten::Ansichten(QMdiArea& mdiBereich)
     : bereich(mdiBereich), kachelung(GespeicherteKachelung()), vonFrueher(true) {
-    for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil)
-        Lade(teil);
+    titeltexte.fill(TextOffline);
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        hatPlatz[static_cast<std::size_t>(teil)] =
+            LiesFensterplatz(DieEinstellungen(), std::to_string(teil) + "Form",
+                             {.zustand = ZustandNichtGespeichert})
+                .zustand != ZustandNichtGespeichert;
     bereich.viewport()->installEventFilter(this);
+}
+
+bool Ansichten::SindGeladen() const {
+    return ansichten.front() != nullptr;
+}
+
+/// All at once, the first one last, so that it lies above the others.
+void Ansichten::LadeAlle() {
+    for (int teil = AnzahlOptikteile - 1; !SindGeladen(); --teil)
+        Lade(teil);
 }
 
 void Ansichten::Lade(int optikteil) {
@@ -76,15 +90,13 @@ void Ansichten::Lade(int optikteil) {
             [this, optikteil] { emit Gewechselt(optikteil, true); });
     connect(ansicht, &frmDocument::Geschlossen, this,
             [this, optikteil] { emit Gewechselt(optikteil, false); });
-    SetzeTitel(optikteil, TextOffline);
+    SetzeTitel(optikteil, titeltexte.at(platz));
     ansicht->InitForm();
-    hatPlatz[platz] = LiesFensterplatz(DieEinstellungen(), std::to_string(optikteil) + "Form",
-                                       {.zustand = ZustandNichtGespeichert})
-                          .zustand != ZustandNichtGespeichert;
     rahmen[platz]->installEventFilter(this);
 }
 
 frmDocument& Ansichten::Ansicht(int optikteil) {
+    LadeAlle();
     return *ansichten.at(static_cast<std::size_t>(optikteil));
 }
 
@@ -115,7 +127,7 @@ void Ansichten::ZeigeGebaute() {
             hatPlatz[platz] = true;
             Ansicht(teil).InitfrmDocument();
             Ansicht(teil).Zeige();
-        } else if (rahmen[platz]->isVisible()) {
+        } else if (SindGeladen() && rahmen[platz]->isVisible()) {
             rahmen[platz]->close();
         }
     }
@@ -128,15 +140,24 @@ void Ansichten::Zeige(int optikteil, bool live) {
     Ansicht(optikteil).Zeige();
 }
 
+std::vector<QMdiSubWindow*> Ansichten::Gezeigte() const {
+    std::vector<QMdiSubWindow*> gezeigte;
+    if (SindGeladen())
+        std::ranges::copy_if(rahmen, std::back_inserter(gezeigte),
+                             [](const QMdiSubWindow* fenster) { return !fenster->isHidden(); });
+    return gezeigte;
+}
+
 int Ansichten::AnzahlGezeigter() const {
-    return static_cast<int>(
-        std::ranges::count_if(rahmen, [](const QMdiSubWindow* fenster) { return !fenster->isHidden(); }));
+    return static_cast<int>(Gezeigte().size());
 }
 
 void Ansichten::SetzeTitel(int optikteil, std::int16_t textId) {
     const auto platz = static_cast<std::size_t>(optikteil);
     const QString titel = Ansichtstitel(optikteil, textId);
     titeltexte.at(platz) = textId;
+    if (ansichten.at(platz) == nullptr)
+        return;
     ansichten.at(platz)->setWindowTitle(titel);
     rahmen.at(platz)->setWindowTitle(titel);
     if (textId != TextOnline)
@@ -155,13 +176,16 @@ void Ansichten::ZeigeAlleOffline() {
 
 void Ansichten::Lokalisiere() {
     const Waehrend marke(ordnet);
+    if (!SindGeladen())
+        return;
     for (frmDocument* ansicht : ansichten)
         ansicht->Lokalisiere();
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         SetzeTitel(teil, titeltexte.at(static_cast<std::size_t>(teil)));
 }
 
-QSize Ansichten::KleinsterRahmen() const {
+QSize Ansichten::KleinsterRahmen() {
+    LadeAlle();
     return rahmen[0]
         ->minimumSizeHint()
         .expandedTo(rahmen[0]->minimumSize())
@@ -170,10 +194,8 @@ QSize Ansichten::KleinsterRahmen() const {
 
 void Ansichten::Ordne(Anordnung art) {
     const Waehrend marke(ordnet);
-    std::vector<QMdiSubWindow*> gezeigte;
-    for (QMdiSubWindow* fenster : rahmen)
-        if (!fenster->isHidden() && !fenster->isMinimized())
-            gezeigte.push_back(fenster);
+    auto gezeigte = Gezeigte();
+    std::erase_if(gezeigte, [](const QMdiSubWindow* fenster) { return fenster->isMinimized(); });
     const auto plaetze =
         OrdneAn(art, static_cast<int>(gezeigte.size()), bereich.viewport()->size(), KleinsterRahmen());
     for (std::size_t i = 0; i < plaetze.size(); ++i) {
@@ -194,6 +216,8 @@ void Ansichten::Staffle() {
 }
 
 void Ansichten::SchalteGrossanzeige() {
+    if (!SindGeladen())
+        return;
     const QMdiSubWindow* vorn = bereich.currentSubWindow();
     auto gemeint = std::ranges::find(rahmen, vorn);
     if (vorn == nullptr || !vorn->isVisible())
@@ -203,8 +227,7 @@ void Ansichten::SchalteGrossanzeige() {
 }
 
 bool Ansichten::EineMaximiert() const {
-    return std::ranges::any_of(
-        rahmen, [](const QMdiSubWindow* fenster) { return !fenster->isHidden() && fenster->isMaximized(); });
+    return std::ranges::any_of(Gezeigte(), &QMdiSubWindow::isMaximized);
 }
 
 /// A tiling fills the area anew; one that lies under a maximised view waits until that is gone.
@@ -249,8 +272,9 @@ void Ansichten::BemerkeRahmen(QEvent::Type ereignis, const QMdiSubWindow& fenste
 }
 
 void Ansichten::SpeicherePlaetze() const {
-    for (const frmDocument* ansicht : ansichten)
-        ansicht->SpeicherePlatz();
+    if (SindGeladen())
+        for (const frmDocument* ansicht : ansichten)
+            ansicht->SpeicherePlatz();
     SpeichereKachelung(kachelung);
 }
 

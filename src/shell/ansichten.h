@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -25,7 +26,8 @@ class Ansichten : public QObject {
     Q_OBJECT
 
 public:
-    /// Makes the four views in the area, which must outlive this object; none is shown.
+    /// The area must outlive this object. The four views are made when one of them is needed for the first
+    /// time: an empty main window is there sooner without them.
     explicit Ansichten(QMdiArea& bereich);
 
     /// The view of optical part 0..3.
@@ -71,8 +73,11 @@ protected:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
+    bool SindGeladen() const;
+    void LadeAlle();
     void Lade(int optikteil);
-    QSize KleinsterRahmen() const;
+    std::vector<QMdiSubWindow*> Gezeigte() const;
+    QSize KleinsterRahmen();
     void ZeigeGebaute();
     bool EineMaximiert() const;
     void BemerkeWechsel();

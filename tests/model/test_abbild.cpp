@@ -90,6 +90,8 @@ TEST_F(AbbildTest, Live_beam_states_come_back_and_a_wrong_number_or_part_is_refu
     EXPECT_TRUE(abbild.SetzeStrahlzustaende(3, 1, {7, 8, 9}));
     EXPECT_EQ(abbild.HoleStrahlzustaende(3, 1), (Werte{7, 8, 9}));
     EXPECT_EQ(abbild.HoleStrahlzustaende(2, 1), (Werte{7, 8}));
+    EXPECT_EQ(abbild.HoleStrahlzustaende(1, 1), Werte{7});
+    EXPECT_EQ(abbild.HoleStrahlzustaende(64, 1).size(), 64U);
     const Abbild vorher = abbild;
     const std::pair<std::int16_t, int> schlechte[] = {{0, 0}, {-1, 0}, {65, 0}, {1, -1}, {1, 4}};
     for (const auto& [anzahl, teil] : schlechte) {

@@ -53,7 +53,7 @@ struct Ordnerfall {
 
 TEST(Sicherungsordnernamen, Of_a_serial_number_only_harmless_characters_stay) {
     for (const auto& [nummer, ordner] :
-         {Ordnerfall{"SIM-0001", "SIM-0001"}, Ordnerfall{"ab_9", "ab_9"},
+         {Ordnerfall{"SIM-0001", "SIM-0001"}, Ordnerfall{"ab_9", "ab_9"}, Ordnerfall{"AZaz09", "AZaz09"},
           Ordnerfall{"../../etc", "______etc"}, Ordnerfall{"..", "__"}, Ordnerfall{".", "_"},
           Ordnerfall{"a/b\\c:d", "a_b_c_d"}, Ordnerfall{"\n\t\x01", "___"}, Ordnerfall{"Ä", "__"},
           Ordnerfall{"", "ohne-nummer"}, Ordnerfall{"CON", "CON_"}, Ordnerfall{"lpt1", "lpt1_"},

@@ -3,6 +3,7 @@ import importlib.machinery
 import importlib.util
 import pathlib
 import re
+import subprocess
 import sys
 import unittest
 
@@ -64,13 +65,25 @@ class Mutants(unittest.TestCase):
                                    content.replace("1;", "2;")})
 
 
+def test_programs():
+    lists = "".join(path.read_text() for path in (ROOT / "tests").glob("*/CMakeLists.txt"))
+    return set(re.findall(r"varnoth_test\((\w+)", lists))
+
+
 class Programs(unittest.TestCase):
-    def test_every_room_is_one_and_its_programs_are_test_programs(self):
-        lists = "".join(path.read_text() for path in (ROOT / "tests").glob("*/CMakeLists.txt"))
-        known = set(re.findall(r"varnoth_test\((\w+)", lists))
+    def test_every_folder_with_sources_is_a_room(self):
+        self.assertEqual(set(the_tool().ROOMS), {path.parent.name for path in (ROOT / "src").glob("*/*.cpp")})
+
+    def test_what_is_to_notice_a_mistake_in_a_room_is_a_test_program(self):
         for room, programs in the_tool().ROOMS.items():
-            self.assertTrue((ROOT / "src" / room).is_dir(), room)
-            self.assertLessEqual(set(programs), known, room)
+            self.assertLessEqual(set(programs), test_programs(), room)
+
+    def test_memcheck_runs_the_rules_of_every_floor_without_qt(self):
+        told = subprocess.run([ROOT / "scripts/valgrind", "--programs"], check=True, stdout=subprocess.PIPE, text=True)
+        programs = set(told.stdout.split())
+        self.assertLessEqual(programs, test_programs())
+        self.assertLessEqual({room + "_tests" for room in ("common", "model", "klartext", "report", "link", "simulator")},
+                             programs)
 
 
 if __name__ == "__main__":

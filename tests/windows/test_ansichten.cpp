@@ -1,5 +1,6 @@
 #include "ansichten.h"
 
+#include "ansichtstitel.h"
 #include "fenstertest.h"
 #include "frmDocument.h"
 #include "pruefumgebung.h"
@@ -63,6 +64,22 @@ protected:
     QMdiArea bereich;
     std::unique_ptr<Ansichten> ansichten;
 };
+
+TEST_F(AnsichtenTest, No_view_is_made_before_one_is_needed) {
+    Zeige({});
+    DieAnsichten().ZeigeAlleOffline();
+    DieAnsichten().Lokalisiere();
+    DieAnsichten().SchalteGrossanzeige();
+    DieAnsichten().SpeicherePlaetze();
+    EXPECT_EQ(DieAnsichten().AnzahlGezeigter(), 0);
+    EXPECT_TRUE(bereich.subWindowList().isEmpty());
+}
+
+TEST_F(AnsichtenTest, A_caption_given_before_the_view_was_made_is_there_with_it) {
+    DieAnsichten().SetzeTitel(2, TextNichtVorhanden);
+    EXPECT_EQ(Rahmen(2).windowTitle(), Ansichtstitel(2, TextNichtVorhanden));
+    EXPECT_EQ(Rahmen(1).windowTitle(), Ansichtstitel(1, TextOffline));
+}
 
 TEST_F(AnsichtenTest, Views_without_a_place_stand_side_by_side) {
     Zeige({0, 1});

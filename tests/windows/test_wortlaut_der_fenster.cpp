@@ -2,46 +2,65 @@
 
 #include "frmMain.h"
 
+#include "allefenster.h"
 #include "dialogtest.h"
-#include "frmBlankingmuster.h"
-#include "frmDocument.h"
-#include "frmEinzelwerteLesenSchreiben.h"
-#include "frmHilfe.h"
-#include "frmHoleLichtleistenInfo.h"
-#include "frmIdentifikationsAnforderung.h"
-#include "frmInfo.h"
-#include "frmInitHardware.h"
-#include "frmKeinKonturAngeschlossen.h"
-#include "frmKonfigurationEdit.h"
-#include "frmKonfigurationLesenAusHardware.h"
-#include "frmKonfigurationSchreibenInHardware.h"
-#include "frmReihenfolge.h"
-#include "frmResetHardware.h"
-#include "frmSimulation.h"
-#include "frmSplash.h"
-#include "frmStrahlenBestimmen.h"
 #include "meldungsfenster.h"
 #include "polling.h"
 #include "registeradressen.h"
 #include "zykluszeiten.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTextDocument>
+#include <QTextEdit>
 #include <QTimer>
 
 namespace varnoth {
 
 namespace {
 
-const std::string Boese = "<b>SN</b><img src=x>"; // as long as a serial number
+using pruefung::AlleFenster;
+
+const std::string Boese = pruefung::TextMitTags;
 
 /// A label or tool tip that would show tags as what they mean.
 bool Deutet(const QString& text) {
     return Qt::mightBeRichText(text) && text.contains(QStringLiteral("<img"));
+}
+
+/// Looks at the items of a list, tree or table, and at those below `eltern`; gives whether one holds the
+/// text.
+bool PruefeEintraege(const QAbstractItemModel& modell, const QModelIndex& eltern = {}) {
+    bool traegt = false;
+    for (int zeile = 0; zeile < modell.rowCount(eltern); ++zeile)
+        for (int spalte = 0; spalte < modell.columnCount(eltern); ++spalte) {
+            const QModelIndex eintrag = modell.index(zeile, spalte, eltern);
+            const QString tipp = eintrag.data(Qt::ToolTipRole).toString();
+            EXPECT_FALSE(Deutet(tipp)) << tipp.toStdString();
+            traegt |= eintrag.data().toString().contains(QStringLiteral("SN"));
+            traegt |= spalte == 0 && PruefeEintraege(modell, eintrag);
+        }
+    return traegt;
+}
+
+/// Looks at a control; gives whether it holds the text of the controller.
+bool PruefeElement(const QWidget& element) {
+    if (const auto* const label = qobject_cast<const QLabel*>(&element)) {
+        EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()));
+        return label->text().contains(QStringLiteral("SN"));
+    }
+    if (const auto* const text = qobject_cast<const QTextEdit*>(&element)) {
+        EXPECT_FALSE(text->toHtml().contains(QStringLiteral("<img src=\"x\"")));
+        return text->toPlainText().contains(QStringLiteral("SN"));
+    }
+    if (const auto* const feld = qobject_cast<const QLineEdit*>(&element))
+        return feld->text().contains(QStringLiteral("SN"));
+    const auto* const liste = qobject_cast<const QAbstractItemView*>(&element);
+    return liste != nullptr && liste->model() != nullptr && PruefeEintraege(*liste->model());
 }
 
 /// Looks at a window and all that is in it; gives the names of those that hold the text of the controller.
@@ -50,18 +69,15 @@ QSet<QString> Pruefe(const QWidget& fenster) {
     auto alle = fenster.findChildren<QWidget*>();
     alle += const_cast<QWidget*>(&fenster);
     for (const QWidget* element : alle) {
-        const auto name = element->objectName().toStdString();
-        if (const auto* label = qobject_cast<const QLabel*>(element)) {
-            EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
-                << name << " in " << fenster.objectName().toStdString();
-            if (label->text().contains("SN"))
-                traeger += element->objectName();
-        }
-        if (const auto* feld = qobject_cast<const QLineEdit*>(element); feld && feld->text().contains("SN"))
-            traeger += element->objectName();
-        EXPECT_FALSE(Deutet(element->toolTip())) << name << ": " << element->toolTip().toStdString();
+        const QString name = element->objectName();
+        SCOPED_TRACE(fenster.objectName().toStdString() + ": " + name.toStdString());
+        if (PruefeElement(*element))
+            traeger += name;
+        EXPECT_FALSE(Deutet(element->toolTip())) << element->toolTip().toStdString();
         if (element->toolTip().contains("SN"))
-            traeger += element->objectName() + " tip";
+            traeger += name + " tip";
+        for (const QAction* aktion : element->actions())
+            EXPECT_FALSE(Deutet(aktion->toolTip())) << aktion->toolTip().toStdString();
     }
     return traeger;
 }
@@ -127,40 +143,17 @@ TEST_F(FensterwortlautTest, Every_dialog_shows_texts_with_tags_as_text) {
     frmMain hauptfenster;
     VerbindeUndPruefe(hauptfenster);
     modPolling::StoppePolling();
-    const std::function<std::unique_ptr<QWidget>()> fenster[] = {
-        [] { return std::make_unique<frmIdentifikationsAnforderung>(); },
-        [] { return std::make_unique<frmKonfigurationLesenAusHardware>(); },
-        [] { return std::make_unique<frmKonfigurationSchreibenInHardware>(); },
-        [] { return std::make_unique<frmHoleLichtleistenInfo>(); },
-        [] { return std::make_unique<frmResetHardware>(); },
-        [] { return std::make_unique<frmInitHardware>(); },
-        [] { return std::make_unique<frmEinzelwerteLesenSchreiben>(); },
-        [] { return std::make_unique<frmStrahlenBestimmen>(); },
-        [] { return std::make_unique<frmKeinKonturAngeschlossen>(); },
-        [] { return std::make_unique<frmReihenfolge>(); },
-        [] { return std::make_unique<frmSimulation>(); },
-        [] { return std::make_unique<frmInfo>(nullptr); },
-        [] { return std::make_unique<frmSplash>(); },
-        [] {
-            auto editor = std::make_unique<frmKonfigurationEdit>();
-            editor->InitKonfiguration({.zeigeUebertrageneWerte = true});
-            return editor;
-        },
-        [] {
-            auto muster = std::make_unique<frmBlankingmuster>();
-            muster->InitFormBlankingmuster(0);
-            return muster;
-        },
-    };
     QSet<QString> traeger;
-    for (const auto& mache : fenster) {
+    for (const auto& [name, mache] : AlleFenster()) {
+        SCOPED_TRACE(name);
         const auto eines = mache();
         eines->show();
         QCoreApplication::processEvents();
         traeger += Pruefe(*eines);
     }
-    for (const char* name : {"txtBezeichnung", "txtSeriennr", "txtCopyright", "lblInhaltSeriennummer",
-                             "txtSeriennummer", "lblDatensatz", "lblDatensatz tip"})
+    for (const char* name :
+         {"txtBezeichnung", "txtSeriennr", "txtCopyright", "lblInhaltSeriennummer", "txtSeriennummer",
+          "lblDatensatz", "lblDatensatz tip", "lblBefund", "lstRegister", "lstSicherungen", "lblEinzelheitA"})
         EXPECT_TRUE(traeger.contains(QString::fromUtf8(name))) << name;
 }
 

@@ -38,6 +38,17 @@ TEST_F(IdentifizierungTest, A_device_that_answers_the_first_request_leaves_nine_
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
+TEST_F(IdentifizierungTest, Window_events_run_after_an_attempt_too_and_a_cancel_among_them_counts) {
+    int runden = 0;
+    umgebung.beiEreignissen = [&] { ++runden; };
+    modModbus::RTUModeH11IndentifikationsAnforderung();
+    const int imAustausch = std::exchange(runden, 0);
+    umgebung.beiEreignissen = [&] { anzeige.abbruch = ++runden > imAustausch; };
+    EXPECT_FALSE(Identifiziere(anzeige));
+    EXPECT_EQ(anzeige.identifiziert, 0);
+    EXPECT_EQ(AnzahlAnforderungen(), 2);
+}
+
 TEST_F(IdentifizierungTest, A_device_that_answers_the_eighth_request_is_identified) {
     SchweigeBei(7);
     EXPECT_TRUE(Identifiziere(anzeige));

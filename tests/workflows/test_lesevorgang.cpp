@@ -301,6 +301,11 @@ protected:
         modAustausch::Vergewissere();
     }
 
+    std::ptrdiff_t Kanalauswahlen() const {
+        return std::ranges::count_if(geraet.geschrieben,
+                                     [](const auto& eines) { return eines.adresse == global::Kanalauswahl; });
+    }
+
     void VergissBeschreibbares() {
         for (const Speicherbereich bereich : AlleSpeicherbereiche)
             for (const Parameter& parameter : ParameterMit(bereich, IstSchreibbar))
@@ -400,6 +405,14 @@ TEST_F(LesevorgangMitWiederholungTest,
             LiesMitDoppelter(0, {});
             EXPECT_EQ(GanzesAbbild() == richtig, true) << "reply " << welche << " after " << ms << " ms";
         }
+}
+
+TEST_F(LesevorgangMitWiederholungTest, The_channel_is_selected_again_before_what_belongs_to_it_is_asked_again) {
+    LiesMitDoppelter(0, {});
+    EXPECT_EQ(Kanalauswahlen(), 1);
+    geraet.geschrieben.clear();
+    LiesMitDoppelter(Lesungen - 1, std::chrono::milliseconds(10)); // its selection is certain by then
+    EXPECT_EQ(Kanalauswahlen(), 2);
 }
 
 TEST_F(LesevorgangMitWiederholungTest, A_read_and_the_parts_behind_it_are_the_requests_alone_at_their_times) {

@@ -1,0 +1,137 @@
+#include "allefenster.h"
+
+#include "frmBericht.h"
+#include "frmBlankingmuster.h"
+#include "frmDocument.h"
+#include "frmEinzelwerteLesenSchreiben.h"
+#include "frmHilfe.h"
+#include "frmHoleLichtleistenInfo.h"
+#include "frmIdentifikationsAnforderung.h"
+#include "frmInfo.h"
+#include "frmInitHardware.h"
+#include "frmKeinKonturAngeschlossen.h"
+#include "frmKonfigurationEdit.h"
+#include "frmKonfigurationLesenAusHardware.h"
+#include "frmKonfigurationSchreibenInHardware.h"
+#include "frmRegisterliste.h"
+#include "frmReihenfolge.h"
+#include "frmResetHardware.h"
+#include "frmSicherungen.h"
+#include "frmSimulation.h"
+#include "frmSplash.h"
+#include "frmStrahlenBestimmen.h"
+#include "frmVergleich.h"
+#include "pruefsicherungen.h"
+#include "standardkonfiguration.h"
+#include "vergleichsanbieter.h"
+
+namespace varnoth::pruefung {
+
+namespace {
+
+/// A window together with what must outlive it.
+template<class Fenster, class... Umfeld>
+class MitUmfeld : private std::tuple<Umfeld...>, public Fenster {
+public:
+    template<class... Argumente>
+    explicit MitUmfeld(Argumente&&... argumente)
+        : Fenster(std::get<Umfeld>(*this)..., std::forward<Argumente>(argumente)...) {}
+};
+
+struct Anbieter : Vergleichsanbieter {
+    std::vector<Vergleichsquelle> Fragbare() override { return {Vergleichsquelle::Datei}; }
+    void Verlange(Vergleichsquelle, Seitenwahl) override {}
+    void SpeichereText(const std::string&) override {}
+};
+
+struct EineSicherung : PruefSicherungen {
+    EineSicherung() {
+        Lege(Standardkonfiguration(), {.zeit = {},
+                                       .anlass = Sicherungsanlass::VorDemSchreiben,
+                                       .seriennummer = TextMitTags,
+                                       .softwareversion = TextMitTags,
+                                       .strahlen = TextMitTags,
+                                       .programm = TextMitTags});
+    }
+};
+
+template<class Fenster>
+std::unique_ptr<QWidget> Einfach() {
+    return std::make_unique<Fenster>();
+}
+
+std::unique_ptr<QWidget> Bericht() {
+    const std::string boese = TextMitTags;
+    return std::make_unique<frmBericht>(Berichtsumfeld{
+        .angaben =
+            [boese] { return Berichtsangaben{.quelle = boese, .geraetename = boese, .copyright = boese}; },
+        .name = boese,
+        .drucker = [] { return QStringList(); }});
+}
+
+std::unique_ptr<QWidget> Blankingmuster() {
+    auto fenster = std::make_unique<frmBlankingmuster>();
+    fenster->InitFormBlankingmuster(0);
+    return fenster;
+}
+
+std::unique_ptr<QWidget> Ansicht() {
+    auto fenster = std::make_unique<frmDocument>(0);
+    fenster->InitfrmDocument();
+    return fenster;
+}
+
+std::unique_ptr<QWidget> Editor() {
+    auto fenster = std::make_unique<frmKonfigurationEdit>();
+    fenster->InitKonfiguration({.zeigeUebertrageneWerte = true});
+    return fenster;
+}
+
+std::unique_ptr<QWidget> Registerliste() {
+    const std::string boese = TextMitTags;
+    const Registerzeile zeile{{}, boese, boese, boese, boese, boese};
+    return std::make_unique<frmRegisterliste>(
+        Registerbefund{boese, boese, boese, boese, {100, zeile}, boese});
+}
+
+std::unique_ptr<QWidget> Sicherungsfenster() {
+    return std::make_unique<MitUmfeld<frmSicherungen, EineSicherung>>(Sicherungsbefehle{});
+}
+
+std::unique_ptr<QWidget> Vergleich() {
+    auto fenster = std::make_unique<MitUmfeld<frmVergleich, Anbieter>>();
+    fenster->Setze(Seitenwahl::A,
+                   {Vergleichsquelle::Datei, std::string("/") + TextMitTags, Standardkonfiguration(), {}});
+    return fenster;
+}
+
+} // namespace
+
+const std::vector<Fensterprobe>& AlleFenster() {
+    static const std::vector<Fensterprobe> alle{
+        {"frmBericht", Bericht},
+        {"frmBlankingmuster", Blankingmuster},
+        {"frmDocument", Ansicht},
+        {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
+        {"frmHilfe", Einfach<frmHilfe>},
+        {"frmHoleLichtleistenInfo", Einfach<frmHoleLichtleistenInfo>},
+        {"frmIdentifikationsAnforderung", Einfach<frmIdentifikationsAnforderung>},
+        {"frmInfo", [] { return std::make_unique<frmInfo>(nullptr); }},
+        {"frmInitHardware", Einfach<frmInitHardware>},
+        {"frmKeinKonturAngeschlossen", Einfach<frmKeinKonturAngeschlossen>},
+        {"frmKonfigurationEdit", Editor},
+        {"frmKonfigurationLesenAusHardware", Einfach<frmKonfigurationLesenAusHardware>},
+        {"frmKonfigurationSchreibenInHardware", Einfach<frmKonfigurationSchreibenInHardware>},
+        {"frmRegisterliste", Registerliste},
+        {"frmReihenfolge", Einfach<frmReihenfolge>},
+        {"frmResetHardware", Einfach<frmResetHardware>},
+        {"frmSicherungen", Sicherungsfenster},
+        {"frmSimulation", Einfach<frmSimulation>},
+        {"frmSplash", Einfach<frmSplash>},
+        {"frmStrahlenBestimmen", Einfach<frmStrahlenBestimmen>},
+        {"frmVergleich", Vergleich},
+    };
+    return alle;
+}
+
+} // namespace varnoth::pruefung
