@@ -56,7 +56,7 @@ Zeit Leitungstakt::Antwortzeit() const {
 }
 
 bool Leitungstakt::KamSpaet() const {
-    return empfangen > 0 && gesehene == Bewaehrung && Antwortzeit() > 2 * uebliche + Spielraum;
+    return gesehene == Bewaehrung && Antwortzeit() > 2 * uebliche + Spielraum;
 }
 
 /// What comes late counts only when it stays so.

@@ -45,8 +45,10 @@ Optionen LiesOptionen(int anzahl, char** worte) {
 }
 
 void Drucke(const Probezahlen& zahlen, const Optionen& optionen) {
-    std::cout << "exchanges " << zahlen.austausche << ", seed " << optionen.startwert << ", faults "
-              << zahlen.fehler << " (";
+    std::cout << "exchanges " << zahlen.austausche << ", seed " << optionen.startwert;
+    if (optionen.gemischt > 0)
+        std::cout << ", all kinds at " << optionen.gemischt << " of 1000 replies";
+    std::cout << ", faults " << zahlen.fehler << " (";
     const char* trenner = "";
     for (const auto& [art, anzahl] : zahlen.fehlerarten) {
         std::cout << trenner << art << ' ' << anzahl;

@@ -1,4 +1,6 @@
+#include "austausch.h"
 #include "pruefgeraet.h"
+#include "rahmen.h"
 #include "schnittstelle.h"
 #include "startzustand.h"
 #include "transaktionen.h"
@@ -67,6 +69,12 @@ protected:
         return RTUModeH03LeseAnforderung(adresse, anzahl, werte);
     }
     long Fragen() const { return std::ranges::count_if(port.gesendet, IstFrage); }
+    /// The line does not become quiet for so long.
+    void Rede(Zeit dauer) {
+        port.eingang = "U";
+        for (auto wann = umgebung.uhr; wann < umgebung.uhr + dauer; wann += 10ms)
+            umgebung.Plane(wann, [this] { port.eingang += 'U'; });
+    }
     /// A read whose reply comes half a second after its time-out.
     void LasseLeseantwortOffen(std::uint16_t adresse, std::uint16_t anzahl = Anzahl) {
         verspaetete[Nummer() + 1] = 1500ms;
@@ -238,13 +246,34 @@ TEST_F(VerwechslungTest, A_second_answer_to_the_question_does_not_disturb_the_re
 
 TEST_F(VerwechslungTest, A_line_that_never_falls_quiet_holds_a_request_up_for_a_second) {
     EXPECT_EQ(Lies(100, 1), True);
-    port.eingang = "U";
-    for (auto wann = umgebung.uhr; wann < umgebung.uhr + 5s; wann += 10ms)
-        umgebung.Plane(wann, [this] { port.eingang += 'U'; });
+    Rede(5s);
     const Zeit davor = umgebung.uhr;
     WaehleOptikteil(0);
     EXPECT_GE(port.sendezeiten.back() - davor, 1000ms);
     EXPECT_LE(port.sendezeiten.back() - davor, 1020ms);
+}
+
+TEST_F(VerwechslungTest, A_controller_that_talks_is_told_to_stop_and_one_that_is_quiet_is_not) {
+    verlorene[1] = true;
+    EXPECT_EQ(Lies(100, 1), False);
+    BeruhigeGeraet();
+    EXPECT_EQ(port.gesendet.size(), 1U);
+    Rede(5s);
+    WaehleOptikteil(0);
+    EXPECT_TRUE(modAustausch::IstUnruhig());
+    BeruhigeGeraet();
+    EXPECT_EQ(port.gesendet.back(), SchreibAnforderung(1, 0x4084, 1, {4}));
+    EXPECT_EQ(port.gesendet.size(), 3U);
+}
+
+TEST_F(VerwechslungTest, A_controller_that_is_not_identified_is_not_told_to_stop_talking) {
+    Rede(5s);
+    IdentReset();
+    WaehleOptikteil(0);
+    EXPECT_TRUE(modAustausch::IstUnruhig());
+    const std::size_t bisher = port.gesendet.size();
+    BeruhigeGeraet();
+    EXPECT_EQ(port.gesendet.size(), bisher);
 }
 
 TEST_F(VerwechslungTest, What_is_open_stays_open_when_the_port_is_opened_anew) {

@@ -370,6 +370,10 @@ TEST_F(WiederholungTest, The_identifications_end_ten_steps_after_the_disturbance
     EXPECT_LE(Kennungen(), Schrittfolge::Wachdauer + 3);
 }
 
+TEST_F(WiederholungTest, The_answer_that_settles_is_asked_for_at_once_where_there_was_no_break) {
+    EXPECT_EQ(port.sendezeiten.at(1) - port.sendezeiten.at(0), 5ms + modSchnittstelle::Ruhezeit + 2ms);
+}
+
 TEST_F(WiederholungTest, Nothing_is_certain_while_the_answer_to_the_identification_does_not_come_first) {
     Wiederhole(2, 2, 60ms);
     Lies(0);

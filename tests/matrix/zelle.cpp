@@ -47,6 +47,9 @@ constexpr Ausnahme Ausnahmen[] = {
     {"editor", "stray bytes", Wirkung::Keine},
     // Whatever address answers is the controller's.
     {"editor", "wrong address", Wirkung::Keine},
+    // The answer to an identification may come twice.
+    {"identification", "repeat all", Wirkung::Keine},
+    {"reset", "repeat all", Wirkung::Keine},
     // What comes behind a reply disturbs the next one, and these do not try that again or cannot.
     {"single reg", "surplus bytes", Wirkung::Anhaltend},
     {"factory data", "surplus bytes", Wirkung::Anhaltend},
