@@ -23,6 +23,7 @@ constexpr std::int16_t TextAnzahl = 9824;
 constexpr std::int16_t TextNichtGeloescht = 9825;
 constexpr std::int16_t TextEine = 9891;
 
+constexpr int Zwischenraum = 2; // average characters between two columns
 constexpr int Pfadrolle = Qt::UserRole;
 
 } // namespace
@@ -71,8 +72,11 @@ void frmSicherungen::Fuelle() {
     ui->lstSicherungen->clear();
     for (const auto& [nummer, gruppe] : NachGeraet(gezeigte))
         FuegeGruppe(Gruppenname(nummer), gruppe, pfad);
-    for (int spalte = 0; spalte < ui->lstSicherungen->columnCount(); ++spalte)
+    const int zwischenraum = Zwischenraum * fontMetrics().averageCharWidth();
+    for (int spalte = 0; spalte < ui->lstSicherungen->columnCount(); ++spalte) {
         ui->lstSicherungen->resizeColumnToContents(spalte);
+        ui->lstSicherungen->setColumnWidth(spalte, ui->lstSicherungen->columnWidth(spalte) + zwischenraum);
+    }
     ui->lblAnzahl->setText(QString::fromStdString(
         gezeigte.empty() ? LadeText(TextKeine)
                          : LadeAnzahltext(TextEine, TextAnzahl, static_cast<int>(gezeigte.size()))));

@@ -13,6 +13,7 @@ namespace {
 constexpr int SpalteLinks = 2;
 constexpr int SpalteRechts = 3;
 constexpr int BreitesteSpalte = 30; // average characters
+constexpr int Zwischenraum = 2;     // the same
 
 QTreeWidgetItem* Eintrag(const Registerzeile& zeile) {
     auto* const eintrag = new QTreeWidgetItem;
@@ -46,10 +47,12 @@ void frmRegisterliste::Fuelle(const Registerbefund& befund) {
     ui->lstRegister->headerItem()->setText(SpalteRechts, QString::fromStdString(befund.rechts));
     for (const Registerzeile& zeile : befund.zeilen)
         ui->lstRegister->addTopLevelItem(Eintrag(zeile));
-    const int breiteste = BreitesteSpalte * fontMetrics().averageCharWidth();
+    const int zeichen = fontMetrics().averageCharWidth();
     for (int spalte = 0; spalte < ui->lstRegister->columnCount(); ++spalte) {
         ui->lstRegister->resizeColumnToContents(spalte);
-        ui->lstRegister->setColumnWidth(spalte, std::min(ui->lstRegister->columnWidth(spalte), breiteste));
+        ui->lstRegister->setColumnWidth(
+            spalte, std::min(ui->lstRegister->columnWidth(spalte), BreitesteSpalte * zeichen) +
+                        Zwischenraum * zeichen);
     }
     ui->lstRegister->setVisible(!befund.zeilen.empty());
     ui->cmdWeiter->setText(QString::fromStdString(befund.weiter));
