@@ -8,6 +8,7 @@
 #include "tipptext.h"
 #include "ui_frmSicherungen.h"
 #include "umgebung.h"
+#include "zeilenhoehe.h"
 #include "zeittext.h"
 
 #include <algorithm>
@@ -32,6 +33,7 @@ frmSicherungen::frmSicherungen(Sicherungen& sicherungen, Sicherungsbefehle die, 
     : QDialog(parent), ui(std::make_unique<Ui::frmSicherungen>()), bestand(sicherungen),
       befehle(std::move(die)) {
     ui->setupUi(this);
+    GibZeilenLuft(*ui->lstSicherungen);
     ui->cmdVergleichen->setVisible(static_cast<bool>(befehle.vergleiche));
     connect(ui->lstSicherungen, &QTreeWidget::itemSelectionChanged, this, [this] { ZeigeAuswahl(); });
     connect(ui->lstSicherungen, &QTreeWidget::itemDoubleClicked, this, [this] {
@@ -73,7 +75,7 @@ void frmSicherungen::Fuelle() {
     for (const auto& [nummer, gruppe] : NachGeraet(gezeigte))
         FuegeGruppe(Gruppenname(nummer), gruppe, pfad);
     const int zwischenraum = Zwischenraum * fontMetrics().averageCharWidth();
-    for (int spalte = 0; spalte < ui->lstSicherungen->columnCount(); ++spalte) {
+    for (int spalte = 0; spalte + 1 < ui->lstSicherungen->columnCount(); ++spalte) { // the last has the rest
         ui->lstSicherungen->resizeColumnToContents(spalte);
         ui->lstSicherungen->setColumnWidth(spalte, ui->lstSicherungen->columnWidth(spalte) + zwischenraum);
     }

@@ -3,6 +3,7 @@
 #include "lokalisiereform.h"
 #include "tipptext.h"
 #include "ui_frmRegisterliste.h"
+#include "zeilenhoehe.h"
 
 #include <algorithm>
 
@@ -31,6 +32,7 @@ QTreeWidgetItem* Eintrag(const Registerzeile& zeile) {
 frmRegisterliste::frmRegisterliste(const Registerbefund& befund, QWidget* parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmRegisterliste>()) {
     ui->setupUi(this);
+    GibZeilenLuft(*ui->lstRegister);
     LokalisiereForm(*this);
     Fuelle(befund);
     connect(ui->cmdWeiter, &QPushButton::clicked, this, &QDialog::accept);
@@ -48,7 +50,7 @@ void frmRegisterliste::Fuelle(const Registerbefund& befund) {
     for (const Registerzeile& zeile : befund.zeilen)
         ui->lstRegister->addTopLevelItem(Eintrag(zeile));
     const int zeichen = fontMetrics().averageCharWidth();
-    for (int spalte = 0; spalte < ui->lstRegister->columnCount(); ++spalte) {
+    for (int spalte = 0; spalte + 1 < ui->lstRegister->columnCount(); ++spalte) { // the last has the rest
         ui->lstRegister->resizeColumnToContents(spalte);
         ui->lstRegister->setColumnWidth(
             spalte, std::min(ui->lstRegister->columnWidth(spalte), BreitesteSpalte * zeichen) +
