@@ -11,6 +11,7 @@
 #include "schnittstelle.h"
 #include "ui_frmKonfigurationEdit.h"
 #include "verlauf.h"
+#include "vorgabemarken.h"
 #include "zykluszeiten.h"
 
 #include <QButtonGroup>
@@ -141,6 +142,8 @@ void frmKonfigurationEdit::VerfolgeAenderungen() {
             connect(knopf, &QAbstractButton::clicked, verlauf, merke);
     for (const QLineEdit* const feld : findChildren<QLineEdit*>())
         connect(feld, &QLineEdit::editingFinished, verlauf, merke);
+    for (const Vorgabemarken* const marken : findChildren<Vorgabemarken*>())
+        connect(marken, &Vorgabemarken::Zurueckgestellt, verlauf, merke);
 }
 
 /// The image as it would be if the dialog were applied now. The one in use is put back as it was.
@@ -171,6 +174,8 @@ void frmKonfigurationEdit::StelleHer(const QVariantMap& stand) {
     }
     StelleEingabestandHer(*this, stand);
     ui->picOptions_5->FolgeArt();
+    for (Vorgabemarken* const marken : findChildren<Vorgabemarken*>())
+        marken->Aktualisiere();
     gemerktes = Geschriebenes();
 }
 

@@ -2,6 +2,7 @@
 
 #include "texte.h"
 #include "textmitwerten.h"
+#include "zeilenhoehe.h"
 
 #include <QBoxLayout>
 #include <QDialog>
@@ -33,6 +34,7 @@ QMenu* Liste(QToolButton& knopf, QUndoStack& stapel) {
     ansicht->setObjectName("lstVerlauf");
     ansicht->setEmptyLabel(Text(TextAnfang));
     ansicht->setMinimumSize(Listengroesse);
+    GibZeilenLuft(*ansicht);
     auto* const menue = new QMenu(&knopf);
     auto* const eintrag = new QWidgetAction(menue);
     eintrag->setDefaultWidget(ansicht);

@@ -91,6 +91,7 @@ void Vorgabemarken::ZeigeMenue(const Marke& marke, QPoint wo) {
     connect(zurueck, &QAction::triggered, this, [this, nummer = marke.vorgabe] {
         vorgaben[nummer].stelleZurueck();
         Aktualisiere();
+        emit Zurueckgestellt();
     });
     menue->popup(wo);
 }

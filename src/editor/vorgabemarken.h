@@ -14,6 +14,8 @@ class Abweichungsmarke;
 /// in the tool tip and for a screen reader. The context menu of a control leads back to the default. What is
 /// disabled is not marked.
 class Vorgabemarken : public QObject {
+    Q_OBJECT
+
 public:
     explicit Vorgabemarken(QObject* eltern);
 
@@ -24,6 +26,10 @@ public:
 
 protected:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
+signals:
+    /// The user has gone back to the default of a setting.
+    void Zurueckgestellt();
 
 private:
     struct Marke {

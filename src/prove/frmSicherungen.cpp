@@ -8,6 +8,7 @@
 #include "tipptext.h"
 #include "ui_frmSicherungen.h"
 #include "umgebung.h"
+#include "zeilenhoehe.h"
 #include "zeittext.h"
 
 #include <algorithm>
@@ -23,6 +24,7 @@ constexpr std::int16_t TextAnzahl = 9824;
 constexpr std::int16_t TextNichtGeloescht = 9825;
 constexpr std::int16_t TextEine = 9891;
 
+constexpr int Zwischenraum = 2; // average characters between two columns
 constexpr int Pfadrolle = Qt::UserRole;
 
 } // namespace
@@ -31,6 +33,7 @@ frmSicherungen::frmSicherungen(Sicherungen& sicherungen, Sicherungsbefehle die, 
     : QDialog(parent), ui(std::make_unique<Ui::frmSicherungen>()), bestand(sicherungen),
       befehle(std::move(die)) {
     ui->setupUi(this);
+    GibZeilenLuft(*ui->lstSicherungen);
     ui->cmdVergleichen->setVisible(static_cast<bool>(befehle.vergleiche));
     connect(ui->lstSicherungen, &QTreeWidget::itemSelectionChanged, this, [this] { ZeigeAuswahl(); });
     connect(ui->lstSicherungen, &QTreeWidget::itemDoubleClicked, this, [this] {
@@ -71,8 +74,11 @@ void frmSicherungen::Fuelle() {
     ui->lstSicherungen->clear();
     for (const auto& [nummer, gruppe] : NachGeraet(gezeigte))
         FuegeGruppe(Gruppenname(nummer), gruppe, pfad);
-    for (int spalte = 0; spalte < ui->lstSicherungen->columnCount(); ++spalte)
+    const int zwischenraum = Zwischenraum * fontMetrics().averageCharWidth();
+    for (int spalte = 0; spalte + 1 < ui->lstSicherungen->columnCount(); ++spalte) { // the last has the rest
         ui->lstSicherungen->resizeColumnToContents(spalte);
+        ui->lstSicherungen->setColumnWidth(spalte, ui->lstSicherungen->columnWidth(spalte) + zwischenraum);
+    }
     ui->lblAnzahl->setText(QString::fromStdString(
         gezeigte.empty() ? LadeText(TextKeine)
                          : LadeAnzahltext(TextEine, TextAnzahl, static_cast<int>(gezeigte.size()))));

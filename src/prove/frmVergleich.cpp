@@ -12,6 +12,7 @@
 #include "umgebung.h"
 #include "vergleichsanbieter.h"
 #include "vergleichsdruck.h"
+#include "zeilenhoehe.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -66,6 +67,7 @@ std::string Zeilentext(const Vergleichsworte& zeile) {
 frmVergleich::frmVergleich(Vergleichsanbieter& der)
     : ui(std::make_unique<Ui::frmVergleich>()), anbieter(der) {
     ui->setupUi(this);
+    GibZeilenLuft(*ui->trvVergleich);
     StellePlatzHer();
     BemisSpalten();
     for (const Seitenwahl wahl : BeideSeiten)

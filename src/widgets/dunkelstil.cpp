@@ -2,6 +2,7 @@
 
 #include "darstellung.h"
 
+#include <QAbstractItemView>
 #include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
@@ -22,6 +23,11 @@ constexpr QStyle::ControlElement TeileMitRand[] = {QStyle::CE_ProgressBarGroove,
 constexpr QStyle::ComplexControl GanzeMitRand[] = {QStyle::CC_ComboBox, QStyle::CC_SpinBox};
 constexpr float Zurueckhaltend = 0.45F;
 constexpr int LueckeUnterTitel = 3; // between the title of a group box and its frame
+
+/// A list or tree is as dark as what it lies on.
+bool IstListe(QStyle::PrimitiveElement element, const QWidget* widget) {
+    return element == QStyle::PE_Frame && qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+}
 
 bool Enthaelt(const auto& liste, auto element) {
     return std::ranges::find(liste, element) != std::ranges::end(liste);
@@ -73,7 +79,8 @@ QStyleOptionTitleBar MitHellenZeichen(const QStyleOptionTitleBar& leiste) {
 void Dunkelstil::drawPrimitive(PrimitiveElement element, const QStyleOption* vorgabe, QPainter* maler,
                                const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, vorgabe, maler, widget);
-    if (Enthaelt(ImmerMitRand, element) || (IstHoherKontrast(vorgabe->palette) && Enthaelt(MitRand, element)))
+    const bool nurHoch = Enthaelt(MitRand, element) || IstListe(element, widget);
+    if (Enthaelt(ImmerMitRand, element) || (IstHoherKontrast(vorgabe->palette) && nurHoch))
         Umrande(*maler, *vorgabe, Rahmen(element, *vorgabe, widget), element == PE_IndicatorRadioButton);
 }
 

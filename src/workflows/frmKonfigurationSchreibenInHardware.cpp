@@ -25,6 +25,8 @@ constexpr std::int16_t TextGespeichert = 9170;
 constexpr std::int16_t TextNichtGespeichert = 9171;
 constexpr std::int16_t TextEinesGespeichert = 9900;
 constexpr std::int16_t TextEinesNichtGespeichert = 9901;
+constexpr std::int16_t TextGeprueftGespeichert = 9905;
+constexpr std::int16_t TextGeprueftNichtGespeichert = 9906;
 constexpr std::int16_t TextSicherungMisslungen = 9763;
 constexpr std::int16_t TextWirdGesichert = 9764;
 constexpr std::int16_t TextNichtsZuSichern = 9765;
@@ -32,18 +34,20 @@ constexpr std::int16_t TextNichtsZuSichern = 9765;
 constexpr const char* Abschnitt = "frmKonfigurationSchreibenInHardware";
 constexpr const char* Schluessel = "chkPruefen";
 
+std::string Schreibsatz(const Schreibergebnis& ergebnis, bool dauerhaft, const std::string& wann) {
+    if (ergebnis.pruefung)
+        return wann + ": " + Pruefsatz(*ergebnis.pruefung) + " " +
+               LadeText(dauerhaft ? TextGeprueftGespeichert : TextGeprueftNichtGespeichert);
+    const int anzahl = AnzahlRegister(ergebnis.auftrag.stellen);
+    if (anzahl == 1)
+        return LadeTextMit(dauerhaft ? TextEinesGespeichert : TextEinesNichtGespeichert, {"1", wann});
+    return LadeTextMit(dauerhaft ? TextGespeichert : TextNichtGespeichert, {wann, std::to_string(anzahl)});
+}
+
 /// The status bar says what was written, and when: the dialog closes by itself.
 void MeldeErfolg(const Schreibergebnis& ergebnis, Ablage ablage) {
     const std::string wann = QTime::currentTime().toString(QStringLiteral("hh:mm")).toStdString();
-    const bool dauerhaft = ablage == Ablage::Dauerhaft;
-    const int anzahl = AnzahlRegister(ergebnis.auftrag.stellen);
-    std::string text =
-        anzahl == 1
-            ? LadeTextMit(dauerhaft ? TextEinesGespeichert : TextEinesNichtGespeichert, {"1", wann})
-            : LadeTextMit(dauerhaft ? TextGespeichert : TextNichtGespeichert, {wann, std::to_string(anzahl)});
-    if (ergebnis.pruefung)
-        text = wann + ": " + Pruefsatz(*ergebnis.pruefung) + " " + text.substr(text.find(": ") + 2);
-    DieUmgebung().ZeigeStatustext(FeldMeldungen, text);
+    DieUmgebung().ZeigeStatustext(FeldMeldungen, Schreibsatz(ergebnis, ablage == Ablage::Dauerhaft, wann));
 }
 
 bool WillTrotzdemSchreiben(const std::string& fehlertext) {

@@ -3,6 +3,7 @@
 #include "lokalisiereform.h"
 #include "tipptext.h"
 #include "ui_frmRegisterliste.h"
+#include "zeilenhoehe.h"
 
 #include <algorithm>
 
@@ -13,6 +14,7 @@ namespace {
 constexpr int SpalteLinks = 2;
 constexpr int SpalteRechts = 3;
 constexpr int BreitesteSpalte = 30; // average characters
+constexpr int Zwischenraum = 2;     // the same
 
 QTreeWidgetItem* Eintrag(const Registerzeile& zeile) {
     auto* const eintrag = new QTreeWidgetItem;
@@ -30,6 +32,7 @@ QTreeWidgetItem* Eintrag(const Registerzeile& zeile) {
 frmRegisterliste::frmRegisterliste(const Registerbefund& befund, QWidget* parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmRegisterliste>()) {
     ui->setupUi(this);
+    GibZeilenLuft(*ui->lstRegister);
     LokalisiereForm(*this);
     Fuelle(befund);
     connect(ui->cmdWeiter, &QPushButton::clicked, this, &QDialog::accept);
@@ -46,10 +49,12 @@ void frmRegisterliste::Fuelle(const Registerbefund& befund) {
     ui->lstRegister->headerItem()->setText(SpalteRechts, QString::fromStdString(befund.rechts));
     for (const Registerzeile& zeile : befund.zeilen)
         ui->lstRegister->addTopLevelItem(Eintrag(zeile));
-    const int breiteste = BreitesteSpalte * fontMetrics().averageCharWidth();
-    for (int spalte = 0; spalte < ui->lstRegister->columnCount(); ++spalte) {
+    const int zeichen = fontMetrics().averageCharWidth();
+    for (int spalte = 0; spalte + 1 < ui->lstRegister->columnCount(); ++spalte) { // the last has the rest
         ui->lstRegister->resizeColumnToContents(spalte);
-        ui->lstRegister->setColumnWidth(spalte, std::min(ui->lstRegister->columnWidth(spalte), breiteste));
+        ui->lstRegister->setColumnWidth(
+            spalte, std::min(ui->lstRegister->columnWidth(spalte), BreitesteSpalte * zeichen) +
+                        Zwischenraum * zeichen);
     }
     ui->lstRegister->setVisible(!befund.zeilen.empty());
     ui->cmdWeiter->setText(QString::fromStdString(befund.weiter));

@@ -30,7 +30,8 @@ protected:
     }
 };
 
-TEST_F(BerichtImBetrieb, It_names_the_controller_and_the_state_of_each_part_with_the_time_and_live_data_goes_on) {
+TEST_F(BerichtImBetrieb,
+       It_names_the_controller_and_the_state_of_each_part_with_the_time_and_live_data_goes_on) {
     GeheLive({"--beams", "32,16,0,0"});
     const std::string html = Bericht();
     EXPECT_THAT(html, HasSubstr("Steuergerät, gelesen am "));
@@ -42,7 +43,8 @@ TEST_F(BerichtImBetrieb, It_names_the_controller_and_the_state_of_each_part_with
     EXPECT_THAT(Meldungen(), IsEmpty());
 }
 
-TEST_F(BerichtImBetrieb, About_another_configuration_than_the_controller_s_it_says_nothing_of_the_controller) {
+TEST_F(BerichtImBetrieb,
+       About_another_configuration_than_the_controller_s_it_says_nothing_of_the_controller) {
     GeheLive({"--beams", "32,16,0,0"});
     ASSERT_TRUE(modDaten::SetzeRegister(Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit, 77));
     const std::string html = Bericht();

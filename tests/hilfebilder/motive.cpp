@@ -12,11 +12,15 @@
 #include "frmKonfigurationSchreibenInHardware.h"
 #include "frmReihenfolge.h"
 #include "frmResetHardware.h"
+#include "frmSicherungen.h"
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
+#include "frmVergleich.h"
+#include "pruefsicherungen.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "servicetext.h"
+#include "vergleichsanbieter.h"
 
 #include <QLineEdit>
 #include <QLocale>
@@ -24,6 +28,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTreeWidget>
+
+#include <tuple>
 
 namespace varnoth::hilfebilder {
 
@@ -36,6 +43,8 @@ constexpr Zeit MittenImLesen = milliseconds(300);
 constexpr Zeit MittenImSchreiben = milliseconds(300);
 constexpr QSize Ansichtsgroesse(480, 380);
 constexpr QSize Blankinggroesse(520, 560);
+constexpr QSize Listengroesse(680, 260);
+constexpr QSize Vergleichsgroesse(840, 400);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
 constexpr int SeiteK1 = 1;
@@ -131,6 +140,54 @@ QImage Rechner(Buehne& buehne) {
     return buehne.BildNach(dialog, Sofort).scaledToWidth(Seitenbreite, Qt::SmoothTransformation);
 }
 
+Sicherung EineSicherung(int tag, Sicherungsanlass anlass) {
+    return {"/home/varnoth/" + std::to_string(tag) + ".con",
+            {.zeit = std::chrono::sys_days{std::chrono::year{2026} / 3 / tag} + std::chrono::hours(13),
+             .anlass = anlass,
+             .seriennummer = "SIM-0001",
+             .strahlen = "32, 64, 128, 288",
+             .programm = "1.0.0"}};
+}
+
+/// Two that were made on other days, the newer one like what is being edited.
+QImage AlleSicherungen(Buehne& buehne) {
+    pruefung::PruefSicherungen sicherungen;
+    const Abbild jetzt = modDaten::DasAbbild();
+    Abbild andere = jetzt;
+    static_cast<void>(
+        andere.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Reichweite, 5));
+    sicherungen.gelegte = {{EineSicherung(17, Sicherungsanlass::VorDemSchreiben), jetzt},
+                           {EineSicherung(5, Sicherungsanlass::VorDemOeffnen), andere}};
+    frmSicherungen fenster(sicherungen, {.oeffne = [](const Sicherung&) {},
+                                         .speichere = [](const Sicherung&) {},
+                                         .vergleiche = [](const Sicherung&) {}});
+    fenster.resize(Listengroesse);
+    auto& liste = Kind<QTreeWidget>(fenster, "lstSicherungen");
+    liste.setCurrentItem(liste.topLevelItem(0)->child(1));
+    return buehne.BildNach(fenster, Sofort);
+}
+
+struct Dateianbieter : Vergleichsanbieter {
+    std::vector<Vergleichsquelle> Fragbare() override { return {Vergleichsquelle::Datei}; }
+    void Verlange(Vergleichsquelle /*quelle*/, Seitenwahl /*seite*/) override {}
+    void SpeichereText(const std::string& /*text*/) override {}
+};
+
+/// A file beside what is being edited; three settings differ.
+QImage Vergleich(Buehne& buehne) {
+    Abbild datei = modDaten::DasAbbild();
+    for (const auto& [bereich, adresse, wert] :
+         {std::tuple{Speicherbereich::SpezifischeGeraetedaten, spezifisch::Reichweite, 5},
+          {Speicherbereich::SpezifischeGeraetedaten, spezifisch::Lochgroesse, 4},
+          {Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit, 250}})
+        static_cast<void>(datei.SetzeRegister(bereich, adresse, wert));
+    Dateianbieter anbieter;
+    frmVergleich fenster(anbieter);
+    fenster.Setze(Seitenwahl::A, {Vergleichsquelle::Datei, "/home/varnoth/line3.con", datei, {}});
+    fenster.resize(Vergleichsgroesse);
+    return buehne.BildNach(fenster, Sofort);
+}
+
 QImage Info(Buehne& buehne) {
     frmInfo dialog(nullptr);
     return buehne.BildNach(dialog, Sofort);
@@ -157,6 +214,8 @@ std::span<const Motiv> AlleMotive() {
         {"frmKeinKonturAngeschlossen", WieEsAufgeht<frmKeinKonturAngeschlossen>},
         {"frmStrahlenBestimmen", WieEsAufgeht<frmStrahlenBestimmen>},
         {"frmInfo", Info},
+        {"frmSicherungen", AlleSicherungen},
+        {"frmVergleich", Vergleich},
     };
     return motive;
 }

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QStyle>
@@ -117,6 +118,17 @@ TEST(Erscheinungsbild, With_high_contrast_buttons_and_fields_have_edges) {
             EXPECT_EQ(HatKante(element->grab().toImage(), 7), hoch) << element->metaObject()->className();
         }
     }
+}
+
+TEST(Erscheinungsbild, With_high_contrast_a_list_has_edges_and_a_plain_frame_has_none) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::HoherKontrast});
+    QListWidget liste;
+    QFrame rahmen;
+    rahmen.setFrameShape(QFrame::StyledPanel);
+    liste.resize(80, 40);
+    rahmen.resize(80, 40);
+    EXPECT_TRUE(HatKante(liste.grab().toImage(), 7));
+    EXPECT_FALSE(HatKante(rahmen.grab().toImage(), 7));
 }
 
 class DarstellungTest : public testing::Test {

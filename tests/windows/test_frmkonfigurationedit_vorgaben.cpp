@@ -9,12 +9,15 @@
 #include "zykluszeiten.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QRadioButton>
 #include <QToolTip>
+#include <QUndoStack>
+#include <QUndoView>
 
 namespace varnoth {
 
@@ -118,6 +121,27 @@ TEST_F(EditorvorgabenTest, The_context_menu_leads_back_to_the_default) {
     EXPECT_EQ(Markierte(), "");
     EXPECT_TRUE(K<QRadioButton>("optGruppenzählerUnd_0").isChecked());
     EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Reichweite), 5) << "not applied yet";
+}
+
+TEST_F(EditorvorgabenTest, Each_way_back_to_the_default_is_one_step_that_can_be_undone) {
+    Werte muster(32, 0);
+    muster[0] = 0x7C;
+    ASSERT_TRUE(modDaten::SetzeParameter(Spezifisch, spezifisch::Blankingmuster, muster));
+    Setze(Spezifisch, spezifisch::Reichweite, 5);
+    Setze(Kommunikation, kommunikation::Pausenzeit, 7);
+    K<QRadioButton>("optGruppenzählerOder_0").click();
+    K<QCheckBox>("chkStrahldatenMerken").click();
+    QUndoStack& schritte = *K<QUndoView>("lstVerlauf").stack();
+    for (const char* name : {"cboReichweite_0", "txtPausenzeit", "optGruppenzählerOder_0",
+                             "chkStrahldatenMerken", "cmdBlankingmuster_0"}) {
+        const int davor = schritte.count();
+        EXPECT_TRUE(StelleZurueck(name)) << name;
+        EXPECT_EQ(schritte.count(), davor + 1) << name;
+        EXPECT_FALSE(Markierte().contains(name)) << name;
+        schritte.undo();
+        EXPECT_TRUE(Markierte().contains(name)) << name;
+        schritte.redo();
+    }
 }
 
 TEST_F(EditorvorgabenTest, What_is_the_default_cannot_be_set_back) {

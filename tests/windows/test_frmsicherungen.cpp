@@ -11,6 +11,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -162,6 +163,16 @@ TEST_F(frmSicherungenTest, Deleting_asks_first_and_Enter_keeps_the_backup) {
     Waehle(fenster, 0, 0);
     Knopf(fenster, "cmdLoeschen").click();
     EXPECT_EQ(Anzahl(fenster), "1 Sicherung");
+}
+
+TEST_F(frmSicherungenTest, Rows_have_room_for_the_dots_of_capital_letters_and_need_no_scrolling_sideways) {
+    frmSicherungen fenster(sicherungen, Befehle());
+    fenster.resize(680, 300);
+    fenster.show();
+    EXPECT_TRUE(pruefung::WarteBis([&] { return Liste(fenster).viewport()->width() > 600; }));
+    const QTreeWidgetItem* const zeile = Liste(fenster).topLevelItem(0)->child(0);
+    EXPECT_GE(Liste(fenster).visualItemRect(zeile).height(), fenster.fontMetrics().height() + 4);
+    EXPECT_FALSE(Liste(fenster).horizontalScrollBar()->isVisible());
 }
 
 TEST_F(frmSicherungenTest, A_backup_that_cannot_be_deleted_is_said) {

@@ -360,6 +360,19 @@ TEST_F(frmVergleichTest, Another_language_changes_every_text) {
     EXPECT_EQ(Baum().headerItem()->text(3), "Register");
 }
 
+TEST_F(frmVergleichTest, Of_a_file_of_another_beam_count_the_settings_are_taken_over_and_the_count_is_not) {
+    Abbild andere = modDaten::DasAbbild();
+    ASSERT_TRUE(andere.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 48, 0));
+    ASSERT_TRUE(andere.SetzeRegister(Spezifisch, spezifisch::Reichweite, 2, 0));
+    Fenster().Setze(Seitenwahl::A, Datei(andere));
+    EXPECT_TRUE(Text("lblBefund").starts_with("2 Unterschiede."));
+    Druecke("cmdAlle");
+    Druecke("cmdUebernehmen");
+    EXPECT_EQ(modDaten::HoleRegister(Spezifisch, spezifisch::Reichweite, 0), 2);
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 32);
+    EXPECT_TRUE(Text("lblBefund").starts_with("1 Unterschied."));
+}
+
 TEST_F(frmVergleichTest, The_window_comes_back_where_it_was_closed) {
     Fenster().show();
     Fenster().setGeometry(40, 60, 0, 777);
