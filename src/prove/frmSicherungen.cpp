@@ -18,8 +18,6 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextLoeschen = 9822;
-constexpr std::int16_t TextKeine = 9823;
-constexpr std::int16_t TextAnzahl = 9824;
 constexpr std::int16_t TextNichtGeloescht = 9825;
 
 constexpr int Pfadrolle = Qt::UserRole;
@@ -72,8 +70,7 @@ void frmSicherungen::Fuelle() {
         FuegeGruppe(Gruppenname(nummer), gruppe, pfad);
     for (int spalte = 0; spalte < ui->lstSicherungen->columnCount(); ++spalte)
         ui->lstSicherungen->resizeColumnToContents(spalte);
-    ui->lblAnzahl->setText(QString::fromStdString(
-        gezeigte.empty() ? LadeText(TextKeine) : LadeTextMit(TextAnzahl, {std::to_string(gezeigte.size())})));
+    ui->lblAnzahl->setText(QString::fromStdString(Sicherungszahl(gezeigte.size())));
     ZeigeAuswahl();
 }
 

@@ -18,6 +18,10 @@ constexpr std::int16_t TextVorDemOeffnen = 9812;
 constexpr std::int16_t TextGeraet = 9813;
 constexpr std::int16_t TextOhneNummer = 9814;
 constexpr std::int16_t TextUnterschiede = 9815;
+constexpr std::int16_t TextEinUnterschied = 9941;
+constexpr std::int16_t TextKeineSicherung = 9823;
+constexpr std::int16_t TextEineSicherung = 9940;
+constexpr std::int16_t TextSicherungen = 9824;
 constexpr std::int16_t TextGleich = 9816;
 constexpr std::int16_t TextNichtLesbar = 9817;
 
@@ -59,7 +63,15 @@ std::string Unterschiedstext(const std::optional<Abbild>& sicherung, const Abbil
     if (!sicherung)
         return LadeText(TextNichtLesbar);
     const int anzahl = Vergleiche(*sicherung, jetzt).Unterschiede();
-    return anzahl == 0 ? LadeText(TextGleich) : LadeTextMit(TextUnterschiede, {std::to_string(anzahl)});
+    if (anzahl <= 1)
+        return LadeText(anzahl == 0 ? TextGleich : TextEinUnterschied);
+    return LadeTextMit(TextUnterschiede, {std::to_string(anzahl)});
+}
+
+std::string Sicherungszahl(std::size_t anzahl) {
+    if (anzahl <= 1)
+        return LadeText(anzahl == 0 ? TextKeineSicherung : TextEineSicherung);
+    return LadeTextMit(TextSicherungen, {std::to_string(anzahl)});
 }
 
 } // namespace varnoth

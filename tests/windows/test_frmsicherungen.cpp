@@ -67,6 +67,12 @@ TEST(Sicherungsliste, Differences_are_counted_and_what_cannot_be_read_is_not_cal
     EXPECT_EQ(Unterschiedstext(std::nullopt, jetzt), "nicht lesbar");
 }
 
+TEST(Sicherungsliste, None_one_and_many_have_words_of_their_own) {
+    EXPECT_EQ(Sicherungszahl(0), "Es gibt noch keine Sicherung.");
+    EXPECT_EQ(Sicherungszahl(1), "1 Sicherung");
+    EXPECT_EQ(Sicherungszahl(2), "2 Sicherungen");
+}
+
 class frmSicherungenTest : public testing::Test {
 protected:
     frmSicherungenTest() {
@@ -110,7 +116,7 @@ TEST_F(frmSicherungenTest, Backups_stand_below_their_controller_with_occasion_an
     ASSERT_EQ(gruppe.childCount(), 2);
     EXPECT_EQ(gruppe.child(0)->text(1), "vor dem Schreiben");
     EXPECT_EQ(gruppe.child(0)->text(2), "gleich");
-    EXPECT_EQ(gruppe.child(1)->text(2), "1 Einstellungen");
+    EXPECT_EQ(gruppe.child(1)->text(2), "1 Einstellung");
     EXPECT_EQ(gruppe.child(1)->text(3), "32, 0, 0, 0");
     EXPECT_EQ(Liste(fenster).topLevelItem(1)->text(0), "ohne Seriennummer");
     EXPECT_EQ(Anzahl(fenster), "3 Sicherungen");
