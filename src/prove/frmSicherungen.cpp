@@ -19,10 +19,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextLoeschen = 9822;
-constexpr std::int16_t TextKeine = 9823;
-constexpr std::int16_t TextAnzahl = 9824;
 constexpr std::int16_t TextNichtGeloescht = 9825;
-constexpr std::int16_t TextEine = 9891;
 
 constexpr int Zwischenraum = 2; // average characters between two columns
 constexpr int Pfadrolle = Qt::UserRole;
@@ -79,9 +76,7 @@ void frmSicherungen::Fuelle() {
         ui->lstSicherungen->resizeColumnToContents(spalte);
         ui->lstSicherungen->setColumnWidth(spalte, ui->lstSicherungen->columnWidth(spalte) + zwischenraum);
     }
-    ui->lblAnzahl->setText(QString::fromStdString(
-        gezeigte.empty() ? LadeText(TextKeine)
-                         : LadeAnzahltext(TextEine, TextAnzahl, static_cast<int>(gezeigte.size()))));
+    ui->lblAnzahl->setText(QString::fromStdString(Sicherungszahl(gezeigte.size())));
     ZeigeAuswahl();
 }
 

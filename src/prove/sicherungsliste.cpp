@@ -18,6 +18,9 @@ constexpr std::int16_t TextVorDemOeffnen = 9812;
 constexpr std::int16_t TextGeraet = 9813;
 constexpr std::int16_t TextOhneNummer = 9814;
 constexpr std::int16_t TextUnterschiede = 9815;
+constexpr std::int16_t TextKeineSicherung = 9823;
+constexpr std::int16_t TextEineSicherung = 9891;
+constexpr std::int16_t TextSicherungen = 9824;
 constexpr std::int16_t TextGleich = 9816;
 constexpr std::int16_t TextNichtLesbar = 9817;
 constexpr std::int16_t TextEinUnterschied = 9890;
@@ -61,6 +64,11 @@ std::string Unterschiedstext(const std::optional<Abbild>& sicherung, const Abbil
         return LadeText(TextNichtLesbar);
     const int anzahl = Vergleiche(*sicherung, jetzt).Unterschiede();
     return anzahl == 0 ? LadeText(TextGleich) : LadeAnzahltext(TextEinUnterschied, TextUnterschiede, anzahl);
+}
+
+std::string Sicherungszahl(std::size_t anzahl) {
+    return anzahl == 0 ? LadeText(TextKeineSicherung)
+                       : LadeAnzahltext(TextEineSicherung, TextSicherungen, static_cast<int>(anzahl));
 }
 
 } // namespace varnoth

@@ -26,4 +26,7 @@ std::string Anlasstext(const std::optional<Sicherungsanlass>& anlass);
 /// cannot be read, where it could not.
 std::string Unterschiedstext(const std::optional<Abbild>& sicherung, const Abbild& jetzt);
 
+/// How many backups there are, in the current language.
+std::string Sicherungszahl(std::size_t anzahl);
+
 } // namespace varnoth

@@ -45,6 +45,8 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"cmdVoriger", "zurueck"},
     {"cmdNaechster", "weiter"},
     {"cmdAlle", "ok"},
+    {"cmdAllesBlanking", "alle"},
+    {"cmdKeinBlanking", "keine"},
     {"cmdKopieren", "kopieren"},
     {"cmdPdf", "speichern"},
     {"cmdHtml", "speichern"},
@@ -52,6 +54,8 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"cmdTextImport", "oeffnen"},
     {"cmdSchliessen", "abbrechen"},
     {"frmInfo/Command1", "ok"},
+    {"frmReihenfolge/Command1", "davor"},
+    {"frmReihenfolge/Command2", "danach"},
     {"frmReihenfolge/Command3", "loeschen"},
 };
 

@@ -68,6 +68,12 @@ TEST(Sicherungsliste, Differences_are_counted_and_what_cannot_be_read_is_not_cal
     EXPECT_EQ(Unterschiedstext(std::nullopt, jetzt), "nicht lesbar");
 }
 
+TEST(Sicherungsliste, None_one_and_many_have_words_of_their_own) {
+    EXPECT_EQ(Sicherungszahl(0), "Es gibt noch keine Sicherung.");
+    EXPECT_EQ(Sicherungszahl(1), "1 Sicherung");
+    EXPECT_EQ(Sicherungszahl(2), "2 Sicherungen");
+}
+
 class frmSicherungenTest : public testing::Test {
 protected:
     frmSicherungenTest() {

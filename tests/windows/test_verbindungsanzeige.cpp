@@ -126,6 +126,28 @@ TEST_F(VerbindungsanzeigeTest, It_gets_narrow_where_room_is_short) {
     EXPECT_LT(zahlen.minimumSizeHint().width(), zustand.minimumSizeHint().width());
 }
 
+TEST_F(VerbindungsanzeigeTest, Its_sign_follows_the_state) {
+    const auto Zeichen = [this] { return Teil<QWidget>("symVerbindung").grab().toImage(); };
+    const QImage offline = Zeichen();
+    modPolling::StartePolling();
+    modModbus::RTUModeH11IndentifikationsAnforderung();
+    anzeige.Aktualisiere();
+    const QImage live = Zeichen();
+    EXPECT_NE(live, offline);
+    port.anschluss = {.simuliert = true};
+    anzeige.Aktualisiere();
+    EXPECT_NE(Zeichen(), live);
+}
+
+TEST_F(VerbindungsanzeigeTest, Live_waiting_stopped_and_simulated_have_colours_of_their_own) {
+    using enum Verbindungszustand;
+    std::set<QRgb> farben;
+    for (const auto zustand : {Live, Wartet, Offline})
+        farben.insert(Verbindungsfarbe(zustand, false).rgb());
+    farben.insert(Verbindungsfarbe(Live, true).rgb());
+    EXPECT_EQ(farben.size(), 4U);
+}
+
 TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {
     using enum Verbindungszustand;
     std::set<QByteArray> formen;

@@ -407,7 +407,8 @@ TEST_F(LesevorgangMitWiederholungTest,
         }
 }
 
-TEST_F(LesevorgangMitWiederholungTest, The_channel_is_selected_again_before_what_belongs_to_it_is_asked_again) {
+TEST_F(LesevorgangMitWiederholungTest,
+       The_channel_is_selected_again_before_what_belongs_to_it_is_asked_again) {
     LiesMitDoppelter(0, {});
     EXPECT_EQ(Kanalauswahlen(), 1);
     geraet.geschrieben.clear();
