@@ -129,7 +129,7 @@ bool EmpfangeUnterAnderem(Erkenner& erkenner) {
     constexpr Zeit Suchdauer = std::chrono::milliseconds(250);
     std::string strom;
     return ErwarteIdentAntwort(strom, DieUmgebung().Uhr() + Suchdauer) &&
-           erkenner.Verarbeite(zustand.letzteAntwort) && erkenner.Fertig() && erkenner.CrcStimmt();
+           erkenner.Verarbeite(zustand.letzteAntwort);
 }
 
 void WarteVorAnforderung(Zeit ruhe) {

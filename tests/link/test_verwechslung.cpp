@@ -253,6 +253,15 @@ TEST_F(VerwechslungTest, A_line_that_never_falls_quiet_holds_a_request_up_for_a_
     EXPECT_LE(port.sendezeiten.back() - davor, 1020ms);
 }
 
+TEST_F(VerwechslungTest, On_a_line_that_never_falls_quiet_an_identification_is_found_among_the_rest) {
+    Rede(10s);
+    verspaetete[1] = 150ms; // more stray bytes than a reply may begin with
+    EXPECT_EQ(RTUModeH11IndentifikationsAnforderung(), True);
+    EXPECT_EQ(GetIdentText2(), "4711");
+    verlorene[2] = true;
+    EXPECT_EQ(RTUModeH11IndentifikationsAnforderung(), False);
+}
+
 TEST_F(VerwechslungTest, A_controller_that_talks_is_told_to_stop_and_one_that_is_quiet_is_not) {
     verlorene[1] = true;
     EXPECT_EQ(Lies(100, 1), False);

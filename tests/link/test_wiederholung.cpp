@@ -370,6 +370,27 @@ TEST_F(WiederholungTest, The_identifications_end_ten_steps_after_the_disturbance
     EXPECT_LE(Kennungen(), Schrittfolge::Wachdauer + 3);
 }
 
+TEST_F(WiederholungTest, A_reply_that_comes_in_place_of_the_answer_that_settles_is_a_break) {
+    Wiederhole(2, 1, 60ms);
+    verlorene.insert(basis + 3);
+    Lies(0);
+    Lies(1);
+    const auto bruecheDavor = modAustausch::Brueche();
+    EXPECT_FALSE(modAustausch::Vergewissere());
+    EXPECT_EQ(modAustausch::Brueche(), bruecheDavor + 1);
+}
+
+TEST_F(WiederholungTest, A_byte_in_the_pause_before_the_question_that_settles_does_not_keep_it_back) {
+    Lies(0);
+    umgebung.Plane(umgebung.uhr + modSchnittstelle::Ruhezeit + 1ms, [this] { port.eingang += 'U'; });
+    EXPECT_TRUE(modAustausch::Vergewissere());
+}
+
+TEST_F(WiederholungTest, Nothing_is_settled_while_the_port_is_closed) {
+    modSchnittstelle::CloseCommPort();
+    EXPECT_FALSE(modAustausch::Vergewissere());
+}
+
 TEST_F(WiederholungTest, The_answer_that_settles_is_asked_for_at_once_where_there_was_no_break) {
     EXPECT_EQ(port.sendezeiten.at(1) - port.sendezeiten.at(0), 5ms + modSchnittstelle::Ruhezeit + 2ms);
 }
