@@ -156,6 +156,34 @@ TEST_F(SchreibenImBetrieb, A_broken_write_is_listed_and_what_was_before_is_writt
     EXPECT_EQ(alle[0].angaben.anlass, Sicherungsanlass::VorDemVerbinden);
 }
 
+TEST_F(SchreibenImBetrieb, In_English_a_broken_write_is_told_and_written_back_as_well) {
+    GeheLiveMitSpeicher();
+    ASSERT_TRUE(FuehreAus("mnuEnglisch"));
+    AendereFuenf();
+    Starte(false, [this] {
+        geraet->Befehl("fault late=0:30@0x10");
+        geraet->Befehl("fault silence@0x10");
+    });
+    BrichAbBeiVersuch(2);
+    std::string titel;
+    std::string weiter;
+    InFenster(Listenfenster, [&, this](QWidget& liste) {
+        titel = liste.windowTitle().toStdString();
+        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+        weiter = Kind<QAbstractButton>(liste, "cmdWeiter").text().toStdString();
+        geraet->Befehl("fault none");
+        Starte(true);
+        Klicke(liste, "cmdWeiter");
+    });
+    ASSERT_TRUE(Bearbeite());
+    EXPECT_EQ(titel, "Write cancelled");
+    EXPECT_THAT(befund, testing::StartsWith("The write was not completed. Registers: "));
+    EXPECT_EQ(weiter, "Write back what was there before...");
+    EXPECT_THAT(Statusfeld(1), HasSubstr("191 of 191 registers read back equal. Stored in the controller."));
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStart"));
+    EXPECT_EQ(Unterschiede(), 0) << "what was read after that";
+}
+
 TEST_F(SchreibenImBetrieb, A_backup_is_opened_from_the_window_of_backups) {
     GeheLiveMitSpeicher();
     AendereFuenf();

@@ -226,20 +226,23 @@ TEST(BerichtTest, In_the_appendix_three_equal_registers_of_a_parameter_share_a_r
     Abbild abbild = Standardkonfiguration();
     Werte muster(32, 0);
     muster[0] = muster[1] = 7;
+    muster[2] = muster[3] = muster[4] = 8;
     muster[31] = 9;
     ASSERT_TRUE(abbild.SetzeParameter(Spezifisch, spezifisch::Blankingmuster, muster, 0));
     const std::string anhang = Zwischen(Deutscher(abbild), "Anhang: alle Register", "</body>");
     for (const char* zeile :
          {"Blankingmuster [0]</td><td align=\"right\">52 (0x2034)</td><td align=\"right\">7<",
           "Blankingmuster [1]</td><td align=\"right\">53 (0x2035)</td><td align=\"right\">7<",
-          "Blankingmuster [2-30]</td><td align=\"right\">54-82 (0x2036-0x2052)</td>"
+          "Blankingmuster [2-4]</td><td align=\"right\">54-56 (0x2036-0x2038)</td>"
+          "<td align=\"right\">8<",
+          "Blankingmuster [5-30]</td><td align=\"right\">57-82 (0x2039-0x2052)</td>"
           "<td align=\"right\">0<",
           "Blankingmuster [31]</td><td align=\"right\">83 (0x2053)</td><td align=\"right\">9<"})
         EXPECT_THAT(anhang, HasSubstr(zeile));
     const std::size_t global = 1 + 1 + 1 + 1 + 1 + 1;
     const std::size_t teil = 8 + 1;
     const std::size_t kommunikation = 5 + 9 + 1;
-    EXPECT_EQ(Anzahl(anhang, "<tr>"), 1 + global + (teil + 3) + 3 * teil + kommunikation);
+    EXPECT_EQ(Anzahl(anhang, "<tr>"), 1 + global + (teil + 4) + 3 * teil + kommunikation);
 }
 
 TEST(BerichtTest, There_is_a_place_to_sign_and_the_browser_numbers_the_pages) {

@@ -373,6 +373,11 @@ TEST_F(frmVergleichTest, Of_a_file_of_another_beam_count_the_settings_are_taken_
     EXPECT_TRUE(Text("lblBefund").starts_with("1 Unterschied."));
 }
 
+TEST_F(frmVergleichTest, What_was_not_compared_cannot_be_taken_over_though_its_neighbour_can) {
+    EXPECT_TRUE(Fenster().Paar().IstUebernehmbar({Kommunikation, kommunikation::Stationsadresse}));
+    EXPECT_FALSE(Fenster().Paar().IstUebernehmbar({Kommunikation, kommunikation::Stationsadresse - 1}));
+}
+
 TEST_F(frmVergleichTest, The_window_comes_back_where_it_was_closed) {
     Fenster().show();
     Fenster().setGeometry(40, 60, 0, 777);
