@@ -107,7 +107,6 @@ Willkommensseite::Willkommensseite(QMdiArea& mdiBereich, const Klick& klick)
     raster->setColumnStretch(1, 1);
     BaueKnoepfe(*raster, klick);
     BaueDateien(*raster, klick);
-    inhalt->resize(1, 1); // the size it wants now, hidden, would be asked for in vain
     setWidget(inhalt);
     bereich.viewport()->installEventFilter(this);
     hide();
