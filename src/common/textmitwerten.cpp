@@ -14,7 +14,7 @@ std::string MitWerten(std::int16_t id, std::span<const std::string> werte) {
     for (std::size_t i = 0; i < vorlage.size(); ++i) {
         const auto nummer = i + 1 < vorlage.size() ? static_cast<std::size_t>(vorlage[i + 1] - '0') : 0;
         if (vorlage[i] == '%' && nummer >= 1 && nummer <= werte.size()) {
-            text += *(werte.begin() + nummer - 1);
+            text += werte[nummer - 1];
             ++i;
         } else {
             text += vorlage[i];

@@ -368,6 +368,15 @@ TEST_F(KonfigurationEditTest, Autosend_mode_2_selects_no_option) {
         EXPECT_FALSE(Angewaehlt(name)) << name;
 }
 
+TEST_F(KonfigurationEditTest, Filled_with_a_mode_that_has_no_option_the_one_chosen_before_is_given_up) {
+    Setze(Kommunikation, kommunikation::Autosend, 259);
+    Oeffne();
+    EXPECT_TRUE(Angewaehlt("optAutosendohneTriggerModbus"));
+    Setze(Kommunikation, kommunikation::Autosend, 0x0002);
+    dialog->InitKonfiguration({});
+    EXPECT_FALSE(Angewaehlt("optAutosendohneTriggerModbus"));
+}
+
 TEST_F(KonfigurationEditTest, An_autosend_option_decides_what_else_can_be_set) {
     struct Fall {
         const char* option;
@@ -388,6 +397,7 @@ TEST_F(KonfigurationEditTest, An_autosend_option_decides_what_else_can_be_set) {
         EXPECT_EQ(Bedienbar("optTriggerStartetDatenübertragungNachVollständigenScan"), fall.trigger);
         EXPECT_EQ(Bedienbar("cbolOhneTriggerAutosendrate"), fall.rate) << fall.option;
         EXPECT_EQ(Bedienbar("lblOhneTriggerAutosendrate"), fall.rate) << fall.option;
+        EXPECT_EQ(Bedienbar("lblOhneTriggerAutosendrateUebertragenerWert"), fall.rate) << fall.option;
         EXPECT_EQ(Bedienbar("chkStrahldatenMerken"), fall.merken) << fall.option;
     }
 }
@@ -917,6 +927,7 @@ TEST_F(EditorverlaufTest, The_list_tells_the_changes_in_words_and_a_button_appea
     Klicke("optAutosendmitTriggerModbus");
     EXPECT_TRUE(knopf.isVisible());
     EXPECT_EQ(knopf.text(), "Geändert: 2");
+    EXPECT_TRUE(knopf.toolTip().contains("Strg+Z"));
     const QStringList liste = Liste();
     ASSERT_EQ(liste.size(), 3);
     EXPECT_EQ(liste[0], "Stand beim Öffnen");
@@ -924,6 +935,22 @@ TEST_F(EditorverlaufTest, The_list_tells_the_changes_in_words_and_a_button_appea
     EXPECT_TRUE(liste[2].startsWith("Autosend: ")) << liste[2].toStdString();
     Rueckgaengig();
     EXPECT_EQ(knopf.text(), "Geändert: 1");
+}
+
+TEST_F(EditorverlaufTest, What_is_changed_after_undoing_is_a_step_of_its_own) {
+    Box("cboAuflösung_0").setCurrentIndex(3);
+    Rueckgaengig();
+    Box("cboReichweite_1").setCurrentIndex(5);
+    EXPECT_EQ(Liste().size(), 2);
+    Rueckgaengig();
+    EXPECT_EQ(Box("cboReichweite_1").currentIndex(), 3);
+}
+
+TEST_F(EditorverlaufTest, A_form_that_is_filled_anew_begins_a_new_list) {
+    Box("cboAuflösung_0").setCurrentIndex(2);
+    dialog->InitKonfiguration({});
+    EXPECT_FALSE(K<QToolButton>("cmdVerlauf").isVisible());
+    EXPECT_EQ(Liste().size(), 1);
 }
 
 TEST_F(EditorverlaufTest, What_follows_from_a_mode_comes_back_with_it) {

@@ -112,6 +112,12 @@ TEST_F(EditorvorgabenTest, Of_several_options_the_chosen_one_is_marked) {
     EXPECT_EQ(K<QWidget>("optGruppenzählerOder_0").accessibleDescription(), "Werksvorgabe: UND");
 }
 
+TEST_F(EditorvorgabenTest, What_the_switching_output_does_is_marked_for_each_of_its_three_choices) {
+    for (const char* name : {"optPNPAusgang_Option1_3", "optPNPAusgang_Option2_2", "optAusgangAktive_0"})
+        K<QRadioButton>(name).click();
+    EXPECT_EQ(Markierte(), "optAusgangAktive_0 optPNPAusgang_Option1_3 optPNPAusgang_Option2_2");
+}
+
 TEST_F(EditorvorgabenTest, The_context_menu_leads_back_to_the_default) {
     Setze(Spezifisch, spezifisch::Reichweite, 5);
     Setze(Kommunikation, kommunikation::Pausenzeit, 7);
