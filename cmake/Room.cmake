@@ -25,7 +25,8 @@ varnoth_headers(windows
     LIBS Qt6::Widgets varnoth_warnings)
 
 # varnoth_room(NAME SOURCES file... [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...]): the static library
-# varnoth_NAME. Who uses a room also sees its ROOMS, because its headers name them; PRIVATE_ROOMS only its own sources see.
+# varnoth_NAME. Who uses a room also sees its ROOMS; PRIVATE_ROOMS only its own sources see,
+# and who includes a header that names one of those lists that room itself.
 function(varnoth_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;PRIVATE_ROOMS;LIBS" ${ARGN})
     add_library(varnoth_${name} STATIC ${ROOM_SOURCES})

@@ -1,5 +1,7 @@
 #include "autosendbudget.h"
 
+#include "leitungsformat.h"
+
 #include <cmath>
 #include <iterator>
 
@@ -11,7 +13,6 @@ constexpr double Sendeverzug = 0.5; // ms
 constexpr double BitsJeByte = 11;   // on the line
 constexpr double MillisekundenJeSekunde = 1000;
 
-constexpr std::int32_t ErsterBaudcode = 10;
 constexpr std::int32_t Baudraten[] = {1200, 2400, 4800, 9600, 19200, 38400, 57600};
 
 } // namespace

@@ -24,8 +24,8 @@ public:
     /// So many steps in a row must go undisturbed until identifications are left out again.
     static constexpr int Wachdauer = 10;
 
-    Schrittfolge(std::vector<Transferschritt> die, std::function<bool()> wirdAbgebrochen)
-        : schritte(std::move(die)), abgebrochen(std::move(wirdAbgebrochen)) {}
+    Schrittfolge(std::vector<Transferschritt> folge, std::function<bool()> wirdAbgebrochen)
+        : schritte(std::move(folge)), abgebrochen(std::move(wirdAbgebrochen)) {}
 
     /// Lets the next steps stand between identifications, since the line is known to be disturbed.
     void Bewache() { wache = Wachdauer; }
@@ -36,8 +36,6 @@ public:
     /// is certain. True when all steps are through and taken over; those from ErsterOffener on are not
     /// certain yet, which happens only on a line that has had no break.
     bool Laufe();
-    /// How many steps are through.
-    std::size_t Erledigt() const { return stelle; }
     /// The first step that was not certain at the end; the number of steps when all were.
     std::size_t ErsterOffener() const { return gewiss; }
     /// The number of the last step's exchange.

@@ -44,8 +44,8 @@ public:
     [[nodiscard]] bool SetzeRegister(Speicherbereich bereich, std::int16_t adresse, std::int32_t wert,
                                      int optikteil = 0);
 
-    /// The live beam states of an optical part, `anzahl` = 1..64 registers from specific 353 on; none for
-    /// another number or part.
+    /// The live beam states of an optical part, `anzahl` = 1..64 registers from `spezifisch::Strahlzustaende`
+    /// on; none for another number or part.
     [[nodiscard]] Werte HoleStrahlzustaende(std::int16_t anzahl, int optikteil) const;
     /// Stores the first `anzahl` of the values as beam states. False for another number or part, and for too
     /// few values.

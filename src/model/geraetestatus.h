@@ -5,12 +5,12 @@
 
 namespace varnoth::modDaten {
 
-/// What the controller's status word (global register 196) has to tell the user, in the current language:
+/// What the controller's status word (`global::Geraetestatus`) has to tell the user, in the current language:
 /// no optical part connected, changed beam counts, unreadable part configurations. Empty when there is
 /// nothing.
 std::string Geraetestatustext(std::int32_t statuswort);
 
-/// Whether an optical part's status word (specific register 44) says that the part is present.
+/// Whether an optical part's status word (`spezifisch::Optikteilstatus`) says that the part is present.
 bool IstOptikteilVorhanden(std::int32_t statuswort);
 
 /// Shows the text of the status word in the image in a warning box, unless it is empty.

@@ -16,6 +16,7 @@
 #include <QButtonGroup>
 
 #include <algorithm>
+#include <array>
 
 namespace varnoth {
 
@@ -166,12 +167,12 @@ void frmDocument::BenenneWerte() {
     ui->lblBlankingStrahlenMax->setToolTip(geblankte);
     ui->lblInhaltBlankingStrahlenMax->setToolTip(geblankte);
     ui->lblInhaltBlankingStrahlenMax->setAccessibleName(geblankte);
+    const std::array namen{ui->lblTU, ui->lblHU, ui->lblZU, ui->lblTNU, ui->lblHNU, ui->lblZNU};
     for (std::size_t k = 0; k < felder.size(); ++k) {
-        auto* name = findChild<QLabel*>(felder[k]->objectName().remove(QStringLiteral("Inhalt")));
         const QString erklaerung = AlsText(LadeText(static_cast<std::int16_t>(ErsteErklaerung + k)));
-        name->setToolTip(erklaerung);
+        namen[k]->setToolTip(erklaerung);
         felder[k]->setToolTip(erklaerung);
-        felder[k]->setAccessibleName(name->text());
+        felder[k]->setAccessibleName(namen[k]->text());
     }
 }
 

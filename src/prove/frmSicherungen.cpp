@@ -26,9 +26,9 @@ constexpr int Pfadrolle = Qt::UserRole;
 
 } // namespace
 
-frmSicherungen::frmSicherungen(Sicherungen& sicherungen, Sicherungsbefehle die, QWidget* parent)
+frmSicherungen::frmSicherungen(Sicherungen& sicherungen, Sicherungsbefehle angebot, QWidget* parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmSicherungen>()), bestand(sicherungen),
-      befehle(std::move(die)) {
+      befehle(std::move(angebot)) {
     ui->setupUi(this);
     GibZeilenLuft(*ui->lstSicherungen);
     ui->cmdVergleichen->setVisible(static_cast<bool>(befehle.vergleiche));

@@ -64,8 +64,8 @@ std::string Zeilentext(const Vergleichsworte& zeile) {
 
 } // namespace
 
-frmVergleich::frmVergleich(Vergleichsanbieter& der)
-    : ui(std::make_unique<Ui::frmVergleich>()), anbieter(der) {
+frmVergleich::frmVergleich(Vergleichsanbieter& quellen)
+    : ui(std::make_unique<Ui::frmVergleich>()), anbieter(quellen) {
     ui->setupUi(this);
     GibZeilenLuft(*ui->trvVergleich);
     StellePlatzHer();

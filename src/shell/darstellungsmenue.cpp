@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QPainter>
 
+#include <vector>
+
 namespace varnoth {
 
 namespace {
@@ -33,10 +35,13 @@ QIcon Farbprobe(const QPalette& palette, Strahlfarbsatz satz) {
     return QIcon(bild);
 }
 
+/// Gives the items in the order of the rows.
 template<class Wert>
-void FuegeHinzu(QMenu& menue, std::span<const Darstellungszeile<Wert>> zeilen, Wert Darstellung::*feld,
-                const Darstellung& gewaehlt, const std::function<void(const Darstellung&)>& waehle) {
+std::vector<QAction*> FuegeHinzu(QMenu& menue, std::span<const Darstellungszeile<Wert>> zeilen,
+                                 Wert Darstellung::*feld, const Darstellung& gewaehlt,
+                                 const std::function<void(const Darstellung&)>& waehle) {
     auto* const gruppe = new QActionGroup(&menue);
+    std::vector<QAction*> punkte;
     for (const auto& [wert, wort, textId, name] : zeilen) {
         QAction* const aktion = menue.addAction(Text(textId));
         aktion->setObjectName(QLatin1String(name));
@@ -46,7 +51,9 @@ void FuegeHinzu(QMenu& menue, std::span<const Darstellungszeile<Wert>> zeilen, W
         Darstellung neue = gewaehlt;
         neue.*feld = wert;
         QObject::connect(aktion, &QAction::triggered, &menue, [waehle, neue] { waehle(neue); });
+        punkte.push_back(aktion);
     }
+    return punkte;
 }
 
 } // namespace
@@ -58,10 +65,9 @@ QMenu* MacheDarstellungsmenue(QWidget& fenster, const Darstellung& gewaehlt,
     menue->setAttribute(Qt::WA_DeleteOnClose);
     FuegeHinzu(*menue, Erscheinungszeilen(), &Darstellung::erscheinung, gewaehlt, waehle);
     menue->addSection(Text(TextStrahlfarben));
-    FuegeHinzu(*menue, Farbsatzzeilen(), &Darstellung::farbsatz, gewaehlt, waehle);
-    for (const auto& zeile : Farbsatzzeilen())
-        menue->findChild<QAction*>(QLatin1String(zeile.name))
-            ->setIcon(Farbprobe(fenster.palette(), zeile.wert));
+    const auto saetze = FuegeHinzu(*menue, Farbsatzzeilen(), &Darstellung::farbsatz, gewaehlt, waehle);
+    for (std::size_t satz = 0; satz < saetze.size(); ++satz)
+        saetze[satz]->setIcon(Farbprobe(fenster.palette(), Farbsatzzeilen()[satz].wert));
     return menue;
 }
 

@@ -17,7 +17,7 @@ constexpr std::int16_t TextSpeichernUnter = 9826;
 
 } // namespace
 
-Sicherungsablauf::Sicherungsablauf(Ziel das) : ziel(std::move(das)) {}
+Sicherungsablauf::Sicherungsablauf(Ziel betroffenes) : ziel(std::move(betroffenes)) {}
 
 Sicherungsablauf::~Sicherungsablauf() = default;
 

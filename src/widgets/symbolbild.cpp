@@ -38,7 +38,8 @@ QPixmap Gezeichnet(const QByteArray& svg, const QSize& groesse) {
 /// icon.
 class Symbolmaschine : public QIconEngine {
 public:
-    Symbolmaschine(QString der, QByteArray das) : name(std::move(der)), svg(std::move(das)) {}
+    Symbolmaschine(QString dateiname, QByteArray inhalt)
+        : name(std::move(dateiname)), svg(std::move(inhalt)) {}
 
     void paint(QPainter* maler, const QRect& flaeche, QIcon::Mode mode, QIcon::State zustand) override {
         const qreal schaerfe = maler->device()->devicePixelRatioF();

@@ -23,7 +23,7 @@ const QString Name = QStringLiteral("varnoth");
 /// Puts a variable of the environment back at the end.
 class Umgebungsvariable {
 public:
-    Umgebungsvariable(const char* name_, const QString& wert) : name(name_), vorher(qgetenv(name_)) {
+    Umgebungsvariable(const char* welche, const QString& wert) : name(welche), vorher(qgetenv(welche)) {
         qputenv(name, wert.toUtf8());
     }
     Umgebungsvariable(const Umgebungsvariable&) = delete;
