@@ -414,6 +414,19 @@ TEST_F(Oeffnen, A_good_file_replaces_the_image_and_becomes_the_current_file) {
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
+TEST_F(Oeffnen, A_file_that_is_only_read_becomes_neither_the_current_file_nor_one_used_last) {
+    const std::string aktuelle = Gespeichert("a.con");
+    LadeDatei(aktuelle);
+    EXPECT_TRUE(QDir(ordner.path()).mkdir("sicherungen"));
+    const std::string sicherung = Gespeichert("sicherungen/b.con");
+    EXPECT_TRUE(LadeDatei(sicherung, Dateirolle::Vorlage));
+    EXPECT_EQ(modDaten::GetDateiname(), "");
+    EXPECT_EQ(LetzteDateien(), std::vector{aktuelle});
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(gefragt.at(0).name, "");
+    EXPECT_EQ(gefragt.at(0).ordner, Pfad("") + "/");
+}
+
 TEST_F(Oeffnen, A_loaded_file_counts_as_changed_so_that_closing_asks_to_save) {
     LadeDatei(Gespeichert("a.con"));
     EXPECT_EQ(modDaten::IstGeaendert(), True);
