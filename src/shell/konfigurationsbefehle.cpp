@@ -103,7 +103,8 @@ bool LadeDatei(const std::string& pfad, Dateirolle rolle) {
         ZeigeDateifehler(datei.fehlertext, pfad);
         return false;
     }
-    MeldeUngesichertes(SichereAenderungen(Sicherungsanlass::VorDemOeffnen));
+    if (!DarfErsetzen(Sicherungsanlass::VorDemOeffnen))
+        return false;
     const bool geladen = modDaten::LadeKonfigurationsdatei(datei.bytes) != False;
     modDaten::SetDateiname(rolle == Dateirolle::Vorlage ? std::string() : pfad);
     const bool plausibel = modDaten::PruefeKonfiguration() != False;

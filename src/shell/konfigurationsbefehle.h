@@ -26,7 +26,8 @@ bool KonfigurationOeffnen();
 enum class Dateirolle { Aktuelle, Vorlage };
 
 /// Loads a configuration file, checks its values and recomputes the cycle times. A file that cannot be read
-/// gives a warning box and changes nothing. A file that is read but no good gives its message and leaves the
+/// gives a warning box and changes nothing; nor does anything change where changes that would be lost could
+/// not be put aside and the user keeps them. A file that is read but no good gives its message and leaves the
 /// values as they are, but becomes the current file name, as a good one does. True when the image now holds
 /// the file's configuration; a current
 /// file is then remembered among those used last. After a `Vorlage` there is no current file name.

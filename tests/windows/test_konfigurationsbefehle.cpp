@@ -115,14 +115,21 @@ TEST_F(Sicherungsfaelle, A_file_that_cannot_be_read_replaces_nothing_and_puts_no
     EXPECT_TRUE(sicherungen.gelegte.empty());
 }
 
-TEST_F(Sicherungsfaelle, A_backup_that_fails_does_not_keep_a_file_from_being_opened) {
+TEST_F(Sicherungsfaelle, Where_the_backup_fails_Cancel_keeps_the_changes_and_OK_opens_the_file) {
     const std::string pfad = Gespeichert("a.con");
+    const Abbild inDatei = modDaten::DasAbbild();
+    modDaten::SetDateiname("alt.con");
     Aendere();
+    const Abbild geaendertes = modDaten::DasAbbild();
     sicherungen.fehler = "the disk is full";
+    umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+    EXPECT_FALSE(LadeDatei(pfad));
+    EXPECT_EQ(modDaten::DasAbbild(), geaendertes);
+    EXPECT_EQ(modDaten::GetDateiname(), "alt.con");
     EXPECT_TRUE(LadeDatei(pfad));
-    EXPECT_TRUE(umgebung.meldungen.empty());
-    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1],
-              "Die Änderungen konnten nicht gesichert werden: the disk is full");
+    EXPECT_EQ(modDaten::DasAbbild(), inDatei);
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[0].text, "Die Änderungen konnten nicht gesichert werden: the disk is full");
 }
 
 TEST_F(Speichern, The_dialog_bears_title_and_filters_and_starts_in_the_programs_folder) {
