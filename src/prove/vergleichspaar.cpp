@@ -1,6 +1,5 @@
 #include "vergleichspaar.h"
 
-#include "klartext.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -82,14 +81,7 @@ Uebernahme Vergleichspaar::Uebernimm(const Abbild& inBearbeitung, const Paramete
 }
 
 std::string Ablehnung(const Uebernahme& uebernahme) {
-    std::string werte;
-    for (const Parameterstelle& stelle : uebernahme.unplausible) {
-        const auto& [bereich, adresse, teil] = stelle;
-        werte += "\n" + Stellenname(stelle) + ": " +
-                 Klartext(bereich, adresse, uebernahme.abbild.HoleParameter(bereich, adresse, teil),
-                          LesartFuer(uebernahme.abbild, bereich, teil));
-    }
-    return LadeText(TextNichtUebernommen) + werte;
+    return LadeText(TextNichtUebernommen) + Wertzeilen(uebernahme.abbild, uebernahme.unplausible);
 }
 
 } // namespace varnoth
