@@ -114,7 +114,7 @@ void frmBericht::DruckeAufPapier() {
     QPrinter drucker(QPrinter::HighResolution);
     RichteSeiteEin(drucker);
     drucker.setDocName(windowTitle());
-    if (umfeld.waehleDrucker(drucker) && !Drucke(Druck(), drucker))
+    if (umfeld.waehleDrucker(drucker, *this) && !Drucke(Druck(), drucker))
         ZeigeWarnung(LadeText(TextNichtGedruckt));
 }
 

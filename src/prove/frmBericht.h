@@ -37,8 +37,8 @@ struct Berichtsumfeld {
     std::function<void()> importiereText{};
     /// The names of the printers that there are.
     std::function<QStringList()> drucker{};
-    /// Lets the user choose and set up a printer; false when he did not.
-    std::function<bool(QPrinter& drucker)> waehleDrucker{};
+    /// Lets the user choose and set up a printer in a dialog above a window; false when he did not.
+    std::function<bool(QPrinter& drucker, QWidget& ueber)> waehleDrucker{};
 };
 
 /// Shows the report about the configuration in use as it goes to paper, prints and saves it. Plant, machine

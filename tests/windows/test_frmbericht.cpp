@@ -60,7 +60,8 @@ protected:
                 .importiereText = [this] { modDaten::ErsetzeAbbild(importiert); },
                 .drucker = [this] { return drucker; },
                 .waehleDrucker =
-                    [this](QPrinter& gewaehlter) {
+                    [this](QPrinter& gewaehlter, const QWidget& ueber) {
+                        gefragtUeber = &ueber;
                         gewaehlter.setOutputFormat(QPrinter::PdfFormat);
                         gewaehlter.setOutputFileName(ordner.filePath(druckziel));
                         return druckt;
@@ -84,6 +85,7 @@ protected:
     std::vector<Dokument> gespeichert;
     Abbild importiert;
     QStringList drucker{"Buero"};
+    const QWidget* gefragtUeber = nullptr; ///< the window above which a printer was chosen
     bool druckt = true;
     QString druckziel = "gedruckt.pdf";
     QTemporaryDir ordner;
@@ -160,6 +162,7 @@ TEST_F(FrmBerichtTest, After_an_import_the_report_is_about_the_new_configuration
 TEST_F(FrmBerichtTest, Printing_paints_every_page) {
     Klicke(Fenster(), "cmdDrucken");
     const std::string gedruckt = Gedrucktes();
+    EXPECT_EQ(gefragtUeber, &Fenster());
     EXPECT_EQ(Pdfseiten(gedruckt), Pdfseiten(NachKlick("cmdPdf").bytes));
     EXPECT_GT(Pdfseiten(gedruckt), 0U);
     EXPECT_TRUE(umgebung.meldungen.empty());

@@ -35,11 +35,10 @@ protected:
     pruefung::PruefUmgebung umgebung;
     pruefung::PruefSicherungen sicherungen;
     std::vector<std::string> verglichen;
-    Sicherungsablauf ablauf{{.oeffne = [] {},
-                             .vergleiche = [this](const Sicherung& sicherung,
-                                                  const Abbild& /*abbild*/) {
-                                 verglichen.push_back(sicherung.pfad);
-                             }}};
+    Sicherungsablauf ablauf{
+        {.oeffne = [] {},
+         .vergleiche = [this](const Sicherung& sicherung,
+                              const Abbild& /*abbild*/) { verglichen.push_back(sicherung.pfad); }}};
 };
 
 TEST_F(SicherungsablaufTest, A_double_click_compares_the_backup) {
