@@ -51,7 +51,9 @@ protected:
         if (!fenster)
             fenster.emplace(Berichtsumfeld{
                 .angaben =
-                    [] { return Berichtsangaben{.ausgestellt = "01.02.2026", .programmversion = "1.2.3"}; },
+                    [this] {
+                        return Berichtsangaben{.ausgestellt = ausgestellt, .programmversion = "1.2.3"};
+                    },
                 .name = "Halle 3",
                 .speichere =
                     [this](const auto& filter, const auto& name, const auto& bytes) {
@@ -84,6 +86,7 @@ protected:
 
     std::vector<Dokument> gespeichert;
     Abbild importiert;
+    std::string ausgestellt = "01.02.2026";
     QStringList drucker{"Buero"};
     const QWidget* gefragtUeber = nullptr; ///< the window above which a printer was chosen
     bool druckt = true;
@@ -128,11 +131,12 @@ TEST_F(FrmBerichtTest, The_number_of_pages_is_told_and_is_that_of_preview_and_fi
     EXPECT_EQ(Beschriftung(Fenster(), "lblSeiten"), QStringLiteral("Seiten: %1").arg(seiten));
 }
 
-TEST_F(FrmBerichtTest, Html_is_saved_as_the_document_and_is_the_same_each_time) {
+TEST_F(FrmBerichtTest, Html_is_saved_as_the_document_and_is_the_same_at_any_time) {
     const Dokument html = NachKlick("cmdHtml");
     EXPECT_EQ(html.name, "Halle 3.html");
     EXPECT_THAT(html.filter, StartsWith("HTML (*.html)|*.html|"));
     EXPECT_THAT(html.bytes, AllOf(StartsWith("<!DOCTYPE html>"), Not(HasSubstr("http"))));
+    ausgestellt = "02.02.2026";
     Klicke(Fenster(), "cmdHtml");
     EXPECT_EQ(gespeichert.at(1).bytes, html.bytes);
 }
