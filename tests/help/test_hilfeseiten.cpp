@@ -145,6 +145,16 @@ TEST_P(Hilfeseiten, Pictures_fit_into_the_window) {
     }
 }
 
+TEST_P(Hilfeseiten, Every_example_stands_in_the_table_of_examples) {
+    const QStringList verweise = quelle.blaetter.value("beispiele").verweise;
+    QStringList fehlende;
+    for (const QString& seite : quelle.blaetter.keys())
+        if (seite.startsWith("beispiel_") && !verweise.contains(seite + ".html"))
+            fehlende.append(seite);
+    EXPECT_FALSE(verweise.isEmpty());
+    EXPECT_EQ(Text(fehlende), "");
+}
+
 TEST_P(Hilfeseiten, Every_form_of_the_program_has_a_page) {
     QStringList ohne;
     for (const QString& formular : pruefung::Formulare())
