@@ -52,7 +52,11 @@ std::vector<Vergleichsworte> Vergleichspaar::Zeilen() const {
 }
 
 std::string Vergleichspaar::Titel() const {
-    return LadeTextMit(TextTitel, {Seitenname(Seite(Seitenwahl::A)), Seitenname(Seite(Seitenwahl::B))});
+    const Vergleichsseite& a = Seite(Seitenwahl::A);
+    const Vergleichsseite& b = Seite(Seitenwahl::B);
+    if (IstVonDatei(a) && IstVonDatei(b) && a.einzelheit != b.einzelheit && Seitenname(a) == Seitenname(b))
+        return LadeTextMit(TextTitel, {a.einzelheit, b.einzelheit});
+    return LadeTextMit(TextTitel, {Seitenname(a), Seitenname(b)});
 }
 
 std::string Vergleichspaar::Text(const std::vector<Vergleichsworte>& zeilen) const {

@@ -342,6 +342,18 @@ TEST_F(frmVergleichTest, Printing_without_a_printer_says_so) {
     EXPECT_TRUE(umgebung.meldungen[0].text.starts_with("Es ist kein Drucker eingerichtet."));
 }
 
+TEST(Vergleichspaar, Two_files_of_one_name_are_told_apart_by_their_folders) {
+    Vergleichspaar paar;
+    paar.Setze(Seitenwahl::A, Datei(Geraet()));
+    Vergleichsseite andere = Datei(Geraet());
+    andere.einzelheit = "/plant/old/line.con";
+    paar.Setze(Seitenwahl::B, andere);
+    EXPECT_EQ(paar.Titel(), "Vergleich: /plant/line.con – /plant/old/line.con");
+    andere.einzelheit = "/plant/old/spare.con";
+    paar.Setze(Seitenwahl::B, andere);
+    EXPECT_EQ(paar.Titel(), "Vergleich: line.con – spare.con");
+}
+
 class Vergleichsdruck : public testing::Test {
 protected:
     /// Prints a page into a file of the temporary folder.
