@@ -60,6 +60,10 @@ protected:
                         gespeichert.push_back({filter, name, bytes});
                     },
                 .importiereText = [this] { modDaten::ErsetzeAbbild(importiert); },
+                .machePdf =
+                    [this](const auto& druck, const auto& titel) {
+                        return pdfGelingt ? AlsPdf(druck, titel) : QByteArray();
+                    },
                 .drucker = [this] { return drucker; },
                 .waehleDrucker =
                     [this](QPrinter& gewaehlter, const QWidget& ueber) {
@@ -90,6 +94,7 @@ protected:
     QStringList drucker{"Buero"};
     const QWidget* gefragtUeber = nullptr; ///< the window above which a printer was chosen
     bool druckt = true;
+    bool pdfGelingt = true;
     QString druckziel = "gedruckt.pdf";
     QTemporaryDir ordner;
     std::optional<frmBericht> fenster;
@@ -146,6 +151,15 @@ TEST_F(FrmBerichtTest, Pdf_is_saved_with_a_title) {
     EXPECT_EQ(pdf.name, "Halle 3.pdf");
     EXPECT_THAT(pdf.filter, StartsWith("PDF (*.pdf)|*.pdf|"));
     EXPECT_THAT(pdf.bytes, StartsWith("%PDF-"));
+}
+
+TEST_F(FrmBerichtTest, A_pdf_that_cannot_be_made_is_told_and_no_empty_file_is_saved) {
+    pdfGelingt = false;
+    Klicke(Fenster(), "cmdPdf");
+    EXPECT_TRUE(gespeichert.empty());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text,
+              "Die PDF-Datei ließ sich nicht herstellen. Der Bericht lässt sich als HTML speichern.");
 }
 
 TEST_F(FrmBerichtTest, The_exported_text_is_the_configuration_without_measured_values) {
