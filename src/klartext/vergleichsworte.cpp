@@ -90,6 +90,17 @@ std::string Stellenname(const Parameterstelle& stelle) {
     return Gruppenname(stelle) + ", " + Parametername(stelle.bereich, stelle.adresse);
 }
 
+std::string Wertzeilen(const Abbild& abbild, const Parametermenge& stellen) {
+    std::string zeilen;
+    for (const Parameterstelle& stelle : stellen) {
+        const auto& [bereich, adresse, teil] = stelle;
+        zeilen += "\n" + Stellenname(stelle) + ": " +
+                  Klartext(bereich, adresse, abbild.HoleParameter(bereich, adresse, teil),
+                           LesartFuer(abbild, bereich, teil));
+    }
+    return zeilen;
+}
+
 std::vector<Vergleichsworte> InWorten(const Vergleichsergebnis& ergebnis, const Vergleichsbild& a,
                                       const Vergleichsbild& b) {
     const Erzaehler einer(a);

@@ -14,6 +14,9 @@ std::string Gruppenname(const Parameterstelle& stelle);
 /// The parameter with its group: "Optikteil 2, Auflösung".
 std::string Stellenname(const Parameterstelle& stelle);
 
+/// Parameters with the values that an image holds, each after a line break: "\nGlobal, Filter: 5".
+std::string Wertzeilen(const Abbild& abbild, const Parametermenge& stellen);
+
 /// One side of a comparison.
 struct Vergleichsbild {
     const Abbild& abbild;

@@ -3,6 +3,7 @@
 #include "geraetestand.h"
 #include "registerabbild.h"
 #include "startzustand.h"
+#include "texte.h"
 #include "textmitwerten.h"
 #include "umgebung.h"
 #include "vergleich.h"
@@ -12,6 +13,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextUngesichert = 9762;
+constexpr std::int16_t TextTrotzdem = 9920;
 
 Sicherungen* dieSicherungen = nullptr;
 std::optional<Abbild> ausgangslage;
@@ -60,9 +62,15 @@ std::string SichereAenderungen(Sicherungsanlass anlass) {
     return Lege(modDaten::DasAbbild(), anlass);
 }
 
-void MeldeUngesichertes(const std::string& fehlertext) {
-    if (!fehlertext.empty())
-        DieUmgebung().ZeigeStatustext(FeldMeldungen, LadeTextMit(TextUngesichert, {fehlertext}));
+bool DarfErsetzen(Sicherungsanlass anlass) {
+    const std::string fehler = SichereAenderungen(anlass);
+    return fehler.empty() ||
+           DieUmgebung().ZeigeMeldung({.text = LadeTextMit(TextUngesichert, {fehler}),
+                                       .titel = LadeText(TextAchtung),
+                                       .symbol = Symbol::Warnung,
+                                       .knoepfe = Knoepfe::OkAbbrechen,
+                                       .abbrechenVorgegeben = true,
+                                       .informativtext = LadeText(TextTrotzdem)}) == Antwort::Ok;
 }
 
 bool IstGeraetestandSicherbar() {

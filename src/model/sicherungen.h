@@ -50,8 +50,9 @@ void MerkeAusgangslage();
 /// `Sicherungen::Lege`, empty when nothing is lost.
 [[nodiscard]] std::string SichereAenderungen(Sicherungsanlass anlass);
 
-/// Tells in the status bar that changes could not be put aside; an empty error text tells nothing.
-void MeldeUngesichertes(const std::string& fehlertext);
+/// Puts changes aside as `SichereAenderungen` and tells whether the image in use may be replaced. Where that
+/// failed the user is asked; false when he rather keeps his changes.
+[[nodiscard]] bool DarfErsetzen(Sicherungsanlass anlass);
 
 /// Whether it is known in whole what the controller holds, so that it can be put aside.
 bool IstGeraetestandSicherbar();

@@ -1,6 +1,5 @@
 #include "frmBericht.h"
 
-#include "berichtsdruck.h"
 #include "einstellungen.h"
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
@@ -24,6 +23,7 @@ constexpr std::int16_t TextSeitenzahl = 9737;
 constexpr std::int16_t TextSeiteVon = 9738;
 constexpr std::int16_t TextKeinDrucker = 9739;
 constexpr std::int16_t TextNichtGedruckt = 9740;
+constexpr std::int16_t TextKeinPdf = 9923;
 constexpr std::int16_t TextPdffilter = 9741;
 constexpr std::int16_t TextHtmlfilter = 9742;
 constexpr std::int16_t TextTextfilter = 9674;
@@ -114,13 +114,15 @@ void frmBericht::DruckeAufPapier() {
     QPrinter drucker(QPrinter::HighResolution);
     RichteSeiteEin(drucker);
     drucker.setDocName(windowTitle());
-    if (umfeld.waehleDrucker(drucker) && !Drucke(Druck(), drucker))
+    if (umfeld.waehleDrucker(drucker, *this) && !Drucke(Druck(), drucker))
         ZeigeWarnung(LadeText(TextNichtGedruckt));
 }
 
 void frmBericht::SpeicherePdf() {
-    umfeld.speichere(LadeText(TextPdffilter), umfeld.name + ".pdf",
-                     AlsPdf(Druck(), windowTitle()).toStdString());
+    const QByteArray pdf = umfeld.machePdf(Druck(), windowTitle());
+    if (pdf.isEmpty())
+        return ZeigeWarnung(LadeText(TextKeinPdf));
+    umfeld.speichere(LadeText(TextPdffilter), umfeld.name + ".pdf", pdf.toStdString());
 }
 
 void frmBericht::ImportiereText() {

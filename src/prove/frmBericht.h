@@ -1,7 +1,9 @@
 #pragma once
 
+#include "berichtsdruck.h"
 #include "konfigurationsbericht.h"
 
+#include <QByteArray>
 #include <QDialog>
 #include <QStringList>
 
@@ -22,8 +24,6 @@ namespace Ui {
 class frmBericht;
 }
 
-struct Berichtsdruck;
-
 /// What the report's window asks of the one who opens it. Texts are UTF-8.
 struct Berichtsumfeld {
     /// What the report says besides the image, all but plant, machine and person.
@@ -35,10 +35,12 @@ struct Berichtsumfeld {
         speichere{};
     /// Replaces the configuration in use by one from a text file, all questions and messages included.
     std::function<void()> importiereText{};
+    /// Makes a PDF file of the report's pages; empty when that fails.
+    std::function<QByteArray(const Berichtsdruck& druck, const QString& titel)> machePdf = AlsPdf;
     /// The names of the printers that there are.
     std::function<QStringList()> drucker{};
-    /// Lets the user choose and set up a printer; false when he did not.
-    std::function<bool(QPrinter& drucker)> waehleDrucker{};
+    /// Lets the user choose and set up a printer in a dialog above a window; false when he did not.
+    std::function<bool(QPrinter& drucker, QWidget& ueber)> waehleDrucker{};
 };
 
 /// Shows the report about the configuration in use as it goes to paper, prints and saves it. Plant, machine

@@ -405,7 +405,7 @@ void frmVergleich::Kopiere() {
 }
 
 void frmVergleich::Drucke() {
-    DruckeSeite(AlsDruckseite(paar, Gezeigte()), *this);
+    DruckeSeite(AlsDruckseite(paar, Gezeigte()), Q(paar.Titel()), WahlUeber(*this));
 }
 
 } // namespace varnoth

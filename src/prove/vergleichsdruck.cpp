@@ -1,12 +1,12 @@
 #include "vergleichsdruck.h"
 
+#include "berichtsdruck.h"
 #include "texte.h"
 #include "umgebung.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QTextDocument>
 
 namespace varnoth {
 
@@ -15,6 +15,8 @@ namespace {
 constexpr std::int16_t TextName = 9565;
 constexpr std::int16_t TextRegister = 9566;
 constexpr std::int16_t TextKeinDrucker = 9592;
+constexpr std::int16_t TextSeiteVon = 9738;
+constexpr std::int16_t TextNichtGedruckt = 9922;
 
 QString Text(const std::string& text) {
     return QString::fromStdString(text).toHtmlEscaped();
@@ -53,18 +55,24 @@ QString AlsDruckseite(const Vergleichspaar& paar, const std::vector<Vergleichswo
     return html + "</table>";
 }
 
-void DruckeSeite(const QString& html, QWidget& fenster) {
-    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+Druckerwahl WahlUeber(QWidget& fenster) {
+    return {.drucker = QPrinterInfo::availablePrinterNames, .waehle = [&fenster](QPrinter& drucker) {
+                return QPrintDialog(&drucker, &fenster).exec() == QDialog::Accepted;
+            }};
+}
+
+void DruckeSeite(const QString& html, const QString& titel, const Druckerwahl& wahl) {
+    if (wahl.drucker().isEmpty()) {
         ZeigeWarnung(LadeText(TextKeinDrucker), LadeText(TextAchtung));
         return;
     }
     QPrinter drucker(QPrinter::HighResolution);
-    QPrintDialog dialog(&drucker, &fenster);
-    if (dialog.exec() != QDialog::Accepted)
+    RichteSeiteEin(drucker);
+    drucker.setDocName(titel);
+    if (!wahl.waehle(drucker))
         return;
-    QTextDocument dokument;
-    dokument.setHtml(html);
-    dokument.print(&drucker);
+    if (!Drucke({html, titel, QString::fromStdString(LadeText(TextSeiteVon))}, drucker))
+        ZeigeWarnung(LadeText(TextNichtGedruckt), LadeText(TextAchtung));
 }
 
 } // namespace varnoth

@@ -1,6 +1,5 @@
 #include "vergleichspaar.h"
 
-#include "klartext.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -53,7 +52,11 @@ std::vector<Vergleichsworte> Vergleichspaar::Zeilen() const {
 }
 
 std::string Vergleichspaar::Titel() const {
-    return LadeTextMit(TextTitel, {Seitenname(Seite(Seitenwahl::A)), Seitenname(Seite(Seitenwahl::B))});
+    const Vergleichsseite& a = Seite(Seitenwahl::A);
+    const Vergleichsseite& b = Seite(Seitenwahl::B);
+    if (IstVonDatei(a) && IstVonDatei(b) && a.einzelheit != b.einzelheit && Seitenname(a) == Seitenname(b))
+        return LadeTextMit(TextTitel, {a.einzelheit, b.einzelheit});
+    return LadeTextMit(TextTitel, {Seitenname(a), Seitenname(b)});
 }
 
 std::string Vergleichspaar::Text(const std::vector<Vergleichsworte>& zeilen) const {
@@ -82,14 +85,7 @@ Uebernahme Vergleichspaar::Uebernimm(const Abbild& inBearbeitung, const Paramete
 }
 
 std::string Ablehnung(const Uebernahme& uebernahme) {
-    std::string werte;
-    for (const Parameterstelle& stelle : uebernahme.unplausible) {
-        const auto& [bereich, adresse, teil] = stelle;
-        werte += "\n" + Stellenname(stelle) + ": " +
-                 Klartext(bereich, adresse, uebernahme.abbild.HoleParameter(bereich, adresse, teil),
-                          LesartFuer(uebernahme.abbild, bereich, teil));
-    }
-    return LadeText(TextNichtUebernommen) + werte;
+    return LadeText(TextNichtUebernommen) + Wertzeilen(uebernahme.abbild, uebernahme.unplausible);
 }
 
 } // namespace varnoth

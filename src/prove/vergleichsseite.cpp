@@ -36,10 +36,12 @@ bool FragtNach(Vergleichsquelle quelle) {
     return Zeile(quelle).fragtNach;
 }
 
+bool IstVonDatei(const Vergleichsseite& seite) {
+    return seite.quelle == Vergleichsquelle::Datei || seite.quelle == Vergleichsquelle::Sicherung;
+}
+
 std::string Seitenname(const Vergleichsseite& seite) {
-    const bool istDatei =
-        seite.quelle == Vergleichsquelle::Datei || seite.quelle == Vergleichsquelle::Sicherung;
-    return istDatei ? OhneOrdner(seite.einzelheit) : Quellenname(seite.quelle);
+    return IstVonDatei(seite) ? OhneOrdner(seite.einzelheit) : Quellenname(seite.quelle);
 }
 
 } // namespace varnoth

@@ -34,6 +34,9 @@ struct Vergleichsseite {
     bool operator==(const Vergleichsseite&) const = default;
 };
 
+/// Whether the side's detail is the path of a file.
+bool IstVonDatei(const Vergleichsseite& seite);
+
 /// What the side is called in a title: the source, and of a file its name.
 std::string Seitenname(const Vergleichsseite& seite);
 

@@ -137,10 +137,8 @@ private:
     std::string Kopf() const {
         std::string zeilen = "\n" + Paar(TextAnlage, angaben.anlage) + Paar(TextMaschine, angaben.maschine) +
                              Paar(TextPerson, angaben.person);
-        for (const auto& [name, wert] :
-             {std::pair(TextAusgestellt, &angaben.ausgestellt), {TextQuelle, &angaben.quelle}})
-            if (!wert->empty())
-                zeilen += Paar(name, *wert);
+        if (!angaben.quelle.empty())
+            zeilen += Paar(TextQuelle, angaben.quelle);
         zeilen += Paar(TextPruefsumme, "CRC-32 " + Konfigurationspruefsumme(abbild));
         if (!angaben.programmversion.empty())
             zeilen += Paar(TextProgrammversion, angaben.programmversion);
@@ -275,7 +273,10 @@ std::string Berichtsfuss(const Abbild& abbild, const Berichtsangaben& angaben, s
     for (const std::string& teil : {angaben.anlage, angaben.maschine})
         if (!teil.empty())
             fuss += teil + "  |  ";
-    return fuss + LadeText(TextPruefsumme, sprache) + ": " + Konfigurationspruefsumme(abbild);
+    fuss += LadeText(TextPruefsumme, sprache) + ": " + Konfigurationspruefsumme(abbild);
+    if (!angaben.ausgestellt.empty())
+        fuss += "  |  " + LadeText(TextAusgestellt, sprache) + ": " + angaben.ausgestellt;
+    return fuss;
 }
 
 } // namespace varnoth

@@ -19,7 +19,7 @@ struct Berichtsangaben {
     std::string anlage{};
     std::string maschine{};
     std::string person{};
-    std::string ausgestellt{};    ///< when
+    std::string ausgestellt{};    ///< when; on paper only
     std::string quelle{};         ///< where the configuration comes from: a file, a controller and when
     std::string geraetename{};    ///< the controller's own texts ...
     std::string copyright{};      ///< ... of its identification
@@ -30,11 +30,12 @@ struct Berichtsangaben {
 };
 
 /// The document. The same image, apart from what is measured at the moment, and the same other arguments
-/// give the same bytes.
+/// give the same bytes, whenever that is.
 std::string Bericht(const Abbild& abbild, const Berichtsangaben& angaben,
                     std::int16_t sprache = GetSprachoffset());
 
-/// What stands at the foot of each page beside its number: plant, machine and checksum.
+/// What stands at the foot of each page beside its number: plant, machine, checksum and when it
+/// was issued.
 std::string Berichtsfuss(const Abbild& abbild, const Berichtsangaben& angaben,
                          std::int16_t sprache = GetSprachoffset());
 

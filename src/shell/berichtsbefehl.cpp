@@ -77,8 +77,8 @@ Berichtsangaben Angaben() {
     return angaben;
 }
 
-bool WaehleDrucker(QPrinter& drucker) {
-    return QPrintDialog(&drucker).exec() == QDialog::Accepted;
+bool WaehleDrucker(QPrinter& drucker, QWidget& ueber) {
+    return QPrintDialog(&drucker, &ueber).exec() == QDialog::Accepted;
 }
 
 } // namespace

@@ -177,7 +177,7 @@ void frmMain::ZeigeSicherungen() {
 }
 
 void frmMain::OeffneSicherung() {
-    LadeDatei(sicherungen->ZuOeffnende());
+    ablauf->LadeDatei(sicherungen->ZuOeffnende(), Dateirolle::Vorlage);
 }
 
 void frmMain::ZeigeSimulation() {

@@ -39,8 +39,8 @@ void Konfigurationsablauf::Oeffne() {
         Zeige();
 }
 
-void Konfigurationsablauf::LadeDatei(const std::string& pfad) {
-    varnoth::LadeDatei(pfad);
+void Konfigurationsablauf::LadeDatei(const std::string& pfad, Dateirolle rolle) {
+    varnoth::LadeDatei(pfad, rolle);
     Zeige();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hauptteile.h"
+#include "konfigurationsbefehle.h"
 #include "verbindungsauskunft.h"
 
 #include <optional>
@@ -18,7 +19,7 @@ public:
     /// Asks for a configuration file, loads it and shows its parts.
     void Oeffne();
     /// Loads a configuration file (UTF-8 path) and shows its parts.
-    void LadeDatei(const std::string& pfad);
+    void LadeDatei(const std::string& pfad, Dateirolle rolle = Dateirolle::Aktuelle);
     /// Asks for beam counts and shows their parts.
     void MacheNeue();
     /// Opens the editor, after asking for a configuration where there is none, and writes to the controller

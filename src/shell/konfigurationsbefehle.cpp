@@ -97,19 +97,21 @@ bool KonfigurationOeffnen() {
     return pfad.has_value();
 }
 
-bool LadeDatei(const std::string& pfad) {
+bool LadeDatei(const std::string& pfad, Dateirolle rolle) {
     const auto datei = LiesDatei(pfad, LaengeKonfigurationsdatei);
     if (!datei.gelungen) {
         ZeigeDateifehler(datei.fehlertext, pfad);
         return false;
     }
-    MeldeUngesichertes(SichereAenderungen(Sicherungsanlass::VorDemOeffnen));
+    if (!DarfErsetzen(Sicherungsanlass::VorDemOeffnen))
+        return false;
     const bool geladen = modDaten::LadeKonfigurationsdatei(datei.bytes) != False;
-    modDaten::SetDateiname(pfad);
+    modDaten::SetDateiname(rolle == Dateirolle::Vorlage ? std::string() : pfad);
     const bool plausibel = modDaten::PruefeKonfiguration() != False;
     modHilfsFunktionen::BerechneZykluszeiten();
     if (geladen && plausibel) {
-        MerkeDatei(pfad);
+        if (rolle == Dateirolle::Aktuelle)
+            MerkeDatei(pfad);
         MerkeAusgangslage();
     }
     return geladen && plausibel;

@@ -21,11 +21,17 @@ bool KonfigurationSpeichernUnter();
 /// Asks for a file and loads it with `LadeDatei`. False when the dialog was cancelled: nothing has changed.
 bool KonfigurationOeffnen();
 
+/// What an opened file is to the program: the current file, or one that is only read, as a backup, so that a
+/// save is not led to it.
+enum class Dateirolle { Aktuelle, Vorlage };
+
 /// Loads a configuration file, checks its values and recomputes the cycle times. A file that cannot be read
-/// gives a warning box and changes nothing. A file that is read but no good gives its message and leaves the
+/// gives a warning box and changes nothing; nor does anything change where changes that would be lost could
+/// not be put aside and the user keeps them. A file that is read but no good gives its message and leaves the
 /// values as they are, but becomes the current file name, as a good one does. True when the image now holds
-/// the file's configuration; the file is then remembered among those used last.
-bool LadeDatei(const std::string& pfad);
+/// the file's configuration; a current
+/// file is then remembered among those used last. After a `Vorlage` there is no current file name.
+bool LadeDatei(const std::string& pfad, Dateirolle rolle = Dateirolle::Aktuelle);
 
 /// Before the program ends: asks whether changes in the configuration shall be saved, if there are any, and
 /// saves them on Yes. True when the program may end; the changed mark is then cleared. False after Cancel,

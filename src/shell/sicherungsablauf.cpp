@@ -4,6 +4,7 @@
 #include "frmSicherungen.h"
 #include "konfigurationsbefehle.h"
 #include "texte.h"
+#include "textmitwerten.h"
 #include "umgebung.h"
 
 #include <utility>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::int16_t TextDateifilter = 2000;
 constexpr std::int16_t TextSpeichernUnter = 9826;
+constexpr std::int16_t TextNichtLesbar = 9921;
 
 } // namespace
 
@@ -57,6 +59,8 @@ void Sicherungsablauf::Schliesse() {
 void Sicherungsablauf::Vergleiche(const Sicherung& sicherung) const {
     if (const auto abbild = DieSicherungen()->Lies(sicherung))
         ziel.vergleiche(sicherung, *abbild);
+    else
+        ZeigeWarnung(LadeTextMit(TextNichtLesbar, {sicherung.pfad}), LadeText(TextAchtung));
 }
 
 void Sicherungsablauf::SpeichereKopie(const Sicherung& sicherung) {

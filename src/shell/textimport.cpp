@@ -9,6 +9,7 @@
 #include "standtext.h"
 #include "texte.h"
 #include "umgebung.h"
+#include "vergleichsworte.h"
 #include "zykluszeiten.h"
 
 #include <optional>
@@ -42,7 +43,8 @@ std::optional<Abbild> LiesText(const std::string& pfad) {
     if (!befund.abbild)
         MeldeFehler(befund.fehler);
     else if (!IstPlausibel(*befund.abbild)) {
-        ZeigeWarnung(LadeText(TextUnplausibel));
+        ZeigeWarnung(LadeText(TextUnplausibel) +
+                     Wertzeilen(*befund.abbild, UnplausibleStellen(*befund.abbild)));
         return std::nullopt;
     }
     return befund.abbild;

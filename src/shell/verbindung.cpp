@@ -48,6 +48,8 @@ void UebernimmOptikteile() {
 }
 
 bool Autostart(Verbindungsziel& ziel) {
+    if (!DarfErsetzen(Sicherungsanlass::VorDemVerbinden))
+        return ziel.LiveDatenLaufen();
     if (ziel.LiveDatenLaufen())
         ziel.StoppeLiveDaten();
     else if (modModbus::AutosendGestartet())
@@ -55,7 +57,6 @@ bool Autostart(Verbindungsziel& ziel) {
     VergissOptikteile();
     modGeraetestand::BeginneVerbindung();
     ziel.ZeigeAlleOffline();
-    const std::string ungesichert = SichereAenderungen(Sicherungsanlass::VorDemVerbinden);
     modDaten::LeereAbbild();
     const bool gelesen = LiesGeraet(ziel);
     if (ziel.Beendet())
@@ -73,7 +74,6 @@ bool Autostart(Verbindungsziel& ziel) {
         ziel.LiveDatenLaufenAn();
     }
     ziel.ZeigeLichtleistenmenue();
-    MeldeUngesichertes(ungesichert);
     return gelungen && GetPollingAktiv() != False;
 }
 

@@ -37,7 +37,7 @@ public:
 
 /// Connects: an end to autosend, if this run has started it, then identification, whole configuration,
 /// optical parts, status report, plausibility, cycle times, views, polling. True when live data runs at the
-/// end.
+/// end. Nothing happens where changes that would be lost could not be put aside and the user keeps them.
 bool Autostart(Verbindungsziel& ziel);
 
 /// Stores the presence of each part that specific register 44 tells, and how many parts a polling pass asks:

@@ -1,6 +1,7 @@
 #include "strahlengruppe.h"
 
 #include "feldtext.h"
+#include "sicherungen.h"
 #include "texte.h"
 #include "ui_strahlengruppe.h"
 #include "umgebung.h"
@@ -94,6 +95,8 @@ Strahlenzahlen Strahlengruppe::Eingabe() const {
 }
 
 bool Strahlengruppe::Uebernimm() {
+    if (!DarfErsetzen(Sicherungsanlass::VorNeuer))
+        return false;
     const bool gelungen = ErstelleKonfiguration(Eingabe());
     if (!gelungen)
         ZeigeWarnung(LadeText(texte.zuVieleStrahlen));

@@ -34,7 +34,7 @@ public:
     /// The form's own texts; to be called before the form is localised.
     void SetzeTexte(const Strahlentexte& neue);
     /// Makes the new configuration in the register image. False, after a message, for too many beams
-    /// together.
+    /// together, and where changes that would be lost could not be put aside and the user keeps them.
     bool Uebernimm();
 
 private:

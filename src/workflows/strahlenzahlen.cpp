@@ -2,7 +2,6 @@
 
 #include "registerabbild.h"
 #include "registeradressen.h"
-#include "sicherungen.h"
 #include "standardkonfiguration.h"
 
 #include <algorithm>
@@ -15,7 +14,6 @@ int Strahlensumme(const Strahlenzahlen& strahlenzahlen) {
 }
 
 bool ErstelleKonfiguration(const Strahlenzahlen& strahlenzahlen) {
-    MeldeUngesichertes(SichereAenderungen(Sicherungsanlass::VorNeuer));
     modDaten::LadeStandardkonfiguration();
     int teil = 0;
     return IstZulaessigeStrahlensumme(Strahlensumme(strahlenzahlen)) &&

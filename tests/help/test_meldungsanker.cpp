@@ -27,6 +27,13 @@ TEST_F(MeldungsankerTest, A_path_beside_the_text_does_not_hide_the_message) {
     EXPECT_EQ(AnkerZu(2001, "/home/user/OK.con"), "m2001");
 }
 
+TEST_F(MeldungsankerTest, What_a_message_names_does_not_hide_it) {
+    EXPECT_EQ(Meldungsanker("Die Sicherung ließ sich nicht löschen:\nvoll\n/x.con"), "m9825");
+    EXPECT_EQ(Meldungsanker("Die Sicherung vor dem Schreiben ist misslungen:\nvoll\n\nSoll trotzdem in das "
+                            "Gerät geschrieben werden?"),
+              "m9763");
+}
+
 TEST_F(MeldungsankerTest, A_text_that_is_not_in_the_table_leads_nowhere) {
     EXPECT_EQ(Meldungsanker("zzz"), QString());
 }

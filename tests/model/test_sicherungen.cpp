@@ -83,19 +83,32 @@ TEST_F(SicherungenTest, An_image_without_beams_is_not_put_aside) {
     EXPECT_FALSE(SichertAenderungen());
 }
 
-TEST_F(SicherungenTest, Why_changes_could_not_be_put_aside_is_given_and_told_in_the_status_bar) {
+TEST_F(SicherungenTest, Why_changes_could_not_be_put_aside_is_given) {
     Aendere();
     sicherungen.fehler = "full";
     EXPECT_EQ(SichereAenderungen(Sicherungsanlass::VorNeuer), "full");
-    MeldeUngesichertes("full");
-    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1], "Die Änderungen konnten nicht gesichert werden: full");
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
-TEST_F(SicherungenTest, Success_is_told_nowhere) {
-    umgebung.statustexte[FeldMeldungen - 1] = "before";
-    MeldeUngesichertes("");
-    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1], "before");
+TEST_F(SicherungenTest, Changes_that_could_not_be_put_aside_may_be_replaced_after_a_question_only) {
+    Aendere();
+    sicherungen.fehler = "full";
+    umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+    EXPECT_FALSE(DarfErsetzen(Sicherungsanlass::VorNeuer));
+    EXPECT_TRUE(DarfErsetzen(Sicherungsanlass::VorNeuer));
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[0].text, "Die Änderungen konnten nicht gesichert werden: full");
+    EXPECT_EQ(umgebung.meldungen[0].informativtext,
+              "Soll trotzdem fortgefahren werden? Die Änderungen gehen dann verloren.");
+    EXPECT_EQ(umgebung.meldungen[0].knoepfe, Knoepfe::OkAbbrechen);
+    EXPECT_TRUE(umgebung.meldungen[0].abbrechenVorgegeben);
+}
+
+TEST_F(SicherungenTest, Changes_that_were_put_aside_may_be_replaced_without_a_word) {
+    Aendere();
+    EXPECT_TRUE(DarfErsetzen(Sicherungsanlass::VorNeuer));
+    EXPECT_EQ(sicherungen.gelegte.size(), 1U);
+    EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 TEST_F(SicherungenTest, What_the_controller_held_is_put_aside_whatever_the_image_in_use_holds) {

@@ -51,16 +51,23 @@ protected:
         if (!fenster)
             fenster.emplace(Berichtsumfeld{
                 .angaben =
-                    [] { return Berichtsangaben{.ausgestellt = "01.02.2026", .programmversion = "1.2.3"}; },
+                    [this] {
+                        return Berichtsangaben{.ausgestellt = ausgestellt, .programmversion = "1.2.3"};
+                    },
                 .name = "Halle 3",
                 .speichere =
                     [this](const auto& filter, const auto& name, const auto& bytes) {
                         gespeichert.push_back({filter, name, bytes});
                     },
                 .importiereText = [this] { modDaten::ErsetzeAbbild(importiert); },
+                .machePdf =
+                    [this](const auto& druck, const auto& titel) {
+                        return pdfGelingt ? AlsPdf(druck, titel) : QByteArray();
+                    },
                 .drucker = [this] { return drucker; },
                 .waehleDrucker =
-                    [this](QPrinter& gewaehlter) {
+                    [this](QPrinter& gewaehlter, const QWidget& ueber) {
+                        gefragtUeber = &ueber;
                         gewaehlter.setOutputFormat(QPrinter::PdfFormat);
                         gewaehlter.setOutputFileName(ordner.filePath(druckziel));
                         return druckt;
@@ -83,8 +90,11 @@ protected:
 
     std::vector<Dokument> gespeichert;
     Abbild importiert;
+    std::string ausgestellt = "01.02.2026";
     QStringList drucker{"Buero"};
+    const QWidget* gefragtUeber = nullptr; ///< the window above which a printer was chosen
     bool druckt = true;
+    bool pdfGelingt = true;
     QString druckziel = "gedruckt.pdf";
     QTemporaryDir ordner;
     std::optional<frmBericht> fenster;
@@ -126,11 +136,12 @@ TEST_F(FrmBerichtTest, The_number_of_pages_is_told_and_is_that_of_preview_and_fi
     EXPECT_EQ(Beschriftung(Fenster(), "lblSeiten"), QStringLiteral("Seiten: %1").arg(seiten));
 }
 
-TEST_F(FrmBerichtTest, Html_is_saved_as_the_document_and_is_the_same_each_time) {
+TEST_F(FrmBerichtTest, Html_is_saved_as_the_document_and_is_the_same_at_any_time) {
     const Dokument html = NachKlick("cmdHtml");
     EXPECT_EQ(html.name, "Halle 3.html");
     EXPECT_THAT(html.filter, StartsWith("HTML (*.html)|*.html|"));
     EXPECT_THAT(html.bytes, AllOf(StartsWith("<!DOCTYPE html>"), Not(HasSubstr("http"))));
+    ausgestellt = "02.02.2026";
     Klicke(Fenster(), "cmdHtml");
     EXPECT_EQ(gespeichert.at(1).bytes, html.bytes);
 }
@@ -140,6 +151,15 @@ TEST_F(FrmBerichtTest, Pdf_is_saved_with_a_title) {
     EXPECT_EQ(pdf.name, "Halle 3.pdf");
     EXPECT_THAT(pdf.filter, StartsWith("PDF (*.pdf)|*.pdf|"));
     EXPECT_THAT(pdf.bytes, StartsWith("%PDF-"));
+}
+
+TEST_F(FrmBerichtTest, A_pdf_that_cannot_be_made_is_told_and_no_empty_file_is_saved) {
+    pdfGelingt = false;
+    Klicke(Fenster(), "cmdPdf");
+    EXPECT_TRUE(gespeichert.empty());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text,
+              "Die PDF-Datei ließ sich nicht herstellen. Der Bericht lässt sich als HTML speichern.");
 }
 
 TEST_F(FrmBerichtTest, The_exported_text_is_the_configuration_without_measured_values) {
@@ -160,6 +180,7 @@ TEST_F(FrmBerichtTest, After_an_import_the_report_is_about_the_new_configuration
 TEST_F(FrmBerichtTest, Printing_paints_every_page) {
     Klicke(Fenster(), "cmdDrucken");
     const std::string gedruckt = Gedrucktes();
+    EXPECT_EQ(gefragtUeber, &Fenster());
     EXPECT_EQ(Pdfseiten(gedruckt), Pdfseiten(NachKlick("cmdPdf").bytes));
     EXPECT_GT(Pdfseiten(gedruckt), 0U);
     EXPECT_TRUE(umgebung.meldungen.empty());

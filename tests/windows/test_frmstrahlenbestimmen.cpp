@@ -1,4 +1,5 @@
 #include "frmStrahlenBestimmen.h"
+#include "pruefsicherungen.h"
 #include "strahlentest.h"
 #include "texte.h"
 
@@ -6,6 +7,14 @@ namespace varnoth {
 
 class frmStrahlenBestimmenTest : public pruefung::StrahlenTest {
 protected:
+    /// Gives the configuration in use changes that would be lost.
+    static Abbild MacheAenderung() {
+        modDaten::LadeStandardkonfiguration();
+        modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {16});
+        modDaten::SetzeGeaendert();
+        return modDaten::DasAbbild();
+    }
+
     frmStrahlenBestimmen dialog;
 };
 
@@ -44,6 +53,32 @@ TEST_F(frmStrahlenBestimmenTest, Four_times_128_beams_are_accepted) {
     KlickeOK(dialog);
     EXPECT_EQ(ImAbbild(), (std::vector{128, 128, 128, 128}));
     EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(frmStrahlenBestimmenTest, OK_puts_unsaved_changes_aside_first) {
+    pruefung::PruefSicherungen sicherungen;
+    const Abbild geaendertes = MacheAenderung();
+    KlickeOK(dialog);
+    ASSERT_EQ(sicherungen.gelegte.size(), 1U);
+    EXPECT_EQ(sicherungen.gelegte[0].second, geaendertes);
+    EXPECT_EQ(sicherungen.gelegte[0].first.angaben.anlass, Sicherungsanlass::VorNeuer);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(frmStrahlenBestimmenTest, Where_the_backup_fails_Cancel_keeps_the_changes_and_the_dialog_stays_open) {
+    pruefung::PruefSicherungen sicherungen;
+    sicherungen.fehler = "the disk is full";
+    const Abbild geaendertes = MacheAenderung();
+    umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+    dialog.show();
+    KlickeOK(dialog);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(modDaten::DasAbbild(), geaendertes);
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, "Die Änderungen konnten nicht gesichert werden: the disk is full");
+    KlickeOK(dialog);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(ImAbbild(), (std::vector{32, 32, 32, 32}));
 }
 
 TEST_F(frmStrahlenBestimmenTest, One_beam_more_is_refused_with_a_warning_and_the_dialog_stays_open) {

@@ -15,9 +15,12 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrinter>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
 #include <QTreeWidget>
@@ -337,6 +340,58 @@ TEST_F(frmVergleichTest, Printing_without_a_printer_says_so) {
     Druecke("cmdDrucken");
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_TRUE(umgebung.meldungen[0].text.starts_with("Es ist kein Drucker eingerichtet."));
+}
+
+TEST(Vergleichspaar, Two_files_of_one_name_are_told_apart_by_their_folders) {
+    Vergleichspaar paar;
+    paar.Setze(Seitenwahl::A, Datei(Geraet()));
+    Vergleichsseite andere = Datei(Geraet());
+    andere.einzelheit = "/plant/old/line.con";
+    paar.Setze(Seitenwahl::B, andere);
+    EXPECT_EQ(paar.Titel(), "Vergleich: /plant/line.con – /plant/old/line.con");
+    andere.einzelheit = "/plant/old/spare.con";
+    paar.Setze(Seitenwahl::B, andere);
+    EXPECT_EQ(paar.Titel(), "Vergleich: line.con – spare.con");
+}
+
+class Vergleichsdruck : public testing::Test {
+protected:
+    /// Prints a page into a file of the temporary folder.
+    void Drucke(const char* ziel) {
+        DruckeSeite("<h2>Vergleich</h2>", "Vergleich: a - b",
+                    {.drucker = [] { return QStringList{"Buero"}; },
+                     .waehle =
+                         [&](QPrinter& drucker) {
+                             drucker.setOutputFormat(QPrinter::PdfFormat);
+                             drucker.setOutputFileName(ordner.filePath(ziel));
+                             return gewaehlt;
+                         }});
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    QTemporaryDir ordner;
+    bool gewaehlt = true;
+};
+
+TEST_F(Vergleichsdruck, A_printer_gets_the_page) {
+    Drucke("a.pdf");
+    EXPECT_GT(QFileInfo(ordner.filePath("a.pdf")).size(), 0);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Vergleichsdruck, A_printer_that_was_not_chosen_gets_nothing) {
+    gewaehlt = false;
+    Drucke("a.pdf");
+    EXPECT_FALSE(QFileInfo::exists(ordner.filePath("a.pdf")));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Vergleichsdruck, A_printer_that_takes_nothing_is_told) {
+    pruefung::ErwarteWarnung("QPainter::begin");
+    Drucke("gibt/es/nicht.pdf");
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text,
+              "Der Drucker hat den Vergleich nicht angenommen. Ist er eingeschaltet und bereit?");
 }
 
 TEST_F(frmVergleichTest, The_printed_page_shows_what_a_file_is_called_letter_by_letter) {

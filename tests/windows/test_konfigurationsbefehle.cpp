@@ -115,14 +115,21 @@ TEST_F(Sicherungsfaelle, A_file_that_cannot_be_read_replaces_nothing_and_puts_no
     EXPECT_TRUE(sicherungen.gelegte.empty());
 }
 
-TEST_F(Sicherungsfaelle, A_backup_that_fails_does_not_keep_a_file_from_being_opened) {
+TEST_F(Sicherungsfaelle, Where_the_backup_fails_Cancel_keeps_the_changes_and_OK_opens_the_file) {
     const std::string pfad = Gespeichert("a.con");
+    const Abbild inDatei = modDaten::DasAbbild();
+    modDaten::SetDateiname("alt.con");
     Aendere();
+    const Abbild geaendertes = modDaten::DasAbbild();
     sicherungen.fehler = "the disk is full";
+    umgebung.antworten = {Antwort::Abbrechen, Antwort::Ok};
+    EXPECT_FALSE(LadeDatei(pfad));
+    EXPECT_EQ(modDaten::DasAbbild(), geaendertes);
+    EXPECT_EQ(modDaten::GetDateiname(), "alt.con");
     EXPECT_TRUE(LadeDatei(pfad));
-    EXPECT_TRUE(umgebung.meldungen.empty());
-    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1],
-              "Die Änderungen konnten nicht gesichert werden: the disk is full");
+    EXPECT_EQ(modDaten::DasAbbild(), inDatei);
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_EQ(umgebung.meldungen[0].text, "Die Änderungen konnten nicht gesichert werden: the disk is full");
 }
 
 TEST_F(Speichern, The_dialog_bears_title_and_filters_and_starts_in_the_programs_folder) {
@@ -412,6 +419,19 @@ TEST_F(Oeffnen, A_good_file_replaces_the_image_and_becomes_the_current_file) {
     EXPECT_EQ(modDaten::SpeichereKonfigurationsdatei(), erwartet);
     EXPECT_EQ(modDaten::GetDateiname(), pfad);
     EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(Oeffnen, A_file_that_is_only_read_becomes_neither_the_current_file_nor_one_used_last) {
+    const std::string aktuelle = Gespeichert("a.con");
+    LadeDatei(aktuelle);
+    EXPECT_TRUE(QDir(ordner.path()).mkdir("sicherungen"));
+    const std::string sicherung = Gespeichert("sicherungen/b.con");
+    EXPECT_TRUE(LadeDatei(sicherung, Dateirolle::Vorlage));
+    EXPECT_EQ(modDaten::GetDateiname(), "");
+    EXPECT_EQ(LetzteDateien(), std::vector{aktuelle});
+    KonfigurationSpeichernUnter();
+    EXPECT_EQ(gefragt.at(0).name, "");
+    EXPECT_EQ(gefragt.at(0).ordner, Pfad("") + "/");
 }
 
 TEST_F(Oeffnen, A_loaded_file_counts_as_changed_so_that_closing_asks_to_save) {

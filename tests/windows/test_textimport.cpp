@@ -126,11 +126,16 @@ TEST_F(TextimportTest, Of_several_wrong_lines_the_others_stand_in_the_details) {
     EXPECT_THAT(umgebung.meldungen[0].details, testing::ContainsRegex("Zeile [0-9]+.*\nZeile [0-9]+"));
 }
 
-TEST_F(TextimportTest, An_implausible_value_is_refused_and_no_default_is_loaded) {
+TEST_F(TextimportTest, Implausible_values_are_refused_and_named_and_no_default_is_loaded) {
     Abbild abbild = MitStrahlen(64);
     ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Aufloesung, 6, 0));
+    ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Aufloesung, 99, 2));
     Schreibe(Standtext(abbild));
     ErwarteAblehnung("außerhalb dessen, was ein Steuergerät annimmt");
+    EXPECT_TRUE(umgebung.meldungen[0].text.ends_with("die Konfiguration bleibt wie sie ist.\n"
+                                                     "Optikteil 1, Auflösung: 6 (0x6)\n"
+                                                     "Optikteil 3, Auflösung: 99 (0x63)"))
+        << umgebung.meldungen[0].text;
 }
 
 TEST_F(TextimportTest, A_file_that_cannot_be_read_is_told) {

@@ -126,13 +126,26 @@ TEST_F(SicherungBeimVerbinden, What_a_cancelled_connection_left_is_not_put_aside
     EXPECT_TRUE(sicherungen.gelegte.empty());
 }
 
-TEST_F(SicherungBeimVerbinden, A_backup_that_fails_is_told_at_the_end_and_stops_nothing) {
+TEST_F(SicherungBeimVerbinden, Where_the_backup_fails_Cancel_leaves_everything_as_it_is) {
+    modDaten::SetzeSpezifischeDaten(spezifisch::Reichweite, 1, 0, {4});
+    const Abbild geaendertes = modDaten::DasAbbild();
+    sicherungen.fehler = "no room";
+    umgebung.antworten = {Antwort::Abbrechen};
+    ziel.ablauf.clear();
+    ziel.laeuft = true;
+    EXPECT_TRUE(Autostart(ziel));
+    EXPECT_EQ(ziel.ablauf, "");
+    EXPECT_EQ(modDaten::DasAbbild(), geaendertes);
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, "Die Änderungen konnten nicht gesichert werden: no room");
+}
+
+TEST_F(SicherungBeimVerbinden, Where_the_backup_fails_OK_connects_all_the_same) {
     modDaten::SetzeSpezifischeDaten(spezifisch::Reichweite, 1, 0, {4});
     sicherungen.fehler = "no room";
     EXPECT_TRUE(Autostart(ziel));
-    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1],
-              "Die Änderungen konnten nicht gesichert werden: no room");
-    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_EQ(modDaten::HoleRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Reichweite), 0);
+    EXPECT_EQ(umgebung.meldungen.size(), 1U);
 }
 
 TEST_F(VerbindungTest, The_image_is_cleared_before_anything_is_read) {

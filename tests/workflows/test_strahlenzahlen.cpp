@@ -1,6 +1,5 @@
 #include "strahlenzahlen.h"
 
-#include "pruefsicherungen.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
@@ -98,17 +97,6 @@ TEST_F(StrahlenzahlenTest, Apart_from_the_beam_counts_a_new_configuration_is_the
     erwartet[stelle] = 7;
     erwartet[stelle + 2] = 9;
     EXPECT_EQ(GanzesAbbild(), erwartet);
-}
-
-TEST_F(StrahlenzahlenTest, A_new_configuration_puts_unsaved_changes_aside_first) {
-    pruefung::PruefSicherungen sicherungen;
-    VerdirbAbbild();
-    modDaten::SetzeGeaendert();
-    const Abbild geaendertes = modDaten::DasAbbild();
-    ErstelleKonfiguration({1, 0, 0, 0});
-    ASSERT_EQ(sicherungen.gelegte.size(), 1U);
-    EXPECT_EQ(sicherungen.gelegte[0].second, geaendertes);
-    EXPECT_EQ(sicherungen.gelegte[0].first.angaben.anlass, Sicherungsanlass::VorNeuer);
 }
 
 TEST_F(StrahlenzahlenTest, A_new_configuration_counts_as_changed) {
