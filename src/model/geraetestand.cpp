@@ -59,6 +59,13 @@ void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
     Merke(std::move(stand), seriennummer);
 }
 
+void Antwortet(const std::string& seriennummer) {
+    if (!derStand || derStand->seriennummer == seriennummer)
+        return;
+    derStand.reset();
+    dieZustaende.reset();
+}
+
 std::optional<Teilzustaende> HoleTeilzustaende() {
     return dieZustaende;
 }

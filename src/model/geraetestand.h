@@ -45,6 +45,9 @@ void MerkeGelesen(const Abbild& abbild, const std::string& seriennummer);
 void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
                       const std::string& seriennummer);
 
+/// After an identification: what is known of a controller with another serial number is not known of this one.
+void Antwortet(const std::string& seriennummer);
+
 /// What the optical parts last said of their state in this connection; nothing before live data has ended.
 [[nodiscard]] std::optional<Teilzustaende> HoleTeilzustaende();
 

@@ -74,6 +74,17 @@ TEST(Geraetestand, What_another_controller_held_does_not_stand_in_for_this_one) 
     EXPECT_EQ(HoleGeraetestand()->seriennummer, "4712");
 }
 
+TEST(Geraetestand, What_a_controller_held_is_forgotten_when_one_with_another_number_answers) {
+    MerkeGelesen(MitAusgang(3), "4711");
+    MerkeTeilzustaende({}, 1, {});
+    Antwortet("4711");
+    EXPECT_EQ(GemerkterAusgang(), 3);
+    EXPECT_TRUE(HoleTeilzustaende());
+    Antwortet("4712");
+    EXPECT_FALSE(HoleGeraetestand());
+    EXPECT_FALSE(HoleTeilzustaende());
+}
+
 TEST(Geraetestand, A_new_connection_makes_what_is_known_older_than_itself_until_it_is_read_again) {
     BeginneVerbindung();
     MerkeGelesen(MitAusgang(3), "4711");
