@@ -91,6 +91,20 @@ TEST(Aenderungsbefund, What_is_older_than_this_connection_is_said_to_be) {
     EXPECT_NE(BefundVorDemSchreiben({.abbild = {}}, stand, "").text.find("älter"), std::string::npos);
 }
 
+TEST(Aenderungsbefund, What_was_only_written_and_not_read_back_is_said_of_what_this_write_sends) {
+    Geraetestand stand = Stand({});
+    stand.ungeprueft = {Reichweite, Pause};
+    const auto text = [&stand](const Schreibauftrag& auftrag) {
+        return BefundVorDemSchreiben(auftrag, stand, "today").text;
+    };
+    EXPECT_TRUE(text({.abbild = {}})
+                    .ends_with("2 Einstellungen davon wurden zuletzt geschrieben, aber nicht zurückgelesen."));
+    EXPECT_TRUE(text({.abbild = {}, .stellen = {Pause}})
+                    .ends_with("1 Einstellung davon wurde zuletzt geschrieben, aber nicht zurückgelesen."));
+    stand.ungeprueft.clear();
+    EXPECT_EQ(text({.abbild = {}}).find("zurückgelesen"), std::string::npos);
+}
+
 TEST(Aenderungsbefund, English_texts_stand_while_the_language_is_English) {
     SetzeSprachoffset(Englisch);
     const auto befund = BefundVorDemSchreiben({.abbild = Mit(Reichweite, 3)}, Stand({}), "today");
