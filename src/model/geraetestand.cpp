@@ -76,6 +76,16 @@ void MerkeZurueckgelesen(const Abbild& abbild, const Parametermenge& gelesenes,
     Merke(std::move(stand), seriennummer, allesGelesen);
 }
 
+void Vergiss(const Parametermenge& stellen) {
+    if (!derStand)
+        return;
+    for (const Parameterstelle& stelle : stellen) {
+        if (IstLesbar(Beschreibung(stelle.bereich, stelle.adresse)))
+            derStand->unbekannt.insert(stelle);
+        derStand->ungeprueft.erase(stelle);
+    }
+}
+
 void Antwortet(const std::string& seriennummer) {
     if (!derStand || derStand->seriennummer == seriennummer)
         return;

@@ -20,8 +20,8 @@ struct Geraetestand {
     std::chrono::system_clock::time_point zeit; ///< when the last read or write was done
     /// When the read was done that tells what is neither unknown nor unchecked; nothing before any.
     std::optional<std::chrono::system_clock::time_point> gelesen;
-    std::string seriennummer;                   ///< UTF-8; of the controller that answered
-    bool ausDieserVerbindung = true;            ///< no connection was begun since
+    std::string seriennummer;        ///< UTF-8; of the controller that answered
+    bool ausDieserVerbindung = true; ///< no connection was begun since
 
     bool IstVollstaendig() const { return unbekannt.empty(); }
     /// Whether all of it was read from the controller.
@@ -47,8 +47,8 @@ namespace varnoth::modGeraetestand {
 void MerkeGelesen(const Abbild& abbild, const std::string& seriennummer);
 
 /// After a write: the controller has confirmed the image's values of what was written (of each register the
-/// 16 bits that travel), which is less than a read of them. Of the rest it holds what was known before, unless
-/// that was another controller's.
+/// 16 bits that travel), which is less than a read of them. Of the rest it holds what was known before,
+/// unless that was another controller's.
 void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
                       const std::string& seriennummer);
 
@@ -57,7 +57,12 @@ void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
 void MerkeZurueckgelesen(const Abbild& abbild, const Parametermenge& gelesenes,
                          const std::string& seriennummer);
 
-/// After an identification: what is known of a controller with another serial number is not known of this one.
+/// After something else has written these parameters, or may have: what the controller holds of them is not
+/// known any more.
+void Vergiss(const Parametermenge& stellen);
+
+/// After an identification: what is known of a controller with another serial number is not known of this
+/// one.
 void Antwortet(const std::string& seriennummer);
 
 /// What the optical parts last said of their state in this connection; nothing before live data has ended.
@@ -66,8 +71,8 @@ void Antwortet(const std::string& seriennummer);
 /// After live data of the first so many parts, whose last values, of that time, the image holds.
 void MerkeTeilzustaende(const Abbild& abbild, int anzahl, std::chrono::system_clock::time_point zeit);
 
-/// A new connection begins: what is known of the configuration is from an earlier one, the states are not
-/// known any more.
+/// A new connection begins, or the controller starts anew: what is known of the configuration is from before,
+/// the states are not known any more.
 void BeginneVerbindung();
 
 } // namespace varnoth::modGeraetestand

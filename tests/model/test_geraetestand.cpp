@@ -99,6 +99,19 @@ TEST(Geraetestand, A_controller_that_was_never_read_has_no_time_of_a_read) {
     EXPECT_FALSE(HoleGeraetestand()->IstGelesen()) << "the rest is not known";
 }
 
+TEST(Geraetestand, What_something_else_has_written_is_not_known_until_it_is_read_back) {
+    const Parameterstelle kommando{Global, global::Kommando};
+    Vergiss({Ausgang});
+    EXPECT_FALSE(HoleGeraetestand());
+    MerkeGelesen(MitAusgang(3), "4711");
+    MerkeGeschrieben(MitAusgang(3), {Ausgang}, "4711");
+    Vergiss({Ausgang, kommando});
+    EXPECT_EQ(HoleGeraetestand()->unbekannt, Parametermenge{Ausgang}) << "a command is no knowledge";
+    EXPECT_TRUE(HoleGeraetestand()->ungeprueft.empty());
+    MerkeZurueckgelesen(MitAusgang(5), {Ausgang}, "4711");
+    EXPECT_TRUE(HoleGeraetestand()->IstGelesen());
+}
+
 TEST(Geraetestand, What_a_controller_held_is_forgotten_when_one_with_another_number_answers) {
     MerkeGelesen(MitAusgang(3), "4711");
     MerkeTeilzustaende({}, 1, {});

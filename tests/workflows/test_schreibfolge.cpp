@@ -97,8 +97,9 @@ TEST(Aenderungsbefund, What_was_only_written_and_not_read_back_is_said_of_what_t
     const auto text = [&stand](const Schreibauftrag& auftrag) {
         return BefundVorDemSchreiben(auftrag, stand, "today").text;
     };
-    EXPECT_TRUE(text({.abbild = {}})
-                    .ends_with("2 Einstellungen davon wurden zuletzt geschrieben, aber nicht zurückgelesen."));
+    EXPECT_TRUE(
+        text({.abbild = {}})
+            .ends_with("2 Einstellungen davon wurden zuletzt geschrieben, aber nicht zurückgelesen."));
     EXPECT_TRUE(text({.abbild = {}, .stellen = {Pause}})
                     .ends_with("1 Einstellung davon wurde zuletzt geschrieben, aber nicht zurückgelesen."));
     stand.ungeprueft.clear();
