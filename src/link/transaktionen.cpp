@@ -2,9 +2,11 @@
 
 #include "austausch.h"
 #include "erkenner.h"
+#include "geraetestand.h"
 #include "rahmen.h"
 #include "registeradressen.h"
 #include "schnittstelle.h"
+#include "seriennummer.h"
 #include "speicherbereich.h"
 #include "startzustand.h"
 
@@ -105,6 +107,7 @@ Boolean RTUModeH11IndentifikationsAnforderung() {
             return false;
         VerteileIdenttext(erkenner.Text(), ident);
         ident.gueltig = True;
+        modGeraetestand::Antwortet(GeraeteSeriennummer());
         return true;
     });
 }

@@ -29,8 +29,18 @@ Werte WieImGeraet(Werte werte) {
     return werte;
 }
 
-void Merke(Geraetestand stand, const std::string& seriennummer) {
+void Uebernimm(Geraetestand& stand, const Abbild& abbild, const Parametermenge& stellen) {
+    for (const auto& [bereich, adresse, teil] : stellen) {
+        std::ignore = stand.abbild.SetzeParameter(
+            bereich, adresse, WieImGeraet(abbild.HoleParameter(bereich, adresse, teil)), teil);
+        stand.unbekannt.erase({bereich, adresse, teil});
+    }
+}
+
+void Merke(Geraetestand stand, const std::string& seriennummer, bool ganzGelesen) {
     stand.zeit = std::chrono::system_clock::now();
+    if (ganzGelesen)
+        stand.gelesen = stand.zeit;
     stand.seriennummer = seriennummer;
     stand.ausDieserVerbindung = true;
     derStand = std::move(stand);
@@ -45,18 +55,42 @@ std::optional<Geraetestand> HoleGeraetestand() {
 void MerkeGelesen(const Abbild& abbild, const std::string& seriennummer) {
     Geraetestand stand;
     stand.abbild = abbild;
-    Merke(std::move(stand), seriennummer);
+    Merke(std::move(stand), seriennummer, true);
 }
 
 void MerkeGeschrieben(const Abbild& abbild, const Parametermenge& geschriebenes,
                       const std::string& seriennummer) {
     Geraetestand stand = StandVor(seriennummer);
-    for (const auto& [bereich, adresse, teil] : geschriebenes) {
-        std::ignore = stand.abbild.SetzeParameter(
-            bereich, adresse, WieImGeraet(abbild.HoleParameter(bereich, adresse, teil)), teil);
-        stand.unbekannt.erase({bereich, adresse, teil});
+    Uebernimm(stand, abbild, geschriebenes);
+    stand.ungeprueft.insert(geschriebenes.begin(), geschriebenes.end());
+    Merke(std::move(stand), seriennummer, false);
+}
+
+void MerkeZurueckgelesen(const Abbild& abbild, const Parametermenge& gelesenes,
+                         const std::string& seriennummer) {
+    Geraetestand stand = StandVor(seriennummer);
+    Uebernimm(stand, abbild, gelesenes);
+    for (const Parameterstelle& stelle : gelesenes)
+        stand.ungeprueft.erase(stelle);
+    const bool allesGelesen = stand.ungeprueft.empty();
+    Merke(std::move(stand), seriennummer, allesGelesen);
+}
+
+void Vergiss(const Parametermenge& stellen) {
+    if (!derStand)
+        return;
+    for (const Parameterstelle& stelle : stellen) {
+        if (IstLesbar(Beschreibung(stelle.bereich, stelle.adresse)))
+            derStand->unbekannt.insert(stelle);
+        derStand->ungeprueft.erase(stelle);
     }
-    Merke(std::move(stand), seriennummer);
+}
+
+void Antwortet(const std::string& seriennummer) {
+    if (!derStand || derStand->seriennummer == seriennummer)
+        return;
+    derStand.reset();
+    dieZustaende.reset();
 }
 
 std::optional<Teilzustaende> HoleTeilzustaende() {

@@ -15,6 +15,8 @@ constexpr std::int16_t TextStand = 9576;
 constexpr std::int16_t TextOhneNummer = 9577;
 constexpr std::int16_t TextAelter = 9578;
 constexpr std::int16_t TextUngespeichert = 9579;
+constexpr std::int16_t TextSeitherGeschrieben = 9898;
+constexpr std::int16_t TextNurGeschrieben = 9907;
 
 Vergleichsseite InBearbeitung() {
     std::string einzelheit = modDaten::GetDateiname();
@@ -27,7 +29,9 @@ Vergleichsseite ZuletztGelesen() {
     const auto stand = modGeraetestand::HoleGeraetestand();
     if (!stand)
         return {Vergleichsquelle::ZuletztGelesen, {}, {}, AlleStellen(IstLesbar)};
-    std::string einzelheit = Lesezeile(stand->zeit, stand->seriennummer);
+    std::string einzelheit = Lesezeile(stand->gelesen.value_or(stand->zeit), stand->seriennummer);
+    if (!stand->ungeprueft.empty())
+        einzelheit += ", " + LadeText(stand->gelesen ? TextSeitherGeschrieben : TextNurGeschrieben);
     if (!stand->ausDieserVerbindung)
         einzelheit += ", " + LadeText(TextAelter);
     return {Vergleichsquelle::ZuletztGelesen, einzelheit, stand->abbild, stand->unbekannt};

@@ -55,10 +55,10 @@ void NenneTeilzustaende(Berichtsangaben& angaben) {
 /// Where the configuration comes from, if it is still the one that the controller held when it was read.
 void NenneGeraet(Berichtsangaben& angaben) {
     const auto stand = modGeraetestand::HoleGeraetestand();
-    if (!stand || !stand->IstVollstaendig() ||
+    if (!stand || !stand->IstGelesen() ||
         OhneMomentanes(stand->abbild) != OhneMomentanes(modDaten::DasAbbild()))
         return;
-    angaben.quelle = LadeTextMit(TextGelesen, {Zeittext(stand->zeit).toStdString()});
+    angaben.quelle = LadeTextMit(TextGelesen, {Zeittext(*stand->gelesen).toStdString()});
     angaben.geraetezustand =
         Klartext(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus,
                  stand->abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus));

@@ -1,6 +1,7 @@
 #include "einzelwert.h"
 
-#include "speicherbereich.h"
+#include "geraetestand.h"
+#include "registeradressen.h"
 #include "transaktionen.h"
 #include "zahlen.h"
 
@@ -31,6 +32,25 @@ std::optional<std::int32_t> GanzeZahl(std::string_view text, std::int32_t kleins
     if (zahl < kleinste || zahl > groesste || IstUebergelaufen(text))
         return std::nullopt;
     return static_cast<std::int32_t>(zahl);
+}
+
+/// The parameter that a register of the controller belongs to; none for one that no configuration holds.
+Parametermenge ParameterAn(std::uint16_t geraeteadresse, int optikteil) {
+    Parametermenge gefunden;
+    for (const Parameterstelle& stelle : AlleStellen(IstLesbar)) {
+        const int abstand = geraeteadresse - Geraeteadresse(stelle.bereich, stelle.adresse);
+        const bool inDiesemTeil = Exemplare(stelle.bereich) == 1 || stelle.optikteil == optikteil;
+        if (inDiesemTeil && abstand >= 0 && abstand < Beschreibung(stelle.bereich, stelle.adresse).Laenge)
+            gefunden.insert(stelle);
+    }
+    return gefunden;
+}
+
+/// Even without a confirmation the controller may have taken the value; a command may have started it anew.
+void VergissGeschriebenes(std::uint16_t geraeteadresse, int optikteil) {
+    modGeraetestand::Vergiss(ParameterAn(geraeteadresse, optikteil));
+    if (geraeteadresse == Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, global::Kommando))
+        modGeraetestand::BeginneVerbindung();
 }
 
 } // namespace
@@ -64,8 +84,10 @@ std::string LiesEinzelwert(const Einzelregister& wahl) {
 std::string SchreibeEinzelwert(const Einzelregister& wahl, std::string_view inhalt) {
     const auto adresse = Registeradresse(wahl);
     const auto wert = Registerwert(inhalt);
-    const bool geschrieben = adresse && wert && modModbus::WaehleOptikteil(wahl.optikteil) != False &&
-                             modModbus::RTUModeH10SchreibenAnforderung(*adresse, 1, {*wert}) != False;
+    if (!adresse || !wert || modModbus::WaehleOptikteil(wahl.optikteil) == False)
+        return Fehlanzeige;
+    const bool geschrieben = modModbus::RTUModeH10SchreibenAnforderung(*adresse, 1, {*wert}) != False;
+    VergissGeschriebenes(*adresse, wahl.optikteil);
     return geschrieben ? Bestaetigung : Fehlanzeige;
 }
 

@@ -1,6 +1,7 @@
 #include "hardwareinitialisierung.h"
 
 #include "einstellungen.h"
+#include "geraetestand.h"
 #include "kommandoregister.h"
 #include "registeradressen.h"
 #include "registerbeschreibung.h"
@@ -101,6 +102,7 @@ bool FuehreAus(Initialisierungsanzeige& anzeige, const Schritt& schritt, const W
     const bool geschrieben = VersucheBisErfolg(
         anzeige, [&](int versuch) { anzeige.ZeigeVersuch(versuch); },
         [&] { return modModbus::RTUModeH10SchreibenAnforderung(adresse, anzahl, werte); });
+    modGeraetestand::Vergiss({{Speicherbereich::GlobaleGeraetedaten, schritt.adresse}});
     if (geschrieben)
         schritt.merke(daten);
     return geschrieben;

@@ -1,5 +1,6 @@
 #include "hardwarereset.h"
 
+#include "geraetestand.h"
 #include "kommandoregister.h"
 #include "versuche.h"
 
@@ -10,7 +11,11 @@ bool SetzeHardwareZurueck(Resetanzeige& anzeige) {
         if (versuch > 1)
             anzeige.ZeigeWiederholung(versuch);
     };
-    return VersucheBisErfolg(anzeige, zeige, [] { return SendeKommando(Kommando::StarteNeu); });
+    const bool bestaetigt =
+        VersucheBisErfolg(anzeige, zeige, [] { return SendeKommando(Kommando::StarteNeu); });
+    // Even without a confirmation the controller may have started anew.
+    modGeraetestand::BeginneVerbindung();
+    return bestaetigt;
 }
 
 } // namespace varnoth

@@ -3,6 +3,7 @@
 #include "klartext.h"
 #include "registeradressen.h"
 #include "textmitwerten.h"
+#include "transaktionen.h"
 
 namespace varnoth {
 
@@ -28,23 +29,31 @@ std::int32_t Wert(const Abbild& abbild, std::int16_t adresse) {
     return abbild.HoleRegister(Kommunikation, adresse) & 0xFFFF;
 }
 
-std::string Worte(const Abbild& abbild, std::int16_t adresse) {
-    return Klartext(Kommunikation, adresse, {Wert(abbild, adresse)}, LesartFuer(abbild, Kommunikation));
+std::string Worte(const Abbild& abbild, std::int16_t adresse, std::int32_t wert) {
+    return Klartext(Kommunikation, adresse, {wert}, LesartFuer(abbild, Kommunikation));
+}
+
+/// What the controller holds as far as it is known; its address also from the identification alone.
+std::optional<std::int32_t> Bisheriger(std::int16_t adresse, const std::optional<Geraetestand>& stand) {
+    if (stand && !stand->unbekannt.contains({Kommunikation, adresse, 0}))
+        return Wert(stand->abbild, adresse);
+    if (adresse == kommunikation::Stationsadresse && modModbus::GetIdentGueltig() != False)
+        return modModbus::GetSlaveAdresse();
+    return std::nullopt;
 }
 
 } // namespace
 
 std::string Leitungswarnung(const Schreibauftrag& auftrag, const std::optional<Geraetestand>& stand) {
     std::string warnung;
-    if (!stand)
-        return warnung;
     for (const auto& [adresse, text] : DieRegister) {
-        const Parameterstelle stelle{Kommunikation, adresse, 0};
-        if (!auftrag.stellen.contains(stelle) || stand->unbekannt.contains(stelle) ||
-            Wert(auftrag.abbild, adresse) == Wert(stand->abbild, adresse))
+        const auto bisheriger = Bisheriger(adresse, stand);
+        const std::int32_t neuer = Wert(auftrag.abbild, adresse);
+        if (!auftrag.stellen.contains({Kommunikation, adresse, 0}) || !bisheriger || *bisheriger == neuer)
             continue;
         warnung += (warnung.empty() ? "" : "\n") +
-                   LadeTextMit(text, {Worte(stand->abbild, adresse), Worte(auftrag.abbild, adresse)});
+                   LadeTextMit(text, {Worte(stand ? stand->abbild : auftrag.abbild, adresse, *bisheriger),
+                                      Worte(auftrag.abbild, adresse, neuer)});
     }
     return warnung;
 }

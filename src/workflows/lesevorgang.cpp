@@ -78,9 +78,11 @@ bool LiesGeraeteabzug(Transferanzeige& anzeige, Geraeteabzug& abzug) {
     Abzugstransfer transfer(anzeige, inDenAbzug);
     const bool vollstaendig = transfer.UebertrageAlles();
     KorrigiereStrahlenzahlen(abzug.abbild);
-    if (vollstaendig)
-        anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
-    return vollstaendig;
+    if (!vollstaendig)
+        return false;
+    modGeraetestand::MerkeGelesen(abzug.abbild, GeraeteSeriennummer());
+    anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
+    return true;
 }
 
 bool AutosendWaehlbar(std::int32_t register74) {

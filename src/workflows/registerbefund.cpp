@@ -7,6 +7,8 @@
 #include "vergleich.h"
 #include "vergleichsworte.h"
 
+#include <algorithm>
+
 namespace varnoth {
 
 namespace {
@@ -44,6 +46,8 @@ constexpr std::int16_t TextEineAbweichend = 9895;
 constexpr std::int16_t TextEineNichtVergleichbar = 9896;
 constexpr std::int16_t TextEinRegisterNichtVergleichbar = 9897;
 constexpr std::int16_t TextPruefsatzEines = 9899;
+constexpr std::int16_t TextNurGeschrieben = 9908;
+constexpr std::int16_t TextNurGeschriebenEine = 9909;
 
 /// A register keeps 16 bits, whatever an image holds.
 std::string Worte(const Abbild& abbild, const Parameterstelle& stelle) {
@@ -69,6 +73,13 @@ Registerzeile Zeile(const Parameterstelle& stelle, std::string links, std::strin
             .ort = Registertext(stelle.bereich, stelle.adresse)};
 }
 
+/// How many of the compared parameters the controller has confirmed, but not been asked for since.
+int AnzahlUngepruefter(const Vergleichsergebnis& vergleich, const Geraetestand& stand) {
+    return static_cast<int>(std::ranges::count_if(vergleich.zeilen, [&stand](const Vergleichszeile& zeile) {
+        return stand.ungeprueft.contains(zeile.stelle);
+    }));
+}
+
 std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetestand& stand,
                            const std::string& wann) {
     const int verschieden = vergleich.Anzahl(Vergleichsklasse::Verschieden);
@@ -78,6 +89,8 @@ std::string Aenderungstext(const Vergleichsergebnis& vergleich, const Geraetesta
                            : LadeTextMit(TextKeineAenderung, {wann});
     if (unbekannt > 0)
         text += "\n" + LadeAnzahltext(TextTeilweiseUnbekanntEine, TextTeilweiseUnbekannt, unbekannt);
+    if (const int ungeprueft = AnzahlUngepruefter(vergleich, stand); ungeprueft > 0)
+        text += "\n" + LadeAnzahltext(TextNurGeschriebenEine, TextNurGeschrieben, ungeprueft);
     if (!stand.ausDieserVerbindung)
         text += "\n" + LadeText(TextAelter);
     return text;

@@ -60,7 +60,7 @@ int GleicheRegister(const Werte& gemeinte, const Werte& gelesene) {
 bool LiesZurueck(Transferanzeige& anzeige, const Parametermenge& stellen, Ruecklesung& ruecklesung) {
     const bool vollstaendig = Ruecklesetransfer(anzeige, stellen, ruecklesung).UebertrageAlles();
     if (!ruecklesung.gelesen.empty())
-        modGeraetestand::MerkeGeschrieben(ruecklesung.abbild, ruecklesung.gelesen, GeraeteSeriennummer());
+        modGeraetestand::MerkeZurueckgelesen(ruecklesung.abbild, ruecklesung.gelesen, GeraeteSeriennummer());
     if (vollstaendig)
         anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
     return vollstaendig;

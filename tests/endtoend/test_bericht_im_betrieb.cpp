@@ -3,6 +3,7 @@
 #include "programmtest.h"
 
 #include "frmBericht.h"
+#include "geraetestand.h"
 #include "polling.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -50,6 +51,15 @@ TEST_F(BerichtImBetrieb,
     const std::string html = Bericht();
     EXPECT_THAT(html, Not(HasSubstr("gelesen am")));
     EXPECT_THAT(html, Not(HasSubstr("Zustand")));
+}
+
+TEST_F(BerichtImBetrieb, What_was_only_written_is_not_called_read_from_the_controller) {
+    GeheLive({"--beams", "32,16,0,0"});
+    ASSERT_TRUE(FuehreAus("mnuMessdatenVisualisierenStop"));
+    modGeraetestand::MerkeGeschrieben(modDaten::DasAbbild(), AlleStellen(IstSchreibbar), "SIM-0001");
+    EXPECT_THAT(Bericht(), Not(HasSubstr("gelesen am")));
+    modGeraetestand::MerkeZurueckgelesen(modDaten::DasAbbild(), AlleStellen(IstSchreibbar), "SIM-0001");
+    EXPECT_THAT(Bericht(), HasSubstr("gelesen am"));
 }
 
 TEST_F(BerichtImBetrieb, A_new_connection_that_came_to_nothing_leaves_no_state_behind) {

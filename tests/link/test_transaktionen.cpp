@@ -1,5 +1,6 @@
 #include "transaktionen.h"
 
+#include "geraetestand.h"
 #include "pruefgeraet.h"
 #include "schnittstelle.h"
 
@@ -173,6 +174,16 @@ TEST_F(TransaktionenTest, An_identification_fills_the_record) {
     EXPECT_EQ(GetIdentText1(), "Varnoth");
     EXPECT_EQ(GetIdentText2(), "4711");
     EXPECT_EQ(GetIdentText3(), "(C) 2009");
+}
+
+TEST_F(TransaktionenTest, What_another_controller_held_does_not_count_once_this_one_has_named_itself) {
+    modGeraetestand::MerkeGelesen({}, "4711");
+    pruefung::PruefGeraet geraet(port);
+    ASSERT_EQ(RTUModeH11IndentifikationsAnforderung(), True);
+    EXPECT_TRUE(modGeraetestand::HoleGeraetestand());
+    geraet.identtext = "Varnoth;4712;(C)";
+    ASSERT_EQ(RTUModeH11IndentifikationsAnforderung(), True);
+    EXPECT_FALSE(modGeraetestand::HoleGeraetestand());
 }
 
 TEST_F(TransaktionenTest, A_text_of_two_fields_leaves_the_third_empty) {

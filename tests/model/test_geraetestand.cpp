@@ -74,6 +74,55 @@ TEST(Geraetestand, What_another_controller_held_does_not_stand_in_for_this_one) 
     EXPECT_EQ(HoleGeraetestand()->seriennummer, "4712");
 }
 
+TEST(Geraetestand, What_was_only_written_does_not_count_as_read_until_it_is_read_back) {
+    const Parameterstelle reichweite{Spezifisch, spezifisch::Reichweite, 3};
+    MerkeGelesen(MitAusgang(3), "4711");
+    EXPECT_TRUE(HoleGeraetestand()->IstGelesen());
+    const auto gelesen = HoleGeraetestand()->gelesen;
+    MerkeGeschrieben(MitAusgang(5), {Ausgang, reichweite}, "4711");
+    EXPECT_FALSE(HoleGeraetestand()->IstGelesen());
+    EXPECT_EQ(HoleGeraetestand()->gelesen, gelesen);
+    MerkeZurueckgelesen(MitAusgang(6), {Ausgang}, "4711");
+    EXPECT_EQ(GemerkterAusgang(), 6);
+    EXPECT_EQ(HoleGeraetestand()->ungeprueft, Parametermenge{reichweite});
+    EXPECT_EQ(HoleGeraetestand()->gelesen, gelesen) << "what is only written came after this read";
+    MerkeZurueckgelesen(MitAusgang(6), {reichweite}, "4711");
+    EXPECT_TRUE(HoleGeraetestand()->IstGelesen());
+    EXPECT_EQ(HoleGeraetestand()->gelesen, HoleGeraetestand()->zeit);
+}
+
+TEST(Geraetestand, A_controller_that_was_never_read_has_no_time_of_a_read) {
+    MerkeGeschrieben(MitAusgang(5), {Ausgang}, "4711");
+    EXPECT_FALSE(HoleGeraetestand()->gelesen);
+    MerkeZurueckgelesen(MitAusgang(5), {Ausgang}, "4711");
+    EXPECT_TRUE(HoleGeraetestand()->gelesen);
+    EXPECT_FALSE(HoleGeraetestand()->IstGelesen()) << "the rest is not known";
+}
+
+TEST(Geraetestand, What_something_else_has_written_is_not_known_until_it_is_read_back) {
+    const Parameterstelle kommando{Global, global::Kommando};
+    Vergiss({Ausgang});
+    EXPECT_FALSE(HoleGeraetestand());
+    MerkeGelesen(MitAusgang(3), "4711");
+    MerkeGeschrieben(MitAusgang(3), {Ausgang}, "4711");
+    Vergiss({Ausgang, kommando});
+    EXPECT_EQ(HoleGeraetestand()->unbekannt, Parametermenge{Ausgang}) << "a command is no knowledge";
+    EXPECT_TRUE(HoleGeraetestand()->ungeprueft.empty());
+    MerkeZurueckgelesen(MitAusgang(5), {Ausgang}, "4711");
+    EXPECT_TRUE(HoleGeraetestand()->IstGelesen());
+}
+
+TEST(Geraetestand, What_a_controller_held_is_forgotten_when_one_with_another_number_answers) {
+    MerkeGelesen(MitAusgang(3), "4711");
+    MerkeTeilzustaende({}, 1, {});
+    Antwortet("4711");
+    EXPECT_EQ(GemerkterAusgang(), 3);
+    EXPECT_TRUE(HoleTeilzustaende());
+    Antwortet("4712");
+    EXPECT_FALSE(HoleGeraetestand());
+    EXPECT_FALSE(HoleTeilzustaende());
+}
+
 TEST(Geraetestand, A_new_connection_makes_what_is_known_older_than_itself_until_it_is_read_again) {
     BeginneVerbindung();
     MerkeGelesen(MitAusgang(3), "4711");

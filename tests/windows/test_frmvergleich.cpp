@@ -317,6 +317,17 @@ TEST_F(frmVergleichTest, What_the_controller_held_before_this_connection_says_so
     EXPECT_NE(Text("lblEinzelheitA").find("vor dieser Verbindung"), std::string::npos);
 }
 
+TEST_F(frmVergleichTest, What_was_written_after_the_read_or_was_never_read_says_so) {
+    EXPECT_EQ(Text("lblEinzelheitA").find("zurückgelesen"), std::string::npos);
+    const Parametermenge eine{{Spezifisch, spezifisch::Reichweite, 0}};
+    modGeraetestand::MerkeGeschrieben({}, eine, "4711");
+    Fenster().Erneuere();
+    EXPECT_NE(Text("lblEinzelheitA").find("seither geschrieben, nicht zurückgelesen"), std::string::npos);
+    modGeraetestand::MerkeGeschrieben({}, eine, "4712");
+    Fenster().Erneuere();
+    EXPECT_NE(Text("lblEinzelheitA").find("4712, nur geschrieben, nicht zurückgelesen"), std::string::npos);
+}
+
 TEST_F(frmVergleichTest, Selected_rows_are_copied_and_all_shown_ones_where_none_is_selected) {
     Druecke("cmdKopieren");
     EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 2);

@@ -1,6 +1,7 @@
 #include "einzelwert.h"
 
 #include "ablauftest.h"
+#include "geraetestand.h"
 #include "registerabbild.h"
 
 namespace varnoth {
@@ -187,6 +188,37 @@ TEST_F(EinzelwertTest, A_value_that_no_register_holds_shows_question_marks_and_s
     for (const char* wert : {"65536", "-32769", "&H10000"})
         EXPECT_EQ(SchreibeEinzelwert(Global("193"), wert), "???") << wert;
     EXPECT_EQ(AnzahlAnforderungen(), 0);
+}
+
+TEST_F(EinzelwertTest, What_the_controller_holds_of_a_parameter_is_not_known_after_a_write_into_it) {
+    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+    const auto unbekanntNach = [](const Einzelregister& wahl) {
+        modGeraetestand::MerkeGelesen({}, "4711");
+        SchreibeEinzelwert(wahl, "1");
+        EXPECT_TRUE(modGeraetestand::HoleGeraetestand().value().ausDieserVerbindung);
+        return modGeraetestand::HoleGeraetestand().value().unbekannt;
+    };
+    EXPECT_EQ(unbekanntNach(Global("193")),
+              (Parametermenge{{Speicherbereich::GlobaleGeraetedaten, global::PnpAusgang}}));
+    const std::string letztes = std::to_string(spezifisch::Blankingmuster + 31);
+    EXPECT_EQ(unbekanntNach({.optikteil = 2, .adressOffset = BereichsOffset(1), .adresse = letztes}),
+              (Parametermenge{{Spezifisch, spezifisch::Blankingmuster, 2}}));
+    EXPECT_EQ(unbekanntNach(Global("178")), Parametermenge{}) << "the password";
+}
+
+TEST_F(EinzelwertTest, A_write_without_a_confirmation_may_have_been_taken_and_a_reading_changes_nothing) {
+    modGeraetestand::MerkeGelesen({}, "4711");
+    LiesEinzelwert(Global("193"));
+    EXPECT_TRUE(modGeraetestand::HoleGeraetestand()->IstGelesen());
+    geraet.schweige = [this](const std::string&) { return geraet.geschrieben.size() == 2; };
+    EXPECT_EQ(SchreibeEinzelwert(Global("193"), "1"), "???");
+    EXPECT_FALSE(modGeraetestand::HoleGeraetestand()->IstGelesen());
+}
+
+TEST_F(EinzelwertTest, After_a_command_what_the_controller_held_is_from_before) {
+    modGeraetestand::MerkeGelesen({}, "4711");
+    SchreibeEinzelwert(Global("189"), "3");
+    EXPECT_FALSE(modGeraetestand::HoleGeraetestand()->ausDieserVerbindung);
 }
 
 TEST_F(EinzelwertTest, The_register_image_is_left_alone) {

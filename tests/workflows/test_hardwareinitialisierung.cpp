@@ -1,6 +1,7 @@
 #include "hardwareinitialisierung.h"
 
 #include "ablauftest.h"
+#include "geraetestand.h"
 #include "initialisierungsmitschrift.h"
 #include "servicetext.h"
 #include "texte.h"
@@ -119,6 +120,16 @@ TEST_F(HardwareinitialisierungTest, Each_group_is_written_after_the_password_and
                                       {0, 24, {261}},
                                       {0, 189, {2}},
                                   }));
+}
+
+TEST_F(HardwareinitialisierungTest, The_factory_data_that_the_controller_held_is_not_known_any_more) {
+    constexpr auto Bereich = Speicherbereich::GlobaleGeraetedaten;
+    modGeraetestand::MerkeGelesen({}, "4711");
+    InitialisiereHardware(anzeige, Beispiel);
+    EXPECT_EQ(modGeraetestand::HoleGeraetestand().value().unbekannt,
+              (Parametermenge{{Bereich, global::Seriennummer},
+                              {Bereich, global::Herstelldatum},
+                              {Bereich, global::Hardwareversion}}));
 }
 
 TEST_F(HardwareinitialisierungTest, Each_step_shows_its_name) {

@@ -1,6 +1,7 @@
 #include "hardwarereset.h"
 
 #include "ablauftest.h"
+#include "geraetestand.h"
 
 namespace varnoth {
 
@@ -31,6 +32,17 @@ TEST_F(HardwareresetTest, The_value_3_is_written_to_global_register_189) {
     EXPECT_TRUE(SetzeHardwareZurueck(anzeige));
     EXPECT_EQ(geraet.geschrieben,
               (std::vector<PruefGeraet::Schreibvorgang>{{.teil = 0, .adresse = 189, .werte = {3}}}));
+}
+
+TEST_F(HardwareresetTest, What_the_controller_held_is_from_before_even_if_nothing_was_confirmed) {
+    for (const bool stumm : {false, true}) {
+        modGeraetestand::MerkeGelesen({}, "4711");
+        if (stumm)
+            SchweigeImmer();
+        anzeige.abbruchBei = 2;
+        EXPECT_EQ(SetzeHardwareZurueck(anzeige), !stumm);
+        EXPECT_FALSE(modGeraetestand::HoleGeraetestand().value().ausDieserVerbindung);
+    }
 }
 
 TEST_F(HardwareresetTest, A_device_that_answers_at_once_shows_no_attempt) {

@@ -128,4 +128,10 @@ TEST_F(RuecklesungTest, What_was_read_is_remembered_as_what_the_controller_holds
     EXPECT_EQ(stand->abbild.HoleRegister(Global, global::PnpAusgang), 8);
 }
 
+TEST_F(RuecklesungTest, What_was_written_is_unchecked_until_it_is_read_back) {
+    EXPECT_EQ(modGeraetestand::HoleGeraetestand().value().ungeprueft, Alle);
+    Pruefe();
+    EXPECT_TRUE(modGeraetestand::HoleGeraetestand().value().ungeprueft.empty());
+}
+
 } // namespace varnoth

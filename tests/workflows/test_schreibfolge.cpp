@@ -1,5 +1,6 @@
 #include "schreibfolge.h"
 
+#include "ablauftest.h"
 #include "leitungswarnung.h"
 #include "registeradressen.h"
 #include "texte.h"
@@ -89,6 +90,21 @@ TEST(Aenderungsbefund, What_is_older_than_this_connection_is_said_to_be) {
     EXPECT_EQ(BefundVorDemSchreiben({.abbild = {}}, stand, "").text.find("älter"), std::string::npos);
     stand.ausDieserVerbindung = false;
     EXPECT_NE(BefundVorDemSchreiben({.abbild = {}}, stand, "").text.find("älter"), std::string::npos);
+}
+
+TEST(Aenderungsbefund, What_was_only_written_and_not_read_back_is_said_of_what_this_write_sends) {
+    Geraetestand stand = Stand({});
+    stand.ungeprueft = {Reichweite, Pause};
+    const auto text = [&stand](const Schreibauftrag& auftrag) {
+        return BefundVorDemSchreiben(auftrag, stand, "today").text;
+    };
+    EXPECT_TRUE(
+        text({.abbild = {}})
+            .ends_with("2 Einstellungen davon wurden zuletzt geschrieben, aber nicht zurückgelesen."));
+    EXPECT_TRUE(text({.abbild = {}, .stellen = {Pause}})
+                    .ends_with("1 Einstellung davon wurde zuletzt geschrieben, aber nicht zurückgelesen."));
+    stand.ungeprueft.clear();
+    EXPECT_EQ(text({.abbild = {}}).find("zurückgelesen"), std::string::npos);
 }
 
 TEST(Aenderungsbefund, English_texts_stand_while_the_language_is_English) {
@@ -221,6 +237,23 @@ TEST(Leitungswarnungen, Without_such_a_change_or_without_knowledge_nothing_is_sa
     Geraetestand stand = Stand({});
     stand.unbekannt = {adresse};
     EXPECT_EQ(Leitungswarnung({.abbild = Mit(adresse, 7)}, stand), "");
+}
+
+class LeitungswarnungTest : public pruefung::AblaufTest {};
+
+TEST_F(LeitungswarnungTest, The_address_that_answered_the_identification_is_the_old_one_where_none_was_read) {
+    const Parameterstelle adresse{Kommunikation, kommunikation::Stationsadresse, 0};
+    geraet.slaveAdresse = 3;
+    modModbus::RTUModeH11IndentifikationsAnforderung();
+    Geraetestand ohne = Stand({});
+    ohne.unbekannt = {adresse, {Kommunikation, kommunikation::Autosendformat, 0}};
+    for (const auto& stand : {std::optional<Geraetestand>(), std::optional(ohne)}) {
+        const std::string warnung = Leitungswarnung({.abbild = Mit(adresse, 7)}, stand);
+        EXPECT_TRUE(warnung.starts_with("Die Stationsadresse wird 7H statt 3H.")) << warnung;
+        EXPECT_EQ(warnung.find('\n'), std::string::npos) << warnung;
+        EXPECT_EQ(Leitungswarnung({.abbild = Mit(adresse, 3)}, stand), "");
+    }
+    EXPECT_EQ(Leitungswarnung({.abbild = Mit(adresse, 7)}, Stand(Mit(adresse, 7))), "");
 }
 
 } // namespace varnoth
