@@ -1,5 +1,7 @@
 #include "motive.h"
 
+#include "einstellungen.h"
+#include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
@@ -10,6 +12,7 @@
 #include "frmKonfigurationEdit.h"
 #include "frmKonfigurationLesenAusHardware.h"
 #include "frmKonfigurationSchreibenInHardware.h"
+#include "frmRegisterliste.h"
 #include "frmReihenfolge.h"
 #include "frmResetHardware.h"
 #include "frmSicherungen.h"
@@ -21,6 +24,7 @@
 #include "registeradressen.h"
 #include "servicetext.h"
 #include "vergleichsanbieter.h"
+#include "zeittext.h"
 
 #include <QLineEdit>
 #include <QLocale>
@@ -45,6 +49,7 @@ constexpr QSize Ansichtsgroesse(480, 380);
 constexpr QSize Blankinggroesse(520, 560);
 constexpr QSize Listengroesse(680, 260);
 constexpr QSize Vergleichsgroesse(840, 400);
+constexpr QSize Berichtsgroesse(840, 600);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
 constexpr int SeiteK1 = 1;
@@ -188,6 +193,32 @@ QImage Vergleich(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+/// What a write of three changed settings will change.
+QImage Registerliste(Buehne& buehne) {
+    Geraetestand stand;
+    stand.abbild = modDaten::DasAbbild();
+    stand.zeit = std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    Schreibauftrag auftrag{.abbild = stand.abbild};
+    for (const auto& [bereich, adresse, wert] :
+         {std::tuple{Speicherbereich::SpezifischeGeraetedaten, spezifisch::Reichweite, 5},
+          {Speicherbereich::SpezifischeGeraetedaten, spezifisch::Lochgroesse, 4},
+          {Speicherbereich::Kommunikationsdaten, kommunikation::Pausenzeit, 250}})
+        static_cast<void>(auftrag.abbild.SetzeRegister(bereich, adresse, wert));
+    frmRegisterliste fenster(BefundVorDemSchreiben(auftrag, stand, Zeittext(stand.zeit).toStdString()));
+    fenster.resize(Listengroesse);
+    return buehne.BildNach(fenster, Sofort);
+}
+
+/// The first page of the report.
+QImage Berichtsfenster(Buehne& buehne) {
+    for (const auto& [schluessel, text] :
+         {std::pair{"Anlage", "Varnoth 3"}, {"Maschine", "B 12"}, {"Person", "E. Muster"}})
+        DieEinstellungen().SchreibText("frmBericht", schluessel, text);
+    frmBericht fenster({.angaben = [] { return Berichtsangaben{.programmversion = "1.0.0"}; }});
+    fenster.resize(Berichtsgroesse);
+    return buehne.BildNach(fenster, Sofort);
+}
+
 QImage Info(Buehne& buehne) {
     frmInfo dialog(nullptr);
     return buehne.BildNach(dialog, Sofort);
@@ -216,6 +247,8 @@ std::span<const Motiv> AlleMotive() {
         {"frmInfo", Info},
         {"frmSicherungen", AlleSicherungen},
         {"frmVergleich", Vergleich},
+        {"frmRegisterliste", Registerliste},
+        {"frmBericht", Berichtsfenster},
     };
     return motive;
 }

@@ -1,5 +1,6 @@
 #include "frmStrahlenBestimmen.h"
 #include "pruefsicherungen.h"
+#include "registeradressen.h"
 #include "strahlentest.h"
 #include "texte.h"
 
