@@ -78,11 +78,9 @@ bool LiesGeraeteabzug(Transferanzeige& anzeige, Geraeteabzug& abzug) {
     Abzugstransfer transfer(anzeige, inDenAbzug);
     const bool vollstaendig = transfer.UebertrageAlles();
     KorrigiereStrahlenzahlen(abzug.abbild);
-    if (!vollstaendig)
-        return false;
-    modGeraetestand::MerkeGelesen(abzug.abbild, GeraeteSeriennummer());
-    anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
-    return true;
+    if (vollstaendig)
+        anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
+    return vollstaendig;
 }
 
 bool AutosendWaehlbar(std::int32_t register74) {
