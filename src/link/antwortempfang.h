@@ -16,7 +16,8 @@ namespace modAustausch {
 /// The silence that ends an exchange.
 inline constexpr Zeit Antwortzeit = std::chrono::milliseconds(1000);
 
-/// Feeds what arrives to the recogniser; `strom` gathers it. True when a whole reply with a valid CRC arrived.
+/// Feeds what arrives to the recogniser; `strom` gathers it. True when a whole reply with a valid CRC
+/// arrived.
 bool Empfange(Erkenner& erkenner, std::string& strom);
 
 /// Reads on until the stream holds an identification reply, and takes it out of it, or until the time `ende`.

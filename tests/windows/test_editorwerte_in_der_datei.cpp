@@ -86,7 +86,8 @@ TEST_F(EditorwerteTest, Every_choice_is_kept_when_saved_and_opened) {
     for (const QString& name : Bedienbare<QAbstractButton>())
         if (Kind<QAbstractButton>(*dialog, name.toUtf8().constData()).isCheckable()) {
             Oeffne();
-            Pruefe<QAbstractButton>(name, [](QAbstractButton& knopf) { knopf.click(); }, "clicked");
+            Pruefe<QAbstractButton>(
+                name, [](QAbstractButton& knopf) { knopf.click(); }, "clicked");
         }
     EXPECT_GT(gepruefte, 20);
 }
