@@ -91,6 +91,7 @@ void MissFenster(const Abbild& a, const Abbild& b) {
 int main(int argc, char** argv) {
     QApplication anwendung(argc, argv);
     pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
     const Abbild a = Geraet(0);
     const Abbild b = Geraet(1);
     Vergleichsergebnis ergebnis;
