@@ -50,9 +50,6 @@ constexpr Ausnahme Ausnahmen[] = {
     // The answer to an identification may come twice.
     {"identification", "repeat all", Wirkung::Keine},
     {"reset", "repeat all", Wirkung::Keine},
-    // What comes behind a reply disturbs the next one, and these do not try that again or cannot.
-    {"single reg", "surplus bytes", Wirkung::Anhaltend},
-    {"factory data", "surplus bytes", Wirkung::Anhaltend},
 };
 
 /// Function 09 has no reply that could go wrong.
