@@ -17,6 +17,7 @@
 #include <chrono>
 #include <cmath>
 #include <functional>
+#include <ranges>
 #include <utility>
 #include <vector>
 

@@ -130,7 +130,7 @@ void frmDocument::PasseZiffernAn() {
         if (position == nullptr)
             continue;
         position->setVisible(mitPosition);
-        position->setFixedSize(positionsbreite, QFontMetrics(klein).height());
+        position->setFixedSize(positionsbreite, Zeilenhoehe(klein));
     }
 }
 

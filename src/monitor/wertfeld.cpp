@@ -34,6 +34,10 @@ QAccessibleInterface* MacheZugang(const QString& /*klasse*/, QObject* element) {
 
 } // namespace
 
+int Zeilenhoehe(const QFont& schrift) {
+    return QFontMetrics(schrift).boundingRect(QRect(), 0, QStringLiteral("8")).height();
+}
+
 Wertfeld::Wertfeld(QWidget* eltern) : QLabel(eltern) {
     QAccessible::installFactory(MacheZugang);
     setAutoFillBackground(true); // spares drawing all that lies below
@@ -49,7 +53,7 @@ QString Wertfeld::Ansage() const {
 
 void Wertfeld::SetzeZiffern(const QFont& schrift, int breite) {
     setFont(schrift);
-    setFixedSize(breite, QFontMetrics(schrift).boundingRect(rect(), 0, QStringLiteral("8")).height());
+    setFixedSize(breite, Zeilenhoehe(schrift));
 }
 
 void Wertfeld::enterEvent(QEnterEvent* ereignis) {

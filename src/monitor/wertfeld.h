@@ -4,6 +4,9 @@
 
 namespace varnoth {
 
+/// The height, in pixels, that a label needs for a line of digits.
+int Zeilenhoehe(const QFont& schrift);
+
 /// A label with a measured value. Its accessible name is the caption of the value; a screen reader hears
 /// caption, value and what is added. Its text can be selected while the pointer is over it: a label whose
 /// text can be takes several times as long to show another.

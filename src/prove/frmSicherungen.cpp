@@ -3,6 +3,7 @@
 #include "lokalisiereform.h"
 #include "registerabbild.h"
 #include "sicherungsliste.h"
+#include "spaltenbreite.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "tipptext.h"
@@ -21,7 +22,6 @@ namespace {
 constexpr std::int16_t TextLoeschen = 9822;
 constexpr std::int16_t TextNichtGeloescht = 9825;
 
-constexpr int Zwischenraum = 2; // average characters between two columns
 constexpr int Pfadrolle = Qt::UserRole;
 
 } // namespace
@@ -71,11 +71,7 @@ void frmSicherungen::Fuelle() {
     ui->lstSicherungen->clear();
     for (const auto& [nummer, gruppe] : NachGeraet(gezeigte))
         FuegeGruppe(Gruppenname(nummer), gruppe, pfad);
-    const int zwischenraum = Zwischenraum * fontMetrics().averageCharWidth();
-    for (int spalte = 0; spalte + 1 < ui->lstSicherungen->columnCount(); ++spalte) { // the last has the rest
-        ui->lstSicherungen->resizeColumnToContents(spalte);
-        ui->lstSicherungen->setColumnWidth(spalte, ui->lstSicherungen->columnWidth(spalte) + zwischenraum);
-    }
+    PasseSpaltenAn(*ui->lstSicherungen);
     ui->lblAnzahl->setText(QString::fromStdString(Sicherungszahl(gezeigte.size())));
     ZeigeAuswahl();
 }

@@ -34,8 +34,7 @@ struct Berichtsangaben {
 std::string Bericht(const Abbild& abbild, const Berichtsangaben& angaben,
                     std::int16_t sprache = GetSprachoffset());
 
-/// What stands at the foot of each page beside its number: plant, machine, checksum and when it
-/// was issued.
+/// What stands at the foot of each page beside its number: plant, machine, checksum and when it was issued.
 std::string Berichtsfuss(const Abbild& abbild, const Berichtsangaben& angaben,
                          std::int16_t sprache = GetSprachoffset());
 

@@ -29,8 +29,8 @@ enum class Dateirolle { Aktuelle, Vorlage };
 /// gives a warning box and changes nothing; nor does anything change where changes that would be lost could
 /// not be put aside and the user keeps them. A file that is read but no good gives its message and leaves the
 /// values as they are, but becomes the current file name, as a good one does. True when the image now holds
-/// the file's configuration; a current
-/// file is then remembered among those used last. After a `Vorlage` there is no current file name.
+/// the file's configuration; a current file is then remembered among those used last. After a `Vorlage` there
+/// is no current file name.
 bool LadeDatei(const std::string& pfad, Dateirolle rolle = Dateirolle::Aktuelle);
 
 /// Before the program ends: asks whether changes in the configuration shall be saved, if there are any, and

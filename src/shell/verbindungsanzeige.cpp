@@ -4,6 +4,7 @@
 #include "leitungsstatistik.h"
 #include "polling.h"
 #include "schnittstelle.h"
+#include "seriennummer.h"
 #include "texte.h"
 #include "tipptext.h"
 #include "transaktionen.h"
@@ -54,7 +55,7 @@ Verbindungsgegenstand Gegenstand() {
     if (modModbus::GetIdentGueltig() != True)
         return gegenstand;
     gegenstand.bezeichnung = Geraetetext(modModbus::GetIdentText1());
-    gegenstand.seriennummer = Geraetetext(modModbus::GetIdentText2());
+    gegenstand.seriennummer = GeraeteSeriennummer();
     return gegenstand;
 }
 

@@ -1,11 +1,10 @@
 #include "frmRegisterliste.h"
 
 #include "lokalisiereform.h"
+#include "spaltenbreite.h"
 #include "tipptext.h"
 #include "ui_frmRegisterliste.h"
 #include "zeilenhoehe.h"
-
-#include <algorithm>
 
 namespace varnoth {
 
@@ -14,7 +13,6 @@ namespace {
 constexpr int SpalteLinks = 2;
 constexpr int SpalteRechts = 3;
 constexpr int BreitesteSpalte = 30; // average characters
-constexpr int Zwischenraum = 2;     // the same
 
 QTreeWidgetItem* Eintrag(const Registerzeile& zeile) {
     auto* const eintrag = new QTreeWidgetItem;
@@ -49,13 +47,7 @@ void frmRegisterliste::Fuelle(const Registerbefund& befund) {
     ui->lstRegister->headerItem()->setText(SpalteRechts, QString::fromStdString(befund.rechts));
     for (const Registerzeile& zeile : befund.zeilen)
         ui->lstRegister->addTopLevelItem(Eintrag(zeile));
-    const int zeichen = fontMetrics().averageCharWidth();
-    for (int spalte = 0; spalte + 1 < ui->lstRegister->columnCount(); ++spalte) { // the last has the rest
-        ui->lstRegister->resizeColumnToContents(spalte);
-        ui->lstRegister->setColumnWidth(
-            spalte, std::min(ui->lstRegister->columnWidth(spalte), BreitesteSpalte * zeichen) +
-                        Zwischenraum * zeichen);
-    }
+    PasseSpaltenAn(*ui->lstRegister, BreitesteSpalte);
     ui->lstRegister->setVisible(!befund.zeilen.empty());
     ui->cmdWeiter->setText(QString::fromStdString(befund.weiter));
     ui->cmdWeiter->setVisible(!befund.weiter.empty());

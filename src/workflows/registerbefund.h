@@ -33,8 +33,8 @@ struct Registerbefund {
 };
 
 /// What a write will change in the controller, against what is known of it; `wann` is the time of that in
-/// words. Where nothing or not all is known, something was only
-/// written and not read back, or it is older than this connection, the text says so.
+/// words. Where nothing or not all is known, something was only written and not read back, or it is older
+/// than this connection, the text says so.
 Registerbefund BefundVorDemSchreiben(const Schreibauftrag& auftrag, const std::optional<Geraetestand>& stand,
                                      const std::string& wann);
 

@@ -76,11 +76,20 @@ protected:
             [] { Klicke(*SichtbaresFenster(Schreibfenster), "cmdCancel"); });
     }
     /// Notes what the list shows, and presses a button of it.
-    void InListe(const QString& knopf) {
-        InFenster(Listenfenster, [this, knopf](QWidget& liste) {
+    void InListe(const QString& knopf, std::function<void()> vorDemDruck = {}) {
+        InFenster(Listenfenster, [this, knopf, vorDemDruck = std::move(vorDemDruck)](QWidget& liste) {
             zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
             befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
+            if (vorDemDruck)
+                vorDemDruck();
             Klicke(liste, knopf);
+        });
+    }
+    /// Goes on in the list on a line in order, and writes with the check.
+    void SchreibeNochEinmal() {
+        InListe("cmdWeiter", [this] {
+            geraet->Befehl("fault none");
+            Starte(true);
         });
     }
     bool Bearbeite() { return FuehreAus("mnuAnzeigeKonfiguration"); }
@@ -120,11 +129,7 @@ TEST_F(SchreibenImBetrieb, A_controller_that_falls_silent_while_it_is_checked_is
     AendereFuenf();
     Starte(true, [this] { geraet->Befehl("fault silence@0x03"); });
     BrichAbBeiVersuch(2);
-    InFenster(Listenfenster, [this](QWidget& liste) {
-        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
-        geraet->Befehl("fault none");
-        Klicke(liste, "cmdSchliessen");
-    });
+    InListe("cmdSchliessen", [this] { geraet->Befehl("fault none"); });
     ASSERT_TRUE(Bearbeite());
     EXPECT_THAT(befund, HasSubstr("0 von 191 Registern"));
     EXPECT_THAT(befund, HasSubstr("(191 Register) wurden nicht verglichen"));
@@ -139,13 +144,7 @@ TEST_F(SchreibenImBetrieb, A_broken_write_is_listed_and_what_was_before_is_writt
         geraet->Befehl("fault silence@0x10");
     });
     BrichAbBeiVersuch(2);
-    InFenster(Listenfenster, [this](QWidget& liste) {
-        zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
-        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
-        geraet->Befehl("fault none");
-        Starte(true);
-        Klicke(liste, "cmdWeiter");
-    });
+    SchreibeNochEinmal();
     ASSERT_TRUE(Bearbeite());
     EXPECT_EQ(zeilen, 38);
     EXPECT_THAT(befund, HasSubstr("Das Schreiben wurde nicht beendet."));
@@ -321,13 +320,7 @@ TEST_P(SchreibenAufJederLeitung,
         Stoere();
         geraet->Befehl("fault forget=0x4008");
     });
-    InFenster(Listenfenster, [this](QWidget& liste) {
-        zeilen = Kind<QTreeWidget>(liste, "lstRegister").topLevelItemCount();
-        befund = Kind<QLabel>(liste, "lblBefund").text().toStdString();
-        geraet->Befehl("fault none");
-        Starte(true);
-        Klicke(liste, "cmdWeiter");
-    });
+    SchreibeNochEinmal();
     ASSERT_TRUE(Bearbeite());
     EXPECT_EQ(zeilen, 1);
     EXPECT_EQ(befund, "190 von 191 Registern zurückgelesen und gleich.\n"

@@ -1,5 +1,6 @@
 // How the view uses its room: digits, positions, and the display that fills the window.
 
+#include "ereigniszaehler.h"
 #include "frmdocumenttest.h"
 
 #include <QMouseEvent>
@@ -88,6 +89,18 @@ TEST_F(FrmDocumentGroesse, Beam_numbers_have_their_position_beside_them_and_coun
     EXPECT_EQ(Text("lblPositionHNU"), "260 mm");
     EXPECT_TRUE(Feld("lblPositionTU").isVisible());
     EXPECT_EQ(sicht->findChild<QLabel*>("lblPositionZU"), nullptr);
+}
+
+TEST_F(FrmDocumentGroesse, Other_values_arrange_nothing_anew_and_draw_only_themselves) {
+    SetzeGroesse(500, 500);
+    pruefung::Ereigniszaehler gruppe(*sicht->findChild<QWidget*>("Frame1"));
+    SetzeMesswerte(17, 0, 0);
+    sicht->SetAktuellMinMaxStatus();
+    QApplication::processEvents();
+    ASSERT_EQ(Text("lblPositionTU"), "320 mm");
+    EXPECT_EQ(gruppe.anzahl[QEvent::LayoutRequest], 0);
+    EXPECT_EQ(gruppe.anzahl[QEvent::Paint], 0);
+    EXPECT_GE(Feld("lblPositionTU").height(), Feld("lblPositionTU").sizeHint().height());
 }
 
 TEST_F(FrmDocumentGroesse, Positions_follow_the_chosen_block) {

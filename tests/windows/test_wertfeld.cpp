@@ -1,33 +1,19 @@
+#include "ereigniszaehler.h"
 #include "wertegruppe.h"
 #include "wertfeld.h"
 
 #include <QApplication>
 #include <QEnterEvent>
-#include <QEvent>
 #include <QGridLayout>
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace {
 
 using namespace varnoth;
+using pruefung::Ereigniszaehler;
 
 constexpr int Breite = 80;
-
-/// Counts the events of each kind that an object gets.
-class Zaehler : public QObject {
-public:
-    explicit Zaehler(QObject& ziel) { ziel.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*ziel*/, QEvent* ereignis) override {
-        ++anzahl[ereignis->type()];
-        return false;
-    }
-
-    std::map<QEvent::Type, int> anzahl;
-};
 
 class WertfeldTest : public testing::Test {
 protected:
@@ -61,8 +47,8 @@ TEST_F(WertfeldTest, Its_place_is_the_same_for_every_number) {
 }
 
 TEST_F(WertfeldTest, Another_number_arranges_nothing_anew_and_draws_nothing_below_it) {
-    Zaehler unten(gruppe);
-    Zaehler oben(*feld);
+    Ereigniszaehler unten(gruppe);
+    Ereigniszaehler oben(*feld);
     Zeige("65535");
     EXPECT_EQ(oben.anzahl[QEvent::Paint], 1);
     EXPECT_EQ(unten.anzahl[QEvent::LayoutRequest], 0);
