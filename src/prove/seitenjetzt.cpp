@@ -1,6 +1,5 @@
 #include "seitenjetzt.h"
 
-#include "geraetestand.h"
 #include "registerabbild.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -29,15 +28,19 @@ Vergleichsseite ZuletztGelesen() {
     const auto stand = modGeraetestand::HoleGeraetestand();
     if (!stand)
         return {Vergleichsquelle::ZuletztGelesen, {}, {}, AlleStellen(IstLesbar)};
-    std::string einzelheit = Lesezeile(stand->gelesen.value_or(stand->zeit), stand->seriennummer);
-    if (!stand->ungeprueft.empty())
-        einzelheit += ", " + LadeText(stand->gelesen ? TextSeitherGeschrieben : TextNurGeschrieben);
-    if (!stand->ausDieserVerbindung)
-        einzelheit += ", " + LadeText(TextAelter);
-    return {Vergleichsquelle::ZuletztGelesen, einzelheit, stand->abbild, stand->unbekannt};
+    return {Vergleichsquelle::ZuletztGelesen, Standzeile(*stand), stand->abbild, stand->unbekannt};
 }
 
 } // namespace
+
+std::string Standzeile(const Geraetestand& stand) {
+    std::string zeile = Lesezeile(stand.gelesen.value_or(stand.zeit), stand.seriennummer);
+    if (!stand.ungeprueft.empty())
+        zeile += ", " + LadeText(stand.gelesen ? TextSeitherGeschrieben : TextNurGeschrieben);
+    if (!stand.ausDieserVerbindung)
+        zeile += ", " + LadeText(TextAelter);
+    return zeile;
+}
 
 bool IstBekannt(Vergleichsquelle quelle) {
     if (quelle == Vergleichsquelle::ZuletztGelesen)

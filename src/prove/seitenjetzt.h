@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geraetestand.h"
 #include "vergleichsseite.h"
 
 #include <chrono>
@@ -20,5 +21,8 @@ std::string Zeitpunkt(std::chrono::system_clock::time_point zeit);
 
 /// "Read 2026-11-22 14:03:22, serial number 4711".
 std::string Lesezeile(std::chrono::system_clock::time_point zeit, const std::string& seriennummer);
+
+/// The line of a read, and what has become of it since: written, not read back; older than this connection.
+std::string Standzeile(const Geraetestand& stand);
 
 } // namespace varnoth

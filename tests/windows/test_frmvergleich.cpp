@@ -5,6 +5,7 @@
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "seitenjetzt.h"
 #include "standardkonfiguration.h"
 #include "startzustand.h"
 #include "texte.h"
@@ -326,6 +327,15 @@ TEST_F(frmVergleichTest, What_was_written_after_the_read_or_was_never_read_says_
     modGeraetestand::MerkeGeschrieben({}, eine, "4712");
     Fenster().Erneuere();
     EXPECT_NE(Text("lblEinzelheitA").find("4712, nur geschrieben, nicht zurückgelesen"), std::string::npos);
+}
+
+TEST_F(frmVergleichTest, The_time_of_a_read_is_not_that_of_a_later_write) {
+    using namespace std::chrono_literals;
+    Geraetestand stand;
+    stand.zeit = std::chrono::system_clock::time_point{1000h};
+    EXPECT_EQ(Standzeile(stand), Lesezeile(stand.zeit, ""));
+    stand.gelesen = stand.zeit - 3h;
+    EXPECT_EQ(Standzeile(stand), Lesezeile(*stand.gelesen, ""));
 }
 
 TEST_F(frmVergleichTest, Selected_rows_are_copied_and_all_shown_ones_where_none_is_selected) {

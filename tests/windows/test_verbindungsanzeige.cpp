@@ -60,6 +60,14 @@ TEST_F(VerbindungsanzeigeTest, While_connecting_it_says_so_at_once) {
     EXPECT_TRUE(Text().startsWith("Offline seit "));
 }
 
+TEST_F(VerbindungsanzeigeTest, While_nothing_changes_it_sets_nothing) {
+    Teil<QLabel>("lblVerbindung").setText("left alone");
+    anzeige.Aktualisiere();
+    EXPECT_EQ(Text(), "left alone");
+    anzeige.SetzeVerbindet(true);
+    EXPECT_EQ(Text(), "Verbinde...");
+}
+
 TEST_F(VerbindungsanzeigeTest, It_looks_by_itself_while_events_are_served) {
     modPolling::StartePolling();
     EXPECT_TRUE(WarteBis([&] { return Text() == "Live"; }));
