@@ -91,6 +91,7 @@ frmKonfigurationEdit::frmKonfigurationEdit(QWidget* parent)
 }
 
 frmKonfigurationEdit::~frmKonfigurationEdit() {
+    hide(); // the focus leaves its field while there is still somebody to hear of it
     GibPortFrei();
 }
 

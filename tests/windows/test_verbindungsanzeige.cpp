@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <string>
 
 namespace varnoth {
 
@@ -158,13 +159,17 @@ TEST_F(VerbindungsanzeigeTest, Live_waiting_stopped_and_simulated_have_colours_o
 
 TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {
     using enum Verbindungszustand;
-    std::set<QByteArray> formen;
+    std::set<std::string> formen;
     Verbindungssymbol symbol(nullptr);
     symbol.resize(24, 24);
     const auto Form = [&](Verbindungszustand zustand, bool simuliert) {
         symbol.Zeige(zustand, simuliert);
-        const QImage bild = symbol.grab().toImage().createHeuristicMask();
-        return QByteArray(reinterpret_cast<const char*>(bild.constBits()), bild.sizeInBytes());
+        const QImage bild = symbol.grab().toImage();
+        std::string form;
+        for (int y = 0; y < bild.height(); ++y)
+            for (int x = 0; x < bild.width(); ++x)
+                form += bild.pixel(x, y) == bild.pixel(0, 0) ? ' ' : 'x';
+        return form;
     };
     for (const auto zustand : {Verbindet, Live, Wartet, Angehalten, PortOffen, Offline})
         formen.insert(Form(zustand, false));
