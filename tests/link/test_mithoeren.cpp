@@ -175,6 +175,26 @@ TEST_F(MithoerenTest, A_reply_after_its_second_is_late_and_nobody_was_waiting_fo
     EXPECT_EQ(ohr.alles[1].empfangen, spaete);
 }
 
+TEST_F(MithoerenTest, A_late_reply_that_comes_while_another_is_waited_for_is_late_too) {
+    Erwidere({});
+    EXPECT_FALSE(Lies(5));
+    Erwidere({{1ms, MitPruefsumme(Bytes({1, 3, 2, 0, 7}))}});
+    EXPECT_FALSE(Lies(9, 2));
+    EXPECT_THAT(Ergebnisse(), ElementsAre(Zeitueberschreitung, Verspaetet));
+}
+
+TEST_F(MithoerenTest, Once_another_request_was_answered_nothing_is_late_any_more) {
+    Erwidere({});
+    EXPECT_FALSE(Lies(5));
+    Erwidere({{1ms, MitPruefsumme(Bytes({1, 3, 4, 0, 0, 0, 0}))}});
+    EXPECT_TRUE(Lies(9, 2));
+    port.eingang = MitPruefsumme(Bytes({1, 3, 2, 0, 7}));
+    Lies(9, 2);
+    ASSERT_GE(ohr.alles.size(), 3U);
+    EXPECT_EQ(ohr.alles[2].art, Austauschart::Ungefragt);
+    EXPECT_EQ(ohr.alles[2].ergebnis, Fremd);
+}
+
 TEST_F(MithoerenTest, Bytes_that_nobody_was_waiting_for_are_foreign_and_come_before_the_next_request) {
     EXPECT_TRUE(Lies(5));
     port.eingang = "xyz";
@@ -244,6 +264,29 @@ TEST_F(MithoerenTest, A_reply_that_is_doubtful_by_its_time_is_late) {
     Erwidere({{400ms, MitPruefsumme(Bytes({1, 3, 2, 0, 7}))}});
     EXPECT_FALSE(Lies(5));
     EXPECT_THAT(Ergebnisse(), ElementsAre(Verspaetet));
+}
+
+TEST_F(MithoerenTest, A_reply_that_cannot_have_passed_the_line_yet_is_foreign) {
+    const std::string antwort = MitPruefsumme(Bytes({1, 3, 2, 0, 7}));
+    for (int i = 0; i < 30; ++i) {
+        Erwidere({{15ms, antwort}});
+        ASSERT_TRUE(Lies(5));
+    }
+    ohr.alles.clear();
+    Erwidere({{1ms, antwort}});
+    EXPECT_FALSE(Lies(5));
+    EXPECT_THAT(Ergebnisse(), ElementsAre(Fremd));
+}
+
+TEST_F(MithoerenTest, What_came_before_a_pause_of_listening_is_not_told_after_it) {
+    EXPECT_TRUE(Lies(5));
+    port.eingang = "xyz";
+    modSchnittstelle::ClearCommPort();
+    modMithoeren::MeldeAb(ohr);
+    EXPECT_TRUE(Lies(5));
+    modMithoeren::MeldeAn(ohr);
+    EXPECT_TRUE(Lies(5));
+    EXPECT_THAT(Ergebnisse(), ElementsAre(Beantwortet, Beantwortet));
 }
 
 TEST_F(MithoerenTest, Endless_noise_is_told_in_pieces) {
