@@ -118,15 +118,21 @@ bool IniEinstellungen::SchreibText(const std::string& abschnitt, const std::stri
     return grund.empty();
 }
 
+bool IstInstalliert(const QString& ordner) {
+    return QDir(ordner).exists(QStringLiteral("../share/varnoth"));
+}
+
 QString Einstellungspfad(const QString& ordner, const QString& name) {
     const QString datei = name + QStringLiteral(".ini");
     const QFileInfo daneben(QDir(ordner), datei);
     const bool beschreibbar = QFileInfo(ordner).isWritable() && (!daneben.exists() || daneben.isWritable());
-    if (beschreibbar)
+    if (beschreibbar && (daneben.exists() || !IstInstalliert(ordner)))
         return daneben.filePath();
     const QDir konfiguration(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
-    konfiguration.mkpath(QStringLiteral("."));
-    return konfiguration.filePath(datei);
+    konfiguration.mkpath(name);
+    const QDir eigene(konfiguration.filePath(name));
+    return !eigene.exists(datei) && konfiguration.exists(datei) ? konfiguration.filePath(datei)
+                                                                : eigene.filePath(datei);
 }
 
 } // namespace varnoth

@@ -27,6 +27,8 @@ public:
     bool SchreibText(const std::string& abschnitt, const std::string& schluessel,
                      const std::string& text) override;
 
+    QString Pfad() const { return QString::fromStdString(pfad); }
+
     /// Sets who hears, once in a run, that changes are not stored: the file and the reason (UTF-8). Hears at
     /// once of one that happened before.
     void SetzeFehlermeldung(std::function<void(const std::string& text)> wohin);
@@ -42,8 +44,13 @@ private:
     std::function<void(const std::string&)> fehlermeldung;
 };
 
-/// Where the settings file of a program lies: `<ordner>/<name>.ini`, or in the user's configuration folder
-/// under the same name when that place cannot be written.
+/// Whether the program whose executable lies in this folder is installed: the data folder of an installation
+/// lies beside it.
+bool IstInstalliert(const QString& ordner);
+
+/// Where the settings file of a program lies. `<ordner>/<name>.ini` when it is there or the program is not
+/// installed, as long as that place can be written. Otherwise `<name>/<name>.ini` in the user's configuration
+/// folder, or `<name>.ini` there when an earlier version has left only that.
 QString Einstellungspfad(const QString& ordner, const QString& name);
 
 } // namespace varnoth

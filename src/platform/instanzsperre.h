@@ -24,6 +24,10 @@ public:
     /// no lock can lie keeps no program from starting.
     bool Belege();
 
+    /// Where the program that holds the lock takes files: a path beside the lock's; empty where there is no
+    /// folder for it.
+    QString Briefkasten() const;
+
 private:
     QString pfad;
 #ifdef Q_OS_UNIX

@@ -12,6 +12,7 @@
 #include "servicetext.h"
 #include "simulatorport.h"
 #include "texte.h"
+#include "textmitwerten.h"
 #include "trace.h"
 #include "transaktionen.h"
 #include "versionstext.h"
@@ -32,6 +33,7 @@ namespace {
 
 constexpr std::int16_t TextSchonGestartet = 6001;
 constexpr std::int16_t TextNichtGespeichert = 9263;
+constexpr std::int16_t TextNichtAngenommen = 8812;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
 constexpr const char* Datenordner = "../share/varnoth/"; // of an installed program, from its own folder
 
@@ -39,6 +41,14 @@ std::unique_ptr<SeriellerPort> MachePort(bool simuliert) {
     if (simuliert)
         return std::make_unique<SimulatorPort>();
     return std::make_unique<QtSeriellerPort>();
+}
+
+/// As absolute paths from the current folder.
+std::vector<std::string> Absolut(const QStringList& dateien) {
+    std::vector<std::string> pfade;
+    for (const QString& datei : dateien)
+        pfade.push_back(QDir::current().absoluteFilePath(datei).toStdString());
+    return pfade;
 }
 
 double Sekundenuhr() {
@@ -49,6 +59,8 @@ double Sekundenuhr() {
 
 Anwendung::Anwendung(Startbedingungen start)
     : bedingungen(std::move(start)), kommandozeile(LiesKommandozeile(bedingungen.worte)),
+      dateien(kommandozeile.selbsttest.isEmpty() ? Absolut(kommandozeile.dateien)
+                                                 : std::vector<std::string>()),
       einstellungen(Einstellungspfad(bedingungen.programmordner, bedingungen.programmname)),
       sicherungen(bedingungen.datenordner.isEmpty() ? UeblicherDatenordner() : bedingungen.datenordner,
                   Versionstext().toStdString()),
@@ -66,6 +78,7 @@ Anwendung::~Anwendung() {
     modTrace::Schliesse();
     modSchnittstelle::CloseCommPort();
     einstellungen.SetzeFehlermeldung({});
+    annahme.reset();
     hauptfenster.reset();
     SetzeSicherungen(nullptr);
     modSchnittstelle::SetzePort(nullptr);
@@ -76,6 +89,7 @@ bool Anwendung::Starte() {
     if (!IstErsteInstanz())
         return false;
     LadeHauptfenster();
+    NimmDateienAn();
     ZeigeSplash();
     return WerteKommandozeileAus();
 }
@@ -89,8 +103,30 @@ void Anwendung::LiesSprache() {
 bool Anwendung::IstErsteInstanz() {
     if (sperre.Belege())
         return true;
-    ZeigeWarnung(LadeText(TextSchonGestartet), LadeText(TextAchtung));
+    MeldeZweitstart();
     return false;
+}
+
+/// A second start leaves its file to the program that runs.
+void Anwendung::MeldeZweitstart() {
+    if (dateien.empty())
+        ZeigeWarnung(LadeText(TextSchonGestartet), LadeText(TextAchtung));
+    else if (dateien.size() > 1)
+        ZeigeMehrereDateien();
+    else if (!UebergibDatei(sperre.Briefkasten(), dateien.front(), bedingungen.laengsteUebergabe))
+        ZeigeWarnung(LadeTextMit(TextNichtAngenommen, {dateien.front()}), LadeText(TextAchtung));
+}
+
+/// The files of the command line come first, then those of later starts.
+void Anwendung::NimmDateienAn() {
+    hauptfenster->Uebergib(dateien);
+    annahme.emplace(sperre.Briefkasten(),
+                    Dateiannahme::Ziel{.bereit = [this] { return !hauptfenster->Beendet(); },
+                                       .oeffne =
+                                           [this](const std::string& pfad) {
+                                               hauptfenster->Uebergib({pfad});
+                                               hauptfenster->KommNachVorn();
+                                           }});
 }
 
 void Anwendung::LadeHauptfenster() {
@@ -98,6 +134,7 @@ void Anwendung::LadeHauptfenster() {
     hauptfenster->ZeigeSprache();
     hauptfenster->SetzePortwechsel([this](bool soll) { return WechslePort(soll); });
     hauptfenster->ZeigeSimuliert(simuliert);
+    hauptfenster->SetzeEinstellungsdatei(einstellungen.Pfad());
     hauptfenster->SetzeHilfe([this] { hilfe.ZeigeThemen(hauptfenster.get()); });
     umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
     umgebung.SetzeStatusanzeige(
@@ -150,7 +187,7 @@ bool Anwendung::WechslePort(bool soll) {
 }
 
 void Anwendung::Verbinde() {
-    if (umgebung.LasseEreignisseLaufen() > 0)
+    if (umgebung.LasseEreignisseLaufen() > 0 && !hauptfenster->HatUebergebene())
         hauptfenster->Autostart();
 }
 

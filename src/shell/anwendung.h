@@ -1,6 +1,8 @@
 #pragma once
 
+#include "dateiannahme.h"
 #include "dateisicherungen.h"
+#include "dateiuebergabe.h"
 #include "dialogplatz.h"
 #include "fensterumgebung.h"
 #include "frmMain.h"
@@ -17,6 +19,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace varnoth {
 
@@ -28,6 +32,7 @@ struct Startbedingungen {
     QString sperrordner{};     ///< where the lock of the single instance lies; empty: the usual place
     QString datenordner{};     ///< where backups lie; empty: the usual place
     double splashSekunden = 2; ///< how long the splash window stays at least
+    Zeit laengsteUebergabe = LaengsteUebergabe; ///< how long a second start waits for the first
 };
 
 /// The running program: start-up, main loop, end.
@@ -39,7 +44,8 @@ public:
     /// Start-up up to the connected main window. False ends the program: it runs already, or its trace file
     /// cannot be written, which the user was told.
     bool Starte();
-    /// Connects to the controller; the main loop's work begins with it.
+    /// Connects to the controller, unless a file was handed over, which then is to be opened instead; the
+    /// main loop's work begins with it.
     void Verbinde();
     /// One round of the main loop. False when no form is open any more.
     bool Runde();
@@ -56,6 +62,8 @@ public:
 private:
     void LiesSprache();
     bool IstErsteInstanz();
+    void MeldeZweitstart();
+    void NimmDateienAn();
     void LadeHauptfenster();
     void ZeigeSplash();
     bool WerteKommandozeileAus();
@@ -65,6 +73,7 @@ private:
     Startzustand startzustand; ///< comes first: what is fitted in below stays
     Startbedingungen bedingungen;
     Kommandozeile kommandozeile;
+    std::vector<std::string> dateien; ///< of the command line, absolute, UTF-8
     Fensterumgebung umgebung;
     IniEinstellungen einstellungen;
     Dateisicherungen sicherungen;
@@ -72,6 +81,7 @@ private:
     bool simuliert;
     std::unique_ptr<SeriellerPort> port;
     std::unique_ptr<frmMain> hauptfenster;
+    std::optional<Dateiannahme> annahme;
     Hilfe hilfe;
     Hilfetaste hilfetaste;
     Dialogplatz dialogplatz;

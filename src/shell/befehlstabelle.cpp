@@ -71,6 +71,7 @@ constexpr Befehlszeile DieBefehle[] = {
      0, 1, "Ctrl+B", 9802, "sicherungen", 9803, Leistengruppe::Pruefen},
     {Befehl::SicherungOeffnen, "", Stoppt, Zeigt, [](Ziel& z, int) { z.OeffneSicherung(); }, 0, 0},
     {Befehl::SimuliertesGeraet, "", Stoppt, Zeigt, [](Ziel& z, int) { z.VerbindeSimuliert(); }, 0, 0},
+    {Befehl::UebergebeneDateien, "", Stoppt, Zeigt, [](Ziel& z, int) { z.OeffneUebergebeneDateien(); }, 0, 0},
     {Befehl::Bericht, "mnuBericht", Ruht, Zeigt, [](Ziel& z, int) { z.ZeigeBericht(); }, 0, 1, "Ctrl+P", 9730,
      "bericht", 9745, Leistengruppe::Pruefen},
     {Befehl::Darstellung, "tlbDarstellung", LaeuftWeiter, Still, [](Ziel& z, int) { z.BieteDarstellung(); },

@@ -42,6 +42,8 @@ public:
     virtual void OeffneLetzteDatei(int platz) = 0;
     /// Connects to the built-in controller, which takes the place of the serial ports in this run.
     virtual void VerbindeSimuliert() = 0;
+    /// Opens the files that came from outside first.
+    virtual void OeffneUebergebeneDateien() = 0;
     virtual void ZeigeSicherungen() = 0;
     /// Opens the backup that the window of backups asked for.
     virtual void OeffneSicherung() = 0;

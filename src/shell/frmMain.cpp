@@ -54,6 +54,7 @@ frmMain::frmMain(const QString& programmordner)
       menue(*this, [this](Befehl befehl, int index) { befehle.Klick(befehl, index); }) {
     QApplication::setWindowIcon(Programmsymbol());
     setMinimumSize(PixelAusTwips(KleinsteBreite), PixelAusTwips(KleinsteHoehe));
+    setAcceptDrops(true);
     LokalisiereForm(*this);
     menue.ZeigeFundorte();
     leiste = new Werkzeugleiste(*this);

@@ -12,16 +12,21 @@
 #include <QMainWindow>
 #include <QString>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace varnoth {
 
 namespace Ui {
 class frmMain;
 }
+
+/// Says that several files cannot be opened at once.
+void ZeigeMehrereDateien();
 
 class Vergleichsablauf;
 class Sicherungsablauf;
@@ -59,6 +64,15 @@ public:
     void SubOeffnen();
     /// Loads a configuration file (UTF-8 path) and shows its parts.
     void LadeDatei(const std::string& pfad);
+    /// Opens a file (UTF-8 path) that came from outside, as the Open command does, as soon as no dialog and
+    /// no command is in the way; of several at once it only says so. Does nothing once the program is to end.
+    void Uebergib(std::vector<std::string> dateien);
+    /// Whether files that came from outside are still to be opened.
+    bool HatUebergebene() const { return !uebergebene.empty(); }
+    /// Whether the program is to end, so that nothing more is opened.
+    bool Beendet() const { return entladen || befehle.WartetAuf(Befehl::Beenden); }
+    /// Brings the window, minimised or behind others, in front of them.
+    void KommNachVorn();
     /// Connects to the controller and starts live data.
     void Autostart();
 
@@ -79,6 +93,8 @@ public:
     void ZeigeSimuliert(bool simuliert) { status.SetzeSimuliert(simuliert); }
     /// Uses serial port 1..4 for this run, whatever the settings say.
     void NimmComPort(int nummer);
+    /// Tells where the settings of this run lie.
+    void SetzeEinstellungsdatei(const QString& pfad) { einstellungsdatei = pfad; }
     /// Writes into panel 1..3 of the status bar.
     void ZeigeStatustext(int feld, const std::string& text) { status.Zeige(feld, text); }
     /// The view of optical part 0..3.
@@ -88,6 +104,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
+    void dragEnterEvent(QDragEnterEvent* ereignis) override;
+    void dropEvent(QDropEvent* ereignis) override;
 
 private:
     static constexpr const char* Fensterabschnitt = "MDIForm"; // of the settings file
@@ -100,7 +118,7 @@ private:
     void SchaffePlatzFuerAnsichten();
     void StelleInArbeitsflaeche(QSize groesse);
     bool IstErsterStart() const;
-    bool Beendet() const { return entladen || befehle.WartetAuf(Befehl::Beenden); }
+    void StelleUebergebeneAn();
     void Entlade();
 
     bool LiveDatenLaufen() const override { return betrieb->LiveDatenLaufen(); }
@@ -139,6 +157,7 @@ private:
     void SchalteSprache(std::int16_t offset) override;
     void OeffneLetzteDatei(int platz) override;
     void VerbindeSimuliert() override;
+    void OeffneUebergebeneDateien() override;
     void ZeigeSicherungen() override;
     void OeffneSicherung() override;
     void ZeigeBericht() override { liveDatenPassen = !ablauf->Berichte(); }
@@ -160,6 +179,8 @@ private:
     std::unique_ptr<Geraetebetrieb> betrieb;
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
+    std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
+    QString einstellungsdatei;
     bool liveDatenPassen = true; ///< to the configuration, when a command that paused them has ended
     bool entladen = false;
 };

@@ -39,6 +39,7 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
 }
 
 void frmMain::MenuAusführen() {
+    StelleUebergebeneAn();
     if (!befehle.Wartet())
         return;
     befehle.FuehreAus(*this);
@@ -185,7 +186,7 @@ void frmMain::ZeigeSimulation() {
 }
 
 void frmMain::ZeigeInfo() {
-    frmInfo(this).exec();
+    frmInfo(this, einstellungsdatei).exec();
 }
 
 } // namespace varnoth

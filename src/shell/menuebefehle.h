@@ -30,6 +30,7 @@ enum class Befehl {
     Englisch = 23,
     LetzteDatei = 101,
     SimuliertesGeraet = 102,
+    UebergebeneDateien = 103,
     Sicherungen = 120,
     SicherungOeffnen = 121,
     Vergleich = 110,

@@ -1,5 +1,6 @@
 #include "versionstext.h"
 
+#include "programmversion.h"
 #include "texte.h"
 
 namespace varnoth {
@@ -18,10 +19,7 @@ QString Text(std::int16_t id) {
 } // namespace
 
 const QString& Versionstext() {
-    static const QString text = QStringLiteral("%1.%2.%3")
-                                    .arg(VARNOTH_VERSION_MAJOR)
-                                    .arg(VARNOTH_VERSION_MINOR)
-                                    .arg(VARNOTH_VERSION_PATCH);
+    static const QString text = QString::fromUtf8(Programmversion());
     return text;
 }
 

@@ -71,6 +71,7 @@ constexpr Option AlleOptionen[] = {
     {"--exit-with-parent", "", "end when the program that started this one ends",
      [](Optionen& o, std::string_view) { o.endetMitEltern = true; }},
     {"--help", "", "show this text", [](Optionen& o, std::string_view) { o.hilfe = true; }},
+    {"--version", "", "show the version", [](Optionen& o, std::string_view) { o.version = true; }},
 };
 
 const Option& FindeOption(std::string_view wort) {

@@ -15,6 +15,7 @@ struct Optionen {
     std::string steuerkanal{};  ///< path of the control socket, empty = none
     bool endetMitEltern = false;
     bool hilfe = false;
+    bool version = false;
 };
 
 /// Reads the words after the program's name.

@@ -47,6 +47,8 @@ int main(int anzahl, char* worte[]) {
         const Optionen optionen = LiesOptionen({worte + 1, static_cast<std::size_t>(anzahl - 1)});
         if (optionen.hilfe)
             std::cout << Hilfetext();
+        else if (optionen.version)
+            std::cout << "varnoth-simulator " VARNOTH_VERSION "\n";
         else
             Diene(optionen);
         return EXIT_SUCCESS;

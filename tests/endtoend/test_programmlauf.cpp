@@ -1,8 +1,12 @@
 // The executable itself, watched from outside: what it prints and how it ends when it runs without a user.
 
+#include "dateien.h"
 #include "fenstertest.h"
+#include "initext.h"
+#include "konfigurationsdatei.h"
 #include "programmprozess.h"
 #include "simulatorprozess.h"
+#include "standardkonfiguration.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -27,6 +31,17 @@ protected:
         QFile datei(pfad);
         ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
         datei.write(inhalt);
+    }
+    /// A configuration file that has all default values.
+    std::string LegeKonfiguration(const QString& name) const {
+        modDaten::LadeStandardkonfiguration();
+        EXPECT_EQ(ErsetzeDatei(Pfad(name).toStdString(), modDaten::SpeichereKonfigurationsdatei()), "");
+        return Pfad(name).toStdString();
+    }
+    /// A file that the settings of the program remember as opened last.
+    std::string Zuletzt(int platz) const {
+        const auto datei = LiesDatei(Pfad("varnoth.ini").toStdString(), 10000);
+        return Initext(datei.bytes).Lies("LetzteDateien", "Datei" + std::to_string(platz)).value_or("");
     }
     /// Starts a first instance, and gives what a second one prints as its error.
     std::string FehlerDerZweitenInstanz() {
@@ -57,6 +72,26 @@ TEST_F(Programmlauf, A_controller_at_a_given_device_is_identified_read_and_measu
     ASSERT_EQ(programm.WarteAufEnde(), 0) << programm.Fehlerausgabe();
     EXPECT_THAT(programm.Ausgabe(),
                 AllOf(HasSubstr("identified: slave 17,"), HasSubstr("measured: part 2, 40 beams")));
+}
+
+TEST_F(Programmlauf, Version_and_switches_are_told_without_a_window) {
+    for (const auto& [wort, teil] : {std::pair("--version", "varnoth 1.0.0\n"), {"--help", "/Selbsttest="}}) {
+        Programmprozess programm(ordner.path(), {wort});
+        EXPECT_EQ(programm.WarteAufEnde(), 0) << wort;
+        EXPECT_THAT(programm.Ausgabe(), HasSubstr(teil));
+        EXPECT_EQ(programm.Fehlerausgabe(), "");
+    }
+    EXPECT_FALSE(QFile::exists(Pfad("varnoth.ini")));
+}
+
+TEST_F(Programmlauf, A_file_named_at_the_start_and_that_of_a_second_start_are_opened_in_the_one_program) {
+    const std::string erste = LegeKonfiguration("erste.con");
+    const std::string zweite = LegeKonfiguration("zweite ü.con");
+    Programmprozess programm(ordner.path(), {"erste.con"});
+    EXPECT_TRUE(WarteBis([&] { return Zuletzt(1) == erste; }));
+    Programmprozess nachzuegler(ordner.path(), {"zweite ü.con"});
+    EXPECT_EQ(nachzuegler.WarteAufEnde(), 0) << nachzuegler.Fehlerausgabe();
+    EXPECT_TRUE(WarteBis([&] { return Zuletzt(1) == zweite && Zuletzt(2) == erste; }));
 }
 
 TEST_F(Programmlauf, A_second_instance_says_so_and_ends) {

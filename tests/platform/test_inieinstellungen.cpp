@@ -236,12 +236,48 @@ TEST_F(IniEinstellungenTest, The_file_lies_beside_the_program_where_that_can_be_
     EXPECT_EQ(Einstellungspfad(ordner.path(), QStringLiteral("varnoth")), Pfad());
 }
 
-TEST_F(IniEinstellungenTest, The_file_of_an_installed_program_lies_in_the_users_configuration_folder) {
-    qputenv("XDG_CONFIG_HOME", ordner.filePath(QStringLiteral("config")).toUtf8());
-    EXPECT_EQ(Einstellungspfad(ordner.filePath(QStringLiteral("not-there")), QStringLiteral("varnoth")),
-              ordner.filePath(QStringLiteral("config/varnoth.ini")));
-    EXPECT_TRUE(QDir(ordner.filePath(QStringLiteral("config"))).exists());
-    qunsetenv("XDG_CONFIG_HOME");
+class Einstellungsort : public testing::Test {
+protected:
+    Einstellungsort() { qputenv("XDG_CONFIG_HOME", Pfad("config").toUtf8()); }
+    ~Einstellungsort() override { qputenv("XDG_CONFIG_HOME", vorher); }
+    QString Pfad(const char* name) const { return ordner.filePath(QLatin1String(name)); }
+    static void Lege(const QString& pfad) {
+        QDir().mkpath(QFileInfo(pfad).path());
+        EXPECT_TRUE(QFile(pfad).open(QIODevice::WriteOnly));
+    }
+    /// A program with the data of an installation beside its folder.
+    QString Installiertes() const {
+        QDir().mkpath(Pfad("bin"));
+        QDir().mkpath(Pfad("share/varnoth"));
+        return Pfad("bin");
+    }
+    static QString Ort(const QString& programmordner) {
+        return Einstellungspfad(programmordner, QStringLiteral("varnoth"));
+    }
+
+    QTemporaryDir ordner;
+    const QByteArray vorher = qgetenv("XDG_CONFIG_HOME");
+};
+
+TEST_F(Einstellungsort, Of_an_installed_program_it_is_a_folder_of_its_own_among_the_users_settings) {
+    EXPECT_EQ(Ort(Installiertes()), Pfad("config/varnoth/varnoth.ini"));
+    EXPECT_TRUE(QDir(Pfad("config/varnoth")).exists());
+}
+
+TEST_F(Einstellungsort, Of_a_program_in_a_folder_that_cannot_be_written_it_is_the_same) {
+    EXPECT_EQ(Ort(Pfad("not-there")), Pfad("config/varnoth/varnoth.ini"));
+}
+
+TEST_F(Einstellungsort, Settings_that_lie_beside_an_installed_program_keep_working) {
+    Lege(Installiertes() + QStringLiteral("/varnoth.ini"));
+    EXPECT_EQ(Ort(Installiertes()), Pfad("bin/varnoth.ini"));
+}
+
+TEST_F(Einstellungsort, Settings_where_an_earlier_version_has_left_them_keep_working) {
+    Lege(Pfad("config/varnoth.ini"));
+    EXPECT_EQ(Ort(Installiertes()), Pfad("config/varnoth.ini"));
+    Lege(Pfad("config/varnoth/varnoth.ini"));
+    EXPECT_EQ(Ort(Installiertes()), Pfad("config/varnoth/varnoth.ini"));
 }
 
 } // namespace varnoth

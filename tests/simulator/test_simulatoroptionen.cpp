@@ -52,7 +52,8 @@ TEST(Simulatoroptionen, Are_all_read) {
                              "--fault",
                              "silence",
                              "--exit-with-parent",
-                             "--help"});
+                             "--help",
+                             "--version"});
     EXPECT_EQ(o.verknuepfung, "/a");
     EXPECT_EQ(o.aufbau.strahlen, (std::array{10, 0, 20, 0}));
     EXPECT_EQ(o.aufbau.adresse, 7);
@@ -68,6 +69,7 @@ TEST(Simulatoroptionen, Are_all_read) {
     EXPECT_EQ(o.aufbau.stoerungen.size(), 2U);
     EXPECT_TRUE(o.endetMitEltern);
     EXPECT_TRUE(o.hilfe);
+    EXPECT_TRUE(o.version);
 }
 
 TEST(Simulatoroptionen, Accept_512_beams_in_all_and_no_more) {

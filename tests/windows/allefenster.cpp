@@ -100,8 +100,9 @@ std::unique_ptr<QWidget> Sicherungsfenster() {
 
 std::unique_ptr<QWidget> Vergleich() {
     auto fenster = std::make_unique<MitUmfeld<frmVergleich, Anbieter>>();
-    fenster->Setze(Seitenwahl::A,
-                   {Vergleichsquelle::Datei, std::string("/") + TextMitTags, Standardkonfiguration(), {}});
+    fenster->Setze(
+        Seitenwahl::A,
+        {Vergleichsquelle::Datei, std::string("/").append(TextMitTags), Standardkonfiguration(), {}});
     return fenster;
 }
 

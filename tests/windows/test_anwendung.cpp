@@ -1,8 +1,10 @@
 #include "anwendung.h"
 
+#include "dateien.h"
 #include "einstellungen.h"
 #include "fenstertest.h"
 #include "frmSplash.h"
+#include "konfigurationsdatei.h"
 #include "plausibilitaet.h"
 #include "polling.h"
 #include "programmsymbol.h"
@@ -11,6 +13,7 @@
 #include "registeradressen.h"
 #include "schnittstelle.h"
 #include "servicetext.h"
+#include "standardkonfiguration.h"
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
@@ -33,6 +36,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <future>
 #include <memory>
 #include <vector>
 
@@ -40,10 +44,14 @@ namespace varnoth {
 
 class AnwendungTest : public testing::Test {
 protected:
-    AnwendungTest() { QDir::setCurrent(ordner.path()); }
+    AnwendungTest() {
+        QDir::setCurrent(ordner.path());
+        qputenv("XDG_CONFIG_HOME", ordner.filePath(QStringLiteral("config")).toUtf8());
+    }
     ~AnwendungTest() override {
         anwendung.reset();
         QDir::setCurrent(vorher);
+        qputenv("XDG_CONFIG_HOME", konfigurationVorher);
     }
 
     void SchreibEinstellungen(const QByteArray& text) const {
@@ -57,7 +65,25 @@ protected:
                 .programmname = QStringLiteral("varnoth"),
                 .sperrordner = ordner.path(),
                 .datenordner = ordner.filePath(QStringLiteral("daten")),
-                .splashSekunden = 0};
+                .splashSekunden = 0,
+                .laengsteUebergabe = std::chrono::milliseconds(100)};
+    }
+    /// A configuration file with a first part of 24 beams.
+    std::string LegeKonfiguration(const char* name) const {
+        const std::string pfad = ordner.filePath(QLatin1String(name)).toStdString();
+        modDaten::LadeStandardkonfiguration();
+        modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {24});
+        EXPECT_EQ(ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei()), "");
+        modDaten::LoescheGeaendert();
+        return pfad;
+    }
+    /// What a second start does, while events run here. Whether the running program has taken the file.
+    bool UebergibVonAussen(const std::string& pfad) const {
+        const QString ort = Instanzsperre(QStringLiteral("varnoth"), ordner.path()).Briefkasten();
+        auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, pfad); });
+        EXPECT_TRUE(pruefung::WarteBis(
+            [&] { return antwort.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
+        return antwort.get();
     }
     Anwendung& Mit(const QStringList& worte) {
         anwendung.reset();
@@ -89,6 +115,7 @@ protected:
 
     QTemporaryDir ordner;
     const QString vorher = QDir::currentPath();
+    const QByteArray konfigurationVorher = qgetenv("XDG_CONFIG_HOME");
     std::vector<std::string> meldungen;
     std::unique_ptr<Anwendung> anwendung;
 };
@@ -144,6 +171,58 @@ TEST_F(AnwendungTest, A_second_instance_is_refused_with_a_message) {
     ASSERT_TRUE(erste.Belege());
     EXPECT_FALSE(Mit({}).Starte());
     EXPECT_EQ(meldungen, std::vector<std::string>{"Das Programm wurde bereits gestartet"});
+}
+
+TEST_F(AnwendungTest, A_file_of_the_command_line_is_opened_instead_of_connecting) {
+    const std::string datei = LegeKonfiguration("anlage 1.con");
+    EXPECT_TRUE(Mit({"/Simulator", "anlage 1.con"}).Starte());
+    anwendung->Verbinde();
+    EXPECT_EQ(modModbus::GetIdentText1(), "");
+    anwendung->Runde();
+    EXPECT_EQ(modDaten::Strahlenzahl(0), 24);
+    EXPECT_EQ(modDaten::GetDateiname(), datei);
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+    EXPECT_TRUE(meldungen.empty());
+}
+
+TEST_F(AnwendungTest, A_self_test_connects_whatever_file_is_named) {
+    LegeKonfiguration("a.con");
+    EXPECT_TRUE(Mit({"/Selbsttest=bild", "a.con"}).Starte());
+    EXPECT_FALSE(anwendung->Hauptfenster().HatUebergebene());
+}
+
+TEST_F(AnwendungTest, A_file_of_a_second_start_brings_the_window_to_the_front_and_is_opened) {
+    ASSERT_TRUE(Mit({}).Starte());
+    anwendung->Hauptfenster().showMinimized();
+    const std::string datei = LegeKonfiguration("b.con");
+    EXPECT_TRUE(UebergibVonAussen(datei));
+    EXPECT_FALSE(anwendung->Hauptfenster().isMinimized());
+    anwendung->Hauptfenster().MenuAusführen();
+    EXPECT_EQ(modDaten::GetDateiname(), datei);
+}
+
+TEST_F(AnwendungTest, A_program_that_is_about_to_end_takes_no_file_of_a_second_start) {
+    ASSERT_TRUE(Mit({}).Starte());
+    anwendung->Hauptfenster().close();
+    EXPECT_FALSE(UebergibVonAussen("/a.con"));
+}
+
+TEST_F(AnwendungTest, A_second_start_with_several_files_says_that_this_is_not_possible) {
+    Instanzsperre erste(QStringLiteral("varnoth"), ordner.path());
+    ASSERT_TRUE(erste.Belege());
+    EXPECT_FALSE(Mit({"a.con", "b.con"}).Starte());
+    EXPECT_EQ(meldungen, std::vector{LadeText(8810)});
+}
+
+TEST_F(AnwendungTest, A_second_start_whose_file_nobody_takes_names_it) {
+    Instanzsperre erste(QStringLiteral("varnoth"), ordner.path());
+    ASSERT_TRUE(erste.Belege());
+    EXPECT_FALSE(Mit({"a.con"}).Starte());
+    EXPECT_EQ(
+        meldungen,
+        std::vector{"Das laufende Programm hat die Datei nicht angenommen. Öffnen Sie sie dort, oder beenden "
+                    "Sie es zuerst:\n" +
+                    ordner.filePath("a.con").toStdString()});
 }
 
 TEST_F(AnwendungTest, The_service_switch_stores_the_password_and_shows_the_service_items) {

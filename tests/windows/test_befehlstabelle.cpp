@@ -39,6 +39,7 @@ struct PruefWirkung : Befehlswirkung {
 
     void OeffneLetzteDatei(int platz) override { getan = "last file " + std::to_string(platz); }
     void VerbindeSimuliert() override { getan = "simulated"; }
+    void OeffneUebergebeneDateien() override { getan = "handed over"; }
     void ZeigeSicherungen() override { getan = "backups"; }
     void OeffneSicherung() override { getan = "open backup"; }
     void ZeigeBericht() override { getan = "report"; }
@@ -92,6 +93,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
         EXPECT_EQ(GetanVon(++code), arbeit) << "code " << code;
     EXPECT_EQ(GetanVon(101), "last file 2");
     EXPECT_EQ(GetanVon(102), "simulated");
+    EXPECT_EQ(GetanVon(103), "handed over");
     EXPECT_EQ(GetanVon(120), "backups");
     EXPECT_EQ(GetanVon(121), "open backup");
     EXPECT_EQ(GetanVon(110), "comparison");

@@ -1,5 +1,7 @@
 #include "kommandozeile.h"
 
+#include "texte.h"
+
 #include <gtest/gtest.h>
 
 namespace varnoth {
@@ -53,6 +55,65 @@ TEST(Kommandozeile, Simulator_device_and_self_test_are_read_together) {
     EXPECT_TRUE(zeile.simulator);
     EXPECT_EQ(zeile.geraet, "/dev/ttyUSB0");
     EXPECT_EQ(zeile.selbsttest, "/tmp/bild");
+}
+
+TEST(Kommandozeile, A_word_without_a_slash_in_front_is_a_file_unless_it_looks_like_an_option) {
+    EXPECT_EQ(LiesKommandozeile({"a.con", "/Simulator", "folder/b c.con", "-x", "", "../ü.con"}).dateien,
+              QStringList({"a.con", "folder/b c.con", "../ü.con"}));
+}
+
+TEST(Kommandozeile, A_path_from_the_root_is_a_file_and_no_unknown_switch) {
+    EXPECT_EQ(LiesKommandozeile({"/home/user/a.con", "/a.con", "/A.CON", "/tmp/x", "/unknown", "/"}).dateien,
+              QStringList({"/home/user/a.con", "/a.con", "/A.CON", "/tmp/x"}));
+}
+
+TEST(Kommandozeile, A_path_that_begins_like_a_switch_is_a_file_where_it_exists_and_that_switch_otherwise) {
+    const QStringList worte{"/Plant/a.con", "/Simulator/b.con", "/Tlogfiles/c.con", "/Com=1/d.con"};
+    const auto da = LiesKommandozeile(worte, [](const QString&) { return true; });
+    EXPECT_EQ(da.dateien, worte);
+    EXPECT_FALSE(da.serviceText || da.simulator || da.trace);
+    const auto fehlt = LiesKommandozeile(worte, [](const QString&) { return false; });
+    EXPECT_TRUE(fehlt.dateien.isEmpty());
+    EXPECT_EQ(fehlt.serviceText, "lant/a.con      ");
+    EXPECT_TRUE(fehlt.simulator && fehlt.trace);
+}
+
+TEST(Kommandozeile, A_switch_without_a_second_slash_is_never_taken_for_a_file) {
+    const auto zeile = LiesKommandozeile({"/Pabc", "/Tlogfile", "/Simulator", "/Com=2"},
+                                         [](const QString&) { return true; });
+    EXPECT_TRUE(zeile.dateien.isEmpty());
+    EXPECT_EQ(zeile.serviceText, "abc             ");
+}
+
+TEST(Kommandozeile, A_device_or_folder_that_exists_is_not_taken_for_a_file_to_open) {
+    const auto zeile = LiesKommandozeile({"/Geraet=/dev/null", "/Selbsttest=/tmp"});
+    EXPECT_TRUE(zeile.dateien.isEmpty());
+    EXPECT_EQ(zeile.geraet, "/dev/null");
+}
+
+TEST(Kommandozeile, Behind_two_dashes_every_word_is_a_file) {
+    const auto zeile = LiesKommandozeile({"/Simulator", "--", "/Pabc", "--", "-a.con", "/Tlogfile"});
+    EXPECT_EQ(zeile.dateien, QStringList({"/Pabc", "--", "-a.con", "/Tlogfile"}));
+    EXPECT_TRUE(zeile.simulator);
+    EXPECT_FALSE(zeile.serviceText || zeile.trace);
+}
+
+TEST(Aufrufauskunft, The_version_is_told_on_one_line) {
+    EXPECT_EQ(Aufrufauskunft({"/Simulator", "--version"}), "varnoth 1.0.0\n");
+}
+
+TEST(Aufrufauskunft, The_help_names_every_switch_in_the_chosen_language) {
+    SetzeSprachoffset(Englisch);
+    const QString text = Aufrufauskunft({"--help"}).value_or(QString());
+    for (const char* wort : {"/P...", "/Tlogfile", "/Simulator", "/Geraet=PATH", "/Com=N",
+                             "/Selbsttest=FOLDER", "--help", "--version", "Usage: varnoth"})
+        EXPECT_TRUE(text.contains(QLatin1String(wort))) << wort;
+    SetzeSprachoffset(Deutsch);
+    EXPECT_TRUE(Aufrufauskunft({"--help"})->startsWith("Aufruf: varnoth"));
+}
+
+TEST(Aufrufauskunft, Without_the_words_or_behind_two_dashes_nothing_is_told) {
+    EXPECT_EQ(Aufrufauskunft({"/Simulator", "a.con", "--", "--version", "--help"}), std::nullopt);
 }
 
 } // namespace varnoth

@@ -1,0 +1,75 @@
+// Files that come to the main window from outside: dropped on it, named at the start, handed over by a second start.
+
+#include "dateiabwurf.h"
+#include "frmMain.h"
+#include "konfigurationsablauf.h"
+#include "texte.h"
+#include "textmitwerten.h"
+#include "umgebung.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+
+#include <utility>
+
+namespace varnoth {
+
+namespace {
+
+constexpr std::int16_t TextMehrereDateien = 8810;
+constexpr std::int16_t TextWartetAufDialog = 8811;
+
+} // namespace
+
+void ZeigeMehrereDateien() {
+    ZeigeWarnung(LadeText(TextMehrereDateien), LadeText(TextAchtung));
+}
+
+/// The command that opens them waits like any other; where another one waits already, it comes after that.
+void frmMain::Uebergib(std::vector<std::string> dateien) {
+    if (dateien.empty() || Beendet())
+        return;
+    if (QApplication::activeModalWidget() != nullptr)
+        ZeigeStatustext(FeldMeldungen, LadeTextMit(TextWartetAufDialog, {dateien.front()}));
+    uebergebene.push_back(std::move(dateien));
+    StelleUebergebeneAn();
+}
+
+void frmMain::StelleUebergebeneAn() {
+    if (!uebergebene.empty() && !befehle.Wartet())
+        befehle.Klick(Befehl::UebergebeneDateien);
+}
+
+void frmMain::OeffneUebergebeneDateien() {
+    if (uebergebene.empty())
+        return;
+    const auto dateien = std::move(uebergebene.front());
+    uebergebene.pop_front();
+    ZeigeStatustext(FeldMeldungen, "");
+    if (dateien.size() > 1)
+        ZeigeMehrereDateien();
+    else
+        LadeDatei(dateien.front());
+}
+
+void frmMain::KommNachVorn() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* ereignis) {
+    if (!GezogeneDateien(*ereignis->mimeData()).empty())
+        ereignis->acceptProposedAction();
+}
+
+/// Whoever drags waits for the end of this, so nothing is asked or shown here.
+void frmMain::dropEvent(QDropEvent* ereignis) {
+    Uebergib(GezogeneDateien(*ereignis->mimeData()));
+    ereignis->acceptProposedAction();
+}
+
+} // namespace varnoth
