@@ -10,8 +10,8 @@
 
 namespace varnoth {
 
-/// The rows of the bus log that a filter lets through, for a view. It follows the log only when it is told to,
-/// and decodes only the rows that are asked for.
+/// The rows of the bus log that a filter lets through, for a view. It follows the log only when it is told
+/// to, and decodes only the rows that are asked for.
 class Busmodell : public QAbstractTableModel {
     Q_OBJECT
 

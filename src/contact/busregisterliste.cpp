@@ -23,7 +23,8 @@ std::optional<Registerbezug> AusDaten(const QVariant& daten) {
     const QVariantList zahlen = daten.toList();
     if (zahlen.size() != 3)
         return std::nullopt;
-    return Registerbezug{static_cast<Speicherbereich>(zahlen[0].toInt()), zahlen[1].toInt(), zahlen[2].toInt()};
+    return Registerbezug{static_cast<Speicherbereich>(zahlen[0].toInt()), zahlen[1].toInt(),
+                         zahlen[2].toInt()};
 }
 
 /// The parts are not told apart here.

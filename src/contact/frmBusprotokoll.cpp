@@ -28,10 +28,11 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextStand = 8470, TextDurchsucht = 8482, TextNichtGefunden = 8484, TextGeschrieben = 8485,
-                       TextSupportfrage = 8486, TextSpeichernUnter = 8488, TextDateifilter = 8489,
-                       TextSupportUnter = 8490, TextTextfilter = 8491, TextGespeichert = 8492,
-                       TextNurDiesesRegister = 8495, TextKopieren = 9584, TextKopiert = 8496;
+constexpr std::int16_t TextStand = 8470, TextDurchsucht = 8482, TextNichtGefunden = 8484,
+                       TextGeschrieben = 8485, TextSupportfrage = 8486, TextSpeichernUnter = 8488,
+                       TextDateifilter = 8489, TextSupportUnter = 8490, TextTextfilter = 8491,
+                       TextGespeichert = 8492, TextNurDiesesRegister = 8495, TextKopieren = 9584,
+                       TextKopiert = 8496;
 constexpr std::int16_t Artentexte[] = {8471, 8415, 8416, 8417, 8473, 8474, 8419}; // in the order of Busart
 
 constexpr const char* Abschnitt = "frmBusprotokoll";
@@ -125,14 +126,10 @@ void frmBusprotokoll::VerbindeAnzeige() {
 
 void frmBusprotokoll::VerbindeKnoepfe() {
     const std::pair<QPushButton*, std::function<void()>> knoepfe[] = {
-        {ui->cmdVoriger, [this] { Suche(true); }},
-        {ui->cmdNaechster, [this] { Suche(false); }},
-        {ui->cmdLeeren, [this] { Leere(); }},
-        {ui->cmdKopieren, [this] { Kopiere(); }},
-        {ui->cmdSpeichern, [this] { Speichere(); }},
-        {ui->cmdSupport, [this] { StelleZusammen(); }},
-        {ui->cmdCancel, [this] { BrichAb(); }},
-        {ui->cmdSchliessen, [this] { close(); }},
+        {ui->cmdVoriger, [this] { Suche(true); }},   {ui->cmdNaechster, [this] { Suche(false); }},
+        {ui->cmdLeeren, [this] { Leere(); }},        {ui->cmdKopieren, [this] { Kopiere(); }},
+        {ui->cmdSpeichern, [this] { Speichere(); }}, {ui->cmdSupport, [this] { StelleZusammen(); }},
+        {ui->cmdCancel, [this] { BrichAb(); }},      {ui->cmdSchliessen, [this] { close(); }},
     };
     for (const auto& [knopf, tat] : knoepfe)
         connect(knopf, &QPushButton::clicked, this, tat);
@@ -400,7 +397,8 @@ void frmBusprotokoll::BieteMenue(const QPoint& stelle) {
     QAction* const nurDieses = menue->addAction(Q(LadeText(TextNurDiesesRegister)));
     nurDieses->setEnabled(bezug.has_value());
     if (bezug)
-        connect(nurDieses, &QAction::triggered, this, [this, bezug] { WaehleBezug(*ui->cboRegister, *bezug); });
+        connect(nurDieses, &QAction::triggered, this,
+                [this, bezug] { WaehleBezug(*ui->cboRegister, *bezug); });
     connect(menue->addAction(Q(LadeText(TextKopieren))), &QAction::triggered, this, [this] { Kopiere(); });
     menue->popup(ui->tblProtokoll->viewport()->mapToGlobal(stelle));
 }
@@ -421,8 +419,7 @@ void frmBusprotokoll::ZeigeMeldung(const std::string& text) {
 
 void frmBusprotokoll::ZeigeStand() {
     const std::size_t gezeigte = static_cast<std::size_t>(modell->rowCount());
-    std::string text = LadeTextMit(
-        TextStand, {std::to_string(protokoll.Anzahl()), std::to_string(gezeigte)});
+    std::string text = LadeTextMit(TextStand, {std::to_string(protokoll.Anzahl()), std::to_string(gezeigte)});
     if (auftrag)
         text = LadeTextMit(TextGeschrieben, {std::to_string(auftrag->schreiber.Geschrieben()),
                                              std::to_string(auftrag->schreiber.Anzahl())});

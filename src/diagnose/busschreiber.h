@@ -9,8 +9,8 @@
 
 namespace varnoth {
 
-/// Writes exchanges of a log as text, some at a time, so that a full log holds nobody up. What the log forgets
-/// meanwhile is left out.
+/// Writes exchanges of a log as text, some at a time, so that a full log holds nobody up. What the log
+/// forgets meanwhile is left out.
 class Busschreiber {
 public:
     /// The exchanges with these numbers, behind what the file begins with.
