@@ -8,8 +8,8 @@
 
 namespace varnoth {
 
-/// The exchanges of a log that a filter lets through, in their order. It is found step by step, so that a full
-/// log holds nobody up, and follows the log as it grows and forgets.
+/// The exchanges of a log that a filter lets through, in their order. It is found step by step, so that a
+/// full log holds nobody up, and follows the log as it grows and forgets.
 class Busauswahl {
 public:
     explicit Busauswahl(const Busprotokoll& ausProtokoll) : protokoll(&ausProtokoll) {}

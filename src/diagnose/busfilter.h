@@ -9,8 +9,9 @@ namespace varnoth {
 
 /// The kinds of exchange that a person tells apart.
 enum class Busart { Alle, Lesen, Schreiben, Identifikation, OhneAntwort, Klaerung, Ungefragt };
-inline constexpr Busart AlleBusarten[] = {Busart::Alle,        Busart::Lesen,    Busart::Schreiben, Busart::Identifikation,
-                                          Busart::OhneAntwort, Busart::Klaerung, Busart::Ungefragt};
+inline constexpr Busart AlleBusarten[] = {Busart::Alle,           Busart::Lesen,       Busart::Schreiben,
+                                          Busart::Identifikation, Busart::OhneAntwort, Busart::Klaerung,
+                                          Busart::Ungefragt};
 
 /// Which exchanges are wanted.
 struct Busfilter {

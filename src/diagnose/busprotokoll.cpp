@@ -30,7 +30,8 @@ Busprotokoll::~Busprotokoll() {
 
 void Busprotokoll::Beginne() {
     if (eintraege == nullptr) {
-        eintraege = std::make_unique_for_overwrite<Eintrag[]>(Hoechstzahl); // NOLINT(modernize-avoid-c-arrays)
+        eintraege =
+            std::make_unique_for_overwrite<Eintrag[]>(Hoechstzahl);        // NOLINT(modernize-avoid-c-arrays)
         bytespeicher = std::make_unique_for_overwrite<char[]>(Bytevorrat); // NOLINT(modernize-avoid-c-arrays)
     }
     if (anzahl == 0) {
@@ -103,7 +104,8 @@ void Busprotokoll::MerkeOptikteil(const Mitschnitt& mitschnitt) {
     if (bezug->adresse == global::Kommando && wert == KommandoNeustart)
         optikteil = -1;
     if (bezug->adresse == global::Optikteilauswahl)
-        optikteil = mitschnitt.ergebnis == Austauschergebnis::Beantwortet && wert < AnzahlOptikteile ? wert : -1;
+        optikteil =
+            mitschnitt.ergebnis == Austauschergebnis::Beantwortet && wert < AnzahlOptikteile ? wert : -1;
 }
 
 void Busprotokoll::Hoere(const Mitschnitt& mitschnitt) {
@@ -117,17 +119,18 @@ void Busprotokoll::Hoere(const Mitschnitt& mitschnitt) {
     const std::size_t zeigbaresEmpfangenes = std::min(zeigbar.empfangen, empfangen.size());
     Lege(stelle, anforderung, zeigbareAnforderung);
     Lege(stelle + anforderung.size(), empfangen, zeigbaresEmpfangenes);
-    eintraege[naechster % Hoechstzahl] = {.gesendet = mitschnitt.gesendet,
-                                          .anfang = stelle,
-                                          .umlauf = Gekuerzt((mitschnitt.letztesByte - mitschnitt.gesendet).count()),
-                                          .kamAn = Gekuerzt(static_cast<std::int64_t>(mitschnitt.empfangen.size())),
-                                          .anforderung = static_cast<std::uint16_t>(anforderung.size()),
-                                          .empfangen = static_cast<std::uint16_t>(empfangen.size()),
-                                          .zeigbareAnforderung = static_cast<std::uint16_t>(zeigbareAnforderung),
-                                          .zeigbaresEmpfangenes = static_cast<std::uint16_t>(zeigbaresEmpfangenes),
-                                          .art = mitschnitt.art,
-                                          .ergebnis = mitschnitt.ergebnis,
-                                          .optikteil = static_cast<std::int8_t>(optikteil)};
+    eintraege[naechster % Hoechstzahl] = {
+        .gesendet = mitschnitt.gesendet,
+        .anfang = stelle,
+        .umlauf = Gekuerzt((mitschnitt.letztesByte - mitschnitt.gesendet).count()),
+        .kamAn = Gekuerzt(static_cast<std::int64_t>(mitschnitt.empfangen.size())),
+        .anforderung = static_cast<std::uint16_t>(anforderung.size()),
+        .empfangen = static_cast<std::uint16_t>(empfangen.size()),
+        .zeigbareAnforderung = static_cast<std::uint16_t>(zeigbareAnforderung),
+        .zeigbaresEmpfangenes = static_cast<std::uint16_t>(zeigbaresEmpfangenes),
+        .art = mitschnitt.art,
+        .ergebnis = mitschnitt.ergebnis,
+        .optikteil = static_cast<std::int8_t>(optikteil)};
     ++naechster;
     ++anzahl;
     MerkeOptikteil(mitschnitt);

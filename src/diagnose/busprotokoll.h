@@ -30,8 +30,8 @@ struct Busaustausch {
 /// Whether an exchange went wrong; bytes that nobody was waiting for always did.
 bool IstFehler(Austauschergebnis ergebnis);
 
-/// The newest exchanges on the line, in memory of a bounded size. What they mean is found out by whoever shows
-/// them.
+/// The newest exchanges on the line, in memory of a bounded size. What they mean is found out by whoever
+/// shows them.
 class Busprotokoll : public Mithoerer {
 public:
     static constexpr std::size_t Hoechstzahl = 100'000;
@@ -53,7 +53,8 @@ public:
     /// Forgets all exchanges; numbers go on.
     void Leere();
 
-    /// The numbers of the oldest exchange that is kept, and of the newest; newest < oldest when there is none.
+    /// The numbers of the oldest exchange that is kept, and of the newest; newest < oldest when there is
+    /// none.
     std::uint64_t Erster() const { return naechster - anzahl; }
     std::uint64_t Letzter() const { return naechster - 1; }
     std::size_t Anzahl() const { return anzahl; }

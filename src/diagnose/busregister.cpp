@@ -35,7 +35,8 @@ std::vector<Registername> StelleZusammen() {
     std::vector<Registername> namen(std::begin(Uebrige), std::end(Uebrige));
     for (const Parameter& parameter : AlleParameter())
         namen.push_back({parameter.bereich, parameter.adresse, parameter.beschreibung.Laenge});
-    std::ranges::sort(namen, {}, [](const Registername& name) { return std::tuple(name.bereich, name.adresse); });
+    std::ranges::sort(namen, {},
+                      [](const Registername& name) { return std::tuple(name.bereich, name.adresse); });
     return namen;
 }
 

@@ -19,6 +19,7 @@ std::string CsvFeld(std::string_view wert);
 /// What the file begins with: what its columns are.
 std::string Schriftkopf(Busformat format);
 /// One exchange, with its line end.
-std::string Schriftzeile(Busformat format, const Busaustausch& austausch, std::chrono::system_clock::time_point zeit);
+std::string Schriftzeile(Busformat format, const Busaustausch& austausch,
+                         std::chrono::system_clock::time_point zeit);
 
 } // namespace varnoth

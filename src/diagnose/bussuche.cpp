@@ -23,7 +23,8 @@ bool IstHexfolge(const std::string& text) {
 
 /// Whether the bytes begin somewhere with these, and not in the middle of one.
 bool HatBytes(const std::string& bytes, const std::string& gesuchte) {
-    for (auto stelle = bytes.find(gesuchte); stelle != std::string::npos; stelle = bytes.find(gesuchte, stelle + 1))
+    for (auto stelle = bytes.find(gesuchte); stelle != std::string::npos;
+         stelle = bytes.find(gesuchte, stelle + 1))
         if (stelle % 2 == 0)
             return true;
     return false;
@@ -38,8 +39,9 @@ bool Enthaelt(const Busaustausch& austausch, const std::string& text) {
     const auto enthaelt = [&](const std::string& worte) {
         return Gefaltet(worte).find(gesucht) != std::string::npos;
     };
-    if (enthaelt(Bytetext(austausch)) || enthaelt(Ergebnistext(austausch)) || enthaelt(Funktionstext(austausch)) ||
-        enthaelt(Richtungstext(austausch)) || enthaelt(Registerangabe(austausch)) || enthaelt(Wertetext(austausch)))
+    if (enthaelt(Bytetext(austausch)) || enthaelt(Ergebnistext(austausch)) ||
+        enthaelt(Funktionstext(austausch)) || enthaelt(Richtungstext(austausch)) ||
+        enthaelt(Registerangabe(austausch)) || enthaelt(Wertetext(austausch)))
         return true;
     const std::string dicht = OhneBlanks(gesucht);
     return IstHexfolge(dicht) && (HatBytes(OhneBlanks(Gefaltet(Anforderungsbytes(austausch))), dicht) ||
@@ -62,7 +64,8 @@ std::optional<std::size_t> Bussuche::Weiter(std::size_t hoechstens,
                                             const std::function<bool(std::size_t zeile)>& trifft) {
     for (; hoechstens > 0 && offen > 0; --hoechstens, --offen) {
         const std::size_t zeile = naechste;
-        naechste = rueckwaerts ? (zeile == 0 ? anzahl - 1 : zeile - 1) : (zeile + 1 == anzahl ? 0 : zeile + 1);
+        naechste =
+            rueckwaerts ? (zeile == 0 ? anzahl - 1 : zeile - 1) : (zeile + 1 == anzahl ? 0 : zeile + 1);
         if (!trifft(zeile))
             continue;
         offen = 0;

@@ -193,10 +193,10 @@ std::string Wertetext(const Busaustausch& austausch) {
     if (const auto daten = Identifikationsdaten(austausch.empfangen); !daten.empty() && Antwortete(austausch))
         return Identifikationsworte(daten);
     const auto bezug = RegisterbezugVon(austausch.anforderung);
-    const Werte werte = IstSchreibrahmen(austausch.anforderung)
-                            ? GeschriebeneWerte(austausch.anforderung)
-                            : (Antwortete(austausch) ? GeleseneWerte(austausch.anforderung, austausch.empfangen)
-                                                     : Werte());
+    const Werte werte =
+        IstSchreibrahmen(austausch.anforderung)
+            ? GeschriebeneWerte(austausch.anforderung)
+            : (Antwortete(austausch) ? GeleseneWerte(austausch.anforderung, austausch.empfangen) : Werte());
     if (werte.empty())
         return {};
     return Einzeilig(bezug ? Werteworte(*bezug, werte, austausch.optikteil) : Rohtexte(werte));
@@ -223,8 +223,9 @@ std::string Umlaufzahl(const Busaustausch& austausch) {
     if (austausch.empfangen.empty() || austausch.art == Austauschart::Ungefragt)
         return {};
     std::array<char, 24> text{};
-    std::snprintf(text.data(), text.size(), "%lld%c%01d", static_cast<long long>(austausch.umlauf.count() / 1000),
-                  Dezimaltrenner(), static_cast<int>(austausch.umlauf.count() % 1000 / 100));
+    std::snprintf(text.data(), text.size(), "%lld%c%01d",
+                  static_cast<long long>(austausch.umlauf.count() / 1000), Dezimaltrenner(),
+                  static_cast<int>(austausch.umlauf.count() % 1000 / 100));
     return text.data();
 }
 
@@ -234,7 +235,8 @@ std::string Umlauftext(const Busaustausch& austausch) {
 }
 
 std::string Ergebnistext(const Busaustausch& austausch) {
-    std::string text = LadeText(static_cast<std::int16_t>(TextErstesErgebnis + static_cast<int>(austausch.ergebnis)));
+    std::string text =
+        LadeText(static_cast<std::int16_t>(TextErstesErgebnis + static_cast<int>(austausch.ergebnis)));
     if (austausch.ergebnis == Austauschergebnis::Zeitueberschreitung && austausch.kamAn > 0)
         text = LadeTextMit(TextUnvollstaendig, {std::to_string(austausch.kamAn)});
     if (const auto code = Ablehnungscode(austausch.anforderung, austausch.empfangen);
@@ -252,15 +254,12 @@ std::string Zeitpunkttext(std::chrono::system_clock::time_point zeit) {
 }
 
 std::string Einzelheiten(const Busaustausch& austausch, std::chrono::system_clock::time_point zeit) {
-    const std::pair<std::int16_t, std::string> zeilen[] = {{TextZeit, Zeitpunkttext(zeit)},
-                                                           {TextRichtung, Richtungstext(austausch)},
-                                                           {TextFunktion, Funktionstext(austausch)},
-                                                           {TextRegister, Registerangabe(austausch)},
-                                                           {TextWerte, Wertetext(austausch)},
-                                                           {TextGesendet, Anforderungsbytes(austausch)},
-                                                           {TextEmpfangen, Empfangsbytes(austausch)},
-                                                           {TextUmlauf, Umlauftext(austausch)},
-                                                           {TextErgebnis, Ergebnistext(austausch)}};
+    const std::pair<std::int16_t, std::string> zeilen[] = {
+        {TextZeit, Zeitpunkttext(zeit)},           {TextRichtung, Richtungstext(austausch)},
+        {TextFunktion, Funktionstext(austausch)},  {TextRegister, Registerangabe(austausch)},
+        {TextWerte, Wertetext(austausch)},         {TextGesendet, Anforderungsbytes(austausch)},
+        {TextEmpfangen, Empfangsbytes(austausch)}, {TextUmlauf, Umlauftext(austausch)},
+        {TextErgebnis, Ergebnistext(austausch)}};
     std::string text;
     for (const auto& [kopf, zeile] : zeilen)
         if (!zeile.empty())

@@ -19,8 +19,8 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextTitel = 8475, TextVersionen = 8476, TextVerbindung = 8477, TextGeraet = 8478,
-                       TextZaehlungen = 8479, TextEreignisse = 8480, TextEinstellungen = 8481, TextProtokoll = 8400,
-                       TextKeines = 8483;
+                       TextZaehlungen = 8479, TextEreignisse = 8480, TextEinstellungen = 8481,
+                       TextProtokoll = 8400, TextKeines = 8483;
 constexpr std::int16_t Zaehlungstexte[] = {8421, 8430, 8422, 8487, 8426}; // in the order of Austauschende
 
 std::string Abschnitt(std::int16_t titel, std::string inhalt) {
@@ -88,8 +88,8 @@ std::string Supportkopf(const Supportangaben& angaben, std::chrono::system_clock
                         Abschnitt(TextVerbindung, Zeilenweise(angaben.verbindung)) +
                         Abschnitt(TextGeraet, Geraet()) + Abschnitt(TextZaehlungen, Zaehlungen()) +
                         Abschnitt(TextEreignisse, Ereignisse()) +
-                        Abschnitt(TextEinstellungen, UnbedenklicheEinstellungen(angaben.einstellungen)) + "\n== " +
-                        LadeText(TextProtokoll) + " ==\n");
+                        Abschnitt(TextEinstellungen, UnbedenklicheEinstellungen(angaben.einstellungen)) +
+                        "\n== " + LadeText(TextProtokoll) + " ==\n");
 }
 
 } // namespace varnoth

@@ -13,8 +13,8 @@ struct Supportangaben {
     std::string einstellungen{}; ///< the settings file as it is
 };
 
-/// What stands before the log in the file for support (UTF-8): versions, connection, controller, counts of the
-/// exchanges, events, and the settings without what is confidential. The service password is not in it.
+/// What stands before the log in the file for support (UTF-8): versions, connection, controller, counts of
+/// the exchanges, events, and the settings without what is confidential. The service password is not in it.
 std::string Supportkopf(const Supportangaben& angaben, std::chrono::system_clock::time_point jetzt);
 
 /// The settings without the values that nobody else should read, and without what is no text.

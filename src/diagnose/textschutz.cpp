@@ -14,10 +14,10 @@ constexpr std::uint8_t ErstesDruckbares = 0x20, Loeschzeichen = 0x7F, ErstesFolg
 
 /// Marks of two or three bytes that break a line or turn its direction.
 constexpr std::string_view Wirksame[] = {
-    "\xE2\x80\xA8", "\xE2\x80\xA9",                                                     // line ends
-    "\xE2\x80\x8E", "\xE2\x80\x8F", "\xE2\x80\xAA", "\xE2\x80\xAB", "\xE2\x80\xAC",     // directions
-    "\xE2\x80\xAD", "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA7", "\xE2\x81\xA8", "\xE2\x81\xA9",
-    "\xD8\x9C",     "\xEF\xBB\xBF",
+    "\xE2\x80\xA8", "\xE2\x80\xA9",                                                 // line ends
+    "\xE2\x80\x8E", "\xE2\x80\x8F", "\xE2\x80\xAA", "\xE2\x80\xAB", "\xE2\x80\xAC", // directions
+    "\xE2\x80\xAD", "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA7", "\xE2\x81\xA8",
+    "\xE2\x81\xA9", "\xD8\x9C",     "\xEF\xBB\xBF",
 };
 
 std::uint8_t Code(char zeichen) {
@@ -65,7 +65,8 @@ std::string Gefaltet(std::string_view text) {
     std::string gefaltetes(text);
     for (std::size_t i = 0; i < gefaltetes.size(); ++i) {
         const std::uint8_t byte = Code(gefaltetes[i]);
-        const bool latein = i > 0 && Code(gefaltetes[i - 1]) == 0xC3 && byte >= 0x80 && byte <= 0x9E && byte != 0x97;
+        const bool latein =
+            i > 0 && Code(gefaltetes[i - 1]) == 0xC3 && byte >= 0x80 && byte <= 0x9E && byte != 0x97;
         if ((byte >= 'A' && byte <= 'Z') || latein)
             gefaltetes[i] = static_cast<char>(byte + ('a' - 'A'));
     }

@@ -9,7 +9,8 @@ namespace varnoth {
 /// ends and marks that turn the direction of writing become visible signs; bytes that are no UTF-8 as well.
 std::string Einzeilig(std::string_view text);
 
-/// The text without the difference between capital and small letters, ASCII and Latin: what a search compares.
+/// The text without the difference between capital and small letters, ASCII and Latin: what a search
+/// compares.
 std::string Gefaltet(std::string_view text);
 
 } // namespace varnoth

@@ -76,6 +76,9 @@ constexpr Befehlszeile DieBefehle[] = {
      "bericht", 9745, Leistengruppe::Pruefen},
     {Befehl::Darstellung, "tlbDarstellung", LaeuftWeiter, Still, [](Ziel& z, int) { z.BieteDarstellung(); },
      0, 1, "", 9520, "darstellung", 9521, Leistengruppe::Darstellung},
+    {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
+     Leistengruppe::Verbindung},
 };
 
 } // namespace

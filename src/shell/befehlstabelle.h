@@ -53,6 +53,7 @@ public:
     virtual void LiesGeraetZumVergleich() = 0;
     /// Offers looks and beam colours.
     virtual void BieteDarstellung() = 0;
+    virtual void ZeigeBusprotokoll() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,

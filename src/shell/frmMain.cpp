@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "busablauf.h"
 #include "einstellungen.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
@@ -87,6 +88,7 @@ frmMain::frmMain(const QString& programmordner)
                 vergleich->Zeige({Vergleichsquelle::Sicherung, sicherung.pfad, abbild, {}},
                                  SeiteJetzt(Vergleichsquelle::InBearbeitung));
             }});
+    bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
 }
 
@@ -178,6 +180,7 @@ void frmMain::Entlade() {
     SchliesseDialoge();
     sicherungen->Schliesse();
     vergleich->Schliesse();
+    bus->Schliesse();
     hide();
 }
 

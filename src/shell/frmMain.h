@@ -29,6 +29,7 @@ class frmMain;
 void ZeigeMehrereDateien();
 
 class Vergleichsablauf;
+class Busablauf;
 class Sicherungsablauf;
 class frmDocument;
 class Erscheinungsbild;
@@ -164,6 +165,8 @@ private:
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
     void BieteDarstellung() override;
+    void ZeigeBusprotokoll() override;
+    void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
     std::unique_ptr<Ui::frmMain> ui;
@@ -179,6 +182,7 @@ private:
     std::unique_ptr<Geraetebetrieb> betrieb;
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
+    std::unique_ptr<Busablauf> bus;
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     bool liveDatenPassen = true; ///< to the configuration, when a command that paused them has ended

@@ -1,7 +1,9 @@
 // What the menu commands of the main window do.
 
+#include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmInfo.h"
@@ -23,6 +25,7 @@
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
 
+#include <QAction>
 #include <QMenu>
 
 namespace varnoth {
@@ -34,8 +37,19 @@ bool frmMain::IstZuSpaet(Befehl befehl) const {
 
 void frmMain::FuehreAus(Befehl befehl, int index) {
     const Befehlszeile* const zeile = ZeileZu(befehl);
-    if (zeile != nullptr && !IstZuSpaet(befehl))
-        zeile->tut(*this, index);
+    if (zeile == nullptr || IstZuSpaet(befehl))
+        return;
+    MerkeBefehl(*zeile, index);
+    zeile->tut(*this, index);
+}
+
+/// By the text of its menu item or button, for whoever reads later what has happened.
+void frmMain::MerkeBefehl(const Befehlszeile& zeile, int index) const {
+    const auto* const aktion =
+        findChild<QAction*>(QString::fromStdString(Aktionsname(zeile, index - zeile.ersterIndex)));
+    const QString text = aktion != nullptr ? aktion->text().remove(u'&') : QString();
+    modEreignisse::Merke(text.isEmpty() ? "(" + std::to_string(static_cast<int>(zeile.befehl)) + ")"
+                                        : text.toStdString());
 }
 
 void frmMain::MenuAusführen() {
@@ -140,6 +154,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     ansichten->Lokalisiere();
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
+    bus->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
 }
@@ -171,6 +186,10 @@ void frmMain::BieteDarstellung() {
             SchreibDarstellung(DieEinstellungen(), gewaehlt);
         });
     auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));
+}
+
+void frmMain::ZeigeBusprotokoll() {
+    bus->Zeige();
 }
 
 void frmMain::ZeigeSicherungen() {

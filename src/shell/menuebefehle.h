@@ -37,6 +37,7 @@ enum class Befehl {
     GeraetVergleichen = 111,
     Bericht = 112,
     Darstellung = 130,
+    Busprotokoll = 140,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

@@ -1,5 +1,6 @@
 #include "verbindungsanzeige.h"
 
+#include "ereignisse.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
 #include "polling.h"
@@ -105,9 +106,20 @@ void Verbindungsanzeige::Aktualisiere() {
                         .gegenstand = Gegenstand(),
                         .tag = tatsachen.uhrzeit.date(),
                         .sprache = GetSprachoffset()};
-    if (inhalt != gezeigt)
+    if (inhalt != gezeigt) {
+        MerkeZustand(inhalt, tatsachen.uhrzeit);
         Zeige(inhalt, tatsachen.uhrzeit);
+    }
     gezeigt = inhalt;
+}
+
+/// Every new state is kept, with the line that it is about.
+void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const {
+    if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
+        return;
+    const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
+    modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.port + ", " +
+                         gegenstand.geraet + ", " + gegenstand.format + ")");
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

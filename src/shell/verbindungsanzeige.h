@@ -43,6 +43,7 @@ private:
     };
 
     void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
+    void MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const;
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;

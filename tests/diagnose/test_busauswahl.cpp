@@ -32,8 +32,9 @@ class BusauswahlTest : public testing::Test {
 protected:
     BusauswahlTest() {
         protokoll.Beginne();
-        for (const Probe& probe : {Gelesen(5, {1}), Geschrieben(193, {1}), Unbeantwortet(5), Klaerung(), Ohne(),
-                                   Ungefragtes("xyz"), Probe{.anforderung = IdentifikationsAnforderung()}})
+        for (const Probe& probe :
+             {Gelesen(5, {1}), Geschrieben(193, {1}), Unbeantwortet(5), Klaerung(), Ohne(),
+              Ungefragtes("xyz"), Probe{.anforderung = IdentifikationsAnforderung()}})
             protokoll.Hoere(probe);
     }
 

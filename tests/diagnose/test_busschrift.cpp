@@ -27,7 +27,8 @@ protected:
 
     static std::string Zeile(Busformat format, const Probe& probe) {
         using namespace std::chrono;
-        return Schriftzeile(format, Austausch(probe), sys_days{year{2026} / 11 / 22} + 11h + 17min + 23s + 456ms);
+        return Schriftzeile(format, Austausch(probe),
+                            sys_days{year{2026} / 11 / 22} + 11h + 17min + 23s + 456ms);
     }
     /// A controller that calls itself so.
     static Probe Ident(const std::string& text) {
@@ -38,9 +39,10 @@ protected:
 };
 
 TEST_F(BusschriftTest, The_text_has_a_line_for_the_meaning_and_one_for_the_bytes) {
-    EXPECT_EQ(Zeile(Busformat::Text, Gelesen(0x2000 + 14, {3})),
-              "2026-11-22 11:17:23.456  Lesen (03), Optikteil 1: Reichweite = 1,00 - 2,5m (12,3 ms)  beantwortet\n"
-              "    → 01 03 20 0E 00 01 EE 09  ← 01 03 02 00 03 F8 45\n");
+    EXPECT_EQ(
+        Zeile(Busformat::Text, Gelesen(0x2000 + 14, {3})),
+        "2026-11-22 11:17:23.456  Lesen (03), Optikteil 1: Reichweite = 1,00 - 2,5m (12,3 ms)  beantwortet\n"
+        "    → 01 03 20 0E 00 01 EE 09  ← 01 03 02 00 03 F8 45\n");
     EXPECT_EQ(Schriftkopf(Busformat::Text), "");
 }
 
@@ -50,8 +52,9 @@ TEST_F(BusschriftTest, What_went_wrong_is_marked_in_the_text) {
 
 TEST_F(BusschriftTest, CSV_is_separated_by_semicolons_in_German_and_by_commas_in_English) {
     const Probe probe = Gelesen(0x2000 + 14, {3});
-    EXPECT_EQ(Schriftkopf(Busformat::Csv), "\xEF\xBB\xBFNummer;Zeit;Richtung;Funktion;Register;Adresse;Werte;Gesendet;"
-                                           "Empfangen;Umlauf (ms);Ergebnis\r\n");
+    EXPECT_EQ(Schriftkopf(Busformat::Csv),
+              "\xEF\xBB\xBFNummer;Zeit;Richtung;Funktion;Register;Adresse;Werte;Gesendet;"
+              "Empfangen;Umlauf (ms);Ergebnis\r\n");
     EXPECT_EQ(Zeile(Busformat::Csv, probe),
               "1;2026-11-22 11:17:23.456;Gerät → PC;Lesen (03);Optikteil 1: Reichweite;200EH;\"1,00 - 2,5m\";"
               "01 03 20 0E 00 01 EE 09;01 03 02 00 03 F8 45;\"12,3\";beantwortet\r\n");

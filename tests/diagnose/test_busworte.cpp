@@ -61,7 +61,8 @@ TEST(Busworte, Of_an_unknown_part_that_is_said) {
 TEST(Busworte, A_piece_of_a_parameter_says_which_registers_of_it) {
     EXPECT_EQ(Registerangabe(Gelesen(9 + 2, {1})), "Global: Seriennummer (Register 3)");
     EXPECT_EQ(Registerangabe(Gelesen(9 + 2, Werte(4))), "Global: Seriennummer (Register 3-6)");
-    EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 355, Werte(2))), "Optikteil 1: Strahlzustände (Register 3-4)");
+    EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 355, Werte(2))),
+              "Optikteil 1: Strahlzustände (Register 3-4)");
 }
 
 TEST(Busworte, Several_parameters_are_told_by_the_first_and_the_last) {
@@ -109,7 +110,8 @@ TEST(Busworte, What_did_not_come_has_no_value) {
 TEST(Busworte, An_identification_tells_what_the_controller_calls_itself_and_nothing_of_it_takes_effect) {
     const auto ident = [](const std::string& text) {
         return Probe{.anforderung = IdentifikationsAnforderung(),
-                     .empfangen = MitPruefsumme(Bytes({1, 0x11, static_cast<int>(text.size()) + 2, 7, 50}) + text)};
+                     .empfangen =
+                         MitPruefsumme(Bytes({1, 0x11, static_cast<int>(text.size()) + 2, 7, 50}) + text)};
     };
     EXPECT_EQ(Worte(ident("Varnoth;4711;(C)")), "Varnoth, 4711, (C)");
     EXPECT_EQ(Worte(ident("<b>x</b>;\n\x1B;\xFC")), "<b>x</b>, ��, ü");
@@ -133,7 +135,8 @@ TEST(Busworte, Function_and_direction_follow_from_the_request) {
     EXPECT_EQ(funktion(IdentifikationsAnforderung()), "Identifikation (11), Anfrage ↔");
     EXPECT_EQ(funktion(Bytes({1, 0x2B, 0, 0})), "Funktion 2B, Anfrage ↔");
     const Probe ohne{.art = Austauschart::OhneAntwort, .anforderung = KommandoRahmen(1)};
-    EXPECT_EQ(Funktionstext(Austausch(ohne)) + ", " + Richtungstext(Austausch(ohne)), "Kommando (09), PC → Gerät");
+    EXPECT_EQ(Funktionstext(Austausch(ohne)) + ", " + Richtungstext(Austausch(ohne)),
+              "Kommando (09), PC → Gerät");
 }
 
 TEST(Busworte, Every_result_has_words_of_its_own) {

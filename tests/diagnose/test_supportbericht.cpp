@@ -56,7 +56,8 @@ TEST(Supportbericht, Tells_the_controller_and_how_the_exchanges_ended) {
     modSchnittstelle::OpenCommPort();
     modModbus::RTUModeH11IndentifikationsAnforderung();
     EXPECT_THAT(Kopf(), HasSubstr("== Steuergerät ==\nVarnoth�, 4711, 1\n"));
-    EXPECT_THAT(Kopf(), HasSubstr("beantwortet: 1\nkein Anschluss: 0\nkeine Antwort: 0\nunverstanden: 0\nEcho: 0\n"));
+    EXPECT_THAT(Kopf(),
+                HasSubstr("beantwortet: 1\nkein Anschluss: 0\nkeine Antwort: 0\nunverstanden: 0\nEcho: 0\n"));
 }
 
 TEST(Supportbericht, Has_no_password_wherever_it_may_stand) {
