@@ -61,6 +61,7 @@ private:
     bool WerteKommandozeileAus();
     bool StarteTrace();
     bool WechslePort(bool simuliert);
+    void LeiheSeriellenPort(const std::function<void()>& tat);
 
     Startzustand startzustand; ///< comes first: what is fitted in below stays
     Startbedingungen bedingungen;

@@ -14,6 +14,7 @@
 #include "standardkonfiguration.h"
 #include "trace.h"
 #include "ui_frmMain.h"
+#include "verbindungsablauf.h"
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
@@ -74,7 +75,8 @@ frmMain::frmMain(const QString& programmordner)
                            .menue = menue,
                            .status = status,
                            .verbindung = *new Verbindungsanzeige(
-                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); }),
+                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); },
+                               [this] { befehle.Klick(Befehl::Verbindung, 1); }),
                            .baueAnsichtenAuf = [this] { BaueAnsichtenAuf(); },
                            .beendet = [this] { return Beendet(); }};
     ablauf = std::make_unique<Konfigurationsablauf>(teile);
@@ -87,6 +89,7 @@ frmMain::frmMain(const QString& programmordner)
                                  SeiteJetzt(Vergleichsquelle::InBearbeitung));
             }});
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
+    verbindung = MacheVerbindungsablauf();
 }
 
 frmMain::~frmMain() = default;
@@ -177,6 +180,7 @@ void frmMain::Entlade() {
     SchliesseDialoge();
     sicherungen->Schliesse();
     vergleich->Schliesse();
+    verbindung->Schliesse();
     hide();
 }
 
