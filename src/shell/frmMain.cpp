@@ -15,6 +15,7 @@
 #include "standardkonfiguration.h"
 #include "trace.h"
 #include "ui_frmMain.h"
+#include "verbindungsablauf.h"
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
@@ -76,7 +77,8 @@ frmMain::frmMain(const QString& programmordner)
                            .menue = menue,
                            .status = status,
                            .verbindung = *new Verbindungsanzeige(
-                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); }),
+                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); },
+                               [this] { befehle.Klick(Befehl::Verbindung, 1); }),
                            .baueAnsichtenAuf = [this] { BaueAnsichtenAuf(); },
                            .beendet = [this] { return Beendet(); }};
     ablauf = std::make_unique<Konfigurationsablauf>(teile);
@@ -90,6 +92,7 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
+    verbindung = MacheVerbindungsablauf();
 }
 
 frmMain::~frmMain() = default;
@@ -181,6 +184,7 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    verbindung->Schliesse();
     hide();
 }
 

@@ -22,6 +22,7 @@
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 #include "umgebung.h"
+#include "verbindungsablauf.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
 
@@ -60,6 +61,7 @@ void frmMain::MenuAusführen() {
     ZeigeWillkommen();
     vergleich->Erneuere();
     sicherungen->Erneuere();
+    verbindung->Erneuere();
 }
 
 void frmMain::mnuBeenden_Click() {
@@ -155,6 +157,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     bus->Lokalisiere();
+    verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
 }
@@ -177,6 +180,36 @@ void frmMain::ZeigeVergleich() {
 
 void frmMain::LiesGeraetZumVergleich() {
     vergleich->LiesGeraet(*betrieb);
+}
+
+std::unique_ptr<Verbindungsablauf> frmMain::MacheVerbindungsablauf() {
+    return std::make_unique<Verbindungsablauf>(Verbindungsablauf::Ziel{
+        .klick = [this](Befehl befehl) { befehle.Klick(befehl); },
+        .wartetAuf = [this](Befehl befehl) { return befehle.WartetAuf(befehl); },
+        .unterbrochen = [this] { return entladen || befehle.KlickSeitBeginn(); },
+        .nimmPort =
+            [this](int nummer) {
+                WechslePort(false);
+                NimmComPort(nummer);
+            },
+        .amPort = [this](const std::function<void()>& tat) { leihport ? leihport(tat) : tat(); },
+        .immerSimuliert = [this] { return immerSimuliert; }});
+}
+
+void frmMain::ZeigeVerbindung(bool suche) {
+    verbindung->Zeige(suche);
+}
+
+void frmMain::UebernimmAnschluss() {
+    verbindung->FuehreUebernahmeAus();
+}
+
+void frmMain::SucheGeraet() {
+    verbindung->FuehreSucheAus();
+}
+
+void frmMain::PruefeLeitung() {
+    verbindung->FuehrePruefungAus();
 }
 
 void frmMain::BieteDarstellung() {

@@ -20,8 +20,11 @@
 #include "frmSimulation.h"
 #include "frmSplash.h"
 #include "frmStrahlenBestimmen.h"
+#include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "leitungspruefung.h"
 #include "pruefsicherungen.h"
+#include "pruefverbindung.h"
 #include "standardkonfiguration.h"
 #include "vergleichsanbieter.h"
 
@@ -98,6 +101,40 @@ std::unique_ptr<QWidget> Sicherungsfenster() {
     return std::make_unique<MitUmfeld<frmSicherungen, EineSicherung>>(Sicherungsbefehle{});
 }
 
+/// A port and a controller that call themselves what they like, and a device that cannot be had.
+struct BoeseLeitung : PruefVerbindung {
+    BoeseLeitung() {
+        const std::string boese = TextMitTags;
+        ports = {{.geraet = boese,
+                  .bezeichnung = boese,
+                  .seriennummer = boese,
+                  .stabileNamen = {boese},
+                  .befund = {.hindernis = Hindernis::Belegt, .prozesse = {boese}},
+                  .verzoegerungsdatei = boese,
+                  .verzoegerungMs = 16}};
+        stand.wahl.geraete.fill(boese);
+        stand.wahl.format = boese;
+        stand.geraetDiesesLaufs = boese;
+        FolgeNamen();
+    }
+};
+
+std::unique_ptr<QWidget> Verbindungsfenster() {
+    auto fenster = std::make_unique<MitUmfeld<frmVerbindung, BoeseLeitung>>();
+    Suchfund fund = EinFund(TextMitTags);
+    fund.ident.text1 = fund.ident.text2 = fund.text = TextMitTags;
+    fenster->ZeigeVersuch({.nummer = 1,
+                           .anzahl = 1,
+                           .versuch = {TextMitTags, TextMitTags},
+                           .ergebnis = Suchergebnis::PortVerschlossen,
+                           .text = TextMitTags});
+    fenster->BeendeSuche(fund);
+    Pruefbefund befund;
+    befund.geraet = befund.format = TextMitTags;
+    fenster->BeendePruefung(befund);
+    return fenster;
+}
+
 std::unique_ptr<QWidget> Vergleich() {
     auto fenster = std::make_unique<MitUmfeld<frmVergleich, Anbieter>>();
     fenster->Setze(
@@ -130,6 +167,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmSimulation", Einfach<frmSimulation>},
         {"frmSplash", Einfach<frmSplash>},
         {"frmStrahlenBestimmen", Einfach<frmStrahlenBestimmen>},
+        {"frmVerbindung", Verbindungsfenster},
         {"frmVergleich", Vergleich},
     };
     return alle;
