@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
     }
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication anwendung(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral("varnoth"));
     QApplication::setQuitOnLastWindowClosed(false);
     const QFileInfo programm(QApplication::applicationFilePath());
     return varnoth::Anwendung({.worte = QApplication::arguments().mid(1),
