@@ -27,13 +27,13 @@ struct Anschlusswahl {
 /// What is in force, and what the system says of it.
 struct Anschlussstand {
     Anschlusswahl wahl;
-    std::array<std::string, AnzahlCom> ziele{};    ///< where the names of the devices lead, links followed
-    std::array<Portbefund, AnzahlCom> befunde{};   ///< what stands in the way of the devices
-    std::array<bool, AnzahlCom> eingetragen{};     ///< the settings name the device; else it is the usual one
-    std::string geraetDiesesLaufs{};               ///< in this run every number means it; empty: none
-    bool simuliert = false;                        ///< the built-in controller answers at present
-    bool immerSimuliert = false;                   ///< and in this run nothing else will
-    std::string offen{};                           ///< the device that this program has open; empty: none
+    std::array<std::string, AnzahlCom> ziele{};  ///< where the names of the devices lead, links followed
+    std::array<Portbefund, AnzahlCom> befunde{}; ///< what stands in the way of the devices
+    std::array<bool, AnzahlCom> eingetragen{};   ///< the settings name the device; else it is the usual one
+    std::string geraetDiesesLaufs{};             ///< in this run every number means it; empty: none
+    bool simuliert = false;                      ///< the built-in controller answers at present
+    bool immerSimuliert = false;                 ///< and in this run nothing else will
+    std::string offen{};                         ///< the device that this program has open; empty: none
 
     /// The device that the number in use leads to in this run; empty where the built-in controller answers.
     const std::string& Geraet() const {

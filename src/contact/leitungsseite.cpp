@@ -27,7 +27,7 @@ constexpr std::int16_t TextAlt = 8382;
 constexpr std::int16_t TextVerzoegerung = 8383;
 
 constexpr int AnzeigetaktMs = 100;
-constexpr int KuerzesteMs = 1; // of a latency timer
+constexpr int KuerzesteMs = 1;      // of a latency timer
 constexpr int BreitesteSpalte = 60; // characters
 
 QString Q(const std::string& text) {
@@ -186,8 +186,7 @@ void Leitungsseite::ZeigeVerzoegerung() {
     ui->cmdVerzoegerung->setVisible(bekannt && *port->verzoegerungMs > KuerzesteMs);
     if (!bekannt)
         return;
-    std::string text =
-        LadeTextMit(TextVerzoegerung, {std::to_string(*port->verzoegerungMs)});
+    std::string text = LadeTextMit(TextVerzoegerung, {std::to_string(*port->verzoegerungMs)});
     if (!verzoegerungsfehler.empty() && fehlergeraet == port->geraet)
         text += "\n" + verzoegerungsfehler;
     ui->lblVerzoegerung->setText(Q(text));

@@ -22,6 +22,7 @@ constexpr std::int16_t TextEingetragen = 8322;
 constexpr std::int16_t TextPort = 8323;
 constexpr std::int16_t TextMitNummer = 8324;
 constexpr std::int16_t TextKeineBerechtigung = 9251;
+constexpr std::int16_t TextKeineSchnittstelle = 9265;
 
 bool Heisst(const Portangabe& port, const std::string& name) {
     return port.geraet == name || std::ranges::find(port.stabileNamen, name) != port.stabileNamen.end();
@@ -89,6 +90,12 @@ std::string AlleNamenVon(const Portangabe& port) {
     return namen;
 }
 
+std::string Abhilfe(const Portangabe& port) {
+    const bool schnittstelle = port.befund.hindernis != Hindernis::Systemfehler;
+    return Portursache(port.geraet, port.befund,
+                       LadeText(schnittstelle ? TextKeineBerechtigung : TextKeineSchnittstelle));
+}
+
 bool StehtNichtImWeg(const Portbefund& befund) {
     return befund.hindernis == Hindernis::Keines && befund.prozesse.empty();
 }
@@ -99,8 +106,8 @@ const Portangabe* BenutzterPort(const std::vector<Portangabe>& ports, const Ansc
     const std::string& geraet = stand.Geraet();
     const auto port = std::ranges::find_if(ports, [&](const Portangabe& einer) {
         const auto nummern = ComZu(einer, stand);
-        const bool ueberCom = stand.geraetDiesesLaufs.empty() &&
-                              std::ranges::find(nummern, stand.wahl.nummer) != nummern.end();
+        const bool ueberCom =
+            stand.geraetDiesesLaufs.empty() && std::ranges::find(nummern, stand.wahl.nummer) != nummern.end();
         return Heisst(einer, geraet) || (ueberCom && !geraet.empty());
     });
     return port == ports.end() ? nullptr : &*port;
@@ -122,7 +129,7 @@ Portzeile Zeile(const Portangabe& port, const Anschlussstand& stand) {
             .was = WasEsIst(port),
             .zustand = Zustand(port, stand),
             .com = Comnamen(ComZu(port, stand)),
-            .abhilfe = selbst ? std::string() : Portursache(port.geraet, port.befund, LadeText(TextKeineBerechtigung)),
+            .abhilfe = selbst ? std::string() : Abhilfe(port),
             .tipp = AlleNamenVon(port),
             .benutzbar = selbst || StehtNichtImWeg(port.befund)};
 }

@@ -11,11 +11,11 @@ namespace varnoth {
 /// A port in words of the current language.
 struct Portzeile {
     std::string geraet;
-    std::string was;     ///< what it is: product and serial number
-    std::string zustand; ///< free, in use, no right, ...
-    std::string com;     ///< which of COM1 to COM4 mean it
-    std::string abhilfe; ///< what stands in the way and what helps; empty where nothing does
-    std::string tipp;    ///< all of its names
+    std::string was;        ///< what it is: product and serial number
+    std::string zustand;    ///< free, in use, no right, ...
+    std::string com;        ///< which of COM1 to COM4 mean it
+    std::string abhilfe;    ///< what stands in the way and what helps; empty where nothing does
+    std::string tipp;       ///< all of its names
     bool benutzbar = false; ///< nothing stands in the way, or only this program itself
 
     bool operator==(const Portzeile&) const = default;

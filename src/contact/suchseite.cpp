@@ -1,9 +1,9 @@
 #include "suchseite.h"
 
 #include "anschlusseingabe.h"
+#include "fundworte.h"
 #include "portzeile.h"
 #include "spaltenbreite.h"
-#include "fundworte.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "tipptext.h"

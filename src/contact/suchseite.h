@@ -69,7 +69,7 @@ private:
     Lage lage = Lage::Unbegonnen;
     std::vector<Suchstand> versuche;
     Suchfund fund;
-    std::int16_t sprache = 0; ///< of the words in tries and outcome
+    std::int16_t sprache = 0;                   ///< of the words in tries and outcome
     std::chrono::system_clock::time_point zeit; ///< when the search ended
     bool veraltet = false;                      ///< ports have come or gone since
     bool fundWeg = false;                       ///< and the one with the controller was away

@@ -8,8 +8,8 @@
 
 namespace varnoth {
 
-/// What the connection window asks of the program around it. The search and the line check need the line: they
-/// begin once the program comes to them, and report to the window.
+/// What the connection window asks of the program around it. The search and the line check need the line:
+/// they begin once the program comes to them, and report to the window.
 class Verbindungsanbieter {
 public:
     Verbindungsanbieter() = default;

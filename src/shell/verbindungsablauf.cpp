@@ -86,7 +86,7 @@ Anschlussstand Verbindungsablauf::Stand() {
         stand.wahl.Geraet(com) = geraet;
         stand.eingetragen.at(stelle) = !eingetragenes.empty();
         stand.ziele.at(stelle) = ZielVon(geraet);
-        stand.befunde.at(stelle) = BefundDesGeraets(geraet);
+        stand.befunde.at(stelle) = Befund(geraet);
     }
     stand.wahl.nummer = modSchnittstelle::GetComPort();
     stand.wahl.format = modSchnittstelle::GetComSettings();
@@ -100,7 +100,10 @@ Anschlussstand Verbindungsablauf::Stand() {
 }
 
 Portbefund Verbindungsablauf::Befund(const std::string& geraet) {
-    return BefundDesGeraets(geraet);
+    const Portbefund befund = BefundDesGeraets(geraet);
+    if (befund.hindernis == Hindernis::Keines && !KannPortSein(geraet))
+        return {.hindernis = Hindernis::Systemfehler};
+    return befund;
 }
 
 /// What the program is connected to does not change under live data: that stops first.

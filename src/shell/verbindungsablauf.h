@@ -24,7 +24,8 @@ public:
         std::function<void(Befehl befehl)> klick;     ///< stores a command
         std::function<bool(Befehl befehl)> wartetAuf; ///< whether it waits still
         std::function<bool()> unterbrochen;           ///< something else is wanted while a command runs
-        std::function<void(int nummer)> nimmPort; ///< closes the line; it leads to this serial port from now on
+        std::function<void(int nummer)>
+            nimmPort; ///< closes the line; it leads to this serial port from now on
         std::function<void(const std::function<void()>& tat)> amPort; ///< does something on the serial ports
         std::function<bool()> immerSimuliert; ///< the built-in controller answers for the whole run
     };
@@ -67,8 +68,8 @@ private:
     Ziel ziel;
     Portbeobachter beobachter;
     std::unique_ptr<frmVerbindung> fenster;
-    Anschlusswahl gewaehltes;        ///< to be put in force
-    bool dannVerbinden = false;      ///< and then connected
+    Anschlusswahl gewaehltes;          ///< to be put in force
+    bool dannVerbinden = false;        ///< and then connected
     std::vector<std::string> gesuchte; ///< devices to search
     Befehl verlangt = Befehl::Keiner;  ///< search or check that was asked for and has not begun
     bool abbruch = false;

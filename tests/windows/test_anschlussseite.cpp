@@ -51,11 +51,12 @@ TEST_F(AnschlussseiteTest, Nobody_looks_while_the_window_is_closed) {
 }
 
 TEST_F(AnschlussseiteTest, The_chosen_row_tells_what_helps_and_stays_chosen_when_the_list_is_renewed) {
-    leitung.ports = {EinAdapter(), {.geraet = "/dev/ttyUSB1",
-                                    .befund = {.hindernis = Hindernis::KeinRecht,
-                                               .eigentuemer = "root",
-                                               .gruppe = "dialout",
-                                               .nutzer = "eva"}}};
+    leitung.ports = {EinAdapter(),
+                     {.geraet = "/dev/ttyUSB1",
+                      .befund = {.hindernis = Hindernis::KeinRecht,
+                                 .eigentuemer = "root",
+                                 .gruppe = "dialout",
+                                 .nutzer = "eva"}}};
     Liste("lstPorts").setCurrentItem(Liste("lstPorts").topLevelItem(1));
     EXPECT_NE(Text("lblAbhilfe").find("sudo usermod -aG dialout eva"), std::string::npos);
     leitung.ports.insert(leitung.ports.begin(), {.geraet = "/dev/ttyS4"});

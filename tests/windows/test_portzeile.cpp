@@ -60,11 +60,10 @@ TEST_F(PortzeileTest, A_port_that_a_process_holds_names_it_even_where_it_could_b
 }
 
 TEST_F(PortzeileTest, Without_a_right_the_group_of_this_device_and_the_exact_command_are_told) {
-    const Portzeile zeile = Zeile(MitBefund({.hindernis = Hindernis::KeinRecht,
-                                             .eigentuemer = "root",
-                                             .gruppe = "uucp",
-                                             .nutzer = "eva"}),
-                                  stand);
+    const Portzeile zeile = Zeile(
+        MitBefund(
+            {.hindernis = Hindernis::KeinRecht, .eigentuemer = "root", .gruppe = "uucp", .nutzer = "eva"}),
+        stand);
     EXPECT_EQ(zeile.zustand, "kein Recht");
     EXPECT_THAT(zeile.abhilfe, HasSubstr("„sudo usermod -aG uucp eva“"));
     EXPECT_FALSE(zeile.benutzbar);
@@ -77,7 +76,10 @@ TEST_F(PortzeileTest, A_port_in_a_folder_that_may_not_be_looked_into_gives_a_who
 
 TEST_F(PortzeileTest, What_is_not_there_or_cannot_be_opened_is_never_called_free) {
     EXPECT_EQ(Zeile(MitBefund({.hindernis = Hindernis::Fehlt}), stand).zustand, "nicht da");
-    EXPECT_EQ(Zeile(MitBefund({.hindernis = Hindernis::Systemfehler}), stand).zustand, "nicht zu öffnen");
+    const Portzeile zeile = Zeile(MitBefund({.hindernis = Hindernis::Systemfehler}), stand);
+    EXPECT_EQ(zeile.zustand, "keine serielle Schnittstelle");
+    EXPECT_EQ(zeile.abhilfe, "/dev/ttyUSB0 lässt sich nicht öffnen: Das ist keine serielle Schnittstelle.");
+    EXPECT_FALSE(zeile.benutzbar);
 }
 
 TEST_F(PortzeileTest, A_port_that_this_program_has_open_itself_can_be_used) {
@@ -129,8 +131,7 @@ TEST_F(PortzeileTest, A_listed_device_gets_no_second_row) {
 }
 
 TEST_F(PortzeileTest, What_a_name_leads_to_is_told_by_its_port_else_by_what_the_system_says) {
-    EXPECT_EQ(Comtext(ById, {.hindernis = Hindernis::Fehlt}, {EinAdapter()}, stand),
-              "frei, FT232R USB UART");
+    EXPECT_EQ(Comtext(ById, {.hindernis = Hindernis::Fehlt}, {EinAdapter()}, stand), "frei, FT232R USB UART");
     EXPECT_EQ(Comtext("/dev/ttyUSB7", {.hindernis = Hindernis::Fehlt}, {EinAdapter()}, stand), "nicht da");
     EXPECT_EQ(Comtext("/home/eva/line", {}, {EinAdapter()}, stand), "frei");
 }
