@@ -46,6 +46,7 @@ struct PruefWirkung : Befehlswirkung {
     void ZeigeVergleich() override { getan = "comparison"; }
     void LiesGeraetZumVergleich() override { getan = "read to compare"; }
     void BieteDarstellung() override { getan = "appearance"; }
+    void ZeigeBusprotokoll() override { getan = "bus log"; }
 
     std::string getan;
 };
@@ -100,6 +101,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(111), "read to compare");
     EXPECT_EQ(GetanVon(112), "report");
     EXPECT_EQ(GetanVon(130), "appearance");
+    EXPECT_EQ(GetanVon(140), "bus log");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -114,6 +116,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::ResetHardware, ""},
         {Befehl::Sicherungen, "Ctrl+B"},
         {Befehl::Vergleich, "Ctrl+D"},
+        {Befehl::Busprotokoll, "Ctrl+L"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
