@@ -154,7 +154,7 @@ void frmBusprotokoll::VerbindeTasten() {
 void frmBusprotokoll::showEvent(QShowEvent* ereignis) {
     QWidget::showEvent(ereignis);
     VerfolgePlatz(*this);
-    protokoll.Beginne();
+    protokoll.Beginne(anbieter.Jetzt());
     takt.start();
     ZeigeStand();
 }
@@ -257,6 +257,7 @@ void frmBusprotokoll::Filtere() {
     rolltSelbst = false;
     ZeigeEinzelheiten();
     Folge();
+    ZeigeStand();
     Plane();
 }
 
@@ -329,7 +330,7 @@ void frmBusprotokoll::BrichAb() {
 
 void frmBusprotokoll::Leere() {
     BrichAb();
-    protokoll.Leere();
+    protokoll.Leere(anbieter.Jetzt());
     ui->lblMeldung->clear();
     rolltSelbst = true;
     modell->Setze(modell->Filter());
@@ -368,7 +369,7 @@ void frmBusprotokoll::Speichere() {
 
 /// Says what will be in the file before it asks where to put it.
 void frmBusprotokoll::StelleZusammen() {
-    const std::string kopf = Supportkopf(anbieter.Angaben(), std::chrono::system_clock::now());
+    const std::string kopf = Supportkopf(anbieter.Angaben(), anbieter.Jetzt());
     if (DieUmgebung().ZeigeMeldung({.text = LadeText(TextSupportfrage),
                                     .symbol = Symbol::Frage,
                                     .knoepfe = Knoepfe::OkAbbrechen,

@@ -82,7 +82,7 @@ private:
     Protokollanbieter& anbieter;
     Busprotokoll protokoll;
     Busmodell* modell;
-    QTimer takt;
+    QTimer takt{this};
     Bussuche suche;
     std::string gesucht;
     std::optional<Auftrag> auftrag;

@@ -2,6 +2,7 @@
 
 #include "supportbericht.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,8 @@ public:
     virtual bool Schreibe(const std::string& pfad, const std::string& bytes) = 0;
     /// What the program knows for the file for support.
     virtual Supportangaben Angaben() = 0;
+    /// The time of day.
+    virtual std::chrono::system_clock::time_point Jetzt() { return std::chrono::system_clock::now(); }
 };
 
 } // namespace varnoth

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace varnoth {
 
@@ -28,18 +29,21 @@ Busprotokoll::~Busprotokoll() {
     Beende();
 }
 
-void Busprotokoll::Beginne() {
+void Busprotokoll::StelleUhr(std::chrono::system_clock::time_point jetzt) {
+    anfangszeit = jetzt;
+    anfangsuhr = DieUmgebung().Uhr();
+}
+
+void Busprotokoll::Beginne(std::chrono::system_clock::time_point jetzt) {
     if (eintraege == nullptr) {
         eintraege =
             std::make_unique_for_overwrite<Eintrag[]>(Hoechstzahl);        // NOLINT(modernize-avoid-c-arrays)
         bytespeicher = std::make_unique_for_overwrite<char[]>(Bytevorrat); // NOLINT(modernize-avoid-c-arrays)
     }
-    if (anzahl == 0) {
-        anfangszeit = std::chrono::system_clock::now();
-        anfangsuhr = DieUmgebung().Uhr();
-    }
-    optikteil = -1; // nobody listened to what was selected meanwhile
-    laeuft = true;
+    if (anzahl == 0)
+        StelleUhr(jetzt);
+    if (!std::exchange(laeuft, true))
+        optikteil = -1; // nobody listened to what was selected meanwhile
     modMithoeren::MeldeAn(*this);
 }
 
@@ -48,10 +52,9 @@ void Busprotokoll::Beende() {
     modMithoeren::MeldeAb(*this);
 }
 
-void Busprotokoll::Leere() {
+void Busprotokoll::Leere(std::chrono::system_clock::time_point jetzt) {
     anzahl = 0;
-    anfangszeit = std::chrono::system_clock::now();
-    anfangsuhr = DieUmgebung().Uhr();
+    StelleUhr(jetzt);
 }
 
 std::chrono::system_clock::time_point Busprotokoll::Uhrzeit(Zeit zeit) const {

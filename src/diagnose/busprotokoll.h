@@ -45,13 +45,14 @@ public:
     Busprotokoll() = default;
     ~Busprotokoll() override;
 
-    /// Listens from now on. The memory is taken at the first time, and no page of it before it is written.
-    void Beginne();
+    /// Listens from now on; `jetzt` is the time of day. The memory is taken at the first time, and no page of
+    /// it before it is written.
+    void Beginne(std::chrono::system_clock::time_point jetzt = std::chrono::system_clock::now());
     /// Listens no more; what was heard stays.
     void Beende();
     bool Laeuft() const { return laeuft; }
     /// Forgets all exchanges; numbers go on.
-    void Leere();
+    void Leere(std::chrono::system_clock::time_point jetzt = std::chrono::system_clock::now());
 
     /// The numbers of the oldest exchange that is kept, and of the newest; newest < oldest when there is
     /// none.
@@ -89,6 +90,7 @@ private:
     std::uint64_t Belege(std::size_t bytes);
     void Lege(std::uint64_t stelle, std::string_view bytes, std::size_t zeigbar);
     void MerkeOptikteil(const Mitschnitt& mitschnitt);
+    void StelleUhr(std::chrono::system_clock::time_point jetzt);
 
     std::unique_ptr<Eintrag[]> eintraege; // NOLINT(modernize-avoid-c-arrays): its size is fixed
     std::unique_ptr<char[]> bytespeicher; // NOLINT(modernize-avoid-c-arrays)

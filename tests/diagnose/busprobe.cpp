@@ -43,6 +43,14 @@ Probe Ungefragtes(const std::string& bytes) {
     return {.art = Austauschart::Ungefragt, .ergebnis = Austauschergebnis::Fremd, .empfangen = bytes};
 }
 
+void LassHoeren(const Probe& probe, bool gelungen) {
+    modMithoeren::Gesendet(probe.gesendet);
+    modMithoeren::Empfangen(probe.empfangen, probe.gesendet + probe.umlauf);
+    modMithoeren::Endet(probe.art, probe.anforderung,
+                        gelungen ? modMithoeren::Ausgang::Gelungen : modMithoeren::Ausgang::Ausgeblieben,
+                        true);
+}
+
 Busaustausch Austausch(const Probe& probe) {
     return {.nummer = 1,
             .art = probe.art,

@@ -30,6 +30,10 @@ Probe Geschrieben(int adresse, const Werte& werte);
 /// Bytes that nobody was waiting for.
 Probe Ungefragtes(const std::string& bytes);
 
+/// Lets it go over the line, as whoever listens there hears it. Its result follows from its bytes; `gelungen`
+/// says whether whoever asked was content.
+void LassHoeren(const Probe& probe, bool gelungen = true);
+
 /// The log's view of one exchange alone.
 Busaustausch Austausch(const Probe& probe);
 

@@ -3,6 +3,7 @@
 #include "einstellungen.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
+#include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmIdentifikationsAnforderung.h"
@@ -19,6 +20,8 @@
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
 #include "frmVergleich.h"
+#include "polling.h"
+#include "protokollanbieter.h"
 #include "pruefsicherungen.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -26,12 +29,14 @@
 #include "vergleichsanbieter.h"
 #include "zeittext.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTreeWidget>
 
 #include <tuple>
@@ -50,6 +55,7 @@ constexpr QSize Blankinggroesse(520, 560);
 constexpr QSize Listengroesse(680, 260);
 constexpr QSize Vergleichsgroesse(840, 400);
 constexpr QSize Berichtsgroesse(840, 600);
+constexpr QSize Protokollgroesse(840, 520);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
 constexpr int SeiteK1 = 1;
@@ -219,6 +225,40 @@ QImage Berichtsfenster(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+struct Protokollzeit : Protokollanbieter {
+    std::optional<std::string> FrageNachDatei(const std::string& /*titel*/, const std::string& /*filter*/,
+                                              const std::string& /*name*/) override {
+        return {};
+    }
+    bool Schreibe(const std::string& /*pfad*/, const std::string& /*bytes*/) override { return false; }
+    Supportangaben Angaben() override { return {}; }
+    std::chrono::system_clock::time_point Jetzt() override {
+        return std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    }
+};
+
+/// Two passes of live data, the measured values of the third part chosen.
+QImage Protokoll(Buehne& buehne) {
+    constexpr int Durchgaenge = 2;
+    constexpr int Messwerte = 14;
+    buehne.Hauptfenster();
+    Protokollzeit anbieter;
+    frmBusprotokoll fenster(anbieter);
+    fenster.resize(Protokollgroesse);
+    fenster.show();
+    for (int i = 0; i < Durchgaenge; ++i)
+        modPolling::PollingZyklus();
+    buehne.HalteAn();
+    Kind<QCheckBox>(fenster, "chkWorte").setChecked(true);
+    auto& tabelle = Kind<QTableView>(fenster, "tblProtokoll");
+    return buehne.Bild(fenster, [&] {
+        if (tabelle.model()->rowCount() < Messwerte)
+            return false;
+        tabelle.setCurrentIndex(tabelle.model()->index(Messwerte - 1, 0));
+        return true;
+    });
+}
+
 QImage Info(Buehne& buehne) {
     frmInfo dialog(nullptr);
     return buehne.BildNach(dialog, Sofort);
@@ -249,6 +289,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmVergleich", Vergleich},
         {"frmRegisterliste", Registerliste},
         {"frmBericht", Berichtsfenster},
+        {"frmBusprotokoll", Protokoll},
     };
     return motive;
 }

@@ -2,6 +2,7 @@
 
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
+#include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmHilfe.h"
@@ -23,8 +24,11 @@
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
 #include "leitungspruefung.h"
+#include "mithoeren.h"
+#include "protokollanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
+#include "rahmen.h"
 #include "standardkonfiguration.h"
 #include "vergleichsanbieter.h"
 
@@ -45,6 +49,15 @@ struct Anbieter : Vergleichsanbieter {
     std::vector<Vergleichsquelle> Fragbare() override { return {Vergleichsquelle::Datei}; }
     void Verlange(Vergleichsquelle, Seitenwahl) override {}
     void SpeichereText(const std::string&) override {}
+};
+
+struct KeinProtokollziel : Protokollanbieter {
+    std::optional<std::string> FrageNachDatei(const std::string&, const std::string&,
+                                              const std::string&) override {
+        return {};
+    }
+    bool Schreibe(const std::string&, const std::string&) override { return false; }
+    Supportangaben Angaben() override { return {}; }
 };
 
 struct EineSicherung : PruefSicherungen {
@@ -75,6 +88,17 @@ std::unique_ptr<QWidget> Bericht() {
 std::unique_ptr<QWidget> Blankingmuster() {
     auto fenster = std::make_unique<frmBlankingmuster>();
     fenster->InitFormBlankingmuster(0);
+    return fenster;
+}
+
+/// A refusal from somebody who is no controller of ours.
+std::unique_ptr<QWidget> Busprotokollfenster() {
+    auto fenster = std::make_unique<MitUmfeld<frmBusprotokoll, KeinProtokollziel>>();
+    fenster->show();
+    modMithoeren::Gesendet(Zeit(0));
+    modMithoeren::Empfangen(TextMitTags, Zeit(1000));
+    modMithoeren::Endet(Austauschart::Auftrag, LeseAnforderung(1, 5, 1), modMithoeren::Ausgang::Ausgeblieben,
+                        true);
     return fenster;
 }
 
@@ -149,6 +173,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
     static const std::vector<Fensterprobe> alle{
         {"frmBericht", Bericht},
         {"frmBlankingmuster", Blankingmuster},
+        {"frmBusprotokoll", Busprotokollfenster},
         {"frmDocument", Ansicht},
         {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
         {"frmHilfe", Einfach<frmHilfe>},

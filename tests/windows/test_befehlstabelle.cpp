@@ -50,6 +50,7 @@ struct PruefWirkung : Befehlswirkung {
     void SucheGeraet() override { getan = "search"; }
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
+    void ZeigeBusprotokoll() override { getan = "bus log"; }
 
     std::string getan;
 };
@@ -109,6 +110,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(151), "take the port");
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
+    EXPECT_EQ(GetanVon(140), "bus log");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -124,6 +126,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Sicherungen, "Ctrl+B"},
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
+        {Befehl::Busprotokoll, "Ctrl+L"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
