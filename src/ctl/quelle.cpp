@@ -73,15 +73,14 @@ Ende LiesAusDatei(const Lauf& lauf, const std::string& pfad, Quelle& quelle) {
     return lauf.Scheitere(Ende::Datei, LadeTextMit(TextKeineKonfiguration, {pfad}));
 }
 
-Ende LiesSicherung(const Lauf& lauf, const std::string& seriennummer, Quelle& quelle) {
+Ende LiesSicherung(const Lauf& lauf, const std::optional<std::string>& seriennummer, Quelle& quelle) {
     const auto alle = DieSicherungen() == nullptr ? std::vector<Sicherung>{} : DieSicherungen()->Alle();
     const auto treffer = std::ranges::find_if(alle, [&](const Sicherung& eine) {
-        return seriennummer.empty() || eine.angaben.seriennummer == seriennummer;
+        return !seriennummer || eine.angaben.seriennummer == *seriennummer;
     });
     if (treffer == alle.end())
-        return lauf.Scheitere(Ende::Datei, seriennummer.empty()
-                                               ? LadeText(TextKeineSicherung)
-                                               : LadeTextMit(TextKeineSicherungVon, {seriennummer}));
+        return lauf.Scheitere(Ende::Datei, seriennummer ? LadeTextMit(TextKeineSicherungVon, {*seriennummer})
+                                                        : LadeText(TextKeineSicherung));
     const auto abbild = DieSicherungen()->Lies(*treffer);
     if (!abbild)
         return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungNichtLesbar, {treffer->pfad}));
@@ -97,18 +96,21 @@ Quellenart ArtVon(std::string_view wort) {
         return Quellenart::Geraet;
     if (wort == WortWerk)
         return Quellenart::Werk;
-    return wort == WortSicherung || wort.starts_with(WortSicherungVon) ? Quellenart::Sicherung : Quellenart::Datei;
+    return wort == WortSicherung || wort.starts_with(WortSicherungVon) ? Quellenart::Sicherung
+                                                                       : Quellenart::Datei;
 }
 
-Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang, const std::string& seriennummer,
-                Quelle& quelle) {
+Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
+                const std::optional<std::string>& seriennummer, Quelle& quelle) {
     quelle.art = ArtVon(wort);
     switch (quelle.art) {
     case Quellenart::Datei:
         return LiesAusDatei(lauf, std::string(wort), quelle);
     case Quellenart::Sicherung:
         return LiesSicherung(lauf,
-                             wort == WortSicherung ? seriennummer : WortAlsUtf8(wort.substr(WortSicherungVon.size())),
+                             wort == WortSicherung
+                                 ? seriennummer
+                                 : std::optional(WortAlsUtf8(wort.substr(WortSicherungVon.size()))),
                              quelle);
     case Quellenart::Werk:
         quelle.name = LadeText(TextQuelleWerk);

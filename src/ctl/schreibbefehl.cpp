@@ -9,11 +9,15 @@
 #include "registerjson.h"
 #include "schreibfolge.h"
 #include "seriennummer.h"
+#include "sicherung.h"
 #include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "uhrzeit.h"
+
+#include <algorithm>
+#include <cstddef>
 
 namespace varnoth::ctl {
 
@@ -29,10 +33,19 @@ constexpr std::int16_t TextPruefen = 8644;
 constexpr std::int16_t TextZurueck = 8645;
 constexpr std::int16_t TextStandUnbekannt = 9765;
 
+/// Each row in a line: the value before an arrow and the one behind it.
 std::string Zeilentext(const Registerbefund& befund) {
     std::string text;
     for (const Registerzeile& zeile : befund.zeilen)
         text += "\n  " + zeile.bereich + " / " + zeile.name + ": " + zeile.links + " -> " + zeile.rechts;
+    return text;
+}
+
+/// Each row in a line: its value, and what has become of it.
+std::string Zustandstext(const Registerbefund& befund) {
+    std::string text;
+    for (const Registerzeile& zeile : befund.zeilen)
+        text += "\n  " + zeile.bereich + " / " + zeile.name + ": " + zeile.rechts + " (" + zeile.links + ")";
     return text;
 }
 
@@ -64,7 +77,8 @@ private:
     }
 
     Ende LiesVorlage() {
-        if (const Ende ende = LiesQuelle(lauf, Wort(), zugang, GeraeteSeriennummer(), quelle); ende != Ende::Erledigt)
+        if (const Ende ende = LiesQuelle(lauf, Wort(), zugang, Seriennummer(geraet.abbild), quelle);
+            ende != Ende::Erledigt)
             return ende;
         return PruefePlausibel(lauf, quelle.abbild) ? Ende::Erledigt : Ende::Datei;
     }
@@ -73,7 +87,7 @@ private:
         if (const Ende ende = zugang.Verbinde(); ende != Ende::Erledigt)
             return ende;
         const Quellenart art = ArtVon(Wort());
-        if (Sichert() || art == Quellenart::Werk)
+        if (Sichert() || art != Quellenart::Datei)
             if (const Ende ende = LiesSteuergeraet(lauf, zugang, geraet); ende != Ende::Erledigt)
                 return ende;
         if (art != Quellenart::Datei)
@@ -90,7 +104,8 @@ private:
     Ende Kuendige() {
         aenderungen = BefundVorDemSchreiben(ergebnis.auftrag, vorher, LadeText(TextJetzt));
         lauf.Sage(vorher ? aenderungen.text + Zeilentext(aenderungen) : aenderungen.text);
-        if (const std::string warnung = Leitungswarnung(ergebnis.auftrag, vorher); Speichert() && !warnung.empty())
+        if (const std::string warnung = Leitungswarnung(ergebnis.auftrag, vorher);
+            Speichert() && !warnung.empty())
             lauf.konsole.Meldung(warnung);
         return lauf.Erlaubnis(LadeTextMit(TextFrage, {quelle.name, GeraeteSeriennummer()}));
     }
@@ -113,8 +128,9 @@ private:
         Geduld geduld(lauf);
         {
             Fortgang fortgang(lauf, geduld, LadeText(TextSchreiben));
-            ergebnis.vollstaendig = SchreibeKonfiguration(
-                fortgang, Speichert() ? Ablage::Dauerhaft : Ablage::Fluechtig, ergebnis.auftrag, ergebnis.spur);
+            ergebnis.vollstaendig =
+                SchreibeKonfiguration(fortgang, Speichert() ? Ablage::Dauerhaft : Ablage::Fluechtig,
+                                      ergebnis.auftrag, ergebnis.spur);
         }
         const bool geprueft = !ergebnis.vollstaendig || !lauf.zeile.Hat("verify") || Pruefe(geduld);
         const bool zuEnde = ergebnis.vollstaendig && geprueft;
@@ -144,13 +160,21 @@ private:
                                                      : Json::Liste({})}});
     }
 
+    /// The sentence about a check stands above it already.
+    std::string Befundtext(const Registerbefund& befund) const {
+        if (!ergebnis.vollstaendig)
+            return befund.text + Zustandstext(befund);
+        return befund.text.substr(std::min(Pruefsatz(*ergebnis.pruefung).size() + 1, befund.text.size())) +
+               Zeilentext(befund);
+    }
+
     void GibErgebnis() const {
         const auto folge = FolgeAus(ergebnis, vorher);
         std::string text;
         if (ergebnis.vollstaendig)
             text = Schreibsatz(ergebnis, Speichert(), Uhrzeit()) + "\n";
         if (folge)
-            text += folge->befund.text + Zeilentext(folge->befund) + "\n";
+            text += Befundtext(folge->befund) + "\n";
         const auto anzahl = [](const Parametermenge& stellen) { return Json(AnzahlRegister(stellen)); };
         lauf.Gib(text, {{"source", AlsJson(quelle)},
                         {"controller", GeraetAlsJson()},
@@ -161,8 +185,9 @@ private:
                         {"registers", Json::Objekt({{"all", anzahl(ergebnis.auftrag.stellen)},
                                                     {"written", anzahl(ergebnis.spur.geschrieben)},
                                                     {"uncertain", anzahl(ergebnis.spur.ungewiss)}})},
-                        {"unfinished", !ergebnis.vollstaendig && folge ? BefundAlsJson(folge->befund, "state", "value")
-                                                                       : Json::Liste({})},
+                        {"unfinished", !ergebnis.vollstaendig && folge
+                                           ? BefundAlsJson(folge->befund, "state", "value")
+                                           : Json::Liste({})},
                         {"check", Pruefjson(folge)}});
         if (!ergebnis.vollstaendig && folge && !sicherung.empty())
             lauf.konsole.Meldung(LadeTextMit(TextZurueck, {sicherung}));

@@ -5,7 +5,7 @@
 #include "leitungszugang.h"
 #include "quelle.h"
 #include "registerjson.h"
-#include "seriennummer.h"
+#include "sicherung.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -15,6 +15,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 
 namespace varnoth::ctl {
 
@@ -30,19 +31,20 @@ bool SindDasselbe(const std::string& a, const std::string& b) {
                       std::filesystem::equivalent(a, b, fehler));
 }
 
-/// The controller comes first: which backup is meant hangs on who answers, and the other side's beam counts tell what the
-/// default is.
+/// The controller comes first: which backup is meant hangs on who answers, and the other side's beam counts
+/// tell what the default is.
 Ende LiesBeide(const Lauf& lauf, Leitungszugang& zugang, Paar& paar) {
-    std::string seriennummer;
+    std::optional<std::string> seriennummer;
     for (const bool zuerstGeraet : {true, false})
         for (std::size_t seite = 0; seite < paar.size(); ++seite) {
             const std::string& wort = lauf.zeile.argumente[seite];
             if ((ArtVon(wort) == Quellenart::Geraet) != zuerstGeraet)
                 continue;
-            if (const Ende ende = LiesQuelle(lauf, wort, zugang, seriennummer, paar.at(seite)); ende != Ende::Erledigt)
+            if (const Ende ende = LiesQuelle(lauf, wort, zugang, seriennummer, paar.at(seite));
+                ende != Ende::Erledigt)
                 return ende;
             if (zuerstGeraet)
-                seriennummer = GeraeteSeriennummer();
+                seriennummer = Seriennummer(paar.at(seite).abbild);
         }
     for (std::size_t seite = 0; seite < paar.size(); ++seite)
         if (paar.at(seite).art == Quellenart::Werk)
@@ -91,8 +93,7 @@ Ende Compare(Lauf& lauf) {
     Paar paar;
     if (const Ende ende = LiesBeide(lauf, zugang, paar); ende != Ende::Erledigt)
         return ende;
-    const auto ergebnis =
-        Vergleiche(paar[0].abbild, paar[1].abbild, {paar[0].ungelesen, paar[1].ungelesen});
+    const auto ergebnis = Vergleiche(paar[0].abbild, paar[1].abbild, {paar[0].ungelesen, paar[1].ungelesen});
     GibVergleich(lauf, paar, ergebnis);
     return ergebnis.IstGleich() ? Ende::Erledigt : Ende::Unterschiede;
 }
