@@ -22,7 +22,8 @@ Ende DarfDatei(const Lauf& lauf, const std::string& pfad) {
         return Ende::Erledigt;
     std::error_code fehler;
     if (!std::filesystem::is_regular_file(pfad, fehler))
-        return lauf.Scheitere(Ende::Datei, LadeTextMit(TextDateifehler, {pfad, LiesDatei(pfad, 1).fehlertext}));
+        return lauf.Scheitere(Ende::Datei,
+                              LadeTextMit(TextDateifehler, {pfad, LiesDatei(pfad, 1).fehlertext}));
     return lauf.Erlaubnis(LadeTextMit(TextErsetzen, {pfad}));
 }
 

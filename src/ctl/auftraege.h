@@ -2,8 +2,8 @@
 
 #include "endecode.h"
 
-/// What the commands do, in the order of the table of commands. Each writes its data and messages to the console of the
-/// run and gives the exit code.
+/// What the commands do, in the order of the table of commands. Each writes its data and messages to the
+/// console of the run and gives the exit code.
 namespace varnoth::ctl {
 
 struct Lauf;

@@ -30,7 +30,8 @@ Ende Identify(Lauf& lauf) {
     if (const Ende ende = zugang.Verbinde(); ende != Ende::Erledigt)
         return ende;
     lauf.Gib(Zeile(TextBezeichnung, Geraetename()) + Zeile(TextSeriennummer, GeraeteSeriennummer()) +
-                 Zeile(TextCopyright, Geraetecopyright()) + Zeile(TextAdresse, std::to_string(GetSlaveAdresse())) +
+                 Zeile(TextCopyright, Geraetecopyright()) +
+                 Zeile(TextAdresse, std::to_string(GetSlaveAdresse())) +
                  Zeile(TextTyp, std::to_string(GetIdentByte2())) +
                  Zeile(TextZustand, std::to_string(GetIdentByte1())),
              {{"controller", GeraetAlsJson()}});

@@ -49,7 +49,8 @@ const Option* OptionMitBuchstabe(char kurz) {
     return nullptr;
 }
 
-std::string MitVorschlag(const std::string& fehler, std::string_view wort, const std::vector<std::string>& namen) {
+std::string MitVorschlag(const std::string& fehler, std::string_view wort,
+                         const std::vector<std::string>& namen) {
     const auto vorschlaege = Aehnliche(wort, namen);
     return vorschlaege.empty() ? fehler : fehler + " " + LadeTextMit(TextMeinten, {Aufzaehlung(vorschlaege)});
 }
@@ -93,8 +94,8 @@ private:
 
     void NimmOption(const std::string& wort) {
         const auto [name, anhaengend] = Zerlegt(wort);
-        const Option* const option =
-            name.starts_with("--") ? OptionNamens(std::string_view(name).substr(2)) : OptionMitBuchstabe(name[1]);
+        const Option* const option = name.starts_with("--") ? OptionNamens(std::string_view(name).substr(2))
+                                                            : OptionMitBuchstabe(name[1]);
         if (option == nullptr)
             return MeldeUnbekannte(name);
         if (befund.zeile.Hat(option->name))

@@ -29,12 +29,13 @@ struct Zeilenbefund {
     std::string fehler{}; ///< in the current language; empty: nothing
 };
 
-/// Reads the words behind the program's name. Options may stand anywhere, their value behind "=" or as the next word; behind
+/// Reads the words behind the program's name. Options may stand anywhere, their value behind "=" or as the
+/// next word; behind
 /// "--" there is none any more, and a number is none.
 Zeilenbefund LiesBefehlszeile(std::span<const std::string> worte);
 
-/// The language that the words ask for, or else the variables LC_ALL, LC_MESSAGES and LANG, of which the first that is not
-/// empty counts.
+/// The language that the words ask for, or else the variables LC_ALL, LC_MESSAGES and LANG, of which the
+/// first that is not empty counts.
 /// @param variable gives the value of a variable, empty where there is none
 std::int16_t SpracheAus(std::span<const std::string> worte,
                         const std::function<std::string(const char* name)>& variable);

@@ -72,7 +72,8 @@ private:
 
 /// What a pass must know of the parts before: which are there, their beams, and which of these are blanked.
 Ende LiesOptikteile(const Lauf& lauf, const Leitungszugang& zugang) {
-    constexpr std::int16_t Adressen[] = {spezifisch::Strahlenzahl, spezifisch::Optikteilstatus, spezifisch::Blankingmuster};
+    constexpr std::int16_t Adressen[] = {spezifisch::Strahlenzahl, spezifisch::Optikteilstatus,
+                                         spezifisch::Blankingmuster};
     constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     std::vector<Transferparameter> alle;
     for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
@@ -125,7 +126,8 @@ void GibBild(const Lauf& lauf, int nummer) {
 /// Rests until the next picture is due, or the user has had enough.
 void Ruhe(const Lauf& lauf, Zeit bis) {
     constexpr Zeit Blick = std::chrono::milliseconds(50);
-    for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < bis && !lauf.konsole.Unterbrochen(); jetzt = DieUmgebung().Uhr())
+    for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < bis && !lauf.konsole.Unterbrochen();
+         jetzt = DieUmgebung().Uhr())
         DieUmgebung().WarteAufEreignis(std::min(bis - jetzt, Blick));
 }
 

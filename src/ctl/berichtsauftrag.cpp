@@ -33,9 +33,9 @@ Berichtsangaben Angaben(const Lauf& lauf, const Quelle& quelle) {
     angaben.quelle = LadeTextMit(TextGelesen, {Zeitpunkttext()});
     angaben.geraetename = Geraetename();
     angaben.copyright = Geraetecopyright();
-    angaben.geraetezustand = Klartext(
-        Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus,
-        quelle.abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus));
+    angaben.geraetezustand =
+        Klartext(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus,
+                 quelle.abbild.HoleParameter(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus));
     return angaben;
 }
 

@@ -24,15 +24,23 @@ constexpr std::int16_t ArgumentTextdatei = 8511;
 constexpr std::int16_t ArgumentQuelleFrei = 8512;
 
 constexpr Option Allgemeine[] = {
-    {"port", 'p', WertPort, 8520},       {"format", 'f', WertFormat, 8521}, {"timeout", 't', WertSekunden, 8522},
-    {"json", 'j', 0, 8523},              {"lang", 'l', WertSprache, 8524},  {"quiet", 'q', 0, 8525},
-    {"yes", 'y', 0, 8526},               {"help", 'h', 0, 8527},            {"version", 'V', 0, 8528},
+    {"port", 'p', WertPort, 8520},
+    {"format", 'f', WertFormat, 8521},
+    {"timeout", 't', WertSekunden, 8522},
+    {"json", 'j', 0, 8523},
+    {"lang", 'l', WertSprache, 8524},
+    {"quiet", 'q', 0, 8525},
+    {"yes", 'y', 0, 8526},
+    {"help", 'h', 0, 8527},
+    {"version", 'V', 0, 8528},
 };
 
 constexpr Option Eigene[] = {
-    {"output", 'o', WertDatei, 8529},  {"store", 0, 0, 8530},          {"verify", 0, 0, 8531},
-    {"no-backup", 0, 0, 8532},         {"count", 'n', WertAnzahl, 8533}, {"interval", 'i', WertSekunden, 8534},
-    {"plant", 0, WertText, 8535},      {"machine", 0, WertText, 8536}, {"person", 0, WertText, 8537},
+    {"output", 'o', WertDatei, 8529}, {"store", 0, 0, 8530},
+    {"verify", 0, 0, 8531},           {"no-backup", 0, 0, 8532},
+    {"count", 'n', WertAnzahl, 8533}, {"interval", 'i', WertSekunden, 8534},
+    {"plant", 0, WertText, 8535},     {"machine", 0, WertText, 8536},
+    {"person", 0, WertText, 8537},
 };
 
 constexpr Befehl Befehle[] = {

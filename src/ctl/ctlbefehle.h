@@ -7,8 +7,8 @@
 #include <span>
 #include <string_view>
 
-/// What can be chosen on the command line: a row for each option and each command. Reading a command line, the help and
-/// whatever describes the program elsewhere follow these tables.
+/// What can be chosen on the command line: a row for each option and each command. Reading a command line,
+/// the help and whatever describes the program elsewhere follow these tables.
 namespace varnoth::ctl {
 
 struct Lauf;
@@ -16,9 +16,9 @@ struct Lauf;
 /// An option: its long name without "--".
 struct Option {
     std::string_view name;
-    char kurz;               ///< the letter behind "-"; 0: none
+    char kurz;                ///< the letter behind "-"; 0: none
     std::int16_t platzhalter; ///< text id of what its value is called; 0: it has none
-    std::int16_t zweck;      ///< text id
+    std::int16_t zweck;       ///< text id
 };
 
 /// The options that every command takes.
@@ -36,9 +36,9 @@ struct Befehl {
     std::int16_t argumente; ///< text id of what they are called; 0: it has none
     std::size_t mindestens; ///< arguments
     std::size_t hoechstens;
-    std::int16_t zweck;                                  ///< text id: one line
-    std::int16_t einzelheiten;                           ///< text id: what else is to be known; 0: nothing
-    std::string_view optionen[HoechstensEigene];         ///< names of its own options; the rest is empty
+    std::int16_t zweck;                          ///< text id: one line
+    std::int16_t einzelheiten;                   ///< text id: what else is to be known; 0: nothing
+    std::string_view optionen[HoechstensEigene]; ///< names of its own options; the rest is empty
     Ende (*tat)(Lauf& lauf);
 };
 

@@ -37,7 +37,8 @@ std::string Tabelle(const std::vector<Hilfezeile>& zeilen) {
         breite = std::max(breite, Anzeigebreite(zeile.links));
     std::string text;
     for (const Hilfezeile& zeile : zeilen)
-        text += std::string(Einzug, ' ') + Aufgefuellt(zeile.links, breite + Spaltenabstand) + zeile.rechts + "\n";
+        text += std::string(Einzug, ' ') + Aufgefuellt(zeile.links, breite + Spaltenabstand) + zeile.rechts +
+                "\n";
     return text;
 }
 
@@ -68,18 +69,20 @@ std::string Ueberblick() {
     std::vector<Hilfezeile> zeilen;
     for (const Befehl& befehl : AlleBefehle())
         zeilen.push_back({std::string(befehl.name) + Argumente(befehl), LadeText(befehl.zweck)});
-    return LadeText(TextAufruf) + "varnothctl [" + LadeText(TextOptionsplatz) + "]... " + LadeText(TextBefehlsplatz) +
-           "\n" + LadeText(TextUeberblick) + "\n" + Abschnitt(TextBefehle, Tabelle(zeilen)) +
+    return LadeText(TextAufruf) + "varnothctl [" + LadeText(TextOptionsplatz) + "]... " +
+           LadeText(TextBefehlsplatz) + "\n" + LadeText(TextUeberblick) + "\n" +
+           Abschnitt(TextBefehle, Tabelle(zeilen)) +
            Abschnitt(TextOptionen, Optionstabelle(AllgemeineOptionen(), [](const Option&) { return true; })) +
            Abschnitt(TextExitcodes, LadeText(TextExitcodeliste) + "\n") + "\n" + LadeText(TextMehr) + "\n";
 }
 
 std::string Befehlshilfe(const Befehl& befehl) {
     const auto istEigene = [&befehl](const Option& option) { return Nimmt(befehl, option.name); };
-    const std::string einzelheiten = befehl.einzelheiten != 0 ? "\n" + LadeText(befehl.einzelheiten) + "\n" : "";
-    return LadeText(TextAufruf) + "varnothctl " + std::string(befehl.name) + " [" + LadeText(TextOptionsplatz) +
-           "]..." + Argumente(befehl) + "\n" + LadeText(befehl.zweck) + ".\n" + einzelheiten +
-           Abschnitt(TextWeitereOptionen, Optionstabelle(EigeneOptionen(), istEigene)) +
+    const std::string einzelheiten =
+        befehl.einzelheiten != 0 ? "\n" + LadeText(befehl.einzelheiten) + "\n" : "";
+    return LadeText(TextAufruf) + "varnothctl " + std::string(befehl.name) + " [" +
+           LadeText(TextOptionsplatz) + "]..." + Argumente(befehl) + "\n" + LadeText(befehl.zweck) + ".\n" +
+           einzelheiten + Abschnitt(TextWeitereOptionen, Optionstabelle(EigeneOptionen(), istEigene)) +
            Abschnitt(TextOptionen, Optionstabelle(AllgemeineOptionen(), [](const Option&) { return true; }));
 }
 
@@ -122,7 +125,8 @@ Ende ZeigeHilfe(const Lauf& lauf) {
 
 Ende ZeigeVersion(const Lauf& lauf) {
     if (lauf.InJson())
-        lauf.konsole.Daten(Json::Objekt({{"command", "version"}, {"version", VARNOTH_VERSION}}).Text() + "\n");
+        lauf.konsole.Daten(Json::Objekt({{"command", "version"}, {"version", VARNOTH_VERSION}}).Text() +
+                           "\n");
     else
         lauf.konsole.Zeile("varnothctl " VARNOTH_VERSION);
     return Ende::Erledigt;

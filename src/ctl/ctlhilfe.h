@@ -6,7 +6,8 @@ namespace varnoth::ctl {
 
 struct Lauf;
 
-/// Tells how the program is used, or the command that the command line names; made from the tables of options and commands.
+/// Tells how the program is used, or the command that the command line names; made from the tables of options
+/// and commands.
 Ende ZeigeHilfe(const Lauf& lauf);
 
 /// Tells the program's version.

@@ -10,8 +10,8 @@ namespace varnoth::ctl {
 
 struct Lauf;
 
-/// How long a command goes on without getting anywhere: until the user interrupts it, or until nothing has succeeded for the time
-/// that the option names.
+/// How long a command goes on without getting anywhere: until the user interrupts it, or until nothing has
+/// succeeded for the time that the option names.
 class Geduld {
 public:
     explicit Geduld(const Lauf& lauf);

@@ -21,10 +21,11 @@ struct Lauf {
     void Sage(std::string_view text) const;
     /// Says why the command ends so.
     Ende Scheitere(Ende ende, std::string_view text) const;
-    /// Writes the command's data: in JSON these fields behind the command's name, otherwise the text, line by line.
+    /// Writes the command's data: in JSON these fields behind the command's name, otherwise the text, line by
+    /// line.
     void Gib(std::string_view text, const std::vector<Json::Feld>& felder) const;
-    /// Whether the command may go on with what changes something: the user has said so beforehand, or is asked. Where nobody
-    /// can be asked it says what is missing.
+    /// Whether the command may go on with what changes something: the user has said so beforehand, or is
+    /// asked. Where nobody can be asked it says what is missing.
     Ende Erlaubnis(std::string_view frage) const;
     /// Whether the command will be able to ask, or need not.
     Ende KannErlaubnisBekommen() const;

@@ -35,12 +35,15 @@ constexpr std::string_view ComName = "COM";
 /// Whether the words are "COM" and a number.
 bool IstComName(std::string_view worte) {
     const auto gleich = [](char a, char b) { return std::toupper(static_cast<unsigned char>(a)) == b; };
-    return worte.size() > ComName.size() && std::ranges::equal(worte.substr(0, ComName.size()), ComName, gleich) &&
-           std::ranges::all_of(worte.substr(ComName.size()),
-                               [](char zeichen) { return std::isdigit(static_cast<unsigned char>(zeichen)) != 0; });
+    return worte.size() > ComName.size() &&
+           std::ranges::equal(worte.substr(0, ComName.size()), ComName, gleich) &&
+           std::ranges::all_of(worte.substr(ComName.size()), [](char zeichen) {
+               return std::isdigit(static_cast<unsigned char>(zeichen)) != 0;
+           });
 }
 
-/// The device that a path means: a bare name that is not in the current folder lies where the system keeps its devices.
+/// The device that a path means: a bare name that is not in the current folder lies where the system keeps
+/// its devices.
 std::string Geraetepfadname(const std::string& pfad) {
     std::error_code fehler;
     if (pfad.find('/') == std::string::npos && !std::filesystem::exists(pfad, fehler))
@@ -101,7 +104,8 @@ Ende Leitungszugang::Oeffne() {
     if (const Ende ende = WaehleAnschluss(lauf); ende != Ende::Erledigt)
         return ende;
     modSchnittstelle::OpenCommPort();
-    return modSchnittstelle::GetPortIstOffen() != False ? Ende::Erledigt : Scheitere(Ende::Port, TextKeinPort);
+    return modSchnittstelle::GetPortIstOffen() != False ? Ende::Erledigt
+                                                        : Scheitere(Ende::Port, TextKeinPort);
 }
 
 Ende Leitungszugang::Verbinde() {
@@ -117,7 +121,8 @@ Ende Leitungszugang::Verbinde() {
 Ende Leitungszugang::EndeNachAbbruch() const {
     if (lauf.konsole.Unterbrochen())
         return lauf.Scheitere(Ende::Unterbrochen, LadeText(TextUnterbrochen));
-    if (modSchnittstelle::GetPortIstOffen() == False || modSchnittstelle::GetPortbefund().hindernis != Hindernis::Keines)
+    if (modSchnittstelle::GetPortIstOffen() == False ||
+        modSchnittstelle::GetPortbefund().hindernis != Hindernis::Keines)
         return Scheitere(Ende::Port, TextKeinPort);
     if (modModbus::RTUModeH11IndentifikationsAnforderung() != False)
         return lauf.Scheitere(Ende::Abgelehnt, LadeText(TextAbgelehnt));

@@ -19,7 +19,8 @@ public:
     Leitungszugang(const Leitungszugang&) = delete;
     Leitungszugang& operator=(const Leitungszugang&) = delete;
 
-    /// Opens the port that the options or the settings name, and identifies the controller. What stands in the way is told.
+    /// Opens the port that the options or the settings name, and identifies the controller. What stands in
+    /// the way is told.
     Ende Verbinde();
     /// Why a procedure has not come to its end, after it was told so.
     Ende EndeNachAbbruch() const;
@@ -31,7 +32,8 @@ private:
     const Lauf& lauf;
 };
 
-/// Names port and line format for this run, as the options say or else the settings. Tells which of them makes no sense.
+/// Names port and line format for this run, as the options say or else the settings. Tells which of them
+/// makes no sense.
 Ende WaehleAnschluss(const Lauf& lauf);
 
 /// Texts of the controller that answered last, as UTF-8.

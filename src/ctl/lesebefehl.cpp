@@ -22,15 +22,17 @@ Ende Read(Lauf& lauf) {
         return ende;
     PruefePlausibel(lauf, quelle.abbild);
     if (pfad)
-        if (const Ende ende = LegeDatei(lauf, *pfad, AlsKonfigurationsdatei(quelle.abbild)); ende != Ende::Erledigt)
+        if (const Ende ende = LegeDatei(lauf, *pfad, AlsKonfigurationsdatei(quelle.abbild));
+            ende != Ende::Erledigt)
             return ende;
     if (lauf.InJson())
-        lauf.Gib({}, {{"controller", GeraetAlsJson()},
-                      {"file", pfad ? Json(*pfad) : Json()},
-                      {"checksum", Konfigurationspruefsumme(quelle.abbild)},
-                      {"registers", Jsonliste(AlleStellen(IstLesbar), [&quelle](const Parameterstelle& stelle) {
-                           return WertAlsJson(quelle.abbild, stelle);
-                       })}});
+        lauf.Gib({},
+                 {{"controller", GeraetAlsJson()},
+                  {"file", pfad ? Json(*pfad) : Json()},
+                  {"checksum", Konfigurationspruefsumme(quelle.abbild)},
+                  {"registers", Jsonliste(AlleStellen(IstLesbar), [&quelle](const Parameterstelle& stelle) {
+                       return WertAlsJson(quelle.abbild, stelle);
+                   })}});
     else if (!pfad)
         lauf.konsole.Daten(Standtext(quelle.abbild));
     return Ende::Erledigt;

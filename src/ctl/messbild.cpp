@@ -70,7 +70,8 @@ std::string Rechts(const std::string& text, int breite) {
 Teilbild TeilbildAus(const Abbild& abbild, int teil) {
     Teilbild bild{.teil = teil, .vorhanden = modPolling::GetOptikteilStatus(teil) == modPolling::Vorhanden};
     const Werte status = abbild.HoleParameter(Spezifisch, spezifisch::Optikteilstatus, teil);
-    bild.zustand = Klartext(Spezifisch, spezifisch::Optikteilstatus, status, LesartFuer(abbild, Spezifisch, teil));
+    bild.zustand =
+        Klartext(Spezifisch, spezifisch::Optikteilstatus, status, LesartFuer(abbild, Spezifisch, teil));
     if (!bild.vorhanden)
         return bild;
     bild.strahlen = abbild.HoleRegister(Spezifisch, spezifisch::Strahlenzahl, teil);
@@ -104,7 +105,8 @@ Json AlsJson(const Teilbild& bild) {
 } // namespace
 
 Messbild MessbildAus(const Abbild& abbild) {
-    const std::int32_t status = abbild.HoleRegister(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus);
+    const std::int32_t status =
+        abbild.HoleRegister(Speicherbereich::GlobaleGeraetedaten, global::Geraetestatus);
     Messbild bild{.ausgangAktiv = (status & geraetestatus::PnpAktiv) != 0};
     for (int teil = 0; teil < modPolling::GetAnzahlOptikteile(); ++teil)
         bild.teile.push_back(TeilbildAus(abbild, teil));
@@ -112,7 +114,8 @@ Messbild MessbildAus(const Abbild& abbild) {
 }
 
 std::string Tabellenkopf() {
-    std::string kopf = Aufgefuellt(LadeText(TextUhrzeit), Uhrzeitbreite) + Aufgefuellt(LadeText(TextTeil), Teilbreite);
+    std::string kopf =
+        Aufgefuellt(LadeText(TextUhrzeit), Uhrzeitbreite) + Aufgefuellt(LadeText(TextTeil), Teilbreite);
     for (std::size_t i = 0; i < Wertnamen.size(); ++i)
         kopf += Rechts(LadeText(static_cast<std::int16_t>(ErsterWertname + static_cast<int>(i))), Wertbreite);
     return kopf + "  " + Aufgefuellt(LadeText(TextAusgang), Ausgangsbreite) +
@@ -123,11 +126,12 @@ std::string Tabellenzeilen(const Messbild& bild, const std::string& uhrzeit) {
     const std::string ausgang = LadeText(bild.ausgangAktiv ? TextAn : TextAus);
     std::string zeilen;
     for (const Teilbild& teil : bild.teile) {
-        zeilen += Aufgefuellt(uhrzeit, Uhrzeitbreite) + Aufgefuellt(std::to_string(teil.teil + 1), Teilbreite);
+        zeilen +=
+            Aufgefuellt(uhrzeit, Uhrzeitbreite) + Aufgefuellt(std::to_string(teil.teil + 1), Teilbreite);
         for (std::size_t i = 0; i < Wertnamen.size(); ++i)
             zeilen += Rechts(teil.vorhanden ? std::to_string(teil.werte.at(i)) : "-", Wertbreite);
-        zeilen += "  " + Aufgefuellt(ausgang, Ausgangsbreite) +
-                  Aufgefuellt(teil.zustand, Zustandsbreite) + "  " + Bereichstext(teil.unterbrochene) + "\n";
+        zeilen += "  " + Aufgefuellt(ausgang, Ausgangsbreite) + Aufgefuellt(teil.zustand, Zustandsbreite) +
+                  "  " + Bereichstext(teil.unterbrochene) + "\n";
     }
     return zeilen;
 }

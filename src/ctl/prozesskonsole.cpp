@@ -49,7 +49,8 @@ void Prozesskonsole::Fortschritt(std::string_view text) {
 void Prozesskonsole::RaeumeFortschritt() {
     if (fortschrittsbreite == 0)
         return;
-    SchreibeInStrom(Strom::Fehler, "\r" + std::string(static_cast<std::size_t>(fortschrittsbreite), ' ') + "\r");
+    SchreibeInStrom(Strom::Fehler,
+                    "\r" + std::string(static_cast<std::size_t>(fortschrittsbreite), ' ') + "\r");
     fortschrittsbreite = 0;
 }
 

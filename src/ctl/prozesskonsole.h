@@ -6,8 +6,8 @@
 
 namespace varnoth::ctl {
 
-/// The streams of this process: data on standard output, messages and progress on standard error, the answer to a question from
-/// standard input.
+/// The streams of this process: data on standard output, messages and progress on standard error, the answer
+/// to a question from standard input.
 class Prozesskonsole : public Konsole {
 public:
     explicit Prozesskonsole(Zeichenvorrat zeichenvorrat) : vorrat(zeichenvorrat) {}
@@ -21,7 +21,8 @@ public:
     bool Frage(std::string_view text) override;
     bool Unterbrochen() const override;
 
-    /// Why data could not be written, as the system's error number; 0 when all were. A reader who has gone away is none.
+    /// Why data could not be written, as the system's error number; 0 when all were. A reader who has gone
+    /// away is none.
     int Fehlernummer() const;
 
 private:

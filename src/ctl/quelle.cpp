@@ -97,19 +97,20 @@ Quellenart ArtVon(std::string_view wort) {
         return Quellenart::Geraet;
     if (wort == WortWerk)
         return Quellenart::Werk;
-    return wort == WortSicherung || wort.starts_with(WortSicherungVon) ? Quellenart::Sicherung : Quellenart::Datei;
+    return wort == WortSicherung || wort.starts_with(WortSicherungVon) ? Quellenart::Sicherung
+                                                                       : Quellenart::Datei;
 }
 
-Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang, const std::string& seriennummer,
-                Quelle& quelle) {
+Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
+                const std::string& seriennummer, Quelle& quelle) {
     quelle.art = ArtVon(wort);
     switch (quelle.art) {
     case Quellenart::Datei:
         return LiesAusDatei(lauf, std::string(wort), quelle);
     case Quellenart::Sicherung:
-        return LiesSicherung(lauf,
-                             wort == WortSicherung ? seriennummer : WortAlsUtf8(wort.substr(WortSicherungVon.size())),
-                             quelle);
+        return LiesSicherung(
+            lauf, wort == WortSicherung ? seriennummer : WortAlsUtf8(wort.substr(WortSicherungVon.size())),
+            quelle);
     case Quellenart::Werk:
         quelle.name = LadeText(TextQuelleWerk);
         quelle.abbild = Standardkonfiguration();

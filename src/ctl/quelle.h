@@ -19,8 +19,8 @@ enum class Quellenart { Datei, Geraet, Werk, Sicherung };
 /// A configuration, and where it comes from.
 struct Quelle {
     Quellenart art = Quellenart::Datei;
-    std::string pfad{};  ///< of a file or backup, UTF-8
-    std::string name{};  ///< for a person, in the current language
+    std::string pfad{}; ///< of a file or backup, UTF-8
+    std::string name{}; ///< for a person, in the current language
     Abbild abbild{};
     Parametermenge ungelesen{}; ///< what a controller's read has not got
 };
@@ -28,11 +28,11 @@ struct Quelle {
 /// The kind that a word names: "device", "default", "backup", "backup:SERIAL", and any other word is a path.
 Quellenart ArtVon(std::string_view wort);
 
-/// Reads the configuration that a word names; `zugang` connects where it is the controller. A configuration file and a
-/// configuration as text are told apart by what they hold. Why it cannot be had is told.
+/// Reads the configuration that a word names; `zugang` connects where it is the controller. A configuration
+/// file and a configuration as text are told apart by what they hold. Why it cannot be had is told.
 /// @param seriennummer of the controller whose newest backup "backup" means; empty: that of any
-Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang, const std::string& seriennummer,
-                Quelle& quelle);
+Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
+                const std::string& seriennummer, Quelle& quelle);
 
 /// The same for the argument of the command line; without one it is the controller.
 Ende LiesGenannteQuelle(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);

@@ -80,7 +80,8 @@ private:
     bool Speichert() const { return lauf.zeile.Hat("store"); }
 
     Ende BereiteVor() {
-        if (const Ende ende = WaehleAlle(lauf, std::span(lauf.zeile.argumente).first(1), ziele); ende != Ende::Erledigt)
+        if (const Ende ende = WaehleAlle(lauf, std::span(lauf.zeile.argumente).first(1), ziele);
+            ende != Ende::Erledigt)
             return ende;
         if (!IstSetzbar(Ziel()))
             return lauf.Scheitere(Ende::Bedienung, LadeTextMit(TextNichtSchreibbar, {Registername(Ziel())}));
@@ -116,7 +117,8 @@ private:
         const std::string nach = lesung.Worte(Ziel(), neue);
         Schreibauftrag auftrag{.abbild = Standardkonfiguration(), .stellen = ParameterMitRegistern(Ziel())};
         std::ignore = auftrag.abbild.SetzeParameter(Ziel().bereich, Ziel().adresse, neue, Ziel().optikteil);
-        if (const std::string warnung = Leitungswarnung(auftrag, std::nullopt); Speichert() && !warnung.empty())
+        if (const std::string warnung = Leitungswarnung(auftrag, std::nullopt);
+            Speichert() && !warnung.empty())
             lauf.konsole.Meldung(warnung);
         return lauf.Erlaubnis(LadeTextMit(TextFrage, {Registername(Ziel()), von, nach}));
     }
@@ -130,9 +132,10 @@ private:
     Ende Speichere() {
         Geduld geduld(lauf);
         Geduldsanzeige anzeige(geduld);
-        const bool gelungen = !Speichert() || VersucheBisErfolg(
-                                                  anzeige, [](int /*versuch*/) {},
-                                                  [] { return SendeKommando(Kommando::SpeichereKonfiguration); });
+        const bool gelungen =
+            !Speichert() || VersucheBisErfolg(
+                                anzeige, [](int /*versuch*/) {},
+                                [] { return SendeKommando(Kommando::SpeichereKonfiguration); });
         return gelungen ? Ende::Erledigt : zugang.EndeNachAbbruch();
     }
 
@@ -186,7 +189,8 @@ Ende Get(Lauf& lauf) {
     for (const Transferparameter& einer : alle) {
         const Werte& werte = lesung.WerteVon(einer);
         text += Wertzeile(einer, lesung, werte) + "\n";
-        zeilen.push_back(MitOrt(einer, {{"words", lesung.Worte(einer, werte)}, {"values", Json::Zahlen(werte)}}));
+        zeilen.push_back(
+            MitOrt(einer, {{"words", lesung.Worte(einer, werte)}, {"values", Json::Zahlen(werte)}}));
     }
     lauf.Gib(text, {{"registers", Json::Liste(zeilen)}});
     return Ende::Erledigt;

@@ -70,10 +70,9 @@ Json WertAlsJson(const Abbild& abbild, const Parameterstelle& stelle) {
 
 Json ZeileAlsJson(const Vergleichsworte& worte, const Vergleichszeile& zeile, const Vergleichsbild& a,
                   const Vergleichsbild& b) {
-    return MitFeldern(Ortsfelder(worte.stelle),
-                      {{"class", Klassenname(worte.klasse)},
-                       {"a", zeile.HatA(a.ungelesen) ? Json(worte.a) : Json()},
-                       {"b", zeile.HatB(b.ungelesen) ? Json(worte.b) : Json()}});
+    return MitFeldern(Ortsfelder(worte.stelle), {{"class", Klassenname(worte.klasse)},
+                                                 {"a", zeile.HatA(a.ungelesen) ? Json(worte.a) : Json()},
+                                                 {"b", zeile.HatB(b.ungelesen) ? Json(worte.b) : Json()}});
 }
 
 Json BefundAlsJson(const Registerbefund& befund, std::string_view links, std::string_view rechts) {

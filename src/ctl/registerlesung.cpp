@@ -22,7 +22,8 @@ constexpr std::int32_t GroessterWert = 0xFFFF;
 constexpr std::int32_t KleinsterWert = -0x8000;
 
 bool SindDieselben(const Transferparameter& a, const Transferparameter& b) {
-    return std::tie(a.bereich, a.adresse, a.anzahl, a.optikteil) == std::tie(b.bereich, b.adresse, b.anzahl, b.optikteil);
+    return std::tie(a.bereich, a.adresse, a.anzahl, a.optikteil) ==
+           std::tie(b.bereich, b.adresse, b.anzahl, b.optikteil);
 }
 
 /// What the words for other values depend on.
@@ -42,7 +43,8 @@ std::optional<std::int32_t> Zahl(std::string_view worte) {
     std::int32_t zahl = 0;
     const char* const ende = text.data() + text.size();
     const auto [stelle, fehler] = std::from_chars(text.data(), ende, zahl);
-    const bool passt = fehler == std::errc() && stelle == ende && zahl >= KleinsterWert && zahl <= GroessterWert;
+    const bool passt =
+        fehler == std::errc() && stelle == ende && zahl >= KleinsterWert && zahl <= GroessterWert;
     return passt ? std::optional(zahl & GroessterWert) : std::nullopt;
 }
 
@@ -64,7 +66,8 @@ Ende Registerlesung::Lies(const Lauf& lauf, const Leitungszugang& zugang,
 }
 
 const Werte& Registerlesung::WerteVon(const Transferparameter& parameter) const {
-    return std::ranges::find_if(gelesene, [&](const auto& eines) { return SindDieselben(eines.first, parameter); })
+    return std::ranges::find_if(gelesene,
+                                [&](const auto& eines) { return SindDieselben(eines.first, parameter); })
         ->second;
 }
 
@@ -73,11 +76,13 @@ Lesart Registerlesung::LesartVon(const Transferparameter& parameter) const {
 }
 
 std::string Registerlesung::Worte(const Transferparameter& parameter, const Werte& werte) const {
-    return IstParameter(parameter) ? Klartext(parameter.bereich, parameter.adresse, werte, LesartVon(parameter))
-                                   : Rohtexte(werte);
+    return IstParameter(parameter)
+               ? Klartext(parameter.bereich, parameter.adresse, werte, LesartVon(parameter))
+               : Rohtexte(werte);
 }
 
-std::optional<Werte> Registerlesung::WerteAus(const Transferparameter& parameter, std::string_view worte) const {
+std::optional<Werte> Registerlesung::WerteAus(const Transferparameter& parameter,
+                                              std::string_view worte) const {
     if (IstParameter(parameter))
         if (auto werte = varnoth::WerteAus(parameter.bereich, parameter.adresse, worte, LesartVon(parameter)))
             return werte;

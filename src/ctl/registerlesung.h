@@ -22,7 +22,8 @@ struct Lauf;
 class Registerlesung {
 public:
     /// Reads these registers, and beam counts and bus type with them.
-    Ende Lies(const Lauf& lauf, const Leitungszugang& zugang, const std::vector<Transferparameter>& parameter);
+    Ende Lies(const Lauf& lauf, const Leitungszugang& zugang,
+              const std::vector<Transferparameter>& parameter);
 
     /// The values of registers that were read.
     const Werte& WerteVon(const Transferparameter& parameter) const;

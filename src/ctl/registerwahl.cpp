@@ -57,8 +57,8 @@ bool HeisstAbschnitt(const Abschnitt& abschnitt, const std::string& kern) {
 const Abschnitt* AbschnittAus(std::string_view worte) {
     const auto alle = AlleAbschnitte();
     const std::string kern = Namenskern(worte);
-    const auto treffer =
-        std::ranges::find_if(alle, [&](const Abschnitt& abschnitt) { return HeisstAbschnitt(abschnitt, kern); });
+    const auto treffer = std::ranges::find_if(
+        alle, [&](const Abschnitt& abschnitt) { return HeisstAbschnitt(abschnitt, kern); });
     return treffer == alle.end() ? nullptr : &*treffer;
 }
 
@@ -69,15 +69,17 @@ bool HeisstParameter(const Parameter& parameter, const std::string& kern) {
 }
 
 Transferparameter Ganzer(const Parameter& parameter, int optikteil) {
-    return {parameter.bereich, parameter.adresse, parameter.beschreibung.Laenge, static_cast<std::int16_t>(optikteil)};
+    return {parameter.bereich, parameter.adresse, parameter.beschreibung.Laenge,
+            static_cast<std::int16_t>(optikteil)};
 }
 
 std::string Langname(const Abschnitt& abschnitt, const Parameter& parameter) {
-    return Abschnittsname(abschnitt, GetSprachoffset()) + " / " + Parametername(parameter.bereich, parameter.adresse);
+    return Abschnittsname(abschnitt, GetSprachoffset()) + " / " +
+           Parametername(parameter.bereich, parameter.adresse);
 }
 
-/// What a word was probably meant to be. What is typed is compared with names alone, of both languages; what is offered tells
-/// their group as well.
+/// What a word was probably meant to be. What is typed is compared with names alone, of both languages; what
+/// is offered tells their group as well.
 std::vector<std::string> Vorschlaege(std::string_view name, const Abschnitt* dort) {
     std::vector<std::string> kurze;
     std::vector<std::string> lange;

@@ -64,7 +64,8 @@ private:
     }
 
     Ende LiesVorlage() {
-        if (const Ende ende = LiesQuelle(lauf, Wort(), zugang, GeraeteSeriennummer(), quelle); ende != Ende::Erledigt)
+        if (const Ende ende = LiesQuelle(lauf, Wort(), zugang, GeraeteSeriennummer(), quelle);
+            ende != Ende::Erledigt)
             return ende;
         return PruefePlausibel(lauf, quelle.abbild) ? Ende::Erledigt : Ende::Datei;
     }
@@ -90,7 +91,8 @@ private:
     Ende Kuendige() {
         aenderungen = BefundVorDemSchreiben(ergebnis.auftrag, vorher, LadeText(TextJetzt));
         lauf.Sage(vorher ? aenderungen.text + Zeilentext(aenderungen) : aenderungen.text);
-        if (const std::string warnung = Leitungswarnung(ergebnis.auftrag, vorher); Speichert() && !warnung.empty())
+        if (const std::string warnung = Leitungswarnung(ergebnis.auftrag, vorher);
+            Speichert() && !warnung.empty())
             lauf.konsole.Meldung(warnung);
         return lauf.Erlaubnis(LadeTextMit(TextFrage, {quelle.name, GeraeteSeriennummer()}));
     }
@@ -113,8 +115,9 @@ private:
         Geduld geduld(lauf);
         {
             Fortgang fortgang(lauf, geduld, LadeText(TextSchreiben));
-            ergebnis.vollstaendig = SchreibeKonfiguration(
-                fortgang, Speichert() ? Ablage::Dauerhaft : Ablage::Fluechtig, ergebnis.auftrag, ergebnis.spur);
+            ergebnis.vollstaendig =
+                SchreibeKonfiguration(fortgang, Speichert() ? Ablage::Dauerhaft : Ablage::Fluechtig,
+                                      ergebnis.auftrag, ergebnis.spur);
         }
         const bool geprueft = !ergebnis.vollstaendig || !lauf.zeile.Hat("verify") || Pruefe(geduld);
         const bool zuEnde = ergebnis.vollstaendig && geprueft;
@@ -161,8 +164,9 @@ private:
                         {"registers", Json::Objekt({{"all", anzahl(ergebnis.auftrag.stellen)},
                                                     {"written", anzahl(ergebnis.spur.geschrieben)},
                                                     {"uncertain", anzahl(ergebnis.spur.ungewiss)}})},
-                        {"unfinished", !ergebnis.vollstaendig && folge ? BefundAlsJson(folge->befund, "state", "value")
-                                                                       : Json::Liste({})},
+                        {"unfinished", !ergebnis.vollstaendig && folge
+                                           ? BefundAlsJson(folge->befund, "state", "value")
+                                           : Json::Liste({})},
                         {"check", Pruefjson(folge)}});
         if (!ergebnis.vollstaendig && folge && !sicherung.empty())
             lauf.konsole.Meldung(LadeTextMit(TextZurueck, {sicherung}));

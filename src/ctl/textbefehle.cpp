@@ -65,7 +65,8 @@ Ende Import(Lauf& lauf) {
         return ende;
     if (!PruefePlausibel(lauf, quelle.abbild))
         return Ende::Datei;
-    if (const Ende ende = LegeDatei(lauf, *pfad, AlsKonfigurationsdatei(quelle.abbild)); ende != Ende::Erledigt)
+    if (const Ende ende = LegeDatei(lauf, *pfad, AlsKonfigurationsdatei(quelle.abbild));
+        ende != Ende::Erledigt)
         return ende;
     if (lauf.InJson())
         lauf.Gib({}, {{"source", AlsJson(quelle)},

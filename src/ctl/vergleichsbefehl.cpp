@@ -30,8 +30,8 @@ bool SindDasselbe(const std::string& a, const std::string& b) {
                       std::filesystem::equivalent(a, b, fehler));
 }
 
-/// The controller comes first: which backup is meant hangs on who answers, and the other side's beam counts tell what the
-/// default is.
+/// The controller comes first: which backup is meant hangs on who answers, and the other side's beam counts
+/// tell what the default is.
 Ende LiesBeide(const Lauf& lauf, Leitungszugang& zugang, Paar& paar) {
     std::string seriennummer;
     for (const bool zuerstGeraet : {true, false})
@@ -39,7 +39,8 @@ Ende LiesBeide(const Lauf& lauf, Leitungszugang& zugang, Paar& paar) {
             const std::string& wort = lauf.zeile.argumente[seite];
             if ((ArtVon(wort) == Quellenart::Geraet) != zuerstGeraet)
                 continue;
-            if (const Ende ende = LiesQuelle(lauf, wort, zugang, seriennummer, paar.at(seite)); ende != Ende::Erledigt)
+            if (const Ende ende = LiesQuelle(lauf, wort, zugang, seriennummer, paar.at(seite));
+                ende != Ende::Erledigt)
                 return ende;
             if (zuerstGeraet)
                 seriennummer = GeraeteSeriennummer();
@@ -91,8 +92,7 @@ Ende Compare(Lauf& lauf) {
     Paar paar;
     if (const Ende ende = LiesBeide(lauf, zugang, paar); ende != Ende::Erledigt)
         return ende;
-    const auto ergebnis =
-        Vergleiche(paar[0].abbild, paar[1].abbild, {paar[0].ungelesen, paar[1].ungelesen});
+    const auto ergebnis = Vergleiche(paar[0].abbild, paar[1].abbild, {paar[0].ungelesen, paar[1].ungelesen});
     GibVergleich(lauf, paar, ergebnis);
     return ergebnis.IstGleich() ? Ende::Erledigt : Ende::Unterschiede;
 }

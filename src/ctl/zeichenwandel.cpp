@@ -17,10 +17,11 @@ constexpr Codepunkt LetztesAscii = 0x7F;
 constexpr Codepunkt LetztesLatin1 = 0xFF;
 
 constexpr std::pair<Codepunkt, const char*> Umschreibungen[] = {
-    {0xA0, " "},    {0xA9, "(C)"},  {0xAB, "\""},   {0xAE, "(R)"},  {0xB0, "o"},      {0xB1, "+-"},   {0xB5, "u"},
-    {0xBB, "\""},   {0xC4, "Ae"},   {0xD6, "Oe"},   {0xD8, "O"},    {0xDC, "Ue"},     {0xDF, "ss"},   {0xE4, "ae"},
-    {0xF6, "oe"},   {0xF8, "o"},    {0xFC, "ue"},   {0x2013, "-"},  {0x2014, "-"},    {0x2018, "'"},  {0x2019, "'"},
-    {0x201A, "'"},  {0x201C, "\""}, {0x201D, "\""}, {0x201E, "\""}, {0x2026, "..."}, {0x20AC, "EUR"}};
+    {0xA0, " "},    {0xA9, "(C)"},   {0xAB, "\""},   {0xAE, "(R)"}, {0xB0, "o"},    {0xB1, "+-"},
+    {0xB5, "u"},    {0xBB, "\""},    {0xC4, "Ae"},   {0xD6, "Oe"},  {0xD8, "O"},    {0xDC, "Ue"},
+    {0xDF, "ss"},   {0xE4, "ae"},    {0xF6, "oe"},   {0xF8, "o"},   {0xFC, "ue"},   {0x2013, "-"},
+    {0x2014, "-"},  {0x2018, "'"},   {0x2019, "'"},  {0x201A, "'"}, {0x201C, "\""}, {0x201D, "\""},
+    {0x201E, "\""}, {0x2026, "..."}, {0x20AC, "EUR"}};
 
 bool IstFortsetzung(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
@@ -42,7 +43,8 @@ Codepunkt PunktVon(std::string_view zeichen) {
 }
 
 std::string Umschrieben(Codepunkt punkt) {
-    const auto* const treffer = std::ranges::find(Umschreibungen, punkt, &std::pair<Codepunkt, const char*>::first);
+    const auto* const treffer =
+        std::ranges::find(Umschreibungen, punkt, &std::pair<Codepunkt, const char*>::first);
     return treffer == std::end(Umschreibungen) ? "?" : treffer->second;
 }
 
@@ -83,7 +85,8 @@ int Anzeigebreite(std::string_view text) {
 }
 
 std::string Aufgefuellt(std::string_view text, int breite) {
-    return std::string(text) + std::string(static_cast<std::size_t>(std::max(breite - Anzeigebreite(text), 0)), ' ');
+    return std::string(text) +
+           std::string(static_cast<std::size_t>(std::max(breite - Anzeigebreite(text), 0)), ' ');
 }
 
 } // namespace varnoth::ctl

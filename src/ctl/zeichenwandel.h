@@ -7,7 +7,8 @@
 
 namespace varnoth::ctl {
 
-/// A text (UTF-8) in the characters that there are; for others stands what a person would write instead ("ae",
+/// A text (UTF-8) in the characters that there are; for others stands what a person would write instead
+/// ("ae",
 /// "..."), or "?".
 std::string FuerVorrat(std::string_view text, Zeichenvorrat vorrat);
 

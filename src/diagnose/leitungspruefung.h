@@ -13,33 +13,33 @@ namespace varnoth {
 /// How an identification of the line check has ended.
 enum class Pruefende {
     Beantwortet,
-    Nichts,         ///< no byte came
-    FalscheSumme,   ///< a whole reply whose checksum is wrong
-    Halb,           ///< a reply that ends too early
-    Fremdes,        ///< a bytes that are no reply
-    Echo,           ///< what was sent came back
+    Nichts,       ///< no byte came
+    FalscheSumme, ///< a whole reply whose checksum is wrong
+    Halb,         ///< a reply that ends too early
+    Fremdes,      ///< a bytes that are no reply
+    Echo,         ///< what was sent came back
 };
 inline constexpr std::size_t Pruefenden = 6;
 
 /// What is to be checked and how.
 struct Pruefauftrag {
-    int anzahl = 200;           ///< identifications
-    Portangabe port{};          ///< of the device, for what it tells of the adapter; may be empty
+    int anzahl = 200;  ///< identifications
+    Portangabe port{}; ///< of the device, for what it tells of the adapter; may be empty
 };
 
 struct Pruefbefund {
-    std::string geraet{};   ///< the device that was checked; empty where there is none
-    std::string format{};   ///< its line format
-    Portangabe port{};      ///< as in the order
-    int gesendet = 0;       ///< identifications that were sent and have ended
+    std::string geraet{};                 ///< the device that was checked; empty where there is none
+    std::string format{};                 ///< its line format
+    Portangabe port{};                    ///< as in the order
+    int gesendet = 0;                     ///< identifications that were sent and have ended
     std::array<int, Pruefenden> anzahl{}; ///< by Pruefende
     /// Of those that were answered, rising: from the handing over of the request to the end of the reply.
     std::vector<Zeit> umlaufzeiten{};
     std::size_t antwortlaenge = 0; ///< bytes of the last reply
-    int ungefragte = 0;     ///< exchanges with bytes before the request or beside the reply
-    int fremdeAnfragen = 0; ///< exchanges in which another master's request was heard
-    int eigenmaechtige = 0; ///< exchanges in which the controller sent a data block by itself
-    int gebrocheneZeichen = 0; ///< bytes in replies that failed which the system marked as broken ("?")
+    int ungefragte = 0;            ///< exchanges with bytes before the request or beside the reply
+    int fremdeAnfragen = 0;        ///< exchanges in which another master's request was heard
+    int eigenmaechtige = 0;        ///< exchanges in which the controller sent a data block by itself
+    int gebrocheneZeichen = 0;     ///< bytes in replies that failed which the system marked as broken ("?")
     bool abgebrochen = false;
     bool portVerloren = false; ///< the line disappeared
     std::string portfehler{};  ///< why the port could not be opened, in words; empty when it could
@@ -65,7 +65,8 @@ public:
 /// Stops early when told to, and when the line disappears. Must not run while the port is in use.
 Pruefbefund PruefeLeitung(const Pruefauftrag& auftrag, Pruefzeiger& zeiger);
 
-/// The round trip that so many per cent (0 to 100) of the replies did not exceed; nothing where there is none.
+/// The round trip that so many per cent (0 to 100) of the replies did not exceed; nothing where there is
+/// none.
 std::optional<Zeit> Umlaufzeit(const Pruefbefund& befund, int prozent);
 
 /// A line of numbers, in the current language.

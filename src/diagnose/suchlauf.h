@@ -21,13 +21,13 @@ struct Suchversuch {
 
 /// What came of a try.
 enum class Suchergebnis {
-    Gefunden,       ///< a controller has answered
-    NurMitEcho,     ///< it has, but what was sent came back as well
+    Gefunden,         ///< a controller has answered
+    NurMitEcho,       ///< it has, but what was sent came back as well
     PortVerschlossen, ///< the port could not be opened
-    Stille,         ///< nothing came
-    Unverstanden,   ///< something came that was no reply
-    Echo,           ///< what was sent came back, and nothing else
-    Uebergangen,    ///< not tried: the port could not be opened before
+    Stille,           ///< nothing came
+    Unverstanden,     ///< something came that was no reply
+    Echo,             ///< what was sent came back, and nothing else
+    Uebergangen,      ///< not tried: the port could not be opened before
 };
 
 struct Suchstand {
@@ -53,12 +53,12 @@ public:
 };
 
 struct Suchfund {
-    Suchversuch versuch{};   ///< where and how it answers; empty where none was found
-    Identifikation ident{};  ///< valid where one was found
-    bool mitEcho = false;    ///< what is sent comes back as well: the echo must be switched off before use
+    Suchversuch versuch{};  ///< where and how it answers; empty where none was found
+    Identifikation ident{}; ///< valid where one was found
+    bool mitEcho = false;   ///< what is sent comes back as well: the echo must be switched off before use
     bool abgebrochen = false;
-    int versuche = 0;        ///< so many were carried out
-    std::string text{};      ///< the outcome in words of the current language
+    int versuche = 0;   ///< so many were carried out
+    std::string text{}; ///< the outcome in words of the current language
 };
 
 /// The line formats that the controller can have, the likeliest first.

@@ -18,7 +18,8 @@ int Terminalbreite(Strom strom);
 /// Writes all bytes, unbuffered. Gives the system's error number, 0 when all are written.
 int SchreibeInStrom(Strom strom, std::string_view bytes);
 
-/// A line of the standard input without its end; nothing at the end of the input, and when a signal came instead.
+/// A line of the standard input without its end; nothing at the end of the input, and when a signal came
+/// instead.
 std::optional<std::string> LiesEingabezeile();
 
 /// The characters that can be shown.

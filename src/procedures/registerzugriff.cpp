@@ -21,7 +21,8 @@ Transferschritt Auswahlschritt(int optikteil) {
 }
 
 /// Appends an exchange that concerns a parameter, behind the selection that it needs.
-void HaengeAn(std::vector<Transferschritt>& schritte, const Transferparameter& parameter, Transferschritt schritt) {
+void HaengeAn(std::vector<Transferschritt>& schritte, const Transferparameter& parameter,
+              Transferschritt schritt) {
     if (IstSpezifisch(parameter)) {
         schritte.push_back(Auswahlschritt(parameter.optikteil));
         schritt.auswahl = schritte.size() - 1;
@@ -50,7 +51,8 @@ std::vector<Transferschritt> Leseschritte(std::span<const Transferparameter> par
     return schritte;
 }
 
-bool LiesRegister(Ablaufanzeige& anzeige, std::span<const Transferparameter> parameter, const Registerziel& ziel) {
+bool LiesRegister(Ablaufanzeige& anzeige, std::span<const Transferparameter> parameter,
+                  const Registerziel& ziel) {
     return Laufe(anzeige, Leseschritte(parameter, ziel));
 }
 
