@@ -19,7 +19,8 @@ int main(int argc, char** argv) {
         const QPixmap bild = symbol.pixmap(QSize(groesse.toInt(), groesse.toInt()), 1.0);
         if (bild.width() != groesse.toInt() || !ordner.mkpath(QStringLiteral(".")) ||
             !bild.save(ordner.filePath(name))) {
-            std::fprintf(stderr, "%s: no picture of size %s\n", qPrintable(worte.value(1)), qPrintable(groesse));
+            std::fprintf(stderr, "%s: no picture of size %s\n", qPrintable(worte.value(1)),
+                         qPrintable(groesse));
             return EXIT_FAILURE;
         }
     }

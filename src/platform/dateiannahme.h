@@ -16,7 +16,7 @@ namespace varnoth {
 class Dateiannahme {
 public:
     struct Ziel {
-        std::function<bool()> bereit;                       ///< whether the program still opens files
+        std::function<bool()> bereit;                        ///< whether the program still opens files
         std::function<void(const std::string& pfad)> oeffne; ///< an absolute path (UTF-8)
         /// How long a caller may take to say what he wants.
         Zeit laengsterSatz = std::chrono::seconds(2);

@@ -41,8 +41,7 @@ private:
 bool RufeAn(const Deskriptor& leitung, const sockaddr_un& adresse, const Frist& frist) {
     constexpr int pause = static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(Atempause).count());
     while (::connect(leitung.Nummer(), AlsAdresse(adresse), sizeof adresse) != 0) {
-        const bool kommtNoch =
-            errno == ENOENT || errno == ECONNREFUSED || errno == EAGAIN || errno == EINTR;
+        const bool kommtNoch = errno == ENOENT || errno == ECONNREFUSED || errno == EAGAIN || errno == EINTR;
         if (!kommtNoch || !frist.Laeuft())
             return false;
         ::poll(nullptr, 0, std::min(pause, frist.Rest()));
@@ -70,9 +69,9 @@ bool UebergibDatei(const QString& ort, const std::string& pfad, Zeit hoechstens)
     const auto adresse = Rufadresse(ort);
     const Deskriptor leitung = NeueRufleitung();
     const Frist frist(hoechstens);
-    return adresse && RufeAn(leitung, *adresse, frist) &&
-           IstDerselbeNutzer(leitung) && Sende(leitung, std::string(Rufgruss) + pfad) &&
-           ::shutdown(leitung.Nummer(), SHUT_WR) == 0 && HoereAntwort(leitung, frist) == RufAngenommen;
+    return adresse && RufeAn(leitung, *adresse, frist) && IstDerselbeNutzer(leitung) &&
+           Sende(leitung, std::string(Rufgruss) + pfad) && ::shutdown(leitung.Nummer(), SHUT_WR) == 0 &&
+           HoereAntwort(leitung, frist) == RufAngenommen;
 }
 
 #else

@@ -1,4 +1,5 @@
-// Files that come to the main window from outside: dropped on it, named at the start, handed over by a second start.
+// Files that come to the main window from outside: dropped on it, named at the start, handed over by a second
+// start.
 
 #include "dateiabwurf.h"
 #include "frmMain.h"

@@ -64,7 +64,8 @@ TEST_F(DateienVonAussen, A_file_dropped_anywhere_on_the_window_is_opened_by_the_
     const std::string datei = Lege("a b ü.con", 64);
     auto& bereich = *Fenster().findChild<QMdiArea*>("mdiBereich");
     auto& knopf = *Fenster().findChild<QPushButton*>("cmdWillkommenOeffnen");
-    for (QWidget* worauf : {static_cast<QWidget*>(&Fenster()), bereich.viewport(), static_cast<QWidget*>(&knopf)}) {
+    for (QWidget* worauf :
+         {static_cast<QWidget*>(&Fenster()), bereich.viewport(), static_cast<QWidget*>(&knopf)}) {
         modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {0});
         modDaten::LoescheGeaendert();
         EXPECT_TRUE(LassFallen(*worauf, std::unique_ptr<QMimeData>(Gezogen({datei}))));
@@ -148,7 +149,8 @@ TEST_F(DateienVonAussen, While_a_dialog_is_open_a_file_waits_and_that_is_said) {
     const std::string datei = Lege("a.con", 64);
     Sobald("frmInfo", [&](QDialog& dialog) {
         Fenster().Uebergib({datei});
-        EXPECT_EQ(Statusfeld(1).text().toStdString(), LadeText(8811).substr(0, LadeText(8811).find("%1")) + datei);
+        EXPECT_EQ(Statusfeld(1).text().toStdString(),
+                  LadeText(8811).substr(0, LadeText(8811).find("%1")) + datei);
         EXPECT_EQ(Strahlen(), 0);
         dialog.accept();
     });
