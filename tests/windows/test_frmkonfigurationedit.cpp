@@ -921,7 +921,7 @@ TEST_F(EditorverlaufTest, Steps_are_undone_one_by_one_in_reverse) {
 }
 
 TEST_F(EditorverlaufTest, The_list_tells_the_changes_in_words_and_a_button_appears_with_the_first) {
-    auto& knopf = K<QToolButton>("cmdVerlauf");
+    auto& knopf = K<QPushButton>("cmdVerlauf");
     EXPECT_FALSE(knopf.isVisible());
     Box("cboAuflösung_0").setCurrentIndex(2);
     Klicke("optAutosendmitTriggerModbus");
@@ -949,7 +949,7 @@ TEST_F(EditorverlaufTest, What_is_changed_after_undoing_is_a_step_of_its_own) {
 TEST_F(EditorverlaufTest, A_form_that_is_filled_anew_begins_a_new_list) {
     Box("cboAuflösung_0").setCurrentIndex(2);
     dialog->InitKonfiguration({});
-    EXPECT_FALSE(K<QToolButton>("cmdVerlauf").isVisible());
+    EXPECT_FALSE(K<QPushButton>("cmdVerlauf").isVisible());
     EXPECT_EQ(Liste().size(), 1);
 }
 
