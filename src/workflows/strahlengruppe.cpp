@@ -67,6 +67,12 @@ void Strahlengruppe::SetzeTexte(const Strahlentexte& neue) {
         SetzeTag(*beschriftung, id++);
 }
 
+void Strahlengruppe::NimmFokus() {
+    for (QRadioButton* const option : Option1)
+        if (option->isChecked())
+            option->setFocus();
+}
+
 void Strahlengruppe::NimmOptikteile(int anzahl) {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
         const auto stelle = static_cast<std::size_t>(teil);
