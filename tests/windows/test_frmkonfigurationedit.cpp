@@ -927,6 +927,7 @@ TEST_F(EditorverlaufTest, The_list_tells_the_changes_in_words_and_a_button_appea
     Klicke("optAutosendmitTriggerModbus");
     EXPECT_TRUE(knopf.isVisible());
     EXPECT_EQ(knopf.text(), "Geändert: 2");
+    EXPECT_FALSE(knopf.autoDefault()) << "Enter is not its key";
     EXPECT_TRUE(knopf.toolTip().contains("Strg+Z"));
     const QStringList liste = Liste();
     ASSERT_EQ(liste.size(), 3);
