@@ -2,6 +2,7 @@
 
 #include "symbolbild.h"
 
+#include <QDialogButtonBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -68,6 +69,25 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"frmReihenfolge/Command3", "loeschen"},
 };
 
+struct Standardsymbol {
+    QDialogButtonBox::StandardButton knopf;
+    std::string_view symbol;
+};
+
+constexpr Standardsymbol DieStandardsymbole[] = {
+    {QDialogButtonBox::Ok, "ok"},
+    {QDialogButtonBox::Yes, "ok"},
+    {QDialogButtonBox::Cancel, "abbrechen"},
+    {QDialogButtonBox::Open, "oeffnen"},
+    {QDialogButtonBox::Save, "speichern"},
+};
+
+QIcon Bild(std::string_view symbol) {
+    if (symbol.empty())
+        return {};
+    return Symbolbild(QLatin1String(symbol.data(), static_cast<qsizetype>(symbol.size())));
+}
+
 /// The name of one of several, such as "cmdBlankingmuster_2", without its index.
 std::string OhneIndex(const std::string& name) {
     const auto strich = name.rfind('_');
@@ -91,7 +111,15 @@ void GibKnoepfenSymbole(QWidget& form) {
         const std::string name = knopf->objectName().toStdString();
         const std::string_view symbol = SymbolFuerKnopf(form.objectName().toStdString(), name);
         if (!symbol.empty() && knopf->icon().isNull() && knopf->window() == form.window())
-            knopf->setIcon(Symbolbild(QLatin1String(symbol.data(), static_cast<qsizetype>(symbol.size()))));
+            knopf->setIcon(Bild(symbol));
+    }
+}
+
+void GibKnoepfenSymbole(const QDialogButtonBox& knoepfe) {
+    for (QAbstractButton* knopf : knoepfe.buttons()) {
+        const auto* const da =
+            std::ranges::find(DieStandardsymbole, knoepfe.standardButton(knopf), &Standardsymbol::knopf);
+        knopf->setIcon(Bild(da == std::ranges::end(DieStandardsymbole) ? std::string_view() : da->symbol));
     }
 }
 
