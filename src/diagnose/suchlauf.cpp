@@ -94,7 +94,7 @@ private:
         const bool offen = modSchnittstelle::GetPortIstOffen() == True;
         const std::string ursache = offen ? std::string() : Verschlossen(versuch.geraet);
         modSchnittstelle::CloseCommPort();
-        if (!abgebrochen || !probe.antwort.empty())
+        if (!abgebrochen)
             stand.ergebnis = Bewerte(versuch, probe, offen);
         return ursache;
     }

@@ -2,8 +2,10 @@
 
 #include "antwortempfang.h"
 #include "austauschstand.h"
+#include "erkenner.h"
 #include "klaerung.h"
 #include "leitungsstatistik.h"
+#include "mithoeren.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
 #include "startzustand.h"
@@ -16,6 +18,7 @@ namespace varnoth::modAustausch {
 namespace {
 
 using namespace modSchnittstelle;
+using modMithoeren::Ausgang;
 
 struct Zustand {
     int gestoert = 0; ///< exchanges that must succeed until the line counts as undisturbed
@@ -31,29 +34,29 @@ bool IstZweifelhaft(Verlass verlass) {
     return zustand.gestoert > 0 && verlass == Verlass::Wiederholbar && KamSpaet();
 }
 
-bool TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
+Ausgang TauscheAus(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     OeffneWieder();
     DerStand().unruhig = false;
     if (!BereiteUndSende(anforderung, verlass))
-        return false;
+        return Ausgang::NichtBereit;
     std::string strom;
     if (DerStand().unruhig && anforderung == IdentifikationsAnforderung()) {
         if (!EmpfangeUnterAnderem(erkenner))
-            return false;
+            return Ausgang::Ausgeblieben;
     } else if (!Empfange(erkenner, strom)) {
         BewerteScheitern(anforderung, strom);
-        return false;
+        return erkenner.Fertig() ? Ausgang::Pruefsumme : Ausgang::Ausgeblieben;
     }
     if (KamZuFrueh() && !DerStand().unruhig) {
         DerStand().gewissheit.Gebrochen();
-        return false;
+        return Ausgang::ZuFrueh;
     }
     if (IstZweifelhaft(verlass)) {
         BewerteScheitern(anforderung, strom);
-        return false;
+        return Ausgang::ZuSpaet;
     }
     BewerteErfolg(anforderung, erkenner, strom);
-    return true;
+    return Ausgang::Gelungen;
 }
 
 /// An exchange that failed, or a break before it, tells that the line is disturbed.
@@ -67,9 +70,12 @@ void MerkeStoerung(bool gelungen) {
 
 bool Tausche(const std::string& anforderung, Erkenner& erkenner, Verlass verlass) {
     modLeitungsstatistik::Beginnt();
-    const bool gelungen = TauscheAus(anforderung, erkenner, verlass);
+    const Ausgang ausgang = TauscheAus(anforderung, erkenner, verlass);
+    const bool gelungen = ausgang == Ausgang::Gelungen;
+    const bool portOffen = GetPortIstOffen() == True;
     MerkeStoerung(gelungen);
-    modLeitungsstatistik::Endet(gelungen, GetPortIstOffen() == True);
+    modLeitungsstatistik::Endet(gelungen, portOffen);
+    modMithoeren::Endet(Austauschart::Auftrag, anforderung, ausgang, portOffen);
     return gelungen;
 }
 
@@ -79,6 +85,7 @@ void SendeOhneAntwort(const std::string& rahmen) {
     if (!DerStand().zuordnung.Leer())
         DerStand().zuordnung.Gesendet(rahmen);
     CommPortWriteOutput(rahmen);
+    modMithoeren::Endet(Austauschart::OhneAntwort, rahmen, Ausgang::Gelungen, GetPortIstOffen() == True);
 }
 
 } // namespace varnoth::modAustausch

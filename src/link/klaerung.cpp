@@ -4,6 +4,7 @@
 #include "austauschstand.h"
 #include "erkenner.h"
 #include "gestalt.h"
+#include "mithoeren.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
 #include "startzustand.h"
@@ -38,6 +39,15 @@ void WarteVorAnforderung(Zeit ruhe) {
     DerStand().unruhig = !IstRuhig(ruhe);
 }
 
+/// Waits for the reply to the identification that settles whose turn it is.
+bool ErwarteKlaerung(std::string& strom, Zeit ende) {
+    const bool gekommen = ErwarteIdentAntwort(strom, ende);
+    modMithoeren::Endet(Austauschart::Klaerung, IdentifikationsAnforderung(),
+                        gekommen ? modMithoeren::Ausgang::Gelungen : modMithoeren::Ausgang::Ausgeblieben,
+                        GetPortIstOffen() == True);
+    return gekommen;
+}
+
 /// Asks for an identification, whose reply comes behind all that was asked before, and lets that pass. At
 /// most one second in all. True once no late reply can be mistaken for the one to the given request.
 bool Klaere(const std::string& anforderung) {
@@ -47,7 +57,7 @@ bool Klaere(const std::string& anforderung) {
     // A reply may be that to an older identification request; then it takes one more.
     while (DerStand().zuordnung.Verwechselbar(anforderung)) {
         Sende(frage, true);
-        if (!ErwarteIdentAntwort(strom, ende))
+        if (!ErwarteKlaerung(strom, ende))
             return false;
         do
             DerStand().zuordnung.Beantwortet(frage);
@@ -107,7 +117,7 @@ bool Vergewissere() {
     Sende(frage, true);
     std::string strom;
     const Zeit ende = DieUmgebung().Uhr() + Antwortzeit;
-    if (!ErwarteIdentAntwort(strom, ende))
+    if (!ErwarteKlaerung(strom, ende))
         return false;
     DerStand().zuordnung.Beantwortet(frage);
     const bool kamZuerst = Brueche() == bruecheDavor;

@@ -2,6 +2,7 @@
 
 #include "leitungsstatistik.h"
 #include "leitungstakt.h"
+#include "mithoeren.h"
 #include "startzustand.h"
 #include "trace.h"
 
@@ -53,8 +54,11 @@ void MerkeVerworfenes(std::string_view bytes) {
 }
 
 void VerwirfEingang() {
-    if (derPort->BytesWartend() > 0)
-        MerkeVerworfenes(derPort->LiesAlles());
+    if (derPort->BytesWartend() > 0) {
+        const std::string bytes = derPort->LiesAlles();
+        modMithoeren::Empfangen(bytes, DieUmgebung().Uhr());
+        MerkeVerworfenes(bytes);
+    }
     derPort->Verwirf();
 }
 
@@ -203,6 +207,7 @@ std::string CommPortReadInput() {
     modTrace::SchreibeLesung(bytes);
     modLeitungsstatistik::Empfangen(bytes);
     MerkeAktivitaet();
+    modMithoeren::Empfangen(bytes, zustand.letzteAktivitaet);
     if (!bytes.empty())
         zustand.letzterEingang = zustand.letzteAktivitaet;
     zustand.takt.Empfangen(zustand.letzteAktivitaet, bytes.size());
@@ -223,7 +228,9 @@ void CommPortWriteOutput(std::string_view daten) {
     if (!LiesOffenstand())
         return;
     WarteSendepause();
-    zustand.takt.Gesendet(DieUmgebung().Uhr(), daten.size());
+    const Zeit jetzt = DieUmgebung().Uhr();
+    zustand.takt.Gesendet(jetzt, daten.size());
+    modMithoeren::Gesendet(jetzt);
     zustand.gesendetSeitOeffnen = true;
     derPort->Schreibe(daten);
     modTrace::SchreibeSendung(daten);

@@ -146,7 +146,8 @@ std::vector<Namen> SperrendeAnGeraeten(const std::vector<std::string>& pfade, co
 
 std::vector<std::string> ProzesseAn(const std::string& pfad) {
     Namen namen = ProzesseAnGeraeten({pfad}).front();
-    for (const std::string& name : SperrendeAnGeraeten({pfad}).front())
+    const Namen sperrende = SperrendeAnGeraeten({pfad}).front();
+    for (const std::string& name : sperrende)
         Nimm(namen, name);
     return namen;
 }

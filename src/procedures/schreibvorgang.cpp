@@ -90,6 +90,7 @@ bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage, const Schrei
     spur = transfer.Spur(vollstaendig);
     if (!spur.geschrieben.empty())
         modGeraetestand::MerkeGeschrieben(auftrag.abbild, spur.geschrieben, GeraeteSeriennummer());
+    modGeraetestand::Vergiss(spur.ungewiss);
     if (vollstaendig)
         anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
     return vollstaendig;

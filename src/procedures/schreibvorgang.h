@@ -25,8 +25,9 @@ struct Schreibspur {
 };
 
 /// Writes parameters to the controller, each retried without limit. The image in use and its changed mark
-/// stay as they are. What the controller has confirmed is remembered (`modGeraetestand`). False when the user
-/// cancelled; the controller then keeps what was written till then, which the track tells.
+/// stay as they are. What the controller has confirmed is remembered (`modGeraetestand`), what it was only
+/// sent is not known any more. False when the user cancelled; the controller then keeps what was written till
+/// then, which the track tells.
 bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage, const Schreibauftrag& auftrag,
                            Schreibspur& spur);
 

@@ -3,6 +3,7 @@
 #include "ablauftest.h"
 #include "geraetestand.h"
 #include "registerabbild.h"
+#include "seriennummer.h"
 #include "texte.h"
 #include "transfermitschrift.h"
 
@@ -300,6 +301,15 @@ TEST_F(SchreibvorgangTest, Of_a_write_that_is_cancelled_what_was_confirmed_is_re
     ASSERT_TRUE(stand);
     for (const Parameterstelle& stelle : AlleStellen(IstSchreibbar))
         EXPECT_EQ(stand->unbekannt.contains(stelle), stelle == Letzter);
+}
+
+TEST_F(SchreibvorgangTest, Of_a_parameter_that_was_sent_and_not_confirmed_no_old_value_counts_as_known) {
+    constexpr Parameterstelle Erster{Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 0};
+    modGeraetestand::MerkeGelesen(modDaten::DasAbbild(), GeraeteSeriennummer());
+    geraet.schweige = [](const std::string& anforderung) { return pruefung::Wort(anforderung, 2) == 0x200D; };
+    anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.versuch == 3; };
+    EXPECT_FALSE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig));
+    EXPECT_EQ(modGeraetestand::HoleGeraetestand()->unbekannt, Parametermenge{Erster});
 }
 
 TEST_F(SchreibvorgangTest, A_write_of_which_nothing_was_confirmed_is_not_remembered) {
