@@ -77,9 +77,8 @@ std::string Zustand(const Portangabe& port, const Anschlussstand& stand) {
 }
 
 std::string Comnamen(const std::vector<int>& nummern) {
-    std::vector<std::string> namen;
-    for (const int nummer : nummern)
-        namen.push_back("COM" + std::to_string(nummer));
+    std::vector<std::string> namen(nummern.size());
+    std::ranges::transform(nummern, namen.begin(), [](int nummer) { return "COM" + std::to_string(nummer); });
     return Liste(namen);
 }
 

@@ -52,8 +52,8 @@ struct PruefKonsole : Konsole {
     bool unterbrochen = false;
 };
 
-/// Setting of the tests of commands: a controller with one optical part of 32 beams and default values, English texts, a folder
-/// for files.
+/// Setting of the tests of commands: a controller with one optical part of 32 beams and default values,
+/// English texts, a folder for files.
 class CtlTest : public testing::Test {
 protected:
     CtlTest() {
@@ -75,7 +75,8 @@ protected:
             for (int i = 0; i < static_cast<int>(werte.size()); ++i) {
                 const int adresse = Geraeteadresse(stelle.bereich, stelle.adresse) + i;
                 if (Exemplare(stelle.bereich) > 1)
-                    geraet.Spezifisch(stelle.optikteil, stelle.adresse + i) = werte[static_cast<std::size_t>(i)];
+                    geraet.Spezifisch(stelle.optikteil, stelle.adresse + i) =
+                        werte[static_cast<std::size_t>(i)];
                 else
                     geraet.Register(adresse) = werte[static_cast<std::size_t>(i)];
             }
@@ -105,7 +106,8 @@ protected:
     pruefung::PruefGeraet geraet{port};
     pruefung::PruefSicherungen sicherungen;
     PruefKonsole konsole;
-    const std::filesystem::path ordner = std::filesystem::path(testing::TempDir()) / ("ctl-" + std::to_string(::getpid()));
+    const std::filesystem::path ordner =
+        std::filesystem::path(testing::TempDir()) / ("ctl-" + std::to_string(::getpid()));
 };
 
 } // namespace varnoth::ctl

@@ -78,7 +78,8 @@ TEST_F(Befehlszeilen, An_unknown_command_is_told_with_the_nearest_ones) {
 }
 
 TEST_F(Befehlszeilen, An_unknown_option_is_told_with_the_nearest_ones) {
-    EXPECT_EQ(Fehler({"read", "--ouput", "x"}), "There is no option --ouput. Perhaps \"--output\" was meant.");
+    EXPECT_EQ(Fehler({"read", "--ouput", "x"}),
+              "There is no option --ouput. Perhaps \"--output\" was meant.");
     EXPECT_EQ(Fehler({"read", "-x"}), "There is no option -x.");
 }
 

@@ -47,8 +47,9 @@ TEST_F(Beobachten, Writes_a_line_of_JSON_for_each_picture) {
     ASSERT_EQ(zeilen.size(), 3U);
     EXPECT_THAT(std::string(zeilen[2]),
                 HasSubstr(R"("output": true, "parts": [{"part": 1, "present": true, "status": ")"));
-    EXPECT_THAT(std::string(zeilen[2]), HasSubstr(R"("current": {"TU": 100, "HU": 101, "ZU": 102, "TNU": 103, "HNU": 104, )"
-                                                  R"("ZNU": 105}, "min": {"TU": 106)"));
+    EXPECT_THAT(std::string(zeilen[2]),
+                HasSubstr(R"("current": {"TU": 100, "HU": 101, "ZU": 102, "TNU": 103, "HNU": 104, )"
+                          R"("ZNU": 105}, "min": {"TU": 106)"));
     EXPECT_THAT(std::string(zeilen[2]), HasSubstr(R"("interrupted": [[12, 13]]}]})"));
 }
 
@@ -81,7 +82,8 @@ TEST_F(Beobachten, Ends_when_it_is_interrupted_and_frees_the_port) {
 }
 
 TEST_F(Beobachten, Ends_when_the_controller_falls_silent) {
-    umgebung.Plane(std::chrono::seconds(3), [this] { geraet.schweige = [](const std::string&) { return true; }; });
+    umgebung.Plane(std::chrono::seconds(3),
+                   [this] { geraet.schweige = [](const std::string&) { return true; }; });
     EXPECT_EQ(Fuehre({"watch", "-t", "4"}), Ende::KeineAntwort);
     EXPECT_THAT(konsole.meldungen, HasSubstr("No connection over"));
 }
@@ -91,13 +93,16 @@ TEST_F(Beobachten, A_part_that_is_not_there_has_no_values) {
     geraet.Spezifisch(2, spezifisch::Strahlenzahl) = 16;
     geraet.Spezifisch(2, spezifisch::Optikteilstatus) = optikteilstatus::Vorhanden;
     EXPECT_EQ(Fuehre({"watch", "-n", "1", "--json"}), Ende::Erledigt);
-    EXPECT_THAT(konsole.daten, HasSubstr(R"({"part": 2, "present": false, "status": "not available", "beams": null, )"
-                                         R"("current": null, "min": null, "max": null, "interrupted": []})"));
+    EXPECT_THAT(konsole.daten,
+                HasSubstr(R"({"part": 2, "present": false, "status": "not available", "beams": null, )"
+                          R"("current": null, "min": null, "max": null, "interrupted": []})"));
 }
 
 TEST_F(Beobachten, A_count_and_a_time_that_make_no_sense_are_told_before_anything_is_sent) {
-    for (const std::vector<std::string>& worte :
-         {std::vector<std::string>{"watch", "-n", "0"}, {"watch", "-n", "x"}, {"watch", "-i", "-1"}, {"watch", "-i", "x"}})
+    for (const std::vector<std::string>& worte : {std::vector<std::string>{"watch", "-n", "0"},
+                                                  {"watch", "-n", "x"},
+                                                  {"watch", "-i", "-1"},
+                                                  {"watch", "-i", "x"}})
         EXPECT_EQ(Fuehre(worte), Ende::Bedienung) << worte.back();
     EXPECT_TRUE(port.gesendet.empty());
 }

@@ -14,7 +14,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(JsonAusgabe, Keeps_the_order_of_its_fields) {
-    EXPECT_EQ(Json::Objekt({{"b", 1}, {"a", true}, {"c", Json()}}).Text(), R"({"b": 1, "a": true, "c": null})");
+    EXPECT_EQ(Json::Objekt({{"b", 1}, {"a", true}, {"c", Json()}}).Text(),
+              R"({"b": 1, "a": true, "c": null})");
     EXPECT_EQ(Json::Objekt({}).Text(), "{}");
 }
 
@@ -44,7 +45,7 @@ TEST(Zeichenwandel, Writes_out_what_a_terminal_without_umlauts_lacks) {
 
 TEST(Zeichenwandel, Gives_Latin_1_its_umlauts) {
     EXPECT_EQ(FuerVorrat("Größe „5“", Zeichenvorrat::Latin1), "Gr\xF6\xDF"
-                                                                "e \"5\"");
+                                                              "e \"5\"");
 }
 
 TEST(Zeichenwandel, Takes_a_word_that_is_no_UTF_8_for_Latin_1) {

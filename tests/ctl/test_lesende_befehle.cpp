@@ -43,9 +43,10 @@ TEST_F(LesendeBefehle, Identify_tells_what_the_controller_says_of_itself) {
 
 TEST_F(LesendeBefehle, Identify_in_JSON_tells_the_same) {
     EXPECT_EQ(Fuehre({"identify", "--json"}), Ende::Erledigt);
-    EXPECT_EQ(konsole.daten, R"({"command": "identify", "controller": {"name": "Varnoth Probe", "serialNumber": "4711", )"
-                             R"x("copyright": "(C)", "address": 1, "deviceType": 50, "switchingState": 7}})x"
-                             "\n");
+    EXPECT_EQ(konsole.daten,
+              R"({"command": "identify", "controller": {"name": "Varnoth Probe", "serialNumber": "4711", )"
+              R"x("copyright": "(C)", "address": 1, "deviceType": 50, "switchingState": 7}})x"
+              "\n");
 }
 
 TEST_F(LesendeBefehle, Port_and_format_are_those_of_the_settings_unless_the_options_say_otherwise) {
@@ -59,10 +60,12 @@ TEST_F(LesendeBefehle, Port_and_format_are_those_of_the_settings_unless_the_opti
 }
 
 TEST_F(LesendeBefehle, A_port_a_format_and_a_time_that_make_no_sense_are_told_before_anything_is_opened) {
-    for (const std::vector<std::string>& worte :
-         {std::vector<std::string>{"identify", "--port", "COM5"}, {"identify", "--port", "COM12"},
-          {"identify", "--port="}, {"identify", "--format", "fast"}, {"identify", "--timeout", "soon"},
-          {"identify", "--timeout", "0"}})
+    for (const std::vector<std::string>& worte : {std::vector<std::string>{"identify", "--port", "COM5"},
+                                                  {"identify", "--port", "COM12"},
+                                                  {"identify", "--port="},
+                                                  {"identify", "--format", "fast"},
+                                                  {"identify", "--timeout", "soon"},
+                                                  {"identify", "--timeout", "0"}})
         EXPECT_EQ(Fuehre(worte), Ende::Bedienung) << worte.back();
     EXPECT_THAT(port.geoeffnet, IsEmpty());
     EXPECT_THAT(konsole.meldungen, StartsWith("varnothctl identify: \"0\" is no number of seconds"));
@@ -78,7 +81,8 @@ TEST_F(LesendeBefehle, A_port_that_cannot_be_opened_is_told_with_its_cause) {
 TEST_F(LesendeBefehle, A_controller_that_does_not_answer_is_given_up_after_the_time_that_was_named) {
     geraet.schweige = [](const std::string&) { return true; };
     EXPECT_EQ(Fuehre({"identify", "--timeout", "3"}), Ende::KeineAntwort);
-    EXPECT_THAT(konsole.meldungen, HasSubstr("No connection over /dev/pruefung, format 38400,n,8,2. Nothing answers."));
+    EXPECT_THAT(konsole.meldungen,
+                HasSubstr("No connection over /dev/pruefung, format 38400,n,8,2. Nothing answers."));
     EXPECT_GE(umgebung.uhr, std::chrono::seconds(3));
     EXPECT_LE(umgebung.uhr, std::chrono::seconds(6));
 }
@@ -147,7 +151,8 @@ TEST_F(LesendeBefehle, What_is_no_place_for_a_file_is_told_before_anything_is_se
 TEST_F(LesendeBefehle, Read_warns_of_values_that_no_controller_takes) {
     geraet.Spezifisch(0, spezifisch::Lochgroesse) = 0;
     EXPECT_EQ(Fuehre({"read"}), Ende::Erledigt);
-    EXPECT_THAT(konsole.meldungen, HasSubstr("No controller takes these values:\nOptical part 1, Hole size/width: 0"));
+    EXPECT_THAT(konsole.meldungen,
+                HasSubstr("No controller takes these values:\nOptical part 1, Hole size/width: 0"));
 }
 
 TEST_F(LesendeBefehle, Export_turns_a_file_into_text_and_import_makes_the_same_file_of_it) {
@@ -214,7 +219,8 @@ TEST_F(LesendeBefehle, A_source_that_is_no_configuration_is_told_as_what_it_is) 
 }
 
 TEST_F(LesendeBefehle, Report_tells_of_the_controller_and_of_the_fields_given) {
-    EXPECT_EQ(Fuehre({"report", "--plant", "Hall 7", "--machine", "Winder", "--person", "A. Smith"}), Ende::Erledigt);
+    EXPECT_EQ(Fuehre({"report", "--plant", "Hall 7", "--machine", "Winder", "--person", "A. Smith"}),
+              Ende::Erledigt);
     EXPECT_THAT(konsole.daten, StartsWith("<!DOCTYPE html>"));
     for (const char* const wort : {"Hall 7", "Winder", "A. Smith", "Varnoth Probe", "Controller, read on "})
         EXPECT_THAT(konsole.daten, HasSubstr(wort));

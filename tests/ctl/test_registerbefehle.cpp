@@ -17,9 +17,11 @@ protected:
     /// Writes but the selection of an optical part.
     std::vector<Schreibvorgang> Geschriebenes() const {
         std::vector<Schreibvorgang> alle = geraet.geschrieben;
-        std::erase_if(alle, [](const Schreibvorgang& einer) { return einer.adresse == global::Optikteilauswahl; });
+        std::erase_if(alle,
+                      [](const Schreibvorgang& einer) { return einer.adresse == global::Optikteilauswahl; });
         for (Schreibvorgang& einer : alle)
-            einer.teil *= einer.adresse / 0x2000 == 1 ? 1 : 0; // elsewhere it does not matter which part is selected
+            einer.teil *=
+                einer.adresse / 0x2000 == 1 ? 1 : 0; // elsewhere it does not matter which part is selected
         return alle;
     }
 };
@@ -27,7 +29,8 @@ protected:
 } // namespace
 
 TEST_F(Registerbefehle, Get_tells_name_and_words_of_each_register) {
-    EXPECT_EQ(Fuehre({"get", "1/Resolution", "Station address", "1/Blanking pattern", "250"}), Ende::Erledigt);
+    EXPECT_EQ(Fuehre({"get", "1/Resolution", "Station address", "1/Blanking pattern", "250"}),
+              Ende::Erledigt);
     EXPECT_EQ(konsole.daten, "Optical part 1 / Resolution: 5mm\nCommunication / Station address: 1H\n"
                              "Optical part 1 / Blanking pattern: none\nGlobal / 250: 0 (0x0)\n");
     EXPECT_THAT(Geschriebenes(), IsEmpty());
@@ -47,10 +50,11 @@ TEST_F(Registerbefehle, Get_reads_the_part_that_is_meant) {
 
 TEST_F(Registerbefehle, Get_in_JSON_tells_place_words_and_numbers) {
     EXPECT_EQ(Fuehre({"get", "2/13", "--json"}), Ende::Erledigt);
-    EXPECT_EQ(konsole.daten,
-              R"({"command": "get", "registers": [{"group": "Optical part 2", "name": "Resolution", "range": "specific", )"
-              R"("part": 2, "register": 13, "deviceAddress": 8205, "words": "5mm", "values": [5]}]})"
-              "\n");
+    EXPECT_EQ(
+        konsole.daten,
+        R"({"command": "get", "registers": [{"group": "Optical part 2", "name": "Resolution", "range": "specific", )"
+        R"("part": 2, "register": 13, "deviceAddress": 8205, "words": "5mm", "values": [5]}]})"
+        "\n");
 }
 
 TEST_F(Registerbefehle, A_register_that_there_is_not_is_told_before_anything_is_sent) {
@@ -133,7 +137,8 @@ TEST_F(Registerbefehle, A_value_that_no_controller_takes_is_refused) {
 }
 
 TEST_F(Registerbefehle, What_can_only_be_read_is_not_set) {
-    for (const char* const name : {"Serial number", "1/Count of beams/segments", "189", "250", "1/335", "10"}) {
+    for (const char* const name :
+         {"Serial number", "1/Count of beams/segments", "189", "250", "1/335", "10"}) {
         EXPECT_EQ(Fuehre({"set", name, "1", "--yes"}), Ende::Bedienung) << name;
         EXPECT_THAT(konsole.meldungen, HasSubstr("can only be read")) << name;
     }
@@ -159,9 +164,10 @@ TEST_F(Registerbefehle, A_new_station_address_that_is_stored_is_warned_of) {
 
 TEST_F(Registerbefehle, Set_in_JSON_tells_before_written_and_read_back) {
     EXPECT_EQ(Fuehre({"set", "1/Resolution", "40mm", "--yes", "--json"}), Ende::Erledigt);
-    EXPECT_THAT(konsole.daten, HasSubstr(R"("before": {"words": "5mm", "values": [5]}, "written": {"words": "40mm", )"
-                                         R"("values": [40]}, "readBack": {"words": "40mm", "values": [40]}, )"
-                                         R"("equal": true, "stored": false})"));
+    EXPECT_THAT(konsole.daten,
+                HasSubstr(R"("before": {"words": "5mm", "values": [5]}, "written": {"words": "40mm", )"
+                          R"("values": [40]}, "readBack": {"words": "40mm", "values": [40]}, )"
+                          R"("equal": true, "stored": false})"));
 }
 
 } // namespace varnoth::ctl

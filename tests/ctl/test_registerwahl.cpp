@@ -30,7 +30,8 @@ protected:
         const auto& s = *wahl.stelle;
         const bool gleich = std::tie(s.bereich, s.adresse, s.anzahl, s.optikteil) ==
                             std::tie(p.bereich, p.adresse, p.anzahl, p.optikteil);
-        return gleich ? testing::AssertionSuccess() : testing::AssertionFailure() << wort << " means " << Registername(s);
+        return gleich ? testing::AssertionSuccess()
+                      : testing::AssertionFailure() << wort << " means " << Registername(s);
     }
     static std::string Fehler(std::string_view wort) {
         const auto wahl = WaehleRegister(wort);
@@ -44,8 +45,8 @@ protected:
 TEST_F(Registerwahlen, Understand_a_group_and_a_name_in_both_languages) {
     const Transferparameter aufloesung{Spezifisch, spezifisch::Aufloesung, 1, 1};
     for (const char* const wort :
-         {"Optical part 2/Resolution", "Optikteil 2/Auflösung", "2/resolution", "part 2 / Resolution", "2, AUFLOESUNG",
-          "Optical part 2, Resolution", "teil2/aufl\xF6sung"})
+         {"Optical part 2/Resolution", "Optikteil 2/Auflösung", "2/resolution", "part 2 / Resolution",
+          "2, AUFLOESUNG", "Optical part 2, Resolution", "teil2/aufl\xF6sung"})
         EXPECT_TRUE(Meint(wort, aufloesung));
 }
 
@@ -61,7 +62,8 @@ TEST_F(Registerwahlen, Understand_a_name_with_a_stroke_in_it) {
 
 TEST_F(Registerwahlen, Understand_an_address_in_every_way_it_is_written) {
     const Transferparameter adresse{Kommunikation, kommunikation::Stationsadresse, 1, 0};
-    for (const char* const wort : {"0x4004", "16388", "4000H+4", "4000H + 4", "Communication/4", "Kommunikation/0x4004"})
+    for (const char* const wort :
+         {"0x4004", "16388", "4000H+4", "4000H + 4", "Communication/4", "Kommunikation/0x4004"})
         EXPECT_TRUE(Meint(wort, adresse));
 }
 
@@ -86,8 +88,9 @@ TEST_F(Registerwahlen, Ask_for_the_part_where_every_part_has_the_register) {
 TEST_F(Registerwahlen, Offer_the_nearest_names_for_one_that_there_is_not) {
     EXPECT_EQ(Fehler("2/Resolutoin"),
               "There is no register \"2/Resolutoin\". Perhaps \"Optical part 2 / Resolution\" was meant.");
-    EXPECT_EQ(Fehler("Station adress"),
-              "There is no register \"Station adress\". Perhaps \"Communication / Station address\" was meant.");
+    EXPECT_EQ(
+        Fehler("Station adress"),
+        "There is no register \"Station adress\". Perhaps \"Communication / Station address\" was meant.");
     EXPECT_EQ(Fehler("1/Xylophon"), "There is no register \"1/Xylophon\".");
 }
 

@@ -61,8 +61,9 @@ TEST_F(Schreibbefehl, Writes_the_file_after_a_backup_and_says_what_it_changes) {
     ASSERT_THAT(sicherungen.gelegte, SizeIs(1));
     EXPECT_EQ(sicherungen.gelegte[0].second.HoleRegister(Spezifisch, spezifisch::Lochgroesse, 0), 1);
     EXPECT_EQ(sicherungen.gelegte[0].first.angaben.anlass, Sicherungsanlass::VorDemSchreiben);
-    EXPECT_THAT(konsole.meldungen, HasSubstr("The write will change 1 setting from what the controller held last (read "
-                                             "just now).\n  Optical part 1 / Hole size/width: 1 -> 9\n"));
+    EXPECT_THAT(konsole.meldungen,
+                HasSubstr("The write will change 1 setting from what the controller held last (read "
+                          "just now).\n  Optical part 1 / Hole size/width: 1 -> 9\n"));
     EXPECT_THAT(konsole.meldungen, HasSubstr("Backup: backup 1\n"));
     EXPECT_THAT(konsole.daten, HasSubstr(": 191 registers written, not stored permanently"));
 }
@@ -70,8 +71,9 @@ TEST_F(Schreibbefehl, Writes_the_file_after_a_backup_and_says_what_it_changes) {
 TEST_F(Schreibbefehl, The_backup_comes_before_the_first_write_request) {
     std::size_t vorher = 99;
     sicherungen.beimLegen = [&] {
-        vorher = static_cast<std::size_t>(std::ranges::count_if(
-            geraet.geschrieben, [](const auto& einer) { return einer.adresse != 212 && einer.adresse != 213; }));
+        vorher = static_cast<std::size_t>(std::ranges::count_if(geraet.geschrieben, [](const auto& einer) {
+            return einer.adresse != 212 && einer.adresse != 213;
+        }));
     };
     EXPECT_EQ(SchreibeDatei({"--yes"}), Ende::Erledigt);
     EXPECT_EQ(vorher, 0U);
@@ -140,9 +142,7 @@ TEST_F(Schreibbefehl, A_register_that_is_not_as_it_was_written_is_told_by_name) 
 }
 
 TEST_F(Schreibbefehl, An_interrupted_write_says_what_is_written_and_leads_back) {
-    konsole.beiFortschritt = [this] {
-        konsole.unterbrochen = IstBei("Writing");
-    };
+    konsole.beiFortschritt = [this] { konsole.unterbrochen = IstBei("Writing"); };
     EXPECT_EQ(SchreibeDatei({"--yes"}), Ende::Unterbrochen);
     EXPECT_THAT(konsole.daten, HasSubstr("The write was not completed. Registers: "));
     EXPECT_THAT(konsole.daten, HasSubstr("  Optical part 1 / Hole size/width: 9 (written)\n"));
@@ -159,9 +159,7 @@ TEST_F(Schreibbefehl, A_controller_that_falls_silent_in_the_middle_is_told_with_
 }
 
 TEST_F(Schreibbefehl, A_check_that_breaks_off_says_what_was_not_compared) {
-    konsole.beiFortschritt = [this] {
-        konsole.unterbrochen = IstBei("Checking");
-    };
+    konsole.beiFortschritt = [this] { konsole.unterbrochen = IstBei("Checking"); };
     EXPECT_EQ(SchreibeDatei({"--yes", "--verify"}), Ende::Unterbrochen);
     EXPECT_THAT(konsole.daten, HasSubstr("were not compared."));
 }
@@ -195,7 +193,8 @@ TEST_F(Schreibbefehl, The_controller_itself_is_no_source) {
 TEST_F(Schreibbefehl, In_JSON_it_tells_changes_counts_and_check) {
     EXPECT_EQ(SchreibeDatei({"--yes", "--store", "--verify", "--json"}), Ende::Erledigt);
     for (const char* const feld :
-         {R"("complete": true, "stored": true, "backup": "backup 1", "changes": [{)", R"("before": "1", "after": "9"}])",
+         {R"("complete": true, "stored": true, "backup": "backup 1", "changes": [{)",
+          R"("before": "1", "after": "9"}])",
           R"("registers": {"all": 191, "written": 191, "uncertain": 0}, "unfinished": [])",
           R"("check": {"registers": 191, "equal": 191, "rows": []}})"})
         EXPECT_THAT(konsole.daten, HasSubstr(feld));

@@ -38,7 +38,8 @@ TEST_F(Vergleichsbefehl, Tells_differences_with_both_values_and_counts_per_class
     const auto a = Datei("a.con", MitLochgroesse(1));
     const auto b = Datei("b.con", MitLochgroesse(9));
     EXPECT_EQ(Fuehre({"compare", a, b}), Ende::Unterschiede);
-    EXPECT_THAT(konsole.daten, StartsWith("A: " + a + "\nB: " + b + "\n\nOptical part 1\n  Hole size/width (2000H + 26)\n"
+    EXPECT_THAT(konsole.daten, StartsWith("A: " + a + "\nB: " + b +
+                                          "\n\nOptical part 1\n  Hole size/width (2000H + 26)\n"
                                           "    A: 1\n    B: 9\n"));
     EXPECT_THAT(konsole.daten, HasSubstr("\n1 difference."));
     EXPECT_THAT(konsole.daten, HasSubstr("Different: 1; "));

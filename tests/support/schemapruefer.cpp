@@ -13,9 +13,10 @@ namespace varnoth::pruefung {
 
 namespace {
 
-const QStringList Bekannte{"$schema",  "$defs",      "$ref",     "title",   "description", "type",
-                           "const",    "enum",       "required", "items",   "properties",  "additionalProperties",
-                           "minItems", "maxItems",   "minimum",  "maximum", "pattern",     "oneOf"};
+const QStringList Bekannte{
+    "$schema",  "$defs",    "$ref",     "title",   "description", "type",
+    "const",    "enum",     "required", "items",   "properties",  "additionalProperties",
+    "minItems", "maxItems", "minimum",  "maximum", "pattern",     "oneOf"};
 
 bool IstVomTyp(const QJsonValue& wert, const QString& typ) {
     if (typ == "integer")
@@ -64,7 +65,8 @@ QJsonObject Schemapruefer::Ziel(const QString& verweis) const {
     return alle.value(name).toObject();
 }
 
-std::string Schemapruefer::Pruefe(const QJsonValue& wert, const QJsonObject& regel, const std::string& ort) const {
+std::string Schemapruefer::Pruefe(const QJsonValue& wert, const QJsonObject& regel,
+                                  const std::string& ort) const {
     for (const QString& wort : regel.keys())
         if (!Bekannte.contains(wort))
             throw std::runtime_error("the checker does not know " + wort.toStdString());
@@ -84,7 +86,8 @@ std::string Schemapruefer::Pruefe(const QJsonValue& wert, const QJsonObject& reg
     return mangel.empty() ? PruefeListe(wert, regel, ort) : mangel;
 }
 
-std::string Schemapruefer::PruefeOneOf(const QJsonValue& wert, const QJsonValue& regel, const std::string& ort) const {
+std::string Schemapruefer::PruefeOneOf(const QJsonValue& wert, const QJsonValue& regel,
+                                       const std::string& ort) const {
     int passende = 0;
     std::string alle;
     for (const QJsonValue& eine : regel.toArray()) {
@@ -92,10 +95,12 @@ std::string Schemapruefer::PruefeOneOf(const QJsonValue& wert, const QJsonValue&
         passende += mangel.empty() ? 1 : 0;
         alle += mangel + "\n";
     }
-    return passende == 1 ? std::string() : ort + ": fits " + std::to_string(passende) + " descriptions\n" + alle;
+    return passende == 1 ? std::string()
+                         : ort + ": fits " + std::to_string(passende) + " descriptions\n" + alle;
 }
 
-std::string Schemapruefer::PruefeObjekt(const QJsonValue& wert, const QJsonObject& regel, const std::string& ort) const {
+std::string Schemapruefer::PruefeObjekt(const QJsonValue& wert, const QJsonObject& regel,
+                                        const std::string& ort) const {
     if (!wert.isObject())
         return {};
     const QJsonObject objekt = wert.toObject();
@@ -114,11 +119,13 @@ std::string Schemapruefer::PruefeObjekt(const QJsonValue& wert, const QJsonObjec
     return {};
 }
 
-std::string Schemapruefer::PruefeListe(const QJsonValue& wert, const QJsonObject& regel, const std::string& ort) const {
+std::string Schemapruefer::PruefeListe(const QJsonValue& wert, const QJsonObject& regel,
+                                       const std::string& ort) const {
     if (!wert.isArray())
         return {};
     const QJsonArray liste = wert.toArray();
-    if (liste.size() < regel.value("minItems").toInt(0) || liste.size() > regel.value("maxItems").toInt(1 << 30))
+    if (liste.size() < regel.value("minItems").toInt(0) ||
+        liste.size() > regel.value("maxItems").toInt(1 << 30))
         return ort + ": has " + std::to_string(liste.size()) + " elements";
     for (int i = 0; i < liste.size(); ++i) {
         const std::string mangel =
@@ -131,7 +138,8 @@ std::string Schemapruefer::PruefeListe(const QJsonValue& wert, const QJsonObject
 
 Schemapruefer LiesSchema(const char* pfad) {
     QFile datei(pfad);
-    const QJsonDocument dokument = datei.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(datei.readAll()) : QJsonDocument();
+    const QJsonDocument dokument =
+        datei.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(datei.readAll()) : QJsonDocument();
     if (!dokument.isObject())
         throw std::runtime_error(std::string("no description in ") + pfad);
     return Schemapruefer(dokument.object());

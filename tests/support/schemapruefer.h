@@ -7,9 +7,10 @@
 
 namespace varnoth::pruefung {
 
-/// Checks values against a description in JSON Schema, as far as this project's own descriptions go: type, const, enum, required,
-/// properties, additionalProperties, items, minItems, maxItems, minimum, maximum, pattern, oneOf and $ref within the
-/// description. A word that it does not know is an error, so that none is passed over.
+/// Checks values against a description in JSON Schema, as far as this project's own descriptions go: type,
+/// const, enum, required, properties, additionalProperties, items, minItems, maxItems, minimum, maximum,
+/// pattern, oneOf and $ref within the description. A word that it does not know is an error, so that none is
+/// passed over.
 class Schemapruefer {
 public:
     explicit Schemapruefer(QJsonObject schema);
