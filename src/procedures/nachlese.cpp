@@ -4,12 +4,12 @@
 #include "geraetestand.h"
 #include "plausibilitaet.h"
 #include "registerabbild.h"
+#include "registerzugriff.h"
 #include "schrittfolge.h"
 #include "seriennummer.h"
 #include "startzustand.h"
 #include "transaktionen.h"
 
-#include <memory>
 #include <utility>
 
 namespace varnoth {
@@ -39,27 +39,6 @@ struct Zustand {
 Zustand zustand;
 const Startwert startwert(zustand);
 
-Transferschritt Auswahlschritt(int optikteil) {
-    return {.zeige = [](int /*versuch*/) {},
-            .tausche = [optikteil] { return modModbus::WaehleOptikteil(optikteil) != False; },
-            .uebernimm = [] {}};
-}
-
-std::vector<Transferschritt> Schritte() {
-    std::vector<Transferschritt> schritte;
-    for (const Transferparameter& parameter : zustand.offene) {
-        const auto werte = std::make_shared<Werte>(static_cast<std::size_t>(parameter.anzahl));
-        const bool spezifisch = parameter.bereich == Speicherbereich::SpezifischeGeraetedaten;
-        if (spezifisch)
-            schritte.push_back(Auswahlschritt(parameter.optikteil));
-        schritte.push_back({.zeige = [](int /*versuch*/) {},
-                            .tausche = [=] { return LiesParameter(parameter, *werte) != False; },
-                            .uebernimm = [=] { SpeichereParameter(parameter, *werte); },
-                            .auswahl = spezifisch ? schritte.size() - 1 : Transferschritt::Ohne});
-    }
-    return schritte;
-}
-
 } // namespace
 
 void Merke(const std::vector<Transferparameter>& parameter, unsigned long letzterAustausch) {
@@ -79,7 +58,8 @@ bool HoleNach(Ablaufanzeige& anzeige) {
     Pruefe();
     if (!zustand.noetig)
         return true;
-    Schrittfolge folge(Schritte(), [&anzeige] { return anzeige.Abgebrochen(); });
+    Schrittfolge folge(Leseschritte(zustand.offene, SpeichereParameter),
+                       [&anzeige] { return anzeige.Abgebrochen(); });
     folge.Bewache();
     if (!folge.Laufe())
         return false;

@@ -2,6 +2,8 @@
 
 #include "geraetestatus.h"
 #include "nachlese.h"
+#include "polling.h"
+#include "registerabbild.h"
 #include "registeradressen.h"
 #include "schrittfolge.h"
 #include "texte.h"
@@ -86,6 +88,18 @@ bool HoleOptikteilInformation(Optikteilanzeige& anzeige) {
     if (!gelungen)
         modNachlese::Verwirf();
     return gelungen;
+}
+
+void UebernimmOptikteile() {
+    using namespace modPolling;
+    int anzahl = 0;
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
+        SetzeOptikteilStatus(teil, ZustandAus(modDaten::HoleRegister(Speicherbereich::SpezifischeGeraetedaten,
+                                                                     spezifisch::Optikteilstatus, teil)));
+        if (GetOptikteilStatus(teil) == Vorhanden)
+            anzahl = teil + 1;
+    }
+    SetzeAnzahlOptikteile(anzahl);
 }
 
 } // namespace varnoth

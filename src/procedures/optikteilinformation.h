@@ -19,4 +19,8 @@ public:
 /// register image. Every exchange is retried without limit. False when the user cancelled.
 bool HoleOptikteilInformation(Optikteilanzeige& anzeige);
 
+/// Stores the presence of each part that specific register 44 tells, and how many parts a polling pass asks:
+/// up to the last one that is present.
+void UebernimmOptikteile();
+
 } // namespace varnoth

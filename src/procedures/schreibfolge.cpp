@@ -1,8 +1,18 @@
 #include "schreibfolge.h"
 
+#include "texte.h"
+#include "textmitwerten.h"
+
 namespace varnoth {
 
 namespace {
+
+constexpr std::int16_t TextGespeichert = 9170;
+constexpr std::int16_t TextNichtGespeichert = 9171;
+constexpr std::int16_t TextEinesGespeichert = 9900;
+constexpr std::int16_t TextEinesNichtGespeichert = 9901;
+constexpr std::int16_t TextGeprueftGespeichert = 9905;
+constexpr std::int16_t TextGeprueftNichtGespeichert = 9906;
 
 /// Every writable parameter of which it is known what the controller held.
 Schreibauftrag Rueckweg(const Geraetestand& vorher) {
@@ -31,6 +41,16 @@ Schreibfolge FolgeDerPruefung(const Schreibergebnis& ergebnis) {
 }
 
 } // namespace
+
+std::string Schreibsatz(const Schreibergebnis& ergebnis, bool dauerhaft, const std::string& wann) {
+    if (ergebnis.pruefung)
+        return wann + ": " + Pruefsatz(*ergebnis.pruefung) + " " +
+               LadeText(dauerhaft ? TextGeprueftGespeichert : TextGeprueftNichtGespeichert);
+    const int anzahl = AnzahlRegister(ergebnis.auftrag.stellen);
+    if (anzahl == 1)
+        return LadeTextMit(dauerhaft ? TextEinesGespeichert : TextEinesNichtGespeichert, {"1", wann});
+    return LadeTextMit(dauerhaft ? TextGespeichert : TextNichtGespeichert, {wann, std::to_string(anzahl)});
+}
 
 std::optional<Schreibfolge> FolgeAus(const Schreibergebnis& ergebnis,
                                      const std::optional<Geraetestand>& vorher) {

@@ -3,6 +3,7 @@
 #include "registerbefund.h"
 
 #include <optional>
+#include <string>
 
 namespace varnoth {
 
@@ -14,6 +15,9 @@ struct Schreibergebnis {
     std::optional<Pruefergebnis> pruefung{}; ///< where checking was chosen and begun
     Ruecklesung ruecklesung{};
 };
+
+/// What a write that has reached its end has done, in a line; `wann` is the time of it in words.
+std::string Schreibsatz(const Schreibergebnis& ergebnis, bool dauerhaft, const std::string& wann);
 
 /// What is to be told after a write, and what could be written next.
 struct Schreibfolge {

@@ -3,10 +3,10 @@
 #include "geraetestand.h"
 #include "geraetestatus.h"
 #include "nachlese.h"
+#include "optikteilinformation.h"
 #include "plausibilitaet.h"
 #include "polling.h"
 #include "registerabbild.h"
-#include "registeradressen.h"
 #include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "transaktionen.h"
@@ -35,17 +35,6 @@ bool PruefeGelesenes() {
 }
 
 } // namespace
-
-void UebernimmOptikteile() {
-    int anzahl = 0;
-    for (int teil = 0; teil < AnzahlOptikteile; ++teil) {
-        SetzeOptikteilStatus(teil, ZustandAus(modDaten::HoleRegister(Speicherbereich::SpezifischeGeraetedaten,
-                                                                     spezifisch::Optikteilstatus, teil)));
-        if (GetOptikteilStatus(teil) == Vorhanden)
-            anzahl = teil + 1;
-    }
-    SetzeAnzahlOptikteile(anzahl);
-}
 
 bool Autostart(Verbindungsziel& ziel) {
     if (!DarfErsetzen(Sicherungsanlass::VorDemVerbinden))

@@ -40,8 +40,4 @@ public:
 /// end. Nothing happens where changes that would be lost could not be put aside and the user keeps them.
 bool Autostart(Verbindungsziel& ziel);
 
-/// Stores the presence of each part that specific register 44 tells, and how many parts a polling pass asks:
-/// up to the last one that is present.
-void UebernimmOptikteile();
-
 } // namespace varnoth

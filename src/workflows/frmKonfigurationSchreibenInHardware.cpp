@@ -21,28 +21,12 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextLeseversuch = 7004;
-constexpr std::int16_t TextGespeichert = 9170;
-constexpr std::int16_t TextNichtGespeichert = 9171;
-constexpr std::int16_t TextEinesGespeichert = 9900;
-constexpr std::int16_t TextEinesNichtGespeichert = 9901;
-constexpr std::int16_t TextGeprueftGespeichert = 9905;
-constexpr std::int16_t TextGeprueftNichtGespeichert = 9906;
 constexpr std::int16_t TextSicherungMisslungen = 9763;
 constexpr std::int16_t TextWirdGesichert = 9764;
 constexpr std::int16_t TextNichtsZuSichern = 9765;
 
 constexpr const char* Abschnitt = "frmKonfigurationSchreibenInHardware";
 constexpr const char* Schluessel = "chkPruefen";
-
-std::string Schreibsatz(const Schreibergebnis& ergebnis, bool dauerhaft, const std::string& wann) {
-    if (ergebnis.pruefung)
-        return wann + ": " + Pruefsatz(*ergebnis.pruefung) + " " +
-               LadeText(dauerhaft ? TextGeprueftGespeichert : TextGeprueftNichtGespeichert);
-    const int anzahl = AnzahlRegister(ergebnis.auftrag.stellen);
-    if (anzahl == 1)
-        return LadeTextMit(dauerhaft ? TextEinesGespeichert : TextEinesNichtGespeichert, {"1", wann});
-    return LadeTextMit(dauerhaft ? TextGespeichert : TextNichtGespeichert, {wann, std::to_string(anzahl)});
-}
 
 /// The status bar says what was written, and when: the dialog closes by itself.
 void MeldeErfolg(const Schreibergebnis& ergebnis, Ablage ablage) {

@@ -1,0 +1,133 @@
+#include "terminal.h"
+
+#include <QtGlobal>
+
+#include <cerrno>
+
+#ifdef Q_OS_UNIX
+#include <langinfo.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <clocale>
+#include <cstdlib>
+#include <initializer_list>
+#else
+#include <io.h>
+
+#include <cstdio>
+#include <iostream>
+#endif
+
+namespace varnoth {
+
+#ifdef Q_OS_UNIX
+
+namespace {
+
+/// Whoever has started the program may have made a stream that does not block.
+void WarteBisFrei(int nummer) {
+    pollfd eines{nummer, POLLOUT, 0};
+    ::poll(&eines, 1, -1);
+}
+
+/// The character set in the name of a locale that is not installed: "UTF-8" of "de_DE.UTF-8".
+std::string GewuenschterSatz() {
+    for (const char* const variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        const char* const wert = std::getenv(variable);
+        if (wert == nullptr || *wert == '\0')
+            continue;
+        const std::string name = wert;
+        const auto punkt = name.find('.');
+        return punkt == std::string::npos ? std::string() : name.substr(punkt + 1);
+    }
+    return {};
+}
+
+std::string InGrossbuchstaben(std::string text) {
+    std::ranges::transform(text, text.begin(),
+                           [](unsigned char zeichen) { return static_cast<char>(std::toupper(zeichen)); });
+    return text;
+}
+
+} // namespace
+
+bool IstTerminal(Strom strom) {
+    return ::isatty(static_cast<int>(strom)) == 1;
+}
+
+int Terminalbreite(Strom strom) {
+    winsize groesse{};
+    return ::ioctl(static_cast<int>(strom), TIOCGWINSZ, &groesse) == 0 ? groesse.ws_col : 0;
+}
+
+int SchreibeInStrom(Strom strom, std::string_view bytes) {
+    const int nummer = static_cast<int>(strom);
+    while (!bytes.empty()) {
+        const ssize_t geschrieben = ::write(nummer, bytes.data(), bytes.size());
+        if (geschrieben >= 0)
+            bytes.remove_prefix(static_cast<std::size_t>(geschrieben));
+        else if (errno == EAGAIN)
+            WarteBisFrei(nummer);
+        else if (errno != EINTR)
+            return errno;
+    }
+    return 0;
+}
+
+std::optional<std::string> LiesEingabezeile() {
+    constexpr std::size_t Laengste = 4096;
+    std::string zeile;
+    char zeichen = 0;
+    while (zeile.size() < Laengste) {
+        if (::read(STDIN_FILENO, &zeichen, 1) != 1)
+            return std::nullopt;
+        if (zeichen == '\n')
+            break;
+        zeile += zeichen;
+    }
+    return zeile;
+}
+
+Zeichenvorrat ZeichenvorratDesNutzers() {
+    const bool bekannt = std::setlocale(LC_CTYPE, "") != nullptr;
+    const std::string name = InGrossbuchstaben(bekannt ? ::nl_langinfo(CODESET) : GewuenschterSatz());
+    if (name == "UTF-8" || name == "UTF8")
+        return Zeichenvorrat::Utf8;
+    return name.starts_with("ISO-8859-1") || name.starts_with("ISO8859-1") ? Zeichenvorrat::Latin1
+                                                                           : Zeichenvorrat::Ascii;
+}
+
+#else
+
+bool IstTerminal(Strom strom) {
+    return ::_isatty(static_cast<int>(strom)) != 0;
+}
+
+int Terminalbreite(Strom /*strom*/) {
+    return 0;
+}
+
+int SchreibeInStrom(Strom strom, std::string_view bytes) {
+    FILE* const datei = strom == Strom::Ausgabe ? stdout : stderr;
+    const bool geschrieben = std::fwrite(bytes.data(), 1, bytes.size(), datei) == bytes.size();
+    return geschrieben && std::fflush(datei) == 0 ? 0 : EIO;
+}
+
+std::optional<std::string> LiesEingabezeile() {
+    std::string zeile;
+    if (!std::getline(std::cin, zeile))
+        return std::nullopt;
+    return zeile;
+}
+
+Zeichenvorrat ZeichenvorratDesNutzers() {
+    return Zeichenvorrat::Utf8;
+}
+
+#endif
+
+} // namespace varnoth

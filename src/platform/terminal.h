@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace varnoth {
+
+/// The three streams of a program without windows.
+enum class Strom { Eingabe, Ausgabe, Fehler };
+
+/// Whether a person sits at the other end.
+bool IstTerminal(Strom strom);
+
+/// How many characters fit into a line there; 0 where that is not known.
+int Terminalbreite(Strom strom);
+
+/// Writes all bytes, unbuffered. Gives the system's error number, 0 when all are written.
+int SchreibeInStrom(Strom strom, std::string_view bytes);
+
+/// A line of the standard input without its end; nothing at the end of the input, and when a signal came
+/// instead.
+std::optional<std::string> LiesEingabezeile();
+
+/// The characters that can be shown.
+enum class Zeichenvorrat { Utf8, Latin1, Ascii };
+
+/// Those that the user's locale has. To be asked before anything else has changed the locale of this process.
+Zeichenvorrat ZeichenvorratDesNutzers();
+
+} // namespace varnoth
