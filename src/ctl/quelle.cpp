@@ -153,6 +153,10 @@ bool PruefePlausibel(const Lauf& lauf, const Abbild& abbild) {
     return unplausible.empty();
 }
 
+std::string Quellentext(const Quelle& quelle) {
+    return Standtext(quelle.art == Quellenart::Geraet ? OhneMomentanes(quelle.abbild) : quelle.abbild);
+}
+
 Json AlsJson(const Quelle& quelle) {
     constexpr const char* Namen[] = {"file", "device", "default", "backup"};
     return Json::Objekt({{"kind", Namen[static_cast<std::size_t>(quelle.art)]},

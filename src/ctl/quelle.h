@@ -44,6 +44,10 @@ Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
 /// Says where values lie that no controller takes. True when there is none.
 bool PruefePlausibel(const Lauf& lauf, const Abbild& abbild);
 
+/// The configuration as text. That of a controller leaves out what it measures: it changes only with the
+/// configuration.
+std::string Quellentext(const Quelle& quelle);
+
 /// {"kind": ..., "path": ..., "name": ...}
 Json AlsJson(const Quelle& quelle);
 
