@@ -18,10 +18,23 @@ bool HatParitaet(const std::string& format) {
     return gelesen && gelesen->paritaet != Paritaet::Keine;
 }
 
+/// Behind silence: whether the reply comes when it is not waited for any more. The next request would take it
+/// for its own. Where a few times nothing has come, it is not listened for again.
+void LauscheNach(const Pruefbefund& befund, const Identprobe& probe, int& vergeblich) {
+    constexpr int Vergebliche = 3;
+    constexpr int Millisekunden = 770; // a second together with the wait before
+    if (!probe.antwort.empty() || !probe.empfangen.empty() ||
+        (befund.spaete == 0 && vergeblich == Vergebliche))
+        return;
+    WarteAufZeichen(Millisekunden, True);
+    ++vergeblich;
+}
+
 void PruefeOffene(Pruefbefund& befund, int anzahl, Pruefzeiger& zeiger) {
     const Probefristen fristen = FristenBei(befund.format);
     const bool mitParitaet = HatParitaet(befund.format);
     std::string bekannte;
+    int vergeblich = 0;
     while (befund.gesendet < anzahl && !befund.portVerloren) {
         if (zeiger.Abgebrochen()) {
             befund.abgebrochen = true;
@@ -39,6 +52,7 @@ void PruefeOffene(Pruefbefund& befund, int anzahl, Pruefzeiger& zeiger) {
             continue; // nobody knows what would have come
         Zaehle(befund, probe, bekannte, mitParitaet);
         zeiger.Zeige(befund);
+        LauscheNach(befund, probe, vergeblich);
     }
 }
 

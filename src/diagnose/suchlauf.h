@@ -27,7 +27,6 @@ enum class Suchergebnis {
     Stille,           ///< nothing came
     Unverstanden,     ///< something came that was no reply
     Echo,             ///< what was sent came back, and nothing else
-    Uebergangen,      ///< not tried: the port could not be opened before
 };
 
 struct Suchstand {

@@ -25,9 +25,11 @@ constexpr std::int16_t TextOhneSeriennummer = 8228;
 
 std::string Gefunden(const Suchfund& fund) {
     const Identifikation& ident = fund.ident;
-    const std::string seriennummer = ident.text2.empty() ? LadeText(TextOhneSeriennummer) : ident.text2;
-    const std::string text = LadeTextMit(TextGefunden, {fund.versuch.geraet, fund.versuch.format, ident.text1,
-                                                        seriennummer, std::to_string(ident.slaveAdresse)});
+    const std::string seriennummer =
+        ident.text2.empty() ? LadeText(TextOhneSeriennummer) : IdenttextAlsUtf8(ident.text2);
+    const std::string text =
+        LadeTextMit(TextGefunden, {fund.versuch.geraet, fund.versuch.format, IdenttextAlsUtf8(ident.text1),
+                                   seriennummer, std::to_string(ident.slaveAdresse)});
     return fund.mitEcho ? text + " " + LadeText(TextEchoAbschalten) : text;
 }
 

@@ -119,31 +119,32 @@ TEST_F(Leitungspruefung, Shares_of_the_round_trips_are_read_from_their_order) {
     EXPECT_EQ(Umlaufzeit(befund, 100), Zeit{200});
 }
 
-TEST_F(Leitungspruefung, Late_replies_and_unasked_bytes_are_counted_apart) {
+TEST_F(Leitungspruefung, A_reply_that_comes_within_a_second_is_late_and_not_the_next_requests) {
     int anfragen = 0;
     port.antworte = [&](const std::string&) {
-        return ++anfragen == 1 ? Nach(500, Identantwort()) : Nach(1, Identantwort());
+        return ++anfragen % 2 == 1 ? Nach(800, Identantwort()) : Nach(5, Identantwort());
     };
-    umgebung.Plane(std::chrono::milliseconds(450), [] {});
-    const Pruefbefund spaete = [&] {
-        beobachter.abbruch = [&] {
-            if (beobachter.gesehen.size() == 1)
-                umgebung.uhr = std::max(umgebung.uhr, Zeit(std::chrono::milliseconds(510)));
-            return false;
-        };
-        return Pruefe(3);
-    }();
-    EXPECT_EQ(spaete.spaete, 1);
-    EXPECT_EQ(spaete.ungefragte, 0);
+    const Pruefbefund befund = Pruefe(20);
+    EXPECT_EQ(befund.spaete, 10);
+    EXPECT_EQ(befund.Anzahl(Pruefende::Nichts), 10);
+    EXPECT_EQ(befund.ungefragte, 0);
+    EXPECT_EQ(befund.umlaufzeiten, std::vector<Zeit>(10, std::chrono::milliseconds(5)));
+}
 
+TEST_F(Leitungspruefung, A_silent_line_is_not_listened_to_for_a_second_each_time) {
+    EXPECT_EQ(Enden(Still, 100)[1], 100);
+    EXPECT_GT(umgebung.uhr, std::chrono::milliseconds(100 * 230 + 3 * 770));
+    EXPECT_LT(umgebung.uhr, std::chrono::milliseconds(100 * 240 + 4 * 770));
+}
+
+TEST_F(Leitungspruefung, Bytes_that_come_unasked_are_counted) {
     beobachter.abbruch = [&] {
         port.eingang = "xyz";
         return false;
     };
-    port.antworte = [](const std::string&) { return Still(); };
-    const Pruefbefund ungefragte = Pruefe(3);
-    EXPECT_EQ(ungefragte.spaete, 0);
-    EXPECT_EQ(ungefragte.ungefragte, 3);
+    const Pruefbefund befund = Pruefe(3);
+    EXPECT_EQ(befund.spaete, 0);
+    EXPECT_EQ(befund.ungefragte, 3);
 }
 
 TEST_F(Leitungspruefung, Bytes_beside_a_reply_are_counted) {
@@ -194,7 +195,7 @@ TEST_F(Leitungspruefung, An_exchange_that_is_stopped_is_not_counted_as_failed) {
 }
 
 TEST_F(Leitungspruefung, Ends_when_the_line_disappears) {
-    umgebung.Plane(std::chrono::milliseconds(600), [this] { port.offen = false; });
+    umgebung.Plane(std::chrono::milliseconds(2100), [this] { port.offen = false; });
     const Pruefbefund befund = Pruefe(200);
     EXPECT_TRUE(befund.portVerloren);
     EXPECT_EQ(befund.gesendet, 2);

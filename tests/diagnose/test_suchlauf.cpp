@@ -264,6 +264,14 @@ TEST_F(Suchlauf, A_controller_without_a_serial_number_is_told_as_one) {
     EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("serial number unknown"));
 }
 
+TEST_F(Suchlauf, What_the_controller_says_is_told_in_the_characters_of_the_machine) {
+    port.antworte = [](const std::string&) {
+        return Nach(1, Identantwort(1, "Me\xDFger\xE4t;\xFC"
+                                       "1"));
+    };
+    EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("Meßgerät, serial number ü1,"));
+}
+
 TEST_F(Suchlauf, Sixty_four_ports_are_searched_in_their_order) {
     std::vector<std::string> geraete;
     for (int i = 0; i < 64; ++i)

@@ -126,6 +126,7 @@ TEST_F(Portliste, Terminals_in_the_further_folder_are_ports_and_nothing_else_the
 }
 
 TEST_F(Portliste, The_environment_names_the_further_folder) {
+    unsetenv("VARNOTH_PORTS");
     EXPECT_EQ(WurzelnDesRechners().ordner, "");
     setenv("VARNOTH_PORTS", "/tmp/adapters", 1);
     EXPECT_EQ(WurzelnDesRechners().ordner, "/tmp/adapters");
