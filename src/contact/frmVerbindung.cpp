@@ -7,9 +7,11 @@
 #include "portzeile.h"
 #include "suchlauf.h"
 #include "ui_frmVerbindung.h"
+#include "umgebung.h"
 #include "verbindungsanbieter.h"
 
 #include <QEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QShortcut>
 
@@ -34,7 +36,7 @@ frmVerbindung::frmVerbindung(Verbindungsanbieter& quelle)
     ui->Leitungsseite->SetzeAnbieter(anbieter);
     connect(ui->cmdSchliessen, &QPushButton::clicked, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    connect(&takt, &QTimer::timeout, this, &frmVerbindung::Erneuere);
+    connect(&takt, &QTimer::timeout, this, &frmVerbindung::ErneuereBeiGelegenheit);
     Lokalisiere();
 }
 
@@ -84,6 +86,14 @@ void frmVerbindung::ZeigeVor() {
 
 void frmVerbindung::Schlage(Verbindungsseite seite) {
     ui->tbsVerbindung->setCurrentIndex(static_cast<int>(seite));
+}
+
+/// Looking takes milliseconds, which live data shall not wait for.
+void frmVerbindung::ErneuereBeiGelegenheit() {
+    DieUmgebung().FuerWartezeit([dieses = QPointer<frmVerbindung>(this)] {
+        if (dieses != nullptr && dieses->isVisible())
+            dieses->Erneuere();
+    });
 }
 
 void frmVerbindung::Erneuere() {

@@ -63,6 +63,7 @@ protected:
 
 private:
     void StellePlatzHer();
+    void ErneuereBeiGelegenheit();
     void Zeige();
 
     std::unique_ptr<Ui::frmVerbindung> ui;

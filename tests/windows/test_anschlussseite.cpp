@@ -13,7 +13,18 @@ constexpr const char* ById = "/dev/serial/by-id/usb-FTDI_FT232R_USB_UART_A50285B
 
 } // namespace
 
-class AnschlussseiteTest : public pruefung::VerbindungsfensterTest {};
+class AnschlussseiteTest : public pruefung::VerbindungsfensterTest {
+protected:
+    /// Whether the list has so many ports within a second.
+    bool WarteAufPorts(int anzahl) {
+        return pruefung::WarteBis(
+            [this, anzahl] {
+                umgebung.ErledigeAufgeschobenes();
+                return Liste("lstPorts").topLevelItemCount() == anzahl;
+            },
+            1000);
+    }
+};
 
 TEST_F(AnschlussseiteTest, Without_a_port_it_says_what_to_do) {
     EXPECT_TRUE(Teil<QLabel>("lblKeinPort").isVisible());
@@ -34,9 +45,9 @@ TEST_F(AnschlussseiteTest, Each_port_is_a_row_with_what_it_is_its_state_and_its_
 TEST_F(AnschlussseiteTest, A_port_that_comes_or_goes_is_seen_within_a_second_without_a_hand) {
     Fenster();
     leitung.ports = {EinAdapter()};
-    EXPECT_TRUE(pruefung::WarteBis([this] { return Liste("lstPorts").topLevelItemCount() == 1; }, 1000));
+    EXPECT_TRUE(WarteAufPorts(1));
     leitung.ports.clear();
-    EXPECT_TRUE(pruefung::WarteBis([this] { return Liste("lstPorts").topLevelItemCount() == 0; }, 1000));
+    EXPECT_TRUE(WarteAufPorts(0));
     EXPECT_TRUE(Teil<QLabel>("lblKeinPort").isVisible());
 }
 
