@@ -25,7 +25,8 @@ QString LegeProgrammAn(const QString& ziel) {
 } // namespace
 
 CtlProgrammTest::CtlProgrammTest()
-    : programm(LegeProgrammAn(ordner.filePath("varnothctl"))), umwelt(QProcessEnvironment::systemEnvironment()) {
+    : programm(LegeProgrammAn(ordner.filePath("varnothctl"))),
+      umwelt(QProcessEnvironment::systemEnvironment()) {
     for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LC_CTYPE", "LANGUAGE"})
         umwelt.remove(name);
     umwelt.insert("LANG", "C.UTF-8");

@@ -23,7 +23,8 @@ struct Laufergebnis {
     std::string meldungen;
 };
 
-/// The program, in a folder of the test's own where its settings, its backups and the controller's line lie too.
+/// The program, in a folder of the test's own where its settings, its backups and the controller's line lie
+/// too.
 class CtlProgrammTest : public testing::Test {
 protected:
     CtlProgrammTest();

@@ -25,7 +25,8 @@ constexpr int Frist = 20000; // milliseconds
 /// The program at a terminal of its own.
 class Terminallauf {
 public:
-    Terminallauf(const std::string& programm, const std::vector<std::string>& worte, const std::string& daten) {
+    Terminallauf(const std::string& programm, const std::vector<std::string>& worte,
+                 const std::string& daten) {
         std::vector<std::string> alle = worte;
         alle.insert(alle.begin(), programm);
         kind = ::forkpty(&ende, nullptr, nullptr, nullptr);
@@ -185,7 +186,8 @@ TEST_F(ZehnGeraete, One_that_fails_does_not_keep_the_others_from_their_turn) {
 
 TEST_F(ZehnGeraete, The_script_tells_how_it_is_used) {
     EXPECT_EQ(InSchale("sh " EXAMPLES "/controllers.sh").code, 2);
-    EXPECT_THAT(InSchale("sh " EXAMPLES "/controllers.sh").meldungen, HasSubstr("controllers.sh backup  FOLDER PORT..."));
+    EXPECT_THAT(InSchale("sh " EXAMPLES "/controllers.sh").meldungen,
+                HasSubstr("controllers.sh backup  FOLDER PORT..."));
     EXPECT_EQ(Skript("explode").code, 2);
 }
 

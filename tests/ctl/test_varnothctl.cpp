@@ -1,4 +1,5 @@
-// The program at a simulated controller: every command, its data in JSON against the description, and every exit code.
+// The program at a simulated controller: every command, its data in JSON against the description, and every
+// exit code.
 
 #include "ctlprozess.h"
 
@@ -131,7 +132,8 @@ TEST_F(Varnothctl, Get_and_set_know_names_and_words) {
     const auto gesetzt = InJson({"set", "2/Blanking pattern", "3-7, 12", "--yes", "--store"});
     EXPECT_EQ(gesetzt["readBack"]["words"].toString(), "3-7, 12");
     geraet->Befehl("restart");
-    EXPECT_EQ(Fuehre({"get", "2/Blankingmuster", "--lang", "de"}).daten, "Optikteil 2 / Blankingmuster: 3-7, 12\n");
+    EXPECT_EQ(Fuehre({"get", "2/Blankingmuster", "--lang", "de"}).daten,
+              "Optikteil 2 / Blankingmuster: 3-7, 12\n");
     EXPECT_EQ(Fuehre({"set", "1/Auflösung", "40mm", "--yes"}).code, 0);
     EXPECT_EQ(geraet->Register("specific 0 13"), 40);
 }
@@ -171,8 +173,8 @@ TEST_F(Varnothctl, Help_and_version_are_data_too) {
     QSet<QString> befehle;
     for (const QJsonValue befehl : hilfe["commands"].toArray())
         befehle.insert(befehl["name"].toString());
-    for (const char* const name : {"identify", "read", "write", "compare", "get", "set", "watch", "report", "export",
-                                   "import", "reset"})
+    for (const char* const name : {"identify", "read", "write", "compare", "get", "set", "watch", "report",
+                                   "export", "import", "reset"})
         EXPECT_TRUE(befehle.contains(name)) << name;
     InJson({"--version"});
 }
@@ -213,12 +215,14 @@ TEST_F(Varnothctl, Nothing_but_messages_goes_to_standard_error_and_nothing_of_Qt
 
 TEST_F(Varnothctl, Port_and_format_of_the_settings_file_count_and_the_file_stays_as_it_is) {
     SchliesseGeraetAn();
-    const QByteArray datei = "[Settings]\nComPort=3\nComGeraet2=/dev/missing\nComGeraet3=" + Pfad("line").toUtf8() +
-                             "\nComSettings=38400,n,8,2\n";
+    const QByteArray datei =
+        "[Settings]\nComPort=3\nComGeraet2=/dev/missing\nComGeraet3=" + Pfad("line").toUtf8() +
+        "\nComSettings=38400,n,8,2\n";
     Schreibe("varnoth.ini", datei);
     EXPECT_EQ(FuehreOhnePort({"identify"}).code, 0);
     EXPECT_EQ(FuehreOhnePort({"identify", "--port", "COM3"}).code, 0);
-    EXPECT_THAT(FuehreOhnePort({"identify", "--port", "COM2"}).meldungen, HasSubstr("There is no device /dev/missing."));
+    EXPECT_THAT(FuehreOhnePort({"identify", "--port", "COM2"}).meldungen,
+                HasSubstr("There is no device /dev/missing."));
     EXPECT_EQ(FuehreOhnePort({"write", "default", "--yes"}).code, 0);
     EXPECT_EQ(Inhalt("varnoth.ini"), datei);
 }
@@ -241,7 +245,10 @@ TEST_F(Varnothctl, There_is_no_command_for_what_cannot_be_done_yet) {
 TEST_F(Varnothctl, Writing_commands_need_a_yes_in_a_script) {
     SchliesseGeraetAn();
     ASSERT_EQ(Fuehre({"read", "-o", "a.con"}).code, 0);
-    for (const QStringList& worte : {QStringList{"write", "a.con"}, {"set", "1/Resolution", "40mm"}, {"reset"}, {"read", "-o", "a.con"}}) {
+    for (const QStringList& worte : {QStringList{"write", "a.con"},
+                                     {"set", "1/Resolution", "40mm"},
+                                     {"reset"},
+                                     {"read", "-o", "a.con"}}) {
         const auto ergebnis = Fuehre(worte);
         EXPECT_EQ(ergebnis.code, 2) << qPrintable(worte[0]);
         EXPECT_THAT(ergebnis.meldungen, HasSubstr("--yes"));
@@ -252,7 +259,8 @@ TEST_F(Varnothctl, Writing_commands_need_a_yes_in_a_script) {
 TEST_F(Varnothctl, Exit_code_3_is_a_port_that_cannot_be_opened) {
     ASSERT_EQ(::mkfifo(Pfad("pipe").toLocal8Bit().constData(), 0600), 0);
     Schreibe("file", "x");
-    for (const QString& port : {QString("/dev/missing"), QString("/dev/null"), Pfad("pipe"), Pfad("file"), ordner.path()}) {
+    for (const QString& port :
+         {QString("/dev/missing"), QString("/dev/null"), Pfad("pipe"), Pfad("file"), ordner.path()}) {
         const auto ergebnis = FuehreOhnePort({"identify", "--port", port});
         EXPECT_EQ(ergebnis.code, 3) << qPrintable(port);
         EXPECT_THAT(ergebnis.meldungen, HasSubstr(port.toStdString()));
