@@ -118,7 +118,8 @@ Ende ZeigeHilfe(const Lauf& lauf) {
         return Ende::Erledigt;
     }
     const Befehl* const befehl = lauf.zeile.befehl;
-    for (const std::string_view zeile : Zeilen(befehl != nullptr ? Befehlshilfe(*befehl) : Ueberblick()))
+    const std::string text = befehl != nullptr ? Befehlshilfe(*befehl) : Ueberblick();
+    for (const std::string_view zeile : Zeilen(text))
         lauf.konsole.Zeile(zeile);
     return Ende::Erledigt;
 }

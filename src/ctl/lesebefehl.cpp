@@ -8,7 +8,6 @@
 #include "pruefsumme.h"
 #include "quelle.h"
 #include "registerjson.h"
-#include "standtext.h"
 
 namespace varnoth::ctl {
 
@@ -34,7 +33,7 @@ Ende Read(Lauf& lauf) {
                        return WertAlsJson(quelle.abbild, stelle);
                    })}});
     else if (!pfad)
-        lauf.konsole.Daten(Standtext(quelle.abbild));
+        lauf.konsole.Daten(Quellentext(quelle));
     return Ende::Erledigt;
 }
 

@@ -73,15 +73,14 @@ Ende LiesAusDatei(const Lauf& lauf, const std::string& pfad, Quelle& quelle) {
     return lauf.Scheitere(Ende::Datei, LadeTextMit(TextKeineKonfiguration, {pfad}));
 }
 
-Ende LiesSicherung(const Lauf& lauf, const std::string& seriennummer, Quelle& quelle) {
+Ende LiesSicherung(const Lauf& lauf, const std::optional<std::string>& seriennummer, Quelle& quelle) {
     const auto alle = DieSicherungen() == nullptr ? std::vector<Sicherung>{} : DieSicherungen()->Alle();
     const auto treffer = std::ranges::find_if(alle, [&](const Sicherung& eine) {
-        return seriennummer.empty() || eine.angaben.seriennummer == seriennummer;
+        return !seriennummer || eine.angaben.seriennummer == *seriennummer;
     });
     if (treffer == alle.end())
-        return lauf.Scheitere(Ende::Datei, seriennummer.empty()
-                                               ? LadeText(TextKeineSicherung)
-                                               : LadeTextMit(TextKeineSicherungVon, {seriennummer}));
+        return lauf.Scheitere(Ende::Datei, seriennummer ? LadeTextMit(TextKeineSicherungVon, {*seriennummer})
+                                                        : LadeText(TextKeineSicherung));
     const auto abbild = DieSicherungen()->Lies(*treffer);
     if (!abbild)
         return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungNichtLesbar, {treffer->pfad}));
@@ -102,15 +101,17 @@ Quellenart ArtVon(std::string_view wort) {
 }
 
 Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
-                const std::string& seriennummer, Quelle& quelle) {
+                const std::optional<std::string>& seriennummer, Quelle& quelle) {
     quelle.art = ArtVon(wort);
     switch (quelle.art) {
     case Quellenart::Datei:
         return LiesAusDatei(lauf, std::string(wort), quelle);
     case Quellenart::Sicherung:
-        return LiesSicherung(
-            lauf, wort == WortSicherung ? seriennummer : WortAlsUtf8(wort.substr(WortSicherungVon.size())),
-            quelle);
+        return LiesSicherung(lauf,
+                             wort == WortSicherung
+                                 ? seriennummer
+                                 : std::optional(WortAlsUtf8(wort.substr(WortSicherungVon.size()))),
+                             quelle);
     case Quellenart::Werk:
         quelle.name = LadeText(TextQuelleWerk);
         quelle.abbild = Standardkonfiguration();
@@ -150,6 +151,10 @@ bool PruefePlausibel(const Lauf& lauf, const Abbild& abbild) {
     if (!unplausible.empty())
         lauf.konsole.Meldung(LadeText(TextUnplausibel) + Wertzeilen(abbild, unplausible));
     return unplausible.empty();
+}
+
+std::string Quellentext(const Quelle& quelle) {
+    return Standtext(quelle.art == Quellenart::Geraet ? OhneMomentanes(quelle.abbild) : quelle.abbild);
 }
 
 Json AlsJson(const Quelle& quelle) {

@@ -6,6 +6,7 @@
 #include "leitungszugang.h"
 #include "parameterstelle.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,9 +31,9 @@ Quellenart ArtVon(std::string_view wort);
 
 /// Reads the configuration that a word names; `zugang` connects where it is the controller. A configuration
 /// file and a configuration as text are told apart by what they hold. Why it cannot be had is told.
-/// @param seriennummer of the controller whose newest backup "backup" means; empty: that of any
+/// @param seriennummer of the controller whose newest backup "backup" means; nothing: that of any
 Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
-                const std::string& seriennummer, Quelle& quelle);
+                const std::optional<std::string>& seriennummer, Quelle& quelle);
 
 /// The same for the argument of the command line; without one it is the controller.
 Ende LiesGenannteQuelle(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
@@ -42,6 +43,10 @@ Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
 
 /// Says where values lie that no controller takes. True when there is none.
 bool PruefePlausibel(const Lauf& lauf, const Abbild& abbild);
+
+/// The configuration as text. That of a controller leaves out what it measures: it changes only with the
+/// configuration.
+std::string Quellentext(const Quelle& quelle);
 
 /// {"kind": ..., "path": ..., "name": ...}
 Json AlsJson(const Quelle& quelle);

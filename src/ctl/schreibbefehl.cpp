@@ -9,11 +9,15 @@
 #include "registerjson.h"
 #include "schreibfolge.h"
 #include "seriennummer.h"
+#include "sicherung.h"
 #include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "uhrzeit.h"
+
+#include <algorithm>
+#include <cstddef>
 
 namespace varnoth::ctl {
 
@@ -29,10 +33,19 @@ constexpr std::int16_t TextPruefen = 8644;
 constexpr std::int16_t TextZurueck = 8645;
 constexpr std::int16_t TextStandUnbekannt = 9765;
 
+/// Each row in a line: the value before an arrow and the one behind it.
 std::string Zeilentext(const Registerbefund& befund) {
     std::string text;
     for (const Registerzeile& zeile : befund.zeilen)
         text += "\n  " + zeile.bereich + " / " + zeile.name + ": " + zeile.links + " -> " + zeile.rechts;
+    return text;
+}
+
+/// Each row in a line: its value, and what has become of it.
+std::string Zustandstext(const Registerbefund& befund) {
+    std::string text;
+    for (const Registerzeile& zeile : befund.zeilen)
+        text += "\n  " + zeile.bereich + " / " + zeile.name + ": " + zeile.rechts + " (" + zeile.links + ")";
     return text;
 }
 
@@ -64,7 +77,7 @@ private:
     }
 
     Ende LiesVorlage() {
-        if (const Ende ende = LiesQuelle(lauf, Wort(), zugang, GeraeteSeriennummer(), quelle);
+        if (const Ende ende = LiesQuelle(lauf, Wort(), zugang, Seriennummer(geraet.abbild), quelle);
             ende != Ende::Erledigt)
             return ende;
         return PruefePlausibel(lauf, quelle.abbild) ? Ende::Erledigt : Ende::Datei;
@@ -74,7 +87,7 @@ private:
         if (const Ende ende = zugang.Verbinde(); ende != Ende::Erledigt)
             return ende;
         const Quellenart art = ArtVon(Wort());
-        if (Sichert() || art == Quellenart::Werk)
+        if (Sichert() || art != Quellenart::Datei)
             if (const Ende ende = LiesSteuergeraet(lauf, zugang, geraet); ende != Ende::Erledigt)
                 return ende;
         if (art != Quellenart::Datei)
@@ -147,13 +160,21 @@ private:
                                                      : Json::Liste({})}});
     }
 
+    /// The sentence about a check stands above it already.
+    std::string Befundtext(const Registerbefund& befund) const {
+        if (!ergebnis.vollstaendig)
+            return befund.text + Zustandstext(befund);
+        return befund.text.substr(std::min(Pruefsatz(*ergebnis.pruefung).size() + 1, befund.text.size())) +
+               Zeilentext(befund);
+    }
+
     void GibErgebnis() const {
         const auto folge = FolgeAus(ergebnis, vorher);
         std::string text;
         if (ergebnis.vollstaendig)
             text = Schreibsatz(ergebnis, Speichert(), Uhrzeit()) + "\n";
         if (folge)
-            text += folge->befund.text + Zeilentext(folge->befund) + "\n";
+            text += Befundtext(folge->befund) + "\n";
         const auto anzahl = [](const Parametermenge& stellen) { return Json(AnzahlRegister(stellen)); };
         lauf.Gib(text, {{"source", AlsJson(quelle)},
                         {"controller", GeraetAlsJson()},

@@ -7,7 +7,6 @@
 #include "leitungszugang.h"
 #include "pruefsumme.h"
 #include "quelle.h"
-#include "standtext.h"
 #include "texte.h"
 #include "textmitwerten.h"
 
@@ -49,7 +48,7 @@ Ende Export(Lauf& lauf) {
     Quelle quelle;
     if (const Ende ende = LiesGenannteQuelle(lauf, zugang, quelle); ende != Ende::Erledigt)
         return ende;
-    return GibDokument(lauf, pfad, Standtext(quelle.abbild), "text",
+    return GibDokument(lauf, pfad, Quellentext(quelle), "text",
                        {{"source", AlsJson(quelle)}, {"checksum", Konfigurationspruefsumme(quelle.abbild)}});
 }
 

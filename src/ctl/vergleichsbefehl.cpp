@@ -5,7 +5,7 @@
 #include "leitungszugang.h"
 #include "quelle.h"
 #include "registerjson.h"
-#include "seriennummer.h"
+#include "sicherung.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -15,6 +15,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 
 namespace varnoth::ctl {
 
@@ -33,7 +34,7 @@ bool SindDasselbe(const std::string& a, const std::string& b) {
 /// The controller comes first: which backup is meant hangs on who answers, and the other side's beam counts
 /// tell what the default is.
 Ende LiesBeide(const Lauf& lauf, Leitungszugang& zugang, Paar& paar) {
-    std::string seriennummer;
+    std::optional<std::string> seriennummer;
     for (const bool zuerstGeraet : {true, false})
         for (std::size_t seite = 0; seite < paar.size(); ++seite) {
             const std::string& wort = lauf.zeile.argumente[seite];
@@ -43,7 +44,7 @@ Ende LiesBeide(const Lauf& lauf, Leitungszugang& zugang, Paar& paar) {
                 ende != Ende::Erledigt)
                 return ende;
             if (zuerstGeraet)
-                seriennummer = GeraeteSeriennummer();
+                seriennummer = Seriennummer(paar.at(seite).abbild);
         }
     for (std::size_t seite = 0; seite < paar.size(); ++seite)
         if (paar.at(seite).art == Quellenart::Werk)

@@ -63,6 +63,8 @@ public:
 
     /// Asked first for each request; true swallows it.
     std::function<bool(const std::string& anforderung)> schweige;
+    /// Hears of each write, by device address, before it is confirmed.
+    std::function<void(int adresse)> beimSchreiben;
 
     std::string identtext = "Varnoth;4711;(C)";
     int slaveAdresse = 1;
@@ -107,6 +109,8 @@ private:
                 auswahl = wert;
         }
         geschrieben.push_back(vorgang);
+        if (beimSchreiben)
+            beimSchreiben(adresse);
         return MitPruefsumme(anforderung.substr(0, 6));
     }
 
