@@ -8,6 +8,9 @@ namespace varnoth::ctl {
 
 struct Lauf;
 
+Ende Ports(Lauf& lauf);
+Ende Find(Lauf& lauf);
+Ende Linecheck(Lauf& lauf);
 Ende Identify(Lauf& lauf);
 Ende Read(Lauf& lauf);
 Ende Write(Lauf& lauf);

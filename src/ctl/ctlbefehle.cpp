@@ -22,6 +22,7 @@ constexpr std::int16_t ArgumentRegister = 8509;
 constexpr std::int16_t ArgumentRegisterWert = 8510;
 constexpr std::int16_t ArgumentTextdatei = 8511;
 constexpr std::int16_t ArgumentQuelleFrei = 8512;
+constexpr std::int16_t ArgumentGeraeteFrei = 8275;
 
 constexpr Option Allgemeine[] = {
     {"port", 'p', WertPort, 8520},
@@ -40,10 +41,13 @@ constexpr Option Eigene[] = {
     {"verify", 0, 0, 8531},           {"no-backup", 0, 0, 8532},
     {"count", 'n', WertAnzahl, 8533}, {"interval", 'i', WertSekunden, 8534},
     {"plant", 0, WertText, 8535},     {"machine", 0, WertText, 8536},
-    {"person", 0, WertText, 8537},
+    {"person", 0, WertText, 8537},    {"requests", 0, WertAnzahl, 8276},
 };
 
 constexpr Befehl Befehle[] = {
+    {"ports", 0, 0, 0, 8270, 0, {}, Ports},
+    {"find", ArgumentGeraeteFrei, 0, BeliebigViele, 8271, 8273, {}, Find},
+    {"linecheck", 0, 0, 0, 8272, 8274, {"requests"}, Linecheck},
     {"identify", 0, 0, 0, 8540, 0, {}, Identify},
     {"read", 0, 0, 0, 8541, 8560, {"output"}, Read},
     {"write", ArgumentQuelle, 1, 1, 8542, 8561, {"store", "verify", "no-backup"}, Write},

@@ -5,13 +5,11 @@
 #include "lauf.h"
 #include "porteinstellungen.h"
 #include "schnittstelle.h"
-#include "seriennummer.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "transaktionen.h"
 #include "verbindungsauskunft.h"
 #include "versuche.h"
-#include "zeichensatz.h"
 
 #include <algorithm>
 #include <cctype>
@@ -42,16 +40,6 @@ bool IstComName(std::string_view worte) {
            });
 }
 
-/// The device that a path means: a bare name that is not in the current folder lies where the system keeps
-/// its devices.
-std::string Geraetepfadname(const std::string& pfad) {
-    std::error_code fehler;
-    if (pfad.find('/') == std::string::npos && !std::filesystem::exists(pfad, fehler))
-        return "/dev/" + pfad;
-    const auto ganzer = std::filesystem::absolute(pfad, fehler);
-    return fehler ? pfad : ganzer.string();
-}
-
 Ende WaehlePort(const Lauf& lauf, const std::string& worte) {
     if (worte.empty())
         return lauf.Scheitere(Ende::Bedienung, LadeTextMit(TextKeinComPort, {worte}));
@@ -66,15 +54,15 @@ Ende WaehlePort(const Lauf& lauf, const std::string& worte) {
     return Ende::Erledigt;
 }
 
-/// Text of the controller, one byte a character, as UTF-8.
-std::string Geraetetext(const std::string& bytes) {
-    std::string text;
-    for (const char zeichen : bytes)
-        text += AlsUtf8(static_cast<std::uint8_t>(zeichen));
-    return text;
-}
-
 } // namespace
+
+std::string Geraetepfadname(const std::string& pfad) {
+    std::error_code fehler;
+    if (pfad.find('/') == std::string::npos && !std::filesystem::exists(pfad, fehler))
+        return "/dev/" + pfad;
+    const auto ganzer = std::filesystem::absolute(pfad, fehler);
+    return fehler ? pfad : ganzer.string();
+}
 
 Ende WaehleAnschluss(const Lauf& lauf) {
     modSchnittstelle::SetzeComPort(
@@ -130,21 +118,31 @@ Ende Leitungszugang::EndeNachAbbruch() const {
 }
 
 std::string Geraetename() {
-    return Geraetetext(modModbus::GetIdentText1());
+    return IdenttextAlsUtf8(modModbus::GetIdentText1());
 }
 
 std::string Geraetecopyright() {
-    return Geraetetext(modModbus::GetIdentText3());
+    return IdenttextAlsUtf8(modModbus::GetIdentText3());
 }
 
 Json GeraetAlsJson() {
     using namespace modModbus;
-    return Json::Objekt({{"name", Geraetename()},
-                         {"serialNumber", GeraeteSeriennummer()},
-                         {"copyright", Geraetecopyright()},
-                         {"address", Json(std::int32_t{GetSlaveAdresse()})},
-                         {"deviceType", Json(std::int32_t{GetIdentByte2()})},
-                         {"switchingState", Json(std::int32_t{GetIdentByte1()})}});
+    return GeraetAlsJson({.gueltig = GetIdentGueltig(),
+                          .slaveAdresse = GetSlaveAdresse(),
+                          .byte1 = GetIdentByte1(),
+                          .byte2 = GetIdentByte2(),
+                          .text1 = GetIdentText1(),
+                          .text2 = GetIdentText2(),
+                          .text3 = GetIdentText3()});
+}
+
+Json GeraetAlsJson(const Identifikation& ident) {
+    return Json::Objekt({{"name", IdenttextAlsUtf8(ident.text1)},
+                         {"serialNumber", IdenttextAlsUtf8(ident.text2)},
+                         {"copyright", IdenttextAlsUtf8(ident.text3)},
+                         {"address", Json(std::int32_t{ident.slaveAdresse})},
+                         {"deviceType", Json(std::int32_t{ident.byte2})},
+                         {"switchingState", Json(std::int32_t{ident.byte1})}});
 }
 
 } // namespace varnoth::ctl

@@ -2,6 +2,7 @@
 
 #include "endecode.h"
 #include "geduld.h"
+#include "identifikation.h"
 #include "json.h"
 
 #include <cstdint>
@@ -36,11 +37,17 @@ private:
 /// makes no sense.
 Ende WaehleAnschluss(const Lauf& lauf);
 
+/// The device that a path means: a bare name that is not in the current folder lies where the system keeps
+/// its devices.
+std::string Geraetepfadname(const std::string& pfad);
+
 /// Texts of the controller that answered last, as UTF-8.
 std::string Geraetename();
 std::string Geraetecopyright();
 
 /// The same in JSON: name, serial number, address and so on.
 Json GeraetAlsJson();
+/// What another one has said of itself.
+Json GeraetAlsJson(const Identifikation& ident);
 
 } // namespace varnoth::ctl

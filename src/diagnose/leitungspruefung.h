@@ -36,10 +36,12 @@ struct Pruefbefund {
     /// Of those that were answered, rising: from the handing over of the request to the end of the reply.
     std::vector<Zeit> umlaufzeiten{};
     std::size_t antwortlaenge = 0; ///< bytes of the last reply
-    int ungefragte = 0;            ///< exchanges with bytes before the request or beside the reply
+    int spaete = 0;                ///< replies that came when they were not waited for any more
+    int ungefragte = 0;            ///< exchanges before whose request other bytes had come
+    int beigaben = 0;              ///< replies with other bytes beside them
     int fremdeAnfragen = 0;        ///< exchanges in which another master's request was heard
-    int eigenmaechtige = 0;        ///< exchanges in which the controller sent a data block by itself
-    int gebrocheneZeichen = 0;     ///< bytes in replies that failed which the system marked as broken ("?")
+    int datenbloecke = 0;          ///< exchanges in which a data block was heard that nobody had asked for
+    int gebrochene = 0;            ///< replies that failed with bytes that the system marked as broken ("?")
     bool abgebrochen = false;
     bool portVerloren = false; ///< the line disappeared
     std::string portfehler{};  ///< why the port could not be opened, in words; empty when it could
@@ -88,9 +90,10 @@ enum class Deutungsart {
     KeineAntwort,   ///< never anything came
     Echo,           ///< what is sent comes back
     ZweiterMaster,  ///< another master is on the line
-    Autosend,       ///< the controller sends by itself
+    Autosend,       ///< somebody sends unasked, most likely the controller itself
     Format,         ///< speed or parity is wrong
     Reflexion,      ///< replies arrive damaged
+    Spaet,          ///< replies come late
     Aussetzer,      ///< replies are missing now and then
     Verzoegerung,   ///< the adapter holds bytes back
 };

@@ -27,7 +27,6 @@ enum class Suchergebnis {
     Stille,           ///< nothing came
     Unverstanden,     ///< something came that was no reply
     Echo,             ///< what was sent came back, and nothing else
-    Uebergangen,      ///< not tried: the port could not be opened before
 };
 
 struct Suchstand {
@@ -69,9 +68,10 @@ std::span<const std::string> Suchformate();
 std::vector<Suchversuch> Suchfolge(const std::vector<std::string>& geraete);
 
 /// Looks for the controller on these devices and ends with the first that answers. Nothing but identification
-/// requests is sent. A try takes 0.4 s at most at 38400 bit/s, and at slower formats as much longer as the
-/// bytes need. Device, port number and line format are those of before at the end, and the port is closed.
-/// Must not run while the port is in use.
+/// requests is sent. A port that cannot be opened is not tried again; a line on which something is said that
+/// is no reply is asked up to three times, since a controller may be sending by itself. A try takes 0.4 s at
+/// most at 38400 bit/s, and at slower formats as much longer as the bytes need. Device, port number and line
+/// format are those of before at the end, and the port is closed. Must not run while the port is in use.
 Suchfund SucheSteuergeraet(const std::vector<std::string>& geraete, Suchzeiger& zeiger);
 
 /// The same over tries of one's own choice, in their order.

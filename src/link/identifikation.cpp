@@ -1,5 +1,7 @@
 #include "identifikation.h"
 
+#include "zeichensatz.h"
+
 namespace varnoth {
 
 void VerteileIdenttext(const std::string& text, Identifikation& ident) {
@@ -9,6 +11,13 @@ void VerteileIdenttext(const std::string& text, Identifikation& ident) {
         *feld = rest.substr(0, ende);
         rest.erase(0, ende + 1);
     }
+}
+
+std::string IdenttextAlsUtf8(const std::string& text) {
+    std::string utf8;
+    for (const char zeichen : text)
+        utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
+    return utf8;
 }
 
 } // namespace varnoth

@@ -23,4 +23,7 @@ struct Identifikation {
 /// Splits the reply's text at ";" into the record's three texts; missing ones become empty.
 void VerteileIdenttext(const std::string& text, Identifikation& ident);
 
+/// One of the record's texts as UTF-8.
+std::string IdenttextAlsUtf8(const std::string& text);
+
 } // namespace varnoth

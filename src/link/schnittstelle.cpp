@@ -20,6 +20,7 @@ constexpr Zeit LaengstesLeeren = std::chrono::seconds(1);
 
 struct Zustand {
     std::int16_t comPort = 1;
+    std::string geraet{};
     std::string comSettings = StandardComSettings;
     Boolean portIstOffen = False;
     bool sollOffenSein = false;
@@ -105,6 +106,7 @@ void SetzePort(SeriellerPort* port) {
     derPort = port;
     if (derPort != nullptr)
         derPort->SetzeEreignisbehandlung(BehandleCommEreignis);
+    SetzeGeraet(zustand.geraet);
 }
 
 void SetzeComPort(std::int16_t nummer) {
@@ -113,6 +115,16 @@ void SetzeComPort(std::int16_t nummer) {
 
 std::int16_t GetComPort() {
     return zustand.comPort;
+}
+
+void SetzeGeraet(const std::string& pfad) {
+    zustand.geraet = pfad;
+    if (derPort != nullptr)
+        derPort->SetzeGeraet(pfad);
+}
+
+const std::string& GetGeraet() {
+    return zustand.geraet;
 }
 
 void SetzeComSettings(const std::string& einstellungen) {

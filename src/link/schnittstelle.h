@@ -25,6 +25,9 @@ constexpr std::int16_t GueltigerComPort(int nummer) {
 /// Port number for the next OpenCommPort; 1..4 are known.
 void SetzeComPort(std::int16_t nummer);
 std::int16_t GetComPort();
+/// Device that every port number means from the next OpenCommPort on; empty: the one of the settings.
+void SetzeGeraet(const std::string& pfad);
+const std::string& GetGeraet();
 /// Settings string for the next OpenCommPort; empty stands for the standard.
 void SetzeComSettings(const std::string& einstellungen);
 const std::string& GetComSettings();

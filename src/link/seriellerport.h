@@ -24,6 +24,9 @@ public:
     SeriellerPort& operator=(const SeriellerPort&) = delete;
     virtual ~SeriellerPort() = default;
 
+    /// Names the device that every number means from the next Oeffne on; empty: the one that the settings
+    /// name. A port that leads to no device of the system does not care.
+    virtual void SetzeGeraet(const std::string& /*pfad*/) {}
     /// Opens port 1..4 with a settings string such as "38400,n,8,2", without handshaking, RTS and DTR on.
     /// False when it cannot be opened; Fehlertext then says why.
     virtual bool Oeffne(int nummer, const std::string& einstellungen) = 0;

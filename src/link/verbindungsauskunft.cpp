@@ -43,20 +43,20 @@ std::string Anschlusszeile(const Anschluss& anschluss) {
     return LadeTextMit(TextAnschluss, {port, anschluss.geraet, format});
 }
 
-std::string OhneRecht(const Anschluss& anschluss, const Portbefund& befund) {
+std::string OhneRecht(const std::string& geraet, const Portbefund& befund, const std::string& fehlertext) {
     if (befund.eigentuemer.empty()) // not even its folder may be looked into
-        return LadeTextMit(TextSystemfehler, {anschluss.geraet, modSchnittstelle::GetPortfehler()});
+        return LadeTextMit(TextSystemfehler, {geraet, fehlertext});
     if (befund.gruppe.empty())
-        return LadeTextMit(TextKeinRecht, {anschluss.geraet, befund.nutzer, befund.eigentuemer});
+        return LadeTextMit(TextKeinRecht, {geraet, befund.nutzer, befund.eigentuemer});
     if (befund.gruppeErstNachAnmeldung)
         return LadeTextMit(TextNeuAnmelden, {befund.nutzer, befund.gruppe});
-    return LadeTextMit(TextGruppeBeitreten, {befund.nutzer, befund.gruppe, anschluss.geraet});
+    return LadeTextMit(TextGruppeBeitreten, {befund.nutzer, befund.gruppe, geraet});
 }
 
-std::string Belegt(const Anschluss& anschluss, const Portbefund& befund) {
+std::string Belegt(const std::string& geraet, const Portbefund& befund) {
     if (befund.prozesse.empty())
-        return LadeTextMit(TextBelegt, {anschluss.geraet});
-    return LadeTextMit(TextBelegtVon, {anschluss.geraet, Liste(befund.prozesse)});
+        return LadeTextMit(TextBelegt, {geraet});
+    return LadeTextMit(TextBelegtVon, {geraet, Liste(befund.prozesse)});
 }
 
 /// What the line itself tells, where nothing stands in the way of the port.
@@ -79,25 +79,6 @@ std::string UrsacheAufDerLeitung() {
     return LadeText(TextEcho);
 }
 
-std::string Ursache(const Anschluss& anschluss, const Portbefund& befund) {
-    switch (befund.hindernis) {
-    case Hindernis::Einstellung:
-        return KeinLeitungsformat(modSchnittstelle::GetComSettings());
-    case Hindernis::Fehlt:
-        return LadeTextMit(TextFehlt, {anschluss.geraet});
-    case Hindernis::KeinRecht:
-        return OhneRecht(anschluss, befund);
-    case Hindernis::Belegt:
-        return Belegt(anschluss, befund);
-    case Hindernis::Systemfehler:
-        return LadeTextMit(TextSystemfehler, {anschluss.geraet, modSchnittstelle::GetPortfehler()});
-    case Hindernis::Keines:
-        break;
-    }
-    // Another program at the same line takes the replies.
-    return befund.prozesse.empty() ? UrsacheAufDerLeitung() : Belegt(anschluss, befund);
-}
-
 std::string Zaehlung() {
     const auto& anzahl = modLeitungsstatistik::GetStand().anzahl;
     const auto Zahl = [&](Austauschende ende) {
@@ -114,8 +95,10 @@ Verbindungsauskunft LiesVerbindungsauskunft() {
     const Anschluss anschluss = modSchnittstelle::GetAnschluss();
     const Portbefund befund = modSchnittstelle::GetPortbefund();
     const std::string zeile = Anschlusszeile(anschluss);
-    return {
-        .anschluss = zeile, .ursache = Ursache(anschluss, befund), .einzelheiten = zeile + "\n" + Zaehlung()};
+    const std::string amPort = Portursache(anschluss.geraet, befund, modSchnittstelle::GetPortfehler());
+    return {.anschluss = zeile,
+            .ursache = amPort.empty() ? UrsacheAufDerLeitung() : amPort,
+            .einzelheiten = zeile + "\n" + Zaehlung()};
 }
 
 std::optional<Verbindungsauskunft> AuskunftNachFehlschlag() {
@@ -123,6 +106,25 @@ std::optional<Verbindungsauskunft> AuskunftNachFehlschlag() {
     if (!ende || *ende == Austauschende::Gelungen)
         return std::nullopt;
     return LiesVerbindungsauskunft();
+}
+
+std::string Portursache(const std::string& geraet, const Portbefund& befund, const std::string& fehlertext) {
+    switch (befund.hindernis) {
+    case Hindernis::Einstellung:
+        return KeinLeitungsformat(modSchnittstelle::GetComSettings());
+    case Hindernis::Fehlt:
+        return LadeTextMit(TextFehlt, {geraet});
+    case Hindernis::KeinRecht:
+        return OhneRecht(geraet, befund, fehlertext);
+    case Hindernis::Belegt:
+        return Belegt(geraet, befund);
+    case Hindernis::Systemfehler:
+        return LadeTextMit(TextSystemfehler, {geraet, fehlertext});
+    case Hindernis::Keines:
+        break;
+    }
+    // Another program at the same line takes the replies.
+    return befund.prozesse.empty() ? std::string() : Belegt(geraet, befund);
 }
 
 std::string KeinLeitungsformat(const std::string& einstellung) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "anschluss.h"
 #include "umgebung.h"
 
 #include <optional>
@@ -20,6 +21,11 @@ Verbindungsauskunft LiesVerbindungsauskunft();
 
 /// The same where the last exchange has failed; nothing after one that got its reply, and before any.
 std::optional<Verbindungsauskunft> AuskunftNachFehlschlag();
+
+/// What stands in the way of a device, in words of the current language; empty where nothing does that the
+/// finding tells of. Where the line format is wrong, it is the one in use.
+/// @param fehlertext why it could not be opened, as the port says it
+std::string Portursache(const std::string& geraet, const Portbefund& befund, const std::string& fehlertext);
 
 /// Says that a settings string is no line format, and what is expected.
 std::string KeinLeitungsformat(const std::string& einstellung);

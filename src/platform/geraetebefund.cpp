@@ -6,14 +6,11 @@
 #include <grp.h>
 #include <pwd.h>
 #include <sys/stat.h>
-#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
-#include <fstream>
-#include <optional>
+#include <vector>
 #endif
 
 namespace varnoth {
@@ -21,8 +18,6 @@ namespace varnoth {
 #ifdef Q_OS_UNIX
 
 namespace {
-
-namespace fs = std::filesystem;
 
 std::string Nutzername(uid_t nummer) {
     const passwd* const eintrag = getpwuid(nummer);
@@ -65,41 +60,6 @@ Portbefund OhneRecht(const struct stat& geraet) {
     return befund;
 }
 
-bool IstGeraet(const fs::path& eintrag, dev_t geraet) {
-    struct stat dahinter {};
-    return stat(eintrag.c_str(), &dahinter) == 0 && S_ISCHR(dahinter.st_mode) && dahinter.st_rdev == geraet;
-}
-
-bool IstPseudoterminal(dev_t geraet) {
-    constexpr unsigned Erstes = 136, Letztes = 143; // major numbers
-    return major(geraet) >= Erstes && major(geraet) <= Letztes;
-}
-
-/// A process that holds the far end of pseudo terminals stands for what is connected: it takes nobody's
-/// replies.
-bool HatOffen(const fs::path& prozess, dev_t geraet) {
-    const dev_t fernesEnde = makedev(5, 2);
-    bool gefunden = false;
-    std::error_code fehler;
-    for (fs::directory_iterator eintrag(prozess / "fd", fehler), ende; !fehler && eintrag != ende;
-         eintrag.increment(fehler)) {
-        if (IstPseudoterminal(geraet) && IstGeraet(eintrag->path(), fernesEnde))
-            return false;
-        gefunden = gefunden || IstGeraet(eintrag->path(), geraet);
-    }
-    return gefunden;
-}
-
-bool IstZahl(const std::string& text) {
-    return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-}
-
-std::string Prozessname(const fs::path& prozess) {
-    std::string name;
-    std::getline(std::ifstream(prozess / "comm"), name);
-    return name;
-}
-
 } // namespace
 
 Portbefund BefundDesGeraets(const std::string& pfad) {
@@ -114,30 +74,9 @@ Portbefund BefundDesGeraets(const std::string& pfad) {
     return {};
 }
 
-std::vector<std::string> ProzesseAn(const std::string& pfad) {
-    struct stat geraet {};
-    if (stat(pfad.c_str(), &geraet) != 0 || !S_ISCHR(geraet.st_mode))
-        return {};
-    std::vector<std::string> prozesse;
-    std::error_code fehler;
-    for (fs::directory_iterator eintrag("/proc", fehler), ende; !fehler && eintrag != ende;
-         eintrag.increment(fehler)) {
-        const std::string nummer = eintrag->path().filename().string();
-        if (!IstZahl(nummer) || nummer == std::to_string(getpid()) ||
-            !HatOffen(eintrag->path(), geraet.st_rdev))
-            continue;
-        prozesse.push_back(Prozessname(eintrag->path()) + " (" + nummer + ")");
-    }
-    return prozesse;
-}
-
 #else
 
 Portbefund BefundDesGeraets(const std::string& /*pfad*/) {
-    return {};
-}
-
-std::vector<std::string> ProzesseAn(const std::string& /*pfad*/) {
     return {};
 }
 

@@ -3,15 +3,11 @@
 #include "anschluss.h"
 
 #include <string>
-#include <vector>
 
 namespace varnoth {
 
 /// What stands in the way of opening a device, as far as its path and its rights tell: it is not there, or
 /// this user may not open it, with who may. It is not opened for that.
 Portbefund BefundDesGeraets(const std::string& pfad);
-
-/// The other processes that have a device open, each as "name (number)", as far as this user may know.
-std::vector<std::string> ProzesseAn(const std::string& pfad);
 
 } // namespace varnoth

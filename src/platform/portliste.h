@@ -46,8 +46,4 @@ private:
     int seitProzessen = -1; ///< looks since processes were looked for; -1: never
 };
 
-/// Sets the latency timer of an adapter to 1 ms. Gives why that was not possible, in the current language;
-/// empty when it is done.
-std::string VerkuerzeVerzoegerung(const Portangabe& port);
-
 } // namespace varnoth

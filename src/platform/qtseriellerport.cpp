@@ -2,6 +2,7 @@
 
 #include "geraetebefund.h"
 #include "geraetepfade.h"
+#include "portbenutzer.h"
 #include "porteinstellungen.h"
 #include "systemfehler.h"
 #include "verbindungsauskunft.h"
@@ -171,18 +172,39 @@ bool QtSeriellerPort::Oeffne(int nummer, const std::string& einstellungen) {
         falscheEinstellung = einstellungen;
         return false;
     }
-    port.setPortName(QString::fromStdString(Geraetepfad(nummer)));
+    port.setPortName(QString::fromStdString(Pfad(nummer)));
     Stelle(port, *gelesen);
-    errno = 0;
-    const bool offen = port.open(QIODevice::ReadWrite);
-    const int systemnummer = errno;
-    oeffnungsfehler = offen ? QSerialPort::NoError : port.error();
-    fehlernummer = Fehlernummer(oeffnungsfehler, systemnummer);
+    const bool offen = OeffneAlsEinziger(Pfad(nummer));
     marken.Vergiss();
     markiert = offen && gelesen->paritaet != Paritaet::Keine && MarkiereGebrochene(port);
     if (offen)
         SchalteLeitungenEin();
     return offen;
+}
+
+/// Opens the port unless another program of ours has it. Notes why it cannot be opened.
+bool QtSeriellerPort::OeffneAlsEinziger(const std::string& pfad) {
+    if (!sperre.Nimm(pfad)) {
+        oeffnungsfehler = QSerialPort::PermissionError;
+        fehlernummer = EBUSY;
+        return false;
+    }
+    errno = 0;
+    const bool offen = port.open(QIODevice::ReadWrite);
+    const int systemnummer = errno;
+    oeffnungsfehler = offen ? QSerialPort::NoError : port.error();
+    fehlernummer = Fehlernummer(oeffnungsfehler, systemnummer);
+    if (!offen)
+        sperre.Gib();
+    return offen;
+}
+
+void QtSeriellerPort::SetzeGeraet(const std::string& pfad) {
+    genanntes = pfad;
+}
+
+std::string QtSeriellerPort::Pfad(int nummer) const {
+    return genanntes.empty() ? Geraetepfad(nummer) : genanntes;
 }
 
 std::string QtSeriellerPort::Fehlertext() const {
@@ -201,6 +223,7 @@ void QtSeriellerPort::SchalteLeitungenEin() {
 }
 
 void QtSeriellerPort::Schliesse() {
+    sperre.Gib(); // first, so that the line is let go when the port is closed
     if (port.isOpen())
         port.close();
 }
@@ -216,13 +239,13 @@ bool QtSeriellerPort::IstOffen() {
 }
 
 Anschluss QtSeriellerPort::AnschlussVon(int nummer) const {
-    return {.geraet = Geraetepfad(nummer)};
+    return {.geraet = Pfad(nummer)};
 }
 
 Portbefund QtSeriellerPort::BefundVon(int nummer) const {
     if (falscheEinstellung)
         return {.hindernis = Hindernis::Einstellung};
-    const std::string pfad = Geraetepfad(nummer);
+    const std::string pfad = Pfad(nummer);
     Portbefund befund = BefundDesGeraets(pfad);
     befund.prozesse = ProzesseAn(pfad);
     if (befund.hindernis == Hindernis::Keines)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "paritaetsmarken.h"
+#include "portsperre.h"
 #include "seriellerport.h"
 
 #include <QSerialPort>
@@ -9,14 +10,16 @@
 
 namespace varnoth {
 
-/// A serial port of the system. A line that disappears closes the port at the first sign of it. Where the
-/// line has a parity bit, '?' is read in place of a byte that arrived broken.
+/// A serial port of the system, locked while it is open (Portsperre). A line that disappears closes the port
+/// at the first sign of it. Where the line has a parity bit, '?' is read in place of a byte that arrived
+/// broken.
 class QtSeriellerPort : public SeriellerPort {
 public:
     QtSeriellerPort();
 
     bool Oeffne(int nummer, const std::string& einstellungen) override;
     void Schliesse() override;
+    void SetzeGeraet(const std::string& pfad) override;
     bool IstOffen() override;
     std::string Fehlertext() const override;
     Anschluss AnschlussVon(int nummer) const override;
@@ -32,6 +35,8 @@ public:
     void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
 
 private:
+    std::string Pfad(int nummer) const;
+    bool OeffneAlsEinziger(const std::string& pfad);
     Hindernis HindernisNachFehler() const;
     void BeiFehler(QSerialPort::SerialPortError fehler);
     void BeiEingang();
@@ -40,6 +45,8 @@ private:
     void UebergibUndMale();
 
     QSerialPort port;
+    Portsperre sperre;
+    std::string genanntes; // the device that all numbers mean; empty: what the settings say
     Paritaetsmarken marken;
     bool markiert = false; // the driver marks broken bytes
     std::function<void(int)> ereignisbehandlung;

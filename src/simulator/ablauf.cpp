@@ -49,6 +49,13 @@ void WeckePuenktlich() {
 #endif
 }
 
+/// What a receiver in another format makes of the characters.
+void Verstuemmle(Bytes& zeichen) {
+    constexpr std::uint8_t AndereBits = 0xA5;
+    for (auto& eines : zeichen)
+        eines ^= AndereBits;
+}
+
 timespec AlsTimespec(std::chrono::nanoseconds dauer) {
     const auto sekunden = std::chrono::floor<std::chrono::seconds>(dauer);
     return {static_cast<time_t>(sekunden.count()), static_cast<long>((dauer - sekunden).count())};
@@ -57,8 +64,8 @@ timespec AlsTimespec(std::chrono::nanoseconds dauer) {
 } // namespace
 
 Ablauf::Ablauf(const Optionen& optionen)
-    : schlafmaske(RichteSignaleEin()), simulator(MitProtokoll(optionen)), pty(optionen.verknuepfung),
-      kanal(optionen.steuerkanal) {
+    : schlafmaske(RichteSignaleEin()), simulator(MitProtokoll(optionen)), format(optionen.aufbau.format),
+      echo(optionen.echo), pty(optionen.verknuepfung), kanal(optionen.steuerkanal) {
     WeckePuenktlich();
     pty.Stecke();
 }
@@ -112,14 +119,26 @@ void Ablauf::LiesAnfragen(const std::vector<pollfd>& liste) {
     if ((liste.front().revents & POLLIN) == 0)
         return;
     const Zeit jetzt = Jetzt();
-    simulator.Empfange(pty.Lies(), jetzt);
+    const auto zeichen = pty.Lies();
+    if (WirdVerstanden())
+        simulator.Empfange(zeichen, jetzt);
+    if (echo)
+        pty.Schreibe(zeichen);
+}
+
+bool Ablauf::WirdVerstanden() const {
+    return !format || pty.IstEingestelltAuf(*format);
 }
 
 void Ablauf::SendeFaelliges() {
     const auto faellig = simulator.NaechsteFaelligkeit();
     const Zeit jetzt = Jetzt();
-    if (faellig && *faellig <= jetzt)
-        pty.Schreibe(simulator.Entnimm(jetzt));
+    if (!faellig || *faellig > jetzt)
+        return;
+    auto zeichen = simulator.Entnimm(jetzt);
+    if (!WirdVerstanden())
+        Verstuemmle(zeichen);
+    pty.Schreibe(zeichen);
 }
 
 std::string Ablauf::FuehreAus(std::string_view zeile) {

@@ -27,6 +27,7 @@ private:
     void Schlafe(std::vector<pollfd>& liste);
     void LiesAnfragen(const std::vector<pollfd>& liste);
     void SendeFaelliges();
+    bool WirdVerstanden() const;
     std::string FuehreAus(std::string_view zeile);
     Aufbau MitProtokoll(const Optionen& optionen);
 
@@ -34,6 +35,8 @@ private:
     sigset_t schlafmaske{};
     Dateideskriptor protokoll;
     Simulator simulator;
+    std::optional<Zeichenformat> format;
+    bool echo;
     Ptyserver pty;
     Steuerkanal kanal;
     Zeit weckdauer{0};

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "stoerungen.h"
+#include "zeichenformat.h"
 
 #include <array>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +28,7 @@ struct Aufbau {
     int adresse = 1;                                        ///< station address, 1..240
     std::uint64_t startwert = 1;                            ///< seed of the scene
     int baud = 38400;
+    std::optional<Zeichenformat> format{}; ///< the only one in which it is understood; nothing: any
     int los = 8;          ///< bytes a UART's buffer gathers before it hands them over, at least 1
     bool getaktet = true; ///< bytes take their time on the wire; otherwise a reply is there at once
     Zeit bedenkzeit{0};   ///< from the end of a request to the start of its reply

@@ -48,6 +48,32 @@ std::string Linkziel(const std::string& geraet) {
     return std::string(Zielordner) + geraet.substr(Geraeteordner.size());
 }
 
+speed_t Systemgeschwindigkeit(int baud) {
+    switch (baud) {
+    case 1200:
+        return B1200;
+    case 2400:
+        return B2400;
+    case 4800:
+        return B4800;
+    case 9600:
+        return B9600;
+    case 19200:
+        return B19200;
+    case 38400:
+        return B38400;
+    default:
+        return B57600;
+    }
+}
+
+/// The parity that a terminal checks. Of a parity bit a pseudo terminal keeps nothing else.
+char GepruefteParitaet(const termios& einstellung) {
+    if ((einstellung.c_iflag & INPCK) == 0)
+        return 'n';
+    return (einstellung.c_cflag & PARODD) != 0 ? 'o' : 'e';
+}
+
 bool IstEigene(const std::string& verknuepfung) {
     struct stat da {};
     std::error_code fehler;
@@ -100,6 +126,13 @@ bool Ptyserver::VerknuepfungFuehrtHierher() const {
     std::error_code fehler;
     return !verknuepfung.empty() && !geraet.empty() &&
            fs::read_symlink(verknuepfung, fehler) == Linkziel(geraet);
+}
+
+bool Ptyserver::IstEingestelltAuf(const Zeichenformat& format) const {
+    termios einstellung{};
+    return ::tcgetattr(slave.Nummer(), &einstellung) == 0 &&
+           ::cfgetospeed(&einstellung) == Systemgeschwindigkeit(format.baud) &&
+           GepruefteParitaet(einstellung) == format.paritaet;
 }
 
 std::vector<std::uint8_t> Ptyserver::Lies() {

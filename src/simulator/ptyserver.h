@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dateideskriptor.h"
+#include "zeichenformat.h"
 
 #include <cstdint>
 #include <span>
@@ -28,6 +29,9 @@ public:
     const std::string& Geraet() const { return geraet; }
     /// Descriptor of the controller's end for poll(), -1 while unplugged.
     int Deskriptor() const { return master.Nummer(); }
+    /// Whether the master has set the terminal to the speed and parity of the format; not while unplugged.
+    /// Stop bits do not matter, since a receiver looks at the first alone.
+    bool IstEingestelltAuf(const Zeichenformat& format) const;
     /// Takes what the master has sent.
     std::vector<std::uint8_t> Lies();
     /// Hands bytes to the master. What it leaves unread beyond the terminal's buffer is lost, as on a real

@@ -27,6 +27,11 @@ void NimmStrahlen(Optionen& optionen, std::string_view wert) {
     optionen.aufbau.strahlen = strahlen;
 }
 
+void NimmFormat(Optionen& optionen, std::string_view wert) {
+    optionen.aufbau.format = LiesZeichenformat(wert, "--format");
+    optionen.aufbau.baud = optionen.aufbau.format->baud;
+}
+
 void NimmPasswort(Optionen& optionen, std::string_view wert) {
     if (wert.size() != Passwortlaenge)
         throw std::invalid_argument("--password: exactly 16 characters");
@@ -44,6 +49,9 @@ constexpr Option AlleOptionen[] = {
      [](Optionen& o, std::string_view wert) { o.aufbau.adresse = LiesZahl(wert, "--address", 1, 240); }},
     {"--baud", "N", "speed of the line (38400)",
      [](Optionen& o, std::string_view wert) { o.aufbau.baud = LiesZahl(wert, "--baud", 300, 4'000'000); }},
+    {"--format", "B,P,8,S", "answer only to a terminal that is set like this: 9600,e,8,1", NimmFormat},
+    {"--echo", "", "send back what comes, as an adapter does that hears itself",
+     [](Optionen& o, std::string_view) { o.echo = true; }},
     {"--lot", "N", "bytes that are handed over together, as a UART's buffer does (8)",
      [](Optionen& o, std::string_view wert) { o.aufbau.los = LiesZahl(wert, "--lot", 1, 4096); }},
     {"--turnaround", "US", "microseconds between request and reply (0)",

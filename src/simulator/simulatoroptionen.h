@@ -13,6 +13,7 @@ struct Optionen {
     std::string verknuepfung{}; ///< path of the symbolic link to the terminal, empty = none
     std::string protokoll{};    ///< path of the log, "-" = standard output, empty = none
     std::string steuerkanal{};  ///< path of the control socket, empty = none
+    bool echo = false;          ///< the adapter hears what it sends
     bool endetMitEltern = false;
     bool hilfe = false;
     bool version = false;

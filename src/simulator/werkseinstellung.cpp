@@ -30,20 +30,7 @@ constexpr Vorgabe Kommunikationsvorgaben[] = {
     {reg::Datenblock + 6, 262}, {reg::Datenblock + 7, 263}, {reg::Autosendformat, 783},
 };
 
-struct Baudcode {
-    int baud;
-    std::uint16_t code;
-};
-
-constexpr Baudcode Baudcodes[] = {{1200, 10},  {2400, 11},  {4800, 12}, {9600, 13},
-                                  {19200, 14}, {38400, 15}, {57600, 16}};
-constexpr std::uint16_t ZweiStopbits = 3 << 8;
 constexpr int ToleranzJeStrahlen = 16;
-
-std::uint16_t Leitungsformat(int baud) {
-    const auto gefunden = std::ranges::find(Baudcodes, baud, &Baudcode::baud);
-    return static_cast<std::uint16_t>(ZweiStopbits | (gefunden == std::end(Baudcodes) ? 0 : gefunden->code));
-}
 
 void RichteOptikteilEin(Registerspeicher& speicher, int teil, int strahlen) {
     for (const auto& [adresse, wert] : SpezifischeVorgaben)
@@ -64,7 +51,8 @@ Registerspeicher Werkseinstellung(const Aufbau& aufbau) {
         RichteOptikteilEin(speicher, teil, aufbau.strahlen[static_cast<std::size_t>(teil)]);
     for (const auto& [adresse, wert] : Kommunikationsvorgaben)
         speicher.Kommunikation(adresse) = wert;
-    speicher.Kommunikation(reg::Leitungsformat) = Leitungsformat(aufbau.baud);
+    speicher.Kommunikation(reg::Leitungsformat) =
+        static_cast<std::uint16_t>(Registerwert(aufbau.format.value_or(Zeichenformat{.baud = aufbau.baud})));
     speicher.Kommunikation(reg::Stationsadresse) = static_cast<std::uint16_t>(aufbau.adresse);
     return speicher;
 }

@@ -35,6 +35,18 @@ TEST_F(SchnittstelleTest, Empty_settings_stand_for_the_standard) {
     EXPECT_EQ(port.geoeffnet[0], (std::pair<int, std::string>{1, "38400,n,8,2"}));
 }
 
+TEST_F(SchnittstelleTest, A_named_device_is_known_to_the_port_in_use_and_to_one_that_is_fitted_in_later) {
+    SetzeGeraet("/dev/named");
+    EXPECT_EQ(port.genanntes, "/dev/named");
+    EXPECT_EQ(GetAnschluss().geraet, "/dev/named");
+    port.genanntes.clear();
+    SetzePort(&port);
+    EXPECT_EQ(port.genanntes, "/dev/named");
+    SetzeGeraet("");
+    EXPECT_EQ(port.genanntes, "");
+    EXPECT_EQ(GetGeraet(), "");
+}
+
 TEST_F(SchnittstelleTest, Opening_an_open_port_closes_it_first) {
     OpenCommPort();
     OpenCommPort();

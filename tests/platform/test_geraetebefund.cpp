@@ -1,6 +1,7 @@
 #include "geraetebefund.h"
 
 #include "kindprozess.h"
+#include "portbenutzer.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>

@@ -32,6 +32,8 @@ TEST(Simulatoroptionen, Are_all_read) {
                              "7",
                              "--baud",
                              "9600",
+                             "--format",
+                             "19200,e,8,1",
                              "--lot",
                              "1",
                              "--turnaround",
@@ -51,13 +53,16 @@ TEST(Simulatoroptionen, Are_all_read) {
                              "crc:2",
                              "--fault",
                              "silence",
+                             "--echo",
                              "--exit-with-parent",
                              "--help",
                              "--version"});
+    EXPECT_TRUE(o.echo);
     EXPECT_EQ(o.verknuepfung, "/a");
     EXPECT_EQ(o.aufbau.strahlen, (std::array{10, 0, 20, 0}));
     EXPECT_EQ(o.aufbau.adresse, 7);
-    EXPECT_EQ(o.aufbau.baud, 9600);
+    EXPECT_EQ(o.aufbau.baud, 19200) << "the format says it";
+    EXPECT_EQ(o.aufbau.format, (Zeichenformat{.baud = 19200, .paritaet = 'e', .stoppbits = 1}));
     EXPECT_EQ(o.aufbau.los, 1);
     EXPECT_EQ(o.aufbau.bedenkzeit, Zeit{300});
     EXPECT_FALSE(o.aufbau.getaktet);
@@ -89,6 +94,12 @@ TEST(Simulatoroptionen, That_are_wrong_are_refused_with_a_sentence) {
                                                                    {"--address", "0"},
                                                                    {"--address", "241"},
                                                                    {"--baud", "0"},
+                                                                   {"--format", "9600,e,8"},
+                                                                   {"--format", "9601,e,8,1"},
+                                                                   {"--format", "9600,x,8,1"},
+                                                                   {"--format", "9600,,8,1"},
+                                                                   {"--format", "9600,e,7,1"},
+                                                                   {"--format", "9600,e,8,3"},
                                                                    {"--lot", "0"},
                                                                    {"--password", "short"},
                                                                    {"--fault", "bogus"}})
@@ -96,8 +107,9 @@ TEST(Simulatoroptionen, That_are_wrong_are_refused_with_a_sentence) {
 }
 
 TEST(Simulatoroptionen, Are_all_named_by_the_help) {
-    for (const char* name : {"--link", "--beams", "--address", "--baud", "--lot", "--unpaced", "--seed",
-                             "--store", "--password", "--log", "--control", "--fault", "--exit-with-parent"})
+    for (const char* name :
+         {"--link", "--beams", "--address", "--baud", "--format", "--echo", "--lot", "--unpaced", "--seed",
+          "--store", "--password", "--log", "--control", "--fault", "--exit-with-parent"})
         EXPECT_NE(Hilfetext().find(name), std::string::npos) << name;
 }
 

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <sys/wait.h>
+#include <termios.h>
 
 #include <gtest/gtest.h>
 
@@ -83,6 +84,13 @@ protected:
         }
     }
 
+    void StarteNeu(std::vector<std::string> weitere) {
+        ::kill(kind, SIGTERM);
+        Warte();
+        Starte(std::move(weitere));
+        ersteZeile = LiesZeileVon(ausgabe.Nummer());
+    }
+
     int Warte() {
         int stand = -1;
         if (kind > 0)
@@ -132,6 +140,38 @@ TEST_F(Simulatorprogramm, Answers_over_the_terminal_to_one_client_after_the_othe
         EXPECT_EQ(Crc(kennung), 0);
         EXPECT_EQ(Frage(leitung.Nummer(), Leseanfrage(0, 1), 7), MitCrc({1, 3, 2, 0, 50}));
     }
+}
+
+TEST_F(Simulatorprogramm, Answers_in_its_own_format_alone) {
+    StarteNeu({"--format", "9600,e,8,1", "--echo"});
+    const Dateideskriptor leitung = OeffneLeitung();
+    const Bytes frage = Leseanfrage(0, 1);
+    const auto FrageMit = [&](speed_t baud, tcflag_t pruefung, tcflag_t paritaet) {
+        termios einstellung{};
+        ::tcgetattr(leitung.Nummer(), &einstellung);
+        ::cfmakeraw(&einstellung);
+        einstellung.c_iflag = pruefung;
+        einstellung.c_cflag = CS8 | CREAD | paritaet;
+        ::cfsetspeed(&einstellung, baud);
+        EXPECT_EQ(::tcsetattr(leitung.Nummer(), TCSANOW, &einstellung), 0);
+        return Frage(leitung.Nummer(), frage, frage.size());
+    };
+    EXPECT_EQ(FrageMit(B9600, 0, CSTOPB), frage);
+    EXPECT_EQ(FrageMit(B9600, INPCK, PARENB | PARODD), frage);
+    EXPECT_EQ(FrageMit(B19200, INPCK, PARENB), frage);
+    EXPECT_TRUE(Befehl("stats").starts_with("ok 03=0 ")) << Befehl("stats");
+    EXPECT_EQ(FrageMit(B9600, INPCK, PARENB), frage);
+    const std::string antwort = LiesVon(leitung.Nummer(), 7);
+    EXPECT_EQ(Bytes(antwort.begin(), antwort.end()), MitCrc({1, 3, 2, 0, 50}));
+    EXPECT_EQ(Befehl("get communication 2"), "ok " + std::to_string(13 + 0x100 + 0x800) + "\n");
+}
+
+TEST_F(Simulatorprogramm, Sends_back_what_comes_when_told_to_echo) {
+    StarteNeu({"--echo"});
+    const Dateideskriptor leitung = OeffneLeitung();
+    Bytes erwartet = Leseanfrage(0, 1);
+    std::ranges::copy(MitCrc({1, 3, 2, 0, 50}), std::back_inserter(erwartet));
+    EXPECT_EQ(Frage(leitung.Nummer(), Leseanfrage(0, 1), erwartet.size()), erwartet);
 }
 
 TEST_F(Simulatorprogramm, Takes_commands_at_its_control_channel) {

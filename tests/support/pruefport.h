@@ -28,9 +28,11 @@ public:
 
     bool Oeffne(int nummer, const std::string& einstellungen) override {
         geoeffnet.emplace_back(nummer, einstellungen);
-        offen = oeffnenGelingt;
+        format = einstellungen;
+        offen = oeffnet ? oeffnet(genanntes, einstellungen) : oeffnenGelingt;
         return offen;
     }
+    void SetzeGeraet(const std::string& pfad) override { genanntes = pfad; }
     void Schliesse() override {
         ++geschlossen;
         geschlossenUm = umgebung.uhr;
@@ -38,7 +40,9 @@ public:
     }
     bool IstOffen() override { return offen; }
     std::string Fehlertext() const override { return offen ? "" : "no such port"; }
-    Anschluss AnschlussVon(int /*nummer*/) const override { return anschluss; }
+    Anschluss AnschlussVon(int /*nummer*/) const override {
+        return genanntes.empty() || anschluss.simuliert ? anschluss : Anschluss{.geraet = genanntes};
+    }
     Portbefund BefundVon(int /*nummer*/) const override { return befund; }
     void Verwirf() override {
         NimmAngekommenes();
@@ -83,6 +87,9 @@ public:
 
     bool offen = false;
     bool oeffnenGelingt = true;
+    std::function<bool(const std::string& geraet, const std::string& format)> oeffnet; ///< instead
+    std::string genanntes; ///< the device that was named
+    std::string format;    ///< of the last opening
     Anschluss anschluss{.geraet = "/dev/pruefung"};
     Portbefund befund;
     Zeit laengsteWartezeit = Zeit::max(); ///< after which a wait comes back

@@ -1,0 +1,116 @@
+// The command that lists the ports of the machine.
+
+#include "auftraege.h"
+#include "geraetepfade.h"
+#include "lauf.h"
+#include "portliste.h"
+#include "texte.h"
+#include "textmitwerten.h"
+#include "verbindungsauskunft.h"
+
+#include <algorithm>
+
+namespace varnoth::ctl {
+
+namespace {
+
+constexpr std::int16_t TextKeinPort = 8277;
+constexpr std::int16_t TextFrei = 8278;
+constexpr std::int16_t TextSeriennummer = 8279;
+constexpr int Portnummern = 4;
+
+/// The numbers of COM1 to COM4 that mean the port.
+std::vector<std::int32_t> Nummern(const Portangabe& port) {
+    std::vector<std::int32_t> nummern;
+    for (int nummer = 1; nummer <= Portnummern; ++nummer) {
+        const std::string pfad = Geraetepfad(nummer);
+        if (pfad == port.geraet || std::ranges::find(port.stabileNamen, pfad) != port.stabileNamen.end())
+            nummern.push_back(nummer);
+    }
+    return nummern;
+}
+
+std::string Ursache(const Portangabe& port) {
+    return Portursache(port.geraet, port.befund, {});
+}
+
+/// What the port is, in one line: "/dev/ttyUSB0: FT232R USB UART, FTDI, serial number A50285BI, COM1".
+std::string Kopfzeile(const Portangabe& port) {
+    std::vector<std::string> angaben{port.bezeichnung, port.hersteller};
+    if (!port.seriennummer.empty())
+        angaben.push_back(LadeTextMit(TextSeriennummer, {port.seriennummer}));
+    for (const std::int32_t nummer : Nummern(port))
+        angaben.push_back("COM" + std::to_string(nummer));
+    std::string zeile;
+    for (const std::string& angabe : angaben)
+        if (!angabe.empty())
+            zeile += (zeile.empty() ? ": " : ", ") + angabe;
+    return port.geraet + zeile + "\n";
+}
+
+std::string Absatz(const Portangabe& port) {
+    const std::string ursache = Ursache(port);
+    std::string text = Kopfzeile(port) + "  " + (ursache.empty() ? LadeText(TextFrei) : ursache) + "\n";
+    for (const std::string& name : port.stabileNamen)
+        text += "  " + name + "\n";
+    return text;
+}
+
+const char* Zustand(const Portbefund& befund) {
+    switch (befund.hindernis) {
+    case Hindernis::Keines:
+        return "free";
+    case Hindernis::Belegt:
+        return "busy";
+    case Hindernis::KeinRecht:
+        return "denied";
+    case Hindernis::Fehlt:
+        return "missing";
+    default:
+        return "error";
+    }
+}
+
+Json Text(const std::string& text) {
+    return Json(text);
+}
+
+Json TextOderNichts(const std::string& text) {
+    return text.empty() ? Json() : Json(text);
+}
+
+Json Zeitgeber(const Portangabe& port) {
+    if (!port.verzoegerungMs)
+        return {};
+    return Json::Objekt(
+        {{"file", port.verzoegerungsdatei}, {"milliseconds", std::int32_t{*port.verzoegerungMs}}});
+}
+
+Json AlsJson(const Portangabe& port) {
+    return Json::Objekt({{"device", port.geraet},
+                         {"product", TextOderNichts(port.bezeichnung)},
+                         {"manufacturer", TextOderNichts(port.hersteller)},
+                         {"serialNumber", TextOderNichts(port.seriennummer)},
+                         {"stableNames", Jsonliste(port.stabileNamen, Text)},
+                         {"com", Json::Zahlen(Nummern(port))},
+                         {"state", Zustand(port.befund)},
+                         {"cause", TextOderNichts(Ursache(port))},
+                         {"processes", Jsonliste(port.befund.prozesse, Text)},
+                         {"latencyTimer", Zeitgeber(port)}});
+}
+
+} // namespace
+
+Ende Ports(Lauf& lauf) {
+    auto ports = LiesPortliste();
+    ErgaenzeProzesse(ports);
+    std::string text;
+    for (const Portangabe& port : ports)
+        text += Absatz(port);
+    lauf.Gib(text, {{"ports", Jsonliste(ports, AlsJson)}});
+    if (ports.empty())
+        lauf.Sage(LadeText(TextKeinPort));
+    return Ende::Erledigt;
+}
+
+} // namespace varnoth::ctl
