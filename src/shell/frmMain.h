@@ -73,7 +73,8 @@ public:
     bool HatUebergebene() const { return !uebergebene.empty(); }
     /// Whether the program is to end, so that nothing more is opened.
     bool Beendet() const { return entladen || befehle.WartetAuf(Befehl::Beenden); }
-    /// Brings the window, minimised or behind others, in front of them.
+    /// Brings the window, minimised or behind others, in front of them, and the dialog that is open before
+    /// it.
     void KommNachVorn();
     /// Connects to the controller and starts live data.
     void Autostart();

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMimeData>
 
 #include <utility>
@@ -21,6 +22,10 @@ namespace {
 
 constexpr std::int16_t TextMehrereDateien = 8810;
 constexpr std::int16_t TextWartetAufDialog = 8811;
+
+std::string Dateiname(const std::string& pfad) {
+    return QFileInfo(QString::fromStdString(pfad)).fileName().toStdString();
+}
 
 } // namespace
 
@@ -33,7 +38,7 @@ void frmMain::Uebergib(std::vector<std::string> dateien) {
     if (dateien.empty() || Beendet())
         return;
     if (QApplication::activeModalWidget() != nullptr)
-        ZeigeStatustext(FeldMeldungen, LadeTextMit(TextWartetAufDialog, {dateien.front()}));
+        ZeigeStatustext(FeldMeldungen, LadeTextMit(TextWartetAufDialog, {Dateiname(dateien.front())}));
     uebergebene.push_back(std::move(dateien));
     StelleUebergebeneAn();
 }
@@ -58,8 +63,12 @@ void frmMain::OeffneUebergebeneDateien() {
 void frmMain::KommNachVorn() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
-    raise();
-    activateWindow();
+    QWidget* const dialog = QApplication::activeModalWidget();
+    for (QWidget* fenster : {static_cast<QWidget*>(this), dialog})
+        if (fenster != nullptr) {
+            fenster->raise();
+            fenster->activateWindow();
+        }
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* ereignis) {

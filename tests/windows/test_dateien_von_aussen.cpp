@@ -149,8 +149,7 @@ TEST_F(DateienVonAussen, While_a_dialog_is_open_a_file_waits_and_that_is_said) {
     const std::string datei = Lege("a.con", 64);
     Sobald("frmInfo", [&](QDialog& dialog) {
         Fenster().Uebergib({datei});
-        EXPECT_EQ(Statusfeld(1).text().toStdString(),
-                  LadeText(8811).substr(0, LadeText(8811).find("%1")) + datei);
+        EXPECT_EQ(Statusfeld(1).text(), "Erst das Fenster vorn schließen: a.con");
         EXPECT_EQ(Strahlen(), 0);
         dialog.accept();
     });
@@ -159,6 +158,15 @@ TEST_F(DateienVonAussen, While_a_dialog_is_open_a_file_waits_and_that_is_said) {
     Fenster().MenuAusführen();
     EXPECT_EQ(Strahlen(), 64);
     EXPECT_EQ(Statusfeld(1).text(), "");
+}
+
+TEST_F(DateienVonAussen, A_dialog_that_is_open_comes_to_the_front_with_the_window) {
+    Sobald("frmInfo", [&](QDialog& dialog) {
+        Fenster().KommNachVorn();
+        EXPECT_TRUE(pruefung::WarteBis([&] { return dialog.isActiveWindow(); }));
+        dialog.accept();
+    });
+    Waehle("mnuInfo");
 }
 
 TEST_F(DateienVonAussen, Without_a_dialog_nothing_is_said_of_waiting) {
