@@ -39,7 +39,7 @@ constexpr const char* Abschnitt = "frmBusprotokoll";
 constexpr const char* Protokollname = "busprotokoll";
 constexpr const char* Supportname = "support";
 constexpr QSize Anfangsgroesse(1080, 680);
-constexpr int Spaltenbreiten[] = {105, 120, 145, 240, 300, 80, 170}; // at 96 dpi
+constexpr int Spaltenbreiten[] = {92, 90, 122, 185, 300, 64, 125}; // at 96 dpi
 
 // Some times a second are as much as anybody can read.
 constexpr int TaktMs = 400;
@@ -95,6 +95,7 @@ void frmBusprotokoll::StellePlatzHer() {
 
 void frmBusprotokoll::RichteTabelleEin() {
     constexpr int Luft = 6;
+    constexpr int Einzelheitenzeilen = 11;
     constexpr int Bezugsaufloesung = 96;
     ui->tblProtokoll->setModel(modell);
     ui->tblProtokoll->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -105,6 +106,7 @@ void frmBusprotokoll::RichteTabelleEin() {
     kopf.setSectionResizeMode(Busmodell::Inhalt, QHeaderView::Stretch);
     kopf.setHighlightSections(false);
     ui->trennung->setStretchFactor(0, 1);
+    ui->trennung->setSizes({Anfangsgroesse.height(), fontMetrics().height() * Einzelheitenzeilen});
 }
 
 void frmBusprotokoll::VerbindeFilter() {

@@ -84,7 +84,7 @@ constexpr Befehlszeile DieBefehle[] = {
      0, 1, "", 9520, "darstellung", 9521, Leistengruppe::Darstellung},
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
-     Leistengruppe::Verbindung},
+     Leistengruppe::Pruefen},
 };
 
 } // namespace

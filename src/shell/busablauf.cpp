@@ -17,9 +17,11 @@ namespace {
 
 constexpr std::size_t GroessteEinstellungen = std::size_t{1} << 20U;
 
+/// What stands in the way is told only where something does.
 std::string Verbindung() {
-    const Verbindungsauskunft auskunft = LiesVerbindungsauskunft();
-    return auskunft.anschluss + "\n" + auskunft.ursache + "\n" + auskunft.einzelheiten;
+    const auto fehlschlag = AuskunftNachFehlschlag();
+    return fehlschlag ? fehlschlag->ursache + "\n" + fehlschlag->einzelheiten
+                      : LiesVerbindungsauskunft().anschluss;
 }
 
 } // namespace

@@ -44,11 +44,15 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     zeile->tut(*this, index);
 }
 
-/// By the text of its menu item or button, for whoever reads later what has happened.
+/// By the text of its button or, where it has none, of its menu item, for whoever reads later what has
+/// happened.
 void frmMain::MerkeBefehl(const Befehlszeile& zeile, int index) const {
     const auto* const aktion =
         findChild<QAction*>(QString::fromStdString(Aktionsname(zeile, index - zeile.ersterIndex)));
-    const QString text = aktion != nullptr ? aktion->text().remove(u'&') : QString();
+    QString text = QString::fromStdString(LadeText(zeile.textId));
+    if (text.isEmpty() && aktion != nullptr)
+        text = aktion->text();
+    text.remove(u'&');
     modEreignisse::Merke(text.isEmpty() ? "(" + std::to_string(static_cast<int>(zeile.befehl)) + ")"
                                         : text.toStdString());
 }

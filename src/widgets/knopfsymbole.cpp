@@ -42,6 +42,8 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"cmdSpeichern", "speichern"},
     {"cmdDrucken", "drucken"},
     {"cmdLoeschen", "loeschen"},
+    {"cmdLeeren", "loeschen"},
+    {"cmdSupport", "bericht"},
     {"cmdVergleichen", "vergleich"},
     {"cmdAenderungen", "vergleich"},
     {"cmdVoriger", "zurueck"},

@@ -37,10 +37,10 @@ TEST(Ereignisse, Are_one_line_each) {
 TEST(Supportbericht, Holds_versions_connection_settings_and_events) {
     modEreignisse::Merke("Verbinden");
     const std::string kopf = Kopf({.programm = "Varnoth Monitor 1.0.0",
-                                   .umfeld = "Qt 6.4\nDebian 12",
+                                   .umfeld = "Monitor 1.0.0\nQt 6.4",
                                    .verbindung = "COM1, /dev/ttyUSB0",
                                    .einstellungen = "[Settings]\nComPort=1\n"});
-    EXPECT_THAT(kopf, HasSubstr("== Versionen ==\nVarnoth Monitor 1.0.0\nQt 6.4\nDebian 12\n"));
+    EXPECT_THAT(kopf, HasSubstr("== Versionen ==\nMonitor 1.0.0\nQt 6.4\n"));
     EXPECT_THAT(kopf, HasSubstr("== Verbindung ==\nCOM1, /dev/ttyUSB0\n"));
     EXPECT_THAT(kopf, HasSubstr("  Verbinden\n"));
     EXPECT_THAT(kopf, HasSubstr("== Einstellungen ==\n[Settings]\nComPort=1\n"));

@@ -322,23 +322,24 @@ struct Protokollzeit : Protokollanbieter {
 /// Two passes of live data, the measured values of the third part chosen.
 QImage Protokoll(Buehne& buehne) {
     constexpr int Durchgaenge = 2;
-    constexpr int Messwerte = 14;
+    constexpr int Messwerte = 15;
     buehne.Hauptfenster();
     Protokollzeit anbieter;
     frmBusprotokoll fenster(anbieter);
     fenster.resize(Protokollgroesse);
     fenster.show();
+    modPolling::StartePolling(); // another picture may have ended it
     for (int i = 0; i < Durchgaenge; ++i)
         modPolling::PollingZyklus();
     buehne.HalteAn();
     Kind<QCheckBox>(fenster, "chkWorte").setChecked(true);
+    auto& halt = Kind<QCheckBox>(fenster, "chkAnhalten");
+    halt.setChecked(true);
+    halt.setChecked(false); // it looks at what has come
+    DieUmgebung().NutzeWartezeit();
     auto& tabelle = Kind<QTableView>(fenster, "tblProtokoll");
-    return buehne.Bild(fenster, [&] {
-        if (tabelle.model()->rowCount() < Messwerte)
-            return false;
-        tabelle.setCurrentIndex(tabelle.model()->index(Messwerte - 1, 0));
-        return true;
-    });
+    tabelle.setCurrentIndex(tabelle.model()->index(Messwerte, 0));
+    return buehne.BildNach(fenster, Sofort);
 }
 
 QImage Info(Buehne& buehne) {

@@ -35,8 +35,8 @@ protected:
         });
         ablauf.Zeige();
         modMithoeren::Gesendet(Zeit(0));
-        modMithoeren::Endet(Austauschart::Auftrag, LeseAnforderung(1, 193, 1), modMithoeren::Ausgang::Ausgeblieben,
-                            true);
+        modMithoeren::Endet(Austauschart::Auftrag, LeseAnforderung(1, 193, 1),
+                            modMithoeren::Ausgang::Ausgeblieben, true);
     }
     ~BusablaufTest() override { SetzeDateiantwort({}); }
 
@@ -58,7 +58,8 @@ protected:
         Fenster().findChild<QPushButton*>(QLatin1String(knopf))->click();
         return pruefung::WarteBis([&] {
             umgebung.ErledigeAufgeschobenes();
-            return !meldung.text().isEmpty() || umgebung.meldungen.size() > gesagt + (knopf == Support ? 1 : 0);
+            return !meldung.text().isEmpty() ||
+                   umgebung.meldungen.size() > gesagt + (knopf == Support ? 1 : 0);
         });
     }
     std::string Geschriebenes() const { return LiesDatei(ziel, 1 << 20).bytes; }

@@ -117,7 +117,8 @@ TEST_F(BusmodellTest, The_result_has_a_colour_of_its_own_only_where_something_we
 }
 
 TEST(Busfarben, Can_be_read_on_light_dark_and_high_contrast_and_tell_two_kinds_of_error_apart) {
-    for (const Erscheinung erscheinung : {Erscheinung::Hell, Erscheinung::Dunkel, Erscheinung::HoherKontrast}) {
+    for (const Erscheinung erscheinung :
+         {Erscheinung::Hell, Erscheinung::Dunkel, Erscheinung::HoherKontrast}) {
         const QPalette palette = *PaletteFuer(erscheinung);
         for (const auto ergebnis : {Austauschergebnis::Zeitueberschreitung, Austauschergebnis::Fremd,
                                     Austauschergebnis::Beantwortet})

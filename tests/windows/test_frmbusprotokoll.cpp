@@ -65,7 +65,6 @@ protected:
     }
     QTimer& Takt() { return *fenster.findChild<QTimer*>({}, Qt::FindDirectChildrenOnly); }
 
-
     template<class Element>
     Element& Kind(const char* name) {
         auto* const element = fenster.findChild<Element*>(QLatin1String(name));
@@ -120,7 +119,8 @@ TEST_F(frmBusprotokollTest, Shows_what_goes_over_the_line_while_it_is_open) {
     Hoere(3);
     EXPECT_TRUE(BisZeilen(3));
     EXPECT_EQ(Text(0, 3), "Global: PNP-Ausgang");
-    EXPECT_THAT(Label("lblStand"), StartsWith("Aufgezeichnet wird, solange dieses Fenster offen ist. 3 Austausche"));
+    EXPECT_THAT(Label("lblStand"),
+                StartsWith("Aufgezeichnet wird, solange dieses Fenster offen ist. 3 Austausche"));
 }
 
 TEST_F(frmBusprotokollTest, Closing_ends_the_recording_and_the_log_stays_for_the_next_time) {
@@ -241,7 +241,8 @@ TEST_F(frmBusprotokollTest, Details_tell_the_chosen_exchange_in_words_and_bytes)
     ASSERT_TRUE(BisZeilen(1));
     EXPECT_EQ(Details(), "");
     Waehle(0);
-    EXPECT_THAT(Details(), HasSubstr("\nRegister: Kommunikation: Stations Adresse\nWerte: 11H\nGesendet: 01 03 40 04"));
+    EXPECT_THAT(Details(),
+                HasSubstr("\nRegister: Kommunikation: Stations Adresse\nWerte: 11H\nGesendet: 01 03 40 04"));
 }
 
 TEST_F(frmBusprotokollTest, A_search_goes_from_the_chosen_row_on_and_around_the_end) {
