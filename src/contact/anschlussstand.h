@@ -36,10 +36,9 @@ struct Anschlussstand {
     std::string offen{};                         ///< the device that this program has open; empty: none
 
     /// The device that the number in use leads to in this run; empty where the built-in controller answers.
-    const std::string& Geraet() const {
-        static const std::string keines;
+    std::string Geraet() const {
         if (simuliert)
-            return keines;
+            return {};
         return geraetDiesesLaufs.empty() ? wahl.Geraet(wahl.nummer) : geraetDiesesLaufs;
     }
 
