@@ -102,7 +102,7 @@ bool StehtNichtImWeg(const Portbefund& befund) {
 } // namespace
 
 const Portangabe* BenutzterPort(const std::vector<Portangabe>& ports, const Anschlussstand& stand) {
-    const std::string& geraet = stand.Geraet();
+    const std::string geraet = stand.Geraet();
     const auto port = std::ranges::find_if(ports, [&](const Portangabe& einer) {
         const auto nummern = ComZu(einer, stand);
         const bool ueberCom =
