@@ -39,7 +39,7 @@ constexpr const char* Abschnitt = "frmBusprotokoll";
 constexpr const char* Protokollname = "busprotokoll";
 constexpr const char* Supportname = "support";
 constexpr QSize Anfangsgroesse(1080, 680);
-constexpr int Spaltenbreiten[] = {92, 90, 122, 185, 300, 64, 125}; // at 96 dpi
+constexpr int Spaltenbreiten[] = {92, 102, 122, 180, 300, 74, 120}; // at 96 dpi
 
 // Some times a second are as much as anybody can read.
 constexpr int TaktMs = 400;

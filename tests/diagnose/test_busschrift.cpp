@@ -56,7 +56,7 @@ TEST_F(BusschriftTest, CSV_is_separated_by_semicolons_in_German_and_by_commas_in
               "\xEF\xBB\xBFNummer;Zeit;Richtung;Funktion;Register;Adresse;Werte;Gesendet;"
               "Empfangen;Umlauf (ms);Ergebnis\r\n");
     EXPECT_EQ(Zeile(Busformat::Csv, probe),
-              "1;2026-11-22 11:17:23.456;Gerät → PC;Lesen (03);Optikteil 1: Reichweite;200EH;\"1,00 - 2,5m\";"
+              "1;2026-11-22 11:17:23.456;vom Gerät;Lesen (03);Optikteil 1: Reichweite;200EH;\"1,00 - 2,5m\";"
               "01 03 20 0E 00 01 EE 09;01 03 02 00 03 F8 45;\"12,3\";beantwortet\r\n");
     SetzeSprachoffset(Englisch);
     EXPECT_THAT(Schriftkopf(Busformat::Csv), StartsWith("\xEF\xBB\xBFNumber,Time,Direction,"));

@@ -97,7 +97,7 @@ TEST(Busworte, The_language_is_that_of_the_moment) {
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 14, {1})), "Optical part 1: Sensing distance");
     EXPECT_EQ(Umlauftext(Austausch(Gelesen(5, {1}))), "12.3 ms");
-    EXPECT_EQ(Richtungstext(Austausch(Gelesen(5, {1}))), "Controller → PC");
+    EXPECT_EQ(Richtungstext(Austausch(Gelesen(5, {1}))), "from controller");
 }
 
 TEST(Busworte, What_did_not_come_has_no_value) {
@@ -121,7 +121,7 @@ TEST(Busworte, An_identification_tells_what_the_controller_calls_itself_and_noth
 TEST(Busworte, Of_what_nobody_asked_for_the_number_of_bytes_is_told) {
     EXPECT_EQ(Worte(Ungefragtes("xyz")), "3 Bytes");
     EXPECT_EQ(Funktionstext(Austausch(Ungefragtes("xyz"))), "ungefragt");
-    EXPECT_EQ(Richtungstext(Austausch(Ungefragtes("xyz"))), "Gerät → PC");
+    EXPECT_EQ(Richtungstext(Austausch(Ungefragtes("xyz"))), "vom Gerät");
     EXPECT_EQ(Registerangabe(Ungefragtes("xyz")), "");
 }
 
@@ -130,13 +130,13 @@ TEST(Busworte, Function_and_direction_follow_from_the_request) {
         const Probe probe{.anforderung = anforderung};
         return Funktionstext(Austausch(probe)) + ", " + Richtungstext(Austausch(probe));
     };
-    EXPECT_EQ(funktion(LeseAnforderung(1, 5, 1)), "Lesen (03), Gerät → PC");
-    EXPECT_EQ(funktion(SchreibAnforderung(1, 5, 1, {1})), "Schreiben (10), PC → Gerät");
-    EXPECT_EQ(funktion(IdentifikationsAnforderung()), "Identifikation (11), Anfrage ↔");
-    EXPECT_EQ(funktion(Bytes({1, 0x2B, 0, 0})), "Funktion 2B, Anfrage ↔");
+    EXPECT_EQ(funktion(LeseAnforderung(1, 5, 1)), "Lesen (03), vom Gerät");
+    EXPECT_EQ(funktion(SchreibAnforderung(1, 5, 1, {1})), "Schreiben (10), zum Gerät");
+    EXPECT_EQ(funktion(IdentifikationsAnforderung()), "Identifikation (11), hin und her");
+    EXPECT_EQ(funktion(Bytes({1, 0x2B, 0, 0})), "Funktion 2B, hin und her");
     const Probe ohne{.art = Austauschart::OhneAntwort, .anforderung = KommandoRahmen(1)};
     EXPECT_EQ(Funktionstext(Austausch(ohne)) + ", " + Richtungstext(Austausch(ohne)),
-              "Kommando (09), PC → Gerät");
+              "Kommando (09), zum Gerät");
 }
 
 TEST(Busworte, Every_result_has_words_of_its_own) {
@@ -187,7 +187,7 @@ TEST(Busworte, The_round_trip_is_told_only_where_there_was_one) {
 
 TEST(Busworte, Details_have_a_line_for_all_that_is_known_and_none_for_what_is_not) {
     const std::string details = Einzelheiten(Austausch(Unbeantwortet(193)), {});
-    EXPECT_NE(details.find("\nRichtung: Gerät → PC\nFunktion: Lesen (03)\nRegister: Global: PNP-Ausgang\n"
+    EXPECT_NE(details.find("\nRichtung: vom Gerät\nFunktion: Lesen (03)\nRegister: Global: PNP-Ausgang\n"
                            "Gesendet: 01 03 00 C1 00 01 D5 F6\nErgebnis: keine Antwort"),
               std::string::npos)
         << details;

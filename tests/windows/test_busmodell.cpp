@@ -35,7 +35,7 @@ TEST_F(BusmodellTest, Has_a_row_for_each_exchange_once_it_is_told_to_look) {
     modell.Hole(100);
     ASSERT_EQ(modell.rowCount(), 1);
     EXPECT_EQ(Text(0, Busmodell::Funktion), "Lesen (03)");
-    EXPECT_EQ(Text(0, Busmodell::Richtung), "Gerät → PC");
+    EXPECT_EQ(Text(0, Busmodell::Richtung), "vom Gerät");
     EXPECT_EQ(Text(0, Busmodell::Register), "Global: PNP-Ausgang");
     EXPECT_EQ(Text(0, Busmodell::Umlauf), "12,3 ms");
     EXPECT_EQ(Text(0, Busmodell::Ergebnis), "beantwortet");
