@@ -33,11 +33,11 @@ TEST_F(Anschlussbefehle, Find_in_json_tells_every_try) {
     EXPECT_THAT(
         konsole.daten,
         StartsWith(
-            R"({"command":"find","found":{"device":"/dev/b","format":"38400,n,8,2","echo":false,"controller":{"name":"Varnoth Probe","serialNumber":"4711",)"));
+            R"({"command": "find", "found": {"device": "/dev/b", "format": "38400,n,8,2", "echo": false, "controller": {"name": "Varnoth Probe", "serialNumber": "4711",)"));
     EXPECT_THAT(
         konsole.daten,
         HasSubstr(
-            R"("tries":[{"device":"/dev/a","format":"38400,n,8,2","result":"silent","words":"no reply"},{"device":"/dev/b","format":"38400,n,8,2","result":"found","words":"controller found"}])"));
+            R"("tries": [{"device": "/dev/a", "format": "38400,n,8,2", "result": "silent", "words": "no reply"}, {"device": "/dev/b", "format": "38400,n,8,2", "result": "found", "words": "controller found"}])"));
 }
 
 TEST_F(Anschlussbefehle, Find_keeps_to_the_port_and_the_format_of_the_options) {
@@ -63,7 +63,7 @@ TEST_F(Anschlussbefehle, Find_that_is_interrupted_says_so) {
         return true;
     };
     EXPECT_EQ(Fuehre({"find", "/dev/a", "--json"}), Ende::Unterbrochen);
-    EXPECT_THAT(konsole.daten, StartsWith(R"({"command":"find","found":null,"tries":[)"));
+    EXPECT_THAT(konsole.daten, StartsWith(R"({"command": "find", "found": null, "tries": [)"));
     EXPECT_THAT(konsole.meldungen, HasSubstr("Search cancelled"));
 }
 
@@ -80,8 +80,8 @@ TEST_F(Anschlussbefehle, Linecheck_asks_two_hundred_times_unless_told_otherwise)
     EXPECT_THAT(
         konsole.daten,
         StartsWith(
-            R"({"command":"linecheck","device":"/dev/pruefung","format":"38400,n,8,2","sent":200,"answered":200,"silent":0,)"));
-    EXPECT_THAT(konsole.daten, HasSubstr(R"("meaning":[{"kind":"ok",)"));
+            R"({"command": "linecheck", "device": "/dev/pruefung", "format": "38400,n,8,2", "sent": 200, "answered": 200, "silent": 0,)"));
+    EXPECT_THAT(konsole.daten, HasSubstr(R"("meaning": [{"kind": "ok",)"));
 }
 
 TEST_F(Anschlussbefehle, Linecheck_ends_with_a_code_for_what_it_met) {

@@ -51,9 +51,9 @@ TEST_F(CtlPorts, The_controller_is_found_in_its_own_format) {
     Stecke({"--unpaced", "--format", "9600,e,8,1", "--address", "9"});
     const auto ergebnis = FuehreOhnePort({"find", Pfad("watched/adapter"), "--json"});
     EXPECT_EQ(ergebnis.code, 0) << ergebnis.meldungen;
-    const auto fund = Geprueft(QByteArray::fromStdString(ergebnis.daten))["found"];
+    const QJsonObject fund = Geprueft(QByteArray::fromStdString(ergebnis.daten))["found"].toObject();
     EXPECT_EQ(fund["format"].toString(), "9600,e,8,1");
-    EXPECT_EQ(fund["controller"]["address"].toInt(), 9);
+    EXPECT_EQ(fund["controller"].toObject()["address"].toInt(), 9);
 }
 
 TEST_F(CtlPorts, Every_port_is_searched_where_none_is_named) {
@@ -125,12 +125,14 @@ TEST_F(CtlPorts, Each_trouble_of_a_line_is_told_by_its_kind) {
 
 TEST_F(CtlPorts, A_line_that_rests_between_request_and_reply_is_said_to_be_held_back) {
     SchliesseGeraetAn({"--turnaround", "16000"});
-    EXPECT_EQ(InJson({"linecheck", "--requests", "5"})["meaning"][1]["kind"].toString(), "latencyTimer");
+    const auto objekt = InJson({"linecheck", "--requests", "5"});
+    EXPECT_EQ(objekt["meaning"][1]["kind"].toString(), "latencyTimer");
 }
 
 TEST_F(CtlPorts, A_controller_behind_an_echo_is_found_with_a_warning) {
     SchliesseGeraetAn({"--unpaced", "--echo"});
-    EXPECT_TRUE(InJson({"find"})["found"]["echo"].toBool());
+    const auto objekt = InJson({"find"});
+    EXPECT_TRUE(objekt["found"]["echo"].toBool());
 }
 
 TEST_F(CtlPorts, A_controller_that_sends_by_itself_is_found_and_the_line_check_hears_it) {
@@ -144,7 +146,8 @@ TEST_F(CtlPorts, A_controller_that_sends_by_itself_is_found_and_the_line_check_h
         ASSERT_EQ(leitung.read(1).size(), 1) << "it has confirmed that it is to send by itself";
     }
     EXPECT_EQ(Fuehre({"find"}).code, 0);
-    EXPECT_EQ(InJson({"linecheck", "--requests", "20"})["meaning"][0]["kind"].toString(), "autosend");
+    const auto objekt = InJson({"linecheck", "--requests", "20"});
+    EXPECT_EQ(objekt["meaning"][0]["kind"].toString(), "autosend");
 }
 
 } // namespace varnoth::pruefung

@@ -117,6 +117,50 @@ TEST_F(Verbindungsursachen, A_device_that_another_process_reads_from) {
     kind.Ende();
 }
 
+TEST_F(Verbindungsursachen,
+       A_device_that_a_program_of_ours_has_locked_names_it_to_every_user_and_stays_as_it_was) {
+    ASSERT_EQ(chmod(geraet.c_str(), 0666), 0);
+    const pruefung::Kind kind([this](int rohr) {
+        close(fern);
+        close(nah);
+        QtSeriellerPort andere;
+        const bool gesagt = write(rohr, andere.Oeffne(1, "9600,n,8,2") ? "!" : "?", 1) == 1;
+        pause();
+        return std::string(gesagt ? "" : "silent");
+    });
+    kind.WarteAufWort();
+    const std::string ursache = pruefung::AlsNutzer(UrsacheBeimOeffnen);
+    EXPECT_TRUE(ursache.starts_with(geraet + " is in use by: seriellerport_t (")) << ursache;
+    EXPECT_TRUE(UrsacheBeimOeffnen().starts_with(geraet + " is in use by: seriellerport_t ("));
+    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), False) << "not even the superuser opens it";
+    termios stand{};
+    tcgetattr(nah, &stand);
+    EXPECT_EQ(cfgetospeed(&stand), static_cast<speed_t>(B9600)) << "its speed is that of the other program";
+    kind.Toete();
+    kind.Ende();
+    modSchnittstelle::OpenCommPort();
+    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), True) << "the lock goes with its process";
+}
+
+TEST_F(Verbindungsursachen, A_port_that_is_closed_is_locked_no_more) {
+    QtSeriellerPort andere;
+    modSchnittstelle::OpenCommPort();
+    EXPECT_FALSE(andere.Oeffne(1, "38400,n,8,2"));
+    EXPECT_EQ(andere.Fehlertext(), "Another program is using it.");
+    EXPECT_EQ(andere.BefundVon(1).hindernis, Hindernis::Belegt);
+    modSchnittstelle::CloseCommPort();
+    EXPECT_TRUE(andere.Oeffne(1, "38400,n,8,2"));
+}
+
+TEST_F(Verbindungsursachen, A_named_device_is_the_one_that_is_opened_and_told_of) {
+    modSchnittstelle::SetzeGeraet("/dev/pts/nothing");
+    EXPECT_TRUE(UrsacheBeimOeffnen().starts_with("There is no device /dev/pts/nothing."));
+    modSchnittstelle::SetzeGeraet("");
+    modSchnittstelle::OpenCommPort();
+    EXPECT_EQ(modSchnittstelle::GetPortIstOffen(), True);
+    EXPECT_EQ(modSchnittstelle::GetAnschluss().geraet, geraet);
+}
+
 TEST_F(Verbindungsursachen, A_line_on_which_nothing_answers) {
     EXPECT_TRUE(UrsacheNachAnfrage().starts_with("Nothing answers."));
 }
