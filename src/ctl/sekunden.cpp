@@ -13,7 +13,8 @@ std::optional<Zeit> SekundenAus(std::string_view worte, double kleinste, double 
     const char* const ende = text.data() + text.size();
     const auto [stelle, fehler] = std::from_chars(text.data(), ende, sekunden, std::chars_format::fixed);
     const bool gelesen = fehler == std::errc() && stelle == ende;
-    if (!gelesen || !(sekunden >= kleinste && sekunden <= groesste))
+    const bool passt = sekunden >= kleinste && sekunden <= groesste; // what is no number does not
+    if (!gelesen || !passt)
         return std::nullopt;
     return std::chrono::duration_cast<Zeit>(std::chrono::duration<double>(sekunden));
 }

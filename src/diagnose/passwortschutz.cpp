@@ -51,7 +51,8 @@ Passwortschutz::Zeigbares Passwortschutz::Pruefe(const Mitschnitt& mitschnitt) {
     Zeigbares zeigbares{ErsteSpur(mitschnitt.anforderung), ErsteSpur(mitschnitt.empfangen)};
     if (trifft && schreibt)
         zeigbares.anforderung = std::min(KopfDesSchreibens, mitschnitt.anforderung.size());
-    if ((trifft || nachhall) && !(rein && (schreibt || !trifft)))
+    const bool verraetNichts = rein && (schreibt || !trifft);
+    if ((trifft || nachhall) && !verraetNichts)
         zeigbares.empfangen = 0;
     nachhall = (trifft || nachhall) && !rein;
     return zeigbares;

@@ -92,7 +92,7 @@ private:
                 return abgebrochen;
             });
         const bool offen = modSchnittstelle::GetPortIstOffen() == True;
-        const std::string ursache = offen ? std::string() : Verschlossen(versuch.geraet);
+        std::string ursache = offen ? std::string() : Verschlossen(versuch.geraet);
         modSchnittstelle::CloseCommPort();
         if (!abgebrochen)
             stand.ergebnis = Bewerte(versuch, probe, offen);
@@ -144,7 +144,7 @@ private:
         ++bilanz.verschlossene;
         const std::string ursache =
             Portursache(geraet, modSchnittstelle::GetPortbefund(), modSchnittstelle::GetPortfehler());
-        const std::string text = ursache.empty() ? Versuchstext(Suchergebnis::PortVerschlossen) : ursache;
+        std::string text = ursache.empty() ? Versuchstext(Suchergebnis::PortVerschlossen) : ursache;
         Merke(bilanz.verschlossen, text);
         return text;
     }
@@ -166,6 +166,7 @@ std::span<const std::string> Suchformate() {
 
 std::vector<Suchversuch> Suchfolge(const std::vector<std::string>& geraete) {
     std::vector<Suchversuch> folge;
+    folge.reserve(geraete.size() * Suchformate().size());
     for (const std::string& geraet : geraete)
         folge.push_back({geraet, DieFormate.front()});
     for (const std::string& geraet : geraete)

@@ -100,7 +100,7 @@ Anschlussstand Verbindungsablauf::Stand() {
 }
 
 Portbefund Verbindungsablauf::Befund(const std::string& geraet) {
-    const Portbefund befund = BefundDesGeraets(geraet);
+    Portbefund befund = BefundDesGeraets(geraet);
     if (befund.hindernis == Hindernis::Keines && !KannPortSein(geraet))
         return {.hindernis = Hindernis::Systemfehler};
     return befund;

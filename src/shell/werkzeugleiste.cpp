@@ -16,6 +16,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <functional>
 #include <stdexcept>
 
 namespace varnoth {
@@ -166,7 +167,8 @@ void Werkzeugleiste::Betritt() {
         Verlasse();
         return;
     }
-    vorher = QApplication::focusWidget();
+    QPointer<QWidget> hier(QApplication::focusWidget());
+    vorher.swap(hier);
     show();
     Gehe(-1, 1);
 }
@@ -182,9 +184,8 @@ void Werkzeugleiste::Verlasse() {
 
 void Werkzeugleiste::Gehe(std::ptrdiff_t von, int schritt) {
     const auto knoepfe = Knoepfe();
-    std::vector<bool> waehlbar;
-    for (const QToolButton* knopf : knoepfe)
-        waehlbar.push_back(knopf->isEnabled());
+    std::vector<bool> waehlbar(knoepfe.size());
+    std::transform(knoepfe.begin(), knoepfe.end(), waehlbar.begin(), std::mem_fn(&QToolButton::isEnabled));
     if (const auto platz = NaechsterKnopf(waehlbar, von, schritt))
         knoepfe[*platz]->setFocus(Qt::TabFocusReason);
 }
