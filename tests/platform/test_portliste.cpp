@@ -133,6 +133,18 @@ TEST_F(Portliste, The_environment_names_the_further_folder) {
     unsetenv("VARNOTH_PORTS");
 }
 
+TEST_F(Portliste, A_name_can_be_that_of_a_port_unless_it_leads_to_something_else) {
+    maschine.LegeVirtuellesAn("ttyTest");
+    maschine.Schreibe(maschine.Dev() / "file", "");
+    EXPECT_TRUE(KannPortSein(maschine.Geraet("ttyTest"), maschine.Wurzeln()));
+    EXPECT_TRUE(KannPortSein(maschine.Geraet("nothing"), maschine.Wurzeln())) << "it may be plugged in yet";
+    for (const std::string& anderes : {maschine.Geraet("file"), maschine.Dev().string(), std::string("/dev/null")})
+        EXPECT_FALSE(KannPortSein(anderes, maschine.Wurzeln())) << anderes;
+    fs::create_directories(maschine.Sys() / "dev/char/1:3");
+    fs::create_symlink("../../../class/tty", maschine.Sys() / "dev/char/1:3/subsystem");
+    EXPECT_TRUE(KannPortSein("/dev/null", maschine.Wurzeln())) << "the system says that it is a terminal";
+}
+
 TEST_F(Portliste, A_port_without_a_right_names_the_group_that_has_it) {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root gives a device away";
