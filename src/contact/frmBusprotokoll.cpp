@@ -41,8 +41,8 @@ constexpr const char* Supportname = "support";
 constexpr QSize Anfangsgroesse(1080, 680);
 constexpr int Spaltenbreiten[] = {92, 102, 122, 180, 300, 74, 120}; // at 96 dpi
 
-// Some times a second are as much as anybody can read.
-constexpr int TaktMs = 400;
+// Painting takes longer than a short exchange: more often would slow polling down, and nobody reads faster.
+constexpr int TaktMs = 1000;
 // What is done at one go, so that the next request never waits for it.
 constexpr std::size_t BetrachteteJeSchritt = 4000;
 constexpr std::size_t ZeilenJeSchritt = 2000;
