@@ -4,6 +4,8 @@
 #include "polling.h"
 #include "schnittstelle.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
@@ -60,6 +62,23 @@ void Messplatz::Verbinde() {
 void Messplatz::Durchlaufe() {
     const unsigned durchgaenge = modPolling::GetDurchgaenge();
     while (modPolling::GetDurchgaenge() == durchgaenge)
+        programm.Runde();
+}
+
+void Messplatz::ZeigeProtokoll(bool offen) {
+    const auto fenster = []() -> QWidget* {
+        for (QWidget* const eines : QApplication::topLevelWidgets())
+            if (eines->objectName() == QLatin1String("frmBusprotokoll"))
+                return eines;
+        return nullptr;
+    };
+    if (!offen) {
+        if (fenster() != nullptr)
+            fenster()->close();
+        return;
+    }
+    programm.Hauptfenster().findChild<QAction*>(QStringLiteral("mnuBusprotokoll"))->trigger();
+    while (fenster() == nullptr || !fenster()->isVisible())
         programm.Runde();
 }
 

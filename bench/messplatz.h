@@ -22,6 +22,8 @@ public:
     void Verbinde();
     /// Runs the main loop until the next polling pass has ended.
     void Durchlaufe();
+    /// Opens the bus log as its command does, or closes it.
+    void ZeigeProtokoll(bool offen);
     /// Stops live data as a click on the menu item does.
     void Stoppe();
     /// Answers messages with OK from now on instead of failing.

@@ -41,8 +41,8 @@ bool NatuerlichDavor(std::string_view eines, std::string_view anderes) {
     while (!a.empty() && !b.empty()) {
         const bool zahlen = IstZiffer(a.front()) && IstZiffer(b.front());
         const auto ordnung = zahlen ? VergleicheZahlen(a, b) : VergleicheZeichen(a, b);
-        if (ordnung != 0)
-            return ordnung < 0;
+        if (std::is_neq(ordnung))
+            return std::is_lt(ordnung);
     }
     return a.size() != b.size() ? a.size() < b.size() : eines < anderes;
 }

@@ -1,9 +1,11 @@
 #include "dateidialog.h"
 
 #include "fenstervorn.h"
+#include "knopfsymbole.h"
 #include "startzustand.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -75,6 +77,8 @@ std::optional<std::string> FrageNachDatei(const Dateifrage& frage) {
         return dieAntwort(frage);
     QFileDialog dialog(FensterVorn());
     RichteEin(dialog, frage);
+    if (const auto* const knoepfe = dialog.findChild<QDialogButtonBox*>())
+        GibKnoepfenSymbole(*knoepfe);
     SetzeFilter(dialog, FilterFuerQt(frage.filter));
     if (!frage.name.empty())
         dialog.selectFile(QString::fromStdString(frage.name));

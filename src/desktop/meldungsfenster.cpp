@@ -1,10 +1,14 @@
 #include "meldungsfenster.h"
 
 #include "fenstervorn.h"
+#include "knopfsymbole.h"
+#include "symbolbild.h"
 #include "texte.h"
 
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QStyle>
 
 #include <utility>
 
@@ -34,6 +38,17 @@ QMessageBox::StandardButtons AlsButtons(Knoepfe knoepfe) {
     }
 }
 
+/// Qt's own signs are pictures of one size, which a fine screen blurs.
+void SetzeZeichen(QMessageBox& fenster, Symbol symbol) {
+    auto* const platz = fenster.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+    if (symbol == Symbol::Ohne || platz == nullptr)
+        return;
+    const QIcon bild =
+        Symbolbild(symbol == Symbol::Frage ? QStringLiteral("frage") : QStringLiteral("warnung"));
+    const int mass = fenster.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &fenster);
+    platz->setPixmap(bild.pixmap(QSize(mass, mass), fenster.devicePixelRatio()));
+}
+
 Antwort AlsAntwort(int knopf) {
     constexpr std::pair<int, Antwort> antworten[] = {
         {QMessageBox::Ok, Antwort::Ok}, {QMessageBox::Yes, Antwort::Ja}, {QMessageBox::No, Antwort::Nein}};
@@ -50,10 +65,13 @@ Antwort ZeigeMeldungsfenster(const Meldung& meldung) {
     QMessageBox fenster(AlsIcon(meldung.symbol), QString::fromStdString(titel),
                         QString::fromStdString(meldung.text), AlsButtons(meldung.knoepfe), FensterVorn());
     fenster.setObjectName(QStringLiteral("Meldungsfenster"));
+    SetzeZeichen(fenster, meldung.symbol);
     if (meldung.abbrechenVorgegeben)
         fenster.setDefaultButton(QMessageBox::Cancel);
     fenster.setInformativeText(QString::fromStdString(meldung.informativtext));
     fenster.setDetailedText(QString::fromStdString(meldung.details));
+    if (const auto* const knoepfe = fenster.findChild<QDialogButtonBox*>())
+        GibKnoepfenSymbole(*knoepfe);
     fenster.setTextFormat(Qt::PlainText);
     for (QLabel* beschriftung : fenster.findChildren<QLabel*>())
         beschriftung->setTextFormat(Qt::PlainText);

@@ -1,5 +1,7 @@
 #include "abweichungsmarke.h"
 
+#include "symbolbild.h"
+
 #include <QPainter>
 
 namespace varnoth {
@@ -20,7 +22,7 @@ void Abweichungsmarke::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
     maler.setPen(Qt::NoPen);
-    maler.setBrush(palette().highlight());
+    maler.setBrush(SymbolfarbenAus(palette(), QIcon::Normal).betonung);
     maler.drawPolygon(QPolygon({QPoint(0, 0), QPoint(Kante, 0), QPoint(0, Kante)}));
 }
 

@@ -9,8 +9,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QShortcut>
-#include <QToolButton>
 #include <QUndoView>
 #include <QWidgetAction>
 
@@ -29,7 +29,7 @@ QString Text(std::int16_t id) {
 }
 
 /// The list of steps, which opens below the button.
-QMenu* Liste(QToolButton& knopf, QUndoStack& stapel) {
+QMenu* Liste(QPushButton& knopf, QUndoStack& stapel) {
     auto* const ansicht = new QUndoView(&stapel);
     ansicht->setObjectName("lstVerlauf");
     ansicht->setEmptyLabel(Text(TextAnfang));
@@ -71,9 +71,9 @@ private:
 };
 
 Verlauf::Verlauf(QDialog& zu, QBoxLayout& knopfreihe, Verlaufszugang neuer)
-    : QObject(&zu), dialog(zu), zugang(std::move(neuer)), knopf(new QToolButton(&zu)) {
+    : QObject(&zu), dialog(zu), zugang(std::move(neuer)), knopf(new QPushButton(&zu)) {
     knopf->setObjectName("cmdVerlauf");
-    knopf->setPopupMode(QToolButton::InstantPopup);
+    knopf->setAutoDefault(false);
     knopf->setToolTip(Text(TextTipp));
     knopf->setMenu(Liste(*knopf, stapel));
     knopf->setFocusPolicy(Qt::NoFocus);

@@ -8,7 +8,7 @@
 
 class QBoxLayout;
 class QDialog;
-class QToolButton;
+class QPushButton;
 
 namespace varnoth {
 
@@ -45,7 +45,7 @@ private:
     QDialog& dialog;
     Verlaufszugang zugang;
     QUndoStack stapel;
-    QToolButton* knopf;
+    QPushButton* knopf;
     QVariantMap letzter;
     bool laeuft = false; ///< changes are followed: begun, and none of them is just being undone
 };

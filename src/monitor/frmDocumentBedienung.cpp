@@ -68,11 +68,10 @@ bool frmDocument::eventFilter(QObject* ziel, QEvent* ereignis) {
 
 // Escape goes back one step: first to all beams, then to all views.
 void frmDocument::keyPressEvent(QKeyEvent* ereignis) {
-    if (ereignis->key() != Qt::Key_Escape)
-        QWidget::keyPressEvent(ereignis);
-    else if (ui->BeamBar1->IstGezoomt())
+    const bool zurueck = ereignis->key() == Qt::Key_Escape;
+    if (zurueck && ui->BeamBar1->IstGezoomt())
         ui->BeamBar1->ZeigeAlles();
-    else if (IstGrossanzeige())
+    else if (zurueck && IstGrossanzeige())
         SchalteGrossanzeige();
     else
         QWidget::keyPressEvent(ereignis);

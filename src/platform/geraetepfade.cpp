@@ -10,11 +10,18 @@ namespace varnoth {
 namespace {
 
 constexpr int HoechsteNummer = 4;
+constexpr const char* Abschnitt = "Settings";
 
 std::string pfadDiesesLaufs;
 const Startwert startwert(pfadDiesesLaufs);
 
-std::string Standardpfad(int nummer) {
+std::string Schluessel(int nummer) {
+    return "ComGeraet" + std::to_string(nummer);
+}
+
+} // namespace
+
+std::string UeblichesGeraet(int nummer) {
 #ifdef Q_OS_WIN
     return "COM" + std::to_string(nummer);
 #else
@@ -22,20 +29,29 @@ std::string Standardpfad(int nummer) {
 #endif
 }
 
-} // namespace
+std::string EingetragenesGeraet(int nummer) {
+    return DieEinstellungen().LiesText(Abschnitt, Schluessel(nummer), "");
+}
+
+void TrageGeraetEin(int nummer, const std::string& pfad) {
+    DieEinstellungen().SchreibText(Abschnitt, Schluessel(nummer), pfad);
+}
 
 std::string Geraetepfad(int nummer) {
     if (nummer < 1 || nummer > HoechsteNummer)
         return {};
     if (!pfadDiesesLaufs.empty())
         return pfadDiesesLaufs;
-    const std::string eingestellt =
-        DieEinstellungen().LiesText("Settings", "ComGeraet" + std::to_string(nummer), "");
-    return eingestellt.empty() ? Standardpfad(nummer) : eingestellt;
+    const std::string eingetragenes = EingetragenesGeraet(nummer);
+    return eingetragenes.empty() ? UeblichesGeraet(nummer) : eingetragenes;
 }
 
 void SetzeGeraetepfad(const std::string& pfad) {
     pfadDiesesLaufs = pfad;
+}
+
+const std::string& GeraetDiesesLaufs() {
+    return pfadDiesesLaufs;
 }
 
 } // namespace varnoth

@@ -141,10 +141,9 @@ void LiesStabileNamen(std::vector<Portangabe>& ports, const fs::path& dev) {
         }
 }
 
-bool IstTerminal(const fs::path& pfad, const fs::path& sys) {
+bool IstTerminal(const struct stat& da, const fs::path& sys) {
     constexpr unsigned ErstesPseudoterminal = 136, LetztesPseudoterminal = 143; // major numbers
-    struct stat da {};
-    if (stat(pfad.c_str(), &da) != 0 || !S_ISCHR(da.st_mode))
+    if (!S_ISCHR(da.st_mode))
         return false;
     const unsigned haupt = major(da.st_rdev);
     const std::string nummer = std::to_string(haupt) + ":" + std::to_string(minor(da.st_rdev));
@@ -153,12 +152,17 @@ bool IstTerminal(const fs::path& pfad, const fs::path& sys) {
            fs::read_symlink(sys / "dev" / "char" / nummer / "subsystem", fehler).filename() == "tty";
 }
 
+bool FuehrtZuTerminal(const fs::path& pfad, const fs::path& sys) {
+    struct stat da {};
+    return stat(pfad.c_str(), &da) == 0 && IstTerminal(da, sys);
+}
+
 std::vector<Portangabe> PortsDesOrdners(const Portwurzeln& wurzeln) {
     std::vector<Portangabe> ports;
     if (wurzeln.ordner.empty())
         return ports;
     for (const fs::path& pfad : Eintraege(wurzeln.ordner))
-        if (IstTerminal(pfad, wurzeln.sys))
+        if (FuehrtZuTerminal(pfad, wurzeln.sys))
             ports.push_back({.geraet = pfad.string(), .bezeichnung = LadeText(TextPseudoterminal)});
     return ports;
 }
@@ -191,6 +195,17 @@ Portwurzeln WurzelnDesRechners() {
     const char* const ordner = std::getenv("VARNOTH_PORTS");
     return {.ordner = ordner != nullptr ? ordner : ""};
 }
+
+#ifdef Q_OS_LINUX
+bool KannPortSein(const std::string& pfad, const Portwurzeln& wurzeln) {
+    struct stat da {};
+    return stat(pfad.c_str(), &da) != 0 || IstTerminal(da, wurzeln.sys);
+}
+#else
+bool KannPortSein(const std::string& /*pfad*/, const Portwurzeln& /*wurzeln*/) {
+    return true;
+}
+#endif
 
 std::vector<Portangabe> LiesPortliste(const Portwurzeln& wurzeln) {
     auto ports = LiesOhneBefund(wurzeln);

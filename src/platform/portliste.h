@@ -25,6 +25,10 @@ Portwurzeln WurzelnDesRechners();
 /// millisecond for each port.
 std::vector<Portangabe> LiesPortliste(const Portwurzeln& wurzeln = WurzelnDesRechners());
 
+/// Whether a path leads to a terminal of the system, which a serial port is, or nowhere yet; not to a file, a
+/// folder or another device. It is not opened for that.
+bool KannPortSein(const std::string& pfad, const Portwurzeln& wurzeln = WurzelnDesRechners());
+
 /// Adds to each port the other processes that have it open, as far as this user may know. Looks through all
 /// processes once, which takes some milliseconds.
 void ErgaenzeProzesse(std::vector<Portangabe>& ports, const Portwurzeln& wurzeln = WurzelnDesRechners());

@@ -223,9 +223,9 @@ void QtSeriellerPort::SchalteLeitungenEin() {
 }
 
 void QtSeriellerPort::Schliesse() {
-    sperre.Gib(); // first, so that the line is let go when the port is closed
     if (port.isOpen())
         port.close();
+    sperre.Gib(); // last: closing has put the line's former settings back
 }
 
 bool QtSeriellerPort::IstOffen() {

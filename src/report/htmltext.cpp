@@ -28,10 +28,15 @@ bool IstSteuerzeichen(char zeichen) {
     return byte < ' ' || byte == 0x7F;
 }
 
+/// A paper whose rows end with a cell of nothing would set what follows the table close to it.
+std::string Zelleninhalt(const Zelle& zelle) {
+    return zelle.inhalt.empty() ? "&nbsp;" : zelle.inhalt;
+}
+
 std::string Tabellenzeile(const Zeile& zeile, std::string_view art) {
     std::string zellen;
     for (const Zelle& zelle : zeile)
-        zellen += Element(art, zelle.inhalt, zelle.attribute);
+        zellen += Element(art, Zelleninhalt(zelle), zelle.attribute);
     return Element("tr", zellen) + "\n";
 }
 

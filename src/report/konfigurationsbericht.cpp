@@ -123,7 +123,8 @@ private:
 
     static std::string Stil() {
         return "\nbody { font-family: sans-serif; font-size: 9pt; color: #000000; background: #ffffff; }\n"
-               "h1 { font-size: 16pt; }\nh2 { font-size: 12pt; }\nh3 { font-size: 10pt; }\n"
+               "h1 { font-size: 16pt; }\nh2 { font-size: 12pt; margin-top: 12px; margin-bottom: 4px; }\n"
+               "h3 { font-size: 10pt; margin-top: 10px; margin-bottom: 4px; }\n"
                "table { border-collapse: collapse; border-color: #000000; }\n"
                "tr { page-break-inside: avoid; }\n";
     }
@@ -241,14 +242,11 @@ private:
                "\n" + Element("p", Text(TextFormel)) + "\n";
     }
 
+    /// One line of text, for a page may end between two, even of one row of a table.
     std::string Unterschrift() const {
-        const auto feld = [this](std::int16_t text) {
-            return Element("td", "<br><br>____________________________<br>" + Text(text), R"(width="33%")");
-        };
-        return Titel(TextUnterschrift) +
-               Element("table", Element("tr", feld(TextOrtDatum) + feld(TextName) + feld(TextUnterschrift)),
-                       R"(border="0" cellspacing="0" cellpadding="3" width="100%")") +
-               "\n";
+        const auto feld = [this](std::int16_t text) { return Text(text) + "&nbsp;______________________ "; };
+        return Titel(TextUnterschrift) + Element("p", "&nbsp;") + "\n" +
+               Element("p", feld(TextOrtDatum) + feld(TextName) + feld(TextUnterschrift)) + "\n";
     }
 
     std::string Anhang() const {

@@ -134,6 +134,8 @@ void Anwendung::LadeHauptfenster() {
     hauptfenster = std::make_unique<frmMain>(bedingungen.programmordner);
     hauptfenster->ZeigeSprache();
     hauptfenster->SetzePortwechsel([this](bool soll) { return WechslePort(soll); });
+    hauptfenster->SetzeLeihport([this](const std::function<void()>& tat) { LeiheSeriellenPort(tat); });
+    hauptfenster->SetzeImmerSimuliert(kommandozeile.simulator);
     hauptfenster->ZeigeSimuliert(simuliert);
     hauptfenster->SetzeEinstellungsdatei(einstellungen.Pfad());
     hauptfenster->SetzeHilfe([this] { hilfe.ZeigeThemen(hauptfenster.get()); });
@@ -185,6 +187,20 @@ bool Anwendung::WechslePort(bool soll) {
     simuliert = soll;
     hauptfenster->ZeigeSimuliert(simuliert);
     return true;
+}
+
+/// Does something on the serial ports; the built-in controller rests meanwhile with all that it holds.
+void Anwendung::LeiheSeriellenPort(const std::function<void()>& tat) {
+    if (!simuliert) {
+        tat();
+        return;
+    }
+    QtSeriellerPort serieller;
+    modSchnittstelle::CloseCommPort();
+    modSchnittstelle::SetzePort(&serieller);
+    tat();
+    modSchnittstelle::CloseCommPort();
+    modSchnittstelle::SetzePort(port.get());
 }
 
 void Anwendung::Verbinde() {

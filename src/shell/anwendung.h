@@ -69,6 +69,7 @@ private:
     bool WerteKommandozeileAus();
     bool StarteTrace();
     bool WechslePort(bool simuliert);
+    void LeiheSeriellenPort(const std::function<void()>& tat);
 
     Startzustand startzustand; ///< comes first: what is fitted in below stays
     Startbedingungen bedingungen;

@@ -21,6 +21,12 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::VisualisierenStop, "mnuMessdatenVisualisierenStop", LaeuftWeiter, Still,
      [](Ziel& z, int) { z.StoppeLiveDaten(); }, 0, 1, "Shift+F5", 9510, "stopp", 9511,
      Leistengruppe::Verbindung},
+    {Befehl::Verbindung, "tlbVerbindung", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int suche) { z.ZeigeVerbindung(suche != 0); }, 0, 1, "Ctrl+Shift+K", 8301, "anschluss", 8302,
+     Leistengruppe::Verbindung},
+    {Befehl::AnschlussUebernehmen, "", Stoppt, Still, [](Ziel& z, int) { z.UebernimmAnschluss(); }, 0, 0},
+    {Befehl::GeraetSuchen, "", Ruht, Zeigt, [](Ziel& z, int) { z.SucheGeraet(); }, 0, 0},
+    {Befehl::LeitungPruefen, "", Ruht, Zeigt, [](Ziel& z, int) { z.PruefeLeitung(); }, 0, 0},
     {Befehl::LichtleisteAnzeigen, "mnuAnzeigeLichtleiste", LaeuftWeiter, Still,
      [](Ziel& z, int teil) { z.ZeigeAnsicht(teil); }, 0, 4, "Ctrl+%1"},
     {Befehl::Beenden, "mnuBeenden", Stoppt, Zeigt, [](Ziel& z, int) { z.Beende(); }, 0, 1, "Ctrl+Q", 0,
@@ -76,6 +82,9 @@ constexpr Befehlszeile DieBefehle[] = {
      "bericht", 9745, Leistengruppe::Pruefen},
     {Befehl::Darstellung, "tlbDarstellung", LaeuftWeiter, Still, [](Ziel& z, int) { z.BieteDarstellung(); },
      0, 1, "", 9520, "darstellung", 9521, Leistengruppe::Darstellung},
+    {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
+     Leistengruppe::Pruefen},
 };
 
 } // namespace

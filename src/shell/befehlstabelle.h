@@ -51,8 +51,16 @@ public:
     virtual void ZeigeVergleich() = 0;
     /// Reads the controller for the comparison that asked for it.
     virtual void LiesGeraetZumVergleich() = 0;
+    /// Shows the connection window, at the page of the search where `suche` is set, else where it was.
+    virtual void ZeigeVerbindung(bool suche) = 0;
+    /// Puts in force what was chosen in the connection window.
+    virtual void UebernimmAnschluss() = 0;
+    /// Searches the controller, or checks the line, for the connection window.
+    virtual void SucheGeraet() = 0;
+    virtual void PruefeLeitung() = 0;
     /// Offers looks and beam colours.
     virtual void BieteDarstellung() = 0;
+    virtual void ZeigeBusprotokoll() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,

@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "busablauf.h"
 #include "einstellungen.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
@@ -14,6 +15,7 @@
 #include "standardkonfiguration.h"
 #include "trace.h"
 #include "ui_frmMain.h"
+#include "verbindungsablauf.h"
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
@@ -75,7 +77,8 @@ frmMain::frmMain(const QString& programmordner)
                            .menue = menue,
                            .status = status,
                            .verbindung = *new Verbindungsanzeige(
-                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); }),
+                               *ui->sbStatusBar, [this] { befehle.Klick(Befehl::VisualisierenStart); },
+                               [this] { befehle.Klick(Befehl::Verbindung, 1); }),
                            .baueAnsichtenAuf = [this] { BaueAnsichtenAuf(); },
                            .beendet = [this] { return Beendet(); }};
     ablauf = std::make_unique<Konfigurationsablauf>(teile);
@@ -87,7 +90,9 @@ frmMain::frmMain(const QString& programmordner)
                 vergleich->Zeige({Vergleichsquelle::Sicherung, sicherung.pfad, abbild, {}},
                                  SeiteJetzt(Vergleichsquelle::InBearbeitung));
             }});
+    bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
+    verbindung = MacheVerbindungsablauf();
 }
 
 frmMain::~frmMain() = default;
@@ -178,6 +183,8 @@ void frmMain::Entlade() {
     SchliesseDialoge();
     sicherungen->Schliesse();
     vergleich->Schliesse();
+    bus->Schliesse();
+    verbindung->Schliesse();
     hide();
 }
 

@@ -26,6 +26,8 @@ class frmMain;
 }
 
 class Vergleichsablauf;
+class Busablauf;
+class Verbindungsablauf;
 class Sicherungsablauf;
 class frmDocument;
 class Erscheinungsbild;
@@ -87,6 +89,13 @@ public:
     /// Sets what leads the line to the built-in controller (true) or to the serial ports (false); it gives
     /// whether that has changed anything. Without it the line always leads to the serial ports.
     void SetzePortwechsel(std::function<bool(bool simuliert)> neuer) { portwechsel = std::move(neuer); }
+    /// Sets what lends the line a serial port while something is done, whatever it leads to otherwise.
+    /// Without it that is done on the line as it is.
+    void SetzeLeihport(std::function<void(const std::function<void()>& tat)> neuer) {
+        leihport = std::move(neuer);
+    }
+    /// Says that the line leads to the built-in controller for the whole run.
+    void SetzeImmerSimuliert(bool ist) { immerSimuliert = ist; }
     /// Says in the status bar whether the line leads to the built-in controller.
     void ZeigeSimuliert(bool simuliert) { status.SetzeSimuliert(simuliert); }
     /// Uses serial port 1..4 for this run, whatever the settings say.
@@ -110,6 +119,7 @@ private:
 
     void LiesEinstellungen();
     void ZeigePort();
+    std::unique_ptr<Verbindungsablauf> MacheVerbindungsablauf();
     bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
     void BaueAnsichtenAuf();
     void ZeigeWillkommen();
@@ -161,12 +171,20 @@ private:
     void ZeigeBericht() override { liveDatenPassen = !ablauf->Berichte(); }
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
+    void ZeigeVerbindung(bool suche) override;
+    void UebernimmAnschluss() override;
+    void SucheGeraet() override;
+    void PruefeLeitung() override;
     void BieteDarstellung() override;
+    void ZeigeBusprotokoll() override;
+    void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
     std::unique_ptr<Ui::frmMain> ui;
     std::function<void()> hilfe;
     std::function<bool(bool)> portwechsel;
+    std::function<void(const std::function<void()>&)> leihport;
+    bool immerSimuliert = false;
     Befehlsspeicher befehle;
     Statusleiste status;
     Hauptmenue menue;
@@ -177,8 +195,10 @@ private:
     std::unique_ptr<Geraetebetrieb> betrieb;
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
+    std::unique_ptr<Busablauf> bus;
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
+    std::unique_ptr<Verbindungsablauf> verbindung;
     bool liveDatenPassen = true; ///< to the configuration, when a command that paused them has ended
     bool entladen = false;
 };

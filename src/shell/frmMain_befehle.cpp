@@ -1,7 +1,9 @@
 // What the menu commands of the main window do.
 
+#include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmInfo.h"
@@ -20,9 +22,11 @@
 #include "transaktionen.h"
 #include "ui_frmMain.h"
 #include "umgebung.h"
+#include "verbindungsablauf.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
 
+#include <QAction>
 #include <QMenu>
 
 namespace varnoth {
@@ -34,8 +38,23 @@ bool frmMain::IstZuSpaet(Befehl befehl) const {
 
 void frmMain::FuehreAus(Befehl befehl, int index) {
     const Befehlszeile* const zeile = ZeileZu(befehl);
-    if (zeile != nullptr && !IstZuSpaet(befehl))
-        zeile->tut(*this, index);
+    if (zeile == nullptr || IstZuSpaet(befehl))
+        return;
+    MerkeBefehl(*zeile, index);
+    zeile->tut(*this, index);
+}
+
+/// By the text of its button or, where it has none, of its menu item, for whoever reads later what has
+/// happened.
+void frmMain::MerkeBefehl(const Befehlszeile& zeile, int index) const {
+    const auto* const aktion =
+        findChild<QAction*>(QString::fromStdString(Aktionsname(zeile, index - zeile.ersterIndex)));
+    QString text = QString::fromStdString(LadeText(zeile.textId));
+    if (text.isEmpty() && aktion != nullptr)
+        text = aktion->text();
+    text.remove(u'&');
+    modEreignisse::Merke(text.isEmpty() ? "(" + std::to_string(static_cast<int>(zeile.befehl)) + ")"
+                                        : text.toStdString());
 }
 
 void frmMain::MenuAusführen() {
@@ -46,6 +65,7 @@ void frmMain::MenuAusführen() {
     ZeigeWillkommen();
     vergleich->Erneuere();
     sicherungen->Erneuere();
+    verbindung->Erneuere();
 }
 
 void frmMain::mnuBeenden_Click() {
@@ -140,6 +160,8 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     ansichten->Lokalisiere();
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
+    bus->Lokalisiere();
+    verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
 }
@@ -164,6 +186,36 @@ void frmMain::LiesGeraetZumVergleich() {
     vergleich->LiesGeraet(*betrieb);
 }
 
+std::unique_ptr<Verbindungsablauf> frmMain::MacheVerbindungsablauf() {
+    return std::make_unique<Verbindungsablauf>(Verbindungsablauf::Ziel{
+        .klick = [this](Befehl befehl) { befehle.Klick(befehl); },
+        .wartetAuf = [this](Befehl befehl) { return befehle.WartetAuf(befehl); },
+        .unterbrochen = [this] { return entladen || befehle.KlickSeitBeginn(); },
+        .nimmPort =
+            [this](int nummer) {
+                WechslePort(false);
+                NimmComPort(nummer);
+            },
+        .amPort = [this](const std::function<void()>& tat) { leihport ? leihport(tat) : tat(); },
+        .immerSimuliert = [this] { return immerSimuliert; }});
+}
+
+void frmMain::ZeigeVerbindung(bool suche) {
+    verbindung->Zeige(suche);
+}
+
+void frmMain::UebernimmAnschluss() {
+    verbindung->FuehreUebernahmeAus();
+}
+
+void frmMain::SucheGeraet() {
+    verbindung->FuehreSucheAus();
+}
+
+void frmMain::PruefeLeitung() {
+    verbindung->FuehrePruefungAus();
+}
+
 void frmMain::BieteDarstellung() {
     QMenu* const auswahl =
         MacheDarstellungsmenue(*this, erscheinungsbild->Gewaehlt(), [this](const Darstellung& gewaehlt) {
@@ -171,6 +223,10 @@ void frmMain::BieteDarstellung() {
             SchreibDarstellung(DieEinstellungen(), gewaehlt);
         });
     auswahl->popup(leiste->StelleUnter(Befehl::Darstellung));
+}
+
+void frmMain::ZeigeBusprotokoll() {
+    bus->Zeige();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -9,6 +9,8 @@
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
+#include <QToolButton>
 
 namespace varnoth {
 
@@ -26,6 +28,12 @@ constexpr Fundort DieFundorte[] = {{"mnuDruckereinrichtung", "mnuBericht", 9535}
                                    {"mnuKonfigurationDrucken", "mnuBericht", 9535},
                                    {"mnuOptionFarben", "tlbDarstellung", 9536}};
 
+/// The button behind which the menu bar keeps what has no room. Qt's own sign is dark on every ground.
+void ZeichneMehr(const QMenuBar& leiste) {
+    if (auto* const mehr = leiste.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button")))
+        mehr->setIcon(Symbolbild(QStringLiteral("mehr")));
+}
+
 } // namespace
 
 Hauptmenue::Hauptmenue(QMainWindow& hauptfenster, const Klick& klick, std::span<const Befehlszeile> befehle)
@@ -33,6 +41,7 @@ Hauptmenue::Hauptmenue(QMainWindow& hauptfenster, const Klick& klick, std::span<
     for (const Befehlszeile& zeile : befehle)
         for (int platz = 0; platz < zeile.anzahl; ++platz)
             Verbinde(zeile, platz, klick);
+    ZeichneMehr(*fenster.menuBar());
     Aktualisiere();
 }
 

@@ -35,14 +35,14 @@ void Befehlsspeicher::FuehreAus(Befehlsziel& ziel) {
         return;
     const Befehl befehl = befehlscode;
     const int index = menueindex;
-    const unsigned klicksVorher = klicks;
+    klicksBeimBeginn = klicks;
     const bool liefLive = ziel.LiveDatenLaufen();
     if (liefLive && StopptLiveDaten(befehl))
         ziel.StoppeLiveDaten();
     ziel.FuehreAus(befehl, index);
     if (liefLive && SetztLiveDatenFort(befehl))
         ziel.SetzeLiveDatenFort();
-    if (klicks != klicksVorher)
+    if (KlickSeitBeginn())
         return;
     befehlscode = liefLive && StartetLiveDatenWieder(befehl) ? Befehl::VisualisierenStart : Befehl::Keiner;
 }

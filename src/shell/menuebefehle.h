@@ -37,6 +37,11 @@ enum class Befehl {
     GeraetVergleichen = 111,
     Bericht = 112,
     Darstellung = 130,
+    Busprotokoll = 140,
+    Verbindung = 150,
+    AnschlussUebernehmen = 151,
+    GeraetSuchen = 152,
+    LeitungPruefen = 153,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.
@@ -74,6 +79,8 @@ public:
     void Klick(Befehl befehl, int index = 0);
     bool Wartet() const { return befehlscode != Befehl::Keiner; }
     bool WartetAuf(Befehl befehl) const { return befehlscode == befehl; }
+    /// Whether something was clicked since the command that runs now began.
+    bool KlickSeitBeginn() const { return klicks != klicksBeimBeginn; }
     /// Runs the command that waits, if any.
     void FuehreAus(Befehlsziel& ziel);
 
@@ -81,6 +88,7 @@ private:
     Befehl befehlscode = Befehl::Keiner;
     int menueindex = 0;
     unsigned klicks = 0;
+    unsigned klicksBeimBeginn = 0;
 };
 
 } // namespace varnoth

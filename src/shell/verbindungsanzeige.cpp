@@ -1,5 +1,6 @@
 #include "verbindungsanzeige.h"
 
+#include "ereignisse.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
 #include "polling.h"
@@ -23,6 +24,8 @@ constexpr int TaktMs = 250;
 constexpr int Zustandszeichen = 26; // the seconds of a wait are in view, the figures go first
 constexpr std::int16_t TextStart = 9118;
 constexpr std::int16_t TextStartHinweis = 9119;
+constexpr std::int16_t TextSuchen = 8309;
+constexpr std::int16_t TextSuchenHinweis = 8302;
 
 Verbindungstatsachen Tatsachen(bool verbindet) {
     const auto& leitung = modLeitungsstatistik::GetStand();
@@ -33,6 +36,7 @@ Verbindungstatsachen Tatsachen(bool verbindet) {
             .verloren = modPolling::VerbindungVerloren(),
             .portOffen = modSchnittstelle::GetPortIstOffen() != False,
             .simuliert = modSchnittstelle::GetAnschluss().simuliert,
+            .fehlgeschlagen = leitung.letztesEnde && *leitung.letztesEnde != Austauschende::Gelungen,
             .unterwegs = leitung.unterwegs,
             .letzteAntwort = leitung.letzteAntwort,
             .wartetSeit = leitung.wartetSeit,
@@ -69,29 +73,46 @@ void SetzeHinweis(QWidget& stelle, const std::string& text) {
         stelle.setToolTip(neu);
 }
 
+void Biete(QPushButton& knopf, bool ob, std::int16_t text, std::int16_t hinweis) {
+    knopf.setVisible(ob);
+    if (!ob)
+        return;
+    knopf.setText(QString::fromStdString(LadeText(text)));
+    SetzeHinweis(knopf, LadeText(hinweis));
+}
+
 } // namespace
 
-Verbindungsanzeige::Verbindungsanzeige(QStatusBar& leiste, const std::function<void()>& starte)
+Verbindungsanzeige::Verbindungsanzeige(QStatusBar& leiste, const std::function<void()>& starte,
+                                       const std::function<void()>& suche)
     : QWidget(&leiste), symbol(new Verbindungssymbol(this)),
       zustandstext(new Kurzlabel(this, Zustandszeichen)), zahlen(new Kurzlabel(this)),
-      start(new QPushButton(this)) {
+      start(MacheKnopf(QStringLiteral("cmdVerbindungStart"), starte)),
+      suchen(MacheKnopf(QStringLiteral("cmdVerbindungSuchen"), suche)) {
     setObjectName(QStringLiteral("Verbindungsanzeige"));
     symbol->setObjectName(QStringLiteral("symVerbindung"));
     zustandstext->setObjectName(QStringLiteral("lblVerbindung"));
     zahlen->setObjectName(QStringLiteral("lblVerbindungszahlen"));
-    start->setObjectName(QStringLiteral("cmdVerbindungStart"));
-    start->setFocusPolicy(Qt::NoFocus); // the key of the menu item does the same
-    start->setAutoDefault(false);
     auto* reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(4, 0, 4, 0);
-    for (QWidget* teil : {static_cast<QWidget*>(symbol), static_cast<QWidget*>(zustandstext),
-                          static_cast<QWidget*>(start), static_cast<QWidget*>(zahlen)})
+    for (QWidget* teil :
+         {static_cast<QWidget*>(symbol), static_cast<QWidget*>(zustandstext), static_cast<QWidget*>(start),
+          static_cast<QWidget*>(suchen), static_cast<QWidget*>(zahlen)})
         reihe->addWidget(teil);
     leiste.addPermanentWidget(this);
-    connect(start, &QPushButton::clicked, this, starte);
     connect(&takt, &QTimer::timeout, this, &Verbindungsanzeige::Aktualisiere);
     takt.start(TaktMs);
     Aktualisiere();
+}
+
+/// A button that the keyboard passes over: the key of its command does the same.
+QPushButton* Verbindungsanzeige::MacheKnopf(const QString& name, const std::function<void()>& tat) {
+    auto* const knopf = new QPushButton(this);
+    knopf->setObjectName(name);
+    knopf->setFocusPolicy(Qt::NoFocus);
+    knopf->setAutoDefault(false);
+    connect(knopf, &QPushButton::clicked, this, tat);
+    return knopf;
 }
 
 void Verbindungsanzeige::SetzeVerbindet(bool ob) {
@@ -105,9 +126,20 @@ void Verbindungsanzeige::Aktualisiere() {
                         .gegenstand = Gegenstand(),
                         .tag = tatsachen.uhrzeit.date(),
                         .sprache = GetSprachoffset()};
-    if (inhalt != gezeigt)
+    if (inhalt != gezeigt) {
+        MerkeZustand(inhalt, tatsachen.uhrzeit);
         Zeige(inhalt, tatsachen.uhrzeit);
+    }
     gezeigt = inhalt;
+}
+
+/// Every new state is kept, with the line that it is about.
+void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const {
+    if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
+        return;
+    const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
+    modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.port + ", " +
+                         gegenstand.geraet + ", " + gegenstand.format + ")");
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {
@@ -116,11 +148,8 @@ void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {
     SetzeText(*zustandstext, Zustandstext(bild, jetzt));
     SetzeText(*zahlen, Zahlentext(bild));
     zahlen->setVisible(!zahlen->text().isEmpty());
-    start->setVisible(bild.startBieten);
-    if (start->isVisibleTo(this)) {
-        start->setText(QString::fromStdString(LadeText(TextStart)));
-        SetzeHinweis(*start, LadeText(TextStartHinweis));
-    }
+    Biete(*start, bild.startBieten, TextStart, TextStartHinweis);
+    Biete(*suchen, bild.sucheBieten, TextSuchen, TextSuchenHinweis);
     SetzeHinweis(*this, Verbindungshinweis(bild, inhalt.gegenstand, jetzt));
     setAccessibleName(zustandstext->text());
 }

@@ -48,6 +48,7 @@ Verbindungsbild Verbindungsregel::Betrachte(const Verbindungstatsachen& tatsache
     if (bild.zustand == Angehalten || bild.zustand == Offline)
         bild.seit = seit;
     bild.startBieten = !tatsachen.liveDaten && !tatsachen.verbindet && !tatsachen.portOffen;
+    bild.sucheBieten = bild.startBieten && tatsachen.fehlgeschlagen && !tatsachen.simuliert;
     return bild;
 }
 

@@ -18,8 +18,9 @@ struct Verbindungstatsachen {
     bool liveDaten = false; ///< polling is on
     bool verloren = false;  ///< polling is on, but its last pass has given up
     bool portOffen = false;
-    bool simuliert = false; ///< the built-in controller answers
-    bool unterwegs = false; ///< a reply is waited for
+    bool simuliert = false;      ///< the built-in controller answers
+    bool fehlgeschlagen = false; ///< the last exchange had no reply
+    bool unterwegs = false;      ///< a reply is waited for
     std::optional<Zeit> letzteAntwort{};
     std::optional<Zeit> wartetSeit{}; ///< since when no request has had a reply
     unsigned durchgaenge = 0;         ///< polling passes since polling was started
@@ -45,6 +46,7 @@ struct Verbindungsbild {
     double durchgaengeJeSekunde = 0; ///< of Live; 0 while none is known
     int fehlschlaege = 0;
     bool startBieten = false; ///< live data is neither on nor about to be
+    bool sucheBieten = false; ///< and the last attempt to reach the controller has failed
 
     bool operator==(const Verbindungsbild&) const = default;
 };

@@ -3,6 +3,7 @@
 #include "aktionen.h"
 #include "einstellungen.h"
 #include "leistenplan.h"
+#include "symbolbild.h"
 #include "texte.h"
 
 #include <QActionEvent>
@@ -55,6 +56,8 @@ Werkzeugleiste::Werkzeugleiste(QMainWindow& hauptfenster, std::span<const Befehl
     setIconSize({Bildgroesse, Bildgroesse});
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     mehr.installEventFilter(this);
+    connect(this, &QToolBar::orientationChanged, this, &Werkzeugleiste::ZeichneMehr);
+    ZeichneMehr();
     FuelleLeiste(befehle);
     Lokalisiere();
     const Leistenplatz platz = LiesLeistenplatz(DieEinstellungen());
@@ -65,6 +68,12 @@ Werkzeugleiste::Werkzeugleiste(QMainWindow& hauptfenster, std::span<const Befehl
     status->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(status, &QWidget::customContextMenuRequested, this,
             [this, status](QPoint stelle) { ZeigeMenue(status->mapToGlobal(stelle)); });
+}
+
+/// Qt's own sign is dark on every ground.
+void Werkzeugleiste::ZeichneMehr() {
+    const bool liegt = orientation() == Qt::Horizontal;
+    mehr.setIcon(Symbolbild(liegt ? QStringLiteral("mehr") : QStringLiteral("mehr_unten")));
 }
 
 void Werkzeugleiste::FuelleLeiste(std::span<const Befehlszeile> befehle) {

@@ -45,6 +45,7 @@ private:
         const Befehlszeile* zeile;
     };
 
+    void ZeichneMehr();
     void FuelleLeiste(std::span<const Befehlszeile> befehle);
     QAction& Stellvertreter(QAction& vorbild);
     void ZeigeMenue(QPoint stelle) const;

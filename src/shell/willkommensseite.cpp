@@ -34,10 +34,14 @@ struct Angebot {
     Befehl befehl;
     int text;
     int erklaerung;
+    int index = 0; ///< of the command
 };
+
+constexpr int AnDerSuche = 1; // of the command's pages
 
 constexpr Angebot DieAngebote[] = {
     {"cmdWillkommenVerbinden", Befehl::VisualisierenStart, 9201, 9202},
+    {"cmdWillkommenSuchen", Befehl::Verbindung, 8303, 8308, AnDerSuche},
     {"cmdWillkommenOeffnen", Befehl::KonfigurationOeffnen, 9203, 9204},
     {"cmdWillkommenNeu", Befehl::NeueKonfiguration, 9205, 9206},
     {"cmdWillkommenSimuliert", Befehl::SimuliertesGeraet, 9207, 9208},
@@ -113,7 +117,7 @@ Willkommensseite::Willkommensseite(QMdiArea& mdiBereich, const Klick& klick)
 }
 
 void Willkommensseite::BaueKnoepfe(QGridLayout& raster, const Klick& klick) {
-    for (const auto& [name, befehl, text, erklaerung] : DieAngebote) {
+    for (const auto& [name, befehl, text, erklaerung, index] : DieAngebote) {
         const int zeile = raster.rowCount();
         QPushButton* const knopf = MacheKnopf(QLatin1String(name));
         knopf->setProperty("Tag", text);
@@ -121,7 +125,8 @@ void Willkommensseite::BaueKnoepfe(QGridLayout& raster, const Klick& klick) {
         dazu->setWordWrap(true);
         raster.addWidget(knopf, zeile, 0);
         raster.addWidget(dazu, zeile, 1);
-        connect(knopf, &QPushButton::clicked, this, [klick, befehl = befehl] { klick(befehl, 0); });
+        connect(knopf, &QPushButton::clicked, this,
+                [klick, befehl = befehl, index = index] { klick(befehl, index); });
     }
 }
 

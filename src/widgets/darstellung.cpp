@@ -16,6 +16,7 @@ struct Farbtafel {
     QRgb feld;    ///< of lists and fields
     QRgb streifen;
     QRgb knopf;
+    QRgb linie; ///< of tables
     QRgb schrift;
     QRgb blass; ///< what cannot be chosen
     QRgb auswahl;
@@ -30,6 +31,7 @@ constexpr Farbtafel Helle{.flaeche = 0xfff1f2f4,
                           .feld = 0xffffffff,
                           .streifen = 0xfff3f5f8,
                           .knopf = 0xffe9ebee,
+                          .linie = 0xff9b9d9f,
                           .schrift = 0xff1b1f24,
                           .blass = 0xff868c93,
                           .auswahl = 0xff2b6cb0,
@@ -42,6 +44,7 @@ constexpr Farbtafel Dunkle{.flaeche = 0xff2a2d31,
                            .feld = 0xff1c1e21,
                            .streifen = 0xff24272a,
                            .knopf = 0xff3a3e44,
+                           .linie = 0xff5a6068,
                            .schrift = 0xffe8eaec,
                            .blass = 0xff8b9199,
                            .auswahl = 0xff2f6fb3,
@@ -54,6 +57,7 @@ constexpr Farbtafel Kontrastreiche{.flaeche = 0xff000000,
                                    .feld = 0xff000000,
                                    .streifen = 0xff1c1c1c,
                                    .knopf = 0xff000000,
+                                   .linie = 0xffffffff,
                                    .schrift = 0xffffffff,
                                    .blass = 0xffa8a8a8,
                                    .auswahl = 0xff0050c8,
@@ -75,6 +79,7 @@ QPalette Gemischt(const Farbtafel& tafel) {
     setze(QPalette::Base, tafel.feld);
     palette.setColor(QPalette::Disabled, QPalette::Base, QColor(tafel.flaeche));
     setze(QPalette::AlternateBase, tafel.streifen);
+    setze(QPalette::Mid, tafel.linie);
     setze(QPalette::BrightText, tafel.aufAuswahl);
     setze(QPalette::PlaceholderText, tafel.blass);
     setze(QPalette::Highlight, tafel.auswahl);
@@ -103,9 +108,11 @@ std::optional<QPalette> PaletteFuer(Erscheinung erscheinung) {
 }
 
 bool IstHoherKontrast(const QPalette& palette) {
-    return palette.color(QPalette::Base) == QColor(Qt::black) &&
-           palette.color(QPalette::Window) == QColor(Qt::black) &&
-           palette.color(QPalette::Text) == QColor(Qt::white);
+    const auto ist = [&palette](QPalette::ColorRole rolle, Qt::GlobalColor farbe) {
+        return palette.color(QPalette::Active, rolle) == QColor(farbe);
+    };
+    return ist(QPalette::Base, Qt::black) && ist(QPalette::Window, Qt::black) &&
+           ist(QPalette::Text, Qt::white);
 }
 
 bool IstDunkel(const QPalette& palette) {

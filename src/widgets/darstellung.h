@@ -22,7 +22,8 @@ inline constexpr Strahlfarbsatz DieFarbsaetze[] = {Strahlfarbsatz::GruenUndRot, 
 /// The colours of an appearance; nothing for that of the system.
 std::optional<QPalette> PaletteFuer(Erscheinung erscheinung);
 
-/// Whether a palette is that of high contrast: white on black, nothing between.
+/// Whether a palette is that of high contrast: white on black, nothing between. That of a control that cannot
+/// be chosen counts like any other.
 bool IstHoherKontrast(const QPalette& palette);
 /// Whether light writing stands on a dark ground.
 bool IstDunkel(const QPalette& palette);

@@ -2,6 +2,7 @@
 
 #include "symbolbild.h"
 
+#include <QDialogButtonBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -32,6 +33,7 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"cmdReihenfolge", "reihenfolge"},
     {"cmdBlankingmuster", "blanking"},
     {"cmdWillkommenVerbinden", "verbinden"},
+    {"cmdWillkommenSuchen", "anschluss"},
     {"cmdWillkommenOeffnen", "oeffnen"},
     {"cmdWillkommenNeu", "neu"},
     {"cmdWillkommenSimuliert", "simuliert"},
@@ -40,6 +42,8 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"cmdSpeichern", "speichern"},
     {"cmdDrucken", "drucken"},
     {"cmdLoeschen", "loeschen"},
+    {"cmdLeeren", "loeschen"},
+    {"cmdSupport", "bericht"},
     {"cmdVergleichen", "vergleich"},
     {"cmdAenderungen", "vergleich"},
     {"cmdVoriger", "zurueck"},
@@ -53,11 +57,38 @@ constexpr Knopfsymbol DieSymbole[] = {
     {"cmdTextExport", "speichern"},
     {"cmdTextImport", "oeffnen"},
     {"cmdSchliessen", "abbrechen"},
+    {"cmdSuchen", "suchen"},
+    {"cmdPruefen", "suchen"},
+    {"cmdAnhalten", "stopp"},
+    {"cmdGeben", "anschluss"},
+    {"cmdVerwerfen", "zurueck"},
+    {"cmdVerzoegerung", "ok"},
+    {"cmdVerwenden", "verbinden"},
+    {"cmdVerbinden", "verbinden"},
     {"frmInfo/Command1", "ok"},
     {"frmReihenfolge/Command1", "davor"},
     {"frmReihenfolge/Command2", "danach"},
     {"frmReihenfolge/Command3", "loeschen"},
 };
+
+struct Standardsymbol {
+    QDialogButtonBox::StandardButton knopf;
+    std::string_view symbol;
+};
+
+constexpr Standardsymbol DieStandardsymbole[] = {
+    {QDialogButtonBox::Ok, "ok"},
+    {QDialogButtonBox::Yes, "ok"},
+    {QDialogButtonBox::Cancel, "abbrechen"},
+    {QDialogButtonBox::Open, "oeffnen"},
+    {QDialogButtonBox::Save, "speichern"},
+};
+
+QIcon Bild(std::string_view symbol) {
+    if (symbol.empty())
+        return {};
+    return Symbolbild(QLatin1String(symbol.data(), static_cast<qsizetype>(symbol.size())));
+}
 
 /// The name of one of several, such as "cmdBlankingmuster_2", without its index.
 std::string OhneIndex(const std::string& name) {
@@ -82,7 +113,15 @@ void GibKnoepfenSymbole(QWidget& form) {
         const std::string name = knopf->objectName().toStdString();
         const std::string_view symbol = SymbolFuerKnopf(form.objectName().toStdString(), name);
         if (!symbol.empty() && knopf->icon().isNull() && knopf->window() == form.window())
-            knopf->setIcon(Symbolbild(QLatin1String(symbol.data(), static_cast<qsizetype>(symbol.size()))));
+            knopf->setIcon(Bild(symbol));
+    }
+}
+
+void GibKnoepfenSymbole(const QDialogButtonBox& knoepfe) {
+    for (QAbstractButton* knopf : knoepfe.buttons()) {
+        const auto* const da =
+            std::ranges::find(DieStandardsymbole, knoepfe.standardButton(knopf), &Standardsymbol::knopf);
+        knopf->setIcon(Bild(da == std::ranges::end(DieStandardsymbole) ? std::string_view() : da->symbol));
     }
 }
 

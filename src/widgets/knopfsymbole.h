@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+class QDialogButtonBox;
 class QWidget;
 
 namespace varnoth {
@@ -14,5 +15,9 @@ std::string_view SymbolFuerKnopf(const std::string& form, const std::string& nam
 /// Gives the push buttons of a form that have no picture theirs. What is inside forms of their own is left
 /// out.
 void GibKnoepfenSymbole(QWidget& form);
+
+/// Gives the buttons of one of Qt's own dialogs the same pictures in place of Qt's, and none to those whose
+/// kind has none here. To be called when the buttons are there.
+void GibKnoepfenSymbole(const QDialogButtonBox& knoepfe);
 
 } // namespace varnoth

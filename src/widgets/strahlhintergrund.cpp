@@ -22,6 +22,11 @@ struct Blatt {
     QFontMetrics masse;
 
     int Pixel(double logisch) const { return Geraetepixel(logisch, vorgabe.dichte); }
+    // Above the beams of a zoomed bar stands what is told of the view.
+    bool RagtInKopfzeile(double mitte) const {
+        const int unterkante = plan.feld.oben - Pixel(Masse::Ueberstand);
+        return vorgabe.ZeigtUebersicht() && mitte - masse.height() / 2.0 < unterkante;
+    }
     void Text(int links, int breite, double mitte, int ausrichtung, const QString& text) const {
         const int hoehe = masse.height();
         const int oben = static_cast<int>(std::lround(mitte - hoehe / 2.0));
@@ -69,7 +74,8 @@ void ZeichneNummern(const Blatt& blatt) {
     const int links = blatt.plan.EmpfaengerLinks() + blatt.plan.gehaeuse + blatt.Pixel(Masse::Luecke);
     const int breite = blatt.plan.nummern - blatt.Pixel(Masse::Luecke);
     for (const int nummer : Strahlnummern(blatt.plan.feld, 1.3 * blatt.masse.height()))
-        blatt.Text(links, breite, blatt.plan.feld.Y(nummer - 0.5), Qt::AlignLeft, QString::number(nummer));
+        if (const double y = blatt.plan.feld.Y(nummer - 0.5); !blatt.RagtInKopfzeile(y))
+            blatt.Text(links, breite, y, Qt::AlignLeft, QString::number(nummer));
 }
 
 void ZeichneGehaeuse(const Blatt& blatt, int links) {

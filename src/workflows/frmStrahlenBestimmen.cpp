@@ -13,6 +13,7 @@ frmStrahlenBestimmen::frmStrahlenBestimmen(QWidget* parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmStrahlenBestimmen>()) {
     ui->setupUi(this);
     ui->strahlen->SetzeTexte(Texte);
+    ui->strahlen->NimmFokus();
     LokalisiereForm(*this);
     connect(ui->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);

@@ -2,6 +2,7 @@
 
 #include "feldtext.h"
 #include "sicherungen.h"
+#include "symbolbild.h"
 #include "texte.h"
 #include "ui_strahlengruppe.h"
 #include "umgebung.h"
@@ -34,7 +35,7 @@ Strahlengruppe::Strahlengruppe(QWidget* eltern)
     Option1 = {ui->Option1_0, ui->Option1_1, ui->Option1_2, ui->Option1_3};
     const int mass = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     ui->imgZuVieleStrahlen->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(QSize(mass, mass)));
+        Symbolbild(QStringLiteral("warnung")).pixmap(QSize(mass, mass), devicePixelRatio()));
     BehaltePlatz(*ui->imgZuVieleStrahlen);
     FuelleListen();
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
@@ -64,6 +65,12 @@ void Strahlengruppe::SetzeTexte(const Strahlentexte& neue) {
     for (QLabel* const beschriftung :
          {ui->lblStrahlenanzahlL1, ui->lblStrahlenanzahlL2, ui->lblStrahlenanzahlL3, ui->lblStrahlenanzahlL4})
         SetzeTag(*beschriftung, id++);
+}
+
+void Strahlengruppe::NimmFokus() {
+    for (QRadioButton* const option : Option1)
+        if (option->isChecked())
+            option->setFocus();
 }
 
 void Strahlengruppe::NimmOptikteile(int anzahl) {

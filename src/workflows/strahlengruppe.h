@@ -36,6 +36,8 @@ public:
     /// Makes the new configuration in the register image. False, after a message, for too many beams
     /// together, and where changes that would be lost could not be put aside and the user keeps them.
     bool Uebernimm();
+    /// The keys go to the number of optical parts that is chosen: an arrow key changes it from there.
+    void NimmFokus();
 
 private:
     void FuelleListen();

@@ -2,16 +2,21 @@
 
 #include "fenstertest.h"
 #include "qttexte.h"
+#include "symbolbild.h"
 #include "texte.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace varnoth {
 
@@ -72,6 +77,18 @@ TEST_F(Dateidialog, A_filter_gives_its_extension_and_the_one_of_all_files_none) 
     EXPECT_EQ(EndungAus("Konfiguration (*.con)"), "con");
     EXPECT_EQ(EndungAus("Alle Dateien (*)"), "");
     EXPECT_EQ(EndungAus(""), "");
+}
+
+TEST_F(Dateidialog, Its_buttons_have_the_programs_own_pictures) {
+    for (const auto& [art, knopf, bild] : {std::tuple{Dateiwahl::Oeffnen, QDialogButtonBox::Open, "oeffnen"},
+                                           {Dateiwahl::Speichern, QDialogButtonBox::Save, "speichern"},
+                                           {Dateiwahl::Oeffnen, QDialogButtonBox::Cancel, "abbrechen"}})
+        Frage({.art = art, .ordner = ordner.path().toStdString()},
+              [k = knopf, b = bild](QFileDialog& dialog) {
+                  const QIcon gezeigt = dialog.findChild<QDialogButtonBox*>()->button(k)->icon();
+                  EXPECT_EQ(gezeigt.pixmap(16, 16).toImage(), Symbolbild(b).pixmap(16, 16).toImage()) << b;
+                  static_cast<QDialog&>(dialog).reject();
+              });
 }
 
 TEST_F(Dateidialog, It_shows_title_filters_folder_and_the_first_filter) {

@@ -2,6 +2,7 @@
 
 #include "fenstertest.h"
 #include "qttexte.h"
+#include "symbolbild.h"
 #include "texte.h"
 
 #include <QAbstractButton>
@@ -49,6 +50,30 @@ TEST(Meldungsfenster, A_question_shows_a_question_mark_and_a_plain_notice_no_sig
             EXPECT_EQ(fenster.icon(), z);
             fenster.accept();
         });
+}
+
+TEST(Meldungsfenster, Its_sign_is_one_of_the_programs_own_pictures) {
+    const std::pair<Symbol, const char*> faelle[] = {{Symbol::Warnung, "warnung"}, {Symbol::Frage, "frage"}};
+    for (const auto& [symbol, name] : faelle)
+        Beantworte({.text = "x", .symbol = symbol}, [n = name](QMessageBox& fenster) {
+            const QImage bild =
+                fenster.findChild<QLabel*>("qt_msgboxex_icon_label")->pixmap(Qt::ReturnByValue).toImage();
+            EXPECT_EQ(bild, Symbolbild(n).pixmap(bild.size()).toImage());
+            EXPECT_GE(bild.width(), 32);
+            fenster.accept();
+        });
+}
+
+TEST(Meldungsfenster, Its_buttons_have_the_programs_own_pictures) {
+    Beantworte({.text = "x", .knoepfe = Knoepfe::JaNeinAbbrechen}, [](QMessageBox& fenster) {
+        const auto bild = [&fenster](QMessageBox::StandardButton knopf) {
+            return fenster.button(knopf)->icon().pixmap(16, 16).toImage();
+        };
+        EXPECT_EQ(bild(QMessageBox::Yes), Symbolbild("ok").pixmap(16, 16).toImage());
+        EXPECT_TRUE(bild(QMessageBox::No).isNull());
+        EXPECT_EQ(bild(QMessageBox::Cancel), Symbolbild("abbrechen").pixmap(16, 16).toImage());
+        fenster.accept();
+    });
 }
 
 TEST(Meldungsfenster, Without_a_title_it_bears_the_programs_title) {

@@ -10,6 +10,8 @@
 #include <QDialog>
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace varnoth::pruefung {
 
 class Leitungsende : public ProgrammTest {
@@ -60,8 +62,10 @@ TEST_F(Leitungsende, The_command_frame_without_a_reply_leaves_whole) {
     ASSERT_EQ(modModbus::SendeFunktion09Kommando(), True);
     EXPECT_EQ(GeordneteEnden(), vorher + 1);
     const auto eintraege = mitschrift->Eintraege();
-    ASSERT_GE(eintraege.size(), 4U);
-    EXPECT_EQ(eintraege[eintraege.size() - 4].bytes, 4U);
+    const auto letztes = std::ranges::find(eintraege.rbegin(), eintraege.rend(), Aufruf::Schreiben,
+                                           &Leitungsmitschrift::Eintrag::aufruf);
+    ASSERT_NE(letztes, eintraege.rend());
+    EXPECT_EQ(letztes->bytes, 4U);
 }
 
 TEST_F(Leitungsende, A_request_whose_exchange_has_failed_leaves_whole) {

@@ -26,6 +26,7 @@ Buehnenumgebung::Buehnenumgebung() {
 
 void Buehnenumgebung::WarteAufEreignis(Zeit hoechstens) {
     PruefUmgebung::WarteAufEreignis(hoechstens);
+    ErledigeAufgeschobenes();
     beiEreignissen();
 }
 

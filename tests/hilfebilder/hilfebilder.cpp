@@ -1,6 +1,9 @@
-// Takes the pictures of the help: hilfebilder FOLDER, where the folder holds those of the languages.
+// Takes the pictures of the help: hilfebilder FOLDER [LOOK], where the folder holds those of the languages.
+// The help has them as they are without a look; with one, as the settings name it, they are there to be
+// looked at.
 
 #include "bildspeicher.h"
+#include "erscheinungsbild.h"
 #include "motive.h"
 #include "texte.h"
 
@@ -11,6 +14,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <string>
 #include <utility>
 
 namespace varnoth::hilfebilder {
@@ -38,6 +42,14 @@ void NimmAlleAuf(const QDir& hilfe) {
     }
 }
 
+/// @throws std::runtime_error for a word that the settings do not know
+Darstellung MitErscheinung(const std::string& wort) {
+    for (const auto& zeile : Erscheinungszeilen())
+        if (wort == zeile.wort)
+            return {.erscheinung = zeile.wert};
+    throw std::runtime_error("no look " + wort);
+}
+
 } // namespace
 
 } // namespace varnoth::hilfebilder
@@ -48,12 +60,15 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    if (argc != 2) {
-        std::fprintf(stderr, "hilfebilder FOLDER: takes the pictures of the help into FOLDER/de/bilder and "
-                             "FOLDER/en/bilder\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr,
+                     "hilfebilder FOLDER [LOOK]: takes the pictures of the help into FOLDER/de/bilder "
+                     "and FOLDER/en/bilder\n");
         return EXIT_FAILURE;
     }
     try {
+        const varnoth::Erscheinungsbild bild(argc == 3 ? varnoth::hilfebilder::MitErscheinung(argv[2])
+                                                       : varnoth::Darstellung());
         varnoth::hilfebilder::NimmAlleAuf(QDir(QString::fromLocal8Bit(argv[1])));
     } catch (const std::exception& fehler) {
         std::fprintf(stderr, "%s\n", fehler.what());

@@ -3,6 +3,7 @@
 #include "einstellungen.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
+#include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmIdentifikationsAnforderung.h"
@@ -18,20 +19,29 @@
 #include "frmSicherungen.h"
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
+#include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "leitungspruefung.h"
+#include "polling.h"
+#include "protokollanbieter.h"
 #include "pruefsicherungen.h"
+#include "pruefverbindung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "servicetext.h"
+#include "suchworte.h"
 #include "vergleichsanbieter.h"
 #include "zeittext.h"
 
+#include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTreeWidget>
 
 #include <tuple>
@@ -49,7 +59,9 @@ constexpr QSize Ansichtsgroesse(480, 380);
 constexpr QSize Blankinggroesse(520, 560);
 constexpr QSize Listengroesse(680, 260);
 constexpr QSize Vergleichsgroesse(840, 400);
+constexpr QSize Verbindungsgroesse(760, 480);
 constexpr QSize Berichtsgroesse(840, 600);
+constexpr QSize Protokollgroesse(840, 520);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
 constexpr int SeiteK1 = 1;
@@ -193,6 +205,82 @@ QImage Vergleich(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+/// A machine with an adapter that COM1 means, one in use by another program and a port of the board.
+struct Beispielports : pruefung::PruefVerbindung {
+    Beispielports() {
+        ports = {pruefung::EinAdapter(),
+                 {.geraet = "/dev/ttyUSB1",
+                  .bezeichnung = "USB-Serial Controller",
+                  .befund = {.hindernis = Hindernis::KeinRecht,
+                             .eigentuemer = "root",
+                             .gruppe = "dialout",
+                             .nutzer = "eva"}},
+                 {.geraet = "/dev/ttyS0", .bezeichnung = "UART 16550A"}};
+        ports[0].verzoegerungMs = 1;
+        stand.wahl.Geraet(1) = ports[0].stabileNamen.front();
+        FolgeNamen();
+        stand.ziele[0] = "/dev/ttyUSB0";
+    }
+};
+
+/// The same moment in every picture.
+void Datiere(QLabel& label) {
+    const auto damals = std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    label.setText(label.text().replace(Zeittext(std::chrono::system_clock::now()), Zeittext(damals)));
+}
+
+QImage Verbindungsports(Buehne& buehne) {
+    Beispielports rechner;
+    frmVerbindung fenster(rechner);
+    fenster.resize(Verbindungsgroesse);
+    auto& liste = Kind<QTreeWidget>(fenster, "lstPorts");
+    liste.setCurrentItem(liste.topLevelItem(1));
+    return buehne.BildNach(fenster, Sofort);
+}
+
+/// Found at the eighth try, as `SucheSteuergeraet` makes them.
+QImage Verbindungssuche(Buehne& buehne) {
+    constexpr int Fundversuch = 8;
+    Beispielports rechner;
+    frmVerbindung fenster(rechner);
+    fenster.resize(Verbindungsgroesse);
+    fenster.Schlage(Verbindungsseite::Suche);
+    Kind<QPushButton>(fenster, "cmdSuchen").click();
+    const auto folge = Suchfolge({"/dev/ttyUSB0"});
+    Suchfund fund = pruefung::EinFund();
+    for (int nummer = 1; nummer <= Fundversuch; ++nummer) {
+        const auto ergebnis = nummer < Fundversuch ? Suchergebnis::Stille : Suchergebnis::Gefunden;
+        fund.versuch = folge[static_cast<std::size_t>(nummer - 1)];
+        fenster.ZeigeVersuch({.nummer = nummer,
+                              .anzahl = static_cast<int>(folge.size()),
+                              .versuch = fund.versuch,
+                              .ergebnis = ergebnis,
+                              .text = Versuchstext(ergebnis)});
+    }
+    fund.text = Versuchstext(Suchergebnis::Gefunden);
+    fenster.BeendeSuche(fund);
+    Datiere(Kind<QLabel>(fenster, "lblSuchstand"));
+    return buehne.BildNach(fenster, Sofort);
+}
+
+QImage Verbindungspruefung(Buehne& buehne) {
+    Beispielports rechner;
+    frmVerbindung fenster(rechner);
+    fenster.resize(Verbindungsgroesse);
+    fenster.Schlage(Verbindungsseite::Leitung);
+    Pruefbefund befund;
+    befund.geraet = rechner.stand.Geraet();
+    befund.format = rechner.stand.wahl.format;
+    befund.gesendet = Pruefauftrag().anzahl;
+    befund.anzahl[static_cast<std::size_t>(Pruefende::Beantwortet)] = befund.gesendet;
+    for (int i = 0; i < befund.gesendet; ++i)
+        befund.umlaufzeiten.push_back(milliseconds(21) + Zeit(10 * i));
+    befund.antwortlaenge = 60;
+    fenster.BeendePruefung(befund);
+    Datiere(Kind<QLabel>(fenster, "lblPruefstand"));
+    return buehne.BildNach(fenster, Sofort);
+}
+
 /// What a write of three changed settings will change.
 QImage Registerliste(Buehne& buehne) {
     Geraetestand stand;
@@ -216,6 +304,41 @@ QImage Berichtsfenster(Buehne& buehne) {
         DieEinstellungen().SchreibText("frmBericht", schluessel, text);
     frmBericht fenster({.angaben = [] { return Berichtsangaben{.programmversion = "1.0.0"}; }});
     fenster.resize(Berichtsgroesse);
+    return buehne.BildNach(fenster, Sofort);
+}
+
+struct Protokollzeit : Protokollanbieter {
+    std::optional<std::string> FrageNachDatei(const std::string& /*titel*/, const std::string& /*filter*/,
+                                              const std::string& /*name*/) override {
+        return {};
+    }
+    bool Schreibe(const std::string& /*pfad*/, const std::string& /*bytes*/) override { return false; }
+    Supportangaben Angaben() override { return {}; }
+    std::chrono::system_clock::time_point Jetzt() override {
+        return std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    }
+};
+
+/// Two passes of live data, the measured values of the third part chosen.
+QImage Protokoll(Buehne& buehne) {
+    constexpr int Durchgaenge = 2;
+    constexpr int Messwerte = 15;
+    buehne.Hauptfenster();
+    Protokollzeit anbieter;
+    frmBusprotokoll fenster(anbieter);
+    fenster.resize(Protokollgroesse);
+    fenster.show();
+    modPolling::StartePolling(); // another picture may have ended it
+    for (int i = 0; i < Durchgaenge; ++i)
+        modPolling::PollingZyklus();
+    buehne.HalteAn();
+    Kind<QCheckBox>(fenster, "chkWorte").setChecked(true);
+    auto& halt = Kind<QCheckBox>(fenster, "chkAnhalten");
+    halt.setChecked(true);
+    halt.setChecked(false); // it looks at what has come
+    DieUmgebung().NutzeWartezeit();
+    auto& tabelle = Kind<QTableView>(fenster, "tblProtokoll");
+    tabelle.setCurrentIndex(tabelle.model()->index(Messwerte, 0));
     return buehne.BildNach(fenster, Sofort);
 }
 
@@ -249,6 +372,10 @@ std::span<const Motiv> AlleMotive() {
         {"frmVergleich", Vergleich},
         {"frmRegisterliste", Registerliste},
         {"frmBericht", Berichtsfenster},
+        {"frmBusprotokoll", Protokoll},
+        {"frmVerbindung_ports", Verbindungsports},
+        {"frmVerbindung_suche", Verbindungssuche},
+        {"frmVerbindung_leitung", Verbindungspruefung},
     };
     return motive;
 }

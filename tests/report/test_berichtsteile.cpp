@@ -43,6 +43,10 @@ TEST(HtmlTest, The_head_of_a_table_is_one_that_is_repeated) {
     EXPECT_THAT(html::Tabelle({}, {}), Not(HasSubstr("thead")));
 }
 
+TEST(HtmlTest, A_cell_of_nothing_holds_a_blank_so_that_what_follows_the_table_keeps_its_distance) {
+    EXPECT_THAT(html::Tabelle({}, {{{"1"}, {""}}}), HasSubstr("<td>1</td><td>&nbsp;</td></tr>"));
+}
+
 TEST(PruefsummeTest, Is_the_usual_one_of_32_bits) {
     EXPECT_EQ(Crc32("123456789"), 0xCBF43926U);
     EXPECT_EQ(Crc32(""), 0U);

@@ -141,7 +141,7 @@ TEST(BerichtTest, A_setting_that_differs_from_the_default_is_bold_and_has_the_de
 TEST(BerichtTest, A_setting_like_the_default_is_plain_and_alone) {
     Abbild abbild = Standardkonfiguration();
     ASSERT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 32, 0));
-    EXPECT_THAT(Deutscher(abbild), ContainsRegex("Auflösung</td><td[^>]*>5mm</td><td[^>]*></td>"));
+    EXPECT_THAT(Deutscher(abbild), ContainsRegex("Auflösung</td><td[^>]*>5mm</td><td[^>]*>&nbsp;</td>"));
     EXPECT_THAT(Deutscher(abbild), HasSubstr("Keine Einstellung weicht von der Werkseinstellung ab."));
 }
 
@@ -255,6 +255,10 @@ TEST(BerichtTest, There_is_a_place_to_sign_and_the_browser_numbers_the_pages) {
                                    HasSubstr("\"Seite \" counter(page) \" von \" counter(pages)")));
     EXPECT_THAT(Bericht(Abbild(), {}, Englisch),
                 HasSubstr("\"Page \" counter(page) \" of \" counter(pages)"));
+}
+
+TEST(BerichtTest, The_place_to_sign_is_one_line_so_that_no_page_ends_inside) {
+    EXPECT_THAT(Deutscher(), ContainsRegex("<p>Ort, Datum&nbsp;_+ Name&nbsp;_+ Unterschrift&nbsp;_+ </p>"));
 }
 
 TEST(BerichtTest, In_English_every_word_is_English) {

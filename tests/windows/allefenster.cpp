@@ -2,6 +2,7 @@
 
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
+#include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
 #include "frmHilfe.h"
@@ -20,8 +21,14 @@
 #include "frmSimulation.h"
 #include "frmSplash.h"
 #include "frmStrahlenBestimmen.h"
+#include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "leitungspruefung.h"
+#include "mithoeren.h"
+#include "protokollanbieter.h"
 #include "pruefsicherungen.h"
+#include "pruefverbindung.h"
+#include "rahmen.h"
 #include "standardkonfiguration.h"
 #include "vergleichsanbieter.h"
 
@@ -42,6 +49,15 @@ struct Anbieter : Vergleichsanbieter {
     std::vector<Vergleichsquelle> Fragbare() override { return {Vergleichsquelle::Datei}; }
     void Verlange(Vergleichsquelle, Seitenwahl) override {}
     void SpeichereText(const std::string&) override {}
+};
+
+struct KeinProtokollziel : Protokollanbieter {
+    std::optional<std::string> FrageNachDatei(const std::string&, const std::string&,
+                                              const std::string&) override {
+        return {};
+    }
+    bool Schreibe(const std::string&, const std::string&) override { return false; }
+    Supportangaben Angaben() override { return {}; }
 };
 
 struct EineSicherung : PruefSicherungen {
@@ -75,6 +91,17 @@ std::unique_ptr<QWidget> Blankingmuster() {
     return fenster;
 }
 
+/// A refusal from somebody who is no controller of ours.
+std::unique_ptr<QWidget> Busprotokollfenster() {
+    auto fenster = std::make_unique<MitUmfeld<frmBusprotokoll, KeinProtokollziel>>();
+    fenster->show();
+    modMithoeren::Gesendet(Zeit(0));
+    modMithoeren::Empfangen(TextMitTags, Zeit(1000));
+    modMithoeren::Endet(Austauschart::Auftrag, LeseAnforderung(1, 5, 1), modMithoeren::Ausgang::Ausgeblieben,
+                        true);
+    return fenster;
+}
+
 std::unique_ptr<QWidget> Ansicht() {
     auto fenster = std::make_unique<frmDocument>(0);
     fenster->InitfrmDocument();
@@ -98,6 +125,40 @@ std::unique_ptr<QWidget> Sicherungsfenster() {
     return std::make_unique<MitUmfeld<frmSicherungen, EineSicherung>>(Sicherungsbefehle{});
 }
 
+/// A port and a controller that call themselves what they like, and a device that cannot be had.
+struct BoeseLeitung : PruefVerbindung {
+    BoeseLeitung() {
+        const std::string boese = TextMitTags;
+        ports = {{.geraet = boese,
+                  .bezeichnung = boese,
+                  .seriennummer = boese,
+                  .stabileNamen = {boese},
+                  .befund = {.hindernis = Hindernis::Belegt, .prozesse = {boese}},
+                  .verzoegerungsdatei = boese,
+                  .verzoegerungMs = 16}};
+        stand.wahl.geraete.fill(boese);
+        stand.wahl.format = boese;
+        stand.geraetDiesesLaufs = boese;
+        FolgeNamen();
+    }
+};
+
+std::unique_ptr<QWidget> Verbindungsfenster() {
+    auto fenster = std::make_unique<MitUmfeld<frmVerbindung, BoeseLeitung>>();
+    Suchfund fund = EinFund(TextMitTags);
+    fund.ident.text1 = fund.ident.text2 = fund.text = TextMitTags;
+    fenster->ZeigeVersuch({.nummer = 1,
+                           .anzahl = 1,
+                           .versuch = {TextMitTags, TextMitTags},
+                           .ergebnis = Suchergebnis::PortVerschlossen,
+                           .text = TextMitTags});
+    fenster->BeendeSuche(fund);
+    Pruefbefund befund;
+    befund.geraet = befund.format = TextMitTags;
+    fenster->BeendePruefung(befund);
+    return fenster;
+}
+
 std::unique_ptr<QWidget> Vergleich() {
     auto fenster = std::make_unique<MitUmfeld<frmVergleich, Anbieter>>();
     fenster->Setze(
@@ -112,6 +173,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
     static const std::vector<Fensterprobe> alle{
         {"frmBericht", Bericht},
         {"frmBlankingmuster", Blankingmuster},
+        {"frmBusprotokoll", Busprotokollfenster},
         {"frmDocument", Ansicht},
         {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
         {"frmHilfe", Einfach<frmHilfe>},
@@ -130,6 +192,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmSimulation", Einfach<frmSimulation>},
         {"frmSplash", Einfach<frmSplash>},
         {"frmStrahlenBestimmen", Einfach<frmStrahlenBestimmen>},
+        {"frmVerbindung", Verbindungsfenster},
         {"frmVergleich", Vergleich},
     };
     return alle;

@@ -121,6 +121,18 @@ TEST_F(BeamBarBeobachtung, There_is_room_for_a_line_of_text_above_the_beams) {
     }
 }
 
+TEST_F(BeamBarBeobachtung, No_beam_number_stands_in_the_line_above_a_zoomed_view) {
+    for (int zehntel = 0; zehntel < 10; ++zehntel) {
+        balken.ZeigeAusschnitt({200 + zehntel / 10.0, 20});
+        const QImage bild = Bild();
+        const QRect zeile = balken.Kopfzeile();
+        for (int y = zeile.top(); y <= zeile.bottom(); ++y)
+            for (int x = zeile.left(); x <= zeile.right(); ++x)
+                ASSERT_EQ(bild.pixelColor(x, y), balken.palette().color(QPalette::Base))
+                    << zehntel << ": " << x << ", " << y;
+    }
+}
+
 TEST_F(BeamBarBeobachtung, The_row_under_the_pointer_is_marked_across_the_whole_width) {
     Stelle(40, 320, 420);
     const QImage ohne = Bild();

@@ -45,7 +45,12 @@ struct PruefWirkung : Befehlswirkung {
     void ZeigeBericht() override { getan = "report"; }
     void ZeigeVergleich() override { getan = "comparison"; }
     void LiesGeraetZumVergleich() override { getan = "read to compare"; }
+    void ZeigeVerbindung(bool suche) override { getan = suche ? "search page" : "connection window"; }
+    void UebernimmAnschluss() override { getan = "take the port"; }
+    void SucheGeraet() override { getan = "search"; }
+    void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
+    void ZeigeBusprotokoll() override { getan = "bus log"; }
 
     std::string getan;
 };
@@ -100,6 +105,12 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(111), "read to compare");
     EXPECT_EQ(GetanVon(112), "report");
     EXPECT_EQ(GetanVon(130), "appearance");
+    EXPECT_EQ(GetanVon(150, 0), "connection window");
+    EXPECT_EQ(GetanVon(150, 1), "search page");
+    EXPECT_EQ(GetanVon(151), "take the port");
+    EXPECT_EQ(GetanVon(152), "search");
+    EXPECT_EQ(GetanVon(153), "line check");
+    EXPECT_EQ(GetanVon(140), "bus log");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -114,6 +125,8 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::ResetHardware, ""},
         {Befehl::Sicherungen, "Ctrl+B"},
         {Befehl::Vergleich, "Ctrl+D"},
+        {Befehl::Verbindung, "Ctrl+Shift+K"},
+        {Befehl::Busprotokoll, "Ctrl+L"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);

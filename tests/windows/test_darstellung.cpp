@@ -136,10 +136,19 @@ TEST(Darstellung, What_cannot_be_chosen_is_paler_and_still_to_be_seen) {
     }
 }
 
+TEST(Darstellung, Lines_of_tables_are_seen_on_every_ground) {
+    for (const QPalette& palette : Paletten())
+        EXPECT_GE(Kontrast(palette.color(QPalette::Mid), palette.color(QPalette::Base)), 2.3)
+            << palette.color(QPalette::Window).name().toStdString();
+}
+
 TEST(Darstellung, Only_high_contrast_is_white_on_black) {
     for (const Erscheinung erscheinung : EigeneFarben)
         EXPECT_EQ(IstHoherKontrast(*PaletteFuer(erscheinung)), erscheinung == Erscheinung::HoherKontrast);
-    const QPalette hoch = *PaletteFuer(Erscheinung::HoherKontrast);
+    QPalette hoch = *PaletteFuer(Erscheinung::HoherKontrast);
+    hoch.setCurrentColorGroup(QPalette::Disabled);
+    EXPECT_TRUE(IstHoherKontrast(hoch));
+    hoch.setCurrentColorGroup(QPalette::Active);
     EXPECT_GE(Kontrast(hoch.color(QPalette::WindowText), hoch.color(QPalette::Window)), 21);
 }
 

@@ -6,21 +6,32 @@
 #include "frmMain.h"
 #include "pruefgeraet.h"
 #include "strahlfarben.h"
+#include "verblassen.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QHeaderView>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOptionTitleBar>
+#include <QTextEdit>
+#include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
+#include <vector>
 
 namespace varnoth {
 
@@ -131,6 +142,148 @@ TEST(Erscheinungsbild, With_high_contrast_a_list_has_edges_and_a_plain_frame_has
     EXPECT_FALSE(HatKante(rahmen.grab().toImage(), 7));
 }
 
+TEST(Erscheinungsbild, With_high_contrast_a_page_of_text_and_the_head_of_a_list_have_edges) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::HoherKontrast});
+    QTextEdit text;
+    text.resize(80, 40);
+    EXPECT_TRUE(HatKante(text.grab().toImage(), 7));
+    QTreeWidget liste;
+    liste.setHeaderLabels({"a", "b"});
+    EXPECT_TRUE(HatKante(liste.header()->grab().toImage(), 7));
+}
+
+TEST(Erscheinungsbild, With_high_contrast_what_cannot_be_chosen_has_edges_too) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::HoherKontrast});
+    QPushButton knopf;
+    knopf.setEnabled(false);
+    knopf.resize(80, 24);
+    EXPECT_TRUE(HatKante(knopf.grab().toImage(), 7));
+}
+
+/// The highest contrast of a pixel to the ground.
+double GroessterKontrast(const QImage& bild, const QColor& grund) {
+    double groesster = 1;
+    for (int y = 0; y < bild.height(); ++y)
+        for (int x = 0; x < bild.width(); ++x)
+            groesster = std::max(groesster, Kontrast(bild.pixelColor(x, y), grund));
+    return groesster;
+}
+
+TEST(Erscheinungsbild, With_high_contrast_a_line_between_groups_is_seen) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::HoherKontrast});
+    for (const auto form : {QFrame::HLine, QFrame::VLine}) {
+        QFrame linie;
+        linie.setFrameShape(form);
+        linie.setFrameShadow(QFrame::Sunken);
+        linie.resize(20, 20);
+        EXPECT_GE(GroessterKontrast(linie.grab().toImage(), Qt::black), 7);
+    }
+}
+
+TEST(Erscheinungsbild, On_dark_grounds_the_lines_of_menus_and_tool_bars_are_seen) {
+    for (const Erscheinung erscheinung : {Erscheinung::Dunkel, Erscheinung::HoherKontrast}) {
+        const Erscheinungsbild bild({.erscheinung = erscheinung});
+        QMenu menue;
+        menue.addAction("a");
+        QAction* const trenner = menue.addSeparator();
+        menue.addAction("b");
+        menue.resize(menue.sizeHint());
+        EXPECT_GE(GroessterKontrast(menue.grab(menue.actionGeometry(trenner)).toImage(),
+                                    menue.palette().color(QPalette::Base)),
+                  3);
+        QToolBar leiste;
+        leiste.addAction("a");
+        const QWidget* const strich = leiste.widgetForAction(leiste.addSeparator());
+        leiste.addAction("b");
+        leiste.resize(leiste.sizeHint());
+        leiste.show();
+        EXPECT_GE(GroessterKontrast(leiste.grab(strich->geometry()).toImage(),
+                                    leiste.palette().color(QPalette::Window)),
+                  3);
+    }
+}
+
+TEST(Erscheinungsbild, On_dark_grounds_a_menu_has_edges) {
+    for (const Erscheinung erscheinung : {Erscheinung::Dunkel, Erscheinung::HoherKontrast}) {
+        const Erscheinungsbild bild({.erscheinung = erscheinung});
+        QMenu menue;
+        menue.addAction("a");
+        menue.resize(menue.sizeHint());
+        EXPECT_TRUE(HatKante(menue.grab().toImage(), 3));
+    }
+}
+
+TEST(Erscheinungsbild, The_line_below_the_heading_of_a_menu_begins_behind_it) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::HoherKontrast});
+    QMenu menue;
+    QAction* const kopf = menue.addSection("mmmm");
+    menue.addAction("a long entry, for a menu that is wide");
+    menue.resize(menue.sizeHint());
+    const QRect platz = menue.actionGeometry(kopf);
+    const QImage zeile = menue.grab(platz).toImage();
+    const int ende = menue.fontMetrics().horizontalAdvance("mmmm");
+    EXPECT_EQ(zeile.pixelColor(ende + 5, platz.height() / 2 - 1), QColor(Qt::black));
+    EXPECT_GE(GroessterKontrast(zeile.copy(ende + 20, 0, 20, platz.height()), Qt::black), 7);
+}
+
+/// A title bar as the style draws it whose texts have this colour.
+QImage Titelleiste(const QColor& texte, bool aktiv) {
+    QStyleOptionTitleBar leiste;
+    leiste.rect = QRect(0, 0, 200, 24);
+    leiste.text = "1. Optikteil";
+    leiste.palette = QApplication::palette();
+    leiste.palette.setColor(QPalette::Text, texte);
+    leiste.subControls = QStyle::SC_TitleBarLabel;
+    leiste.titleBarFlags = Qt::Window | Qt::WindowTitleHint;
+    leiste.titleBarState = aktiv ? static_cast<int>(QStyle::State_Active) : 0;
+    QImage bild(leiste.rect.size(), QImage::Format_RGB32);
+    bild.fill(Qt::black);
+    QPainter maler(&bild);
+    QApplication::style()->drawComplexControl(QStyle::CC_TitleBar, &leiste, &maler);
+    return bild;
+}
+
+TEST(Erscheinungsbild, On_dark_grounds_a_title_has_no_light_shadow) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::Dunkel});
+    for (const bool aktiv : {true, false})
+        EXPECT_EQ(Titelleiste(Qt::white, aktiv), Titelleiste(Qt::black, aktiv)) << aktiv;
+}
+
+TEST(Erscheinungsbild, On_dark_grounds_what_cannot_be_chosen_has_no_shadow) {
+    const Erscheinungsbild bild({.erscheinung = Erscheinung::Dunkel});
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
+}
+
+/// The lowest contrast of what is drawn of a sign to black; 0 where nothing is.
+double KleinsterKontrast(const QIcon& zeichen) {
+    const QImage bild = zeichen.pixmap(16, 16).toImage();
+    std::vector<double> kontraste;
+    for (int y = 0; y < bild.height(); ++y)
+        for (int x = 0; x < bild.width(); ++x)
+            if (bild.pixelColor(x, y).alpha() > 0)
+                kontraste.push_back(Kontrast(bild.pixelColor(x, y), Qt::black));
+    return kontraste.empty() ? 0 : std::ranges::min(kontraste);
+}
+
+TEST(Erscheinungsbild, On_dark_grounds_the_buttons_of_a_view_that_fills_the_window_have_light_signs) {
+    for (const Erscheinung erscheinung : {Erscheinung::Dunkel, Erscheinung::HoherKontrast}) {
+        const Erscheinungsbild bild({.erscheinung = erscheinung});
+        for (const auto zeichen :
+             {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton})
+            EXPECT_GE(KleinsterKontrast(QApplication::style()->standardIcon(zeichen)), 7) << zeichen;
+    }
+}
+
+TEST(Erscheinungsbild, With_high_contrast_what_is_old_stays_legible) {
+    QLabel wert("9");
+    Verblasse(wert, true, *PaletteFuer(Erscheinung::HoherKontrast));
+    EXPECT_GE(Kontrast(wert.palette().color(QPalette::WindowText), Qt::black), 7);
+    Verblasse(wert, true, *PaletteFuer(Erscheinung::Hell));
+    EXPECT_LT(Kontrast(wert.palette().color(QPalette::WindowText),
+                       PaletteFuer(Erscheinung::Hell)->color(QPalette::Window)),
+              4);
+}
+
 class DarstellungTest : public testing::Test {
 protected:
     frmMain& Fenster() {
@@ -177,6 +330,28 @@ TEST_F(DarstellungTest, A_choice_holds_at_once_and_in_the_next_run) {
     EXPECT_EQ(QApplication::palette(), vorher);
     EXPECT_EQ(Fenster().palette().color(QPalette::Window), dunkel);
     EXPECT_EQ(GetStrahlfarbsatz(), Strahlfarbsatz::BlauUndOrange);
+}
+
+TEST_F(DarstellungTest, The_buttons_behind_which_more_commands_wait_have_light_signs_on_a_dark_ground) {
+    Waehle("mnuErscheinungDunkel");
+    auto& leiste = *Fenster().findChild<QToolBar*>();
+    for (const auto bereich : {Qt::TopToolBarArea, Qt::LeftToolBarArea}) {
+        Fenster().addToolBar(bereich, &leiste);
+        for (const auto* const knopf :
+             {leiste.findChild<QToolButton*>("qt_toolbar_ext_button"),
+              Fenster().menuBar()->findChild<QToolButton*>("qt_menubar_ext_button")})
+            EXPECT_GE(GroessterKontrast(knopf->icon().pixmap(16, 16).toImage(), Qt::black), 7);
+    }
+}
+
+TEST_F(DarstellungTest, The_sign_of_more_commands_points_to_where_they_wait) {
+    auto& leiste = *Fenster().findChild<QToolBar*>();
+    const auto* const knopf = leiste.findChild<QToolButton*>("qt_toolbar_ext_button");
+    const QImage liegt = knopf->icon().pixmap(16, 16).toImage();
+    Fenster().addToolBar(Qt::LeftToolBarArea, &leiste);
+    EXPECT_NE(knopf->icon().pixmap(16, 16).toImage(), liegt);
+    Fenster().addToolBar(Qt::TopToolBarArea, &leiste);
+    EXPECT_EQ(knopf->icon().pixmap(16, 16).toImage(), liegt);
 }
 
 TEST_F(DarstellungTest, The_menu_ticks_what_is_in_use) {

@@ -921,12 +921,13 @@ TEST_F(EditorverlaufTest, Steps_are_undone_one_by_one_in_reverse) {
 }
 
 TEST_F(EditorverlaufTest, The_list_tells_the_changes_in_words_and_a_button_appears_with_the_first) {
-    auto& knopf = K<QToolButton>("cmdVerlauf");
+    auto& knopf = K<QPushButton>("cmdVerlauf");
     EXPECT_FALSE(knopf.isVisible());
     Box("cboAuflösung_0").setCurrentIndex(2);
     Klicke("optAutosendmitTriggerModbus");
     EXPECT_TRUE(knopf.isVisible());
     EXPECT_EQ(knopf.text(), "Geändert: 2");
+    EXPECT_FALSE(knopf.autoDefault()) << "Enter is not its key";
     EXPECT_TRUE(knopf.toolTip().contains("Strg+Z"));
     const QStringList liste = Liste();
     ASSERT_EQ(liste.size(), 3);
@@ -949,7 +950,7 @@ TEST_F(EditorverlaufTest, What_is_changed_after_undoing_is_a_step_of_its_own) {
 TEST_F(EditorverlaufTest, A_form_that_is_filled_anew_begins_a_new_list) {
     Box("cboAuflösung_0").setCurrentIndex(2);
     dialog->InitKonfiguration({});
-    EXPECT_FALSE(K<QToolButton>("cmdVerlauf").isVisible());
+    EXPECT_FALSE(K<QPushButton>("cmdVerlauf").isVisible());
     EXPECT_EQ(Liste().size(), 1);
 }
 

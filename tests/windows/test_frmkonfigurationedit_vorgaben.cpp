@@ -1,10 +1,13 @@
 // What the editor marks as other than the factory default, and the way back.
 
+#include "abweichungsmarke.h"
+#include "darstellung.h"
 #include "dialogtest.h"
 #include "frmKonfigurationEdit.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "standardkonfiguration.h"
+#include "strahlfarben.h"
 #include "texte.h"
 #include "zykluszeiten.h"
 
@@ -194,6 +197,17 @@ TEST_F(EditorvorgabenTest, Marks_change_neither_what_is_applied_nor_what_counts_
     Kind<QPushButton>(Editor(), "cmdUebernehmen").setEnabled(true);
     Kind<QPushButton>(Editor(), "cmdUebernehmen").click();
     EXPECT_EQ(modDaten::DasAbbild(), vorher);
+}
+
+TEST(Abweichungsmarke, Is_told_from_every_ground) {
+    for (const Erscheinung erscheinung :
+         {Erscheinung::Hell, Erscheinung::Dunkel, Erscheinung::HoherKontrast}) {
+        QWidget element;
+        element.setPalette(*PaletteFuer(erscheinung));
+        Abweichungsmarke marke(element);
+        const QColor grund = element.palette().color(QPalette::Button);
+        EXPECT_GE(Kontrast(marke.grab().toImage().pixelColor(1, 1), grund), 4);
+    }
 }
 
 } // namespace varnoth

@@ -38,6 +38,11 @@ TEST_F(frmStrahlenBestimmenTest, Each_list_starts_at_32_beams_and_all_four_parts
     EXPECT_EQ(ListenBereit(dialog), (std::vector{true, true, true, true}));
 }
 
+TEST_F(frmStrahlenBestimmenTest, The_keys_begin_at_the_number_of_parts_that_is_chosen) {
+    dialog.show();
+    EXPECT_EQ(dialog.focusWidget(), &Option1(dialog, 3));
+}
+
 TEST_F(frmStrahlenBestimmenTest, OK_makes_a_changed_configuration_of_the_chosen_beam_counts) {
     Waehle(dialog, {1, 0, 48, 100});
     dialog.show();

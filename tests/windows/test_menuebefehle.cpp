@@ -70,6 +70,29 @@ TEST_F(MenuebefehleTest, Of_two_clicks_in_a_row_only_the_last_is_kept) {
     EXPECT_EQ(ziel.ablauf, (Ablauf{"8/0"}));
 }
 
+TEST_F(MenuebefehleTest, A_command_that_runs_learns_of_a_click_since_it_began) {
+    speicher.Klick(Befehl::FensterNebeneinander);
+    speicher.Klick(Befehl::Info);
+    bool vorher = true;
+    bool danach = false;
+    ziel.waehrend = [&] {
+        vorher = speicher.KlickSeitBeginn();
+        speicher.Klick(Befehl::Info);
+        danach = speicher.KlickSeitBeginn();
+    };
+    speicher.FuehreAus(ziel);
+    EXPECT_FALSE(vorher);
+    EXPECT_TRUE(danach);
+}
+
+TEST_F(MenuebefehleTest, The_search_and_the_line_check_only_rest_live_data_and_a_new_port_stops_it) {
+    for (const Befehl befehl : {Befehl::GeraetSuchen, Befehl::LeitungPruefen})
+        EXPECT_TRUE(StopptLiveDaten(befehl) && SetztLiveDatenFort(befehl));
+    EXPECT_TRUE(StopptLiveDaten(Befehl::AnschlussUebernehmen));
+    EXPECT_FALSE(SetztLiveDatenFort(Befehl::AnschlussUebernehmen));
+    EXPECT_FALSE(StopptLiveDaten(Befehl::Verbindung));
+}
+
 TEST_F(MenuebefehleTest, A_click_during_a_long_command_runs_right_after_it) {
     speicher.Klick(Befehl::VisualisierenStart);
     ziel.waehrend = [this] {

@@ -43,7 +43,8 @@ protected:
     pruefung::PruefGeraet geraet{port};
     QStatusBar leiste;
     int starts = 0;
-    Verbindungsanzeige anzeige{leiste, [this] { ++starts; }};
+    int suchen = 0;
+    Verbindungsanzeige anzeige{leiste, [this] { ++starts; }, [this] { ++suchen; }};
 };
 
 TEST_F(VerbindungsanzeigeTest, Without_a_connection_it_says_offline_and_offers_to_start) {
@@ -51,6 +52,21 @@ TEST_F(VerbindungsanzeigeTest, Without_a_connection_it_says_offline_and_offers_t
     EXPECT_TRUE(Teil<QPushButton>("cmdVerbindungStart").isVisible());
     Teil<QPushButton>("cmdVerbindungStart").click();
     EXPECT_EQ(starts, 1);
+}
+
+TEST_F(VerbindungsanzeigeTest, After_a_failed_connection_it_leads_to_the_search_and_before_one_it_does_not) {
+    auto& knopf = Teil<QPushButton>("cmdVerbindungSuchen");
+    EXPECT_FALSE(knopf.isVisible());
+    geraet.schweige = [](const std::string&) { return true; };
+    modSchnittstelle::OpenCommPort();
+    modModbus::RTUModeH11IndentifikationsAnforderung();
+    modSchnittstelle::CloseCommPort();
+    anzeige.Aktualisiere();
+    EXPECT_TRUE(knopf.isVisible());
+    EXPECT_EQ(knopf.text(), "Suchen...");
+    knopf.click();
+    EXPECT_EQ(suchen, 1);
+    EXPECT_EQ(starts, 0);
 }
 
 TEST_F(VerbindungsanzeigeTest, While_connecting_it_says_so_at_once) {

@@ -44,6 +44,17 @@ TEST_F(VerbindungsregelTest, While_the_connection_flow_runs_it_connects_and_offe
     EXPECT_FALSE(bild.startBieten);
 }
 
+TEST_F(VerbindungsregelTest, The_search_is_offered_once_nobody_answered_and_live_data_is_not_running) {
+    EXPECT_FALSE(Betrachte().sucheBieten);
+    tatsachen.fehlgeschlagen = true;
+    EXPECT_TRUE(Betrachte().sucheBieten);
+    tatsachen.simuliert = true;
+    EXPECT_FALSE(Betrachte().sucheBieten);
+    tatsachen.simuliert = false;
+    tatsachen.verbindet = true;
+    EXPECT_FALSE(Betrachte().sucheBieten);
+}
+
 TEST_F(VerbindungsregelTest, Polling_with_replies_is_live_and_offers_no_start) {
     GeheLive();
     EXPECT_FALSE(Betrachte().startBieten);

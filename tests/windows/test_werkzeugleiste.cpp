@@ -118,7 +118,8 @@ TEST_F(WerkzeugleisteTest, A_line_stands_between_two_groups) {
     const auto aktionen = Leiste().actions();
     const auto stop = aktionen.indexOf(&Aktion(Leiste(), "tlbMessdatenVisualisierenStop"));
     EXPECT_EQ(aktionen.indexOf(&Aktion(Leiste(), "tlbMessdatenVisualisierenStart")), stop - 1);
-    EXPECT_TRUE(aktionen.at(stop + 1)->isSeparator());
+    EXPECT_EQ(aktionen.indexOf(&Aktion(Fenster(), "tlbVerbindung")), stop + 1);
+    EXPECT_TRUE(aktionen.at(stop + 2)->isSeparator());
 }
 
 TEST_F(WerkzeugleisteTest, Texts_tips_and_keys_are_in_the_language_in_use) {
@@ -169,7 +170,10 @@ TEST_F(WerkzeugleisteTest, Arrow_keys_walk_over_the_buttons_that_can_be_pressed)
     Fenster();
     Druecke(Qt::Key_F10);
     Druecke(Qt::Key_Right);
+    EXPECT_EQ(ImFokus(), "cmdVerbindung");
+    Druecke(Qt::Key_Right);
     EXPECT_EQ(ImFokus(), "cmdNeu");
+    Druecke(Qt::Key_Left);
     Druecke(Qt::Key_Left);
     EXPECT_EQ(ImFokus(), "cmdMessdatenVisualisierenStart");
     Druecke(Qt::Key_Left);
@@ -187,6 +191,7 @@ TEST_F(WerkzeugleisteTest, Enter_and_space_press_the_button_and_Escape_leaves_th
     int klicks = 0;
     QObject::connect(&Knopf("cmdNeu"), &QToolButton::clicked, &Leiste(), [&] { ++klicks; });
     Druecke(Qt::Key_F10);
+    Druecke(Qt::Key_Right);
     Druecke(Qt::Key_Right);
     Druecke(Qt::Key_Return);
     EXPECT_EQ(klicks, 1);

@@ -38,10 +38,12 @@ protected:
 
 TEST_F(WillkommensseiteTest, Each_button_stores_its_command) {
     seite.Zeige(true, {"/a.con", "/b.con"});
-    for (const char* name : {"cmdWillkommenVerbinden", "cmdWillkommenOeffnen", "cmdWillkommenNeu",
-                             "cmdWillkommenSimuliert", "cmdWillkommenHilfe", "cmdWillkommenDatei_2"})
+    for (const char* name :
+         {"cmdWillkommenVerbinden", "cmdWillkommenSuchen", "cmdWillkommenOeffnen", "cmdWillkommenNeu",
+          "cmdWillkommenSimuliert", "cmdWillkommenHilfe", "cmdWillkommenDatei_2"})
         Knopf(name).click();
     EXPECT_EQ(klicks, (decltype(klicks){{Befehl::VisualisierenStart, 0},
+                                        {Befehl::Verbindung, 1},
                                         {Befehl::KonfigurationOeffnen, 0},
                                         {Befehl::NeueKonfiguration, 0},
                                         {Befehl::SimuliertesGeraet, 0},
@@ -88,8 +90,8 @@ TEST_F(WillkommensseiteTest, Tab_leads_through_its_buttons_and_Enter_chooses) {
     bereich.activateWindow();
     ASSERT_TRUE(pruefung::WarteBis([this] { return bereich.isActiveWindow(); }));
     Knopf("cmdWillkommenVerbinden").setFocus();
-    for (const char* name : {"cmdWillkommenOeffnen", "cmdWillkommenNeu", "cmdWillkommenSimuliert",
-                             "cmdWillkommenHilfe", "cmdWillkommenDatei_1"}) {
+    for (const char* name : {"cmdWillkommenSuchen", "cmdWillkommenOeffnen", "cmdWillkommenNeu",
+                             "cmdWillkommenSimuliert", "cmdWillkommenHilfe", "cmdWillkommenDatei_1"}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
     }

@@ -153,7 +153,8 @@ TEST_F(FensterwortlautTest, Every_dialog_shows_texts_with_tags_as_text) {
     }
     for (const char* name :
          {"txtBezeichnung", "txtSeriennr", "txtCopyright", "lblInhaltSeriennummer", "txtSeriennummer",
-          "lblDatensatz", "lblDatensatz tip", "lblBefund", "lstRegister", "lstSicherungen", "lblEinzelheitA"})
+          "lblDatensatz", "lblDatensatz tip", "lblBefund", "lstRegister", "lstSicherungen", "lblEinzelheitA",
+          "lstPorts", "lblFund", "lstVersuche", "lblLeitung", "lblHinweis"})
         EXPECT_TRUE(traeger.contains(QString::fromUtf8(name))) << name;
 }
 
