@@ -26,7 +26,7 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::size_t LaengsterRuf = std::size_t{64} * 1024;
+constexpr std::size_t LaengsterRuf = 65536;
 constexpr std::size_t HoechstensAnrufe = 8;
 
 /// Whether the place is free for a socket; an old one goes, anything else stays.

@@ -2,6 +2,7 @@
 
 #include "frmSplash.h"
 #include "geraetepfade.h"
+#include "konfigurationsbefehle.h"
 #include "plausibilitaet.h"
 #include "polling.h"
 #include "qtseriellerport.h"

@@ -25,9 +25,6 @@ namespace Ui {
 class frmMain;
 }
 
-/// Says that several files cannot be opened at once.
-void ZeigeMehrereDateien();
-
 class Vergleichsablauf;
 class Busablauf;
 class Verbindungsablauf;

@@ -4,6 +4,7 @@
 #include "dateiabwurf.h"
 #include "frmMain.h"
 #include "konfigurationsablauf.h"
+#include "konfigurationsbefehle.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "umgebung.h"
@@ -20,7 +21,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextMehrereDateien = 8810;
 constexpr std::int16_t TextWartetAufDialog = 8811;
 
 std::string Dateiname(const std::string& pfad) {
@@ -28,10 +28,6 @@ std::string Dateiname(const std::string& pfad) {
 }
 
 } // namespace
-
-void ZeigeMehrereDateien() {
-    ZeigeWarnung(LadeText(TextMehrereDateien), LadeText(TextAchtung));
-}
 
 /// The command that opens them waits like any other; where another one waits already, it comes after that.
 void frmMain::Uebergib(std::vector<std::string> dateien) {

@@ -24,6 +24,7 @@ constexpr std::int16_t TextDateifilter = 2000;
 constexpr std::int16_t TextOeffnen = 2004;
 constexpr std::int16_t TextSpeichernUnter = 2005;
 constexpr std::int16_t TextAenderungenSpeichern = 6002;
+constexpr std::int16_t TextMehrereDateien = 8810;
 
 constexpr const char* Abschnitt = "frmMain";
 constexpr const char* Schluessel = "mnuSpeichernUnter";
@@ -115,6 +116,10 @@ bool LadeDatei(const std::string& pfad, Dateirolle rolle) {
         MerkeAusgangslage();
     }
     return geladen && plausibel;
+}
+
+void ZeigeMehrereDateien() {
+    ZeigeWarnung(LadeText(TextMehrereDateien), LadeText(TextAchtung));
 }
 
 bool FrageNachSpeichern() {

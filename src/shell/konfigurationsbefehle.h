@@ -33,6 +33,9 @@ enum class Dateirolle { Aktuelle, Vorlage };
 /// is no current file name.
 bool LadeDatei(const std::string& pfad, Dateirolle rolle = Dateirolle::Aktuelle);
 
+/// Says that several files cannot be opened at once.
+void ZeigeMehrereDateien();
+
 /// Before the program ends: asks whether changes in the configuration shall be saved, if there are any, and
 /// saves them on Yes. True when the program may end; the changed mark is then cleared. False after Cancel,
 /// and after a Yes that saved nothing (dialog cancelled, write failed): only a No gives changes up.
