@@ -167,8 +167,7 @@ void Werkzeugleiste::Betritt() {
         Verlasse();
         return;
     }
-    QPointer<QWidget> hier(QApplication::focusWidget());
-    vorher.swap(hier);
+    vorher = QApplication::focusWidget();
     show();
     Gehe(-1, 1);
 }
