@@ -122,6 +122,8 @@ void Anschlussseite::SetzeAnbieter(Verbindungsanbieter& neuer) {
 
 void Anschlussseite::Zeige(const std::vector<Portangabe>& neuePorts, const Anschlussstand& neuerStand) {
     const Anschlusswahl eingabe = Nachgefuehrt(Eingabe(), stand.wahl, neuerStand.wahl);
+    if (stand.offen.empty() && !neuerStand.offen.empty())
+        ui->lblErgebnis->clear(); // the next connection is there
     ports = neuePorts;
     stand = neuerStand;
     FuelleListe();

@@ -12,8 +12,8 @@
 #include "zeilenhoehe.h"
 #include "zeittext.h"
 
+#include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTimer>
 
 namespace varnoth {
 
@@ -43,6 +43,9 @@ Suchseite::Suchseite(QWidget* eltern) : QWidget(eltern), ui(std::make_unique<Ui:
     GibZeilenLuft(*ui->lstVersuche);
     for (int com = 1; com <= AnzahlCom; ++com)
         ui->cboFundCom->addItem(QStringLiteral("COM%1").arg(com), com);
+    QScrollBar* const balken = ui->lstVersuche->verticalScrollBar();
+    connect(balken, &QScrollBar::rangeChanged, balken,
+            [balken](int /*oben*/, int unten) { balken->setValue(unten); }); // the newest try is in view
     connect(ui->lstSuchports, &QTreeWidget::itemChanged, this,
             [this](const QTreeWidgetItem* eintrag) { MerkeHaken(*eintrag); });
     connect(ui->cmdSuchen, &QPushButton::clicked, this, [this] { Beginne(); });
@@ -146,7 +149,6 @@ void Suchseite::Beende(const Suchfund& ergebnis) {
     ui->cboFundCom->setCurrentIndex(ui->cboFundCom->findData(com));
     ZeigeVersuche();
     ZeigeLage();
-    QTimer::singleShot(0, ui->lstVersuche, &QTreeWidget::scrollToBottom); // once what was found has its place
     QWidget* const naechster = ui->cmdVerwenden->isEnabled() ? ui->cmdVerwenden : ui->cmdSuchen;
     naechster->setFocus();
 }
@@ -220,7 +222,6 @@ void Suchseite::ZeigeZeile(const Suchstand& versuch) {
     zeile->setToolTip(SpalteErgebnis, AlsTipp(ergebnis));
     zeile->setDisabled(veraltet);
     PasseSpaltenAn(liste, BreitesteSpalte);
-    liste.scrollToItem(zeile);
 }
 
 void Suchseite::ZeigeFund() {

@@ -138,7 +138,8 @@ TEST_F(Portliste, A_name_can_be_that_of_a_port_unless_it_leads_to_something_else
     maschine.Schreibe(maschine.Dev() / "file", "");
     EXPECT_TRUE(KannPortSein(maschine.Geraet("ttyTest"), maschine.Wurzeln()));
     EXPECT_TRUE(KannPortSein(maschine.Geraet("nothing"), maschine.Wurzeln())) << "it may be plugged in yet";
-    for (const std::string& anderes : {maschine.Geraet("file"), maschine.Dev().string(), std::string("/dev/null")})
+    for (const std::string& anderes :
+         {maschine.Geraet("file"), maschine.Dev().string(), std::string("/dev/null")})
         EXPECT_FALSE(KannPortSein(anderes, maschine.Wurzeln())) << anderes;
     fs::create_directories(maschine.Sys() / "dev/char/1:3");
     fs::create_symlink("../../../class/tty", maschine.Sys() / "dev/char/1:3/subsystem");

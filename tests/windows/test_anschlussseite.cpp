@@ -173,6 +173,14 @@ TEST_F(AnschlussseiteTest, That_a_choice_is_in_force_is_said_until_the_next_entr
     EXPECT_EQ(Text("lblErgebnis"), "");
 }
 
+TEST_F(AnschlussseiteTest, Once_the_next_connection_is_there_it_is_not_announced_any_more) {
+    Fenster().Uebernommen();
+    EXPECT_NE(Text("lblErgebnis"), "");
+    leitung.stand.offen = "/dev/ttyS0";
+    Fenster().Erneuere();
+    EXPECT_EQ(Text("lblErgebnis"), "");
+}
+
 TEST_F(AnschlussseiteTest, Every_format_that_a_controller_can_have_is_offered) {
     const QComboBox& box = Teil<QComboBox>("cboFormat");
     ASSERT_EQ(box.count(), static_cast<int>(Suchformate().size()));

@@ -104,6 +104,19 @@ TEST_F(SuchseiteTest, Each_try_is_a_row_with_its_result) {
     EXPECT_EQ(Teil<QProgressBar>("pbFortschritt").maximum(), 21);
 }
 
+TEST_F(SuchseiteTest, The_newest_try_is_in_view_and_stays_so_when_a_find_takes_room) {
+    Seite();
+    Knopf("cmdSuchen").click();
+    for (int nummer = 1; nummer <= 21; ++nummer)
+        Fenster().ZeigeVersuch(Versuch(nummer, Suchergebnis::Stille, "keine Antwort"));
+    Fenster().BeendeSuche(EinFund());
+    const QTreeWidget& liste = Liste("lstVersuche");
+    EXPECT_TRUE(pruefung::WarteBis([&] {
+        const QRect letzte = liste.visualItemRect(liste.topLevelItem(20));
+        return Teil<QGroupBox>("fraFund").isVisible() && liste.viewport()->rect().contains(letzte);
+    }));
+}
+
 TEST_F(SuchseiteTest, While_it_runs_only_cancelling_is_offered) {
     Seite();
     Knopf("cmdSuchen").click();
