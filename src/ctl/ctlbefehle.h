@@ -28,14 +28,14 @@ std::span<const Option> EigeneOptionen();
 
 /// The most own options that a command has, and the most arguments where their number is not limited.
 inline constexpr std::size_t HoechstensEigene = 5;
-inline constexpr std::size_t BeliebigViele = 1000;
+inline constexpr std::uint16_t BeliebigViele = 1000;
 
 /// A command.
 struct Befehl {
     std::string_view name;
-    std::int16_t argumente; ///< text id of what they are called; 0: it has none
-    std::size_t mindestens; ///< arguments
-    std::size_t hoechstens;
+    std::int16_t argumente;   ///< text id of what they are called; 0: it has none
+    std::uint16_t mindestens; ///< arguments
+    std::uint16_t hoechstens;
     std::int16_t zweck;                          ///< text id: one line
     std::int16_t einzelheiten;                   ///< text id: what else is to be known; 0: nothing
     std::string_view optionen[HoechstensEigene]; ///< names of its own options; the rest is empty

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,6 +35,7 @@ private:
 template<class Reihe, class Funktion>
 Json Jsonliste(const Reihe& reihe, Funktion funktion) {
     std::vector<Json> werte;
+    werte.reserve(std::size(reihe));
     for (const auto& eines : reihe)
         werte.push_back(funktion(eines));
     return Json::Liste(werte);

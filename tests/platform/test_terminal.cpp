@@ -118,7 +118,8 @@ TEST(Abbruchsignale, Are_remembered_and_end_the_program_when_they_come_again) {
                                   FangeAbbruchsignaleAb();
                                   const bool vorher = IstAbbruchVerlangt();
                                   std::raise(signal);
-                                  const std::string stand = std::string(vorher ? "1" : "0") + (IstAbbruchVerlangt() ? "1" : "0");
+                                  const std::string stand =
+                                      std::string(vorher ? "1" : "0") + (IstAbbruchVerlangt() ? "1" : "0");
                                   static_cast<void>(::write(rohr, stand.data(), stand.size()) == 2);
                                   std::raise(signal);
                                   return std::string("alive");
