@@ -33,7 +33,7 @@ inline constexpr std::uint16_t BeliebigViele = 1000;
 /// A command.
 struct Befehl {
     std::string_view name;
-    std::int16_t argumente; ///< text id of what they are called; 0: it has none
+    std::int16_t argumente;   ///< text id of what they are called; 0: it has none
     std::uint16_t mindestens; ///< arguments
     std::uint16_t hoechstens;
     std::int16_t zweck;                          ///< text id: one line
