@@ -6,6 +6,7 @@
 #include "konfigurationsbericht.h"
 #include "lauf.h"
 #include "leitungszugang.h"
+#include "programmversion.h"
 #include "pruefsumme.h"
 #include "quelle.h"
 #include "registeradressen.h"
@@ -27,7 +28,7 @@ Berichtsangaben Angaben(const Lauf& lauf, const Quelle& quelle) {
                             .person = feld("person"),
                             .ausgestellt = Zeitpunkttext(),
                             .quelle = quelle.name,
-                            .programmversion = VARNOTH_VERSION};
+                            .programmversion = std::string(Programmversion())};
     if (quelle.art != Quellenart::Geraet)
         return angaben;
     angaben.quelle = LadeTextMit(TextGelesen, {Zeitpunkttext()});

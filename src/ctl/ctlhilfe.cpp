@@ -1,6 +1,7 @@
 #include "ctlhilfe.h"
 
 #include "lauf.h"
+#include "programmversion.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "zeichenwandel.h"
@@ -126,10 +127,10 @@ Ende ZeigeHilfe(const Lauf& lauf) {
 
 Ende ZeigeVersion(const Lauf& lauf) {
     if (lauf.InJson())
-        lauf.konsole.Daten(Json::Objekt({{"command", "version"}, {"version", VARNOTH_VERSION}}).Text() +
+        lauf.konsole.Daten(Json::Objekt({{"command", "version"}, {"version", Programmversion()}}).Text() +
                            "\n");
     else
-        lauf.konsole.Zeile("varnothctl " VARNOTH_VERSION);
+        lauf.konsole.Zeile("varnothctl " + std::string(Programmversion()));
     return Ende::Erledigt;
 }
 

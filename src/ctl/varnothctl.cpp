@@ -6,6 +6,7 @@
 #include "inieinstellungen.h"
 #include "lauf.h"
 #include "leseeinstellungen.h"
+#include "programmversion.h"
 #include "prozesskonsole.h"
 #include "qtseriellerport.h"
 #include "qtumgebung.h"
@@ -53,7 +54,7 @@ int Laufe(std::span<const std::string> worte, ctl::Prozesskonsole& konsole) {
     IniEinstellungen datei(
         Einstellungspfad(QCoreApplication::applicationDirPath(), QString::fromLatin1(Fensterprogramm)));
     ctl::Leseeinstellungen einstellungen(datei);
-    Dateisicherungen sicherungen(UeblicherDatenordner(), VARNOTH_VERSION);
+    Dateisicherungen sicherungen(UeblicherDatenordner(), std::string(Programmversion()));
     SetzeSicherungen(&sicherungen);
     QtSeriellerPort port;
     modSchnittstelle::SetzePort(&port);

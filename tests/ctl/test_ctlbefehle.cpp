@@ -1,5 +1,6 @@
 #include "ctlbefehle.h"
 #include "ctlprobe.h"
+#include "programmversion.h"
 
 #include <algorithm>
 #include <set>
@@ -93,7 +94,7 @@ TEST_F(Hilfetexte, The_help_needs_no_controller_and_no_arguments) {
 
 TEST_F(Hilfetexte, The_version_is_that_of_the_project) {
     EXPECT_EQ(Fuehre({"--version"}), Ende::Erledigt);
-    EXPECT_EQ(konsole.daten, std::string("varnothctl ") + VARNOTH_VERSION + "\n");
+    EXPECT_EQ(konsole.daten, "varnothctl " + std::string(Programmversion()) + "\n");
 }
 
 TEST_F(Hilfetexte, A_wrong_command_line_says_what_is_wrong_and_where_more_is_told) {
