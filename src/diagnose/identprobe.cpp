@@ -2,6 +2,7 @@
 
 #include "erkenner.h"
 #include "gestalt.h"
+#include "mithoeren.h"
 #include "porteinstellungen.h"
 #include "rahmen.h"
 #include "schnittstelle.h"
@@ -101,6 +102,10 @@ Identprobe FrageIdentifikation(const Probefristen& fristen, const std::function<
     Empfange(probe, anfang, fristen, abgebrochen);
     if (!probe.antwort.empty())
         probe.ident = Deute(probe.antwort);
+    modMithoeren::Endet(Austauschart::Auftrag, probe.gesendet,
+                        probe.antwort.empty() ? modMithoeren::Ausgang::Ausgeblieben
+                                              : modMithoeren::Ausgang::Gelungen,
+                        GetPortIstOffen() == True);
     return probe;
 }
 

@@ -70,7 +70,7 @@ enum class Ausgang {
     ZuSpaet,      ///< a reply came too late to be believed
 };
 
-// Reported by the port module and the exchanges.
+// Reported by the port module, the exchanges, and whoever asks for an identification past them.
 
 /// A request or frame was handed to the port.
 void Gesendet(Zeit wann);

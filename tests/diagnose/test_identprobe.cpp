@@ -2,8 +2,11 @@
 
 #include "identleitung.h"
 #include "leitungsstatistik.h"
+#include "mithoeren.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace varnoth {
 
@@ -13,6 +16,19 @@ namespace {
 
 constexpr Zeit Millisekunde = std::chrono::milliseconds(1);
 const auto Weiter = [] { return false; };
+
+class Ohr : public Mithoerer {
+public:
+    Ohr() { modMithoeren::MeldeAn(*this); }
+    ~Ohr() override { modMithoeren::MeldeAb(*this); }
+    void Hoere(const Mitschnitt& mitschnitt) override {
+        gehoertes.emplace_back(mitschnitt.ergebnis, std::string(mitschnitt.empfangen));
+        EXPECT_EQ(mitschnitt.art, Austauschart::Auftrag);
+        EXPECT_EQ(mitschnitt.anforderung, Identanfrage);
+    }
+
+    std::vector<std::pair<Austauschergebnis, std::string>> gehoertes;
+};
 
 } // namespace
 
@@ -50,6 +66,20 @@ TEST_F(IdentprobeTest, Sends_one_identification_request_and_reads_the_reply) {
                                            .text2 = "4711",
                                            .text3 = "(C)"}));
     EXPECT_EQ(probe.umlauf, 5 * Millisekunde);
+}
+
+TEST_F(IdentprobeTest, Who_listens_at_the_line_hears_each_of_them_with_how_it_ended) {
+    Ohr ohr;
+    Antworte(Nach(5, Identantwort(17)));
+    Frage();
+    Antworte({});
+    Frage();
+    Antworte(Nach(5, Identanfrage));
+    Frage();
+    const decltype(ohr.gehoertes) erwartetes{{Austauschergebnis::Beantwortet, Identantwort(17)},
+                                             {Austauschergebnis::Zeitueberschreitung, ""},
+                                             {Austauschergebnis::Echo, Identanfrage}};
+    EXPECT_EQ(ohr.gehoertes, erwartetes);
 }
 
 TEST_F(IdentprobeTest, A_silent_line_is_left_after_less_than_0_4_s_at_38400) {
