@@ -2,7 +2,6 @@
 
 #include "busregisterliste.h"
 #include "busworte.h"
-#include "einstellungen.h"
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "passwortschutz.h"
@@ -17,7 +16,6 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPointer>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -69,7 +67,7 @@ frmBusprotokoll::frmBusprotokoll(Protokollanbieter& derAnbieter)
       modell(new Busmodell(protokoll, this)) {
     ui->setupUi(this);
     RichteTabelleEin();
-    StellePlatzHer();
+    StelleFensterHer(*this, Abschnitt, Anfangsgroesse);
     VerbindeFilter();
     VerbindeAnzeige();
     VerbindeKnoepfe();
@@ -82,16 +80,6 @@ frmBusprotokoll::frmBusprotokoll(Protokollanbieter& derAnbieter)
 }
 
 frmBusprotokoll::~frmBusprotokoll() = default;
-
-void frmBusprotokoll::StellePlatzHer() {
-    Fensterplatz standard;
-    standard.zustand = ZustandNichtGespeichert;
-    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt, standard);
-    if (platz.zustand == ZustandNichtGespeichert)
-        resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
-    else
-        WendeAn(platz, *this);
-}
 
 void frmBusprotokoll::RichteTabelleEin() {
     constexpr int Luft = 6;
@@ -165,8 +153,7 @@ void frmBusprotokoll::closeEvent(QCloseEvent* ereignis) {
     protokoll.Beende();
     takt.stop();
     BrichAb();
-    if (const auto platz = PlatzVon(*this))
-        SchreibFensterplatz(DieEinstellungen(), Abschnitt, *platz);
+    BewahreFensterplatz(*this, Abschnitt);
     QWidget::closeEvent(ereignis);
 }
 
@@ -178,9 +165,7 @@ void frmBusprotokoll::changeEvent(QEvent* ereignis) {
 }
 
 void frmBusprotokoll::ZeigeVor() {
-    isMinimized() ? showNormal() : show();
-    raise();
-    activateWindow();
+    HoleNachVorn(*this);
 }
 
 void frmBusprotokoll::Lokalisiere() {

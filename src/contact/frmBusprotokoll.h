@@ -48,7 +48,6 @@ private:
         std::function<void(const std::string& text)> fertig;
     };
 
-    void StellePlatzHer();
     void RichteTabelleEin();
     void VerbindeFilter();
     void VerbindeAnzeige();

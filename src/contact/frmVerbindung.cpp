@@ -1,6 +1,5 @@
 #include "frmVerbindung.h"
 
-#include "einstellungen.h"
 #include "fensterplatz.h"
 #include "leitungspruefung.h"
 #include "lokalisiereform.h"
@@ -12,7 +11,6 @@
 
 #include <QEvent>
 #include <QPointer>
-#include <QScreen>
 #include <QShortcut>
 
 #include <utility>
@@ -30,7 +28,7 @@ constexpr int TaktMs = 500;
 frmVerbindung::frmVerbindung(Verbindungsanbieter& quelle)
     : ui(std::make_unique<Ui::frmVerbindung>()), anbieter(quelle) {
     ui->setupUi(this);
-    StellePlatzHer();
+    StelleFensterHer(*this, Abschnitt, Anfangsgroesse);
     ui->Anschlussseite->SetzeAnbieter(anbieter);
     ui->Suchseite->SetzeAnbieter(anbieter);
     ui->Leitungsseite->SetzeAnbieter(anbieter);
@@ -41,16 +39,6 @@ frmVerbindung::frmVerbindung(Verbindungsanbieter& quelle)
 }
 
 frmVerbindung::~frmVerbindung() = default;
-
-void frmVerbindung::StellePlatzHer() {
-    Fensterplatz standard;
-    standard.zustand = ZustandNichtGespeichert;
-    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt, standard);
-    if (platz.zustand == ZustandNichtGespeichert)
-        resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
-    else
-        WendeAn(platz, *this);
-}
 
 void frmVerbindung::showEvent(QShowEvent* ereignis) {
     QWidget::showEvent(ereignis);
@@ -66,8 +54,7 @@ void frmVerbindung::hideEvent(QHideEvent* ereignis) {
 /// A search or check that nobody sees is of no use, and keeps the line from others.
 void frmVerbindung::closeEvent(QCloseEvent* ereignis) {
     anbieter.BrichAb();
-    if (const auto platz = PlatzVon(*this))
-        SchreibFensterplatz(DieEinstellungen(), Abschnitt, *platz);
+    BewahreFensterplatz(*this, Abschnitt);
     QWidget::closeEvent(ereignis);
 }
 
@@ -79,9 +66,7 @@ void frmVerbindung::changeEvent(QEvent* ereignis) {
 
 void frmVerbindung::ZeigeVor() {
     Erneuere();
-    isMinimized() ? showNormal() : show();
-    raise();
-    activateWindow();
+    HoleNachVorn(*this);
 }
 
 void frmVerbindung::Schlage(Verbindungsseite seite) {

@@ -62,7 +62,6 @@ protected:
     void closeEvent(QCloseEvent* ereignis) override;
 
 private:
-    void StellePlatzHer();
     void ErneuereBeiGelegenheit();
     void Zeige();
 

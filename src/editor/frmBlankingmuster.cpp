@@ -2,7 +2,6 @@
 
 #include "ui_frmBlankingmuster.h"
 
-#include "einstellungen.h"
 #include "fensterplatz.h"
 #include "klartext.h"
 #include "lokalisiereform.h"
@@ -30,14 +29,6 @@ std::int32_t Register(std::int16_t optikteil, std::int16_t adresse) {
     return modDaten::HoleRegister(Spezifisch, adresse, optikteil);
 }
 
-void StellePlatzHer(QWidget& fenster) {
-    Fensterplatz standard;
-    standard.zustand = ZustandNichtGespeichert;
-    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt, standard);
-    if (platz.zustand != ZustandNichtGespeichert)
-        WendeAn(platz, fenster);
-}
-
 } // namespace
 
 frmBlankingmuster::frmBlankingmuster(QWidget* parent)
@@ -58,7 +49,7 @@ frmBlankingmuster::frmBlankingmuster(QWidget* parent)
     ui->BeamBar1->installEventFilter(this);
     Verbinde();
     SetzeBedienart(ui->Option1->checkedId());
-    StellePlatzHer(*this);
+    StelleFensterHer(*this, Abschnitt);
 }
 
 frmBlankingmuster::~frmBlankingmuster() = default;
@@ -192,9 +183,8 @@ void frmBlankingmuster::done(int ergebnis) {
 }
 
 void frmBlankingmuster::SpeicherePlatz() const {
-    const auto platz = PlatzVon(*this);
-    if (warSichtbar && platz)
-        SchreibFensterplatz(DieEinstellungen(), Abschnitt, *platz);
+    if (warSichtbar)
+        BewahreFensterplatz(*this, Abschnitt);
 }
 
 } // namespace varnoth

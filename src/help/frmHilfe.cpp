@@ -1,5 +1,6 @@
 #include "frmHilfe.h"
 
+#include "fensterplatz.h"
 #include "funddarstellung.h"
 #include "hilfedatei.h"
 #include "lokalisiereform.h"
@@ -167,9 +168,7 @@ void frmHilfe::HebeHervor(const QStringList& worte) {
 void frmHilfe::ZeigeVor(const QWidget* davor) {
     if (davor != this)
         GehoereZu(davor != nullptr && davor->isModal() ? davor->windowHandle() : nullptr);
-    isMinimized() ? showNormal() : show();
-    raise();
-    activateWindow();
+    HoleNachVorn(*this);
 }
 
 /// Window managers learn whom a window belongs to when it is shown.

@@ -4,7 +4,6 @@
 
 #include "ui_frmDocument.h"
 
-#include "einstellungen.h"
 #include "fensterplatz.h"
 #include "wertetext.h"
 #include "wertfeld.h"
@@ -39,11 +38,7 @@ QSize Mindestgroesse() {
 } // namespace
 
 void frmDocument::InitForm() {
-    Fensterplatz standard;
-    standard.zustand = ZustandNichtGespeichert;
-    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt(), standard);
-    if (platz.zustand != ZustandNichtGespeichert)
-        WendeAn(platz, *this);
+    StelleFensterHer(*this, Abschnitt());
 }
 
 void frmDocument::Zeige() {
@@ -58,9 +53,8 @@ void frmDocument::Zeige() {
 }
 
 void frmDocument::SpeicherePlatz() const {
-    const auto platz = PlatzVon(*this);
-    if (warSichtbar && platz)
-        SchreibFensterplatz(DieEinstellungen(), Abschnitt(), *platz);
+    if (warSichtbar)
+        BewahreFensterplatz(*this, Abschnitt());
 }
 
 bool frmDocument::ZeigtLiveDaten() const {

@@ -30,14 +30,6 @@ constexpr std::int16_t TextTextfilter = 9674;
 
 constexpr int VerzugMs = 300; // between a typed letter and the new preview
 
-void StellePlatzHer(QWidget& fenster) {
-    Fensterplatz standard;
-    standard.zustand = ZustandNichtGespeichert;
-    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnittname, standard);
-    if (platz.zustand != ZustandNichtGespeichert)
-        WendeAn(platz, fenster);
-}
-
 } // namespace
 
 frmBericht::frmBericht(Berichtsumfeld neues, QWidget* parent)
@@ -56,7 +48,7 @@ frmBericht::frmBericht(Berichtsumfeld neues, QWidget* parent)
     for (const auto& [eingabe, schluessel] : Eingaben())
         eingabe->setText(QString::fromStdString(DieEinstellungen().LiesText(Abschnittname, schluessel, "")));
     Verbinde();
-    StellePlatzHer(*this);
+    StelleFensterHer(*this, Abschnittname);
     Zeige();
 }
 
@@ -140,8 +132,7 @@ void frmBericht::showEvent(QShowEvent* ereignis) {
 void frmBericht::done(int ergebnis) {
     for (const auto& [eingabe, schluessel] : Eingaben())
         DieEinstellungen().SchreibText(Abschnittname, schluessel, eingabe->text().toStdString());
-    if (const auto platz = PlatzVon(*this))
-        SchreibFensterplatz(DieEinstellungen(), Abschnittname, *platz);
+    BewahreFensterplatz(*this, Abschnittname);
     QDialog::done(ergebnis);
 }
 

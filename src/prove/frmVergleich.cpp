@@ -1,6 +1,5 @@
 #include "frmVergleich.h"
 
-#include "einstellungen.h"
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
@@ -18,7 +17,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -68,7 +66,7 @@ frmVergleich::frmVergleich(Vergleichsanbieter& quellen)
     : ui(std::make_unique<Ui::frmVergleich>()), anbieter(quellen) {
     ui->setupUi(this);
     GibZeilenLuft(*ui->trvVergleich);
-    StellePlatzHer();
+    StelleFensterHer(*this, Abschnitt, Anfangsgroesse);
     BemisSpalten();
     for (const Seitenwahl wahl : BeideSeiten)
         connect(&Quellenliste(wahl), &QComboBox::activated, this,
@@ -88,24 +86,13 @@ frmVergleich::frmVergleich(Vergleichsanbieter& quellen)
 
 frmVergleich::~frmVergleich() = default;
 
-void frmVergleich::StellePlatzHer() {
-    Fensterplatz standard;
-    standard.zustand = ZustandNichtGespeichert;
-    const Fensterplatz platz = LiesFensterplatz(DieEinstellungen(), Abschnitt, standard);
-    if (platz.zustand == ZustandNichtGespeichert)
-        resize(Anfangsgroesse.boundedTo(screen()->availableSize()));
-    else
-        WendeAn(platz, *this);
-}
-
 void frmVergleich::showEvent(QShowEvent* ereignis) {
     QWidget::showEvent(ereignis);
     VerfolgePlatz(*this);
 }
 
 void frmVergleich::closeEvent(QCloseEvent* ereignis) {
-    if (const auto platz = PlatzVon(*this))
-        SchreibFensterplatz(DieEinstellungen(), Abschnitt, *platz);
+    BewahreFensterplatz(*this, Abschnitt);
     QWidget::closeEvent(ereignis);
 }
 
@@ -198,9 +185,7 @@ void frmVergleich::Lokalisiere() {
 
 void frmVergleich::ZeigeVor() {
     Erneuere();
-    isMinimized() ? showNormal() : show();
-    raise();
-    activateWindow();
+    HoleNachVorn(*this);
 }
 
 /// Another program's window may have been in front for hours.

@@ -47,7 +47,6 @@ protected:
 private:
     QComboBox& Quellenliste(Seitenwahl wahl) const;
     QLabel& Einzelheit(Seitenwahl wahl) const;
-    void StellePlatzHer();
     void BemisSpalten();
     void VerbindeKnoepfe();
     void VerbindeTasten();

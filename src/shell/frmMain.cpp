@@ -175,8 +175,7 @@ void frmMain::Entlade() {
         return;
     entladen = true;
     modPolling::StoppePolling();
-    if (const auto platz = PlatzVon(*this))
-        SchreibFensterplatz(DieEinstellungen(), Fensterabschnitt, *platz);
+    BewahreFensterplatz(*this, Fensterabschnitt);
     ansichten->SpeicherePlaetze();
     leiste->SpeicherePlatz();
     modTrace::Schliesse();

@@ -1,6 +1,7 @@
 #include "sicherungsablauf.h"
 
 #include "dateiziel.h"
+#include "fensterplatz.h"
 #include "frmSicherungen.h"
 #include "konfigurationsbefehle.h"
 #include "texte.h"
@@ -36,9 +37,7 @@ void Sicherungsablauf::Zeige() {
                                   },
                               .speichere = SpeichereKopie,
                               .vergleiche = [this](const Sicherung& s) { Vergleiche(s); }});
-    fenster->show();
-    fenster->raise();
-    fenster->activateWindow();
+    HoleNachVorn(*fenster);
 }
 
 void Sicherungsablauf::Erneuere() {

@@ -186,4 +186,24 @@ void WendeAn(const Fensterplatz& platz, QWidget& fenster) {
     rahmen.setWindowState(MitZustand(rahmen.windowState(), platz.zustand));
 }
 
+void StelleFensterHer(QWidget& fenster, const std::string& abschnitt, QSize anfang) {
+    const Fensterplatz platz =
+        LiesFensterplatz(DieEinstellungen(), abschnitt, {.zustand = ZustandNichtGespeichert});
+    if (platz.zustand != ZustandNichtGespeichert)
+        WendeAn(platz, fenster);
+    else if (!anfang.isEmpty())
+        fenster.resize(anfang.boundedTo(fenster.screen()->availableSize()));
+}
+
+void HoleNachVorn(QWidget& fenster) {
+    fenster.isMinimized() ? fenster.showNormal() : fenster.show();
+    fenster.raise();
+    fenster.activateWindow();
+}
+
+void BewahreFensterplatz(const QWidget& fenster, const std::string& abschnitt) {
+    if (const auto platz = PlatzVon(fenster))
+        SchreibFensterplatz(DieEinstellungen(), abschnitt, *platz);
+}
+
 } // namespace varnoth

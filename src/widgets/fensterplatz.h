@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QSize>
+
 #include <optional>
 #include <string>
 
@@ -49,5 +51,13 @@ std::optional<Fensterplatz> PlatzVon(const QWidget& fenster);
 /// sizes beyond all screens together are corrected; the state is applied without showing a window that is
 /// hidden.
 void WendeAn(const Fensterplatz& platz, QWidget& fenster);
+
+/// Gives a window the place that a section of the settings has stored. Where none is stored its size becomes
+/// `anfang` in logical pixels, no larger than the screen; an empty size leaves it as it is.
+void StelleFensterHer(QWidget& fenster, const std::string& abschnitt, QSize anfang = {});
+/// Shows a window in front of the others with the keyboard on it; a minimised one is restored.
+void HoleNachVorn(QWidget& fenster);
+/// Stores the place of a window in a section of the settings, unless it is minimised.
+void BewahreFensterplatz(const QWidget& fenster, const std::string& abschnitt);
 
 } // namespace varnoth

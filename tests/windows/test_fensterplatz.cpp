@@ -69,6 +69,42 @@ TEST_F(FensterplatzTest, A_stored_place_is_read_again) {
     EXPECT_EQ(LiesFensterplatz(einstellungen, "2Form", {}), Beispiel);
 }
 
+TEST_F(FensterplatzTest, A_window_without_a_stored_place_begins_with_its_usual_size_on_the_screen) {
+    QWidget fenster;
+    StelleFensterHer(fenster, "frmNeu", {300, 200});
+    EXPECT_EQ(fenster.size(), QSize(300, 200));
+    StelleFensterHer(fenster, "frmNeu");
+    EXPECT_EQ(fenster.size(), QSize(300, 200)) << "without a usual size it keeps its own";
+    StelleFensterHer(fenster, "frmNeu", {100000, 100000});
+    EXPECT_EQ(fenster.size(), fenster.screen()->availableSize());
+}
+
+TEST_F(FensterplatzTest, A_window_comes_back_to_where_it_was_kept) {
+    SchreibFensterplatz(einstellungen, "frmNeu", Beispiel);
+    QWidget fenster;
+    StelleFensterHer(fenster, "frmNeu", {700, 700});
+    EXPECT_EQ(fenster.size(), QSize(300, 240));
+    fenster.resize(320, 250);
+    fenster.show();
+    BewahreFensterplatz(fenster, "frmNeu");
+    EXPECT_EQ(LiesFensterplatz(einstellungen, "frmNeu", {}).breite, TwipsAusPixel(320));
+    fenster.showMinimized();
+    fenster.resize(400, 400);
+    BewahreFensterplatz(fenster, "frmNeu");
+    EXPECT_EQ(LiesFensterplatz(einstellungen, "frmNeu", {}).breite, TwipsAusPixel(320));
+}
+
+TEST_F(FensterplatzTest, A_minimised_window_is_restored_when_it_comes_to_the_front) {
+    QWidget fenster;
+    fenster.showMinimized();
+    HoleNachVorn(fenster);
+    EXPECT_FALSE(fenster.isMinimized());
+    EXPECT_TRUE(fenster.isVisible());
+    fenster.hide();
+    HoleNachVorn(fenster);
+    EXPECT_TRUE(fenster.isVisible());
+}
+
 TEST_F(FensterplatzTest, A_view_takes_its_place_inside_the_main_window) {
     WendeAn(Beispiel, *sicht);
     Zeige();
