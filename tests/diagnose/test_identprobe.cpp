@@ -76,9 +76,17 @@ TEST_F(IdentprobeTest, Who_listens_at_the_line_hears_each_of_them_with_how_it_en
     Frage();
     Antworte(Nach(5, Identanfrage));
     Frage();
-    const decltype(ohr.gehoertes) erwartetes{{Austauschergebnis::Beantwortet, Identantwort(17)},
-                                             {Austauschergebnis::Zeitueberschreitung, ""},
-                                             {Austauschergebnis::Echo, Identanfrage}};
+    const std::string gebrochene = Identantwort(17).replace(6, 1, "x");
+    Antworte(Nach(5, gebrochene));
+    Frage();
+    Antworte(Nach(5, Identantwort(17).substr(0, 9)));
+    Frage();
+    const decltype(ohr.gehoertes) erwartetes{
+        {Austauschergebnis::Beantwortet, Identantwort(17)},
+        {Austauschergebnis::Zeitueberschreitung, ""},
+        {Austauschergebnis::Echo, Identanfrage},
+        {Austauschergebnis::Pruefsumme, gebrochene},
+        {Austauschergebnis::Zeitueberschreitung, Identantwort(17).substr(0, 9)}};
     EXPECT_EQ(ohr.gehoertes, erwartetes);
 }
 
