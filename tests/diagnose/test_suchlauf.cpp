@@ -272,6 +272,11 @@ TEST_F(Suchlauf, What_the_controller_says_is_told_in_the_characters_of_the_machi
     EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("Meßgerät, serial number ü1,"));
 }
 
+TEST_F(Suchlauf, Nothing_that_the_controller_says_takes_effect_where_it_is_shown) {
+    port.antworte = [](const std::string&) { return Nach(1, Identantwort(1, "a\x1B[2J\nb;4711\x07")); };
+    EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("a�[2J�b, serial number 4711�,"));
+}
+
 TEST_F(Suchlauf, Sixty_four_ports_are_searched_in_their_order) {
     std::vector<std::string> geraete;
     for (int i = 0; i < 64; ++i)
