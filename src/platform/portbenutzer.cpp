@@ -3,6 +3,8 @@
 #include <QtGlobal>
 
 #ifdef Q_OS_UNIX
+#include "pseudoterminal.h"
+
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
@@ -42,11 +44,6 @@ std::vector<Geraet> LiesGeraete(const std::vector<std::string>& pfade) {
     std::vector<Geraet> geraete;
     std::ranges::transform(pfade, std::back_inserter(geraete), LiesGeraet);
     return geraete;
-}
-
-bool IstPseudoterminal(dev_t geraet) {
-    constexpr unsigned Erstes = 136, Letztes = 143; // major numbers
-    return major(geraet) >= Erstes && major(geraet) <= Letztes;
 }
 
 bool IstZahl(const std::string& text) {

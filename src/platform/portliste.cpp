@@ -15,6 +15,8 @@
 #include <utility>
 
 #ifdef Q_OS_LINUX
+#include "pseudoterminal.h"
+
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #else
@@ -142,13 +144,11 @@ void LiesStabileNamen(std::vector<Portangabe>& ports, const fs::path& dev) {
 }
 
 bool IstTerminal(const struct stat& da, const fs::path& sys) {
-    constexpr unsigned ErstesPseudoterminal = 136, LetztesPseudoterminal = 143; // major numbers
     if (!S_ISCHR(da.st_mode))
         return false;
-    const unsigned haupt = major(da.st_rdev);
-    const std::string nummer = std::to_string(haupt) + ":" + std::to_string(minor(da.st_rdev));
+    const std::string nummer = std::to_string(major(da.st_rdev)) + ":" + std::to_string(minor(da.st_rdev));
     std::error_code fehler;
-    return (haupt >= ErstesPseudoterminal && haupt <= LetztesPseudoterminal) ||
+    return IstPseudoterminal(da.st_rdev) ||
            fs::read_symlink(sys / "dev" / "char" / nummer / "subsystem", fehler).filename() == "tty";
 }
 

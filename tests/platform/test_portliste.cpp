@@ -93,6 +93,17 @@ TEST_F(Portliste, Leaves_out_what_has_no_hardware_behind_it) {
     EXPECT_EQ(Lies().front().bezeichnung, "UART 16550A");
 }
 
+TEST_F(Portliste, Leaves_out_a_name_of_a_port_behind_which_there_is_no_device) {
+    for (const char* name : {"ttyS0", "ttyS1", "ttyS2"}) {
+        maschine.SteckeUart(name, 4);
+        fs::remove(maschine.Dev() / name);
+    }
+    maschine.Schreibe(maschine.Dev() / "ttyS0", "");
+    fs::create_directory(maschine.Dev() / "ttyS1");
+    ASSERT_EQ(mkfifo(maschine.Geraet("ttyS2").c_str(), 0600), 0);
+    EXPECT_THAT(Lies(), IsEmpty());
+}
+
 TEST_F(Portliste, A_port_whose_kind_cannot_be_read_is_listed_all_the_same) {
     maschine.SteckeUart("ttyAMA0", 32);
     maschine.SteckeUart("ttyX0", 4);
@@ -136,10 +147,11 @@ TEST_F(Portliste, The_environment_names_the_further_folder) {
 TEST_F(Portliste, A_name_can_be_that_of_a_port_unless_it_leads_to_something_else) {
     maschine.LegeVirtuellesAn("ttyTest");
     maschine.Schreibe(maschine.Dev() / "file", "");
+    ASSERT_EQ(mkfifo(maschine.Geraet("pipe").c_str(), 0600), 0);
     EXPECT_TRUE(KannPortSein(maschine.Geraet("ttyTest"), maschine.Wurzeln()));
     EXPECT_TRUE(KannPortSein(maschine.Geraet("nothing"), maschine.Wurzeln())) << "it may be plugged in yet";
-    for (const std::string& anderes :
-         {maschine.Geraet("file"), maschine.Dev().string(), std::string("/dev/null")})
+    for (const std::string& anderes : {maschine.Geraet("file"), maschine.Geraet("pipe"),
+                                       maschine.Dev().string(), std::string("/dev/null")})
         EXPECT_FALSE(KannPortSein(anderes, maschine.Wurzeln())) << anderes;
     fs::create_directories(maschine.Sys() / "dev/char/1:3");
     fs::create_symlink("../../../class/tty", maschine.Sys() / "dev/char/1:3/subsystem");
