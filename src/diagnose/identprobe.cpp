@@ -68,8 +68,7 @@ modMithoeren::Ausgang AusgangVon(const Identprobe& probe) {
     Identifikation ident;
     IdentErkenner erkenner(ident);
     erkenner.Verarbeite(probe.empfangen);
-    const bool gebrochen = erkenner.Fertig() && !erkenner.CrcStimmt();
-    return gebrochen ? modMithoeren::Ausgang::Pruefsumme : modMithoeren::Ausgang::Ausgeblieben;
+    return erkenner.Fertig() ? modMithoeren::Ausgang::Pruefsumme : modMithoeren::Ausgang::Ausgeblieben;
 }
 
 void Empfange(Identprobe& probe, Zeit anfang, const Probefristen& fristen,

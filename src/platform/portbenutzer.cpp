@@ -4,6 +4,7 @@
 
 #ifdef Q_OS_UNIX
 #include "pseudoterminal.h"
+#include "textschutz.h"
 
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -53,7 +54,8 @@ bool IstZahl(const std::string& text) {
 std::string Prozessname(const fs::path& prozess) {
     std::string name;
     std::getline(std::ifstream(prozess / "comm"), name);
-    return name + " (" + prozess.filename().string() + ")";
+    // A process may call itself anything; of those of others some systems do not tell the name.
+    return (name.empty() ? "?" : Einzeilig(name)) + " (" + prozess.filename().string() + ")";
 }
 
 bool IstEigener(const std::string& prozess) {

@@ -4,6 +4,7 @@
 #include "natuerlicheordnung.h"
 #include "portbenutzer.h"
 #include "texte.h"
+#include "textschutz.h"
 
 #include <QtGlobal>
 
@@ -110,9 +111,9 @@ std::string Uart(const fs::path& klasse) {
 Portangabe LiesPort(const fs::path& klasse, const fs::path& geraet) {
     Portangabe port{.geraet = geraet.string()};
     const fs::path usb = UsbGeraet(klasse);
-    port.bezeichnung = usb.empty() ? Uart(klasse) : Zeile(usb / "product");
-    port.hersteller = usb.empty() ? "" : Zeile(usb / "manufacturer");
-    port.seriennummer = usb.empty() ? "" : Zeile(usb / "serial");
+    port.bezeichnung = usb.empty() ? Uart(klasse) : Einzeilig(Zeile(usb / "product"));
+    port.hersteller = usb.empty() ? "" : Einzeilig(Zeile(usb / "manufacturer"));
+    port.seriennummer = usb.empty() ? "" : Einzeilig(Zeile(usb / "serial"));
     const fs::path verzoegerung = klasse / "device" / "latency_timer";
     port.verzoegerungMs = Zahl(Zeile(verzoegerung));
     if (port.verzoegerungMs)

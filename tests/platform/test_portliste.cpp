@@ -77,6 +77,16 @@ TEST_F(Portliste, Tells_of_a_usb_adapter_what_its_maker_says) {
     EXPECT_EQ(port.befund.hindernis, Hindernis::Keines);
 }
 
+TEST_F(Portliste, What_a_device_or_a_process_calls_itself_takes_no_effect_where_it_is_shown) {
+    maschine.SteckeUsb("ttyUSB0", "A\x1B[2J");
+    maschine.LegeProzessAn("77", "x\x1B[1m", maschine.terminal);
+    maschine.LegeProzessAn("78", "", maschine.terminal);
+    auto ports = Lies();
+    EXPECT_EQ(ports.front().seriennummer, "A�[2J");
+    ErgaenzeProzesse(ports, maschine.Wurzeln());
+    EXPECT_THAT(ports.front().befund.prozesse, testing::UnorderedElementsAre("x�[1m (77)", "? (78)"));
+}
+
 TEST_F(Portliste, An_adapter_without_a_timer_has_none) {
     maschine.SteckeUsb("ttyACM0", "X");
     EXPECT_FALSE(Lies().front().verzoegerungMs.has_value());

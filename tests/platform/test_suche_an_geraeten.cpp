@@ -109,7 +109,8 @@ TEST_F(SucheAnGeraeten, What_is_no_port_is_told_with_its_reason_and_tried_once) 
 
 TEST_F(SucheAnGeraeten, A_device_without_a_right_to_it_says_so_to_an_ordinary_user) {
     ASSERT_EQ(chmod(geraet.c_str(), 0), 0);
-    EXPECT_THAT(pruefung::AlsNutzer([this] { return Ausgang(geraet); }), HasSubstr(" may not open " + geraet));
+    EXPECT_THAT(pruefung::AlsNutzer([this] { return Ausgang(geraet); }),
+                HasSubstr(" may not open " + geraet));
 }
 
 TEST_F(SucheAnGeraeten, A_port_that_another_search_has_names_its_program) {
