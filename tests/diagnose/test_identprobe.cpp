@@ -156,6 +156,14 @@ TEST_F(IdentprobeTest, A_busy_line_is_asked_in_a_pause) {
     EXPECT_GE(port.sendezeiten.back() - beginn, 5 * Millisekunde);
 }
 
+TEST_F(IdentprobeTest, What_comes_in_the_pause_before_the_request_is_kept_apart_too) {
+    umgebung.Plane(umgebung.uhr + Millisekunde, [this] { port.eingang = "x"; });
+    Antworte(Nach(5, Identantwort()));
+    const Identprobe probe = Frage();
+    EXPECT_EQ(probe.davor, "x");
+    EXPECT_EQ(probe.empfangen, Identantwort());
+}
+
 TEST_F(IdentprobeTest, A_line_that_disappears_is_known_to_be_closed) {
     umgebung.Plane(10 * Millisekunde, [this] { port.offen = false; });
     Frage();
