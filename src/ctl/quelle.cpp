@@ -32,7 +32,6 @@ constexpr std::int16_t TextKeineKonfiguration = 8628;
 constexpr std::int16_t TextKeineSicherungVon = 8629;
 constexpr std::int16_t TextDateiversion = 3101;
 
-constexpr std::string_view WortGeraet = "device";
 constexpr std::string_view WortWerk = "default";
 constexpr std::string_view WortSicherung = "backup";
 constexpr std::string_view WortSicherungVon = "backup:";
@@ -121,11 +120,6 @@ Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
     }
     const Ende ende = zugang.Verbinde();
     return ende == Ende::Erledigt ? LiesSteuergeraet(lauf, zugang, quelle) : ende;
-}
-
-Ende LiesGenannteQuelle(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle) {
-    const auto& argumente = lauf.zeile.argumente;
-    return LiesQuelle(lauf, argumente.empty() ? WortGeraet : argumente.front(), zugang, {}, quelle);
 }
 
 Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle) {

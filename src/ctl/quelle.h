@@ -26,6 +26,9 @@ struct Quelle {
     Parametermenge ungelesen{}; ///< what a controller's read has not got
 };
 
+/// The word that names the controller as a source.
+inline constexpr std::string_view WortGeraet = "device";
+
 /// The kind that a word names: "device", "default", "backup", "backup:SERIAL", and any other word is a path.
 Quellenart ArtVon(std::string_view wort);
 
@@ -34,9 +37,6 @@ Quellenart ArtVon(std::string_view wort);
 /// @param seriennummer of the controller whose newest backup "backup" means; nothing: that of any
 Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
                 const std::optional<std::string>& seriennummer, Quelle& quelle);
-
-/// The same for the argument of the command line; without one it is the controller.
-Ende LiesGenannteQuelle(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
 
 /// Reads the controller that is connected, and remembers what it holds.
 Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
