@@ -7,15 +7,12 @@
 #include "lesevorgang.h"
 #include "plausibilitaet.h"
 #include "seriennummer.h"
-#include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "standtext.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "vergleichsworte.h"
 #include "zeichenwandel.h"
-
-#include <algorithm>
 
 namespace varnoth::ctl {
 
@@ -73,17 +70,14 @@ Ende LiesAusDatei(const Lauf& lauf, const std::string& pfad, Quelle& quelle) {
 }
 
 Ende LiesSicherung(const Lauf& lauf, const std::optional<std::string>& seriennummer, Quelle& quelle) {
-    const auto alle = DieSicherungen() == nullptr ? std::vector<Sicherung>{} : DieSicherungen()->Alle();
-    const auto treffer = std::ranges::find_if(alle, [&](const Sicherung& eine) {
-        return !seriennummer || eine.angaben.seriennummer == *seriennummer;
-    });
-    if (treffer == alle.end())
+    const auto neueste = NeuesteSicherung(seriennummer);
+    if (!neueste)
         return lauf.Scheitere(Ende::Datei, seriennummer ? LadeTextMit(TextKeineSicherungVon, {*seriennummer})
                                                         : LadeText(TextKeineSicherung));
-    const auto abbild = DieSicherungen()->Lies(*treffer);
+    const auto abbild = DieSicherungen()->Lies(*neueste);
     if (!abbild)
-        return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungNichtLesbar, {treffer->pfad}));
-    quelle.pfad = quelle.name = treffer->pfad;
+        return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungNichtLesbar, {neueste->pfad}));
+    quelle.pfad = quelle.name = neueste->pfad;
     quelle.abbild = *abbild;
     return Ende::Erledigt;
 }
@@ -120,6 +114,13 @@ Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
     }
     const Ende ende = zugang.Verbinde();
     return ende == Ende::Erledigt ? LiesSteuergeraet(lauf, zugang, quelle) : ende;
+}
+
+std::optional<Sicherung> NeuesteSicherung(const std::optional<std::string>& seriennummer) {
+    for (const Sicherung& eine : DieSicherungen()->Alle())
+        if (!seriennummer || eine.angaben.seriennummer == *seriennummer)
+            return eine;
+    return std::nullopt;
 }
 
 Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle) {

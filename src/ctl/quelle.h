@@ -5,6 +5,7 @@
 #include "json.h"
 #include "leitungszugang.h"
 #include "parameterstelle.h"
+#include "sicherungen.h"
 
 #include <optional>
 #include <string>
@@ -37,6 +38,9 @@ Quellenart ArtVon(std::string_view wort);
 /// @param seriennummer of the controller whose newest backup "backup" means; nothing: that of any
 Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
                 const std::optional<std::string>& seriennummer, Quelle& quelle);
+
+/// The newest backup of the controller with this serial number; without one of any.
+std::optional<Sicherung> NeuesteSicherung(const std::optional<std::string>& seriennummer);
 
 /// Reads the controller that is connected, and remembers what it holds.
 Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
