@@ -83,7 +83,7 @@ std::string UnbedenklicheEinstellungen(const std::string& ini) {
 }
 
 std::string Supportkopf(const Supportangaben& angaben, std::chrono::system_clock::time_point jetzt) {
-    return OhnePasswort(LadeTextMit(TextTitel, {angaben.programm, Zeitpunkttext(jetzt)}) + "\n" +
+    return OhnePasswort(LadeTextMit(TextTitel, {Zeitpunkttext(jetzt)}) + "\n" +
                         Abschnitt(TextVersionen, Zeilenweise(angaben.umfeld)) +
                         Abschnitt(TextVerbindung, Zeilenweise(angaben.verbindung)) +
                         Abschnitt(TextGeraet, Geraet()) + Abschnitt(TextZaehlungen, Zaehlungen()) +
