@@ -2,6 +2,8 @@
 
 #include "dateien.h"
 #include "lauf.h"
+#include "leitungszugang.h"
+#include "pruefsumme.h"
 #include "texte.h"
 #include "textmitwerten.h"
 
@@ -29,9 +31,20 @@ Ende DarfDatei(const Lauf& lauf, const std::string& pfad) {
 
 } // namespace
 
-Ende WaehleZiel(const Lauf& lauf, std::optional<std::string>& pfad) {
-    pfad = lauf.zeile.Wert("output");
-    return pfad ? DarfDatei(lauf, *pfad) : Ende::Erledigt;
+Ende LiesFuerZiel(const Lauf& lauf, Umwandlung& umwandlung) {
+    umwandlung.ziel = lauf.zeile.Wert("output");
+    if (umwandlung.ziel)
+        if (const Ende ende = DarfDatei(lauf, *umwandlung.ziel); ende != Ende::Erledigt)
+            return ende;
+    const auto& argumente = lauf.zeile.argumente;
+    Leitungszugang zugang(lauf);
+    return LiesQuelle(lauf, argumente.empty() ? WortGeraet : argumente.front(), zugang, {},
+                      umwandlung.quelle);
+}
+
+bool IstDasselbe(const std::string& ein, const std::string& anderes) {
+    std::error_code fehler;
+    return ein == anderes || std::filesystem::equivalent(ein, anderes, fehler);
 }
 
 Ende LegeDatei(const Lauf& lauf, const std::string& pfad, std::string_view bytes) {
@@ -42,16 +55,18 @@ Ende LegeDatei(const Lauf& lauf, const std::string& pfad, std::string_view bytes
     return Ende::Erledigt;
 }
 
-Ende GibDokument(const Lauf& lauf, const std::optional<std::string>& pfad, const std::string& dokument,
-                 std::string_view name, std::vector<Json::Feld> felder) {
-    if (pfad)
-        if (const Ende ende = LegeDatei(lauf, *pfad, dokument); ende != Ende::Erledigt)
+Ende GibDokument(const Lauf& lauf, const Umwandlung& umwandlung, const std::string& dokument,
+                 std::string_view name) {
+    const auto& [quelle, ziel] = umwandlung;
+    if (ziel)
+        if (const Ende ende = LegeDatei(lauf, *ziel, dokument); ende != Ende::Erledigt)
             return ende;
-    felder.emplace_back("file", pfad ? Json(*pfad) : Json());
-    felder.emplace_back(name, pfad ? Json() : Json(dokument));
     if (lauf.InJson())
-        lauf.Gib({}, felder);
-    else if (!pfad)
+        lauf.Gib({}, {{"source", AlsJson(quelle)},
+                      {"checksum", Konfigurationspruefsumme(quelle.abbild)},
+                      {"file", ziel ? Json(*ziel) : Json()},
+                      {name, ziel ? Json() : Json(dokument)}});
+    else if (!ziel)
         lauf.konsole.Daten(dokument);
     return Ende::Erledigt;
 }

@@ -55,6 +55,21 @@ std::string MitVorschlag(const std::string& fehler, std::string_view wort,
     return vorschlaege.empty() ? fehler : fehler + " " + LadeTextMit(TextMeinten, {Aufzaehlung(vorschlaege)});
 }
 
+/// "-" alone and negative numbers are arguments.
+bool IstOption(std::string_view wort) {
+    return wort.size() > 1 && wort[0] == '-' && std::isdigit(static_cast<unsigned char>(wort[1])) == 0;
+}
+
+/// An option's name as written, and the value that hangs on it: "--name=value", "-nvalue".
+std::pair<std::string, std::optional<std::string>> Zerlegt(const std::string& wort) {
+    constexpr std::size_t KurzeLaenge = 2;
+    const bool lang = wort.starts_with("--");
+    const auto ende = lang ? wort.find('=') : KurzeLaenge;
+    if (ende >= wort.size())
+        return {wort, std::nullopt};
+    return {wort.substr(0, ende), wort.substr(lang ? ende + 1 : ende)};
+}
+
 /// Takes the words one after the other.
 class Leser {
 public:
@@ -77,21 +92,6 @@ public:
     }
 
 private:
-    /// "-" alone and negative numbers are arguments.
-    static bool IstOption(std::string_view wort) {
-        return wort.size() > 1 && wort[0] == '-' && std::isdigit(static_cast<unsigned char>(wort[1])) == 0;
-    }
-
-    /// An option's name as written, and the value that hangs on it: "--name=value", "-nvalue".
-    static std::pair<std::string, std::optional<std::string>> Zerlegt(const std::string& wort) {
-        constexpr std::size_t KurzeLaenge = 2;
-        const bool lang = wort.starts_with("--");
-        const auto ende = lang ? wort.find('=') : KurzeLaenge;
-        if (ende >= wort.size())
-            return {wort, std::nullopt};
-        return {wort.substr(0, ende), wort.substr(lang ? ende + 1 : ende)};
-    }
-
     void NimmOption(const std::string& wort) {
         const auto [name, anhaengend] = Zerlegt(wort);
         const Option* const option = name.starts_with("--") ? OptionNamens(std::string_view(name).substr(2))
@@ -172,12 +172,12 @@ std::optional<std::int16_t> SpracheNamens(std::string_view name) {
 
 /// The language that the words name, right or wrong.
 std::optional<std::string> Sprachwunsch(std::span<const std::string> worte) {
-    constexpr std::string_view MitGleich = "--lang=";
     for (std::size_t i = 0; i < worte.size() && worte[i] != EndeDerOptionen; ++i) {
-        if (worte[i].starts_with(MitGleich))
-            return worte[i].substr(MitGleich.size());
-        if ((worte[i] == "--lang" || worte[i] == "-l") && i + 1 < worte.size())
-            return worte[i + 1];
+        const auto [name, wert] = Zerlegt(worte[i]);
+        if (name != "--lang" && name != "-l")
+            continue;
+        if (wert || i + 1 < worte.size())
+            return wert ? wert : worte[i + 1];
     }
     return std::nullopt;
 }

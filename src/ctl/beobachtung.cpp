@@ -117,9 +117,8 @@ void GibBild(const Lauf& lauf, int nummer) {
     const Messbild bild = MessbildAus(modDaten::DasAbbild());
     if (!lauf.InJson() && nummer % ZeilenJeKopf == 0)
         lauf.konsole.Zeile(Tabellenkopf());
-    std::vector<Json::Feld> felder{{"time", Zeitmarke(std::chrono::system_clock::now())}};
-    for (const Json::Feld& feld : AlsFelder(bild))
-        felder.push_back(feld);
+    auto felder = AlsFelder(bild);
+    felder.insert(felder.begin(), {"time", Zeitmarke(std::chrono::system_clock::now())});
     lauf.Gib(Tabellenzeilen(bild, Uhrzeit()), felder);
 }
 

@@ -7,8 +7,6 @@
 #include "lauf.h"
 #include "leitungszugang.h"
 #include "programmversion.h"
-#include "pruefsumme.h"
-#include "quelle.h"
 #include "registeradressen.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -43,15 +41,11 @@ Berichtsangaben Angaben(const Lauf& lauf, const Quelle& quelle) {
 } // namespace
 
 Ende Report(Lauf& lauf) {
-    std::optional<std::string> pfad;
-    if (const Ende ende = WaehleZiel(lauf, pfad); ende != Ende::Erledigt)
+    Umwandlung umwandlung;
+    if (const Ende ende = LiesFuerZiel(lauf, umwandlung); ende != Ende::Erledigt)
         return ende;
-    Leitungszugang zugang(lauf);
-    Quelle quelle;
-    if (const Ende ende = LiesGenannteQuelle(lauf, zugang, quelle); ende != Ende::Erledigt)
-        return ende;
-    return GibDokument(lauf, pfad, Bericht(quelle.abbild, Angaben(lauf, quelle)), "html",
-                       {{"source", AlsJson(quelle)}, {"checksum", Konfigurationspruefsumme(quelle.abbild)}});
+    const Quelle& quelle = umwandlung.quelle;
+    return GibDokument(lauf, umwandlung, Bericht(quelle.abbild, Angaben(lauf, quelle)), "html");
 }
 
 } // namespace varnoth::ctl

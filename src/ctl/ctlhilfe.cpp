@@ -109,28 +109,16 @@ Json AlsJson(const Befehl& befehl) {
 
 Ende ZeigeHilfe(const Lauf& lauf) {
     const auto alsJson = [](const auto& eines) { return AlsJson(eines); };
-    if (lauf.InJson()) {
-        lauf.konsole.Daten(Json::Objekt({{"command", "help"},
-                                         {"commands", Jsonliste(AlleBefehle(), alsJson)},
-                                         {"commonOptions", Jsonliste(AllgemeineOptionen(), alsJson)},
-                                         {"options", Jsonliste(EigeneOptionen(), alsJson)}})
-                               .Text() +
-                           "\n");
-        return Ende::Erledigt;
-    }
     const Befehl* const befehl = lauf.zeile.befehl;
-    const std::string text = befehl != nullptr ? Befehlshilfe(*befehl) : Ueberblick();
-    for (const std::string_view zeile : Zeilen(text))
-        lauf.konsole.Zeile(zeile);
+    lauf.GibAls("help", befehl != nullptr ? Befehlshilfe(*befehl) : Ueberblick(),
+                {{"commands", Jsonliste(AlleBefehle(), alsJson)},
+                 {"commonOptions", Jsonliste(AllgemeineOptionen(), alsJson)},
+                 {"options", Jsonliste(EigeneOptionen(), alsJson)}});
     return Ende::Erledigt;
 }
 
 Ende ZeigeVersion(const Lauf& lauf) {
-    if (lauf.InJson())
-        lauf.konsole.Daten(Json::Objekt({{"command", "version"}, {"version", Programmversion()}}).Text() +
-                           "\n");
-    else
-        lauf.konsole.Zeile("varnothctl " + std::string(Programmversion()));
+    lauf.GibAls("version", "varnothctl " + std::string(Programmversion()), {{"version", Programmversion()}});
     return Ende::Erledigt;
 }
 

@@ -47,8 +47,8 @@ void Fortgang::ZeigeFortschritt(int erledigt, int gesamt) {
         return;
     weitester = erledigt;
     geduld.Beginne();
-    if (!lauf.zeile.Hat("quiet") && gesamt > 0)
-        lauf.konsole.Fortschritt(was + " " + std::to_string(Prozent * erledigt / gesamt) + " %");
+    if (gesamt > 0)
+        lauf.ZeigeFortschritt(was + " " + std::to_string(Prozent * erledigt / gesamt) + " %");
 }
 
 } // namespace varnoth::ctl

@@ -53,13 +53,14 @@ Json::Json(std::string_view wert) : text("\"") {
     text += '"';
 }
 
-Json Json::Objekt(const std::vector<Feld>& felder) {
+Json Json::Objekt(const std::vector<Feld>& felder, const std::vector<Feld>& weitere) {
     Json objekt;
     objekt.text = "{";
-    for (const auto& [name, wert] : felder) {
-        objekt.text += objekt.text.size() > 1 ? ", " : "";
-        objekt.text += Json(name).text + ": " + wert.text;
-    }
+    for (const auto* const reihe : {&felder, &weitere})
+        for (const auto& [name, wert] : *reihe) {
+            objekt.text += objekt.text.size() > 1 ? ", " : "";
+            objekt.text += Json(name).text + ": " + wert.text;
+        }
     objekt.text += '}';
     return objekt;
 }

@@ -21,7 +21,8 @@ public:
     Json(const char* wert) : Json(std::string_view(wert)) {}        // NOLINT(*-explicit-*)
 
     using Feld = std::pair<std::string_view, Json>;
-    static Json Objekt(const std::vector<Feld>& felder);
+    /// With the fields of both, if there are two.
+    static Json Objekt(const std::vector<Feld>& felder, const std::vector<Feld>& weitere = {});
     static Json Liste(const std::vector<Json>& werte);
     static Json Zahlen(const std::vector<std::int32_t>& zahlen);
 

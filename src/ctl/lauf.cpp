@@ -25,20 +25,25 @@ void Lauf::Sage(std::string_view text) const {
         konsole.Meldung(text);
 }
 
+void Lauf::ZeigeFortschritt(std::string_view text) const {
+    if (!zeile.Hat("quiet"))
+        konsole.Fortschritt(text);
+}
+
 Ende Lauf::Scheitere(Ende ende, std::string_view text) const {
     konsole.Meldung(Befehlsname(zeile) + ": " + std::string(text));
     return ende;
 }
 
 void Lauf::Gib(std::string_view text, const std::vector<Json::Feld>& felder) const {
-    if (!InJson()) {
-        for (const std::string_view eine : Zeilen(text))
-            konsole.Zeile(eine);
-        return;
-    }
-    std::vector<Json::Feld> alle{{"command", Json(zeile.befehl->name)}};
-    alle.insert(alle.end(), felder.begin(), felder.end());
-    konsole.Daten(Json::Objekt(alle).Text() + "\n");
+    GibAls(zeile.befehl->name, text, felder);
+}
+
+void Lauf::GibAls(std::string_view name, std::string_view text, const std::vector<Json::Feld>& felder) const {
+    if (InJson())
+        return konsole.Daten(Json::Objekt({{"command", name}}, felder).Text() + "\n");
+    for (const std::string_view eine : Zeilen(text))
+        konsole.Zeile(eine);
 }
 
 Ende Lauf::KannErlaubnisBekommen() const {

@@ -1,5 +1,6 @@
 // The command that checks the line.
 
+#include "ablage.h"
 #include "auftraege.h"
 #include "lauf.h"
 #include "leitungspruefung.h"
@@ -8,9 +9,8 @@
 #include "schnittstelle.h"
 #include "texte.h"
 #include "textmitwerten.h"
-
-#include <charconv>
-#include <filesystem>
+#include "wortlaut.h"
+#include "zeichenwandel.h"
 
 namespace varnoth::ctl {
 
@@ -25,8 +25,7 @@ public:
     ~Pruefschreiber() override { lauf.konsole.Fortschritt({}); }
 
     void Zeige(const Pruefbefund& bisher) override {
-        if (!lauf.zeile.Hat("quiet"))
-            lauf.konsole.Fortschritt(std::to_string(bisher.gesendet) + "/" + std::to_string(anzahl));
+        lauf.ZeigeFortschritt(std::to_string(bisher.gesendet) + "/" + std::to_string(anzahl));
     }
     bool Abgebrochen() override { return lauf.konsole.Unterbrochen(); }
 
@@ -40,19 +39,15 @@ std::optional<int> Anfragen(const Lauf& lauf) {
     const auto worte = lauf.zeile.Wert("requests");
     if (!worte)
         return Pruefauftrag{}.anzahl;
-    int anzahl = 0;
-    const char* const ende = worte->data() + worte->size();
-    const auto [halt, fehler] = std::from_chars(worte->data(), ende, anzahl);
-    const bool brauchbar = fehler == std::errc{} && halt == ende && anzahl >= 1 && anzahl <= MeisteAnfragen;
-    return brauchbar ? std::optional(anzahl) : std::nullopt;
+    const auto anzahl = ZahlAus(*worte, MeisteAnfragen);
+    return anzahl && *anzahl > 0 ? anzahl : std::nullopt;
 }
 
 /// What the machine tells of the port in use, by whichever of its names.
 Portangabe PortInGebrauch() {
-    std::error_code fehler;
     const std::string geraet = modSchnittstelle::GetAnschluss().geraet;
     for (const Portangabe& port : LiesPortliste())
-        if (std::filesystem::equivalent(port.geraet, geraet, fehler))
+        if (IstDasselbe(port.geraet, geraet))
             return port;
     return {.geraet = geraet};
 }
@@ -103,7 +98,8 @@ Ende Linecheck(Lauf& lauf) {
         return ende;
     const auto anfragen = Anfragen(lauf);
     if (!anfragen)
-        return lauf.Scheitere(Ende::Bedienung, LadeTextMit(TextKeineAnzahl, {*lauf.zeile.Wert("requests")}));
+        return lauf.Scheitere(Ende::Bedienung,
+                              LadeTextMit(TextKeineAnzahl, {WortAlsUtf8(*lauf.zeile.Wert("requests"))}));
     Pruefbefund befund;
     {
         Pruefschreiber schreiber(lauf, *anfragen);

@@ -6,32 +6,28 @@
 #include "lauf.h"
 #include "leitungszugang.h"
 #include "pruefsumme.h"
-#include "quelle.h"
 #include "registerjson.h"
 
 namespace varnoth::ctl {
 
 Ende Read(Lauf& lauf) {
-    std::optional<std::string> pfad;
-    if (const Ende ende = WaehleZiel(lauf, pfad); ende != Ende::Erledigt)
+    Umwandlung umwandlung;
+    if (const Ende ende = LiesFuerZiel(lauf, umwandlung); ende != Ende::Erledigt)
         return ende;
-    Leitungszugang zugang(lauf);
-    Quelle quelle;
-    if (const Ende ende = LiesGenannteQuelle(lauf, zugang, quelle); ende != Ende::Erledigt)
-        return ende;
+    const auto& [quelle, pfad] = umwandlung;
     PruefePlausibel(lauf, quelle.abbild);
     if (pfad)
         if (const Ende ende = LegeDatei(lauf, *pfad, AlsKonfigurationsdatei(quelle.abbild));
             ende != Ende::Erledigt)
             return ende;
     if (lauf.InJson())
-        lauf.Gib({},
-                 {{"controller", GeraetAlsJson()},
-                  {"file", pfad ? Json(*pfad) : Json()},
-                  {"checksum", Konfigurationspruefsumme(quelle.abbild)},
-                  {"registers", Jsonliste(AlleStellen(IstLesbar), [&quelle](const Parameterstelle& stelle) {
-                       return WertAlsJson(quelle.abbild, stelle);
-                   })}});
+        lauf.Gib({}, {{"controller", GeraetAlsJson()},
+                      {"file", pfad ? Json(*pfad) : Json()},
+                      {"checksum", Konfigurationspruefsumme(quelle.abbild)},
+                      {"registers", Jsonliste(AlleStellen(IstLesbar),
+                                              [&abbild = quelle.abbild](const Parameterstelle& stelle) {
+                                                  return WertAlsJson(abbild, stelle);
+                                              })}});
     else if (!pfad)
         lauf.konsole.Daten(Quellentext(quelle));
     return Ende::Erledigt;

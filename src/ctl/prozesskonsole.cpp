@@ -2,7 +2,9 @@
 
 #include "abbruchsignal.h"
 #include "aehnliche.h"
+#include "lauf.h"
 #include "texte.h"
+#include "textschutz.h"
 #include "zeichenwandel.h"
 
 #include <cerrno>
@@ -18,7 +20,20 @@ bool HeisstJa(std::string_view antwort) {
     return kern == "j" || kern == "ja" || kern == "y" || kern == "yes";
 }
 
+/// Characters whose number tells how many columns they take: one for each that begins in UTF-8.
+Zeichenvorrat Zaehlbarer(Zeichenvorrat vorrat) {
+    return vorrat == Zeichenvorrat::Utf8 ? vorrat : Zeichenvorrat::Ascii;
+}
+
 } // namespace
+
+/// The lines of a text as they can be shown.
+std::string Prozesskonsole::Anzeigbar(std::string_view text) const {
+    std::string anzeigbar;
+    for (const std::string_view zeile : Zeilen(text))
+        anzeigbar += FuerVorrat(Einzeilig(zeile), vorrat) + "\n";
+    return anzeigbar.substr(0, anzeigbar.size() - (anzeigbar.empty() ? 0 : 1));
+}
 
 void Prozesskonsole::Daten(std::string_view bytes) {
     RaeumeFortschritt();
@@ -27,12 +42,12 @@ void Prozesskonsole::Daten(std::string_view bytes) {
 }
 
 void Prozesskonsole::Zeile(std::string_view text) {
-    Daten(FuerVorrat(text, vorrat) + "\n");
+    Daten(Anzeigbar(text) + "\n");
 }
 
 void Prozesskonsole::Meldung(std::string_view text) {
     RaeumeFortschritt();
-    SchreibeInStrom(Strom::Fehler, FuerVorrat(text, vorrat) + "\n");
+    SchreibeInStrom(Strom::Fehler, Anzeigbar(text) + "\n");
 }
 
 /// No control sequences: any terminal knows how to begin a line anew.
@@ -41,9 +56,11 @@ void Prozesskonsole::Fortschritt(std::string_view text) {
         return;
     if (text.empty())
         return RaeumeFortschritt();
-    const std::string zeile = Aufgefuellt(text, fortschrittsbreite);
-    fortschrittsbreite = Anzeigebreite(text);
-    SchreibeInStrom(Strom::Fehler, "\r" + FuerVorrat(zeile, vorrat));
+    const std::string ganzer = FuerVorrat(Einzeilig(text), Zaehlbarer(vorrat));
+    const int platz = Terminalbreite(Strom::Fehler) - 1; // in the last column some terminals break the line
+    const std::string_view zeile = platz > 0 ? Gekuerzt(ganzer, platz) : ganzer;
+    SchreibeInStrom(Strom::Fehler, "\r" + Aufgefuellt(zeile, fortschrittsbreite));
+    fortschrittsbreite = Anzeigebreite(zeile);
 }
 
 void Prozesskonsole::RaeumeFortschritt() {
@@ -60,7 +77,7 @@ bool Prozesskonsole::KannFragen() const {
 
 bool Prozesskonsole::Frage(std::string_view text) {
     RaeumeFortschritt();
-    SchreibeInStrom(Strom::Fehler, FuerVorrat(std::string(text) + " " + LadeText(TextJaNein) + " ", vorrat));
+    SchreibeInStrom(Strom::Fehler, Anzeigbar(std::string(text) + " " + LadeText(TextJaNein) + " "));
     const auto antwort = LiesEingabezeile();
     if (!antwort)
         SchreibeInStrom(Strom::Fehler, "\n");

@@ -7,7 +7,8 @@
 namespace varnoth::ctl {
 
 /// The streams of this process: data on standard output, messages and progress on standard error, the answer
-/// to a question from standard input.
+/// to a question from standard input. What a person reads has no effect on a terminal, wherever it comes
+/// from.
 class Prozesskonsole : public Konsole {
 public:
     explicit Prozesskonsole(Zeichenvorrat zeichenvorrat) : vorrat(zeichenvorrat) {}
@@ -26,6 +27,7 @@ public:
     int Fehlernummer() const;
 
 private:
+    std::string Anzeigbar(std::string_view text) const;
     void RaeumeFortschritt();
 
     Zeichenvorrat vorrat;

@@ -7,15 +7,12 @@
 #include "lesevorgang.h"
 #include "plausibilitaet.h"
 #include "seriennummer.h"
-#include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "standtext.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "vergleichsworte.h"
 #include "zeichenwandel.h"
-
-#include <algorithm>
 
 namespace varnoth::ctl {
 
@@ -32,7 +29,6 @@ constexpr std::int16_t TextKeineKonfiguration = 8628;
 constexpr std::int16_t TextKeineSicherungVon = 8629;
 constexpr std::int16_t TextDateiversion = 3101;
 
-constexpr std::string_view WortGeraet = "device";
 constexpr std::string_view WortWerk = "default";
 constexpr std::string_view WortSicherung = "backup";
 constexpr std::string_view WortSicherungVon = "backup:";
@@ -74,17 +70,14 @@ Ende LiesAusDatei(const Lauf& lauf, const std::string& pfad, Quelle& quelle) {
 }
 
 Ende LiesSicherung(const Lauf& lauf, const std::optional<std::string>& seriennummer, Quelle& quelle) {
-    const auto alle = DieSicherungen() == nullptr ? std::vector<Sicherung>{} : DieSicherungen()->Alle();
-    const auto treffer = std::ranges::find_if(alle, [&](const Sicherung& eine) {
-        return !seriennummer || eine.angaben.seriennummer == *seriennummer;
-    });
-    if (treffer == alle.end())
+    const auto neueste = NeuesteSicherung(seriennummer);
+    if (!neueste)
         return lauf.Scheitere(Ende::Datei, seriennummer ? LadeTextMit(TextKeineSicherungVon, {*seriennummer})
                                                         : LadeText(TextKeineSicherung));
-    const auto abbild = DieSicherungen()->Lies(*treffer);
+    const auto abbild = DieSicherungen()->Lies(*neueste);
     if (!abbild)
-        return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungNichtLesbar, {treffer->pfad}));
-    quelle.pfad = quelle.name = treffer->pfad;
+        return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungNichtLesbar, {neueste->pfad}));
+    quelle.pfad = quelle.name = neueste->pfad;
     quelle.abbild = *abbild;
     return Ende::Erledigt;
 }
@@ -123,9 +116,11 @@ Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
     return ende == Ende::Erledigt ? LiesSteuergeraet(lauf, zugang, quelle) : ende;
 }
 
-Ende LiesGenannteQuelle(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle) {
-    const auto& argumente = lauf.zeile.argumente;
-    return LiesQuelle(lauf, argumente.empty() ? WortGeraet : argumente.front(), zugang, {}, quelle);
+std::optional<Sicherung> NeuesteSicherung(const std::optional<std::string>& seriennummer) {
+    for (const Sicherung& eine : DieSicherungen()->Alle())
+        if (!seriennummer || eine.angaben.seriennummer == *seriennummer)
+            return eine;
+    return std::nullopt;
 }
 
 Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle) {

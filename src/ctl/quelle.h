@@ -5,6 +5,7 @@
 #include "json.h"
 #include "leitungszugang.h"
 #include "parameterstelle.h"
+#include "sicherungen.h"
 
 #include <optional>
 #include <string>
@@ -26,6 +27,9 @@ struct Quelle {
     Parametermenge ungelesen{}; ///< what a controller's read has not got
 };
 
+/// The word that names the controller as a source.
+inline constexpr std::string_view WortGeraet = "device";
+
 /// The kind that a word names: "device", "default", "backup", "backup:SERIAL", and any other word is a path.
 Quellenart ArtVon(std::string_view wort);
 
@@ -35,8 +39,8 @@ Quellenart ArtVon(std::string_view wort);
 Ende LiesQuelle(const Lauf& lauf, std::string_view wort, Leitungszugang& zugang,
                 const std::optional<std::string>& seriennummer, Quelle& quelle);
 
-/// The same for the argument of the command line; without one it is the controller.
-Ende LiesGenannteQuelle(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);
+/// The newest backup of the controller with this serial number; without one of any.
+std::optional<Sicherung> NeuesteSicherung(const std::optional<std::string>& seriennummer);
 
 /// Reads the controller that is connected, and remembers what it holds.
 Ende LiesSteuergeraet(const Lauf& lauf, Leitungszugang& zugang, Quelle& quelle);

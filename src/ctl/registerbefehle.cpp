@@ -46,12 +46,6 @@ std::string Wertzeile(const Transferparameter& parameter, const Registerlesung& 
     return Registername(parameter) + ": " + lesung.Worte(parameter, werte);
 }
 
-Json MitOrt(const Transferparameter& parameter, const std::vector<Json::Feld>& weitere) {
-    auto felder = Ortsfelder(parameter);
-    felder.insert(felder.end(), weitere.begin(), weitere.end());
-    return Json::Objekt(felder);
-}
-
 /// Whether a write of the whole configuration would reach all of these registers.
 bool IstSetzbar(const Transferparameter& parameter) {
     const auto stellen = ParameterMitRegistern(parameter);
@@ -150,7 +144,7 @@ private:
         const bool gleich = gelesene == neue;
         const std::string satz = LadeText(Speichert() ? TextGesetztUndGespeichert : TextGesetzt);
         lauf.Gib(Wertzeile(Ziel(), lesung, gelesene) + (gleich ? " " + satz : ""),
-                 {{"register", MitOrt(Ziel(), {})},
+                 {{"register", Json::Objekt(Ortsfelder(Ziel()))},
                   {"before", lesung.AlsJson(Ziel(), bisherige)},
                   {"written", lesung.AlsJson(Ziel(), neue)},
                   {"readBack", lesung.AlsJson(Ziel(), gelesene)},
@@ -189,8 +183,8 @@ Ende Get(Lauf& lauf) {
     for (const Transferparameter& einer : alle) {
         const Werte& werte = lesung.WerteVon(einer);
         text += Wertzeile(einer, lesung, werte) + "\n";
-        zeilen.push_back(
-            MitOrt(einer, {{"words", lesung.Worte(einer, werte)}, {"values", Json::Zahlen(werte)}}));
+        zeilen.push_back(Json::Objekt(
+            Ortsfelder(einer), {{"words", lesung.Worte(einer, werte)}, {"values", Json::Zahlen(werte)}}));
     }
     lauf.Gib(text, {{"registers", Json::Liste(zeilen)}});
     return Ende::Erledigt;

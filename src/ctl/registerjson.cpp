@@ -36,11 +36,6 @@ const char* Klassenname(Vergleichsklasse klasse) {
     return "notReadable";
 }
 
-Json MitFeldern(std::vector<Json::Feld> felder, const std::vector<Json::Feld>& weitere) {
-    felder.insert(felder.end(), weitere.begin(), weitere.end());
-    return Json::Objekt(felder);
-}
-
 } // namespace
 
 std::vector<Json::Feld> Ortsfelder(const Transferparameter& parameter) {
@@ -62,22 +57,22 @@ std::vector<Json::Feld> Ortsfelder(const Parameterstelle& stelle) {
 
 Json WertAlsJson(const Abbild& abbild, const Parameterstelle& stelle) {
     const Werte werte = abbild.HoleParameter(stelle.bereich, stelle.adresse, stelle.optikteil);
-    return MitFeldern(Ortsfelder(stelle),
-                      {{"words", Klartext(stelle.bereich, stelle.adresse, werte,
-                                          LesartFuer(abbild, stelle.bereich, stelle.optikteil))},
-                       {"values", Json::Zahlen(werte)}});
+    return Json::Objekt(Ortsfelder(stelle),
+                        {{"words", Klartext(stelle.bereich, stelle.adresse, werte,
+                                            LesartFuer(abbild, stelle.bereich, stelle.optikteil))},
+                         {"values", Json::Zahlen(werte)}});
 }
 
 Json ZeileAlsJson(const Vergleichsworte& worte, const Vergleichszeile& zeile, const Vergleichsbild& a,
                   const Vergleichsbild& b) {
-    return MitFeldern(Ortsfelder(worte.stelle), {{"class", Klassenname(worte.klasse)},
-                                                 {"a", zeile.HatA(a.ungelesen) ? Json(worte.a) : Json()},
-                                                 {"b", zeile.HatB(b.ungelesen) ? Json(worte.b) : Json()}});
+    return Json::Objekt(Ortsfelder(worte.stelle), {{"class", Klassenname(worte.klasse)},
+                                                   {"a", zeile.HatA(a.ungelesen) ? Json(worte.a) : Json()},
+                                                   {"b", zeile.HatB(b.ungelesen) ? Json(worte.b) : Json()}});
 }
 
 Json BefundAlsJson(const Registerbefund& befund, std::string_view links, std::string_view rechts) {
     return Jsonliste(befund.zeilen, [&](const Registerzeile& zeile) {
-        return MitFeldern(Ortsfelder(zeile.stelle), {{links, zeile.links}, {rechts, zeile.rechts}});
+        return Json::Objekt(Ortsfelder(zeile.stelle), {{links, zeile.links}, {rechts, zeile.rechts}});
     });
 }
 

@@ -10,7 +10,6 @@
 #include "schreibfolge.h"
 #include "seriennummer.h"
 #include "sicherung.h"
-#include "sicherungen.h"
 #include "standardkonfiguration.h"
 #include "texte.h"
 #include "textmitwerten.h"
@@ -31,7 +30,6 @@ constexpr std::int16_t TextSicherungMisslungen = 8642;
 constexpr std::int16_t TextSchreiben = 8643;
 constexpr std::int16_t TextPruefen = 8644;
 constexpr std::int16_t TextZurueck = 8645;
-constexpr std::int16_t TextStandUnbekannt = 9765;
 
 /// Each row in a line: the value before an arrow and the one behind it.
 std::string Zeilentext(const Registerbefund& befund) {
@@ -115,12 +113,10 @@ private:
             return Ende::Erledigt;
         if (const std::string fehler = SichereGeraetestand(); !fehler.empty())
             return lauf.Scheitere(Ende::Datei, LadeTextMit(TextSicherungMisslungen, {fehler}));
-        if (!IstGeraetestandSicherbar()) {
-            lauf.konsole.Meldung(LadeText(TextStandUnbekannt));
-            return Ende::Erledigt;
+        if (const auto neueste = NeuesteSicherung(Seriennummer(geraet.abbild))) {
+            sicherung = neueste->pfad;
+            lauf.Sage(LadeTextMit(TextSicherung, {sicherung}));
         }
-        sicherung = DieSicherungen()->Alle().front().pfad;
-        lauf.Sage(LadeTextMit(TextSicherung, {sicherung}));
         return Ende::Erledigt;
     }
 

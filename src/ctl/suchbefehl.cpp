@@ -22,8 +22,7 @@ public:
     void Zeige(const Suchstand& stand) override {
         const std::string versuch = std::to_string(stand.nummer) + "/" + std::to_string(stand.anzahl) + " " +
                                     stand.versuch.geraet + " " + stand.versuch.format;
-        if (!lauf.zeile.Hat("quiet"))
-            lauf.konsole.Fortschritt(stand.text.empty() ? versuch : versuch + ": " + stand.text);
+        lauf.ZeigeFortschritt(stand.text.empty() ? versuch : versuch + ": " + stand.text);
         if (stand.ergebnis)
             ergebnisse.push_back(stand);
     }

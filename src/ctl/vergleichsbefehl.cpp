@@ -1,9 +1,9 @@
 // The command that compares two configurations.
 
+#include "ablage.h"
 #include "auftraege.h"
 #include "lauf.h"
 #include "leitungszugang.h"
-#include "quelle.h"
 #include "registerjson.h"
 #include "sicherung.h"
 #include "standardkonfiguration.h"
@@ -14,7 +14,6 @@
 #include "zeichenwandel.h"
 
 #include <array>
-#include <filesystem>
 #include <optional>
 
 namespace varnoth::ctl {
@@ -26,9 +25,8 @@ constexpr std::int16_t TextZweimalDasselbe = 8632;
 using Paar = std::array<Quelle, 2>;
 
 bool SindDasselbe(const std::string& a, const std::string& b) {
-    std::error_code fehler;
-    return a == b || (ArtVon(a) == Quellenart::Datei && ArtVon(b) == Quellenart::Datei &&
-                      std::filesystem::equivalent(a, b, fehler));
+    const bool sindDateien = ArtVon(a) == Quellenart::Datei && ArtVon(b) == Quellenart::Datei;
+    return a == b || (sindDateien && IstDasselbe(a, b));
 }
 
 /// The controller comes first: which backup is meant hangs on who answers, and the other side's beam counts

@@ -1,6 +1,7 @@
 #include "zeichenwandel.h"
 
 #include "utf8.h"
+#include "zeichensatz.h"
 
 #include <algorithm>
 #include <array>
@@ -68,20 +69,20 @@ std::string WortAlsUtf8(std::string_view wort) {
     if (IstUtf8(wort))
         return std::string(wort);
     std::string gewandelt;
-    for (const char byte : wort) {
-        const auto punkt = static_cast<unsigned char>(byte);
-        if (punkt <= LetztesAscii) {
-            gewandelt += byte;
-            continue;
-        }
-        gewandelt += static_cast<char>(0xC0U | (punkt >> 6U));
-        gewandelt += static_cast<char>(0x80U | (punkt & 0x3FU));
-    }
+    for (const char byte : wort)
+        gewandelt += AlsUtf8(static_cast<std::uint8_t>(byte));
     return gewandelt;
 }
 
 int Anzeigebreite(std::string_view text) {
     return static_cast<int>(std::ranges::count_if(text, [](char byte) { return !IstFortsetzung(byte); }));
+}
+
+std::string_view Gekuerzt(std::string_view text, int breite) {
+    std::string_view rest = text;
+    for (int i = 0; i < breite && !rest.empty(); ++i)
+        rest.remove_prefix(ErstesZeichen(rest).size());
+    return text.substr(0, text.size() - rest.size());
 }
 
 std::string Aufgefuellt(std::string_view text, int breite) {

@@ -2,17 +2,6 @@
 
 namespace varnoth {
 
-namespace {
-
-bool IstUeber(std::string_view anforderung, const Registerbezug& gesuchter) {
-    const auto bezug = RegisterbezugVon(anforderung);
-    return bezug && bezug->bereich == gesuchter.bereich &&
-           bezug->adresse < gesuchter.adresse + gesuchter.anzahl &&
-           gesuchter.adresse < bezug->adresse + bezug->anzahl;
-}
-
-} // namespace
-
 Busart ArtVon(const Busaustausch& austausch) {
     switch (austausch.art) {
     case Austauschart::Ungefragt:
@@ -34,7 +23,10 @@ bool Passt(const Busaustausch& austausch, const Busfilter& filter) {
         return false;
     if (filter.art != Busart::Alle && ArtVon(austausch) != filter.art)
         return false;
-    return !filter.bezug || IstUeber(austausch.anforderung, *filter.bezug);
+    if (!filter.bezug)
+        return true;
+    const auto bezug = RegisterbezugVon(austausch.anforderung);
+    return bezug && Beruehren(*bezug, *filter.bezug);
 }
 
 } // namespace varnoth

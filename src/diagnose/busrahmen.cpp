@@ -43,6 +43,11 @@ std::string_view LetztePassende(std::string_view anforderung, std::string_view e
 
 } // namespace
 
+bool Beruehren(const Registerbezug& eines, const Registerbezug& anderes) {
+    return eines.bereich == anderes.bereich && eines.adresse < anderes.adresse + anderes.anzahl &&
+           anderes.adresse < eines.adresse + eines.anzahl;
+}
+
 std::optional<std::uint8_t> Funktionscode(std::string_view rahmen) {
     return rahmen.size() < Adressstelle ? std::nullopt : std::optional(Byte(rahmen, 1));
 }

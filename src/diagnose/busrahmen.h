@@ -10,6 +10,9 @@
 /// What the frames on the line say, byte by byte.
 namespace varnoth {
 
+/// So many registers hold the service password.
+inline constexpr int Passwortregister = 8;
+
 /// Registers that a request is about.
 struct Registerbezug {
     Speicherbereich bereich;
@@ -18,6 +21,9 @@ struct Registerbezug {
 
     bool operator==(const Registerbezug&) const = default;
 };
+
+/// Whether they have a register in common.
+bool Beruehren(const Registerbezug& eines, const Registerbezug& anderes);
 
 /// The function code of a frame; nothing for less than two bytes.
 std::optional<std::uint8_t> Funktionscode(std::string_view rahmen);

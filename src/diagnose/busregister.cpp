@@ -23,7 +23,7 @@ constexpr std::int16_t TextEinesDavon = 8449;
 
 /// Registers that the image does not keep.
 constexpr Registername Uebrige[] = {
-    {Global, global::Passwort, 8, 7512},
+    {Global, global::Passwort, Passwortregister, 7512},
     {Global, global::Kommando, 1, 8440},
     {Global, global::Optikteilauswahl, 1, 8441},
     {Global, global::Kanalauswahl, 1, 8442},
@@ -38,11 +38,6 @@ std::vector<Registername> StelleZusammen() {
     std::ranges::sort(namen, {},
                       [](const Registername& name) { return std::tuple(name.bereich, name.adresse); });
     return namen;
-}
-
-bool Ueberdeckt(const Registername& name, const Registerbezug& bezug) {
-    return name.bereich == bezug.bereich && name.adresse < bezug.adresse + bezug.anzahl &&
-           bezug.adresse < name.adresse + name.anzahl;
 }
 
 std::string Bereichsname(Speicherbereich bereich, int optikteil) {
@@ -81,7 +76,7 @@ std::string NameMitBereich(const Registername& name, int optikteil) {
 std::string Registerworte(const Registerbezug& bezug, int optikteil) {
     std::vector<const Registername*> beruehrte;
     for (const Registername& name : AlleRegisternamen())
-        if (Ueberdeckt(name, bezug))
+        if (Beruehren({name.bereich, name.adresse, name.anzahl}, bezug))
             beruehrte.push_back(&name);
     const std::string bereich = Bereichsname(bezug.bereich, optikteil) + ": ";
     if (beruehrte.empty())

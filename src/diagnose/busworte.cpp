@@ -11,7 +11,6 @@
 #include "textmitwerten.h"
 #include "textschutz.h"
 #include "zahlen.h"
-#include "zeichensatz.h"
 
 #include <algorithm>
 #include <array>
@@ -57,13 +56,6 @@ bool IstVerdeckt(const Busaustausch& austausch) {
            austausch.zeigbar.empfangen < austausch.empfangen.size();
 }
 
-std::string AusWindows1252(std::string_view text) {
-    std::string utf8;
-    for (const char zeichen : text)
-        utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
-    return Einzeilig(utf8);
-}
-
 std::string Identifikationsworte(std::string_view daten) {
     constexpr std::size_t Kennbytes = 2;
     if (daten.size() < Kennbytes)
@@ -73,7 +65,7 @@ std::string Identifikationsworte(std::string_view daten) {
     std::string worte;
     for (const std::string& text : {ident.text1, ident.text2, ident.text3})
         if (!text.empty())
-            worte += (worte.empty() ? "" : ", ") + AusWindows1252(text);
+            worte += (worte.empty() ? "" : ", ") + Einzeilig(IdenttextAlsUtf8(text));
     return worte;
 }
 

@@ -61,6 +61,16 @@ Identifikation Deute(const std::string& antwort) {
     return ident;
 }
 
+/// How the exchange ended, by the measure of all others.
+modMithoeren::Ausgang AusgangVon(const Identprobe& probe) {
+    if (!probe.antwort.empty())
+        return modMithoeren::Ausgang::Gelungen;
+    Identifikation ident;
+    IdentErkenner erkenner(ident);
+    erkenner.Verarbeite(probe.empfangen);
+    return erkenner.Fertig() ? modMithoeren::Ausgang::Pruefsumme : modMithoeren::Ausgang::Ausgeblieben;
+}
+
 void Empfange(Identprobe& probe, Zeit anfang, const Probefristen& fristen,
               const std::function<bool()>& abgebrochen) {
     Zeit ende = anfang + fristen.beginn;
@@ -79,12 +89,10 @@ void Empfange(Identprobe& probe, Zeit anfang, const Probefristen& fristen,
 } // namespace
 
 Probefristen FristenBei(std::string_view format) {
-    constexpr double Sekunde = 1e6;
     constexpr double Pausenzeichen = 4, Lueckenzeichen = 10, Anfrage = 4, LaengsteAntwort = 260;
     constexpr Zeit KuerzestePause = std::chrono::milliseconds(3),
                    KuerzesteLuecke = std::chrono::milliseconds(50);
-    const Porteinstellungen einstellungen = LiesPorteinstellungen(format).value_or(Porteinstellungen{});
-    const double zeichen = Sekunde * Bitzeiten(einstellungen) / einstellungen.baud;
+    const double zeichen = Zeichendauer(LiesPorteinstellungen(format).value_or(Porteinstellungen{}));
     const auto Dauer = [zeichen](double anzahl) { return Zeit{static_cast<Zeit::rep>(zeichen * anzahl)}; };
     return {.pause = std::max(KuerzestePause, Dauer(Pausenzeichen)),
             .beginn = Bedenkzeit + Dauer(Anfrage + 1),
@@ -102,11 +110,12 @@ Identprobe FrageIdentifikation(const Probefristen& fristen, const std::function<
     Empfange(probe, anfang, fristen, abgebrochen);
     if (!probe.antwort.empty())
         probe.ident = Deute(probe.antwort);
-    modMithoeren::Endet(Austauschart::Auftrag, probe.gesendet,
-                        probe.antwort.empty() ? modMithoeren::Ausgang::Ausgeblieben
-                                              : modMithoeren::Ausgang::Gelungen,
-                        GetPortIstOffen() == True);
+    modMithoeren::Endet(Austauschart::Auftrag, probe.gesendet, AusgangVon(probe), GetPortIstOffen() == True);
     return probe;
+}
+
+bool HatEcho(const Identprobe& probe) {
+    return !probe.gesendet.empty() && probe.empfangen.find(probe.gesendet) != std::string::npos;
 }
 
 std::string Daneben(const Identprobe& probe) {

@@ -36,6 +36,9 @@ struct Identprobe {
 /// @param abgebrochen asked whenever something has come; true ends the wait
 Identprobe FrageIdentifikation(const Probefristen& fristen, const std::function<bool()>& abgebrochen);
 
+/// Whether what was sent came back.
+bool HatEcho(const Identprobe& probe);
+
 /// What the bytes besides the reply are: all that was received without the reply itself.
 std::string Daneben(const Identprobe& probe);
 

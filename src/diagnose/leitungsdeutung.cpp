@@ -30,11 +30,10 @@ constexpr Zeit Auffaellig =
 
 /// How long request and reply themselves take on the line.
 Zeit Drahtzeit(const Pruefbefund& befund) {
-    constexpr double Sekunde = 1e6;
     constexpr std::size_t Anfrage = 4;
     const auto einstellungen = LiesPorteinstellungen(befund.format).value_or(Porteinstellungen{});
     const auto zeichen = static_cast<double>(Anfrage + befund.antwortlaenge);
-    return Zeit{static_cast<Zeit::rep>(Sekunde * Bitzeiten(einstellungen) * zeichen / einstellungen.baud)};
+    return Zeit{static_cast<Zeit::rep>(Zeichendauer(einstellungen) * zeichen)};
 }
 
 class Deuter {

@@ -16,7 +16,7 @@ enum class Pruefende {
     Nichts,       ///< no byte came
     FalscheSumme, ///< a whole reply whose checksum is wrong
     Halb,         ///< a reply that ends too early
-    Fremdes,      ///< a bytes that are no reply
+    Fremdes,      ///< bytes that are no reply
     Echo,         ///< what was sent came back
 };
 inline constexpr std::size_t Pruefenden = 6;

@@ -4,6 +4,7 @@
 #include "gestalt.h"
 #include "registeradressen.h"
 #include "servicetext.h"
+#include "textschutz.h"
 #include "zeichensatz.h"
 
 #include <algorithm>
@@ -12,15 +13,13 @@ namespace varnoth {
 
 namespace {
 
-constexpr int Passwortregister = 8;
 constexpr std::size_t KuerzesteSpur = 4; // characters of the password that are no accident
 constexpr std::size_t KopfDesSchreibens = 7;
 
 bool TrifftPasswort(std::string_view anforderung) {
     const auto bezug = RegisterbezugVon(anforderung);
-    return bezug && bezug->bereich == Speicherbereich::GlobaleGeraetedaten &&
-           bezug->adresse < global::Passwort + Passwortregister &&
-           bezug->adresse + bezug->anzahl > global::Passwort;
+    return bezug &&
+           Beruehren(*bezug, {Speicherbereich::GlobaleGeraetedaten, global::Passwort, Passwortregister});
 }
 
 /// Where some characters of the password in a row begin; the end of the bytes where they do not.
@@ -72,10 +71,7 @@ std::string OhnePasswort(std::string text) {
 }
 
 bool IstVertraulich(std::string_view schluessel) {
-    std::string klein(schluessel);
-    std::ranges::transform(klein, klein.begin(), [](char zeichen) {
-        return static_cast<char>(zeichen >= 'A' && zeichen <= 'Z' ? zeichen - 'A' + 'a' : zeichen);
-    });
+    const std::string klein = Gefaltet(schluessel);
     return std::ranges::any_of(
         std::initializer_list<std::string_view>{"passw", "kennw", "pwd", "geheim", "secret", "token"},
         [&](std::string_view wort) { return klein.find(wort) != std::string::npos; });

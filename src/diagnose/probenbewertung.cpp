@@ -68,10 +68,6 @@ bool EnthaeltAntwort(std::string_view bytes, Funktion funktion) {
                                [&](std::string_view antwort) { return IstFunktion(antwort, funktion); });
 }
 
-bool HatEcho(const Identprobe& probe) {
-    return !probe.gesendet.empty() && probe.empfangen.find(probe.gesendet) != std::string::npos;
-}
-
 void ZaehleUebriges(Pruefbefund& befund, const Identprobe& probe, Pruefende ende) {
     const bool spaete = EnthaeltAntwort(probe.davor, Funktion::Identifikation);
     befund.spaete += spaete ? 1 : 0;

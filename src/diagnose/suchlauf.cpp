@@ -100,8 +100,7 @@ private:
     }
 
     Suchergebnis Bewerte(const Suchversuch& versuch, const Identprobe& probe, bool offen) {
-        const bool echo =
-            probe.empfangen.find(probe.gesendet) != std::string::npos && !probe.gesendet.empty();
+        const bool echo = HatEcho(probe);
         if (!probe.antwort.empty()) {
             fund.versuch = versuch;
             fund.ident = probe.ident;

@@ -2,6 +2,7 @@
 
 #include "texte.h"
 #include "textmitwerten.h"
+#include "textschutz.h"
 
 #include <array>
 
@@ -26,10 +27,10 @@ constexpr std::int16_t TextOhneSeriennummer = 8228;
 std::string Gefunden(const Suchfund& fund) {
     const Identifikation& ident = fund.ident;
     const std::string seriennummer =
-        ident.text2.empty() ? LadeText(TextOhneSeriennummer) : IdenttextAlsUtf8(ident.text2);
-    const std::string text =
-        LadeTextMit(TextGefunden, {fund.versuch.geraet, fund.versuch.format, IdenttextAlsUtf8(ident.text1),
-                                   seriennummer, std::to_string(ident.slaveAdresse)});
+        ident.text2.empty() ? LadeText(TextOhneSeriennummer) : Einzeilig(IdenttextAlsUtf8(ident.text2));
+    const std::string text = LadeTextMit(TextGefunden, {fund.versuch.geraet, fund.versuch.format,
+                                                        Einzeilig(IdenttextAlsUtf8(ident.text1)),
+                                                        seriennummer, std::to_string(ident.slaveAdresse)});
     return fund.mitEcho ? text + " " + LadeText(TextEchoAbschalten) : text;
 }
 

@@ -9,7 +9,6 @@
 #include "textmitwerten.h"
 #include "textschutz.h"
 #include "transaktionen.h"
-#include "zeichensatz.h"
 
 #include <iterator>
 #include <sstream>
@@ -34,11 +33,8 @@ std::string Abschnitt(std::int16_t titel, std::string inhalt) {
 std::string Geraet() {
     if (modModbus::GetIdentGueltig() != True)
         return {};
-    std::string name;
-    for (const char zeichen : modModbus::GetIdentText1())
-        name += AlsUtf8(static_cast<std::uint8_t>(zeichen));
-    return Einzeilig(name) + ", " + Einzeilig(GeraeteSeriennummer()) + ", " +
-           std::to_string(modModbus::GetSlaveAdresse());
+    return Einzeilig(IdenttextAlsUtf8(modModbus::GetIdentText1())) + ", " + Einzeilig(GeraeteSeriennummer()) +
+           ", " + std::to_string(modModbus::GetSlaveAdresse());
 }
 
 std::string Zaehlungen() {
@@ -83,7 +79,7 @@ std::string UnbedenklicheEinstellungen(const std::string& ini) {
 }
 
 std::string Supportkopf(const Supportangaben& angaben, std::chrono::system_clock::time_point jetzt) {
-    return OhnePasswort(LadeTextMit(TextTitel, {angaben.programm, Zeitpunkttext(jetzt)}) + "\n" +
+    return OhnePasswort(LadeTextMit(TextTitel, {Zeitpunkttext(jetzt)}) + "\n" +
                         Abschnitt(TextVersionen, Zeilenweise(angaben.umfeld)) +
                         Abschnitt(TextVerbindung, Zeilenweise(angaben.verbindung)) +
                         Abschnitt(TextGeraet, Geraet()) + Abschnitt(TextZaehlungen, Zaehlungen()) +

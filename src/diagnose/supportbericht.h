@@ -7,7 +7,6 @@ namespace varnoth {
 
 /// What the program around it knows for the file that goes to support.
 struct Supportangaben {
-    std::string programm{};      ///< name and version, for the title
     std::string umfeld{};        ///< versions of program, libraries and system, a line each
     std::string verbindung{};    ///< port, device, line format and what stands in its way
     std::string einstellungen{}; ///< the settings file as it is

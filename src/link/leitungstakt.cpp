@@ -9,7 +9,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr double MikrosekundenJeSekunde = 1e6;
 constexpr double Ganggenauigkeit = 0.97; // the other side's clock may run so much faster
 constexpr std::size_t Vorsicht = 2;      // characters before the last one that are waited for awake
 constexpr int Bewaehrung = 20;           // replies after which a line is known to keep its pace
@@ -24,7 +23,7 @@ void Leitungstakt::Stelle(std::string_view porteinstellungen) {
     if (empfangen > 0)
         Bewerte();
     const auto gelesen = LiesPorteinstellungen(porteinstellungen);
-    const double neue = gelesen ? MikrosekundenJeSekunde * Bitzeiten(*gelesen) / gelesen->baud : 0;
+    const double neue = gelesen ? Zeichendauer(*gelesen) : 0;
     Leitungstakt neuer;
     neuer.zeichendauer = neue;
     if (neue == zeichendauer) {

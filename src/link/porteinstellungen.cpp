@@ -92,4 +92,9 @@ double Bitzeiten(const Porteinstellungen& einstellungen) {
     return startbit + einstellungen.datenbits + paritaetsbit + stoppbits;
 }
 
+double Zeichendauer(const Porteinstellungen& einstellungen) {
+    constexpr double MikrosekundenJeSekunde = 1e6;
+    return MikrosekundenJeSekunde * Bitzeiten(einstellungen) / einstellungen.baud;
+}
+
 } // namespace varnoth

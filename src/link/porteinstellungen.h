@@ -25,5 +25,7 @@ std::optional<Porteinstellungen> LiesPorteinstellungen(std::string_view text);
 
 /// Bit times that one character takes on the line, start bit included.
 double Bitzeiten(const Porteinstellungen& einstellungen);
+/// Microseconds that one character takes on the line.
+double Zeichendauer(const Porteinstellungen& einstellungen);
 
 } // namespace varnoth

@@ -118,15 +118,15 @@ bool IniEinstellungen::SchreibText(const std::string& abschnitt, const std::stri
     return grund.empty();
 }
 
-bool IstInstalliert(const QString& ordner) {
-    return QDir(ordner).exists(QStringLiteral("../share/varnoth"));
+QString Programmdaten(const QString& ordner) {
+    return QDir(ordner).filePath(QStringLiteral("../share/varnoth"));
 }
 
 QString Einstellungspfad(const QString& ordner, const QString& name) {
     const QString datei = name + QStringLiteral(".ini");
     const QFileInfo daneben(QDir(ordner), datei);
     const bool beschreibbar = QFileInfo(ordner).isWritable() && (!daneben.exists() || daneben.isWritable());
-    if (beschreibbar && (daneben.exists() || !IstInstalliert(ordner)))
+    if (beschreibbar && (daneben.exists() || !QDir(Programmdaten(ordner)).exists()))
         return daneben.filePath();
     const QDir konfiguration(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
     konfiguration.mkpath(name);

@@ -44,9 +44,9 @@ private:
     std::function<void(const std::string&)> fehlermeldung;
 };
 
-/// Whether the program whose executable lies in this folder is installed: the data folder of an installation
-/// lies beside it.
-bool IstInstalliert(const QString& ordner);
+/// The data folder of an installed program whose executable lies in this one. A program is installed where it
+/// exists.
+QString Programmdaten(const QString& ordner);
 
 /// Where the settings file of a program lies. `<ordner>/<name>.ini` when it is there or the program is not
 /// installed, as long as that place can be written. Otherwise `<name>/<name>.ini` in the user's configuration

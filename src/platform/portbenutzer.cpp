@@ -3,6 +3,9 @@
 #include <QtGlobal>
 
 #ifdef Q_OS_UNIX
+#include "pseudoterminal.h"
+#include "textschutz.h"
+
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
@@ -44,11 +47,6 @@ std::vector<Geraet> LiesGeraete(const std::vector<std::string>& pfade) {
     return geraete;
 }
 
-bool IstPseudoterminal(dev_t geraet) {
-    constexpr unsigned Erstes = 136, Letztes = 143; // major numbers
-    return major(geraet) >= Erstes && major(geraet) <= Letztes;
-}
-
 bool IstZahl(const std::string& text) {
     return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
@@ -56,7 +54,8 @@ bool IstZahl(const std::string& text) {
 std::string Prozessname(const fs::path& prozess) {
     std::string name;
     std::getline(std::ifstream(prozess / "comm"), name);
-    return name + " (" + prozess.filename().string() + ")";
+    // A process may call itself anything; of those of others some systems do not tell the name.
+    return (name.empty() ? "?" : Einzeilig(name)) + " (" + prozess.filename().string() + ")";
 }
 
 bool IstEigener(const std::string& prozess) {

@@ -4,6 +4,7 @@
 #include "natuerlicheordnung.h"
 #include "portbenutzer.h"
 #include "texte.h"
+#include "textschutz.h"
 
 #include <QtGlobal>
 
@@ -15,6 +16,8 @@
 #include <utility>
 
 #ifdef Q_OS_LINUX
+#include "pseudoterminal.h"
+
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #else
@@ -108,9 +111,9 @@ std::string Uart(const fs::path& klasse) {
 Portangabe LiesPort(const fs::path& klasse, const fs::path& geraet) {
     Portangabe port{.geraet = geraet.string()};
     const fs::path usb = UsbGeraet(klasse);
-    port.bezeichnung = usb.empty() ? Uart(klasse) : Zeile(usb / "product");
-    port.hersteller = usb.empty() ? "" : Zeile(usb / "manufacturer");
-    port.seriennummer = usb.empty() ? "" : Zeile(usb / "serial");
+    port.bezeichnung = usb.empty() ? Uart(klasse) : Einzeilig(Zeile(usb / "product"));
+    port.hersteller = usb.empty() ? "" : Einzeilig(Zeile(usb / "manufacturer"));
+    port.seriennummer = usb.empty() ? "" : Einzeilig(Zeile(usb / "serial"));
     const fs::path verzoegerung = klasse / "device" / "latency_timer";
     port.verzoegerungMs = Zahl(Zeile(verzoegerung));
     if (port.verzoegerungMs)
@@ -142,13 +145,11 @@ void LiesStabileNamen(std::vector<Portangabe>& ports, const fs::path& dev) {
 }
 
 bool IstTerminal(const struct stat& da, const fs::path& sys) {
-    constexpr unsigned ErstesPseudoterminal = 136, LetztesPseudoterminal = 143; // major numbers
     if (!S_ISCHR(da.st_mode))
         return false;
-    const unsigned haupt = major(da.st_rdev);
-    const std::string nummer = std::to_string(haupt) + ":" + std::to_string(minor(da.st_rdev));
+    const std::string nummer = std::to_string(major(da.st_rdev)) + ":" + std::to_string(minor(da.st_rdev));
     std::error_code fehler;
-    return (haupt >= ErstesPseudoterminal && haupt <= LetztesPseudoterminal) ||
+    return IstPseudoterminal(da.st_rdev) ||
            fs::read_symlink(sys / "dev" / "char" / nummer / "subsystem", fehler).filename() == "tty";
 }
 

@@ -36,7 +36,6 @@ constexpr std::int16_t TextSchonGestartet = 6001;
 constexpr std::int16_t TextNichtGespeichert = 9263;
 constexpr std::int16_t TextNichtAngenommen = 8812;
 constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
-constexpr const char* Datenordner = "../share/varnoth/"; // of an installed program, from its own folder
 
 std::unique_ptr<SeriellerPort> MachePort(bool simuliert) {
     if (simuliert)
@@ -236,10 +235,9 @@ int Anwendung::Laufe() {
 QString Anwendung::Hilfedatei() const {
     const QString name =
         bedingungen.programmname + QLatin1String(GetSprachoffset() == Englisch ? "E.hlp" : ".hlp");
-    const QDir ordner(bedingungen.programmordner);
-    const QString daneben = ordner.filePath(name);
+    const QString daneben = QDir(bedingungen.programmordner).filePath(name);
     const QString orte[] = {
-        daneben, ordner.filePath(QLatin1String(Datenordner) + name),
+        daneben, QDir(Programmdaten(bedingungen.programmordner)).filePath(name),
         QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("varnoth/") + name)};
     const auto ort = std::ranges::find_if(orte, [](const QString& pfad) { return QFile::exists(pfad); });
     return ort == std::end(orte) ? daneben : QDir::cleanPath(*ort);

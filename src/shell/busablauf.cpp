@@ -7,7 +7,6 @@
 #include "supporttext.h"
 #include "umgebung.h"
 #include "verbindungsauskunft.h"
-#include "versionstext.h"
 
 #include <utility>
 
@@ -64,8 +63,7 @@ bool Busablauf::Schreibe(const std::string& pfad, const std::string& bytes) {
 
 Supportangaben Busablauf::Angaben() {
     const QString datei = einstellungsdatei();
-    return {.programm = Produktzeile().toStdString(),
-            .umfeld = Supporttext(datei).toStdString(),
+    return {.umfeld = Supporttext(datei).toStdString(),
             .verbindung = Verbindung(),
             .einstellungen = LiesDatei(datei.toStdString(), GroessteEinstellungen).bytes};
 }

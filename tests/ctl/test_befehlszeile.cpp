@@ -113,6 +113,8 @@ TEST_F(Befehlszeilen, The_option_for_the_language_comes_before_the_environment) 
     EXPECT_EQ(Sprache({"read", "--lang", "de"}, {{"LANG", "en_US.UTF-8"}}), Deutsch);
     EXPECT_EQ(Sprache({"--lang=en"}, {{"LC_ALL", "de_DE"}}), Englisch);
     EXPECT_EQ(Sprache({"-l", "de"}, {}), Deutsch);
+    EXPECT_EQ(Sprache({"-lde"}, {}), Deutsch);
+    EXPECT_EQ(Sprache({"--", "--lang=de"}, {}), Englisch);
 }
 
 TEST_F(Befehlszeilen, Of_the_environment_the_first_variable_that_is_set_tells_the_language) {

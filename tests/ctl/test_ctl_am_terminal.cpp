@@ -19,17 +19,19 @@ namespace {
 
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 constexpr int Frist = 20000; // milliseconds
 
 /// The program at a terminal of its own.
 class Terminallauf {
 public:
-    Terminallauf(const std::string& programm, const std::vector<std::string>& worte,
-                 const std::string& daten) {
+    Terminallauf(const std::string& programm, const std::vector<std::string>& worte, const std::string& daten,
+                 unsigned short breite) {
         std::vector<std::string> alle = worte;
         alle.insert(alle.begin(), programm);
-        kind = ::forkpty(&ende, nullptr, nullptr, nullptr);
+        const winsize groesse{.ws_row = 24, .ws_col = breite, .ws_xpixel = 0, .ws_ypixel = 0};
+        kind = ::forkpty(&ende, nullptr, nullptr, &groesse);
         if (kind != 0)
             return;
         std::vector<char*> zeiger;
@@ -89,9 +91,10 @@ private:
 
 class AmTerminal : public CtlProgrammTest {
 protected:
-    std::unique_ptr<Terminallauf> Laufe(std::vector<std::string> worte) const {
+    std::unique_ptr<Terminallauf> Laufe(std::vector<std::string> worte, unsigned short breite = 80) const {
         worte.insert(worte.begin(), {"--port", Pfad("line").toStdString()});
-        return std::make_unique<Terminallauf>(programm.toStdString(), worte, Pfad("data").toStdString());
+        return std::make_unique<Terminallauf>(programm.toStdString(), worte, Pfad("data").toStdString(),
+                                              breite);
     }
 };
 
@@ -155,6 +158,13 @@ TEST_F(AmTerminal, Shows_how_far_it_is_without_control_sequences) {
     const auto stilles = Laufe({"read", "-q", "-y", "-o", Pfad("a.con").toStdString()});
     EXPECT_EQ(stilles->Ende(), 0);
     EXPECT_EQ(stilles->Gelesenes(), "");
+}
+
+TEST_F(AmTerminal, Keeps_what_it_shows_of_its_progress_in_one_line) {
+    SchliesseGeraetAn();
+    const auto lauf = Laufe({"find", "--format", "38400,n,8,2"}, 12);
+    EXPECT_EQ(lauf->Ende(), 0);
+    EXPECT_THAT(lauf->Gelesenes(), StartsWith("\r1/1 " + Pfad("line").toStdString().substr(0, 7) + "\r"));
 }
 
 TEST_F(ZehnGeraete, Are_backed_up_compared_and_restored_by_the_script) {

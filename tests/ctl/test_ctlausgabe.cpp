@@ -48,8 +48,9 @@ TEST(Zeichenwandel, Gives_Latin_1_its_umlauts) {
                                                               "e \"5\"");
 }
 
-TEST(Zeichenwandel, Takes_a_word_that_is_no_UTF_8_for_Latin_1) {
+TEST(Zeichenwandel, Takes_a_word_that_is_no_UTF_8_for_Windows_1252) {
     EXPECT_EQ(WortAlsUtf8("Aufl\xF6sung"), "Auflösung");
+    EXPECT_EQ(WortAlsUtf8("5 \x80"), "5 €");
     EXPECT_EQ(WortAlsUtf8("Auflösung"), "Auflösung");
 }
 
@@ -57,6 +58,9 @@ TEST(Zeichenwandel, Counts_characters_for_the_width_of_a_column) {
     EXPECT_EQ(Anzeigebreite("Größe"), 5);
     EXPECT_EQ(Aufgefuellt("Größe", 7), "Größe  ");
     EXPECT_EQ(Aufgefuellt("Größe", 2), "Größe");
+    EXPECT_EQ(Gekuerzt("Größe", 4), "Größ");
+    EXPECT_EQ(Gekuerzt("Größe", 5), "Größe");
+    EXPECT_EQ(Gekuerzt("Größe", 9), "Größe");
 }
 
 TEST(Vorschlaege, Come_nearest_first_and_are_three_at_most) {

@@ -79,6 +79,19 @@ TEST_F(Schreibbefehl, The_backup_comes_before_the_first_write_request) {
     EXPECT_EQ(vorher, 0U);
 }
 
+TEST_F(Schreibbefehl, Names_its_own_backup_where_another_controller_is_backed_up_at_the_same_time) {
+    struct : pruefung::PruefSicherungen {
+        std::string Lege(const Abbild& abbild, const Sicherungsangaben& angaben) override {
+            Sicherungsangaben nachbar = angaben;
+            nachbar.seriennummer = "0815";
+            EXPECT_EQ(PruefSicherungen::Lege(abbild, angaben), "");
+            return PruefSicherungen::Lege(abbild, nachbar);
+        }
+    } zweier;
+    EXPECT_EQ(SchreibeDatei({"--yes"}), Ende::Erledigt);
+    EXPECT_THAT(konsole.meldungen, HasSubstr("Backup: backup 1\n"));
+}
+
 TEST_F(Schreibbefehl, Nothing_is_written_where_the_backup_fails) {
     sicherungen.fehler = "disk full";
     EXPECT_EQ(SchreibeDatei({"--yes"}), Ende::Datei);
@@ -198,6 +211,14 @@ TEST_F(Schreibbefehl, In_JSON_it_tells_changes_counts_and_check) {
           R"("registers": {"all": 191, "written": 191, "uncertain": 0}, "unfinished": [])",
           R"("check": {"registers": 191, "equal": 191, "rows": []}})"})
         EXPECT_THAT(konsole.daten, HasSubstr(feld));
+}
+
+TEST_F(Schreibbefehl, In_JSON_what_is_broken_off_is_neither_complete_nor_stored) {
+    konsole.beiFortschritt = [this] { konsole.unterbrochen = IstBei("Writing"); };
+    EXPECT_EQ(SchreibeDatei({"--yes", "--store", "--json"}), Ende::Unterbrochen);
+    EXPECT_THAT(konsole.daten, HasSubstr(R"("complete": false, "stored": false, "backup": "backup 1")"));
+    EXPECT_THAT(konsole.daten, HasSubstr(R"("state": "written", "value": )"));
+    EXPECT_THAT(konsole.daten, HasSubstr(R"("state": "not written", "value": )"));
 }
 
 TEST_F(Schreibbefehl, In_JSON_what_a_check_finds_is_told_by_row) {

@@ -206,6 +206,16 @@ TEST_F(Varnothctl, A_terminal_without_umlauts_gets_none_and_JSON_keeps_them) {
     EXPECT_EQ(Fuehre({"get", "1/Aufloesung"}).daten, "Optikteil 1 / Auflösung: 5mm\n");
 }
 
+TEST_F(Varnothctl, What_a_name_holds_has_no_effect_on_a_terminal) {
+    SchliesseGeraetAn();
+    const auto ergebnis = Fuehre({"read", "-o", "a\x1b[2J.con"});
+    EXPECT_EQ(ergebnis.meldungen, "Saved: a\xEF\xBF\xBD[2J.con\n");
+    EXPECT_THAT(Fuehre({"compare", "default", "a\x1b[2J.con"}).daten,
+                HasSubstr("\nB: a\xEF\xBF\xBD[2J.con\n"));
+    umwelt.insert("LANG", "C");
+    EXPECT_EQ(Fuehre({"read", "-o", "b\x1b[2J.con"}).meldungen, "Saved: b?[2J.con\n");
+}
+
 TEST_F(Varnothctl, Nothing_but_messages_goes_to_standard_error_and_nothing_of_Qt) {
     SchliesseGeraetAn();
     umwelt.insert("LANG", "C");

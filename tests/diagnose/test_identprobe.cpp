@@ -76,9 +76,17 @@ TEST_F(IdentprobeTest, Who_listens_at_the_line_hears_each_of_them_with_how_it_en
     Frage();
     Antworte(Nach(5, Identanfrage));
     Frage();
-    const decltype(ohr.gehoertes) erwartetes{{Austauschergebnis::Beantwortet, Identantwort(17)},
-                                             {Austauschergebnis::Zeitueberschreitung, ""},
-                                             {Austauschergebnis::Echo, Identanfrage}};
+    const std::string gebrochene = Identantwort(17).replace(6, 1, "x");
+    Antworte(Nach(5, gebrochene));
+    Frage();
+    Antworte(Nach(5, Identantwort(17).substr(0, 9)));
+    Frage();
+    const decltype(ohr.gehoertes) erwartetes{
+        {Austauschergebnis::Beantwortet, Identantwort(17)},
+        {Austauschergebnis::Zeitueberschreitung, ""},
+        {Austauschergebnis::Echo, Identanfrage},
+        {Austauschergebnis::Pruefsumme, gebrochene},
+        {Austauschergebnis::Zeitueberschreitung, Identantwort(17).substr(0, 9)}};
     EXPECT_EQ(ohr.gehoertes, erwartetes);
 }
 
@@ -146,6 +154,14 @@ TEST_F(IdentprobeTest, A_busy_line_is_asked_in_a_pause) {
     const Identprobe probe = Frage();
     EXPECT_EQ(probe.davor, "autosendmore");
     EXPECT_GE(port.sendezeiten.back() - beginn, 5 * Millisekunde);
+}
+
+TEST_F(IdentprobeTest, What_comes_in_the_pause_before_the_request_is_kept_apart_too) {
+    umgebung.Plane(umgebung.uhr + Millisekunde, [this] { port.eingang = "x"; });
+    Antworte(Nach(5, Identantwort()));
+    const Identprobe probe = Frage();
+    EXPECT_EQ(probe.davor, "x");
+    EXPECT_EQ(probe.empfangen, Identantwort());
 }
 
 TEST_F(IdentprobeTest, A_line_that_disappears_is_known_to_be_closed) {

@@ -137,6 +137,21 @@ TEST_F(Leitungspruefung, A_silent_line_is_not_listened_to_for_a_second_each_time
     EXPECT_LT(umgebung.uhr, std::chrono::milliseconds(100 * 240 + 4 * 770));
 }
 
+TEST_F(Leitungspruefung, A_line_that_says_something_is_not_listened_to_any_longer) {
+    EXPECT_EQ(Enden([] { return Nach(1, "\x81\x92\xA3"); }, 20)[4], 20);
+    EXPECT_LT(umgebung.uhr, std::chrono::milliseconds(20 * 240 + 770));
+}
+
+TEST_F(Leitungspruefung, The_port_is_closed_once_the_line_is_quiet) {
+    port.antworte = [](const std::string&) {
+        return std::vector<Stueck>{{std::chrono::milliseconds(1), Identantwort()},
+                                   {std::chrono::milliseconds(3), "x"}};
+    };
+    Pruefe(1);
+    EXPECT_GT(port.geschlossenUm - port.sendezeiten.back(), std::chrono::milliseconds(3));
+    EXPECT_EQ(port.eingang, "");
+}
+
 TEST_F(Leitungspruefung, Bytes_that_come_unasked_are_counted) {
     beobachter.abbruch = [&] {
         port.eingang = "xyz";

@@ -178,6 +178,26 @@ TEST_F(Suchlauf, A_device_that_sends_back_what_is_sent_is_no_controller) {
     EXPECT_THAT(fund.text, HasSubstr("At /dev/a what is sent comes back (echo), and nothing else."));
 }
 
+TEST_F(Suchlauf, Of_several_devices_with_an_echo_the_first_is_named) {
+    port.antworte = [](const std::string& anfrage) { return Nach(1, anfrage); };
+    EXPECT_THAT(Suche({"/dev/a", "/dev/b"}).text, HasSubstr("At /dev/a what is sent comes back"));
+}
+
+TEST_F(Suchlauf, An_echo_with_other_bytes_beside_it_is_something_that_is_not_understood) {
+    port.antworte = [](const std::string& anfrage) { return Nach(1, anfrage + "xyz"); };
+    EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("Something talks at /dev/a"));
+    EXPECT_THAT(schreiber.Ergebnisse(), testing::Each(Suchergebnis::Unverstanden));
+}
+
+TEST_F(Suchlauf, A_line_on_which_something_was_said_before_the_request_alone_is_not_called_silent) {
+    schreiber.abbruch = [&] {
+        umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(1), [this] { port.eingang = "block"; });
+        return false;
+    };
+    SucheSteuergeraet(std::vector<Suchversuch>{{"/dev/a", "38400,n,8,2"}}, schreiber);
+    EXPECT_EQ(schreiber.Ergebnisse().front(), Suchergebnis::Unverstanden);
+}
+
 TEST_F(Suchlauf, A_controller_behind_an_echoing_adapter_is_found_with_a_warning) {
     port.antworte = [](const std::string& anfrage) { return Nach(1, anfrage + Identantwort()); };
     const Suchfund fund = Suche({"/dev/a"});
@@ -232,6 +252,9 @@ TEST_F(Suchlauf, Where_no_port_could_be_opened_the_cause_is_all_that_is_said) {
     EXPECT_EQ(Suche({"/dev/a"}).text,
               "No controller found (1 try). There is no device /dev/a. Is the adapter "
               "plugged in, and is the right port chosen?");
+    EXPECT_EQ(Suche({"/dev/a", "/dev/b"}).text,
+              "No controller found (2 tries). There is no device /dev/a. Is the adapter "
+              "plugged in, and is the right port chosen?");
 }
 
 TEST_F(Suchlauf, An_adapter_that_vanishes_is_not_asked_again_and_the_search_goes_on) {
@@ -270,6 +293,11 @@ TEST_F(Suchlauf, What_the_controller_says_is_told_in_the_characters_of_the_machi
                                        "1"));
     };
     EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("Meßgerät, serial number ü1,"));
+}
+
+TEST_F(Suchlauf, Nothing_that_the_controller_says_takes_effect_where_it_is_shown) {
+    port.antworte = [](const std::string&) { return Nach(1, Identantwort(1, "a\x1B[2J\nb;4711\x07")); };
+    EXPECT_THAT(Suche({"/dev/a"}).text, HasSubstr("a�[2J�b, serial number 4711�,"));
 }
 
 TEST_F(Suchlauf, Sixty_four_ports_are_searched_in_their_order) {

@@ -36,8 +36,7 @@ TEST(Ereignisse, Are_one_line_each) {
 
 TEST(Supportbericht, Holds_versions_connection_settings_and_events) {
     modEreignisse::Merke("Verbinden");
-    const std::string kopf = Kopf({.programm = "Varnoth Monitor 1.0.0",
-                                   .umfeld = "Monitor 1.0.0\nQt 6.4",
+    const std::string kopf = Kopf({.umfeld = "Monitor 1.0.0\nQt 6.4",
                                    .verbindung = "COM1, /dev/ttyUSB0",
                                    .einstellungen = "[Settings]\nComPort=1\n"});
     EXPECT_THAT(kopf, HasSubstr("== Versionen ==\nMonitor 1.0.0\nQt 6.4\n"));
@@ -63,7 +62,7 @@ TEST(Supportbericht, Tells_the_controller_and_how_the_exchanges_ended) {
 TEST(Supportbericht, Has_no_password_wherever_it_may_stand) {
     modService::SetzeServiceText("Varnoth-Service1");
     modEreignisse::Merke("Varnoth-Service1");
-    const std::string kopf = Kopf({.programm = "x Varnoth-Service1",
+    const std::string kopf = Kopf({.umfeld = "x Varnoth-Service1",
                                    .verbindung = "/dev/Varnoth-Service1",
                                    .einstellungen = "Passwort=geheim\nName=Varnoth-Service1\n"});
     EXPECT_THAT(kopf, Not(HasSubstr("Varnoth-Service1")));

@@ -28,12 +28,15 @@ QString LegeProgrammAn(const QString& ordner) {
 
 } // namespace
 
-Programmprozess::Programmprozess(const QString& ordner, const QStringList& schalter) {
+Programmprozess::Programmprozess(const QString& ordner, const QStringList& schalter,
+                                 const std::map<QString, QString>& variablen) {
     auto umwelt = QProcessEnvironment::systemEnvironment();
     umwelt.insert("QT_QPA_PLATFORM", "offscreen");
     umwelt.insert("TMPDIR", ordner);
     umwelt.insert("XDG_DATA_HOME", QDir(ordner).filePath("daten"));
     umwelt.remove("XDG_RUNTIME_DIR");
+    for (const auto& [name, wert] : variablen)
+        umwelt.insert(name, wert);
     prozess.setProcessEnvironment(umwelt);
     prozess.setWorkingDirectory(ordner);
     prozess.start(LegeProgrammAn(ordner), schalter);

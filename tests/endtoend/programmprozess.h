@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <string>
 
 namespace varnoth::pruefung {
@@ -12,8 +13,9 @@ namespace varnoth::pruefung {
 /// instance lie too. It ends with this object.
 class Programmprozess {
 public:
-    /// Starts it with its switches.
-    Programmprozess(const QString& ordner, const QStringList& schalter);
+    /// Starts it with its switches, and with variables of its environment that differ from those here.
+    Programmprozess(const QString& ordner, const QStringList& schalter,
+                    const std::map<QString, QString>& variablen = {});
     ~Programmprozess();
     Programmprozess(const Programmprozess&) = delete;
     Programmprozess& operator=(const Programmprozess&) = delete;

@@ -84,6 +84,14 @@ TEST_F(Programmlauf, Version_and_switches_are_told_without_a_window) {
     EXPECT_FALSE(QFile::exists(Pfad("varnoth.ini")));
 }
 
+TEST_F(Programmlauf, The_terminal_is_answered_in_the_language_of_the_account) {
+    for (const auto& [sprache, beginn] : {std::pair("de_DE.UTF-8", "Aufruf: "), {"C.UTF-8", "Usage: "}}) {
+        Programmprozess programm(ordner.path(), {"--help"}, {{"LC_ALL", sprache}, {"LANGUAGE", ""}});
+        EXPECT_EQ(programm.WarteAufEnde(), 0);
+        EXPECT_TRUE(programm.Ausgabe().starts_with(beginn)) << sprache;
+    }
+}
+
 TEST_F(Programmlauf, A_file_named_at_the_start_and_that_of_a_second_start_are_opened_in_the_one_program) {
     const std::string erste = LegeKonfiguration("erste.con");
     const std::string zweite = LegeKonfiguration("zweite ü.con");

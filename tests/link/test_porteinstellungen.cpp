@@ -38,6 +38,7 @@ TEST(Porteinstellungen, A_character_takes_its_start_data_parity_and_stop_bits) {
     EXPECT_EQ(Bitzeiten({38400, Paritaet::Gerade, 8, Stoppbits::Eins}), 11);
     EXPECT_EQ(Bitzeiten({38400, Paritaet::Keine, 8, Stoppbits::Eins}), 10);
     EXPECT_EQ(Bitzeiten({38400, Paritaet::Keine, 5, Stoppbits::Eineinhalb}), 7.5);
+    EXPECT_DOUBLE_EQ(Zeichendauer({1000, Paritaet::Keine, 8, Stoppbits::Zwei}), 11'000);
 }
 
 } // namespace varnoth

@@ -70,12 +70,12 @@ private:
 
 class Dateiuebergabe : public testing::Test {
 protected:
-    void Hoere() {
+    void Hoere(Zeit laengsterSatz = Kurz) {
         annahme.reset();
         annahme = std::make_unique<Dateiannahme>(
             ort, Dateiannahme::Ziel{.bereit = [this] { return bereit; },
                                     .oeffne = [this](const std::string& pfad) { pfade.push_back(pfad); },
-                                    .laengsterSatz = Kurz});
+                                    .laengsterSatz = laengsterSatz});
     }
     /// What a second start hears, while events run in this one.
     bool Uebergib(const std::string& pfad) {
@@ -94,6 +94,13 @@ protected:
         }
         EXPECT_EQ(ergebnis, -1);
         EXPECT_EQ(errno, EAGAIN);
+    }
+    /// Leaves what a program that died leaves.
+    void Hinterlasse() const {
+        const auto adresse = Rufadresse(ort);
+        ASSERT_TRUE(adresse);
+        const Deskriptor tote = NeueRufleitung();
+        ASSERT_EQ(::bind(tote.Nummer(), AlsAdresse(*adresse), sizeof *adresse), 0);
     }
     mode_t Rechte() const {
         struct stat stand {};
@@ -155,6 +162,15 @@ TEST_F(Dateiuebergabe, A_program_that_is_just_starting_is_waited_for) {
     EXPECT_TRUE(antwort.get());
 }
 
+TEST_F(Dateiuebergabe, A_program_that_starts_where_one_died_is_waited_for) {
+    Hinterlasse();
+    auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, "/a.con"); });
+    EXPECT_EQ(antwort.wait_for(Kurz), std::future_status::timeout);
+    Hoere();
+    EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }));
+    EXPECT_TRUE(antwort.get());
+}
+
 TEST_F(Dateiuebergabe, What_is_no_path_is_refused) {
     using namespace std::string_literals;
     const std::string gruss(Rufgruss);
@@ -200,13 +216,18 @@ TEST_F(Dateiuebergabe, Callers_at_the_same_time_are_all_served) {
     EXPECT_THAT(pfade, ElementsAre("/zwei.con", "/eins.con"));
 }
 
+TEST_F(Dateiuebergabe, Of_callers_who_say_nothing_only_a_few_are_heard_at_a_time) {
+    Hoere(std::chrono::hours(1));
+    std::vector<std::unique_ptr<Anrufer>> stumme;
+    for (int i = 0; i < 8; ++i)
+        stumme.push_back(std::make_unique<Anrufer>(ort));
+    EXPECT_EQ(Anrufer(ort).Antwort(), "");
+    stumme.pop_back();
+    EXPECT_TRUE(WarteBis([&] { return Uebergib("/a.con"); }));
+}
+
 TEST_F(Dateiuebergabe, What_a_program_that_died_has_left_is_replaced) {
-    const auto adresse = Rufadresse(ort);
-    ASSERT_TRUE(adresse);
-    {
-        const Deskriptor tote = NeueRufleitung();
-        ASSERT_EQ(::bind(tote.Nummer(), AlsAdresse(*adresse), sizeof *adresse), 0);
-    }
+    Hinterlasse();
     Hoere();
     EXPECT_TRUE(Uebergib("/a.con"));
 }
@@ -269,6 +290,35 @@ TEST_F(Dateiuebergabe, Another_user_who_gets_at_the_socket_is_turned_away) {
     EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }));
     EXPECT_EQ(antwort.get(), "hung up");
     EXPECT_THAT(pfade, IsEmpty());
+}
+
+TEST_F(Dateiuebergabe, A_path_is_not_told_to_another_user_who_listens_there) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root may become another user";
+    const auto adresse = Rufadresse(ort);
+    ASSERT_TRUE(adresse);
+    const auto rechte = [&](mode_t welche) {
+        return chmod(QFile::encodeName(ordner.path()).constData(), welche) == 0;
+    };
+    ASSERT_TRUE(rechte(0777));
+    auto gehoert = std::async(std::launch::async, [&] {
+        return AlsNutzer([&] {
+            const Deskriptor tuer = NeueRufleitung();
+            ::bind(tuer.Nummer(), AlsAdresse(*adresse), sizeof *adresse);
+            ::listen(tuer.Nummer(), 1);
+            pollfd eines{tuer.Nummer(), POLLIN, 0};
+            ::poll(&eines, 1, 5000);
+            const Deskriptor leitung(::accept(tuer.Nummer(), nullptr, nullptr));
+            char puffer[64];
+            const ssize_t stueck = ::read(leitung.Nummer(), puffer, sizeof puffer);
+            return std::string(puffer, static_cast<std::size_t>(std::max<ssize_t>(stueck, 0)));
+        });
+    });
+    ASSERT_TRUE(WarteBis([&] { return Rechte() != 0; }));
+    ASSERT_TRUE(rechte(0700));
+    EXPECT_FALSE(UebergibDatei(ort, "/a.con"));
+    EXPECT_EQ(gehoert.get(), "");
+    EXPECT_TRUE(QFile::remove(ort));
 }
 
 } // namespace varnoth

@@ -139,4 +139,17 @@ TEST_F(InstanzsperreTest, A_folder_of_another_user_is_not_used) {
     EXPECT_EQ(AlsNutzer([&] { return std::string(GehoertNurMir(fremd) ? "mine" : "not mine"); }), "not mine");
 }
 
+TEST_F(InstanzsperreTest, Files_are_taken_beside_the_lock_and_nowhere_when_there_is_no_folder_for_it) {
+    const Instanzsperre sperre(Name, ordner.path());
+    EXPECT_EQ(QFileInfo(sperre.Briefkasten()).path(), ordner.path());
+    EXPECT_TRUE(sperre.Briefkasten().endsWith(QStringLiteral(".socket")));
+    const Umgebungsvariable sitzung("XDG_RUNTIME_DIR", Lege("session", 0755));
+    const Umgebungsvariable temporaer("TMPDIR", ordner.path());
+    const Umgebungsvariable cache("XDG_CACHE_HOME", ordner.path());
+    Lege(("varnoth-" + std::to_string(geteuid())).c_str(), 0755);
+    Instanzsperre ohneOrdner(Name);
+    EXPECT_EQ(ohneOrdner.Briefkasten(), QString());
+    EXPECT_TRUE(ohneOrdner.Belege());
+}
+
 } // namespace varnoth

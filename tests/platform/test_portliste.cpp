@@ -77,6 +77,16 @@ TEST_F(Portliste, Tells_of_a_usb_adapter_what_its_maker_says) {
     EXPECT_EQ(port.befund.hindernis, Hindernis::Keines);
 }
 
+TEST_F(Portliste, What_a_device_or_a_process_calls_itself_takes_no_effect_where_it_is_shown) {
+    maschine.SteckeUsb("ttyUSB0", "A\x1B[2J");
+    maschine.LegeProzessAn("77", "x\x1B[1m", maschine.terminal);
+    maschine.LegeProzessAn("78", "", maschine.terminal);
+    auto ports = Lies();
+    EXPECT_EQ(ports.front().seriennummer, "A�[2J");
+    ErgaenzeProzesse(ports, maschine.Wurzeln());
+    EXPECT_THAT(ports.front().befund.prozesse, testing::UnorderedElementsAre("x�[1m (77)", "? (78)"));
+}
+
 TEST_F(Portliste, An_adapter_without_a_timer_has_none) {
     maschine.SteckeUsb("ttyACM0", "X");
     EXPECT_FALSE(Lies().front().verzoegerungMs.has_value());
@@ -91,6 +101,17 @@ TEST_F(Portliste, Leaves_out_what_has_no_hardware_behind_it) {
     fs::remove(maschine.Dev() / "ttyS2");
     EXPECT_THAT(Namen(Lies()), ElementsAre("ttyS0"));
     EXPECT_EQ(Lies().front().bezeichnung, "UART 16550A");
+}
+
+TEST_F(Portliste, Leaves_out_a_name_of_a_port_behind_which_there_is_no_device) {
+    for (const char* name : {"ttyS0", "ttyS1", "ttyS2"}) {
+        maschine.SteckeUart(name, 4);
+        fs::remove(maschine.Dev() / name);
+    }
+    maschine.Schreibe(maschine.Dev() / "ttyS0", "");
+    fs::create_directory(maschine.Dev() / "ttyS1");
+    ASSERT_EQ(mkfifo(maschine.Geraet("ttyS2").c_str(), 0600), 0);
+    EXPECT_THAT(Lies(), IsEmpty());
 }
 
 TEST_F(Portliste, A_port_whose_kind_cannot_be_read_is_listed_all_the_same) {
@@ -136,10 +157,11 @@ TEST_F(Portliste, The_environment_names_the_further_folder) {
 TEST_F(Portliste, A_name_can_be_that_of_a_port_unless_it_leads_to_something_else) {
     maschine.LegeVirtuellesAn("ttyTest");
     maschine.Schreibe(maschine.Dev() / "file", "");
+    ASSERT_EQ(mkfifo(maschine.Geraet("pipe").c_str(), 0600), 0);
     EXPECT_TRUE(KannPortSein(maschine.Geraet("ttyTest"), maschine.Wurzeln()));
     EXPECT_TRUE(KannPortSein(maschine.Geraet("nothing"), maschine.Wurzeln())) << "it may be plugged in yet";
-    for (const std::string& anderes :
-         {maschine.Geraet("file"), maschine.Dev().string(), std::string("/dev/null")})
+    for (const std::string& anderes : {maschine.Geraet("file"), maschine.Geraet("pipe"),
+                                       maschine.Dev().string(), std::string("/dev/null")})
         EXPECT_FALSE(KannPortSein(anderes, maschine.Wurzeln())) << anderes;
     fs::create_directories(maschine.Sys() / "dev/char/1:3");
     fs::create_symlink("../../../class/tty", maschine.Sys() / "dev/char/1:3/subsystem");

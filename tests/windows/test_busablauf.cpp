@@ -6,6 +6,7 @@
 #include "mithoeren.h"
 #include "pruefport.h"
 #include "rahmen.h"
+#include "versionstext.h"
 
 #include <QApplication>
 #include <QFile>
@@ -100,6 +101,9 @@ TEST_F(BusablaufTest, A_full_disk_leaves_no_half_file_and_is_told) {
 TEST_F(BusablaufTest, The_file_for_support_holds_versions_port_and_settings) {
     ASSERT_TRUE(Druecke(Support));
     const std::string datei = Geschriebenes();
+    const std::string programm = Produktzeile().toStdString();
+    EXPECT_NE(datei.find(programm), std::string::npos);
+    EXPECT_EQ(datei.find(programm), datei.rfind(programm)) << "told once";
     EXPECT_THAT(datei, HasSubstr("Qt " + std::string(qVersion())));
     EXPECT_THAT(datei, HasSubstr("/dev/pruefung"));
     EXPECT_THAT(datei, HasSubstr("[Settings]\nComPort=3\n"));

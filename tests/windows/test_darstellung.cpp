@@ -158,4 +158,10 @@ TEST(Darstellung, Dark_and_high_contrast_are_dark) {
     EXPECT_TRUE(IstDunkel(*PaletteFuer(Erscheinung::HoherKontrast)));
 }
 
+TEST(Erscheinung, The_lines_of_tables_are_seen_on_their_ground) {
+    for (const QPalette& palette : Paletten())
+        EXPECT_GE(Kontrast(palette.color(QPalette::Mid), palette.color(QPalette::Base)), 2.5)
+            << palette.color(QPalette::Base).name().toStdString();
+}
+
 } // namespace varnoth

@@ -45,7 +45,7 @@ struct PruefAnbieter : Protokollanbieter {
         return gelingt;
     }
     Supportangaben Angaben() override {
-        return {.programm = "Varnoth Monitor 1.0.0", .einstellungen = "[Settings]\nPasswort=geheim\n"};
+        return {.umfeld = "Varnoth Monitor 1.0.0", .einstellungen = "[Settings]\nPasswort=geheim\n"};
     }
 
     std::optional<std::string> pfad = "/tmp/bus.txt";
@@ -385,7 +385,8 @@ TEST_F(frmBusprotokollTest, What_goes_to_support_is_said_before_it_is_saved) {
     EXPECT_THAT(umgebung.meldungen[0].details, HasSubstr("  Verbinden\n"));
     ASSERT_EQ(anbieter.geschrieben.size(), 1U);
     const std::string& datei = anbieter.geschrieben[0].second;
-    EXPECT_THAT(datei, StartsWith("Angaben für den Support, Varnoth Monitor 1.0.0, "));
+    EXPECT_THAT(datei, StartsWith("Angaben für den Support, "));
+    EXPECT_THAT(datei, HasSubstr("== Versionen ==\nVarnoth Monitor 1.0.0\n"));
     EXPECT_THAT(datei, HasSubstr("Passwort=••\n"));
     EXPECT_THAT(datei, HasSubstr("== Busprotokoll ==\n"));
     EXPECT_THAT(datei, HasSubstr("Global: PNP-Ausgang")) << "all of the log, whatever is shown";

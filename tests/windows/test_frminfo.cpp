@@ -1,5 +1,6 @@
 #include "frmInfo.h"
 
+#include "dateisicherungen.h"
 #include "programmversion.h"
 #include "servicetext.h"
 #include "supporttext.h"
@@ -9,6 +10,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -55,6 +57,7 @@ TEST_F(FrmInfo, The_text_for_support_names_versions_system_screen_language_and_p
              {std::string(Programmversion()), std::string(qVersion()), std::string(__VERSION__),
               QSysInfo::kernelVersion().toStdString(), QSysInfo::prettyProductName().toStdString(),
               std::string("offscreen, 800 x 800 (1)"), std::string("/place/varnoth.ini"),
+              UeblicherDatenordner().toStdString(), QLocale::system().name().toStdString(),
               std::string(sprache == Deutsch ? "Sprache: Deutsch" : "Language: English")})
             EXPECT_THAT(text, HasSubstr(teil));
         EXPECT_EQ(std::ranges::count(text, '\n'), 8);
