@@ -3,6 +3,7 @@
 #include "porteinstellungen.h"
 #include "texte.h"
 #include "verbindungsauskunft.h"
+#include "wortlaut.h"
 
 #include <algorithm>
 
@@ -18,14 +19,6 @@ constexpr std::size_t LaengsterName = 255;
 bool IstSteuerzeichen(char zeichen) {
     const auto byte = static_cast<unsigned char>(zeichen);
     return byte < ' ' || byte == 0x7F;
-}
-
-std::string OhneBlanksAussen(const std::string& text) {
-    constexpr const char* Blanks = " \t";
-    const auto anfang = text.find_first_not_of(Blanks);
-    if (anfang == std::string::npos)
-        return {};
-    return text.substr(anfang, text.find_last_not_of(Blanks) - anfang + 1);
 }
 
 } // namespace
@@ -50,8 +43,8 @@ bool IstGueltig(const Anschlusswahl& wahl) {
 
 Anschlusswahl OhneBlanks(Anschlusswahl wahl) {
     for (std::string& geraet : wahl.geraete)
-        geraet = OhneBlanksAussen(geraet);
-    wahl.format = OhneBlanksAussen(wahl.format);
+        geraet = std::string(OhneRand(geraet));
+    wahl.format = std::string(OhneRand(wahl.format));
     return wahl;
 }
 

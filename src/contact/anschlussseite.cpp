@@ -37,10 +37,6 @@ QString Q(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-std::string Comname(int com) {
-    return "COM" + std::to_string(com);
-}
-
 QStringList Qliste(const std::vector<std::string>& texte) {
     QStringList liste;
     for (const std::string& text : texte)
@@ -57,9 +53,11 @@ void Biete(QComboBox& box, const QStringList& namen) {
         return;
     const QSignalBlocker stumm(box);
     const QString text = box.currentText();
+    const int stelle = box.lineEdit()->cursorPosition();
     box.clear();
     box.addItems(namen);
     box.setEditText(text);
+    box.lineEdit()->setCursorPosition(stelle);
 }
 
 /// A text that is there already keeps the cursor where it is.
@@ -205,7 +203,6 @@ void Anschlussseite::Bearbeitet() {
     ZeigeEingabe();
 }
 
-/// What the entries mean, and what can be done with them.
 void Anschlussseite::ZeigeEingabe() {
     const Anschlusswahl eingabe = OhneBlanks(Eingabe());
     for (int com = 1; com <= AnzahlCom; ++com)

@@ -33,6 +33,8 @@ public:
     void SetzeAnbieter(Verbindungsanbieter& neuer);
     /// Shows the ports and what is in force; what a person has entered and not put in force yet stays.
     void Zeige(const std::vector<Portangabe>& neuePorts, const Anschlussstand& neuerStand);
+    /// Says what the entries mean now, and offers what can be done with them.
+    void ZeigeEingabe();
     /// Says that what was chosen is in force.
     void MeldeUebernommen();
     /// Fills what the form's texts do not cover in the current language again.
@@ -52,7 +54,6 @@ private:
     void FuelleNamen();
     void SetzeEingabe(const Anschlusswahl& eingabe);
     void Bearbeitet();
-    void ZeigeEingabe();
     void ZeigeComzeile(int com, const std::string& name);
     void ZeigeAuswahl();
     void ZeigeHinweis();

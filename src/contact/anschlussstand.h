@@ -11,6 +11,11 @@ namespace varnoth {
 /// How many COM numbers the program knows.
 inline constexpr int AnzahlCom = 4;
 
+/// The name of a COM number.
+inline std::string Comname(int com) {
+    return "COM" + std::to_string(com);
+}
+
 /// What a person chooses about the connection.
 struct Anschlusswahl {
     std::array<std::string, AnzahlCom> geraete; ///< what COM1 to COM4 mean

@@ -2,6 +2,7 @@
 
 #include "busregisterliste.h"
 #include "busworte.h"
+#include "buszeilenbild.h"
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "passwortschutz.h"
@@ -86,6 +87,7 @@ void frmBusprotokoll::RichteTabelleEin() {
     constexpr int Einzelheitenzeilen = 11;
     constexpr int Bezugsaufloesung = 96;
     ui->tblProtokoll->setModel(modell);
+    MaleSchnell(*ui->tblProtokoll);
     ui->tblProtokoll->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ui->tblProtokoll->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Luft);
     QHeaderView& kopf = *ui->tblProtokoll->horizontalHeader();
@@ -110,6 +112,8 @@ void frmBusprotokoll::VerbindeAnzeige() {
     connect(ui->chkFolgen, &QCheckBox::toggled, this, &frmBusprotokoll::Plane);
     connect(ui->tblProtokoll->verticalScrollBar(), &QScrollBar::valueChanged, this, &frmBusprotokoll::Rolle);
     connect(ui->tblProtokoll->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &frmBusprotokoll::ZeigeEinzelheiten);
+    connect(ui->tblProtokoll->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmBusprotokoll::ZeigeEinzelheiten);
     connect(ui->tblProtokoll, &QWidget::customContextMenuRequested, this, &frmBusprotokoll::BieteMenue);
 }
@@ -203,13 +207,12 @@ void frmBusprotokoll::Plane() {
 
 void frmBusprotokoll::Arbeite() {
     geplant = false;
-    if (!ui->chkAnhalten->isChecked())
+    if (!ui->chkAnhalten->isChecked() || nachzuholen > 0)
         Folge();
     SucheWeiter();
     SchreibeWeiter();
     ZeigeStand();
-    const bool holtAuf = !ui->chkAnhalten->isChecked() && modell->Ausstehend() > 0;
-    if (holtAuf || suche.Sucht() || auftrag)
+    if (Rueckstand() > 0 || suche.Sucht() || auftrag)
         Plane();
 }
 
@@ -221,7 +224,9 @@ void frmBusprotokoll::Folge() {
     rolltSelbst = true;
     const int vergessene = modell->Vergiss();
     suche.Verschiebe(static_cast<std::size_t>(vergessene));
-    modell->Hole(BetrachteteJeSchritt);
+    const std::size_t betrachtete = std::min(Rueckstand(), BetrachteteJeSchritt);
+    modell->Hole(betrachtete);
+    nachzuholen -= std::min(nachzuholen, betrachtete);
     if (ui->chkFolgen->isChecked())
         ui->tblProtokoll->scrollToBottom();
     else if (vergessene > 0)
@@ -237,20 +242,33 @@ void frmBusprotokoll::Rolle(int wert) {
 
 void frmBusprotokoll::Filtere() {
     suche.Ende();
-    rolltSelbst = true;
-    modell->Setze({.art = AlleBusarten[std::max(ui->cboArt->currentIndex(), 0)],
-                   .bezug = GewaehlterBezug(*ui->cboRegister),
-                   .nurFehler = ui->chkNurFehler->isChecked()});
-    rolltSelbst = false;
-    ZeigeEinzelheiten();
+    BeginneNeu({.art = AlleBusarten[std::max(ui->cboArt->currentIndex(), 0)],
+                .bezug = GewaehlterBezug(*ui->cboRegister),
+                .nurFehler = ui->chkNurFehler->isChecked()});
     Folge();
     ZeigeStand();
     Plane();
 }
 
+void frmBusprotokoll::BeginneNeu(const Busfilter& filter) {
+    rolltSelbst = true;
+    modell->Setze(filter);
+    rolltSelbst = false;
+    nachzuholen = modell->Ausstehend();
+    ZeigeEinzelheiten();
+}
+
+/// How many exchanges are to be looked at. A view that stands still knows those of the time when its filter
+/// was chosen.
+std::size_t frmBusprotokoll::Rueckstand() const {
+    return ui->chkAnhalten->isChecked() ? nachzuholen : modell->Ausstehend();
+}
+
+/// A table that gets the focus makes its first row the current one: nobody has chosen that.
 std::optional<std::size_t> frmBusprotokoll::GewaehlteZeile() const {
     const QModelIndex stelle = ui->tblProtokoll->currentIndex();
-    return stelle.isValid() ? std::optional(static_cast<std::size_t>(stelle.row())) : std::nullopt;
+    const bool gewaehlt = ui->tblProtokoll->selectionModel()->isSelected(stelle);
+    return gewaehlt ? std::optional(static_cast<std::size_t>(stelle.row())) : std::nullopt;
 }
 
 void frmBusprotokoll::Suche(bool aufwaerts) {
@@ -319,11 +337,8 @@ void frmBusprotokoll::Leere() {
     BrichAb();
     protokoll.Leere(anbieter.Jetzt());
     ui->lblMeldung->clear();
-    rolltSelbst = true;
-    modell->Setze(modell->Filter());
-    rolltSelbst = false;
+    BeginneNeu(modell->Filter());
     ui->chkFolgen->setChecked(true);
-    ZeigeEinzelheiten();
     ZeigeStand();
 }
 
@@ -411,7 +426,7 @@ void frmBusprotokoll::ZeigeStand() {
     if (auftrag)
         text = LadeTextMit(TextGeschrieben, {std::to_string(auftrag->schreiber.Geschrieben()),
                                              std::to_string(auftrag->schreiber.Anzahl())});
-    else if (modell->Ausstehend() > BetrachteteJeSchritt && !ui->chkAnhalten->isChecked())
+    else if (Rueckstand() > BetrachteteJeSchritt)
         text = LadeTextMit(TextDurchsucht, {std::to_string(protokoll.Anzahl() - modell->Ausstehend()),
                                             std::to_string(protokoll.Anzahl())});
     if (const QString neu = Q(text); ui->lblStand->text() != neu)

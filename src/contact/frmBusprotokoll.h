@@ -62,6 +62,8 @@ private:
     void SchreibeWeiter();
 
     void Filtere();
+    void BeginneNeu(const Busfilter& filter);
+    std::size_t Rueckstand() const;
     void FuelleArten();
     void Suche(bool aufwaerts);
     void Leere();
@@ -85,7 +87,8 @@ private:
     Bussuche suche;
     std::string gesucht;
     std::optional<Auftrag> auftrag;
-    std::uint64_t gesehen = 0; ///< the newest exchange when the window last looked
+    std::uint64_t gesehen = 0;   ///< the newest exchange when the window last looked
+    std::size_t nachzuholen = 0; ///< of what there was when the filter was chosen
     bool geplant = false;
     bool rolltSelbst = false;
 };

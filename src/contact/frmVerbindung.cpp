@@ -9,7 +9,6 @@
 #include "umgebung.h"
 #include "verbindungsanbieter.h"
 
-#include <QEvent>
 #include <QPointer>
 #include <QShortcut>
 
@@ -58,12 +57,6 @@ void frmVerbindung::closeEvent(QCloseEvent* ereignis) {
     QWidget::closeEvent(ereignis);
 }
 
-void frmVerbindung::changeEvent(QEvent* ereignis) {
-    QWidget::changeEvent(ereignis);
-    if (ereignis->type() == QEvent::ActivationChange && isActiveWindow() && isVisible())
-        Erneuere();
-}
-
 void frmVerbindung::ZeigeVor() {
     Erneuere();
     HoleNachVorn(*this);
@@ -85,7 +78,7 @@ void frmVerbindung::Erneuere() {
     Anschlussstand neuerStand = anbieter.Stand();
     std::vector<Portangabe> neuePorts = MitEingetragenen(anbieter.Ports(), neuerStand);
     if (neuePorts == ports && neuerStand == stand)
-        return;
+        return ui->Anschlussseite->ZeigeEingabe(); // what is typed leads elsewhere
     ports = std::move(neuePorts);
     stand = std::move(neuerStand);
     Zeige();

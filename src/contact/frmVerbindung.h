@@ -56,7 +56,6 @@ public:
     void Entfalle();
 
 protected:
-    void changeEvent(QEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
     void hideEvent(QHideEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;

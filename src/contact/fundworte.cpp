@@ -1,10 +1,10 @@
 #include "fundworte.h"
 
+#include "identifikation.h"
 #include "portzeile.h"
 #include "suchworte.h"
 #include "texte.h"
 #include "textmitwerten.h"
-#include "zeichensatz.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -22,20 +22,13 @@ constexpr std::int16_t TextLaeuft = 8354;
 constexpr std::int16_t TextNichtGefunden = 8358;
 constexpr std::int16_t TextAbgebrochen = 8359;
 
-std::string Geraetetext(const std::string& text) {
-    std::string utf8;
-    for (const char zeichen : text)
-        utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
-    return utf8;
-}
-
 } // namespace
 
 std::string Fundzeilen(const Suchfund& fund) {
     const Identifikation& ident = fund.ident;
-    std::string text = LadeTextMit(TextBezeichnung, {Geraetetext(ident.text1)});
+    std::string text = LadeTextMit(TextBezeichnung, {IdenttextAlsUtf8(ident.text1)});
     if (!ident.text2.empty())
-        text += "\n" + LadeTextMit(TextSeriennummer, {Geraetetext(ident.text2)});
+        text += "\n" + LadeTextMit(TextSeriennummer, {IdenttextAlsUtf8(ident.text2)});
     text += "\n" + LadeTextMit(TextAdresse, {std::to_string(ident.slaveAdresse)});
     text += "\n" + LadeTextMit(TextWo, {fund.versuch.geraet, fund.versuch.format});
     return fund.mitEcho ? text + "\n" + LadeText(TextEcho) : text;

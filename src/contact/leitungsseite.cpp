@@ -37,8 +37,7 @@ QString Q(const std::string& text) {
 std::string Linientext(const Anschlussstand& stand) {
     if (stand.simuliert)
         return LadeTextMit(TextAnschlussSimuliert, {stand.wahl.format});
-    return LadeTextMit(TextAnschluss,
-                       {"COM" + std::to_string(stand.wahl.nummer), stand.Geraet(), stand.wahl.format});
+    return LadeTextMit(TextAnschluss, {Comname(stand.wahl.nummer), stand.Geraet(), stand.wahl.format});
 }
 
 } // namespace
@@ -55,6 +54,8 @@ Leitungsseite::Leitungsseite(QWidget* eltern) : QWidget(eltern), ui(std::make_un
 Leitungsseite::~Leitungsseite() = default;
 
 void Leitungsseite::Zeige(const std::vector<Portangabe>& neuePorts, const Anschlussstand& neuerStand) {
+    if (BenutzterPort(ports, stand) != nullptr && BenutzterPort(neuePorts, neuerStand) == nullptr)
+        portWarWeg = true;
     ports = neuePorts;
     stand = neuerStand;
     ZeigeLage();
@@ -80,6 +81,7 @@ void Leitungsseite::ZeigeZwischenstand(const Pruefbefund& bisher) {
 
 void Leitungsseite::Beende(const Pruefbefund& ergebnis) {
     befund = ergebnis;
+    portWarWeg = false;
     lage = Lage::Beendet;
     zeit = std::chrono::system_clock::now();
     ZeigeLage();
@@ -113,7 +115,7 @@ void Leitungsseite::Lokalisiere() {
 bool Leitungsseite::IstAlt() const {
     if (lage != Lage::Beendet)
         return false;
-    return befund.geraet != stand.Geraet() || befund.format != stand.wahl.format;
+    return portWarWeg || befund.geraet != stand.Geraet() || befund.format != stand.wahl.format;
 }
 
 /// What can be done now, and what is under way.

@@ -28,7 +28,8 @@ public:
 
     /// Sets who checks the line; it must outlive the page.
     void SetzeAnbieter(Verbindungsanbieter& neuer) { anbieter = &neuer; }
-    /// Shows the line that would be checked. Numbers of another one look old.
+    /// Shows the line that would be checked. Numbers of another one look old, and so do those of a port that
+    /// was away since.
     void Zeige(const std::vector<Portangabe>& neuePorts, const Anschlussstand& neuerStand);
     /// Numbers of the check under way; shown ten times a second at most.
     void ZeigeZwischenstand(const Pruefbefund& bisher);
@@ -62,6 +63,7 @@ private:
     Pruefbefund befund;
     QElapsedTimer seitAnzeige;
     std::chrono::system_clock::time_point zeit; ///< when the check ended
+    bool portWarWeg = false;                    ///< since the check ended
     std::string verzoegerungsfehler;            ///< why the latency timer could not be set
     std::string fehlergeraet;                   ///< and of which device
 };

@@ -78,7 +78,7 @@ std::string Zustand(const Portangabe& port, const Anschlussstand& stand) {
 
 std::string Comnamen(const std::vector<int>& nummern) {
     std::vector<std::string> namen(nummern.size());
-    std::ranges::transform(nummern, namen.begin(), [](int nummer) { return "COM" + std::to_string(nummer); });
+    std::ranges::transform(nummern, namen.begin(), Comname);
     return Liste(namen);
 }
 

@@ -42,7 +42,7 @@ Suchseite::Suchseite(QWidget* eltern) : QWidget(eltern), ui(std::make_unique<Ui:
     GibZeilenLuft(*ui->lstSuchports);
     GibZeilenLuft(*ui->lstVersuche);
     for (int com = 1; com <= AnzahlCom; ++com)
-        ui->cboFundCom->addItem(QStringLiteral("COM%1").arg(com), com);
+        ui->cboFundCom->addItem(Q(Comname(com)), com);
     QScrollBar* const balken = ui->lstVersuche->verticalScrollBar();
     connect(balken, &QScrollBar::rangeChanged, balken,
             [balken](int /*oben*/, int unten) { balken->setValue(unten); }); // the newest try is in view

@@ -1,6 +1,7 @@
 #include "verbindungsanzeige.h"
 
 #include "ereignisse.h"
+#include "identifikation.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
 #include "polling.h"
@@ -10,7 +11,6 @@
 #include "tipptext.h"
 #include "transaktionen.h"
 #include "verbindungssymbol.h"
-#include "zeichensatz.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -44,13 +44,6 @@ Verbindungstatsachen Tatsachen(bool verbindet) {
             .fehlschlaege = modLeitungsstatistik::FehlschlaegeDerLetztenMinute()};
 }
 
-std::string Geraetetext(const std::string& text) {
-    std::string utf8;
-    for (const char zeichen : text)
-        utf8 += AlsUtf8(static_cast<std::uint8_t>(zeichen));
-    return utf8;
-}
-
 Verbindungsgegenstand Gegenstand() {
     using namespace modSchnittstelle;
     Verbindungsgegenstand gegenstand{.port = "COM" + std::to_string(GetComPort()),
@@ -58,7 +51,7 @@ Verbindungsgegenstand Gegenstand() {
                                      .format = GetComSettings()};
     if (modModbus::GetIdentGueltig() != True)
         return gegenstand;
-    gegenstand.bezeichnung = Geraetetext(modModbus::GetIdentText1());
+    gegenstand.bezeichnung = IdenttextAlsUtf8(modModbus::GetIdentText1());
     gegenstand.seriennummer = GeraeteSeriennummer();
     return gegenstand;
 }

@@ -20,7 +20,7 @@ struct PruefVerbindung : Verbindungsanbieter {
     Anschlussstand Stand() override { return stand; }
     Portbefund Befund(const std::string& geraet) override {
         gefragte = geraet;
-        return {.hindernis = Hindernis::Fehlt};
+        return befund;
     }
     void Uebernimm(const Anschlusswahl& wahl, bool verbinde) override {
         stand.wahl = wahl;
@@ -45,6 +45,7 @@ struct PruefVerbindung : Verbindungsanbieter {
     std::vector<Portangabe> ports;
     Anschlussstand stand;
     std::string gefragte;
+    Portbefund befund{.hindernis = Hindernis::Fehlt};
     int uebernommen = 0;
     int verbunden = 0;
     std::vector<std::vector<std::string>> gesuchte;

@@ -129,6 +129,25 @@ TEST_F(AnschlussseiteTest, What_is_typed_survives_a_list_that_is_renewed) {
     EXPECT_EQ(Teil<QComboBox>("cboGeraet_1").currentText(), "/dev/other");
 }
 
+TEST_F(AnschlussseiteTest, A_port_that_comes_leaves_the_cursor_where_somebody_types) {
+    Tippe("cboGeraet_2", "/dev/ttyUSB9");
+    auto& zeile = *Teil<QComboBox>("cboGeraet_2").lineEdit();
+    zeile.setCursorPosition(5);
+    leitung.ports.push_back(EinAdapter());
+    Fenster().Erneuere();
+    EXPECT_EQ(zeile.cursorPosition(), 5);
+}
+
+TEST_F(AnschlussseiteTest, What_a_typed_device_leads_to_is_looked_at_again_and_again) {
+    Tippe("cboGeraet_2", "/dev/pts/7");
+    EXPECT_EQ(Text("lblGeraet_2"), "nicht da");
+    leitung.befund = {};
+    EXPECT_TRUE(pruefung::WarteBis([this] {
+        umgebung.ErledigeAufgeschobenes();
+        return Text("lblGeraet_2") == "frei";
+    }));
+}
+
 TEST_F(AnschlussseiteTest, An_empty_device_or_a_wrong_format_cannot_be_applied_and_says_why) {
     Tippe("cboGeraet_1", " ");
     EXPECT_EQ(Text("lblGeraet_1"), "Bitte ein Gerät nennen, zum Beispiel /dev/ttyUSB0.");

@@ -12,12 +12,15 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -234,6 +237,72 @@ TEST_F(frmBusprotokollTest, Rows_in_view_stay_where_they_are_when_older_ones_go)
     Hoere(500);
     ASSERT_TRUE(Bis([&] { return Rollbalken().value() == 4500; }));
     EXPECT_EQ(Text(4500, 0) + Text(4500, 4), oben);
+}
+
+TEST_F(frmBusprotokollTest, Each_kind_in_the_list_shows_its_own) {
+    LassHoeren(Gelesen(193, {1}));
+    LassHoeren(Geschrieben(193, {1}));
+    LassHoeren({.anforderung = "\x01\x11\xC0\x2C"});
+    LassHoeren({.art = Austauschart::OhneAntwort, .anforderung = "\x01\x09\x01\x02"});
+    LassHoeren({.art = Austauschart::Klaerung, .anforderung = "\x01\x11\xC0\x2C"});
+    LassHoeren(Ungefragtes("\x55"));
+    ASSERT_TRUE(BisZeilen(6));
+    auto& arten = Kind<QComboBox>("cboArt");
+    std::vector<std::string> gezeigte;
+    for (const char* art :
+         {"Lesen (03)", "Schreiben (10)", "Identifikation (11)", "ohne Antwort", "Klärung", "ungefragt"}) {
+        arten.setCurrentIndex(arten.findText(art));
+        ASSERT_EQ(Zeilen(), 1) << art;
+        gezeigte.push_back(Text(0, 1) + ": " + Text(0, 2));
+    }
+    EXPECT_THAT(gezeigte, ElementsAre());
+}
+
+TEST_F(frmBusprotokollTest, A_filter_in_a_frozen_view_looks_through_all_there_was_and_no_further) {
+    Hoere(9000);
+    LassHoeren(Unbeantwortet(5), false);
+    ASSERT_TRUE(BisZeilen(9001));
+    Setze("chkAnhalten", true);
+    Setze("chkNurFehler", true);
+    EXPECT_THAT(Label("lblStand"), HasSubstr("Filtern"));
+    LassHoeren(Unbeantwortet(5), false);
+    Erledige();
+    EXPECT_EQ(Zeilen(), 1);
+    EXPECT_THAT(Label("lblStand"), HasSubstr("9002 Austausche behalten (höchstens 100000), 1 gezeigt"));
+    Druecke("cmdLeeren");
+    LassHoeren(Unbeantwortet(5), false);
+    Erledige();
+    EXPECT_EQ(Zeilen(), 0);
+}
+
+TEST_F(frmBusprotokollTest, A_table_that_gets_the_focus_goes_on_following_and_shows_nothing_unasked) {
+    Hoere(200);
+    ASSERT_TRUE(BisZeilen(200));
+    QFocusEvent fokus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&Tabelle(), &fokus);
+    ASSERT_EQ(Gewaehlte(), 0) << "what the table does by itself";
+    EXPECT_TRUE(IstAn("chkFolgen"));
+    EXPECT_EQ(Details(), "");
+    Tabelle().selectRow(0);
+    EXPECT_THAT(Details(), HasSubstr("Global: PNP-Ausgang"));
+    EXPECT_FALSE(IstAn("chkFolgen"));
+}
+
+TEST_F(frmBusprotokollTest, Rows_are_drawn_as_the_style_draws_them) {
+    LassHoeren(Gelesen(8527, Werte(18, 67)));
+    LassHoeren(Unbeantwortet(5), false);
+    LassHoeren(Gelesen(193, {1}));
+    ASSERT_TRUE(BisZeilen(3));
+    Waehle(2);
+    const auto bild = [this] {
+        QImage flaeche(Tabelle().viewport()->size(), QImage::Format_RGB32);
+        Tabelle().viewport()->render(&flaeche);
+        return flaeche;
+    };
+    const QImage schnell = bild();
+    QStyledItemDelegate ueblich;
+    Tabelle().setItemDelegate(&ueblich);
+    EXPECT_EQ(schnell, bild());
 }
 
 TEST_F(frmBusprotokollTest, Details_tell_the_chosen_exchange_in_words_and_bytes) {

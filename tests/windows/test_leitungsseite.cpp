@@ -102,6 +102,20 @@ TEST_F(LeitungsseiteTest, Numbers_of_another_line_look_old_and_say_of_which_they
     EXPECT_NE(Text("lblPruefstand").find("damals an /dev/ttyUSB0 mit Format 38400,n,8,2"), std::string::npos);
 }
 
+TEST_F(LeitungsseiteTest, Numbers_of_a_port_that_was_away_look_old_until_the_next_check) {
+    Seite();
+    Fenster().BeendePruefung(Befund(200));
+    const auto ports = leitung.ports;
+    for (const auto& gesteckte : {std::vector<Portangabe>(), ports}) {
+        leitung.ports = gesteckte;
+        Fenster().Erneuere();
+        EXPECT_TRUE(Liste("lstZahlen").topLevelItem(0)->isDisabled());
+        EXPECT_NE(Text("lblPruefstand").find("damals an /dev/ttyUSB0"), std::string::npos);
+    }
+    Fenster().BeendePruefung(Befund(200));
+    EXPECT_FALSE(Liste("lstZahlen").topLevelItem(0)->isDisabled());
+}
+
 TEST_F(LeitungsseiteTest, The_latency_timer_is_told_and_set_where_it_may) {
     Seite();
     EXPECT_EQ(Text("lblVerzoegerung"), "Der Adapter sammelt, was er empfängt, bis zu 16 ms lang.");
