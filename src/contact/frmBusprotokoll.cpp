@@ -2,7 +2,6 @@
 
 #include "busregisterliste.h"
 #include "busworte.h"
-#include "buszeilenbild.h"
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "passwortschutz.h"
@@ -87,7 +86,6 @@ void frmBusprotokoll::RichteTabelleEin() {
     constexpr int Einzelheitenzeilen = 11;
     constexpr int Bezugsaufloesung = 96;
     ui->tblProtokoll->setModel(modell);
-    MaleSchnell(*ui->tblProtokoll);
     ui->tblProtokoll->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ui->tblProtokoll->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Luft);
     QHeaderView& kopf = *ui->tblProtokoll->horizontalHeader();
