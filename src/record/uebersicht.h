@@ -1,0 +1,76 @@
+#pragma once
+
+#include "messquelle.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace varnoth {
+
+/// The smallest and the greatest of some values; none while `kleinster` is above `groesster`.
+struct Wertspanne {
+    std::uint16_t kleinster = 0xFFFF;
+    std::uint16_t groesster = 0;
+
+    bool IstLeer() const { return kleinster > groesster; }
+    void Nimm(std::uint16_t wert) {
+        kleinster = kleinster < wert ? kleinster : wert;
+        groesster = groesster > wert ? groesster : wert;
+    }
+    void Nimm(const Wertspanne& andere) {
+        kleinster = kleinster < andere.kleinster ? kleinster : andere.kleinster;
+        groesster = groesster > andere.groesster ? groesster : andere.groesster;
+    }
+    bool operator==(const Wertspanne&) const = default;
+};
+
+/// Bits that were 1 at least once, and those that were never 0.
+struct Bitspanne {
+    std::uint16_t einmal = 0;
+    std::uint16_t immer = 0xFFFF;
+
+    void Nimm(std::uint16_t wert) { einmal |= wert, immer &= wert; }
+    void Nimm(const Bitspanne& andere) { einmal |= andere.einmal, immer &= andere.immer; }
+    bool operator==(const Bitspanne&) const = default;
+};
+
+/// The whole of a source in stretches of time, each with what was seen in it at least once and always: enough
+/// to draw all of it at once. There are never more stretches than fit into the memory given: when they are
+/// used up, each two become one, and all that follow are twice as long.
+class Uebersicht {
+public:
+    explicit Uebersicht(std::size_t hoechstensBytes = std::size_t{48} << 20U);
+
+    /// Takes in what follows on what it has.
+    void Nimm(const Messpaket& paket);
+    /// Forgets what ended before a time.
+    void VergissBis(Zeit laufzeit);
+
+    /// Number of stretches, in order of time; they do not overlap.
+    std::size_t Anzahl() const;
+    /// The stretch of a time: the last one that begins at it or before; 0 for any earlier time.
+    std::size_t AbschnittUm(Zeit laufzeit) const;
+
+    // `i` is below Anzahl, `teil` 0..3.
+
+    Zeitspanne Spanne(std::size_t i) const;
+    /// Whether live data did not run, or the controller did not answer, at some time in it.
+    bool HatLuecke(std::size_t i) const;
+    Bitspanne Geraetestatus(std::size_t i) const;
+    /// Passes in which the part was measured.
+    std::uint32_t Durchgaenge(std::size_t i, int teil) const;
+    /// A measured value: 0..17, as in Teilmessung::werte.
+    Wertspanne Wert(std::size_t i, int teil, int wert) const;
+    Bitspanne Status(std::size_t i, int teil) const;
+    /// The most beams the part had.
+    int Strahlen(std::size_t i, int teil) const;
+    /// A bit a beam, as in strahlbits.h: interrupted in one pass at least. None where it was not measured.
+    std::span<const std::uint16_t> UnterbrochenEinmal(std::size_t i, int teil) const;
+    /// Interrupted in every pass.
+    std::span<const std::uint16_t> UnterbrochenImmer(std::size_t i, int teil) const;
+};
+
+} // namespace varnoth
