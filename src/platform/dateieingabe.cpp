@@ -48,7 +48,8 @@ Eingabe OeffneEingabe(const std::string& pfad) {
         ::close(handle);
         return {.fehlertext = fehler != 0 ? Systemfehler(fehler) : KeineGewoehnlicheDatei()};
     }
-    return {.datei = std::make_unique<const Systemeingabe>(handle, static_cast<std::uint64_t>(stand.st_size))};
+    return {.datei =
+                std::make_unique<const Systemeingabe>(handle, static_cast<std::uint64_t>(stand.st_size))};
 }
 
 } // namespace varnoth

@@ -36,8 +36,8 @@ Blockgang::Schritt Blockgang::Weiter() {
 /// Some bytes of the file; none where they cannot be read.
 std::string_view Blockgang::Hole(std::uint64_t ab, std::size_t laenge) {
     if (ab < pufferstelle || ab + laenge > pufferstelle + puffer.size()) {
-        puffer.resize(static_cast<std::size_t>(
-            std::min<std::uint64_t>(std::max(laenge, Puffergroesse), groesse - ab)));
+        puffer.resize(
+            static_cast<std::size_t>(std::min<std::uint64_t>(std::max(laenge, Puffergroesse), groesse - ab)));
         pufferstelle = ab;
         bool gelungen = datei.Lies(ab, puffer);
         if (!gelungen && puffer.size() > laenge) {

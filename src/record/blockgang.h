@@ -16,7 +16,7 @@ public:
         Beschaedigt, ///< a block whose content is not
         Luecke,      ///< there were bytes that are no block
         Suche,       ///< still among such bytes
-        Ende,        ///< nothing follows; `Abgeschnitten` tells whether bytes are left that are no whole block
+        Ende, ///< nothing follows; `Abgeschnitten` tells whether bytes are left that are no whole block
     };
 
     /// `datei` must outlive this object.

@@ -28,10 +28,17 @@ Vrecleser::Vrecleser(std::unique_ptr<const Eingabedatei> neue)
 
 bool Vrecleser::Arbeite() {
     switch (schritt) {
-    case Schritt::Kennung: PruefeKennung(); break;
-    case Schritt::Verzeichnis: LiesVerzeichnis(); break;
-    case Schritt::Gang: Gehe(); break;
-    case Schritt::Fertig: break;
+    case Schritt::Kennung:
+        PruefeKennung();
+        break;
+    case Schritt::Verzeichnis:
+        LiesVerzeichnis();
+        break;
+    case Schritt::Gang:
+        Gehe();
+        break;
+    case Schritt::Fertig:
+        break;
     }
     return schritt != Schritt::Fertig;
 }
@@ -70,8 +77,8 @@ void Vrecleser::SucheVerzeichnis() {
     const std::uint64_t groesse = datei->Groesse();
     if (groesse < vrec::LaengeKennung + vrec::LaengeSchluss)
         return;
-    const auto inhalt =
-        LiesBlock(groesse - vrec::LaengeSchluss, vrec::LaengeSchluss - vrec::LaengeBlockkopf, Blockart::Schluss);
+    const auto inhalt = LiesBlock(groesse - vrec::LaengeSchluss, vrec::LaengeSchluss - vrec::LaengeBlockkopf,
+                                  Blockart::Schluss);
     const auto schluss = inhalt ? vrec::SchlussAus(*inhalt) : std::nullopt;
     if (!schluss || schluss->verzeichnis < vrec::LaengeKennung || schluss->verzeichnis >= groesse)
         return;
@@ -147,15 +154,21 @@ void Vrecleser::Gehe() {
 /// False when the walk is at its end.
 bool Vrecleser::Nimm(Blockgang::Schritt gangschritt) {
     switch (gangschritt) {
-    case Blockgang::Schritt::Block: NimmBlock(); break;
+    case Blockgang::Schritt::Block:
+        NimmBlock();
+        break;
     case Blockgang::Schritt::Beschaedigt:
         if (gang->Kopf().art == Blockart::Konfiguration)
             NimmKonfiguration();
         Beschaedigt();
         break;
-    case Blockgang::Schritt::Luecke: Beschaedigt(); break;
-    case Blockgang::Schritt::Suche: break;
-    case Blockgang::Schritt::Ende: return false;
+    case Blockgang::Schritt::Luecke:
+        Beschaedigt();
+        break;
+    case Blockgang::Schritt::Suche:
+        break;
+    case Blockgang::Schritt::Ende:
+        return false;
     }
     return !zustand.zuLang || gang->Stelle() <= pakete.back().stelle;
 }
@@ -168,10 +181,17 @@ void Vrecleser::NimmBlock() {
             angaben = std::move(*ihre);
         }
         break;
-    case Blockart::Konfiguration: NimmKonfiguration(); break;
-    case Blockart::Paket: NimmPaket(); break;
-    case Blockart::Schluss: zustand.beendet = gang->Stelle() == datei->Groesse(); break;
-    case Blockart::Verzeichnis: break;
+    case Blockart::Konfiguration:
+        NimmKonfiguration();
+        break;
+    case Blockart::Paket:
+        NimmPaket();
+        break;
+    case Blockart::Schluss:
+        zustand.beendet = gang->Stelle() == datei->Groesse();
+        break;
+    case Blockart::Verzeichnis:
+        break;
     }
 }
 
@@ -300,7 +320,8 @@ std::shared_ptr<const Abbild> Vrecleser::Konfiguration(std::uint64_t nummer) con
 }
 
 /// The content of a block; nothing when it is damaged or another.
-std::optional<std::string> Vrecleser::LiesBlock(std::uint64_t stelle, std::uint32_t laenge, Blockart art) const {
+std::optional<std::string> Vrecleser::LiesBlock(std::uint64_t stelle, std::uint32_t laenge,
+                                                Blockart art) const {
     std::string bytes(vrec::LaengeBlockkopf + laenge, '\0');
     if (!datei->Lies(stelle, bytes))
         return std::nullopt;

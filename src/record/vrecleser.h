@@ -84,7 +84,8 @@ private:
     void Beschaedigt();
     void SchliesseAb();
     Messpaket MitNachtraegen(std::uint64_t nummer, Messpaket paket) const;
-    std::optional<std::string> LiesBlock(std::uint64_t stelle, std::uint32_t laenge, vrec::Blockart art) const;
+    std::optional<std::string> LiesBlock(std::uint64_t stelle, std::uint32_t laenge,
+                                         vrec::Blockart art) const;
 
     std::unique_ptr<const Eingabedatei> datei;
     Schritt schritt = Schritt::Kennung;

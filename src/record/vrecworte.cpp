@@ -1,7 +1,7 @@
 #include "vrecworte.h"
 
-#include "textmitwerten.h"
 #include "texte.h"
+#include "textmitwerten.h"
 
 #include <algorithm>
 #include <limits>
@@ -23,14 +23,19 @@ constexpr std::int16_t TextZuLang = 6708;
 /// Why nothing of it can be shown; empty when something can.
 std::string Hindernis(const Vreczustand& zustand) {
     switch (zustand.befund) {
-    case Vrecbefund::Gut: break;
-    case Vrecbefund::Leer: return LadeText(TextLeer);
-    case Vrecbefund::KeineAufzeichnung: return LadeText(TextKeineAufzeichnung);
+    case Vrecbefund::Gut:
+        break;
+    case Vrecbefund::Leer:
+        return LadeText(TextLeer);
+    case Vrecbefund::KeineAufzeichnung:
+        return LadeText(TextKeineAufzeichnung);
     case Vrecbefund::NeuereVersion:
         return LadeTextMit(TextNeuereVersion,
                            {std::to_string(zustand.version), std::to_string(vrec::Version)});
-    case Vrecbefund::NichtLesbar: return LadeText(TextNichtLesbar);
-    case Vrecbefund::OhneDurchgaenge: return LadeText(TextOhneDurchgaenge);
+    case Vrecbefund::NichtLesbar:
+        return LadeText(TextNichtLesbar);
+    case Vrecbefund::OhneDurchgaenge:
+        return LadeText(TextOhneDurchgaenge);
     }
     return {};
 }
@@ -44,8 +49,8 @@ std::string Befundtext(const Vreczustand& zustand) {
         return text;
     if (zustand.beschaedigte > 0)
         dazu(LadeAnzahltext(TextEineStelle, TextStellen,
-                            static_cast<int>(std::min<std::uint64_t>(
-                                zustand.beschaedigte, std::numeric_limits<int>::max()))));
+                            static_cast<int>(std::min<std::uint64_t>(zustand.beschaedigte,
+                                                                     std::numeric_limits<int>::max()))));
     if (zustand.befund != Vrecbefund::Gut)
         return text;
     if (zustand.zuLang)

@@ -63,8 +63,8 @@ TEST(BeschaedigteVrecTest, Cut_at_any_byte_it_gives_all_packets_that_are_whole) 
     for (std::size_t laenge = 0; laenge < probe.bytes.size(); ++laenge) {
         Vrecleser leser(std::make_unique<Speicherdatei>(probe.bytes.substr(0, laenge)));
         const Vreczustand& zustand = Oeffne(leser);
-        const auto ganze = static_cast<std::uint64_t>(std::ranges::count_if(
-            probe.paketenden, [laenge](std::size_t ende) { return ende <= laenge; }));
+        const auto ganze = static_cast<std::uint64_t>(
+            std::ranges::count_if(probe.paketenden, [laenge](std::size_t ende) { return ende <= laenge; }));
         ASSERT_EQ(zustand.durchgaenge, 3 * ganze) << laenge;
         ASSERT_EQ(leser.Ende(), ganze) << laenge;
         ASSERT_EQ(Lesbare(leser), 3 * ganze) << laenge;
@@ -119,8 +119,9 @@ TEST(BeschaedigteVrecTest, Each_thing_that_came_of_opening_has_a_sentence_in_bot
     for (const std::int16_t sprache : {std::int16_t{0}, std::int16_t{10000}}) {
         SetzeSprachoffset(sprache);
         EXPECT_EQ(Befundtext({.durchgaenge = 1, .beendet = true}), "");
-        for (const Vrecbefund befund : {Vrecbefund::Leer, Vrecbefund::KeineAufzeichnung, Vrecbefund::NeuereVersion,
-                                        Vrecbefund::NichtLesbar, Vrecbefund::OhneDurchgaenge})
+        for (const Vrecbefund befund :
+             {Vrecbefund::Leer, Vrecbefund::KeineAufzeichnung, Vrecbefund::NeuereVersion,
+              Vrecbefund::NichtLesbar, Vrecbefund::OhneDurchgaenge})
             EXPECT_GT(Befundtext({.befund = befund}).size(), 10U);
         EXPECT_THAT(Befundtext({.befund = Vrecbefund::NeuereVersion, .version = 7}), HasSubstr("7"));
         EXPECT_THAT(Befundtext({.beschaedigte = 3, .beendet = true}), HasSubstr("3 "));

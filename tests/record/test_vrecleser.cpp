@@ -45,8 +45,7 @@ std::unique_ptr<Vrecleser> Geoeffnet(std::string bytes) {
 
 std::int32_t Strahlen(const Vrecleser& leser, std::uint64_t nummer) {
     const auto abbild = leser.Konfiguration(nummer);
-    return abbild == nullptr ? -1
-                             : abbild->HoleRegister(Speicherbereich::SpezifischeGeraetedaten, 12);
+    return abbild == nullptr ? -1 : abbild->HoleRegister(Speicherbereich::SpezifischeGeraetedaten, 12);
 }
 
 } // namespace
@@ -170,8 +169,7 @@ TEST(VrecleserTest, What_is_no_record_is_told) {
     EXPECT_EQ(Geoeffnet(neuere)->Zustand().befund, Vrecbefund::NeuereVersion);
     EXPECT_EQ(Geoeffnet(neuere)->Zustand().version, 2);
     EXPECT_EQ(Geoeffnet(Aufzeichnung(0))->Zustand().befund, Vrecbefund::OhneDurchgaenge);
-    EXPECT_EQ(Geoeffnet(bytes.substr(0, vrec::LaengeKennung))->Zustand().befund,
-              Vrecbefund::OhneDurchgaenge);
+    EXPECT_EQ(Geoeffnet(bytes.substr(0, vrec::LaengeKennung))->Zustand().befund, Vrecbefund::OhneDurchgaenge);
 }
 
 TEST(VrecleserTest, Bytes_that_the_disk_does_not_give_are_a_gap_and_none_at_all_is_told) {
