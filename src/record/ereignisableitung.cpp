@@ -113,8 +113,8 @@ void Ereignisableitung::Vergiss() {
 }
 
 bool Ereignisableitung::IstVorbei(const Groesse& groesse, Zeit laufzeit) const {
-    return groesse.nummer && (laufzeit - groesse.gewechselt > Schubruhe ||
-                              laufzeit - groesse.schub.laufzeit >= LaengsterSchub);
+    return groesse.nummer &&
+           (laufzeit - groesse.gewechselt > Schubruhe || laufzeit - groesse.schub.laufzeit >= LaengsterSchub);
 }
 
 void Ereignisableitung::Betrachte(Groesse& groesse, std::int32_t wert, const Messdurchgang& durchgang) {

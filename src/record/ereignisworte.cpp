@@ -28,7 +28,8 @@ constexpr std::int16_t TextVerworfen = 6642, TextFehlgeschlagen = 6645, TextErst
 constexpr std::int16_t TextSimuliertUnd = 9108, TextAusgangAktiv = 9308, TextAusgangNichtAktiv = 9309,
                        TextKeinOptikteil = 9310, TextStrahlenzahlGeaendert = 9311, TextNichtLesbar = 9312,
                        TextErstesOptikteil = 5200;
-constexpr std::int16_t Fehlschlagtexte[] = {8421, 8430, 8422, 8487, 8426}; // as exchanges are counted by their end
+constexpr std::int16_t Fehlschlagtexte[] = {8421, 8430, 8422, 8487,
+                                            8426}; // as exchanges are counted by their end
 constexpr int Zustandszahl = 7;
 
 std::string Text(int id) {

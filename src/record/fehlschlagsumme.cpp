@@ -7,7 +7,8 @@ Fehlschlagsumme::Fehlschlagsumme(Ereignisspeicher& wohin) : ziel(&wohin) {}
 void Fehlschlagsumme::Nimm(const std::array<unsigned long, Enden>& anzahl, Zeit uhr, Systemzeit zeit) {
     for (std::size_t ende = 1; vorher && ende < Enden; ++ende) {
         Strecke& strecke = strecken[ende];
-        if (strecke.nummer && (uhr - strecke.letzter > Ruhe || uhr - strecke.ereignis.laufzeit >= LaengsteStrecke))
+        if (strecke.nummer &&
+            (uhr - strecke.letzter > Ruhe || uhr - strecke.ereignis.laufzeit >= LaengsteStrecke))
             Schliesse(strecke);
         if (anzahl[ende] > (*vorher)[ende])
             Zaehle(strecke, {.art = Ereignisart::Fehlgeschlagen,

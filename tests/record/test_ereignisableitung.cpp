@@ -12,11 +12,11 @@ class EreignisableitungTest : public testing::Test {
 protected:
     /// A pass with two parts, at a time in milliseconds.
     void Durchgang(int ms, bool aktiv = false, std::uint16_t merkmale = 1) {
-        Messdurchgang durchgang{.zeit = Systemzeit(1h) + std::chrono::milliseconds(ms),
-                                .uhr = std::chrono::milliseconds(ms),
-                                .anzahlTeile = 2,
-                                .geraetestatus = static_cast<std::uint16_t>(
-                                    geraet | (aktiv ? geraetestatus::PnpAktiv : 0))};
+        Messdurchgang durchgang{
+            .zeit = Systemzeit(1h) + std::chrono::milliseconds(ms),
+            .uhr = std::chrono::milliseconds(ms),
+            .anzahlTeile = 2,
+            .geraetestatus = static_cast<std::uint16_t>(geraet | (aktiv ? geraetestatus::PnpAktiv : 0))};
         for (std::size_t teil = 0; teil < 2; ++teil) {
             durchgang.teile[teil].vorhanden = teil == 0 || zweiterDa;
             durchgang.teile[teil].status =

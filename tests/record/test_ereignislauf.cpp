@@ -35,10 +35,9 @@ public:
         auto paket = std::make_shared<Messpaket>();
         paket->spanne = Spanne(nummer);
         for (int i = 0; i < 10; ++i)
-            paket->durchgaenge.push_back(
-                {.uhr = paket->spanne.von + i * 100ms,
-                 .geraetestatus = static_cast<std::uint16_t>(aktiv.contains(nummer) ? geraetestatus::PnpAktiv
-                                                                                    : 0)});
+            paket->durchgaenge.push_back({.uhr = paket->spanne.von + i * 100ms,
+                                          .geraetestatus = static_cast<std::uint16_t>(
+                                              aktiv.contains(nummer) ? geraetestatus::PnpAktiv : 0)});
         return paket;
     }
     std::shared_ptr<const Abbild> Konfiguration(std::uint64_t) const override { return {}; }

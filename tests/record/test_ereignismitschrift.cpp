@@ -13,10 +13,8 @@ using testing::Not;
 class EreignismitschriftTest : public testing::Test {
 protected:
     std::uint64_t Notiere(const std::string& text, std::chrono::hours seit, bool offen = false) {
-        return speicher.Merke({.art = Ereignisart::Notiz,
-                               .zeit = Systemzeit(24h * 365) + seit,
-                               .offen = offen,
-                               .text = text});
+        return speicher.Merke(
+            {.art = Ereignisart::Notiz, .zeit = Systemzeit(24h * 365) + seit, .offen = offen, .text = text});
     }
     std::string Schreibe() {
         const std::string zeilen = mitschrift.Faellige().zeilen;

@@ -34,7 +34,8 @@ TEST(Ereignisworte, Tell_what_has_happened_to_the_connection) {
 }
 
 TEST(Ereignisworte, Tell_of_parts_their_status_and_the_output) {
-    EXPECT_EQ(Worte({.art = Ereignisart::TeilGewechselt, .teil = 1, .neu = 0}), Paar("K2 fehlt", "C2 is gone"));
+    EXPECT_EQ(Worte({.art = Ereignisart::TeilGewechselt, .teil = 1, .neu = 0}),
+              Paar("K2 fehlt", "C2 is gone"));
     EXPECT_EQ(Worte({.art = Ereignisart::TeilGewechselt, .teil = 3, .neu = 1}),
               Paar("K4 ist da", "C4 is there"));
     EXPECT_EQ(Worte({.art = Ereignisart::TeilStatus, .teil = 0, .neu = 0x24}),
@@ -81,8 +82,9 @@ TEST(Ereignisworte, Tell_of_writes_backups_and_recordings) {
               "Sicherung misslungen: kein Platz");
     EXPECT_EQ(Worte({.art = Ereignisart::AufzeichnungBegonnen, .text = "/tmp/a.vrec"}).first,
               "Aufzeichnung begonnen: /tmp/a.vrec");
-    EXPECT_EQ(Worte({.art = Ereignisart::AufzeichnungBeendet, .dauer = 8h + 5min, .text = "/tmp/a.vrec"}).second,
-              "Recording ended: /tmp/a.vrec [8 h 05 min]");
+    EXPECT_EQ(
+        Worte({.art = Ereignisart::AufzeichnungBeendet, .dauer = 8h + 5min, .text = "/tmp/a.vrec"}).second,
+        "Recording ended: /tmp/a.vrec [8 h 05 min]");
     EXPECT_EQ(Worte({.art = Ereignisart::Verworfen, .anzahl = 17}).second,
               "Passes that could not be recorded: 17");
 }
