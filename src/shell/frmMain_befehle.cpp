@@ -45,17 +45,18 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     zeile->tut(*this, index);
 }
 
-/// By the text of its button or, where it has none, of its menu item, for whoever reads later what has
-/// happened.
+/// By the id of its button's text or, where it has none, of its menu item's, so that it is told later in
+/// whatever language is in use.
 void frmMain::MerkeBefehl(const Befehlszeile& zeile, int index) const {
     const auto* const aktion =
         findChild<QAction*>(QString::fromStdString(Aktionsname(zeile, index - zeile.ersterIndex)));
-    QString text = QString::fromStdString(LadeText(zeile.textId));
-    if (text.isEmpty() && aktion != nullptr)
-        text = aktion->text();
-    text.remove(u'&');
-    modEreignisse::Merke(text.isEmpty() ? "(" + std::to_string(static_cast<int>(zeile.befehl)) + ")"
-                                        : text.toStdString());
+    Ereignis ereignis{
+        .art = Ereignisart::Befehl, .alt = static_cast<std::int32_t>(zeile.befehl), .neu = zeile.textId};
+    if (ereignis.neu == 0 && aktion != nullptr) {
+        ereignis.neu = aktion->property("Tag").toInt();
+        ereignis.text = aktion->text().toStdString();
+    }
+    modEreignisse::Merke(ereignis);
 }
 
 void frmMain::MenuAusführen() {

@@ -120,19 +120,21 @@ void Verbindungsanzeige::Aktualisiere() {
                         .tag = tatsachen.uhrzeit.date(),
                         .sprache = GetSprachoffset()};
     if (inhalt != gezeigt) {
-        MerkeZustand(inhalt, tatsachen.uhrzeit);
+        MerkeZustand(inhalt);
         Zeige(inhalt, tatsachen.uhrzeit);
     }
     gezeigt = inhalt;
 }
 
 /// Every new state is kept, with the line that it is about.
-void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const {
+void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) const {
     if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
-    modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.port + ", " +
-                         gegenstand.geraet + ", " + gegenstand.format + ")");
+    modEreignisse::Merke({.art = Ereignisart::Zustand,
+                          .alt = inhalt.bild.simuliert ? 1 : 0,
+                          .neu = static_cast<int>(inhalt.bild.zustand),
+                          .text = gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

@@ -47,7 +47,7 @@ private:
 
     QPushButton* MacheKnopf(const QString& name, const std::function<void()>& tat);
     void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
-    void MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const;
+    void MerkeZustand(const Inhalt& inhalt) const;
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;
