@@ -19,6 +19,7 @@
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -93,6 +94,7 @@ frmMain::frmMain(const QString& programmordner)
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
+    wiedergabe = MacheWiedergabeablauf(teile);
 }
 
 frmMain::~frmMain() = default;
@@ -175,6 +177,7 @@ void frmMain::Entlade() {
         return;
     entladen = true;
     modPolling::StoppePolling();
+    BeendeWiedergabe();
     BewahreFensterplatz(*this, Fensterabschnitt);
     ansichten->SpeicherePlaetze();
     leiste->SpeicherePlatz();

@@ -25,6 +25,8 @@
 #include "verbindungsablauf.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
+#include "wiedergaberegel.h"
 
 #include <QAction>
 #include <QMenu>
@@ -41,6 +43,8 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     if (zeile == nullptr || IstZuSpaet(befehl))
         return;
     MerkeBefehl(*zeile, index);
+    if (VerlaesstWiedergabe(befehl))
+        BeendeWiedergabe();
     zeile->tut(*this, index);
 }
 
@@ -108,6 +112,8 @@ void frmMain::SubBeenden() {
 }
 
 void frmMain::ZeigeAnsicht(int optikteil) {
+    if (wiedergabe->Laeuft())
+        return wiedergabe->ZeigeAnsicht(optikteil);
     ansichten->Zeige(optikteil, betrieb->IstLive());
 }
 
@@ -164,6 +170,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
+    wiedergabe->Lokalisiere();
 }
 
 void frmMain::OeffneLetzteDatei(int platz) {

@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include <utility>
+
 namespace varnoth {
 
 namespace {
@@ -113,12 +115,21 @@ void Verbindungsanzeige::SetzeVerbindet(bool ob) {
     Aktualisiere();
 }
 
+void Verbindungsanzeige::SetzeWiedergabe(std::optional<Verbindungsgegenstand> woraus) {
+    wiedergabe = std::move(woraus);
+    Aktualisiere();
+}
+
 void Verbindungsanzeige::Aktualisiere() {
     const Verbindungstatsachen tatsachen = Tatsachen(verbindet);
-    const Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
-                        .gegenstand = Gegenstand(),
-                        .tag = tatsachen.uhrzeit.date(),
-                        .sprache = GetSprachoffset()};
+    Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
+                  .gegenstand = Gegenstand(),
+                  .tag = tatsachen.uhrzeit.date(),
+                  .sprache = GetSprachoffset()};
+    if (wiedergabe) {
+        inhalt.bild = {.zustand = Verbindungszustand::Wiedergabe};
+        inhalt.gegenstand = *wiedergabe;
+    }
     if (inhalt != gezeigt) {
         MerkeZustand(inhalt, tatsachen.uhrzeit);
         Zeige(inhalt, tatsachen.uhrzeit);
@@ -131,6 +142,8 @@ void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt, const QDateTime& jet
     if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
+    if (inhalt.bild.zustand == Verbindungszustand::Wiedergabe)
+        return modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.aufzeichnung + ")");
     modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.port + ", " +
                          gegenstand.geraet + ", " + gegenstand.format + ")");
 }
