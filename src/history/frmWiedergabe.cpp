@@ -35,9 +35,9 @@ struct Wahl {
     std::int16_t textId;
     std::optional<Sprungart> art;
 };
-constexpr Wahl DieWahl[] = {{6512, std::nullopt},         {6513, Sprungart::Verbindung},
-                            {6514, Sprungart::Ausgang},   {6515, Sprungart::Zustand},
-                            {6516, Sprungart::Teil},      {6517, Sprungart::Notiz}};
+constexpr Wahl DieWahl[] = {{6512, std::nullopt},       {6513, Sprungart::Verbindung},
+                            {6514, Sprungart::Ausgang}, {6515, Sprungart::Zustand},
+                            {6516, Sprungart::Teil},    {6517, Sprungart::Notiz}};
 
 QString Q(const std::string& text) {
     return QString::fromStdString(text);
@@ -149,8 +149,7 @@ void frmWiedergabe::Beginne() {
 
 /// Looks as long as there is something to do.
 void frmWiedergabe::PlaneTakt() {
-    const bool noetig =
-        steuerung.Stand().Laeuft() || suche || naechstesPaket < steuerung.Quelle().Ende();
+    const bool noetig = steuerung.Stand().Laeuft() || suche || naechstesPaket < steuerung.Quelle().Ende();
     if (noetig && !uhrwerk.isActive())
         uhrwerk.start();
     if (!noetig)

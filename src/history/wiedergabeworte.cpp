@@ -98,9 +98,9 @@ std::string Lagetext(Wiedergabelage lage) {
 
 std::string Tempotext(double tempo) {
     const long long zehntel = std::llround(tempo * 10);
-    const std::string zahl = zehntel % 10 == 0 ? std::to_string(zehntel / 10)
-                                               : std::to_string(zehntel / 10) + Komma() +
-                                                     std::to_string(zehntel % 10);
+    const std::string zahl = zehntel % 10 == 0
+                                 ? std::to_string(zehntel / 10)
+                                 : std::to_string(zehntel / 10) + Komma() + std::to_string(zehntel % 10);
     return zahl + " ×";
 }
 

@@ -10,8 +10,8 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::uint64_t PaketeZurueck = 8;      // that may lie between two passes without one of their own
-constexpr int UebergangeneJeGelesenem = 4000;   // to look at the overview is that much cheaper
+constexpr std::uint64_t PaketeZurueck = 8;    // that may lie between two passes without one of their own
+constexpr int UebergangeneJeGelesenem = 4000; // to look at the overview is that much cheaper
 constexpr auto Ausgangsbit = static_cast<std::uint16_t>(geraetestatus::PnpAktiv);
 constexpr auto Vorhandenbit = static_cast<std::uint16_t>(optikteilstatus::Vorhanden);
 

@@ -26,10 +26,10 @@ inline constexpr Sprungart AlleSprungarten[] = {Sprungart::Zustand, Sprungart::A
 struct Sprungfund {
     Zeit laufzeit{};
     Sprungart art{};
-    int teil = -1;                      ///< 0..3 of Zustand and Teil; -1: the controller itself
-    bool ein = false;                   ///< the output is on, the part is there, the controller answers
+    int teil = -1;    ///< 0..3 of Zustand and Teil; -1: the controller itself
+    bool ein = false; ///< the output is on, the part is there, the controller answers
     std::optional<Messereignisart> ereignis{}; ///< what has happened, of Verbindung
-    std::string text{};                 ///< of a note
+    std::string text{};                        ///< of a note
 
     bool operator==(const Sprungfund&) const = default;
 };

@@ -20,6 +20,11 @@ bool Wechselt(const Uebersicht& uebersicht, std::size_t i) {
     return wechselt;
 }
 
+/// Where nothing was measured there is no stretch: a gap goes on to the next one.
+Zeit Lueckenende(const Uebersicht& uebersicht, std::size_t i, Zeit ende) {
+    return i + 1 < uebersicht.Anzahl() ? uebersicht.Spanne(i + 1).von : ende;
+}
+
 } // namespace
 
 Zeit ZeitDerSpalte(const Zeitspanne& spanne, int anzahl, int spalte) {
@@ -37,21 +42,22 @@ int SpalteDerZeit(const Zeitspanne& spanne, int anzahl, Zeit laufzeit) {
     return static_cast<int>(std::lround(std::clamp(anteil, 0.0, 1.0) * (anzahl - 1)));
 }
 
-std::vector<Leistenspalte> Leistenspalten(const Uebersicht& uebersicht, const Zeitspanne& spanne, int anzahl) {
+std::vector<Leistenspalte> Leistenspalten(const Uebersicht& uebersicht, const Zeitspanne& spanne,
+                                          int anzahl) {
     std::vector<Leistenspalte> spalten(static_cast<std::size_t>(std::max(anzahl, 0)));
     if (spalten.empty())
         return spalten;
+    const auto markiere = [&](Zeit von, Zeit bis, bool Leistenspalte::*was) {
+        const int letzte = SpalteDerZeit(spanne, anzahl, bis);
+        for (int spalte = SpalteDerZeit(spanne, anzahl, von); spalte <= letzte; ++spalte)
+            spalten[static_cast<std::size_t>(spalte)].*was = true;
+    };
     for (std::size_t i = 0; i < uebersicht.Anzahl(); ++i) {
-        const bool luecke = uebersicht.HatLuecke(i);
-        const bool wechsel = Wechselt(uebersicht, i);
-        if (!luecke && !wechsel)
-            continue;
-        const auto von = static_cast<std::size_t>(SpalteDerZeit(spanne, anzahl, uebersicht.Spanne(i).von));
-        const auto bis = static_cast<std::size_t>(SpalteDerZeit(spanne, anzahl, uebersicht.Spanne(i).bis));
-        for (std::size_t spalte = von; spalte <= bis; ++spalte) {
-            spalten[spalte].luecke |= luecke;
-            spalten[spalte].wechsel |= wechsel;
-        }
+        const Zeitspanne hier = uebersicht.Spanne(i);
+        if (Wechselt(uebersicht, i))
+            markiere(hier.von, hier.bis, &Leistenspalte::wechsel);
+        if (uebersicht.HatLuecke(i))
+            markiere(hier.von, Lueckenende(uebersicht, i, spanne.bis), &Leistenspalte::luecke);
     }
     return spalten;
 }

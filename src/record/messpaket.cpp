@@ -66,10 +66,10 @@ void FuerJedesBit(std::uint64_t bits, Arbeit arbeit) {
 void Schreibe(Byteschreiber& aus, const Teilmessung& alt, const Teilmessung& neu) {
     const std::uint64_t werte = Unterschiede(alt.werte, neu.werte);
     const std::uint64_t strahlen = Unterschiede(alt.strahlregister, neu.strahlregister);
-    aus.U8(static_cast<std::uint8_t>(
-        (neu.vorhanden ? Vorhanden : 0) | (neu.gemessen ? Gemessen : 0) |
-        (neu.status != alt.status ? StatusNeu : 0) | (neu.strahlen != alt.strahlen ? StrahlenzahlNeu : 0) |
-        (werte != 0 ? WerteNeu : 0) | (strahlen != 0 ? StrahlenNeu : 0)));
+    aus.U8(static_cast<std::uint8_t>((neu.vorhanden ? Vorhanden : 0) | (neu.gemessen ? Gemessen : 0) |
+                                     (neu.status != alt.status ? StatusNeu : 0) |
+                                     (neu.strahlen != alt.strahlen ? StrahlenzahlNeu : 0) |
+                                     (werte != 0 ? WerteNeu : 0) | (strahlen != 0 ? StrahlenNeu : 0)));
     if (neu.status != alt.status)
         aus.U16(neu.status);
     if (neu.strahlen != alt.strahlen)
@@ -220,8 +220,9 @@ std::optional<Messpaket> PaketAus(std::string_view bytes) {
     Byteleser ein(bytes);
     Messpaket paket;
     paket.spanne.von = Zeit(ein.ZahlBis(static_cast<std::uint64_t>(GroessteZeit.count())));
-    paket.spanne.bis = paket.spanne.von +
-                       Zeit(ein.ZahlBis(static_cast<std::uint64_t>((GroessteZeit - paket.spanne.von).count())));
+    paket.spanne.bis =
+        paket.spanne.von +
+        Zeit(ein.ZahlBis(static_cast<std::uint64_t>((GroessteZeit - paket.spanne.von).count())));
     LiesDurchgaenge(ein, paket);
     const std::size_t ereignisse = LiesAnzahl(ein, KleinstesEreignis);
     for (std::size_t i = 0; i < ereignisse && ein.Gut(); ++i)

@@ -11,10 +11,14 @@ namespace {
 
 Messereignisart Art(Liveereignisart art) {
     switch (art) {
-    case Liveereignisart::Begonnen: return Messereignisart::LiveBegonnen;
-    case Liveereignisart::Beendet: return Messereignisart::LiveBeendet;
-    case Liveereignisart::Verloren: return Messereignisart::Verloren;
-    case Liveereignisart::Zurueck: break;
+    case Liveereignisart::Begonnen:
+        return Messereignisart::LiveBegonnen;
+    case Liveereignisart::Beendet:
+        return Messereignisart::LiveBeendet;
+    case Liveereignisart::Verloren:
+        return Messereignisart::Verloren;
+    case Liveereignisart::Zurueck:
+        break;
     }
     return Messereignisart::Zurueck;
 }
@@ -49,10 +53,9 @@ void Messspeicher::Nimm(const Messereignis& ereignis) {
 
 void Messspeicher::Notiere(Zeit laufzeit, Systemzeit zeit, const std::string& text) {
     const Zeit stelle = Erstes() == Ende() ? laufzeit : std::max(laufzeit, Spanne().von);
-    const Messereignis notiz{
-        .art = Messereignisart::Notiz, .laufzeit = stelle, .zeit = zeit, .text = text};
+    const Messereignis notiz{.art = Messereignisart::Notiz, .laufzeit = stelle, .zeit = zeit, .text = text};
     const bool zumOffenen = pakete.empty() || (offenes.IstLeer() ? stelle > pakete.back().spanne.bis
-                                                                  : stelle >= offenes.Stand().spanne.von);
+                                                                 : stelle >= offenes.Stand().spanne.von);
     if (zumOffenen)
         Nimm(notiz);
     else

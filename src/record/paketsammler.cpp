@@ -26,7 +26,8 @@ void Paketsammler::Nimm(Messereignis ereignis) {
 
 bool Paketsammler::IstVoll() const {
     return paket.spanne.bis - paket.spanne.von >= Paketlaenge ||
-           paket.durchgaenge.size() >= GroessterPaketinhalt || paket.ereignisse.size() >= GroessterPaketinhalt;
+           paket.durchgaenge.size() >= GroessterPaketinhalt ||
+           paket.ereignisse.size() >= GroessterPaketinhalt;
 }
 
 Messpaket Paketsammler::Entnimm() {

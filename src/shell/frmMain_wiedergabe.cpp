@@ -15,9 +15,8 @@ std::unique_ptr<Wiedergabeablauf> frmMain::MacheWiedergabeablauf(const Hauptteil
         .verlange = [this] { befehle.Klick(Befehl::WiedergabeVerlassen); },
         .vergleiche = [this](const Vergleichsseite& a, const Vergleichsseite& b) { vergleich->Zeige(a, b); },
         .setzeQuelle = [](const Messquelle* /*quelle*/) {},
-        .oeffne = [](const std::string&, const std::function<bool(double)>&) {
-            return GeoeffneteAufzeichnung{};
-        }});
+        .oeffne = [](const std::string&,
+                     const std::function<bool(double)>&) { return GeoeffneteAufzeichnung{}; }});
 }
 
 void frmMain::OeffneAufzeichnung() {

@@ -34,8 +34,8 @@ namespace {
 
 constexpr std::int16_t TextAusgangAktiv = 3001, TextAusgangNichtAktiv = 3002, TextWiedergabe = 6500,
                        TextOeffnen = 6543, TextFilter = 6544, TextWirdGeoeffnet = 6545,
-                       TextOhneDurchgaenge = 6546, TextSpeichernUnter = 6547,
-                       TextKonfigurationsfilter = 2000, TextOhneKonfiguration = 6550, TextHerkunft = 6553;
+                       TextOhneDurchgaenge = 6546, TextSpeichernUnter = 6547, TextKonfigurationsfilter = 2000,
+                       TextOhneKonfiguration = 6550, TextHerkunft = 6553;
 constexpr int Fortschrittsschritte = 1000;
 constexpr std::chrono::milliseconds FortschrittNach(400);
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;

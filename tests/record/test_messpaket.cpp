@@ -13,8 +13,9 @@ namespace {
 Messpaket MitEreignissen() {
     Messpaket paket = LebhaftesPaket(3, 5);
     paket.spanne.von -= Zeit(10);
-    paket.ereignisse = {{Messereignisart::Notiz, Zeit(5), Probebeginn - std::chrono::hours(1), "Bahn gewechselt"},
-                        {Messereignisart::Verloren, paket.spanne.bis, Probebeginn, {}}};
+    paket.ereignisse = {
+        {Messereignisart::Notiz, Zeit(5), Probebeginn - std::chrono::hours(1), "Bahn gewechselt"},
+        {Messereignisart::Verloren, paket.spanne.bis, Probebeginn, {}}};
     return paket;
 }
 

@@ -12,7 +12,8 @@ using namespace std::chrono_literals;
 namespace {
 
 /// A pass of one part of 20 beams, the first two registers of which are given.
-Messdurchgang Einer(Zeit uhr, std::uint16_t wert, std::uint16_t erstes = 0xFFFF, std::uint16_t zweites = 0x0F00) {
+Messdurchgang Einer(Zeit uhr, std::uint16_t wert, std::uint16_t erstes = 0xFFFF,
+                    std::uint16_t zweites = 0x0F00) {
     Messdurchgang durchgang{.uhr = uhr, .anzahlTeile = 1, .geraetestatus = wert};
     Teilmessung& teil = durchgang.teile[0];
     teil = {.vorhanden = true, .gemessen = true, .status = wert, .strahlen = 20};
