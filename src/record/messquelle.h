@@ -43,8 +43,8 @@ struct Zeitspanne {
 /// About a second of the past. The clock of each pass is its `laufzeit`.
 struct Messpaket {
     Zeitspanne spanne{};
-    std::vector<Messdurchgang> durchgaenge;
-    std::vector<Messereignis> ereignisse;
+    std::vector<Messdurchgang> durchgaenge{};
+    std::vector<Messereignis> ereignisse{};
 
     bool operator==(const Messpaket&) const = default;
 };
