@@ -14,7 +14,7 @@ public:
     Wiedergabesteuerung& operator=(const Wiedergabesteuerung&) = delete;
     virtual ~Wiedergabesteuerung() = default;
 
-    virtual const Messquelle& Quelle() = 0;
+    virtual const Messquelle& Quelle() const = 0;
     /// Where the replay stands; the bar moves it.
     virtual Wiedergabe& Stand() = 0;
     /// The replay stands elsewhere: what was to be seen there is to be shown. Gives what that is.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ansichten.h"
+#include "aufzeichnungsleser.h"
 #include "befehlstabelle.h"
 #include "geraetebetrieb.h"
 #include "hauptmenue.h"
@@ -96,6 +97,8 @@ public:
     void SetzeLeihport(std::function<void(const std::function<void()>& tat)> neuer) {
         leihport = std::move(neuer);
     }
+    /// Sets what opens records to replay.
+    void SetzeAufzeichnungsleser(Aufzeichnungsleser neuer) { aufzeichnungsleser = std::move(neuer); }
     /// Says that the line leads to the built-in controller for the whole run.
     void SetzeImmerSimuliert(bool ist) { immerSimuliert = ist; }
     /// Says in the status bar whether the line leads to the built-in controller.
@@ -210,6 +213,7 @@ private:
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;
     std::unique_ptr<Wiedergabeablauf> wiedergabe;
+    Aufzeichnungsleser aufzeichnungsleser;
     bool liveNachWiedergabe = false; ///< live data ran when the replay began
     bool liveDatenPassen = true;     ///< to the configuration, when a command that paused them has ended
     bool entladen = false;

@@ -1,6 +1,7 @@
 // The replay as the main window sees it.
 
 #include "frmMain.h"
+#include "messablauf.h"
 #include "vergleichsablauf.h"
 #include "wiedergabeablauf.h"
 
@@ -14,9 +15,11 @@ std::unique_ptr<Wiedergabeablauf> frmMain::MacheWiedergabeablauf(const Hauptteil
         .teile = teile,
         .verlange = [this] { befehle.Klick(Befehl::WiedergabeVerlassen); },
         .vergleiche = [this](const Vergleichsseite& a, const Vergleichsseite& b) { vergleich->Zeige(a, b); },
-        .setzeQuelle = [](const Messquelle* /*quelle*/) {},
-        .oeffne = [](const std::string&,
-                     const std::function<bool(double)>&) { return GeoeffneteAufzeichnung{}; }});
+        .setzeWiedergabe = [this](Wiedergabestand* neue) { messung->SetzeWiedergabe(neue); },
+        .oeffne =
+            [this](const std::string& pfad, const std::function<bool(double)>& weiter) {
+                return aufzeichnungsleser ? aufzeichnungsleser(pfad, weiter) : GeoeffneteAufzeichnung();
+            }});
 }
 
 void frmMain::OeffneAufzeichnung() {

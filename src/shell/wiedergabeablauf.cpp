@@ -112,14 +112,15 @@ GeoeffneteAufzeichnung Wiedergabeablauf::OeffneMitFortschritt(const std::string&
     return ergebnis;
 }
 
-void Wiedergabeablauf::Beginne(std::unique_ptr<Messquelle> quelle, const std::string& datei) {
+void Wiedergabeablauf::Beginne(std::shared_ptr<const Messquelle> quelle, const std::string& datei) {
     if (!vorher)
         vorher = {ziel.teile.ansichten.HoleStand(), ziel.teile.menue.GezeigteTeile()};
     stand.reset();
-    const auto alte = std::exchange(aufzeichnung, std::move(quelle));
-    ziel.setzeQuelle(aufzeichnung.get());
+    ziel.setzeWiedergabe(nullptr);
+    aufzeichnung = std::move(quelle);
     pfad = datei;
     stand.emplace(*aufzeichnung);
+    ziel.setzeWiedergabe(this);
     gezeigt.reset();
     aufgebaut.clear();
     StelleAuf();
@@ -165,7 +166,7 @@ void Wiedergabeablauf::Beende() {
     if (!Laeuft())
         return;
     modDaten::ZeigeAnderesAbbild(nullptr);
-    ziel.setzeQuelle(nullptr);
+    ziel.setzeWiedergabe(nullptr);
     ziel.teile.verbindung.SetzeWiedergabe({});
     ziel.teile.status.ZeigeAusgangVon({}, {});
     ziel.fenster.setWindowTitle(titel);

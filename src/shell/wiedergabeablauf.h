@@ -1,7 +1,9 @@
 #pragma once
 
 #include "ansichten.h"
+#include "aufzeichnungsleser.h"
 #include "hauptteile.h"
+#include "messablauf.h"
 #include "vergleichsseite.h"
 #include "wiedergabe.h"
 #include "wiedergabesteuerung.h"
@@ -24,16 +26,10 @@ namespace varnoth {
 
 class frmWiedergabe;
 
-/// A record that was opened, or why it was not.
-struct GeoeffneteAufzeichnung {
-    std::unique_ptr<Messquelle> quelle{}; ///< nothing: it was not
-    std::string fehlertext{};             ///< empty: the user changed his mind
-};
-
 /// The replay as the main window runs it: a record is opened, shown by the views as if it were live, and left
 /// again. The configuration in use, what is known of the controller and the line are not touched meanwhile;
 /// what was shown is put aside and comes back.
-class Wiedergabeablauf : private Wiedergabesteuerung {
+class Wiedergabeablauf : private Wiedergabesteuerung, private Wiedergabestand {
 public:
     struct Ziel {
         QMainWindow& fenster;
@@ -42,12 +38,9 @@ public:
         std::function<void()> verlange;
         /// Compares two configurations in the window for that.
         std::function<void(const Vergleichsseite& a, const Vergleichsseite& b)> vergleiche;
-        /// What is looked at over time is from now on this source; nullptr: live data again.
-        std::function<void(const Messquelle* quelle)> setzeQuelle;
-        /// Opens a record (UTF-8 path); `weiter` hears how much is done, 0..1, and says whether to go on.
-        std::function<GeoeffneteAufzeichnung(const std::string& pfad,
-                                             const std::function<bool(double)>& weiter)>
-            oeffne;
+        /// What is looked at over time is from now on the record; nullptr: live data again.
+        std::function<void(Wiedergabestand* aufzeichnung)> setzeWiedergabe;
+        Aufzeichnungsleser oeffne;
     };
 
     explicit Wiedergabeablauf(Ziel ziel);
@@ -66,9 +59,9 @@ public:
     void Beende();
 
     /// The time of the record that is shown.
-    Zeit Jetzt() const { return stand ? stand->Position() : Zeit{0}; }
+    Zeit Jetzt() const override { return stand ? stand->Position() : Zeit{0}; }
     /// Goes on from a time.
-    void SpringeZu(Zeit laufzeit);
+    void SpringeZu(Zeit laufzeit) override;
     /// Shows the view of optical part 0..3.
     void ZeigeAnsicht(int optikteil);
     /// Fills all texts in the current language again.
@@ -81,7 +74,7 @@ private:
         std::array<bool, AnzahlOptikteile> menue{};
     };
 
-    const Messquelle& Quelle() override { return *aufzeichnung; }
+    const Messquelle& Quelle() const override { return *aufzeichnung; }
     Wiedergabe& Stand() override { return *stand; }
     Wiedergabelage Zeige() override;
     void Verlasse() override { ziel.verlange(); }
@@ -90,7 +83,7 @@ private:
     void SpeichereKonfiguration() override;
 
     GeoeffneteAufzeichnung OeffneMitFortschritt(const std::string& pfad);
-    void Beginne(std::unique_ptr<Messquelle> quelle, const std::string& pfad);
+    void Beginne(std::shared_ptr<const Messquelle> quelle, const std::string& pfad);
     void StelleAuf();
     void MacheLeiste();
     void ZeigeTitel();
@@ -103,7 +96,7 @@ private:
     std::string Dateiname() const;
 
     Ziel ziel;
-    std::unique_ptr<Messquelle> aufzeichnung;
+    std::shared_ptr<const Messquelle> aufzeichnung;
     std::optional<Wiedergabe> stand;
     std::string pfad;
     Abbild abbild; ///< that the views show

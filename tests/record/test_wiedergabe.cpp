@@ -61,7 +61,8 @@ TEST_F(StelleTest, Before_the_first_pass_there_is_nothing) {
 }
 
 TEST_F(StelleTest, A_lost_connection_is_no_last_pass_until_one_comes_again) {
-    quelle.Nimm(Paket(0s, 4s, {Durchgang(1s), Durchgang(4s)}, {Ereignis(Verloren, 2s), Ereignis(Zurueck, 3s)}));
+    quelle.Nimm(
+        Paket(0s, 4s, {Durchgang(1s), Durchgang(4s)}, {Ereignis(Verloren, 2s), Ereignis(Zurueck, 3s)}));
     EXPECT_EQ(Lage(1'999ms), Wiedergabelage::Messwert);
     EXPECT_EQ(Lage(2s), Wiedergabelage::Verloren);
     EXPECT_EQ(StelleUm(quelle, 2s).Durchgang(), nullptr);
@@ -78,7 +79,8 @@ TEST_F(StelleTest, A_gap_goes_on_into_later_packets) {
 }
 
 TEST_F(StelleTest, A_break_at_the_time_of_a_pass_comes_behind_it_and_a_return_before_it) {
-    quelle.Nimm(Paket(1s, 3s, {Durchgang(1s), Durchgang(3s)}, {Ereignis(Verloren, 1s), Ereignis(Zurueck, 3s)}));
+    quelle.Nimm(
+        Paket(1s, 3s, {Durchgang(1s), Durchgang(3s)}, {Ereignis(Verloren, 1s), Ereignis(Zurueck, 3s)}));
     EXPECT_EQ(Lage(1s), Wiedergabelage::Verloren);
     EXPECT_EQ(Lage(3s), Wiedergabelage::Messwert);
 }
