@@ -2,8 +2,8 @@
 
 #include "ui_frmDocument.h"
 
+#include "gezeigtesabbild.h"
 #include "lokalisiereform.h"
-#include "registerabbild.h"
 #include "registeradressen.h"
 #include "strahlbits.h"
 #include "strahlhinweis.h"
@@ -98,7 +98,8 @@ void frmDocument::ZeigeWerte() {
     if (gewaehlt != versatz)
         gezeigteWerte.fill(-1);
     versatz = gewaehlt;
-    const Werte werte = modDaten::HoleParameter(Spezifisch, spezifisch::Messwerte, optikteil);
+    const Werte werte =
+        modDaten::GezeigtesAbbild().HoleParameter(Spezifisch, spezifisch::Messwerte, optikteil);
     for (std::size_t k = 0; k < felder.size(); ++k) {
         const std::int32_t wert = werte[static_cast<std::size_t>(versatz) + k];
         if (wert != gezeigteWerte[k]) {
@@ -183,13 +184,14 @@ void frmDocument::NeuerDatensatz() {
 void frmDocument::StrahlzustaendeLiegenVor() {
     const std::int16_t anzahl = GezeigteStrahlregister(ui->BeamBar1->Strahlanzahl());
     if (anzahl > 0)
-        modDaten::HoleStrahlzustaende(anzahl, optikteil, strahlen);
+        strahlen = modDaten::GezeigtesAbbild().HoleStrahlzustaende(anzahl, optikteil);
 }
 
 void frmDocument::BlankingBekannt() {
     if (strahlen.empty())
         return;
-    const Werte blanking = modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, optikteil);
+    const Werte blanking =
+        modDaten::GezeigtesAbbild().HoleParameter(Spezifisch, spezifisch::Blankingmuster, optikteil);
     StartBeamRefresh();
     for (int strahl = 0; strahl < ui->BeamBar1->Strahlanzahl(); ++strahl)
         SetBeamIndexState(static_cast<std::int16_t>(strahl), StrahlBit(strahlen, strahl),
@@ -203,7 +205,7 @@ void frmDocument::MesswerteLiegenVor() {
 }
 
 std::int32_t frmDocument::Register(std::int16_t adresse) const {
-    return modDaten::HoleRegister(Spezifisch, adresse, optikteil);
+    return modDaten::GezeigtesAbbild().HoleRegister(Spezifisch, adresse, optikteil);
 }
 
 void frmDocument::VergissAnzeige() {

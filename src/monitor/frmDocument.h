@@ -58,6 +58,8 @@ public:
 
     /// Nothing that is shown holds any longer: no values and no status until the next ones come.
     void VerwirfWerte();
+    /// Whether what is shown is of another time, as in a replay, and so does not become old.
+    void SetzeZeitlos(bool ob);
 
     /// Fills all texts in the current language again.
     void Lokalisiere();
@@ -137,6 +139,7 @@ private:
     Ansager ansager;
     Werte strahlen;
     int strahlUnterMaus = -1;
+    bool zeitlos = false;
     bool warSichtbar = false;
 };
 

@@ -85,6 +85,12 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
      Leistengruppe::Pruefen},
+    {Befehl::Wiedergabe, "tlbWiedergabe", Ruht, Zeigt, [](Ziel& z, int) { z.OeffneAufzeichnung(); }, 0, 1,
+     "Ctrl+Shift+O", 6500, "wiedergabe", 6501, Leistengruppe::Verlauf},
+    {Befehl::WiedergabeVerlassen, "", LaeuftWeiter, Still, [](Ziel& z, int) { z.VerlasseWiedergabe(); }, 0,
+     0},
+    {Befehl::UebergebeneAufzeichnung, "", Ruht, Zeigt,
+     [](Ziel& z, int) { z.OeffneUebergebeneAufzeichnung(); }, 0, 0},
 };
 
 } // namespace

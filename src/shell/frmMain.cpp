@@ -20,6 +20,7 @@
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -95,6 +96,7 @@ frmMain::frmMain(const QString& programmordner)
     messung = std::make_unique<Messablauf>();
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
+    wiedergabe = MacheWiedergabeablauf(teile);
 }
 
 frmMain::~frmMain() = default;
@@ -177,6 +179,7 @@ void frmMain::Entlade() {
         return;
     entladen = true;
     modPolling::StoppePolling();
+    BeendeWiedergabe();
     BewahreFensterplatz(*this, Fensterabschnitt);
     ansichten->SpeicherePlaetze();
     leiste->SpeicherePlatz();

@@ -26,6 +26,8 @@
 #include "verbindungsablauf.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
+#include "wiedergaberegel.h"
 
 #include <QAction>
 #include <QMenu>
@@ -42,6 +44,8 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     if (zeile == nullptr || IstZuSpaet(befehl))
         return;
     MerkeBefehl(*zeile, index);
+    if (VerlaesstWiedergabe(befehl))
+        BeendeWiedergabe();
     zeile->tut(*this, index);
 }
 
@@ -110,6 +114,8 @@ void frmMain::SubBeenden() {
 }
 
 void frmMain::ZeigeAnsicht(int optikteil) {
+    if (wiedergabe->Laeuft())
+        return wiedergabe->ZeigeAnsicht(optikteil);
     ansichten->Zeige(optikteil, betrieb->IstLive());
 }
 
@@ -167,6 +173,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
+    wiedergabe->Lokalisiere();
 }
 
 void frmMain::OeffneLetzteDatei(int platz) {

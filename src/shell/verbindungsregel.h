@@ -35,6 +35,7 @@ enum class Verbindungszustand {
     PortOffen,  ///< a dialog has the line for itself
     Angehalten, ///< live data was stopped
     Offline,
+    Wiedergabe, ///< a record is shown; nothing is connected
 };
 
 /// How the connection is shown.
