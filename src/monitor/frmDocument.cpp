@@ -14,9 +14,11 @@
 #include "zoomkopf.h"
 
 #include <QButtonGroup>
+#include <QPointer>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace varnoth {
 
@@ -177,29 +179,48 @@ void frmDocument::BenenneWerte() {
 }
 
 void frmDocument::NeuerDatensatz() {
-    strahlen.clear();
+    scanBekannt = false;
 }
 
-void frmDocument::StrahlzustaendeLiegenVor() {
-    const std::int16_t anzahl = GezeigteStrahlregister(ui->BeamBar1->Strahlanzahl());
-    if (anzahl > 0)
-        modDaten::HoleStrahlzustaende(anzahl, optikteil, strahlen);
-}
+// They are drawn when the blanking pattern is known as well.
+void frmDocument::StrahlzustaendeLiegenVor() {}
 
 void frmDocument::BlankingBekannt() {
-    if (strahlen.empty())
+    scanBekannt = true;
+}
+
+// Shown while the line is busy, beams and values with one paint. What was taken back or discarded by then is
+// not shown.
+void frmDocument::MesswerteLiegenVor() {
+    if (std::exchange(faellig, true))
         return;
+    DieUmgebung().FuerWartezeit([sicht = QPointer<frmDocument>(this)] {
+        if (sicht != nullptr)
+            sicht->ZeigeFaelliges();
+    });
+}
+
+void frmDocument::ZeigeFaelliges() {
+    if (!std::exchange(faellig, false))
+        return;
+    if (std::exchange(scanBekannt, false))
+        ZeigeScan();
+    SetAktuellMinMaxStatus();
+    SetStatusSubgerät();
+}
+
+void frmDocument::ZeigeScan() {
+    const std::int16_t anzahl = GezeigteStrahlregister(ui->BeamBar1->Strahlanzahl());
+    if (anzahl == 0)
+        return;
+    Werte strahlen;
+    modDaten::HoleStrahlzustaende(anzahl, optikteil, strahlen);
     const Werte blanking = modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, optikteil);
     StartBeamRefresh();
     for (int strahl = 0; strahl < ui->BeamBar1->Strahlanzahl(); ++strahl)
         SetBeamIndexState(static_cast<std::int16_t>(strahl), StrahlBit(strahlen, strahl),
                           StrahlBit(blanking, strahl));
     EndeBeamRefresh();
-}
-
-void frmDocument::MesswerteLiegenVor() {
-    SetAktuellMinMaxStatus();
-    SetStatusSubgerät();
 }
 
 std::int32_t frmDocument::Register(std::int16_t adresse) const {
