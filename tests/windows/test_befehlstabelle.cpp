@@ -51,6 +51,9 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void OeffneAufzeichnung() override { getan = "replay"; }
+    void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
+    void VerlasseWiedergabe() override { getan = "leave replay"; }
 
     std::string getan;
 };
