@@ -45,8 +45,9 @@ struct Mitschnitt : Messhoerer {
     }
     void Hoere(const Liveereignis& ereignis) override {
         static constexpr Messereignisart arten[] = {LiveBegonnen, LiveBeendet, Verloren, Zurueck};
-        quelle->Nimm({.spanne = {ereignis.uhr, ereignis.uhr},
-                      .ereignisse = {{.art = arten[static_cast<int>(ereignis.art)], .laufzeit = ereignis.uhr}}});
+        quelle->Nimm(
+            {.spanne = {ereignis.uhr, ereignis.uhr},
+             .ereignisse = {{.art = arten[static_cast<int>(ereignis.art)], .laufzeit = ereignis.uhr}}});
     }
     std::shared_ptr<pruefung::PruefMessquelle> quelle = std::make_shared<pruefung::PruefMessquelle>();
 };
@@ -62,11 +63,12 @@ std::shared_ptr<pruefung::PruefMessquelle> Probe() {
         Messdurchgang durchgang{.uhr = i * 100ms, .anzahlTeile = 2};
         durchgang.geraetestatus = i < 10 ? 0 : 2;
         for (std::size_t teil = 0; teil < 2; ++teil)
-            durchgang.teile[teil] = {.vorhanden = true,
-                                     .gemessen = true,
-                                     .status = 0x81,
-                                     .strahlen = 16,
-                                     .werte = {static_cast<std::uint16_t>(100 * (teil + 1) + static_cast<std::size_t>(i))}};
+            durchgang.teile[teil] = {
+                .vorhanden = true,
+                .gemessen = true,
+                .status = 0x81,
+                .strahlen = 16,
+                .werte = {static_cast<std::uint16_t>(100 * (teil + 1) + static_cast<std::size_t>(i))}};
         if (i >= 30)
             durchgang.teile[1] = {.status = 0, .strahlen = 16};
         Messpaket paket{.spanne = {i * 100ms, i * 100ms + 99ms}, .durchgaenge = {durchgang}};
@@ -271,8 +273,9 @@ TEST_F(WiedergabeablaufTest, A_dialog_that_is_cancelled_leaves_live_data_on) {
 }
 
 TEST_F(WiedergabeablaufTest, A_record_that_cannot_be_opened_is_told_in_a_sentence) {
-    Fenster().SetzeAufzeichnungsleser(
-        [](const std::string&, const auto&) { return GeoeffneteAufzeichnung{{}, "Kein Lesen möglich."}; });
+    Fenster().SetzeAufzeichnungsleser([](const std::string&, const auto&) {
+        return GeoeffneteAufzeichnung{{}, "Kein Lesen möglich."};
+    });
     Waehle("tlbWiedergabe");
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0].text, "Kein Lesen möglich.\n/tmp/nacht.vrec");
@@ -457,16 +460,33 @@ TEST_F(WiedergabeablaufTest, Replay_shows_the_same_pictures_as_live_did) {
 TEST(WiedergaberegelTest, What_needs_the_line_or_the_configuration_leaves_the_replay) {
     using enum Befehl;
     for (const Befehl befehl :
-         {VisualisierenStart, VisualisierenStop, Einzelwerte, FirmwareUpdate, InitHardware, KonfigurationAnzeigen,
-          KonfigurationOeffnen, KonfigurationSpeichernUnter, NeueKonfiguration, ResetHardware, AutosendStarten,
-          LetzteDatei, SimuliertesGeraet, SicherungOeffnen, GeraetVergleichen, Bericht, AnschlussUebernehmen,
-          GeraetSuchen, LeitungPruefen})
+         {VisualisierenStart, VisualisierenStop, Einzelwerte, FirmwareUpdate, InitHardware,
+          KonfigurationAnzeigen, KonfigurationOeffnen, KonfigurationSpeichernUnter, NeueKonfiguration,
+          ResetHardware, AutosendStarten, LetzteDatei, SimuliertesGeraet, SicherungOeffnen, GeraetVergleichen,
+          Bericht, AnschlussUebernehmen, GeraetSuchen, LeitungPruefen})
         EXPECT_TRUE(VerlaesstWiedergabe(befehl)) << static_cast<int>(befehl);
-    for (const Befehl befehl :
-         {Keiner, LichtleisteAnzeigen, Beenden, FensterNebeneinander, FensterUeberlappend, FensterUntereinander,
-          UebertragenerWert, ComPort, Simulation, Hilfethemen, Info, Deutsch, Englisch, Sicherungen, Vergleich,
-          Darstellung, Busprotokoll, Verbindung, Befehl::Wiedergabe, UebergebeneDateien, UebergebeneAufzeichnung,
-          WiedergabeVerlassen})
+    for (const Befehl befehl : {Keiner,
+                                LichtleisteAnzeigen,
+                                Beenden,
+                                FensterNebeneinander,
+                                FensterUeberlappend,
+                                FensterUntereinander,
+                                UebertragenerWert,
+                                ComPort,
+                                Simulation,
+                                Hilfethemen,
+                                Info,
+                                Deutsch,
+                                Englisch,
+                                Sicherungen,
+                                Vergleich,
+                                Darstellung,
+                                Busprotokoll,
+                                Verbindung,
+                                Befehl::Wiedergabe,
+                                UebergebeneDateien,
+                                UebergebeneAufzeichnung,
+                                WiedergabeVerlassen})
         EXPECT_FALSE(VerlaesstWiedergabe(befehl)) << static_cast<int>(befehl);
 }
 
