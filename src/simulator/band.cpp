@@ -83,10 +83,9 @@ Band::Band(const std::filesystem::path& pfad) : datei(pfad, std::ios::binary) {
 
 void Band::PruefeKennung() {
     const auto kopf = LiesRoh(0, LaengeKennung);
-    if (kopf.size() < LaengeKennung || !std::equal(Kennung.begin(), Kennung.end(), kopf.begin(),
-                                                   [](char soll, std::uint8_t ist) {
-                                                       return static_cast<std::uint8_t>(soll) == ist;
-                                                   }))
+    if (kopf.size() < LaengeKennung ||
+        !std::equal(Kennung.begin(), Kennung.end(), kopf.begin(),
+                    [](char soll, std::uint8_t ist) { return static_cast<std::uint8_t>(soll) == ist; }))
         throw std::runtime_error("is no record");
     if (kopf.back() > HoechsteVersion)
         throw std::runtime_error("is a record of a newer version (" + std::to_string(kopf.back()) + ")");
@@ -146,7 +145,8 @@ void Band::Nimm(std::uint64_t ort, const Kopf& kopf) {
         konfigurationen.push_back(stelle);
     if (kopf.art != ArtPaket)
         return;
-    const auto spanne = LiesBandspanne(LiesRoh(ort + LaengeKopf, std::min<std::size_t>(kopf.laenge, LaengsteSpanne)));
+    const auto spanne =
+        LiesBandspanne(LiesRoh(ort + LaengeKopf, std::min<std::size_t>(kopf.laenge, LaengsteSpanne)));
     if (spanne && (pakete.empty() || pakete.back().von <= spanne->first))
         pakete.push_back({stelle, spanne->first, konfigurationen.size()});
 }
@@ -155,7 +155,8 @@ void Band::Nimm(std::uint64_t ort, const Kopf& kopf) {
 std::vector<std::uint8_t> Band::LiesInhalt(const Stelle& stelle) {
     const auto kopf = LiesRoh(stelle.ort, LaengeKopf);
     auto inhalt = LiesRoh(stelle.ort + LaengeKopf, stelle.laenge);
-    if (kopf.size() < LaengeKopf || inhalt.size() != stelle.laenge || Doppelwort(kopf, 12) != Bandpruefsumme(inhalt))
+    if (kopf.size() < LaengeKopf || inhalt.size() != stelle.laenge ||
+        Doppelwort(kopf, 12) != Bandpruefsumme(inhalt))
         inhalt.clear();
     return inhalt;
 }

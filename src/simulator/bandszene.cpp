@@ -51,10 +51,12 @@ void Optik::Schreibe(Registerspeicher& speicher, int teil, const Bandteil& geles
     speicher.Spezifisch(teil, reg::Strahlenzahl) = static_cast<std::uint16_t>(gelesen.strahlen);
     if (!gelesen.gemessen)
         return;
-    std::ranges::copy(gelesen.werte,
-                      speicher.Block({Bereich::Spezifisch, reg::Messwerte}, teil, reg::Messwertregister).begin());
-    std::ranges::copy(gelesen.strahlregister,
-                      speicher.Block({Bereich::Spezifisch, reg::Strahlen}, teil, reg::Strahlenregister).begin());
+    std::ranges::copy(
+        gelesen.werte,
+        speicher.Block({Bereich::Spezifisch, reg::Messwerte}, teil, reg::Messwertregister).begin());
+    std::ranges::copy(
+        gelesen.strahlregister,
+        speicher.Block({Bereich::Spezifisch, reg::Strahlen}, teil, reg::Strahlenregister).begin());
 }
 
 } // namespace varnoth::simulator

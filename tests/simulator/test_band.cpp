@@ -19,7 +19,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int Spezifisch = 0x2000;
-constexpr int StatusAdresse = Spezifisch + 44, Werteadresse = Spezifisch + 335, Strahladresse = Spezifisch + 353;
+constexpr int StatusAdresse = Spezifisch + 44, Werteadresse = Spezifisch + 335,
+              Strahladresse = Spezifisch + 353;
 
 struct BandTest : testing::Test {
     BandTest() {
@@ -50,8 +51,8 @@ struct BandTest : testing::Test {
         return alle;
     }
     /// A record of these passes; events go with the packet of their time.
-    std::string Aufzeichnung(const std::vector<Messdurchgang>& alle, std::vector<Messereignis> ereignisse = {},
-                             std::size_t jePaket = 10) const {
+    std::string Aufzeichnung(const std::vector<Messdurchgang>& alle,
+                             std::vector<Messereignis> ereignisse = {}, std::size_t jePaket = 10) const {
         Vrecform form;
         auto erste = std::make_shared<const Abbild>(konfiguration);
         std::string bytes = form.Beginne({}, erste);
@@ -88,9 +89,10 @@ struct BandTest : testing::Test {
     }
 
     Abbild konfiguration;
-    std::filesystem::path pfad = std::filesystem::temp_directory_path() /
-                                 ("varnoth_band_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                                  ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".vrec");
+    std::filesystem::path pfad =
+        std::filesystem::temp_directory_path() /
+        ("varnoth_band_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+         ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".vrec");
 };
 
 std::vector<int> AlsZahlen(std::span<const std::uint16_t> werte) {
@@ -156,7 +158,8 @@ TEST_F(BandTest, Stays_at_the_last_pass_or_begins_anew) {
     Probe wieder(MitBand(true));
     for (Probe* probe : {&bleibt, &wieder})
         for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(probe->Lies(Werteadresse, 18), AlsZahlen(alle[static_cast<std::size_t>(10 * i)].teile[0].werte));
+            EXPECT_EQ(probe->Lies(Werteadresse, 18),
+                      AlsZahlen(alle[static_cast<std::size_t>(10 * i)].teile[0].werte));
     EXPECT_EQ(bleibt.Lies(Werteadresse, 18), AlsZahlen(alle[20].teile[0].werte));
     EXPECT_EQ(wieder.Lies(Werteadresse, 18), AlsZahlen(alle[9].teile[0].werte));
 }
@@ -186,7 +189,8 @@ TEST_F(BandTest, Configuration_registers_are_those_of_the_record) {
 TEST_F(BandTest, A_configuration_that_changes_in_the_record_changes_on_the_line) {
     const auto alle = Zufaellige(20);
     auto erste = std::make_shared<const Abbild>(konfiguration);
-    ASSERT_TRUE(konfiguration.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 9, 2));
+    ASSERT_TRUE(
+        konfiguration.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 9, 2));
     auto zweite = std::make_shared<const Abbild>(konfiguration);
     Vrecform form;
     std::string bytes = form.Beginne({}, erste);
