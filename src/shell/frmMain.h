@@ -213,7 +213,7 @@ private:
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;
     std::unique_ptr<Wiedergabeablauf> wiedergabe;
-    Aufzeichnungsleser aufzeichnungsleser;
+    Aufzeichnungsleser aufzeichnungsleser = LiesAufzeichnung;
     bool liveNachWiedergabe = false; ///< live data ran when the replay began
     bool liveDatenPassen = true;     ///< to the configuration, when a command that paused them has ended
     bool entladen = false;

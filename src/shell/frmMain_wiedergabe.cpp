@@ -18,7 +18,7 @@ std::unique_ptr<Wiedergabeablauf> frmMain::MacheWiedergabeablauf(const Hauptteil
         .setzeWiedergabe = [this](Wiedergabestand* neue) { messung->SetzeWiedergabe(neue); },
         .oeffne =
             [this](const std::string& pfad, const std::function<bool(double)>& weiter) {
-                return aufzeichnungsleser ? aufzeichnungsleser(pfad, weiter) : GeoeffneteAufzeichnung();
+                return aufzeichnungsleser(pfad, weiter);
             }});
 }
 

@@ -88,10 +88,12 @@ void Wiedergabeablauf::Oeffne(const std::string& datei) {
         return;
     if (ergebnis.quelle != nullptr && ergebnis.quelle->Erstes() == ergebnis.quelle->Ende())
         ergebnis = {.fehlertext = LadeText(TextOhneDurchgaenge)};
-    if (ergebnis.quelle != nullptr)
+    if (ergebnis.quelle != nullptr) {
+        ziel.teile.status.Zeige(FeldMeldungen, ergebnis.hinweis);
         Beginne(std::move(ergebnis.quelle), datei);
-    else if (!ergebnis.fehlertext.empty())
+    } else if (!ergebnis.fehlertext.empty()) {
         ZeigeWarnung(Dateifehlertext(ergebnis.fehlertext, datei));
+    }
 }
 
 GeoeffneteAufzeichnung Wiedergabeablauf::OeffneMitFortschritt(const std::string& datei) {
@@ -169,6 +171,7 @@ void Wiedergabeablauf::Beende() {
     ziel.setzeWiedergabe(nullptr);
     ziel.teile.verbindung.SetzeWiedergabe({});
     ziel.teile.status.ZeigeAusgangVon({}, {});
+    ziel.teile.status.Zeige(FeldMeldungen, {});
     ziel.fenster.setWindowTitle(titel);
     if (rahmen != nullptr) {
         ziel.fenster.removeDockWidget(rahmen);

@@ -94,7 +94,8 @@ protected:
 
 TEST_F(FrmWiedergabeTest, Begins_at_the_beginning_with_its_time_of_day) {
     EXPECT_EQ(Position(), 0s);
-    EXPECT_EQ(Kind<QLabel>("lblPosition").text().toStdString(), "22.11.2026 15:43:18,000   +0:00,0 von 0:59,9");
+    EXPECT_EQ(Kind<QLabel>("lblPosition").text().toStdString(),
+              "22.11.2026 15:43:18,000   +0:00,0 von 0:59,9");
     EXPECT_EQ(steuerung.gezeigt.back(), 0s);
 }
 
@@ -215,7 +216,8 @@ TEST_F(FrmWiedergabeTest, Notes_and_changes_are_seen_on_the_time_line) {
 }
 
 TEST_F(FrmWiedergabeTest, Leaves_and_leads_to_the_record_s_configuration) {
-    for (const char* name : {"mnuAufzeichnungBericht", "mnuAufzeichnungVergleich", "mnuAufzeichnungSpeichern"})
+    for (const char* name :
+         {"mnuAufzeichnungBericht", "mnuAufzeichnungVergleich", "mnuAufzeichnungSpeichern"})
         Kind<QAction>(name).trigger();
     Klicke("cmdVerlassen");
     EXPECT_EQ(steuerung.getan, "berichte vergleiche speichere verlasse ");
@@ -227,7 +229,8 @@ TEST_F(FrmWiedergabeTest, Speaks_the_language_that_is_chosen) {
     leiste->Folge();
     EXPECT_EQ(Kind<QPushButton>("cmdVerlassen").text(), "End replay");
     EXPECT_EQ(Kind<QComboBox>("cboTempo").itemText(0), QString::fromUtf8("0.1 ×"));
-    EXPECT_EQ(Kind<QLabel>("lblPosition").text().toStdString(), "2026-11-22 15:43:18.000   +0:00.0 of 0:59.9");
+    EXPECT_EQ(Kind<QLabel>("lblPosition").text().toStdString(),
+              "2026-11-22 15:43:18.000   +0:00.0 of 0:59.9");
     EXPECT_EQ(Kind<QComboBox>("cboEreignis").currentText(), "Every event");
 }
 
@@ -258,11 +261,11 @@ TEST(WiedergabeworteTest, Every_event_has_words_of_its_own) {
     texte.push_back(Fundtext({.art = Sprungart::Notiz, .text = "x"}));
     for (const auto art : {LiveBegonnen, LiveBeendet, Verloren, Zurueck})
         texte.push_back(Fundtext({.art = Sprungart::Verbindung, .ereignis = art}));
-    EXPECT_EQ(texte, (std::vector<std::string>{
-                         "Schaltausgang aus", "Optikteil 3 fort", "Schaltausgang ein", "Optikteil 3 wieder da",
-                         "Zustand von Optikteil 2 anders", "Zustand des Steuergeräts anders", "Notiz: x",
-                         "Live-Daten begonnen", "Live-Daten beendet", "Verbindung verloren",
-                         "Verbindung wieder da"}));
+    EXPECT_EQ(texte, (std::vector<std::string>{"Schaltausgang aus", "Optikteil 3 fort", "Schaltausgang ein",
+                                               "Optikteil 3 wieder da", "Zustand von Optikteil 2 anders",
+                                               "Zustand des Steuergeräts anders", "Notiz: x",
+                                               "Live-Daten begonnen", "Live-Daten beendet",
+                                               "Verbindung verloren", "Verbindung wieder da"}));
 }
 
 } // namespace varnoth

@@ -11,6 +11,7 @@
 #include "polling.h"
 #include "pruefmessquelle.h"
 #include "texte.h"
+#include "vrecform.h"
 #include "wiedergaberegel.h"
 #include "wiedergabeworte.h"
 
@@ -45,8 +46,9 @@ struct Mitschnitt : Messhoerer {
     }
     void Hoere(const Liveereignis& ereignis) override {
         static constexpr Messereignisart arten[] = {LiveBegonnen, LiveBeendet, Verloren, Zurueck};
-        quelle->Nimm({.spanne = {ereignis.uhr, ereignis.uhr},
-                      .ereignisse = {{.art = arten[static_cast<int>(ereignis.art)], .laufzeit = ereignis.uhr}}});
+        quelle->Nimm(
+            {.spanne = {ereignis.uhr, ereignis.uhr},
+             .ereignisse = {{.art = arten[static_cast<int>(ereignis.art)], .laufzeit = ereignis.uhr}}});
     }
     std::shared_ptr<pruefung::PruefMessquelle> quelle = std::make_shared<pruefung::PruefMessquelle>();
 };
@@ -62,11 +64,12 @@ std::shared_ptr<pruefung::PruefMessquelle> Probe() {
         Messdurchgang durchgang{.uhr = i * 100ms, .anzahlTeile = 2};
         durchgang.geraetestatus = i < 10 ? 0 : 2;
         for (std::size_t teil = 0; teil < 2; ++teil)
-            durchgang.teile[teil] = {.vorhanden = true,
-                                     .gemessen = true,
-                                     .status = 0x81,
-                                     .strahlen = 16,
-                                     .werte = {static_cast<std::uint16_t>(100 * (teil + 1) + static_cast<std::size_t>(i))}};
+            durchgang.teile[teil] = {
+                .vorhanden = true,
+                .gemessen = true,
+                .status = 0x81,
+                .strahlen = 16,
+                .werte = {static_cast<std::uint16_t>(100 * (teil + 1) + static_cast<std::size_t>(i))}};
         if (i >= 30)
             durchgang.teile[1] = {.status = 0, .strahlen = 16};
         Messpaket paket{.spanne = {i * 100ms, i * 100ms + 99ms}, .durchgaenge = {durchgang}};
@@ -98,7 +101,7 @@ protected:
     }
     void Lies(std::shared_ptr<const Messquelle> quelle) {
         Fenster().SetzeAufzeichnungsleser([quelle](const std::string&, const auto& weiter) {
-            return weiter(0.5) ? GeoeffneteAufzeichnung{quelle, {}} : GeoeffneteAufzeichnung();
+            return weiter(0.5) ? GeoeffneteAufzeichnung{.quelle = quelle} : GeoeffneteAufzeichnung();
         });
     }
     void Oeffne(std::shared_ptr<const Messquelle> quelle) {
@@ -271,8 +274,9 @@ TEST_F(WiedergabeablaufTest, A_dialog_that_is_cancelled_leaves_live_data_on) {
 }
 
 TEST_F(WiedergabeablaufTest, A_record_that_cannot_be_opened_is_told_in_a_sentence) {
-    Fenster().SetzeAufzeichnungsleser(
-        [](const std::string&, const auto&) { return GeoeffneteAufzeichnung{{}, "Kein Lesen möglich."}; });
+    Fenster().SetzeAufzeichnungsleser([](const std::string&, const auto&) {
+        return GeoeffneteAufzeichnung{.fehlertext = "Kein Lesen möglich."};
+    });
     Waehle("tlbWiedergabe");
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_EQ(umgebung.meldungen[0].text, "Kein Lesen möglich.\n/tmp/nacht.vrec");
@@ -294,7 +298,7 @@ TEST_F(WiedergabeablaufTest, Opening_can_be_cancelled_and_leaves_what_was_replay
         EXPECT_EQ(dialog->value(), 100);
         dialog->cancel();
         weiterGefragt = weiter(0.2);
-        return GeoeffneteAufzeichnung{Probe(), {}};
+        return GeoeffneteAufzeichnung{.quelle = Probe()};
     });
     Waehle("tlbWiedergabe");
     EXPECT_FALSE(weiterGefragt);
@@ -454,19 +458,66 @@ TEST_F(WiedergabeablaufTest, Replay_shows_the_same_pictures_as_live_did) {
     EXPECT_EQ(verglichene, 2 * live.size());
 }
 
+TEST_F(WiedergabeablaufTest, A_file_is_read_shown_and_what_is_missing_of_it_is_said) {
+    const auto quelle = Probe();
+    auto konfiguration = std::make_shared<const Abbild>(quelle->konfiguration);
+    Vrecform form;
+    std::string bytes = form.Beginne(quelle->angaben, konfiguration);
+    for (const Messpaket& paket : quelle->pakete)
+        bytes += form.Nimm(paket, konfiguration);
+    QTemporaryDir ordner;
+    antwort = ordner.filePath("ganz.vrec").toStdString();
+    ASSERT_EQ(ErsetzeDatei(*antwort, bytes + form.Beende()), "");
+    Waehle("tlbWiedergabe");
+    EXPECT_EQ(GezeigterWert(1), "200");
+    EXPECT_EQ(Statusfeld(1).text(), "");
+    antwort = ordner.filePath("ohne ende.vrec").toStdString();
+    ASSERT_EQ(ErsetzeDatei(*antwort, bytes), "");
+    Waehle("tlbWiedergabe");
+    SchreiteVor(3);
+    EXPECT_EQ(GezeigterWert(1), "203");
+    EXPECT_FALSE(Statusfeld(1).text().isEmpty());
+    Verlasse();
+    EXPECT_EQ(Statusfeld(1).text(), "");
+    antwort = ordner.filePath("keine.vrec").toStdString();
+    Waehle("tlbWiedergabe");
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    ASSERT_EQ(ErsetzeDatei(*antwort, "nichts"), "");
+    Waehle("tlbWiedergabe");
+    ASSERT_EQ(umgebung.meldungen.size(), 2U);
+    EXPECT_NE(umgebung.meldungen[1].text, umgebung.meldungen[0].text);
+}
+
 TEST(WiedergaberegelTest, What_needs_the_line_or_the_configuration_leaves_the_replay) {
     using enum Befehl;
     for (const Befehl befehl :
-         {VisualisierenStart, VisualisierenStop, Einzelwerte, FirmwareUpdate, InitHardware, KonfigurationAnzeigen,
-          KonfigurationOeffnen, KonfigurationSpeichernUnter, NeueKonfiguration, ResetHardware, AutosendStarten,
-          LetzteDatei, SimuliertesGeraet, SicherungOeffnen, GeraetVergleichen, Bericht, AnschlussUebernehmen,
-          GeraetSuchen, LeitungPruefen})
+         {VisualisierenStart, VisualisierenStop, Einzelwerte, FirmwareUpdate, InitHardware,
+          KonfigurationAnzeigen, KonfigurationOeffnen, KonfigurationSpeichernUnter, NeueKonfiguration,
+          ResetHardware, AutosendStarten, LetzteDatei, SimuliertesGeraet, SicherungOeffnen, GeraetVergleichen,
+          Bericht, AnschlussUebernehmen, GeraetSuchen, LeitungPruefen})
         EXPECT_TRUE(VerlaesstWiedergabe(befehl)) << static_cast<int>(befehl);
-    for (const Befehl befehl :
-         {Keiner, LichtleisteAnzeigen, Beenden, FensterNebeneinander, FensterUeberlappend, FensterUntereinander,
-          UebertragenerWert, ComPort, Simulation, Hilfethemen, Info, Deutsch, Englisch, Sicherungen, Vergleich,
-          Darstellung, Busprotokoll, Verbindung, Befehl::Wiedergabe, UebergebeneDateien, UebergebeneAufzeichnung,
-          WiedergabeVerlassen})
+    for (const Befehl befehl : {Keiner,
+                                LichtleisteAnzeigen,
+                                Beenden,
+                                FensterNebeneinander,
+                                FensterUeberlappend,
+                                FensterUntereinander,
+                                UebertragenerWert,
+                                ComPort,
+                                Simulation,
+                                Hilfethemen,
+                                Info,
+                                Deutsch,
+                                Englisch,
+                                Sicherungen,
+                                Vergleich,
+                                Darstellung,
+                                Busprotokoll,
+                                Verbindung,
+                                Befehl::Wiedergabe,
+                                UebergebeneDateien,
+                                UebergebeneAufzeichnung,
+                                WiedergabeVerlassen})
         EXPECT_FALSE(VerlaesstWiedergabe(befehl)) << static_cast<int>(befehl);
 }
 
