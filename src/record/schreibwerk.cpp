@@ -31,13 +31,13 @@ Schreibwerk::Schreibwerk(Dateiablage& dieAblage, Aufzeichnungsauftrag derAuftrag
 
 Schreibwerk::~Schreibwerk() = default;
 
-int Schreibwerk::Beginne(Zeitpunkt jetzt, std::shared_ptr<const Abbild> neue) {
+int Schreibwerk::Beginne(Augenblick jetzt, std::shared_ptr<const Abbild> neue) {
     konfiguration = std::move(neue);
     begonnen = gesichert = jetzt.uhr;
     return Eroeffne(jetzt);
 }
 
-void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t verworfene, Zeitpunkt jetzt) {
+void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t verworfene, Augenblick jetzt) {
     if (stand.fertig)
         return;
     stand.dauer = jetzt.uhr - begonnen;
@@ -62,7 +62,7 @@ void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t ve
     }
 }
 
-void Schreibwerk::Beende(Zeitpunkt jetzt) {
+void Schreibwerk::Beende(Augenblick jetzt) {
     stand.dauer = jetzt.uhr - begonnen;
     MeldeVerworfene(jetzt);
     Schliesse(jetzt.uhr);
@@ -89,7 +89,7 @@ int Schreibwerk::LegeAn(Satz& neuer, int welche) {
 }
 
 /// Begins files of the next number that is free.
-int Schreibwerk::Eroeffne(Zeitpunkt jetzt) {
+int Schreibwerk::Eroeffne(Augenblick jetzt) {
     Satz neuer{.beginn = jetzt, .ende = jetzt.uhr};
     int welche = nummer + 1;
     int fehler = LegeAn(neuer, welche);
@@ -134,7 +134,7 @@ bool Schreibwerk::HatZuvieleBytes() const {
            });
 }
 
-bool Schreibwerk::IstVoll(Zeitpunkt jetzt) const {
+bool Schreibwerk::IstVoll(Augenblick jetzt) const {
     const Aufzeichnungswahl& wahl = auftrag.wahl;
     if (laufender.leer)
         return false;
@@ -218,7 +218,7 @@ void Schreibwerk::Stoere(int fehler, Zeit jetzt) {
     laufender = {};
 }
 
-void Schreibwerk::VersucheWieder(Zeitpunkt jetzt) {
+void Schreibwerk::VersucheWieder(Augenblick jetzt) {
     if (jetzt.uhr - versucht < Versuchsabstand)
         return;
     versucht = jetzt.uhr;
@@ -238,7 +238,7 @@ void Schreibwerk::Verwirf(Messpaket inhalt) {
 }
 
 /// The file tells how much is missing before what follows.
-void Schreibwerk::MeldeVerworfene(Zeitpunkt jetzt) {
+void Schreibwerk::MeldeVerworfene(Augenblick jetzt) {
     if (stand.fehler != 0 || laufender.dateien.empty() || (zuMelden == 0 && nachzutragen.empty()))
         return;
     Aufnahmestueck stueck;

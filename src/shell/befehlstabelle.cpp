@@ -85,6 +85,12 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
      Leistengruppe::Pruefen},
+    {Befehl::Aufzeichnung, "tlbAufzeichnung", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.SchalteAufzeichnung(); }, 0, 1, "Ctrl+R", 6220, "aufnahme", 6221,
+     Leistengruppe::Verlauf},
+    {Befehl::Aufzeichnungen, "tlbAufzeichnungen", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.ZeigeAufzeichnungen(); }, 0, 1, "Ctrl+Shift+R", 6222, "aufzeichnungen", 6223,
+     Leistengruppe::Verlauf},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
 #include "erscheinungsbild.h"
@@ -91,6 +92,7 @@ frmMain::frmMain(const QString& programmordner)
                                  SeiteJetzt(Vergleichsquelle::InBearbeitung));
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
+    aufzeichnung = MacheAufzeichnungsablauf();
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
 }
@@ -183,6 +185,7 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    aufzeichnung->Schliesse();
     verbindung->Schliesse();
     hide();
 }

@@ -26,6 +26,7 @@ class frmMain;
 }
 
 class Vergleichsablauf;
+class Aufzeichnungsablauf;
 class Busablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
@@ -120,6 +121,7 @@ private:
     void LiesEinstellungen();
     void ZeigePort();
     std::unique_ptr<Verbindungsablauf> MacheVerbindungsablauf();
+    std::unique_ptr<Aufzeichnungsablauf> MacheAufzeichnungsablauf();
     bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
     void BaueAnsichtenAuf();
     void ZeigeWillkommen();
@@ -177,6 +179,8 @@ private:
     void PruefeLeitung() override;
     void BieteDarstellung() override;
     void ZeigeBusprotokoll() override;
+    void SchalteAufzeichnung() override;
+    void ZeigeAufzeichnungen() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -196,6 +200,7 @@ private:
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
     std::unique_ptr<Busablauf> bus;
+    std::unique_ptr<Aufzeichnungsablauf> aufzeichnung;
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -42,6 +42,8 @@ enum class Befehl {
     AnschlussUebernehmen = 151,
     GeraetSuchen = 152,
     LeitungPruefen = 153,
+    Aufzeichnung = 160,
+    Aufzeichnungen = 161,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.
