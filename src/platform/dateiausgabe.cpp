@@ -90,8 +90,8 @@ Angelegt Dateiausgabe::LegeAn(const std::string& pfad) {
     const auto ordner = std::filesystem::path(pfad).parent_path();
     std::error_code fehler;
     std::filesystem::create_directories(ordner, fehler);
-    const int handle = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW | O_CLOEXEC,
-                              WieDokumente);
+    const int handle =
+        ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW | O_CLOEXEC, WieDokumente);
     if (handle < 0)
         return {.fehler = fehler ? fehler.value() : errno};
     SichereOrdner(ordner);

@@ -35,11 +35,11 @@ struct Aufzeichnungswahl {
     bool csv = true;
     Csvart csvart = Csvart::Standard;
     Rhythmus rhythmus = Rhythmus::JederDurchgang;
-    int sekunden = 10;       ///< of the rhythm
-    int megabyte = 0;        ///< a new file begins when one holds so many
+    int sekunden = 10;        ///< of the rhythm
+    int megabyte = 0;         ///< a new file begins when one holds so many
     bool mitternacht = false; ///< a new file begins at midnight, local time
-    int endeMinuten = 0;     ///< the recording ends after so many
-    int behalteStunden = 0;  ///< what is older is deleted
+    int endeMinuten = 0;      ///< the recording ends after so many
+    int behalteStunden = 0;   ///< what is older is deleted
 
     bool operator==(const Aufzeichnungswahl&) const = default;
 };

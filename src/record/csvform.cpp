@@ -191,8 +191,8 @@ std::string Strahlhex(const Teilmessung& messung) {
 }
 
 int GeblankteStrahlen(const Abbild& konfiguration, int teil, int strahlen) {
-    const Werte muster =
-        konfiguration.HoleParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Blankingmuster, teil);
+    const Werte muster = konfiguration.HoleParameter(Speicherbereich::SpezifischeGeraetedaten,
+                                                     spezifisch::Blankingmuster, teil);
     int anzahl = 0;
     for (int strahl = 0; strahl < strahlen; ++strahl)
         anzahl += StrahlBit(muster, strahl) ? 1 : 0;

@@ -11,8 +11,9 @@ namespace varnoth {
 
 /// The words of a CSV file.
 struct Csvworte {
-    std::vector<std::string> spalten;        ///< the headings, all of them
-    std::array<std::string, 6> ereignisse{}; ///< what has happened, in the order of Messereignisart; %1 its text
+    std::vector<std::string> spalten; ///< the headings, all of them
+    std::array<std::string, 6>
+        ereignisse{}; ///< what has happened, in the order of Messereignisart; %1 its text
 };
 
 /// The words in the current language.

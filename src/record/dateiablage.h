@@ -32,7 +32,7 @@ public:
 
 struct Angelegt {
     std::unique_ptr<Ausgabedatei> datei{}; ///< nullptr after an error
-    int fehler = 0;                      ///< EEXIST where something, even a link, is there already
+    int fehler = 0;                        ///< EEXIST where something, even a link, is there already
 };
 
 class Dateiablage {

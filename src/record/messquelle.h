@@ -60,7 +60,9 @@ struct Messangaben {
     bool operator==(const Messangaben&) const = default;
 };
 
-/// Packets are numbered through; in memory the oldest go, so that the first number grows.
+/// Packets are numbered through; in memory the oldest go, so that the first number grows. The newest packet
+/// may still grow, and one may get a note: whoever keeps packets reads the newest again when the end of
+/// `Spanne` has moved, and others never hear of a note that came later.
 class Messquelle {
 public:
     Messquelle() = default;
@@ -80,6 +82,8 @@ public:
     virtual std::uint64_t PaketUm(Zeit laufzeit) const = 0;
     /// What a packet holds; nothing when it is gone or damaged. Those read lately are at hand.
     virtual std::shared_ptr<const Messpaket> Lies(std::uint64_t nummer) const = 0;
+    /// Whether events may stand in a packet; true where that is not known without reading it.
+    virtual bool HatEreignisse(std::uint64_t /*nummer*/) const { return true; }
     /// The configuration that was in use at a packet's beginning; nothing when it is damaged.
     virtual std::shared_ptr<const Abbild> Konfiguration(std::uint64_t nummer) const = 0;
     /// What can be drawn of the whole without reading it.

@@ -129,9 +129,8 @@ int Schreibwerk::HaengeAn(Datei& datei, const std::string& bytes) {
 
 bool Schreibwerk::HatZuvieleBytes() const {
     const std::uint64_t grenze = static_cast<std::uint64_t>(auftrag.wahl.megabyte) * Megabyte;
-    return grenze > 0 && std::ranges::any_of(laufender.dateien, [grenze](const Datei& datei) {
-               return datei.bytes >= grenze;
-           });
+    return grenze > 0 && std::ranges::any_of(laufender.dateien,
+                                             [grenze](const Datei& datei) { return datei.bytes >= grenze; });
 }
 
 bool Schreibwerk::IstVoll(Augenblick jetzt) const {

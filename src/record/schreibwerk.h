@@ -23,8 +23,8 @@ struct Augenblick {
 /// What is to be recorded, where and how.
 struct Aufzeichnungsauftrag {
     Aufzeichnungswahl wahl{};
-    std::string ordner{}; ///< UTF-8
-    std::string name{};   ///< of the first file without ending; those that follow get a number
+    std::string ordner{};  ///< UTF-8
+    std::string name{};    ///< of the first file without ending; those that follow get a number
     Messangaben angaben{}; ///< `beginn` and zone are those of each file
     struct Form {
         std::string endung; ///< ".csv"
@@ -42,13 +42,13 @@ struct Aufnahmestueck {
 /// How a recording stands.
 struct Aufzeichnungsstand {
     Zeit dauer{};
-    std::uint64_t bytes = 0;      ///< of all its files
-    std::uint64_t durchgaenge = 0; ///< recorded
-    std::uint64_t verworfen = 0;  ///< passes that could not be kept
-    int dateien = 0;              ///< begun so far
+    std::uint64_t bytes = 0;        ///< of all its files
+    std::uint64_t durchgaenge = 0;  ///< recorded
+    std::uint64_t verworfen = 0;    ///< passes that could not be kept
+    int dateien = 0;                ///< begun so far
     std::vector<std::string> pfade; ///< of the newest files, one a form
-    int fehler = 0;               ///< why nothing can be written now; 0 while all is well
-    bool fertig = false;          ///< the time that was chosen is up
+    int fehler = 0;                 ///< why nothing can be written now; 0 while all is well
+    bool fertig = false;            ///< the time that was chosen is up
 };
 
 /// Writes a recording: which passes, into which files, what becomes of full and of old ones. All of it
@@ -81,7 +81,7 @@ private:
         std::vector<Datei> dateien{};
         Augenblick beginn{};
         Zeit ende{};
-        bool leer = true;        ///< holds nothing but its beginning
+        bool leer = true; ///< holds nothing but its beginning
     };
 
     std::string Pfad(std::size_t form, int nummer) const;
@@ -111,7 +111,7 @@ private:
     Zeit begonnen{};
     Zeit gesichert{};
     Zeit versucht{};
-    std::uint64_t zuMelden = 0; ///< lost passes that no file tells of yet
+    std::uint64_t zuMelden = 0;             ///< lost passes that no file tells of yet
     std::vector<Messereignis> nachzutragen; ///< what has happened while nothing could be written
 };
 

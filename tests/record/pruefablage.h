@@ -53,7 +53,7 @@ public:
     }
 
     std::uint64_t platz = std::numeric_limits<std::uint64_t>::max();
-    int versuche = 0;           ///< to make a file
+    int versuche = 0; ///< to make a file
     int sicherungen = 0;
     std::set<std::string> offene; ///< never closed so far
 

@@ -41,14 +41,13 @@ Systemzeit Um(std::chrono::sys_seconds zeit) {
 }
 
 TEST(Aufzeichnungswahl, Numbers_out_of_range_come_into_it) {
-    const auto klein = Begrenzt(
-        {.sekunden = 0, .megabyte = -1, .endeMinuten = -5, .behalteStunden = -1});
+    const auto klein = Begrenzt({.sekunden = 0, .megabyte = -1, .endeMinuten = -5, .behalteStunden = -1});
     EXPECT_EQ(klein.sekunden, 1);
     EXPECT_EQ(klein.megabyte, 0);
     EXPECT_EQ(klein.endeMinuten, 0);
     EXPECT_EQ(klein.behalteStunden, 0);
-    const auto gross = Begrenzt(
-        {.sekunden = 9999, .megabyte = 99'999, .endeMinuten = 1'000'000, .behalteStunden = 99'999});
+    const auto gross =
+        Begrenzt({.sekunden = 9999, .megabyte = 99'999, .endeMinuten = 1'000'000, .behalteStunden = 99'999});
     EXPECT_EQ(gross.sekunden, 3600);
     EXPECT_EQ(gross.megabyte, 10'000);
     EXPECT_EQ(gross.endeMinuten, 100'000);

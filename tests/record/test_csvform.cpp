@@ -78,7 +78,8 @@ TEST_F(CsvformTest, Every_line_has_as_many_fields_as_the_first) {
                                      .ereignisse = {{.art = Messereignisart::Verloren, .laufzeit = 100s}}});
     std::size_t anfang = 0;
     int zeilen = 0;
-    for (auto ende = text.find("\r\n"); ende != std::string::npos; ende = text.find("\r\n", anfang), ++zeilen) {
+    for (auto ende = text.find("\r\n"); ende != std::string::npos;
+         ende = text.find("\r\n", anfang), ++zeilen) {
         EXPECT_EQ(std::count(text.begin() + static_cast<std::ptrdiff_t>(anfang),
                              text.begin() + static_cast<std::ptrdiff_t>(ende), ','),
                   25)
@@ -112,9 +113,9 @@ TEST_F(CsvformTest, A_pass_without_any_part_still_tells_the_output) {
 TEST_F(CsvformTest, An_event_is_a_line_of_its_own_between_the_passes_of_its_time) {
     Messdurchgang danach = durchgang;
     danach.uhr = 63s;
-    const std::string zeilen = Zeilen(
-        {.durchgaenge = {durchgang, danach},
-         .ereignisse = {{.art = Messereignisart::Verloren, .laufzeit = 62s, .zeit = durchgang.zeit}}});
+    const std::string zeilen =
+        Zeilen({.durchgaenge = {durchgang, danach},
+                .ereignisse = {{.art = Messereignisart::Verloren, .laufzeit = 62s, .zeit = durchgang.zeit}}});
     const auto wo = zeilen.find("2026-03-01T14:05:09.123+01:00,62.000,,");
     ASSERT_NE(wo, std::string::npos);
     EXPECT_LT(zeilen.find(",61.008,"), wo);
@@ -123,8 +124,7 @@ TEST_F(CsvformTest, An_event_is_a_line_of_its_own_between_the_passes_of_its_time
 }
 
 TEST_F(CsvformTest, How_many_passes_are_missing_is_told) {
-    const std::string zeilen =
-        Zeilen({.ereignisse = {{.art = Messereignisart::Verworfen, .text = "17"}}});
+    const std::string zeilen = Zeilen({.ereignisse = {{.art = Messereignisart::Verworfen, .text = "17"}}});
     EXPECT_NE(zeilen.find("\"17 passes are missing\""), std::string::npos);
 }
 

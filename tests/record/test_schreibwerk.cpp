@@ -62,8 +62,9 @@ protected:
         for (const Zeit uhr : uhren)
             stueck.inhalt.durchgaenge.push_back({.zeit = Um(uhr).zeit, .uhr = Um(uhr).uhr});
         for (int i = 0; i < ereignisse; ++i)
-            stueck.inhalt.ereignisse.push_back(
-                {.art = Messereignisart::Notiz, .laufzeit = stueck.inhalt.durchgaenge.back().uhr, .text = "n"});
+            stueck.inhalt.ereignisse.push_back({.art = Messereignisart::Notiz,
+                                                .laufzeit = stueck.inhalt.durchgaenge.back().uhr,
+                                                .text = "n"});
         return stueck;
     }
     /// A second of the recording with one pass at its end.
