@@ -23,6 +23,18 @@ std::string Nummerntext(int nummer) {
     return "_" + ziffern;
 }
 
+/// When the first of what is to be written was.
+Augenblick AnfangVon(const std::vector<Aufnahmestueck>& stuecke, Augenblick jetzt) {
+    Zeit anfang = jetzt.uhr;
+    for (const Aufnahmestueck& stueck : stuecke) {
+        if (!stueck.inhalt.durchgaenge.empty())
+            anfang = std::min(anfang, stueck.inhalt.durchgaenge.front().uhr);
+        if (!stueck.inhalt.ereignisse.empty())
+            anfang = std::min(anfang, stueck.inhalt.ereignisse.front().laufzeit);
+    }
+    return {.uhr = anfang, .zeit = jetzt.zeit - (jetzt.uhr - anfang)};
+}
+
 } // namespace
 
 Schreibwerk::Schreibwerk(Dateiablage& dieAblage, Aufzeichnungsauftrag derAuftrag)
@@ -43,14 +55,15 @@ void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t ve
     stand.dauer = jetzt.uhr - begonnen;
     stand.verworfen += verworfene;
     zuMelden += verworfene;
+    const Augenblick anfang = AnfangVon(stuecke, jetzt);
     if (stand.fehler != 0)
-        VersucheWieder(jetzt);
+        VersucheWieder(anfang, jetzt.uhr);
     if (stand.fehler == 0 && IstVoll(jetzt)) {
-        Schliesse(jetzt.uhr);
-        if (const int fehler = Eroeffne(jetzt); fehler != 0)
+        Schliesse(anfang.uhr);
+        if (const int fehler = Eroeffne(anfang); fehler != 0)
             Stoere(fehler, jetzt.uhr);
     }
-    MeldeVerworfene(jetzt);
+    MeldeVerworfene(anfang);
     for (Aufnahmestueck& stueck : stuecke)
         Schreibe(std::move(stueck));
     Sichere(jetzt.uhr);
@@ -176,16 +189,17 @@ void Schreibwerk::Schreibe(Aufnahmestueck stueck) {
         }
     }
     laufender.leer = false;
+    laufender.bis = paket.spanne.bis;
     stand.durchgaenge += paket.durchgaenge.size();
 }
 
-/// What is due of it, with times from the beginning of the file on.
+/// What is due of it, with times from the beginning of the file on, which never go back.
 Messpaket Schreibwerk::AlsPaket(Messpaket inhalt) {
     if (!inhalt.ereignisse.empty())
         auswahl.BeginneNeu();
     std::erase_if(inhalt.durchgaenge, [this](const Messdurchgang& einer) { return !auswahl.Nimm(einer); });
-    const auto verschiebe = [&, bis = Zeit{}](Zeit& uhr) mutable { // a clock that stands still is no error
-        uhr = bis = std::max(bis, uhr - laufender.beginn.uhr);
+    const auto verschiebe = [anfang = laufender.beginn.uhr, bis = laufender.bis](Zeit& uhr) mutable {
+        uhr = bis = std::max(bis, uhr - anfang);
     };
     std::ranges::for_each(inhalt.durchgaenge, verschiebe, &Messdurchgang::uhr);
     std::ranges::for_each(inhalt.ereignisse, verschiebe, &Messereignis::laufzeit);
@@ -217,14 +231,14 @@ void Schreibwerk::Stoere(int fehler, Zeit jetzt) {
     laufender = {};
 }
 
-void Schreibwerk::VersucheWieder(Augenblick jetzt) {
-    if (jetzt.uhr - versucht < Versuchsabstand)
+void Schreibwerk::VersucheWieder(Augenblick anfang, Zeit jetzt) {
+    if (jetzt - versucht < Versuchsabstand)
         return;
-    versucht = jetzt.uhr;
-    VergissAlte(jetzt.uhr);
+    versucht = jetzt;
+    VergissAlte(jetzt);
     if (ablage.FreierPlatz(auftrag.ordner).value_or(Neubeginnplatz) < Neubeginnplatz)
         return;
-    stand.fehler = Eroeffne(jetzt);
+    stand.fehler = Eroeffne(anfang);
 }
 
 /// Passes are gone; what has happened meanwhile is told by the next file.

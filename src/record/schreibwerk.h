@@ -81,6 +81,7 @@ private:
         std::vector<Datei> dateien{};
         Augenblick beginn{};
         Zeit ende{};
+        Zeit bis{};       ///< from its beginning on, of what it holds
         bool leer = true; ///< holds nothing but its beginning
     };
 
@@ -94,7 +95,7 @@ private:
     void Schreibe(Aufnahmestueck stueck);
     Messpaket AlsPaket(Messpaket inhalt);
     void Stoere(int fehler, Zeit jetzt);
-    void VersucheWieder(Augenblick jetzt);
+    void VersucheWieder(Augenblick anfang, Zeit jetzt);
     void Verwirf(Messpaket inhalt);
     void MeldeVerworfene(Augenblick jetzt);
     void Sichere(Zeit jetzt);

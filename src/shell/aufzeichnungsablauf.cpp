@@ -34,9 +34,12 @@ constexpr int TaktMs = 500;
 constexpr std::int16_t TextAufzeichnung = 6224, TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
                        TextBeendet = 6233, TextMengen = 6272;
 
-Augenblick Jetzt() {
-    return {.uhr = std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now().time_since_epoch()),
-            .zeit = std::chrono::system_clock::now()};
+/// The clock of the passes for another thread, which must not ask the environment.
+Aufzeichnung::Uhr UhrFuerAndere() {
+    const auto jetzt = [] { return std::chrono::floor<Zeit>(std::chrono::steady_clock::now().time_since_epoch()); };
+    return [jetzt, versatz = DieUmgebung().Uhr() - jetzt()] {
+        return Augenblick{.uhr = jetzt() + versatz, .zeit = std::chrono::system_clock::now()};
+    };
 }
 
 Messereignisart ArtVon(Liveereignisart art) {
@@ -92,7 +95,7 @@ Aufzeichnungsauftrag Aufzeichnungsablauf::Auftrag(const std::string& name) {
     const Aufzeichnungswahl wahl = Wahl();
     Aufzeichnungsauftrag auftrag{.wahl = wahl,
                                  .ordner = Ordner(),
-                                 .name = name.empty() ? Namensvorschlag() : name,
+                                 .name = name.empty() ? Namensvorschlag() : Dateinamensteil(name),
                                  .angaben = Angaben()};
     auftrag.formen.push_back({".csv", [art = wahl.csvart, worte = LadeCsvworte()] {
                                   return std::make_unique<Csvform>(art, worte);
@@ -103,7 +106,7 @@ Aufzeichnungsauftrag Aufzeichnungsablauf::Auftrag(const std::string& name) {
 void Aufzeichnungsablauf::Beginne(const std::string& name) {
     if (Laeuft())
         return;
-    auto neue = std::make_unique<Aufzeichnung>(ablage, Auftrag(name), Jetzt);
+    auto neue = std::make_unique<Aufzeichnung>(ablage, Auftrag(name), ziel.uhr ? ziel.uhr : UhrFuerAndere());
     FolgeKonfiguration();
     if (const int fehler = neue->Beginne(konfiguration); fehler != 0)
         return ZeigeWarnung(

@@ -30,6 +30,7 @@ public:
         QStatusBar& leiste;
         std::function<void()> zeige;                     ///< asks for the window of recordings
         std::function<void(bool laeuft)> laeuft;         ///< a recording has begun or ended
+        Aufzeichnung::Uhr uhr{}; ///< the clock of the passes for another thread; nothing: the system's
     };
 
     explicit Aufzeichnungsablauf(Ziel ziel);

@@ -3,9 +3,13 @@
 #include "csvform.h"
 #include "texte.h"
 #include "textmitwerten.h"
+#include "textschutz.h"
+
+#include <QString>
 
 #include <array>
 #include <cstdio>
+#include <string_view>
 
 namespace varnoth {
 
@@ -79,6 +83,20 @@ std::string Aufzeichnungsname(const std::string& seriennummer, Systemzeit zeit) 
     for (char& zeichen : wann)
         zeichen = zeichen == 'T' ? '_' : zeichen == ':' ? '-' : zeichen;
     return name + "_" + wann;
+}
+
+std::string Dateinamensteil(const std::string& getipptes) {
+    constexpr std::string_view verbotene = "/\\:*?\"<>|";
+    constexpr std::size_t laengster = 100;
+    std::string name = Einzeilig(getipptes);
+    for (char& zeichen : name)
+        if (verbotene.find(zeichen) != std::string_view::npos)
+            zeichen = '_';
+    if (name.starts_with('.'))
+        name.front() = '_';
+    if (name.size() > laengster)
+        name = QString::fromStdString(name).left(laengster / 4).toStdString();
+    return name;
 }
 
 double Aufzeichnungsrate::Betrachte(const Aufzeichnungsstand& stand) {

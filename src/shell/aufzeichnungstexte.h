@@ -19,6 +19,10 @@ std::string Markentext(const Aufzeichnungslage& lage, bool liveDaten);
 /// system takes.
 std::string Aufzeichnungsname(const std::string& seriennummer, Systemzeit zeit);
 
+/// A name that somebody typed, as a file's name without ending: it leads into no other folder, and every file
+/// system takes it.
+std::string Dateinamensteil(const std::string& getipptes);
+
 /// How many passes a second were recorded over the last seconds.
 class Aufzeichnungsrate {
 public:

@@ -51,6 +51,8 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void SchalteAufzeichnung() override { getan = "recording"; }
+    void ZeigeAufzeichnungen() override { getan = "recordings"; }
 
     std::string getan;
 };
@@ -111,6 +113,8 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(160), "recording");
+    EXPECT_EQ(GetanVon(161), "recordings");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -127,6 +131,8 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
+        {Befehl::Aufzeichnung, "Ctrl+R"},
+        {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
