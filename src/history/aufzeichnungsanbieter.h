@@ -10,9 +10,9 @@ namespace varnoth {
 /// How the recording of this run stands, for a person.
 struct Aufzeichnungslage {
     bool laeuft = false;
-    Aufzeichnungsstand stand{};  ///< of the one that runs, else of the last one
+    Aufzeichnungsstand stand{};      ///< of the one that runs, else of the last one
     double durchgaengeJeSekunde = 0; ///< recorded lately
-    std::string hindernis{};     ///< why nothing can be written now, in the current language; else empty
+    std::string hindernis{};         ///< why nothing can be written now, in the current language; else empty
 };
 
 /// What is kept in memory although nobody records.

@@ -198,17 +198,20 @@ Messpaket Schreibwerk::AlsPaket(Messpaket inhalt) {
     if (!inhalt.ereignisse.empty())
         auswahl.BeginneNeu();
     std::erase_if(inhalt.durchgaenge, [this](const Messdurchgang& einer) { return !auswahl.Nimm(einer); });
-    const auto verschiebe = [anfang = laufender.beginn.uhr, bis = laufender.bis](Zeit& uhr) mutable {
-        uhr = bis = std::max(bis, uhr - anfang);
-    };
-    std::ranges::for_each(inhalt.durchgaenge, verschiebe, &Messdurchgang::uhr);
-    std::ranges::for_each(inhalt.ereignisse, verschiebe, &Messereignis::laufzeit);
-    inhalt.spanne = {Zeit::max(), Zeit{}};
-    const auto umfasse = [&](Zeit uhr) {
-        inhalt.spanne = {std::min(inhalt.spanne.von, uhr), std::max(inhalt.spanne.bis, uhr)};
-    };
-    std::ranges::for_each(inhalt.durchgaenge, umfasse, &Messdurchgang::uhr);
-    std::ranges::for_each(inhalt.ereignisse, umfasse, &Messereignis::laufzeit);
+    const Zeit anfang = laufender.beginn.uhr;
+    inhalt.spanne = {laufender.bis, laufender.bis};
+    Zeit bis = laufender.bis;
+    for (Messdurchgang& durchgang : inhalt.durchgaenge)
+        durchgang.uhr = bis = std::max(bis, durchgang.uhr - anfang);
+    if (!inhalt.durchgaenge.empty())
+        inhalt.spanne = {inhalt.durchgaenge.front().uhr, bis};
+    for (Messereignis& ereignis : inhalt.ereignisse) {
+        const bool notiz = ereignis.art == Messereignisart::Notiz; // of any time before
+        ereignis.laufzeit = std::max(notiz ? Zeit{} : laufender.bis, ereignis.laufzeit - anfang);
+        if (!notiz)
+            inhalt.spanne = {std::min(inhalt.spanne.von, ereignis.laufzeit),
+                             std::max(inhalt.spanne.bis, ereignis.laufzeit)};
+    }
     return inhalt;
 }
 

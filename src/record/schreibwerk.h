@@ -42,13 +42,13 @@ struct Aufnahmestueck {
 /// How a recording stands.
 struct Aufzeichnungsstand {
     Zeit dauer{};
-    std::uint64_t bytes = 0;        ///< of all its files
-    std::uint64_t durchgaenge = 0;  ///< recorded
-    std::uint64_t verworfen = 0;    ///< passes that could not be kept
-    int dateien = 0;                ///< begun so far
-    std::vector<std::string> pfade; ///< of the newest files, one a form
-    int fehler = 0;                 ///< why nothing can be written now; 0 while all is well
-    bool fertig = false;            ///< the time that was chosen is up
+    std::uint64_t bytes = 0;          ///< of all its files
+    std::uint64_t durchgaenge = 0;    ///< recorded
+    std::uint64_t verworfen = 0;      ///< passes that could not be kept
+    int dateien = 0;                  ///< begun so far
+    std::vector<std::string> pfade{}; ///< of the newest files, one a form
+    int fehler = 0;                   ///< why nothing can be written now; 0 while all is well
+    bool fertig = false;              ///< the time that was chosen is up
 };
 
 /// Writes a recording: which passes, into which files, what becomes of full and of old ones. All of it

@@ -19,6 +19,7 @@
 #include "textmitwerten.h"
 #include "transaktionen.h"
 #include "umgebung.h"
+#include "vrecform.h"
 
 #include <QDesktopServices>
 #include <QStatusBar>
@@ -31,12 +32,14 @@ namespace varnoth {
 namespace {
 
 constexpr int TaktMs = 500;
-constexpr std::int16_t TextAufzeichnung = 6224, TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
-                       TextBeendet = 6233, TextMengen = 6272;
+constexpr std::int16_t TextAufzeichnung = 6224, TextKeinBeginn = 6230, TextUnterbrochen = 6231,
+                       TextGehtWeiter = 6232, TextBeendet = 6233, TextMengen = 6272;
 
 /// The clock of the passes for another thread, which must not ask the environment.
 Aufzeichnung::Uhr UhrFuerAndere() {
-    const auto jetzt = [] { return std::chrono::floor<Zeit>(std::chrono::steady_clock::now().time_since_epoch()); };
+    const auto jetzt = [] {
+        return std::chrono::floor<Zeit>(std::chrono::steady_clock::now().time_since_epoch());
+    };
     return [jetzt, versatz = DieUmgebung().Uhr() - jetzt()] {
         return Augenblick{.uhr = jetzt() + versatz, .zeit = std::chrono::system_clock::now()};
     };
@@ -97,9 +100,12 @@ Aufzeichnungsauftrag Aufzeichnungsablauf::Auftrag(const std::string& name) {
                                  .ordner = Ordner(),
                                  .name = name.empty() ? Namensvorschlag() : Dateinamensteil(name),
                                  .angaben = Angaben()};
-    auftrag.formen.push_back({".csv", [art = wahl.csvart, worte = LadeCsvworte()] {
-                                  return std::make_unique<Csvform>(art, worte);
-                              }});
+    if (wahl.vrec)
+        auftrag.formen.push_back({".vrec", [] { return std::make_unique<Vrecform>(); }});
+    if (wahl.csv)
+        auftrag.formen.push_back({".csv", [art = wahl.csvart, worte = LadeCsvworte()] {
+                                      return std::make_unique<Csvform>(art, worte);
+                                  }});
     return auftrag;
 }
 
@@ -109,8 +115,7 @@ void Aufzeichnungsablauf::Beginne(const std::string& name) {
     auto neue = std::make_unique<Aufzeichnung>(ablage, Auftrag(name), ziel.uhr ? ziel.uhr : UhrFuerAndere());
     FolgeKonfiguration();
     if (const int fehler = neue->Beginne(konfiguration); fehler != 0)
-        return ZeigeWarnung(
-            LadeTextMit(TextKeinBeginn, {Dateifehlertext(Systemfehler(fehler), Ordner())}));
+        return ZeigeWarnung(LadeTextMit(TextKeinBeginn, {Dateifehlertext(Systemfehler(fehler), Ordner())}));
     aufzeichnung = std::move(neue);
     gemeldeterFehler = 0;
     rate = {};
@@ -135,8 +140,7 @@ void Aufzeichnungsablauf::Beende() {
 
 void Aufzeichnungsablauf::Notiere(Zeit uhr, Systemzeit zeit, const std::string& text) {
     if (Laeuft())
-        aufzeichnung->Nimm(
-            {.art = Messereignisart::Notiz, .laufzeit = uhr, .zeit = zeit, .text = text});
+        aufzeichnung->Nimm({.art = Messereignisart::Notiz, .laufzeit = uhr, .zeit = zeit, .text = text});
 }
 
 void Aufzeichnungsablauf::Hoere(const Messdurchgang& durchgang) {
@@ -149,8 +153,7 @@ void Aufzeichnungsablauf::Hoere(const Messdurchgang& durchgang) {
 
 void Aufzeichnungsablauf::Hoere(const Liveereignis& ereignis) {
     if (Laeuft())
-        aufzeichnung->Nimm(
-            {.art = ArtVon(ereignis.art), .laufzeit = ereignis.uhr, .zeit = ereignis.zeit});
+        aufzeichnung->Nimm({.art = ArtVon(ereignis.art), .laufzeit = ereignis.uhr, .zeit = ereignis.zeit});
 }
 
 bool Aufzeichnungsablauf::Braucht(int /*teil*/) const {
@@ -181,8 +184,8 @@ void Aufzeichnungsablauf::MeldeAenderung(const Aufzeichnungslage& lage) {
     const int vorher = std::exchange(gemeldeterFehler, lage.stand.fehler);
     if (vorher == lage.stand.fehler)
         return;
-    const std::string text = lage.hindernis.empty() ? LadeText(TextGehtWeiter)
-                                                    : LadeTextMit(TextUnterbrochen, {lage.hindernis});
+    const std::string text =
+        lage.hindernis.empty() ? LadeText(TextGehtWeiter) : LadeTextMit(TextUnterbrochen, {lage.hindernis});
     modEreignisse::Merke(text);
     DieUmgebung().ZeigeStatustext(FeldMeldungen, text);
 }

@@ -28,8 +28,8 @@ public:
     /// What it needs of the main window.
     struct Ziel {
         QStatusBar& leiste;
-        std::function<void()> zeige;                     ///< asks for the window of recordings
-        std::function<void(bool laeuft)> laeuft;         ///< a recording has begun or ended
+        std::function<void()> zeige;             ///< asks for the window of recordings
+        std::function<void(bool laeuft)> laeuft; ///< a recording has begun or ended
         Aufzeichnung::Uhr uhr{}; ///< the clock of the passes for another thread; nothing: the system's
     };
 

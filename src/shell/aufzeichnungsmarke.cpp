@@ -24,7 +24,8 @@ Aufzeichnungsmarke::Aufzeichnungsmarke(QStatusBar& leiste) : QPushButton(&leiste
 }
 
 void Aufzeichnungsmarke::Zeige(const std::string& text) {
-    if (const QString neu = QString::fromStdString(text).replace(u'&', QStringLiteral("&&")); neu != this->text()) {
+    if (const QString neu = QString::fromStdString(text).replace(u'&', QStringLiteral("&&"));
+        neu != this->text()) {
         setText(neu);
         setAccessibleName(QString::fromStdString(text));
     }

@@ -8,6 +8,7 @@
 #include "frmDocument.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
+#include "messablauf.h"
 #include "programmsymbol.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
@@ -92,6 +93,7 @@ frmMain::frmMain(const QString& programmordner)
                                  SeiteJetzt(Vergleichsquelle::InBearbeitung));
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
+    messung = std::make_unique<Messablauf>();
     aufzeichnung = MacheAufzeichnungsablauf();
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
@@ -186,6 +188,7 @@ void frmMain::Entlade() {
     vergleich->Schliesse();
     bus->Schliesse();
     aufzeichnung->Schliesse();
+    messung->Schliesse();
     verbindung->Schliesse();
     hide();
 }

@@ -28,6 +28,7 @@ class frmMain;
 class Vergleichsablauf;
 class Aufzeichnungsablauf;
 class Busablauf;
+class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
 class frmDocument;
@@ -201,6 +202,7 @@ private:
     std::unique_ptr<Sicherungsablauf> sicherungen;
     std::unique_ptr<Busablauf> bus;
     std::unique_ptr<Aufzeichnungsablauf> aufzeichnung;
+    std::unique_ptr<Messablauf> messung;
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -16,6 +16,7 @@
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
+#include "messablauf.h"
 #include "qttexte.h"
 #include "schnittstelle.h"
 #include "sicherungsablauf.h"
@@ -164,6 +165,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     vergleich->Lokalisiere();
     bus->Lokalisiere();
     aufzeichnung->Lokalisiere();
+    messung->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -235,6 +237,9 @@ void frmMain::ZeigeBusprotokoll() {
 std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
     QAction& knopf = Aktion(*this, QStringLiteral("tlbAufzeichnung"));
     knopf.setCheckable(true);
+    messung->SetzeNotizhoerer([this](Zeit uhr, Systemzeit zeit, const std::string& text) {
+        aufzeichnung->Notiere(uhr, zeit, text);
+    });
     return std::make_unique<Aufzeichnungsablauf>(
         Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,
                                   .zeige = [this] { befehle.Klick(Befehl::Aufzeichnungen); },

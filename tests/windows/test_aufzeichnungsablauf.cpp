@@ -5,8 +5,8 @@
 #include "fenstertest.h"
 #include "messhoerer.h"
 #include "pruefumgebung.h"
-#include "registeradressen.h"
 #include "registerabbild.h"
+#include "registeradressen.h"
 #include "texte.h"
 
 #include <QApplication>
@@ -134,7 +134,7 @@ TEST_F(AufzeichnungsablaufTest, What_happens_to_the_connection_stands_between_th
                            Liveereignisart::Begonnen})
         modMesshoerer::Melde(art);
     MeldeDurchgang(2);
-    Ablauf().Notiere(umgebung.uhr, {}, "web changed");
+    Ablauf().Notiere(umgebung.uhr + std::chrono::seconds(1), {}, "web changed");
     Ablauf().Schalte();
     const std::string text = Inhalt(Dateien().front());
     std::size_t stelle = 0;
@@ -150,8 +150,8 @@ TEST_F(AufzeichnungsablaufTest, A_changed_configuration_is_in_force_for_the_pass
     MeldeDurchgang(7001);
     Werte muster(spezifisch::Blankingregister, 0);
     muster[0] = 0x0300;
-    ASSERT_TRUE(
-        modDaten::SetzeParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Blankingmuster, muster));
+    ASSERT_TRUE(modDaten::SetzeParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Blankingmuster,
+                                         muster));
     MeldeDurchgang(7002);
     Ablauf().Schalte();
     const std::string text = Inhalt(Dateien().front());
@@ -195,8 +195,8 @@ TEST_F(AufzeichnungsablaufTest, A_file_that_vanishes_is_told_once_in_the_status_
     MeldeDurchgang(1);
     ASSERT_TRUE(WarteBis([&] { return Inhalt(Dateien().front()).find(",1,") != std::string::npos; }));
     ASSERT_TRUE(QFile::remove(ordner.filePath(Dateien().front())));
-    ASSERT_TRUE(WarteBis(
-        [&] { return umgebung.statustexte[0].find("is interrupted") != std::string::npos; }, 20'000));
+    ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0].find("is interrupted") != std::string::npos; },
+                         20'000));
     EXPECT_TRUE(umgebung.meldungen.empty());
     EXPECT_TRUE(Marke().text().contains("waiting:"));
     ASSERT_TRUE(WarteBis([&] { return Dateien().size() == 1; }, 20'000));

@@ -72,7 +72,8 @@ TEST_F(AufzeichnungseinstellungenTest, The_flight_recorder_has_its_memory_within
     EXPECT_EQ(LiesFlugschreiber(einstellungen).megabyte, 512);
 }
 
-TEST_F(AufzeichnungseinstellungenTest, Recordings_go_into_a_folder_among_the_documents_until_another_is_chosen) {
+TEST_F(AufzeichnungseinstellungenTest,
+       Recordings_go_into_a_folder_among_the_documents_until_another_is_chosen) {
     EXPECT_THAT(LiesAufzeichnungsordner(einstellungen), EndsWith("/Varnoth"));
     SchreibAufzeichnungsordner(einstellungen, "/mnt/records");
     EXPECT_EQ(LiesAufzeichnungsordner(einstellungen), "/mnt/records");
