@@ -1,5 +1,5 @@
-// Records of made-up passes over four parts of 128 beams: how large they are, how long they take to open, to jump
-// in and to look at, and the memory that they need while they are open.
+// Records of made-up passes over four parts of 128 beams: how large they are, how long they take to open, to
+// jump in and to look at, and the memory that they need while they are open.
 
 #include "bericht.h"
 #include "dateieingabe.h"

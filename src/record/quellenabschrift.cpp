@@ -28,13 +28,16 @@ Quellenabschrift::Quellenabschrift(const Messquelle& welche, std::unique_ptr<Auf
 
 std::optional<std::string> Quellenabschrift::Weiter() {
     switch (schritt) {
-    case Schritt::Beginn: schritt = Schritt::Pakete; return Beginne();
+    case Schritt::Beginn:
+        schritt = Schritt::Pakete;
+        return Beginne();
     case Schritt::Pakete:
         if (naechstes < ende)
             return NimmPakete();
         schritt = Schritt::Fertig;
         return form->Beende();
-    case Schritt::Fertig: break;
+    case Schritt::Fertig:
+        break;
     }
     return std::nullopt;
 }

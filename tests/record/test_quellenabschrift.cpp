@@ -80,7 +80,8 @@ TEST_F(QuellenabschriftTest, A_stretch_begins_with_the_packet_of_its_time) {
     EXPECT_EQ(leser->Spanne().von, Zeit(0));
     EXPECT_EQ(leser->Angaben().beginn, Probebeginn + beginn);
     const Messdurchgang erster = leser->Lies(0)->durchgaenge.front();
-    EXPECT_LT(erster.zeit - erster.uhr - (Probebeginn + beginn), 10us) << "its clocks agree to some microseconds";
+    EXPECT_LT(erster.zeit - erster.uhr - (Probebeginn + beginn), 10us)
+        << "its clocks agree to some microseconds";
     EXPECT_GE(leser->Spanne().bis, 29s);
     EXPECT_LE(leser->Spanne().bis, 32s);
 }
