@@ -91,6 +91,12 @@ constexpr Befehlszeile DieBefehle[] = {
      0},
     {Befehl::UebergebeneAufzeichnung, "", Ruht, Zeigt,
      [](Ziel& z, int) { z.OeffneUebergebeneAufzeichnung(); }, 0, 0},
+    {Befehl::Aufzeichnung, "tlbAufzeichnung", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.SchalteAufzeichnung(); }, 0, 1, "Ctrl+R", 6220, "aufnahme", 6221,
+     Leistengruppe::Verlauf},
+    {Befehl::Aufzeichnungen, "tlbAufzeichnungen", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.ZeigeAufzeichnungen(); }, 0, 1, "Ctrl+Shift+R", 6222, "aufzeichnungen", 6223,
+     Leistengruppe::Verlauf},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
 #include "erscheinungsbild.h"
@@ -94,6 +95,7 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
+    aufzeichnung = MacheAufzeichnungsablauf();
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
     wiedergabe = MacheWiedergabeablauf(teile);
@@ -188,6 +190,7 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    aufzeichnung->Schliesse();
     messung->Schliesse();
     verbindung->Schliesse();
     hide();

@@ -1,5 +1,7 @@
 // What the menu commands of the main window do.
 
+#include "aktionen.h"
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
@@ -169,6 +171,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     bus->Lokalisiere();
+    aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
@@ -237,6 +240,26 @@ void frmMain::BieteDarstellung() {
 
 void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
+}
+
+std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
+    QAction& knopf = Aktion(*this, QStringLiteral("tlbAufzeichnung"));
+    knopf.setCheckable(true);
+    messung->SetzeNotizhoerer([this](Zeit uhr, Systemzeit zeit, const std::string& text) {
+        aufzeichnung->Notiere(uhr, zeit, text);
+    });
+    return std::make_unique<Aufzeichnungsablauf>(
+        Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,
+                                  .zeige = [this] { befehle.Klick(Befehl::Aufzeichnungen); },
+                                  .laeuft = [&knopf](bool laeuft) { knopf.setChecked(laeuft); }});
+}
+
+void frmMain::SchalteAufzeichnung() {
+    aufzeichnung->Schalte();
+}
+
+void frmMain::ZeigeAufzeichnungen() {
+    aufzeichnung->Zeige();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -1,6 +1,8 @@
 #include "motive.h"
 
+#include "aufzeichnungstexte.h"
 #include "einstellungen.h"
+#include "frmAufzeichnung.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmBusprotokoll.h"
@@ -30,6 +32,7 @@
 #include "registeradressen.h"
 #include "servicetext.h"
 #include "suchworte.h"
+#include "textmitwerten.h"
 #include "vergleichsanbieter.h"
 #include "zeittext.h"
 
@@ -342,6 +345,46 @@ QImage Protokoll(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+/// A recording of a quarter of an hour.
+struct Aufzeichnungszeit : Aufzeichnungsanbieter {
+    Aufzeichnungslage Lage() override {
+        const std::string datei = Ordner() + "/" + Namensvorschlag();
+        return {.laeuft = true,
+                .stand = {.dauer = std::chrono::seconds(903),
+                          .bytes = 2'240'000,
+                          .durchgaenge = 7405,
+                          .dateien = 1,
+                          .pfade = {datei + ".vrec", datei + ".csv"}},
+                .durchgaengeJeSekunde = 8.2};
+    }
+    std::string Standtext() override { return LadeTextMit(6272, {Markentext(Lage(), true), "7405", "1"}); }
+    Aufzeichnungswahl Wahl() override { return {.megabyte = 100, .mitternacht = true}; }
+    void Waehle(const Aufzeichnungswahl& /*wahl*/) override {}
+    std::string Ordner() override {
+        return GetSprachoffset() == Englisch ? "/home/anna/Documents/Varnoth"
+                                             : "/home/anna/Dokumente/Varnoth";
+    }
+    void WaehleOrdner(const std::string& /*ordner*/) override {}
+    std::string Namensvorschlag() override { return "10-4711_2026-03-17_13-00-00"; }
+    void Beginne(const std::string& /*name*/) override {}
+    void Beende() override {}
+    std::optional<std::string> FrageNachOrdner(const std::string& /*titel*/,
+                                               const std::string& /*anfang*/) override {
+        return {};
+    }
+    void ZeigeOrdner(const std::string& /*ordner*/) override {}
+    Flugschreiber DerFlugschreiber() override { return {.alleTeile = true}; }
+    void Waehle(const Flugschreiber& /*wahl*/) override {}
+    std::string ImSpeicher() override { return "02:14:40"; }
+    std::optional<std::string> SichereSpeicher(int /*minuten*/) override { return {}; }
+};
+
+QImage Aufzeichnungen(Buehne& buehne) {
+    Aufzeichnungszeit anbieter;
+    frmAufzeichnung fenster(anbieter);
+    return buehne.BildNach(fenster, Sofort);
+}
+
 QImage Info(Buehne& buehne) {
     frmInfo dialog(nullptr);
     return buehne.BildNach(dialog, Sofort);
@@ -373,6 +416,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmRegisterliste", Registerliste},
         {"frmBericht", Berichtsfenster},
         {"frmBusprotokoll", Protokoll},
+        {"frmAufzeichnung", Aufzeichnungen},
         {"frmVerbindung_ports", Verbindungsports},
         {"frmVerbindung_suche", Verbindungssuche},
         {"frmVerbindung_leitung", Verbindungspruefung},

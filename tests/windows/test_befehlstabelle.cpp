@@ -54,6 +54,8 @@ struct PruefWirkung : Befehlswirkung {
     void OeffneAufzeichnung() override { getan = "replay"; }
     void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
     void VerlasseWiedergabe() override { getan = "leave replay"; }
+    void SchalteAufzeichnung() override { getan = "recording"; }
+    void ZeigeAufzeichnungen() override { getan = "recordings"; }
 
     std::string getan;
 };
@@ -114,6 +116,8 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(160), "recording");
+    EXPECT_EQ(GetanVon(161), "recordings");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -130,6 +134,8 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
+        {Befehl::Aufzeichnung, "Ctrl+R"},
+        {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
