@@ -195,7 +195,8 @@ const Ereignisspeicher& frmEreignisse::Speicher() const {
 void frmEreignisse::BlickeNach() {
     BlickeAufQuelle();
     ZeigeMitschrift();
-    if ((lauf && !lauf->IstFertig()) || std::exchange(gesehen, Speicher().Aenderungen()) != Speicher().Aenderungen())
+    if ((lauf && !lauf->IstFertig()) ||
+        std::exchange(gesehen, Speicher().Aenderungen()) != Speicher().Aenderungen())
         Plane();
 }
 

@@ -143,11 +143,12 @@ void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) const {
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
     const bool wiedergegeben = inhalt.bild.zustand == Verbindungszustand::Wiedergabe;
-    modEreignisse::Merke({.art = Ereignisart::Zustand,
-                          .alt = inhalt.bild.simuliert ? 1 : 0,
-                          .neu = static_cast<int>(inhalt.bild.zustand),
-                          .text = wiedergegeben ? gegenstand.aufzeichnung
-                                                : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
+    modEreignisse::Merke(
+        {.art = Ereignisart::Zustand,
+         .alt = inhalt.bild.simuliert ? 1 : 0,
+         .neu = static_cast<int>(inhalt.bild.zustand),
+         .text = wiedergegeben ? gegenstand.aufzeichnung
+                               : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

@@ -30,7 +30,8 @@ protected:
 };
 
 TEST_F(EreignismodellTest, Has_a_row_for_each_event_once_it_is_told_to_look) {
-    speicher.Merke({.art = Ereignisart::AusgangGeschaltet, .zeit = Systemzeit(1h), .anzahl = 11, .neu = 1, .dauer = 5s});
+    speicher.Merke(
+        {.art = Ereignisart::AusgangGeschaltet, .zeit = Systemzeit(1h), .anzahl = 11, .neu = 1, .dauer = 5s});
     EXPECT_EQ(modell.rowCount(), 0);
     modell.Hole(10);
     ASSERT_EQ(modell.rowCount(), 1);
