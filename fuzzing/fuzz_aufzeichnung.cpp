@@ -33,7 +33,8 @@ void PruefePaket(const Messpaket& paket) {
     Zeit letzte = paket.spanne.von;
     for (const Messdurchgang& durchgang : paket.durchgaenge) {
         Pruefe(durchgang.uhr >= letzte && durchgang.uhr <= paket.spanne.bis, "passes are in order");
-        Pruefe(durchgang.anzahlTeile >= 0 && durchgang.anzahlTeile <= AnzahlOptikteile, "there are four parts");
+        Pruefe(durchgang.anzahlTeile >= 0 && durchgang.anzahlTeile <= AnzahlOptikteile,
+               "there are four parts");
         for (const Teilmessung& teil : durchgang.teile)
             Pruefe(teil.strahlen >= 0 && teil.strahlen <= 1009, "the beams of a part are bounded");
         letzte = durchgang.uhr;
@@ -74,9 +75,15 @@ void PruefeDatei(std::string bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
     std::string_view bytes = AlsText(daten, laenge);
     switch (NimmByte(bytes)) {
-    case Bloecke: PruefeDatei(AusBloecken(bytes)); break;
-    case Paket: PruefeInhalt(bytes); break;
-    default: PruefeDatei(std::string(bytes)); break;
+    case Bloecke:
+        PruefeDatei(AusBloecken(bytes));
+        break;
+    case Paket:
+        PruefeInhalt(bytes);
+        break;
+    default:
+        PruefeDatei(std::string(bytes));
+        break;
     }
     return 0;
 }
