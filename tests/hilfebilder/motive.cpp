@@ -22,6 +22,7 @@
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
 #include "leitungspruefung.h"
+#include "motivwiedergabe.h"
 #include "polling.h"
 #include "protokollanbieter.h"
 #include "pruefsicherungen.h"
@@ -373,6 +374,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmRegisterliste", Registerliste},
         {"frmBericht", Berichtsfenster},
         {"frmBusprotokoll", Protokoll},
+        {"frmWiedergabe", Wiedergabebild},
         {"frmVerbindung_ports", Verbindungsports},
         {"frmVerbindung_suche", Verbindungssuche},
         {"frmVerbindung_leitung", Verbindungspruefung},

@@ -51,6 +51,9 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void OeffneAufzeichnung() override { getan = "replay"; }
+    void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
+    void VerlasseWiedergabe() override { getan = "leave replay"; }
 
     std::string getan;
 };
@@ -111,6 +114,9 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(190), "replay");
+    EXPECT_EQ(GetanVon(191), "leave replay");
+    EXPECT_EQ(GetanVon(192), "replay handed over");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -127,6 +133,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
+        {Befehl::Wiedergabe, "Ctrl+Shift+O"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
