@@ -24,6 +24,7 @@
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
 #include "leitungspruefung.h"
+#include "motivwiedergabe.h"
 #include "polling.h"
 #include "protokollanbieter.h"
 #include "pruefsicherungen.h"
@@ -417,6 +418,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmBericht", Berichtsfenster},
         {"frmBusprotokoll", Protokoll},
         {"frmAufzeichnung", Aufzeichnungen},
+        {"frmWiedergabe", Wiedergabebild},
         {"frmVerbindung_ports", Verbindungsports},
         {"frmVerbindung_suche", Verbindungssuche},
         {"frmVerbindung_leitung", Verbindungspruefung},

@@ -118,6 +118,9 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(140), "bus log");
     EXPECT_EQ(GetanVon(160), "recording");
     EXPECT_EQ(GetanVon(161), "recordings");
+    EXPECT_EQ(GetanVon(190), "replay");
+    EXPECT_EQ(GetanVon(191), "leave replay");
+    EXPECT_EQ(GetanVon(192), "replay handed over");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -136,6 +139,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Busprotokoll, "Ctrl+L"},
         {Befehl::Aufzeichnung, "Ctrl+R"},
         {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
+        {Befehl::Wiedergabe, "Ctrl+Shift+O"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
