@@ -85,6 +85,8 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
      Leistengruppe::Pruefen},
+    {Befehl::Ereignisse, "tlbEreignisse", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeEreignisse(); }, 0,
+     1, "Ctrl+E", 6601, "ereignisse", 6602, Leistengruppe::Verlauf},
 };
 
 } // namespace

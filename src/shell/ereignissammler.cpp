@@ -26,8 +26,7 @@ Messereignisart ArtVon(Liveereignisart art) {
 
 } // namespace
 
-Ereignissammler::Ereignissammler()
-    : ableitung(modEreignisse::Alle()), fehlschlaege(modEreignisse::Alle()) {
+Ereignissammler::Ereignissammler() : ableitung(modEreignisse::Alle()), fehlschlaege(modEreignisse::Alle()) {
     modMesshoerer::MeldeAn(*this);
     QObject::connect(&takt, &QTimer::timeout, &takt, [this] { Sieh(); });
     takt.start(TaktMs);

@@ -2,6 +2,7 @@
 
 #include "busablauf.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
@@ -93,6 +94,7 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
+    ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
 }
@@ -186,6 +188,7 @@ void frmMain::Entlade() {
     vergleich->Schliesse();
     bus->Schliesse();
     messung->Schliesse();
+    ereignisse->Schliesse();
     verbindung->Schliesse();
     hide();
 }

@@ -27,6 +27,7 @@ class frmMain;
 
 class Vergleichsablauf;
 class Busablauf;
+class Ereignisablauf;
 class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
@@ -178,6 +179,7 @@ private:
     void PruefeLeitung() override;
     void BieteDarstellung() override;
     void ZeigeBusprotokoll() override;
+    void ZeigeEreignisse() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -198,6 +200,7 @@ private:
     std::unique_ptr<Sicherungsablauf> sicherungen;
     std::unique_ptr<Busablauf> bus;
     std::unique_ptr<Messablauf> messung;
+    std::unique_ptr<Ereignisablauf> ereignisse;       ///< comes after the past that it shows
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -3,6 +3,7 @@
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
@@ -164,6 +165,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     vergleich->Lokalisiere();
     bus->Lokalisiere();
     messung->Lokalisiere();
+    ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -230,6 +232,10 @@ void frmMain::BieteDarstellung() {
 
 void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
+}
+
+void frmMain::ZeigeEreignisse() {
+    ereignisse->Zeige();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "ereignisse.h"
 #include "verbindungsregel.h"
 #include "verbindungstexte.h"
+#include "zustandsmerker.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -47,7 +49,7 @@ private:
 
     QPushButton* MacheKnopf(const QString& name, const std::function<void()>& tat);
     void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
-    void MerkeZustand(const Inhalt& inhalt) const;
+    void MerkeZustand(const Inhalt& inhalt);
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;
@@ -57,6 +59,7 @@ private:
     QTimer takt;
     Verbindungsregel regel;
     std::optional<Inhalt> gezeigt;
+    Zustandsmerker merker{modEreignisse::Alle()};
     bool verbindet = false;
 };
 

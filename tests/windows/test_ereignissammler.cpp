@@ -17,10 +17,10 @@ using namespace std::chrono_literals;
 class EreignissammlerTest : public testing::Test {
 protected:
     void Durchgang(bool aktiv) {
-        modMesshoerer::Melde(Messdurchgang{
-            .zeit = Systemzeit(1h),
-            .uhr = umgebung.uhr,
-            .geraetestatus = static_cast<std::uint16_t>(aktiv ? geraetestatus::PnpAktiv : 0)});
+        modMesshoerer::Melde(
+            Messdurchgang{.zeit = Systemzeit(1h),
+                          .uhr = umgebung.uhr,
+                          .geraetestatus = static_cast<std::uint16_t>(aktiv ? geraetestatus::PnpAktiv : 0)});
     }
     static const Ereignis& Letztes() { return modEreignisse::Alle().Hole(modEreignisse::Alle().Ende() - 1); }
     static std::uint64_t Anzahl() { return modEreignisse::Alle().Ende(); }
@@ -80,7 +80,8 @@ TEST_F(EreignissammlerTest, Needs_nothing_that_is_not_read_anyway) {
 TEST(GemeldeteSicherungen, A_backup_is_an_event_and_so_is_one_that_failed) {
     pruefung::PruefSicherungen eigentliche;
     GemeldeteSicherungen sicherungen(eigentliche);
-    EXPECT_EQ(sicherungen.Lege(Standardkonfiguration(), {.zeit = {}, .anlass = Sicherungsanlass::VorNeuer}), "");
+    EXPECT_EQ(sicherungen.Lege(Standardkonfiguration(), {.zeit = {}, .anlass = Sicherungsanlass::VorNeuer}),
+              "");
     EXPECT_EQ(sicherungen.Alle().size(), 1U);
     const Ereignis& ereignis = modEreignisse::Alle().Hole(0);
     EXPECT_EQ(ereignis.art, Ereignisart::Gesichert);
