@@ -97,6 +97,8 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Aufzeichnungen, "tlbAufzeichnungen", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeAufzeichnungen(); }, 0, 1, "Ctrl+Shift+R", 6222, "aufzeichnungen", 6223,
      Leistengruppe::Verlauf},
+    {Befehl::Ereignisse, "tlbEreignisse", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeEreignisse(); }, 0,
+     1, "Ctrl+E", 6601, "ereignisse", 6602, Leistengruppe::Verlauf},
 };
 
 } // namespace

@@ -70,6 +70,7 @@ public:
     /// Begins a recording, or ends the one that runs.
     virtual void SchalteAufzeichnung() = 0;
     virtual void ZeigeAufzeichnungen() = 0;
+    virtual void ZeigeEreignisse() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,

@@ -3,6 +3,7 @@
 #include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
@@ -96,6 +97,7 @@ frmMain::frmMain(const QString& programmordner)
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
     aufzeichnung = MacheAufzeichnungsablauf();
+    ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
     wiedergabe = MacheWiedergabeablauf(teile);
@@ -192,6 +194,7 @@ void frmMain::Entlade() {
     bus->Schliesse();
     aufzeichnung->Schliesse();
     messung->Schliesse();
+    ereignisse->Schliesse();
     verbindung->Schliesse();
     hide();
 }

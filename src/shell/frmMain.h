@@ -29,6 +29,7 @@ class frmMain;
 class Vergleichsablauf;
 class Aufzeichnungsablauf;
 class Busablauf;
+class Ereignisablauf;
 class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
@@ -193,6 +194,7 @@ private:
     void VerlasseWiedergabe() override;
     void SchalteAufzeichnung() override;
     void ZeigeAufzeichnungen() override;
+    void ZeigeEreignisse() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -214,6 +216,7 @@ private:
     std::unique_ptr<Busablauf> bus;
     std::unique_ptr<Aufzeichnungsablauf> aufzeichnung;
     std::unique_ptr<Messablauf> messung;
+    std::unique_ptr<Ereignisablauf> ereignisse;       ///< comes after the past that it shows
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -5,6 +5,7 @@
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
@@ -173,6 +174,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     bus->Lokalisiere();
     aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
+    ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -260,6 +262,10 @@ void frmMain::SchalteAufzeichnung() {
 
 void frmMain::ZeigeAufzeichnungen() {
     aufzeichnung->Zeige();
+}
+
+void frmMain::ZeigeEreignisse() {
+    ereignisse->Zeige();
 }
 
 void frmMain::ZeigeSicherungen() {

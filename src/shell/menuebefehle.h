@@ -47,6 +47,7 @@ enum class Befehl {
     UebergebeneAufzeichnung = 192,
     Aufzeichnung = 160,
     Aufzeichnungen = 161,
+    Ereignisse = 200,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

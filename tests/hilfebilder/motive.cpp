@@ -391,6 +391,56 @@ QImage Info(Buehne& buehne) {
     return buehne.BildNach(dialog, Sofort);
 }
 
+struct KeineMitschrift : Ereignisanbieter {
+    Mitschriftstand Mitschrift() override {
+        return {.laeuft = true, .ordner = "/home/service", .datei = "/home/service/varnoth-2026-03-17.txt"};
+    }
+    void SetzeMitschrift(bool /*laeuft*/, const std::string& /*ordner*/) override {}
+    std::optional<std::string> FrageNachOrdner(const std::string& /*titel*/,
+                                               const std::string& /*anfang*/) override {
+        return {};
+    }
+};
+
+/// A night with a disturbed line.
+QImage Ereignisfenster(Buehne& buehne) {
+    using namespace std::chrono_literals;
+    using enum Ereignisart;
+    const Ereignis nacht[] = {
+        {.art = LiveBegonnen, .zeit = Systemzeit(21h + 58min)},
+        {.art = AusgangGeschaltet,
+         .zeit = Systemzeit(26h + 10min + 58s),
+         .anzahl = 62,
+         .neu = 1,
+         .dauer = 31s},
+        {.art = Fehlgeschlagen, .zeit = Systemzeit(26h + 11min + 30s), .anzahl = 41, .neu = 3, .dauer = 156s},
+        {.art = Fehlgeschlagen,
+         .zeit = Systemzeit(26h + 14min + 6s),
+         .anzahl = 19,
+         .neu = 2,
+         .dauer = 48'200ms},
+        {.art = Verloren, .zeit = Systemzeit(26h + 14min + 7s)},
+        {.art = Zurueck, .zeit = Systemzeit(26h + 14min + 55s), .dauer = 47'800ms},
+        {.art = TeilStatus, .zeit = Systemzeit(26h + 15min), .teil = 0, .neu = 4},
+        {.art = TeilGewechselt, .zeit = Systemzeit(27h + 2min), .teil = 2, .neu = 0},
+        {.art = TeilGewechselt, .zeit = Systemzeit(27h + 3min + 5s), .teil = 2, .neu = 1, .dauer = 65s},
+        {.art = Notiz, .zeit = Systemzeit(30h), .text = "Stecker am Optikteil gereinigt"},
+        {.art = Gesichert, .zeit = Systemzeit(30h + 4min)},
+        {.art = KonfigurationGeschrieben, .zeit = Systemzeit(30h + 4min + 20s), .anzahl = 212}};
+    modEreignisse::Alle() = Ereignisspeicher();
+    for (Ereignis ereignis : nacht) {
+        ereignis.zeit += std::chrono::sys_days{std::chrono::year{2026} / 3 / 16}.time_since_epoch();
+        modEreignisse::Merke(ereignis);
+    }
+    pruefung::PruefMessanbieter messungen;
+    KeineMitschrift anbieter;
+    frmEreignisse fenster(messungen, anbieter);
+    fenster.resize(Protokollgroesse.width(), Protokollgroesse.height() * 3 / 4);
+    fenster.show();
+    DieUmgebung().NutzeWartezeit();
+    return buehne.BildNach(fenster, Sofort);
+}
+
 } // namespace
 
 std::span<const Motiv> AlleMotive() {
@@ -419,6 +469,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmBusprotokoll", Protokoll},
         {"frmAufzeichnung", Aufzeichnungen},
         {"frmWiedergabe", Wiedergabebild},
+        {"frmEreignisse", Ereignisfenster},
         {"frmVerbindung_ports", Verbindungsports},
         {"frmVerbindung_suche", Verbindungssuche},
         {"frmVerbindung_leitung", Verbindungspruefung},

@@ -1,10 +1,13 @@
 #include "allefenster.h"
 
+#include "ereignisanbieter.h"
+#include "ereignisse.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
+#include "frmEreignisse.h"
 #include "frmHilfe.h"
 #include "frmHoleLichtleistenInfo.h"
 #include "frmIdentifikationsAnforderung.h"
@@ -26,6 +29,7 @@
 #include "leitungspruefung.h"
 #include "mithoeren.h"
 #include "protokollanbieter.h"
+#include "pruefmessanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
 #include "rahmen.h"
@@ -102,6 +106,19 @@ std::unique_ptr<QWidget> Busprotokollfenster() {
     return fenster;
 }
 
+struct BoeseMitschrift : Ereignisanbieter {
+    Mitschriftstand Mitschrift() override {
+        return {.laeuft = true, .ordner = TextMitTags, .fehler = TextMitTags};
+    }
+    void SetzeMitschrift(bool, const std::string&) override {}
+    std::optional<std::string> FrageNachOrdner(const std::string&, const std::string&) override { return {}; }
+};
+
+std::unique_ptr<QWidget> Ereignisfenster() {
+    modEreignisse::Merke({.art = Ereignisart::Meldung, .text = TextMitTags});
+    return std::make_unique<MitUmfeld<frmEreignisse, PruefMessanbieter, BoeseMitschrift>>();
+}
+
 std::unique_ptr<QWidget> Ansicht() {
     auto fenster = std::make_unique<frmDocument>(0);
     fenster->InitfrmDocument();
@@ -176,6 +193,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmBusprotokoll", Busprotokollfenster},
         {"frmDocument", Ansicht},
         {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
+        {"frmEreignisse", Ereignisfenster},
         {"frmHilfe", Einfach<frmHilfe>},
         {"frmHoleLichtleistenInfo", Einfach<frmHoleLichtleistenInfo>},
         {"frmIdentifikationsAnforderung", Einfach<frmIdentifikationsAnforderung>},

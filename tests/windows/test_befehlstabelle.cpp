@@ -56,6 +56,7 @@ struct PruefWirkung : Befehlswirkung {
     void VerlasseWiedergabe() override { getan = "leave replay"; }
     void SchalteAufzeichnung() override { getan = "recording"; }
     void ZeigeAufzeichnungen() override { getan = "recordings"; }
+    void ZeigeEreignisse() override { getan = "events"; }
 
     std::string getan;
 };
@@ -121,6 +122,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(190), "replay");
     EXPECT_EQ(GetanVon(191), "leave replay");
     EXPECT_EQ(GetanVon(192), "replay handed over");
+    EXPECT_EQ(GetanVon(200), "events");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -140,6 +142,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Aufzeichnung, "Ctrl+R"},
         {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
         {Befehl::Wiedergabe, "Ctrl+Shift+O"},
+        {Befehl::Ereignisse, "Ctrl+E"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
