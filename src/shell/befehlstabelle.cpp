@@ -85,6 +85,8 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
      Leistengruppe::Pruefen},
+    {Befehl::Verlauf, "tlbVerlauf", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeVerlauf(); }, 0, 1,
+     "Ctrl+T", 6300, "verlauf", 6301, Leistengruppe::Verlauf},
 };
 
 } // namespace

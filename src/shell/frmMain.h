@@ -178,6 +178,7 @@ private:
     void PruefeLeitung() override;
     void BieteDarstellung() override;
     void ZeigeBusprotokoll() override;
+    void ZeigeVerlauf() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours

@@ -11,6 +11,7 @@
 #include "frmMain.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmVerlauf.h"
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
@@ -229,6 +230,10 @@ void frmMain::BieteDarstellung() {
 
 void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
+}
+
+void frmMain::ZeigeVerlauf() {
+    messung->Zeige<frmVerlauf>();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -42,6 +42,7 @@ enum class Befehl {
     AnschlussUebernehmen = 151,
     GeraetSuchen = 152,
     LeitungPruefen = 153,
+    Verlauf = 170,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

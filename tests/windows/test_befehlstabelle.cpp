@@ -51,6 +51,7 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void ZeigeVerlauf() override { getan = "trend"; }
 
     std::string getan;
 };
@@ -111,6 +112,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(170), "trend");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
