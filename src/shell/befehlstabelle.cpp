@@ -99,6 +99,8 @@ constexpr Befehlszeile DieBefehle[] = {
      Leistengruppe::Verlauf},
     {Befehl::Ereignisse, "tlbEreignisse", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeEreignisse(); }, 0,
      1, "Ctrl+E", 6601, "ereignisse", 6602, Leistengruppe::Verlauf},
+    {Befehl::Verlauf, "tlbVerlauf", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeVerlauf(); }, 0, 1,
+     "Ctrl+T", 6300, "verlauf", 6301, Leistengruppe::Verlauf},
 };
 
 } // namespace

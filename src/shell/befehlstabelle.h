@@ -71,6 +71,7 @@ public:
     virtual void SchalteAufzeichnung() = 0;
     virtual void ZeigeAufzeichnungen() = 0;
     virtual void ZeigeEreignisse() = 0;
+    virtual void ZeigeVerlauf() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,

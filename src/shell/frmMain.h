@@ -195,6 +195,7 @@ private:
     void SchalteAufzeichnung() override;
     void ZeigeAufzeichnungen() override;
     void ZeigeEreignisse() override;
+    void ZeigeVerlauf() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours

@@ -14,6 +14,7 @@
 #include "frmMain.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmVerlauf.h"
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
@@ -266,6 +267,10 @@ void frmMain::ZeigeAufzeichnungen() {
 
 void frmMain::ZeigeEreignisse() {
     ereignisse->Zeige();
+}
+
+void frmMain::ZeigeVerlauf() {
+    messung->Zeige<frmVerlauf>();
 }
 
 void frmMain::ZeigeSicherungen() {

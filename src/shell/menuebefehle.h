@@ -48,6 +48,7 @@ enum class Befehl {
     Aufzeichnung = 160,
     Aufzeichnungen = 161,
     Ereignisse = 200,
+    Verlauf = 170,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

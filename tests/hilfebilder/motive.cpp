@@ -22,11 +22,14 @@
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
+#include "frmVerlauf.h"
 #include "frmVergleich.h"
 #include "leitungspruefung.h"
 #include "motivwiedergabe.h"
 #include "polling.h"
 #include "protokollanbieter.h"
+#include "pruefdurchgaenge.h"
+#include "pruefmessanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
 #include "registerabbild.h"
@@ -66,6 +69,7 @@ constexpr QSize Vergleichsgroesse(840, 400);
 constexpr QSize Verbindungsgroesse(760, 480);
 constexpr QSize Berichtsgroesse(840, 600);
 constexpr QSize Protokollgroesse(840, 520);
+constexpr QSize Verlaufsgroesse(840, 520);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
 constexpr int SeiteK1 = 1;
@@ -386,6 +390,29 @@ QImage Aufzeichnungen(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+/// Five minutes of a web that wanders, with a spike and a short loss of the connection.
+void FuelleVerlauf(pruefung::PruefMessquelle& quelle) {
+    constexpr int Sekunden = 300;
+    constexpr int Spitze = 190;
+    quelle.angaben.beginn = std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    for (int i = 0; i < Sekunden; ++i) {
+        const auto tu = static_cast<std::uint16_t>(i == Spitze ? 90 : 40 + i * 7 % 60 / 4);
+        Messpaket paket = pruefung::PaketMit(std::chrono::seconds(i), 10, milliseconds(100), tu);
+        if (i == Spitze)
+            paket.ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = std::chrono::seconds(i), .text = "B 12"}};
+        if (i < 80 || i > 90)
+            quelle.Nimm(std::move(paket));
+    }
+}
+
+QImage Verlauf(Buehne& buehne) {
+    pruefung::PruefMessanbieter anbieter;
+    FuelleVerlauf(anbieter.quelle);
+    frmVerlauf fenster(anbieter);
+    fenster.resize(Verlaufsgroesse);
+    return buehne.BildNach(fenster, milliseconds(300));
+}
+
 QImage Info(Buehne& buehne) {
     frmInfo dialog(nullptr);
     return buehne.BildNach(dialog, Sofort);
@@ -470,6 +497,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmAufzeichnung", Aufzeichnungen},
         {"frmWiedergabe", Wiedergabebild},
         {"frmEreignisse", Ereignisfenster},
+        {"frmVerlauf", Verlauf},
         {"frmVerbindung_ports", Verbindungsports},
         {"frmVerbindung_suche", Verbindungssuche},
         {"frmVerbindung_leitung", Verbindungspruefung},

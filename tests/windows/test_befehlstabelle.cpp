@@ -57,6 +57,7 @@ struct PruefWirkung : Befehlswirkung {
     void SchalteAufzeichnung() override { getan = "recording"; }
     void ZeigeAufzeichnungen() override { getan = "recordings"; }
     void ZeigeEreignisse() override { getan = "events"; }
+    void ZeigeVerlauf() override { getan = "trend"; }
 
     std::string getan;
 };
@@ -123,6 +124,7 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(191), "leave replay");
     EXPECT_EQ(GetanVon(192), "replay handed over");
     EXPECT_EQ(GetanVon(200), "events");
+    EXPECT_EQ(GetanVon(170), "trend");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
