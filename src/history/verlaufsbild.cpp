@@ -21,7 +21,7 @@ constexpr std::int16_t TextLeer = 6330, TextKeineKurve = 6331, TextBild = 6333, 
 
 constexpr int WunschbreiteZeichen = 90;
 constexpr int WunschhoeheZeilen = 26;
-constexpr int MindestbreiteZeichen = 45;
+constexpr int MindestbreiteZeichen = 60;
 constexpr int MindesthoeheZeilen = 12;
 constexpr double Kopffreiheit = 1.03; // above the highest value that there can be
 constexpr int UeblicheStrahlen = 100; // as long as none were measured
@@ -65,6 +65,9 @@ void Verlaufsbild::Erneuere() {
         return;
     blatt.angaben = anbieter->Quelle().Angaben();
     blatt.abstaende = StrahlabstaendeVon(anbieter->Quelle());
+    Richte();
+    // A little that is new is exact before it is first drawn.
+    MerkeGeaendert(spalten.Verfeinere(anbieter->Quelle(), PaketeJeBlick));
     Richte();
     Plane();
 }

@@ -20,8 +20,8 @@
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
-#include "frmVerlauf.h"
 #include "frmVergleich.h"
+#include "frmVerlauf.h"
 #include "leitungspruefung.h"
 #include "polling.h"
 #include "protokollanbieter.h"
@@ -355,7 +355,8 @@ void FuelleVerlauf(pruefung::PruefMessquelle& quelle) {
         const auto tu = static_cast<std::uint16_t>(i == Spitze ? 90 : 40 + i * 7 % 60 / 4);
         Messpaket paket = pruefung::PaketMit(std::chrono::seconds(i), 10, milliseconds(100), tu);
         if (i == Spitze)
-            paket.ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = std::chrono::seconds(i), .text = "B 12"}};
+            paket.ereignisse = {
+                {.art = Messereignisart::Notiz, .laufzeit = std::chrono::seconds(i), .text = "B 12"}};
         if (i < 80 || i > 90)
             quelle.Nimm(std::move(paket));
     }
