@@ -108,8 +108,11 @@ void Verlaufsbild::Richte() {
 void Verlaufsbild::RichteSpalten() {
     const int anzahl = feld.Spalten();
     const Zeit breite = std::max(Zeit(1), (blick.Breite() + Zeit(anzahl - 1)) / anzahl);
-    if (breite != spalten.Breite())
-        spalten.Beginne(breite);
+    unsigned teile = 0;
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        teile |= blatt.wahl.HatTeil(teil) ? 1U << static_cast<unsigned>(teil) : 0U;
+    if (breite != spalten.Breite() || teile != spalten.Teile())
+        spalten.Beginne(breite, teile);
     blatt.ersteSpalte = spalten.NummerUm(blick.Spanne().bis) - anzahl + 1;
     blatt.spanne = {spalten.Beginn(blatt.ersteSpalte), spalten.Beginn(blatt.ersteSpalte + anzahl)};
     // What holds at the edges begins before them.
