@@ -21,7 +21,7 @@ namespace {
 constexpr int Durchgaenge = 400;
 constexpr int NotizBei = 150;
 constexpr int VerlorenAb = 250, ZurueckBei = 300;
-constexpr QSize Groesse(1180, 660);
+constexpr QSize Groesse(900, 640);
 
 /// Keeps live data as a recording does.
 struct Mitschnitt : Messhoerer {
@@ -79,9 +79,8 @@ QImage Wiedergabebild(Buehne& buehne) {
     const QSize vorher = fenster.size();
     fenster.resize(Groesse);
     SetzeDateiantwort([](const Dateifrage&) { return "/home/varnoth/SIM-0001_2026-03-17.vrec"; });
-    fenster.SetzeAufzeichnungsleser([quelle](const std::string&, const auto&) {
-        return GeoeffneteAufzeichnung{.quelle = quelle};
-    });
+    fenster.SetzeAufzeichnungsleser(
+        [quelle](const std::string&, const auto&) { return GeoeffneteAufzeichnung{.quelle = quelle}; });
     Kind<QAction>(fenster, "tlbWiedergabe").trigger();
     fenster.MenuAusführen();
     SetzeDateiantwort({});
