@@ -42,7 +42,10 @@ void RichteEin(QFileDialog& dialog, const Dateifrage& frage) {
     dialog.setObjectName(QStringLiteral("Dateidialog"));
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setAcceptMode(speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setFileMode(frage.art == Dateiwahl::Ordner ? QFileDialog::Directory
+                       : speichern                    ? QFileDialog::AnyFile
+                                                      : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::ShowDirsOnly, frage.art == Dateiwahl::Ordner);
     dialog.setWindowTitle(QString::fromStdString(frage.titel));
     dialog.setDirectory(Startordner(frage));
 }
@@ -79,7 +82,8 @@ std::optional<std::string> FrageNachDatei(const Dateifrage& frage) {
     RichteEin(dialog, frage);
     if (const auto* const knoepfe = dialog.findChild<QDialogButtonBox*>())
         GibKnoepfenSymbole(*knoepfe);
-    SetzeFilter(dialog, FilterFuerQt(frage.filter));
+    if (frage.art != Dateiwahl::Ordner)
+        SetzeFilter(dialog, FilterFuerQt(frage.filter));
     if (!frage.name.empty())
         dialog.selectFile(QString::fromStdString(frage.name));
     if (dialog.exec() != QDialog::Accepted)

@@ -35,7 +35,7 @@ std::string Zustandswechsel(const Sprungfund& fund) {
 
 } // namespace
 
-std::string Tageszeit(const Messangaben& angaben, Zeit laufzeit) {
+std::string Augenblickstext(const Messangaben& angaben, Zeit laufzeit) {
     const auto ort =
         floor<milliseconds>(angaben.beginn.time_since_epoch() + laufzeit + minutes(angaben.zoneMinuten));
     const sys_days tag = floor<days>(sys_time<milliseconds>(ort));
@@ -50,7 +50,7 @@ std::string Tageszeit(const Messangaben& angaben, Zeit laufzeit) {
            Gefuellt(zeit.seconds().count(), 2) + Komma() + Gefuellt(zeit.subseconds().count(), 3);
 }
 
-std::string Dauertext(Zeit dauer) {
+std::string Laufzeittext(Zeit dauer) {
     const hh_mm_ss zeit(floor<milliseconds>(std::max(dauer, Zeit{0})));
     const auto stunden = static_cast<long long>(zeit.hours().count());
     const std::string kopf = stunden > 0 ? std::to_string(stunden) + ":" : std::string();
@@ -59,8 +59,8 @@ std::string Dauertext(Zeit dauer) {
 }
 
 std::string Positionstext(const Messangaben& angaben, const Zeitspanne& spanne, Zeit laufzeit) {
-    return LadeTextMit(TextPosition, {Tageszeit(angaben, laufzeit), Dauertext(laufzeit - spanne.von),
-                                      Dauertext(spanne.bis - spanne.von)});
+    return LadeTextMit(TextPosition, {Augenblickstext(angaben, laufzeit), Laufzeittext(laufzeit - spanne.von),
+                                      Laufzeittext(spanne.bis - spanne.von)});
 }
 
 std::string Fundtext(const Sprungfund& fund) {

@@ -101,6 +101,8 @@ private:
     void RichteWerteEin();
     void RichteAnsagenEin();
     void VergissAnzeige();
+    void ZeigeFaelliges();
+    void ZeigeScan();
     void ZeigeWerte();
     void ZeigeStatus(const QString& text);
     void ZeigePosition(std::size_t k, std::int32_t wert);
@@ -137,7 +139,8 @@ private:
     Zeigerschild* zeigerschild;
     Zoomkopf* zoomkopf;
     Ansager ansager;
-    Werte strahlen;
+    bool scanBekannt = false; // a scan of the data set is in the image
+    bool faellig = false;     // what is in the image is to be shown
     int strahlUnterMaus = -1;
     bool zeitlos = false;
     bool warSichtbar = false;

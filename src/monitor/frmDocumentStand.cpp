@@ -18,6 +18,7 @@ constexpr std::int16_t TextKeineWerte = 9000;
 } // namespace
 
 void frmDocument::VerwirfWerte() {
+    faellig = false;
     alter.Vergiss();
     SetzeStand(Datenstand::Ungueltig);
     VergissAnzeige();

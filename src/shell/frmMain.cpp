@@ -1,7 +1,9 @@
 #include "frmMain.h"
 
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
@@ -94,6 +96,8 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
+    aufzeichnung = MacheAufzeichnungsablauf();
+    ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
     wiedergabe = MacheWiedergabeablauf(teile);
@@ -188,7 +192,9 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    aufzeichnung->Schliesse();
     messung->Schliesse();
+    ereignisse->Schliesse();
     verbindung->Schliesse();
     hide();
 }

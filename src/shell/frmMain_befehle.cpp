@@ -1,8 +1,11 @@
 // What the menu commands of the main window do.
 
+#include "aktionen.h"
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
@@ -11,6 +14,7 @@
 #include "frmMain.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmVerlauf.h"
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
@@ -49,17 +53,18 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     zeile->tut(*this, index);
 }
 
-/// By the text of its button or, where it has none, of its menu item, for whoever reads later what has
-/// happened.
+/// By the id of its button's text or, where it has none, of its menu item's, so that it is told later in
+/// whatever language is in use.
 void frmMain::MerkeBefehl(const Befehlszeile& zeile, int index) const {
     const auto* const aktion =
         findChild<QAction*>(QString::fromStdString(Aktionsname(zeile, index - zeile.ersterIndex)));
-    QString text = QString::fromStdString(LadeText(zeile.textId));
-    if (text.isEmpty() && aktion != nullptr)
-        text = aktion->text();
-    text.remove(u'&');
-    modEreignisse::Merke(text.isEmpty() ? "(" + std::to_string(static_cast<int>(zeile.befehl)) + ")"
-                                        : text.toStdString());
+    Ereignis ereignis{
+        .art = Ereignisart::Befehl, .alt = static_cast<std::int32_t>(zeile.befehl), .neu = zeile.textId};
+    if (ereignis.neu == 0 && aktion != nullptr) {
+        ereignis.neu = aktion->property("Tag").toInt();
+        ereignis.text = aktion->text().toStdString();
+    }
+    modEreignisse::Merke(ereignis);
 }
 
 void frmMain::MenuAusführen() {
@@ -168,7 +173,9 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     bus->Lokalisiere();
+    aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
+    ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -236,6 +243,34 @@ void frmMain::BieteDarstellung() {
 
 void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
+}
+
+std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
+    QAction& knopf = Aktion(*this, QStringLiteral("tlbAufzeichnung"));
+    knopf.setCheckable(true);
+    messung->SetzeNotizhoerer([this](Zeit uhr, Systemzeit zeit, const std::string& text) {
+        aufzeichnung->Notiere(uhr, zeit, text);
+    });
+    return std::make_unique<Aufzeichnungsablauf>(
+        Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,
+                                  .zeige = [this] { befehle.Klick(Befehl::Aufzeichnungen); },
+                                  .laeuft = [&knopf](bool laeuft) { knopf.setChecked(laeuft); }});
+}
+
+void frmMain::SchalteAufzeichnung() {
+    aufzeichnung->Schalte();
+}
+
+void frmMain::ZeigeAufzeichnungen() {
+    aufzeichnung->Zeige();
+}
+
+void frmMain::ZeigeEreignisse() {
+    ereignisse->Zeige();
+}
+
+void frmMain::ZeigeVerlauf() {
+    messung->Zeige<frmVerlauf>();
 }
 
 void frmMain::ZeigeSicherungen() {

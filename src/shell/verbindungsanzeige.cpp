@@ -1,6 +1,5 @@
 #include "verbindungsanzeige.h"
 
-#include "ereignisse.h"
 #include "identifikation.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
@@ -131,21 +130,26 @@ void Verbindungsanzeige::Aktualisiere() {
         inhalt.gegenstand = *wiedergabe;
     }
     if (inhalt != gezeigt) {
-        MerkeZustand(inhalt, tatsachen.uhrzeit);
+        MerkeZustand(inhalt);
         Zeige(inhalt, tatsachen.uhrzeit);
     }
     gezeigt = inhalt;
 }
 
 /// Every new state is kept, with the line that it is about.
-void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const {
+void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) {
     if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
-    if (inhalt.bild.zustand == Verbindungszustand::Wiedergabe)
-        return modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.aufzeichnung + ")");
-    modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.port + ", " +
-                         gegenstand.geraet + ", " + gegenstand.format + ")");
+    const bool wiedergegeben = inhalt.bild.zustand == Verbindungszustand::Wiedergabe;
+    merker.Merke({.art = Ereignisart::Zustand,
+                  .zeit = std::chrono::system_clock::now(),
+                  .laufzeit = DieUmgebung().Uhr(),
+                  .alt = inhalt.bild.simuliert ? 1 : 0,
+                  .neu = static_cast<int>(inhalt.bild.zustand),
+                  .text = wiedergegeben
+                              ? gegenstand.aufzeichnung
+                              : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

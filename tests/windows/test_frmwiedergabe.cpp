@@ -241,13 +241,13 @@ TEST_F(FrmWiedergabeTest, Every_control_has_a_name_for_those_who_do_not_see_it) 
 }
 
 TEST(WiedergabeworteTest, Times_are_told_as_a_reader_writes_them) {
-    EXPECT_EQ(Dauertext(0s), "0:00,0");
-    EXPECT_EQ(Dauertext(65'430ms), "1:05,4");
-    EXPECT_EQ(Dauertext(3h + 2min + 1s), "3:02:01,0");
-    EXPECT_EQ(Dauertext(200h), "200:00:00,0");
-    EXPECT_EQ(Dauertext(-5s), "0:00,0");
+    EXPECT_EQ(Laufzeittext(0s), "0:00,0");
+    EXPECT_EQ(Laufzeittext(65'430ms), "1:05,4");
+    EXPECT_EQ(Laufzeittext(3h + 2min + 1s), "3:02:01,0");
+    EXPECT_EQ(Laufzeittext(200h), "200:00:00,0");
+    EXPECT_EQ(Laufzeittext(-5s), "0:00,0");
     const Messangaben angaben{.beginn = Systemzeit(0s), .zoneMinuten = -90};
-    EXPECT_EQ(Tageszeit(angaben, 1'500ms), "31.12.1969 22:30:01,500");
+    EXPECT_EQ(Augenblickstext(angaben, 1'500ms), "31.12.1969 22:30:01,500");
 }
 
 TEST(WiedergabeworteTest, Every_event_has_words_of_its_own) {
