@@ -30,24 +30,4 @@ private:
     Ereignisableitung ableitung{ereignisse};
 };
 
-/// Looks for the first event behind a time, step by step: a state or the output has changed, a part or the
-/// connection has gone or come, somebody has noted something.
-class Ereignissuche {
-public:
-    /// The source must outlive this object.
-    Ereignissuche(const Messquelle& quelle, Zeit nach);
-
-    /// Looks at so many further packets at most. False when it has come to its end: there is a find, or none
-    /// is left.
-    bool Weiter(std::size_t pakete);
-    /// When the event was, as `laufzeit`; nothing as long as none is found.
-    std::optional<Zeit> Fund() const { return fund; }
-
-private:
-    Zeit nach;
-    Ereignislauf lauf;
-    std::uint64_t betrachtet = 0;
-    std::optional<Zeit> fund;
-};
-
 } // namespace varnoth

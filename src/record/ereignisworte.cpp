@@ -30,7 +30,7 @@ constexpr std::int16_t TextSimuliertUnd = 9108, TextAusgangAktiv = 9308, TextAus
                        TextErstesOptikteil = 5200;
 constexpr std::int16_t Fehlschlagtexte[] = {8421, 8430, 8422, 8487,
                                             8426}; // as exchanges are counted by their end
-constexpr int Zustandszahl = 7;
+constexpr int Zustandszahl = 8;
 
 std::string Text(int id) {
     return LadeText(static_cast<std::int16_t>(id));

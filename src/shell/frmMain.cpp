@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
 #include "ereignisablauf.h"
@@ -21,6 +22,7 @@
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -94,9 +96,11 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
+    aufzeichnung = MacheAufzeichnungsablauf();
     ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
+    wiedergabe = MacheWiedergabeablauf(teile);
 }
 
 frmMain::~frmMain() = default;
@@ -179,6 +183,7 @@ void frmMain::Entlade() {
         return;
     entladen = true;
     modPolling::StoppePolling();
+    BeendeWiedergabe();
     BewahreFensterplatz(*this, Fensterabschnitt);
     ansichten->SpeicherePlaetze();
     leiste->SpeicherePlatz();
@@ -187,6 +192,7 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    aufzeichnung->Schliesse();
     messung->Schliesse();
     ereignisse->Schliesse();
     verbindung->Schliesse();

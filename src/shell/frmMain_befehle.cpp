@@ -1,5 +1,7 @@
 // What the menu commands of the main window do.
 
+#include "aktionen.h"
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
@@ -12,6 +14,7 @@
 #include "frmMain.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmVerlauf.h"
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
@@ -27,6 +30,8 @@
 #include "verbindungsablauf.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
+#include "wiedergaberegel.h"
 
 #include <QAction>
 #include <QMenu>
@@ -43,6 +48,8 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     if (zeile == nullptr || IstZuSpaet(befehl))
         return;
     MerkeBefehl(*zeile, index);
+    if (VerlaesstWiedergabe(befehl))
+        BeendeWiedergabe();
     zeile->tut(*this, index);
 }
 
@@ -111,6 +118,8 @@ void frmMain::SubBeenden() {
 }
 
 void frmMain::ZeigeAnsicht(int optikteil) {
+    if (wiedergabe->Laeuft())
+        return wiedergabe->ZeigeAnsicht(optikteil);
     ansichten->Zeige(optikteil, betrieb->IstLive());
 }
 
@@ -164,11 +173,13 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     bus->Lokalisiere();
+    aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
     ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
+    wiedergabe->Lokalisiere();
 }
 
 void frmMain::OeffneLetzteDatei(int platz) {
@@ -234,8 +245,32 @@ void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
 }
 
+std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
+    QAction& knopf = Aktion(*this, QStringLiteral("tlbAufzeichnung"));
+    knopf.setCheckable(true);
+    messung->SetzeNotizhoerer([this](Zeit uhr, Systemzeit zeit, const std::string& text) {
+        aufzeichnung->Notiere(uhr, zeit, text);
+    });
+    return std::make_unique<Aufzeichnungsablauf>(
+        Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,
+                                  .zeige = [this] { befehle.Klick(Befehl::Aufzeichnungen); },
+                                  .laeuft = [&knopf](bool laeuft) { knopf.setChecked(laeuft); }});
+}
+
+void frmMain::SchalteAufzeichnung() {
+    aufzeichnung->Schalte();
+}
+
+void frmMain::ZeigeAufzeichnungen() {
+    aufzeichnung->Zeige();
+}
+
 void frmMain::ZeigeEreignisse() {
     ereignisse->Zeige();
+}
+
+void frmMain::ZeigeVerlauf() {
+    messung->Zeige<frmVerlauf>();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include <utility>
+
 namespace varnoth {
 
 namespace {
@@ -112,12 +114,21 @@ void Verbindungsanzeige::SetzeVerbindet(bool ob) {
     Aktualisiere();
 }
 
+void Verbindungsanzeige::SetzeWiedergabe(std::optional<Verbindungsgegenstand> woraus) {
+    wiedergabe = std::move(woraus);
+    Aktualisiere();
+}
+
 void Verbindungsanzeige::Aktualisiere() {
     const Verbindungstatsachen tatsachen = Tatsachen(verbindet);
-    const Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
-                        .gegenstand = Gegenstand(),
-                        .tag = tatsachen.uhrzeit.date(),
-                        .sprache = GetSprachoffset()};
+    Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
+                  .gegenstand = Gegenstand(),
+                  .tag = tatsachen.uhrzeit.date(),
+                  .sprache = GetSprachoffset()};
+    if (wiedergabe) {
+        inhalt.bild = {.zustand = Verbindungszustand::Wiedergabe};
+        inhalt.gegenstand = *wiedergabe;
+    }
     if (inhalt != gezeigt) {
         MerkeZustand(inhalt);
         Zeige(inhalt, tatsachen.uhrzeit);
@@ -130,12 +141,15 @@ void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) {
     if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
+    const bool wiedergegeben = inhalt.bild.zustand == Verbindungszustand::Wiedergabe;
     merker.Merke({.art = Ereignisart::Zustand,
                   .zeit = std::chrono::system_clock::now(),
                   .laufzeit = DieUmgebung().Uhr(),
                   .alt = inhalt.bild.simuliert ? 1 : 0,
                   .neu = static_cast<int>(inhalt.bild.zustand),
-                  .text = gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
+                  .text = wiedergegeben
+                              ? gegenstand.aufzeichnung
+                              : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

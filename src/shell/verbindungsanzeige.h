@@ -33,6 +33,8 @@ public:
 
     /// The connection flow begins or ends.
     void SetzeVerbindet(bool ob);
+    /// A record is shown instead of a connection; nothing: no longer.
+    void SetzeWiedergabe(std::optional<Verbindungsgegenstand> woraus);
     /// Looks now.
     void Aktualisiere();
 
@@ -59,6 +61,7 @@ private:
     QTimer takt;
     Verbindungsregel regel;
     std::optional<Inhalt> gezeigt;
+    std::optional<Verbindungsgegenstand> wiedergabe;
     Zustandsmerker merker{modEreignisse::Alle()};
     bool verbindet = false;
 };

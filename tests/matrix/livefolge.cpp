@@ -23,7 +23,8 @@ constexpr unsigned Schaltet = 40, TeilGeht = 5000, TeilKommt = 500, GehtVerloren
 Teilmessung Gemessen(int oben, int dicke) {
     Teilmessung messung{.vorhanden = true,
                         .gemessen = true,
-                        .status = static_cast<std::uint16_t>(optikteilstatus::Vorhanden | (dicke == 0 ? 1 : 4)),
+                        .status =
+                            static_cast<std::uint16_t>(optikteilstatus::Vorhanden | (dicke == 0 ? 1 : 4)),
                         .strahlen = Strahlen};
     messung.werte.fill(static_cast<std::uint16_t>(dicke));
     Werte muster(Strahlen / 16, 0xFFFF);
@@ -59,8 +60,8 @@ Messdurchgang Livefolge::Naechster() {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         if (teil != fehlender) {
             const bool objekt = durchgaenge / Objektlaenge % 2 != 0;
-            durchgang.teile.at(static_cast<std::size_t>(teil)) =
-                Gemessen(10 + static_cast<int>(zufall() % 4), objekt ? 30 + static_cast<int>(zufall() % 8) : 0);
+            durchgang.teile.at(static_cast<std::size_t>(teil)) = Gemessen(
+                10 + static_cast<int>(zufall() % 4), objekt ? 30 + static_cast<int>(zufall() % 8) : 0);
         }
     return durchgang;
 }

@@ -1,5 +1,5 @@
-// The soak of the past: hours of live data that nobody has measured, told in minutes, while every window of the
-// past is open and recordings run. Nothing may grow once all that is bounded is full.
+// The soak of the past: hours of live data that nobody has measured, told in minutes, while every window of
+// the past is open and recordings run. Nothing may grow once all that is bounded is full.
 //   zeitraffer [--hours N] [--seed S]
 
 #include "befehlstabelle.h"
@@ -23,9 +23,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Zeit Runde = 1min;              ///< told between two looks at the windows
-constexpr int BlickeJeRunde = 3;          ///< rounds of the main loop, in which windows follow and paint
-constexpr std::size_t WachstumKb = 4096;  ///< that is still called none
+constexpr Zeit Runde = 1min;             ///< told between two looks at the windows
+constexpr int BlickeJeRunde = 3;         ///< rounds of the main loop, in which windows follow and paint
+constexpr std::size_t WachstumKb = 4096; ///< that is still called none
 constexpr double RundenJeStunde = 60;
 constexpr double KuerzestesUrteil = 60; ///< hours; less does not fill what is bounded
 
@@ -141,7 +141,8 @@ int main(int argc, char** argv) {
     QApplication anwendung(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QCommandLineParser worte;
-    worte.addOptions({{"hours", "of live data (72)", "number", "72"}, {"seed", "another run (1)", "number", "1"}});
+    worte.addOptions(
+        {{"hours", "of live data (72)", "number", "72"}, {"seed", "another run (1)", "number", "1"}});
     worte.addHelpOption();
     worte.process(anwendung);
     qInstallMessageHandler(BeiLogzeile);

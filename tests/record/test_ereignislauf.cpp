@@ -94,36 +94,6 @@ TEST(Ereignislauf, Is_done_at_once_with_an_empty_source) {
     Ereignislauf lauf(quelle);
     EXPECT_TRUE(lauf.IstFertig());
     EXPECT_DOUBLE_EQ(lauf.Anteil(), 1);
-    Ereignissuche suche(quelle, 0s);
-    EXPECT_FALSE(suche.Weiter(10));
-    EXPECT_FALSE(suche.Fund());
-}
-
-TEST(Ereignissuche, Finds_the_first_event_behind_a_time_and_then_the_next) {
-    Schaltquelle quelle(1000);
-    quelle.aktiv = {{200, true}, {800, true}};
-    Ereignissuche erste(quelle, 0s);
-    while (erste.Weiter(10)) {
-    }
-    EXPECT_EQ(erste.Fund(), Zeit(200s));
-    Ereignissuche zweite(quelle, *erste.Fund());
-    while (zweite.Weiter(10)) {
-    }
-    EXPECT_EQ(zweite.Fund(), Zeit(800s));
-    Ereignissuche keine(quelle, *zweite.Fund());
-    while (keine.Weiter(10)) {
-    }
-    EXPECT_FALSE(keine.Fund());
-}
-
-TEST(Ereignissuche, Reads_no_more_than_it_needs) {
-    Schaltquelle quelle(1000);
-    quelle.aktiv = {{500, true}};
-    Ereignissuche suche(quelle, 490s);
-    while (suche.Weiter(100)) {
-    }
-    EXPECT_EQ(suche.Fund(), Zeit(500s));
-    EXPECT_LE(quelle.gelesene, 21);
 }
 
 } // namespace varnoth

@@ -9,7 +9,8 @@ using namespace std::chrono_literals;
 class ZustandsmerkerTest : public testing::Test {
 protected:
     void Zustand(Zeit uhr, int zustand, int simuliert = 0) {
-        merker.Merke({.art = Ereignisart::Zustand, .laufzeit = uhr, .alt = simuliert, .neu = zustand, .text = "COM1"});
+        merker.Merke(
+            {.art = Ereignisart::Zustand, .laufzeit = uhr, .alt = simuliert, .neu = zustand, .text = "COM1"});
     }
 
     Ereignisspeicher speicher;

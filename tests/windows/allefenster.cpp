@@ -26,9 +26,11 @@
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "frmVerlauf.h"
 #include "leitungspruefung.h"
 #include "mithoeren.h"
 #include "protokollanbieter.h"
+#include "pruefdurchgaenge.h"
 #include "pruefmessanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
@@ -176,6 +178,21 @@ std::unique_ptr<QWidget> Verbindungsfenster() {
     return fenster;
 }
 
+/// A past with a note that somebody has written.
+struct BoeseVergangenheit : PruefMessanbieter {
+    BoeseVergangenheit() {
+        const std::string boese = TextMitTags;
+        quelle.angaben = {.bezeichnung = boese, .seriennummer = boese, .programm = boese};
+        Messpaket paket = PaketMit(Zeit(0), 10, std::chrono::milliseconds(100));
+        paket.ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = Zeit(0), .text = boese}};
+        quelle.Nimm(std::move(paket));
+    }
+};
+
+std::unique_ptr<QWidget> Verlaufsfenster() {
+    return std::make_unique<MitUmfeld<frmVerlauf, BoeseVergangenheit>>();
+}
+
 std::unique_ptr<QWidget> Vergleich() {
     auto fenster = std::make_unique<MitUmfeld<frmVergleich, Anbieter>>();
     fenster->Setze(
@@ -212,6 +229,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmStrahlenBestimmen", Einfach<frmStrahlenBestimmen>},
         {"frmVerbindung", Verbindungsfenster},
         {"frmVergleich", Vergleich},
+        {"frmVerlauf", Verlaufsfenster},
     };
     return alle;
 }

@@ -51,7 +51,13 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void OeffneAufzeichnung() override { getan = "replay"; }
+    void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
+    void VerlasseWiedergabe() override { getan = "leave replay"; }
+    void SchalteAufzeichnung() override { getan = "recording"; }
+    void ZeigeAufzeichnungen() override { getan = "recordings"; }
     void ZeigeEreignisse() override { getan = "events"; }
+    void ZeigeVerlauf() override { getan = "trend"; }
 
     std::string getan;
 };
@@ -112,7 +118,13 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(160), "recording");
+    EXPECT_EQ(GetanVon(161), "recordings");
+    EXPECT_EQ(GetanVon(190), "replay");
+    EXPECT_EQ(GetanVon(191), "leave replay");
+    EXPECT_EQ(GetanVon(192), "replay handed over");
     EXPECT_EQ(GetanVon(200), "events");
+    EXPECT_EQ(GetanVon(170), "trend");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -129,6 +141,9 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
+        {Befehl::Aufzeichnung, "Ctrl+R"},
+        {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
+        {Befehl::Wiedergabe, "Ctrl+Shift+O"},
         {Befehl::Ereignisse, "Ctrl+E"},
     };
     for (const auto& [befehl, taste] : tasten)
