@@ -58,7 +58,15 @@ private:
                 teil.vorhanden = teil.gemessen = true;
                 teil.strahlen = 128;
                 const auto tu = static_cast<std::uint16_t>(40 + 20 * std::sin(stelle / 900) + i % 3);
-                teil.werte = {tu, static_cast<std::uint16_t>(tu + 30 + i % 5), 30, 1, 128, 98, 0, 0, 0, 1, 1, 1, 128, 128, 128, 128, 128, 128};
+                teil.werte = {tu,  static_cast<std::uint16_t>(tu + 30 + i % 5),
+                              30,  1,
+                              128, 98,
+                              0,   0,
+                              0,   1,
+                              1,   1,
+                              128, 128,
+                              128, 128,
+                              128, 128};
             }
             paket.durchgaenge.push_back(durchgang);
         }

@@ -87,7 +87,7 @@ std::string Markenworte(const Messangaben& angaben, const Messdurchgang* a, cons
                     LadeTextMit(TextMarke, {name, Tageszeit(angaben, durchgang->uhr)});
     if (a == nullptr || b == nullptr)
         return text;
-    text += Trennung + LadeTextMit(TextZeitunterschied, {Dauertext(b->uhr - a->uhr)});
+    text += Trennung + LadeTextMit(TextZeitunterschied, {Abstandstext(b->uhr - a->uhr)});
     return text + JeTeil(wahl, [&](int teil) {
                if (!Messung(*a, teil).gemessen || !Messung(*b, teil).gemessen)
                    return LadeText(TextNichtGemessen);

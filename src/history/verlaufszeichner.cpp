@@ -225,7 +225,7 @@ void Verlaufszeichner::ZeichneZeitachse() const {
     }
     const QString datum = Q(Datum(blatt.angaben, blatt.spanne.von));
     maler.drawText(QPointF(feld.kurven.left(), grund + masse.height()), datum);
-    const QString dauer = Q(Dauertext(blatt.spanne.bis - blatt.spanne.von));
+    const QString dauer = Q(Abstandstext(blatt.spanne.bis - blatt.spanne.von));
     maler.drawText(QPointF(feld.kurven.right() - masse.horizontalAdvance(dauer), grund + masse.height()),
                    dauer);
 }

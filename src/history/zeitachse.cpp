@@ -130,7 +130,7 @@ std::string Datum(const Messangaben& angaben, Zeit laufzeit) {
     return Datum(Ortszeit(angaben, laufzeit));
 }
 
-std::string Dauertext(Zeit dauer) {
+std::string Abstandstext(Zeit dauer) {
     const std::string vorzeichen = dauer < Zeit(0) ? "-" : "";
     const Zeit betrag = dauer < Zeit(0) ? -dauer : dauer;
     const auto ms = static_cast<long long>(std::chrono::round<milliseconds>(betrag).count());

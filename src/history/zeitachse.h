@@ -31,6 +31,6 @@ std::string Tageszeit(const Messangaben& angaben, Zeit laufzeit);
 std::string Datum(const Messangaben& angaben, Zeit laufzeit);
 
 /// "250 ms", "12,345 s", "1:02:03": how long something takes; "-" before it when it is below 0.
-std::string Dauertext(Zeit dauer);
+std::string Abstandstext(Zeit dauer);
 
 } // namespace varnoth

@@ -2,12 +2,15 @@
 
 #include "aufzeichnungstexte.h"
 #include "einstellungen.h"
+#include "ereignisanbieter.h"
+#include "ereignisse.h"
 #include "frmAufzeichnung.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
+#include "frmEreignisse.h"
 #include "frmIdentifikationsAnforderung.h"
 #include "frmInfo.h"
 #include "frmInitHardware.h"
@@ -22,8 +25,8 @@
 #include "frmSimulation.h"
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
-#include "frmVerlauf.h"
 #include "frmVergleich.h"
+#include "frmVerlauf.h"
 #include "leitungspruefung.h"
 #include "motivwiedergabe.h"
 #include "polling.h"
@@ -399,7 +402,8 @@ void FuelleVerlauf(pruefung::PruefMessquelle& quelle) {
         const auto tu = static_cast<std::uint16_t>(i == Spitze ? 90 : 40 + i * 7 % 60 / 4);
         Messpaket paket = pruefung::PaketMit(std::chrono::seconds(i), 10, milliseconds(100), tu);
         if (i == Spitze)
-            paket.ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = std::chrono::seconds(i), .text = "B 12"}};
+            paket.ereignisse = {
+                {.art = Messereignisart::Notiz, .laufzeit = std::chrono::seconds(i), .text = "B 12"}};
         if (i < 80 || i > 90)
             quelle.Nimm(std::move(paket));
     }

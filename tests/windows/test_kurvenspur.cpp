@@ -67,7 +67,8 @@ TEST_F(KurvenspurTest, A_spike_of_one_pass_is_drawn_in_every_pattern) {
             PruefMessquelle eigene;
             for (int i = 0; i < 30; ++i) {
                 Messpaket paket = PaketMit(milliseconds(100 * i), 1, seconds(1), i == wann ? 90 : 20);
-                std::swap(paket.durchgaenge[0].teile[0], paket.durchgaenge[0].teile[static_cast<std::size_t>(teil)]);
+                std::swap(paket.durchgaenge[0].teile[0],
+                          paket.durchgaenge[0].teile[static_cast<std::size_t>(teil)]);
                 eigene.Nimm(std::move(paket));
             }
             spalten.Beginne(milliseconds(100));
@@ -75,8 +76,10 @@ TEST_F(KurvenspurTest, A_spike_of_one_pass_is_drawn_in_every_pattern) {
             while (!spalten.IstFertig())
                 spalten.Verfeinere(eigene, 100);
             sinn = spalten.Deute(seconds(3));
-            const Spurfeld feld{.spalten = spalten, .sinn = sinn, .breite = 30, .hoehe = 100, .werte = {0, 100}};
-            EXPECT_TRUE(Bedeckt(Kurvenspur(feld, wahl, abstaende, {teil, 0}, 0), wann, 10)) << teil << ", " << wann;
+            const Spurfeld feld{
+                .spalten = spalten, .sinn = sinn, .breite = 30, .hoehe = 100, .werte = {0, 100}};
+            EXPECT_TRUE(Bedeckt(Kurvenspur(feld, wahl, abstaende, {teil, 0}, 0), wann, 10))
+                << teil << ", " << wann;
         }
 }
 

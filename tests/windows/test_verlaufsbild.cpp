@@ -58,7 +58,8 @@ struct VerlaufsbildTest : testing::Test {
         return false;
     }
     void Drehe(QPointF ort, int stufen, Qt::KeyboardModifiers mit = Qt::NoModifier) {
-        QWheelEvent ereignis(ort, bild.mapToGlobal(ort), {}, {0, 120 * stufen}, Qt::NoButton, mit, Qt::NoScrollPhase, false);
+        QWheelEvent ereignis(ort, bild.mapToGlobal(ort), {}, {0, 120 * stufen}, Qt::NoButton, mit,
+                             Qt::NoScrollPhase, false);
         QApplication::sendEvent(&bild, &ereignis);
     }
     QPoint Ort(Zeit laufzeit, double wert = 50) { return bild.Stelle(laufzeit, wert).toPoint(); }
@@ -88,7 +89,8 @@ TEST_F(VerlaufsbildTest, A_picture_that_slides_looks_as_if_drawn_anew) {
     Zeige();
     Aufnahme();
     for (int i = 0; i < 30; ++i) {
-        anbieter.quelle.Nimm(PaketMit(seconds(400 + i), 10, milliseconds(100), static_cast<std::uint16_t>(20 + 13 * i % 90)));
+        anbieter.quelle.Nimm(
+            PaketMit(seconds(400 + i), 10, milliseconds(100), static_cast<std::uint16_t>(20 + 13 * i % 90)));
         Erneuere();
         Aufnahme();
     }
@@ -168,7 +170,8 @@ TEST_F(VerlaufsbildTest, Keys_lead_from_pass_to_pass_and_set_marks) {
     QTest::keyClick(&bild, Qt::Key_Right);
     QTest::keyClick(&bild, Qt::Key_B);
     EXPECT_EQ(bild.Zeiger(), std::optional<Zeit>(seconds(52)));
-    EXPECT_TRUE(bild.Markenworte().contains("Abstand 2,000 s · K1 TU +2")) << bild.Markenworte().toStdString();
+    EXPECT_TRUE(bild.Markenworte().contains("Abstand 2,000 s · K1 TU +2"))
+        << bild.Markenworte().toStdString();
     QTest::keyClick(&bild, Qt::Key_Left);
     EXPECT_EQ(bild.Zeiger(), std::optional<Zeit>(seconds(51)));
     QTest::keyClick(&bild, Qt::Key_Delete);
@@ -207,7 +210,8 @@ TEST_F(VerlaufsbildTest, Notes_stand_as_flags_at_their_time) {
     FuelleSekunden(anbieter.quelle, 100);
     Zeige();
     const QImage ohne = Aufnahme();
-    anbieter.quelle.pakete.at(60).ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = seconds(60), .text = "Bahn gewechselt"}};
+    anbieter.quelle.pakete.at(60).ereignisse = {
+        {.art = Messereignisart::Notiz, .laufzeit = seconds(60), .text = "Bahn gewechselt"}};
     bild.SiehNotizNach(seconds(60));
     const QImage mit = Aufnahme();
     const int x = Ort(seconds(60)).x();

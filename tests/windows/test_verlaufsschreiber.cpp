@@ -14,7 +14,8 @@ using std::chrono::seconds;
 namespace {
 
 void Beginne(PruefMessquelle& quelle) {
-    quelle.angaben = {.beginn = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22) + std::chrono::hours(13),
+    quelle.angaben = {.beginn =
+                          std::chrono::sys_days(std::chrono::year(2026) / 11 / 22) + std::chrono::hours(13),
                       .zoneMinuten = -90};
 }
 

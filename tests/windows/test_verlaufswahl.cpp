@@ -16,7 +16,8 @@ using std::chrono::seconds;
 
 namespace {
 
-const Messangaben Angaben{.beginn = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22), .zoneMinuten = 60};
+const Messangaben Angaben{.beginn = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22),
+                          .zoneMinuten = 60};
 
 } // namespace
 
@@ -40,7 +41,8 @@ TEST(Verlaufswahl, The_first_part_is_the_first_that_the_newest_pass_found) {
 TEST(Verlaufswahl, The_spacing_comes_from_the_configuration_of_the_source) {
     PruefMessquelle quelle;
     EXPECT_EQ(StrahlabstaendeVon(quelle), Strahlabstaende{});
-    ASSERT_TRUE(quelle.konfiguration.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 5, 1));
+    ASSERT_TRUE(quelle.konfiguration.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten,
+                                                   spezifisch::Aufloesung, 5, 1));
     quelle.Nimm(PaketMit(seconds(0), 1, seconds(1)));
     EXPECT_EQ(StrahlabstaendeVon(quelle), (Strahlabstaende{0, 5, 0, 0}));
 }

@@ -31,11 +31,16 @@ using Liste = std::vector<std::string>;
 } // namespace
 
 TEST(Zeitachse, Steps_are_round_from_milliseconds_to_weeks) {
-    const std::pair<Zeit, Zeit> faelle[] = {
-        {Zeit(1), milliseconds(1)},          {milliseconds(3), milliseconds(5)}, {milliseconds(600), seconds(1)},
-        {seconds(11), seconds(15)},          {seconds(31), minutes(1)},          {minutes(16), minutes(30)},
-        {hours(4), hours(6)},                {hours(13), hours(24)},             {hours(49), hours(24 * 7)},
-        {hours(24 * 8), hours(24 * 14)}};
+    const std::pair<Zeit, Zeit> faelle[] = {{Zeit(1), milliseconds(1)},
+                                            {milliseconds(3), milliseconds(5)},
+                                            {milliseconds(600), seconds(1)},
+                                            {seconds(11), seconds(15)},
+                                            {seconds(31), minutes(1)},
+                                            {minutes(16), minutes(30)},
+                                            {hours(4), hours(6)},
+                                            {hours(13), hours(24)},
+                                            {hours(49), hours(24 * 7)},
+                                            {hours(24 * 8), hours(24 * 14)}};
     for (const auto& [mindestens, schritt] : faelle)
         EXPECT_EQ(RunderZeitschritt(mindestens), schritt) << mindestens.count();
     EXPECT_EQ(RunderZeitschritt(minutes(5)), minutes(5));
@@ -85,11 +90,11 @@ TEST(Zeitachse, A_time_is_told_to_the_millisecond_at_its_place) {
 }
 
 TEST(Zeitachse, A_duration_is_told_in_the_unit_that_fits) {
-    EXPECT_EQ(Dauertext(milliseconds(250)), "250 ms");
-    EXPECT_EQ(Dauertext(milliseconds(-12'345)), "-12,345 s");
-    EXPECT_EQ(Dauertext(seconds(3723)), "1:02:03");
+    EXPECT_EQ(Abstandstext(milliseconds(250)), "250 ms");
+    EXPECT_EQ(Abstandstext(milliseconds(-12'345)), "-12,345 s");
+    EXPECT_EQ(Abstandstext(seconds(3723)), "1:02:03");
     SetzeSprachoffset(Englisch);
-    EXPECT_EQ(Dauertext(milliseconds(12'345)), "12.345 s");
+    EXPECT_EQ(Abstandstext(milliseconds(12'345)), "12.345 s");
 }
 
 } // namespace varnoth
