@@ -80,7 +80,7 @@ void Vrecleser::SucheVerzeichnis() {
     const auto inhalt = LiesBlock(groesse - vrec::LaengeSchluss, vrec::LaengeSchluss - vrec::LaengeBlockkopf,
                                   Blockart::Schluss);
     const auto schluss = inhalt ? vrec::SchlussAus(*inhalt) : std::nullopt;
-    if (!schluss || schluss->verzeichnis < vrec::LaengeKennung || schluss->verzeichnis >= groesse)
+    if (!schluss)
         return;
     verzeichnisstelle = schluss->verzeichnis;
     gang.emplace(*datei, verzeichnisstelle);

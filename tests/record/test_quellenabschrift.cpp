@@ -75,8 +75,10 @@ TEST_F(QuellenabschriftTest, What_memory_holds_becomes_a_record_of_the_same) {
 
 TEST_F(QuellenabschriftTest, A_stretch_begins_with_the_packet_of_its_time) {
     Nimm(0, 1000);
+    speicher.Notiere(40s, Probebeginn, "n");
     const auto leser = Schreibe({Zeit(30s), Zeit(60s)});
     const Zeit beginn = speicher.Spanne(speicher.PaketUm(30s)).von;
+    EXPECT_EQ(leser->Lies(leser->PaketUm(40s - beginn))->ereignisse.at(0).laufzeit, 40s - beginn);
     EXPECT_EQ(leser->Spanne().von, Zeit(0));
     EXPECT_EQ(leser->Angaben().beginn, Probebeginn + beginn);
     const Messdurchgang erster = leser->Lies(0)->durchgaenge.front();
@@ -88,7 +90,8 @@ TEST_F(QuellenabschriftTest, A_stretch_begins_with_the_packet_of_its_time) {
 
 TEST_F(QuellenabschriftTest, A_stretch_in_which_nothing_was_gives_a_record_of_nothing) {
     EXPECT_EQ(Schreibe({Zeit(0), Alles})->Zustand().befund, Vrecbefund::OhneDurchgaenge);
-    Nimm(0, 6);
+    Nimm(1000, 6);
+    EXPECT_EQ(Schreibe({Zeit(0), Zeit(1s)})->Zustand().befund, Vrecbefund::OhneDurchgaenge);
     EXPECT_EQ(Schreibe({Zeit(1h), Alles})->Zustand().befund, Vrecbefund::OhneDurchgaenge);
 }
 

@@ -107,6 +107,10 @@ TEST(UebersichtTest, When_its_memory_is_used_up_each_two_stretches_become_one) {
     for (int i = 0; i < 3000; ++i) {
         alles.Nimm(LebhafterDurchgang(i));
         klein.Nimm(LebhafterDurchgang(i));
+        if (i % 500 != 250)
+            continue;
+        alles.NimmLuecke();
+        klein.NimmLuecke();
     }
     ASSERT_GT(alles.Anzahl(), 400U);
     ASSERT_LT(klein.Anzahl(), 100U);
@@ -118,13 +122,16 @@ TEST(UebersichtTest, When_its_memory_is_used_up_each_two_stretches_become_one) {
         Bitspanne status;
         std::uint16_t einmal = 0;
         std::uint16_t immer = 0xFFFF;
+        bool luecke = false;
         for (; j < alles.Anzahl() && alles.Spanne(j).bis <= klein.Spanne(i).bis; ++j) {
             durchgaenge += alles.Durchgaenge(j, 3);
             wert.Nimm(alles.Wert(j, 3, 1));
             status.Nimm(alles.Geraetestatus(j));
             einmal |= alles.UnterbrochenEinmal(j, 3)[2];
             immer &= alles.UnterbrochenImmer(j, 3)[2];
+            luecke = luecke || alles.HatLuecke(j);
         }
+        EXPECT_EQ(klein.HatLuecke(i), luecke);
         EXPECT_EQ(klein.Durchgaenge(i, 3), durchgaenge);
         EXPECT_EQ(klein.Wert(i, 3, 1), wert);
         EXPECT_EQ(klein.Geraetestatus(i), status);

@@ -98,6 +98,7 @@ TEST(BeschaedigteVrecTest, Cut_at_any_byte_it_gives_all_packets_that_are_whole) 
         ASSERT_EQ(leser.Ende(), ganze) << laenge;
         ASSERT_EQ(Lesbare(leser), 3 * ganze) << laenge;
         ASSERT_FALSE(zustand.beendet);
+        ASSERT_EQ(zustand.beschaedigte, 0U) << laenge;
         ASSERT_FALSE(Befundtext(zustand).empty()) << laenge;
     }
 }
@@ -141,6 +142,17 @@ TEST(BeschaedigteVrecTest, Behind_bytes_that_are_nothing_the_next_packet_is_foun
     EXPECT_EQ(Oeffne(leser).durchgaenge, 12U);
     EXPECT_EQ(leser.Zustand().beschaedigte, 1U);
     EXPECT_EQ(Lesbare(leser), 12U);
+}
+
+TEST(BeschaedigteVrecTest, A_mark_is_found_wherever_the_pieces_end_in_which_the_file_is_read) {
+    const Probe probe = MacheProbe();
+    const std::size_t stelle = probe.paketenden[1];
+    for (std::size_t vorEnde = 0; vorEnde < 6; ++vorEnde) {
+        const std::size_t muell = vrec::LaengeKennung + (std::size_t{1} << 20U) - vorEnde - stelle;
+        Vrecleser leser(std::make_unique<Speicherdatei>(
+            probe.bytes.substr(0, stelle) + std::string(muell, 'x') + probe.bytes.substr(stelle)));
+        EXPECT_EQ(Oeffne(leser).durchgaenge, 12U) << vorEnde;
+    }
 }
 
 TEST(BeschaedigteVrecTest, A_file_of_10_GB_is_opened_in_small_slices_that_get_on) {

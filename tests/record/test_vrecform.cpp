@@ -127,4 +127,23 @@ TEST(VrecformTest, A_head_with_any_bit_changed_is_none) {
         }
 }
 
+TEST(VrecformTest, A_block_that_is_too_long_is_none) {
+    const auto istBlock = [](std::size_t laenge) {
+        return vrec::BlockkopfAus(vrec::AlsBlock(Blockart::Paket, std::string(laenge, 'x'))).has_value();
+    };
+    EXPECT_TRUE(istBlock(vrec::GroessterBlock));
+    EXPECT_FALSE(istBlock(vrec::GroessterBlock + 1));
+}
+
+TEST(VrecformTest, What_it_tells_of_itself_is_text_and_lies_within_bounds) {
+    std::string inhalt = vrec::AlsInhalt(Angaben);
+    EXPECT_EQ(vrec::AngabenAus(inhalt + "what a later version adds"), Angaben);
+    inhalt[inhalt.find("Vorhang")] = '\xFF';
+    EXPECT_FALSE(vrec::AngabenAus(inhalt));
+    EXPECT_FALSE(vrec::AngabenAus(vrec::AlsInhalt({.zoneMinuten = 1441})));
+    EXPECT_FALSE(vrec::AngabenAus(vrec::AlsInhalt({.zoneMinuten = -1441})));
+    EXPECT_FALSE(vrec::AngabenAus(std::string(8, '\x7F') + std::string(5, '\0')));
+    EXPECT_EQ(vrec::AngabenAus(vrec::AlsInhalt({.bezeichnung = "\xFF"})), Messangaben{});
+}
+
 } // namespace varnoth

@@ -172,21 +172,59 @@ TEST(VrecleserTest, What_is_no_record_is_told) {
     EXPECT_EQ(Geoeffnet(bytes.substr(0, vrec::LaengeKennung))->Zustand().befund, Vrecbefund::OhneDurchgaenge);
 }
 
-TEST(VrecleserTest, Bytes_that_the_disk_does_not_give_are_a_gap_and_none_at_all_is_told) {
-    for (const bool alles : {false, true}) {
+TEST(VrecleserTest, Bytes_that_the_disk_does_not_give_are_a_gap) {
+    for (const std::uint64_t bis : {1'000'001U, 1'100'000U}) {
         auto datei = std::make_unique<Speicherdatei>(Aufzeichnung(2000));
-        datei->unlesbarAb = alles ? 0 : 1'000'000;
-        datei->unlesbarBis = alles ? datei->bytes.size() : 1'000'001;
+        datei->unlesbarAb = 1'000'000;
+        datei->unlesbarBis = bis;
         Vrecleser leser(std::move(datei));
         while (leser.Arbeite())
             continue;
-        EXPECT_EQ(leser.Zustand().befund, alles ? Vrecbefund::NichtLesbar : Vrecbefund::Gut);
-        if (!alles) {
-            EXPECT_EQ(leser.Lies(1999)->durchgaenge.size(), 6U);
-            EXPECT_GT(leser.Zustand().durchgaenge, 11'000U);
-            EXPECT_LT(leser.Zustand().durchgaenge, 12'000U);
-        }
+        EXPECT_EQ(leser.Zustand().befund, Vrecbefund::Gut);
+        EXPECT_EQ(leser.Lies(1999)->durchgaenge.size(), 6U);
+        EXPECT_GT(leser.Zustand().durchgaenge, bis == 1'000'001 ? 11'900U : 10'000U);
+        EXPECT_LT(leser.Zustand().durchgaenge, 12'000U);
     }
+}
+
+TEST(VrecleserTest, A_file_of_which_the_disk_gives_nothing_is_told) {
+    for (const std::uint64_t ab : {std::uint64_t{0}, std::uint64_t{vrec::LaengeKennung}}) {
+        auto datei = std::make_unique<Speicherdatei>(Aufzeichnung(200));
+        datei->unlesbarAb = ab;
+        datei->unlesbarBis = datei->bytes.size();
+        Vrecleser leser(std::move(datei));
+        while (leser.Arbeite())
+            continue;
+        EXPECT_EQ(leser.Zustand().befund, Vrecbefund::NichtLesbar);
+    }
+}
+
+TEST(VrecleserTest, Bytes_behind_its_end_do_not_count_but_it_was_not_ended_there) {
+    const auto leser = Geoeffnet(Aufzeichnung(5) + "x");
+    EXPECT_EQ(leser->Zustand().durchgaenge, 30U);
+    EXPECT_FALSE(leser->Zustand().beendet);
+}
+
+TEST(VrecleserTest, One_without_a_packet_can_never_be_looked_at) {
+    Vrecleser leser(std::make_unique<Speicherdatei>(Aufzeichnung(0)));
+    while (leser.Arbeite())
+        EXPECT_FALSE(leser.IstBrauchbar());
+    EXPECT_FALSE(leser.IstBrauchbar());
+}
+
+TEST(VrecleserTest, A_long_one_has_an_index_of_several_blocks) {
+    Vrecform form;
+    std::string bytes = form.Beginne(Angaben, nullptr);
+    constexpr int Pakete = 70'000;
+    for (int i = 0; i < Pakete; ++i)
+        bytes += form.Nimm({.spanne = {Zeit(i), Zeit(i)}, .durchgaenge = {{.uhr = Zeit(i)}}}, nullptr);
+    Vrecleser leser(std::make_unique<Speicherdatei>(bytes + form.Beende()));
+    int schritte = 0;
+    for (; !leser.IstBrauchbar(); ++schritte)
+        ASSERT_TRUE(leser.Arbeite());
+    EXPECT_EQ(schritte, 4) << "mark, two index blocks, end";
+    EXPECT_EQ(leser.Ende(), std::uint64_t{Pakete});
+    EXPECT_EQ(leser.PaketUm(Zeit(66'000)), 66'000U);
 }
 
 TEST(VrecleserTest, Of_one_that_is_too_long_the_beginning_is_given) {
@@ -267,6 +305,8 @@ TEST(VrecleserTest, An_index_is_believed_when_all_that_it_tells_of_lies_in_order
     EXPECT_FALSE(wirdGeglaubt(eins, eintrag(zwei.stelle, {Zeit(5), Zeit(5)}), {})) << "back in time";
     EXPECT_FALSE(wirdGeglaubt(eins, eintrag(bytes.size() - 10, Paket(1).spanne), {})) << "into the index";
     EXPECT_FALSE(wirdGeglaubt(eins, zwei, vrec::AlsBlock(vrec::Blockart::Paket, "x"))) << "packets behind it";
+    const std::string frueherSchluss = vrec::AlsBlock(vrec::Blockart::Schluss, std::string(16, '\0'));
+    EXPECT_FALSE(wirdGeglaubt(eins, zwei, frueherSchluss)) << "an end before the end";
 }
 
 TEST(VrecleserTest, What_the_index_tells_of_a_packet_is_held_against_the_packet) {
