@@ -43,7 +43,8 @@ void Melde(const Messdurchgang& durchgang) {
 void Melde(Liveereignisart art) {
     if (hoerer.empty())
         return;
-    const Liveereignis ereignis{.art = art, .zeit = std::chrono::system_clock::now(), .uhr = DieUmgebung().Uhr()};
+    const Liveereignis ereignis{
+        .art = art, .zeit = std::chrono::system_clock::now(), .uhr = DieUmgebung().Uhr()};
     for (Messhoerer* const einer : hoerer)
         einer->Hoere(ereignis);
 }

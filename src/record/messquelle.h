@@ -43,8 +43,8 @@ struct Zeitspanne {
 /// About a second of the past. The clock of each pass is its `laufzeit`.
 struct Messpaket {
     Zeitspanne spanne{};
-    std::vector<Messdurchgang> durchgaenge;
-    std::vector<Messereignis> ereignisse;
+    std::vector<Messdurchgang> durchgaenge{};
+    std::vector<Messereignis> ereignisse{};
 
     bool operator==(const Messpaket&) const = default;
 };
@@ -60,7 +60,9 @@ struct Messangaben {
     bool operator==(const Messangaben&) const = default;
 };
 
-/// Packets are numbered through; in memory the oldest go, so that the first number grows.
+/// Packets are numbered through; in memory the oldest go, so that the first number grows. The newest packet
+/// may still grow, and one may get a note: whoever keeps packets reads the newest again when the end of
+/// `Spanne` has moved, and others never hear of a note that came later.
 class Messquelle {
 public:
     Messquelle() = default;

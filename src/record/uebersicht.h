@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -38,14 +40,20 @@ struct Bitspanne {
 };
 
 /// The whole of a source in stretches of time, each with what was seen in it at least once and always: enough
-/// to draw all of it at once. There are never more stretches than fit into the memory given: when they are
-/// used up, each two become one, and all that follow are twice as long.
+/// to draw all of it at once. A stretch is a second at first; where nothing was measured there is none. There
+/// are never more than fit into the memory given: when it is used up, each two become one, and all that
+/// follow are twice as long.
 class Uebersicht {
 public:
     explicit Uebersicht(std::size_t hoechstensBytes = std::size_t{48} << 20U);
 
-    /// Takes in what follows on what it has.
+    // Takes in what follows on what it has.
+
     void Nimm(const Messpaket& paket);
+    void Nimm(const Messdurchgang& durchgang);
+    void Nimm(const Messereignis& ereignis);
+    /// What follows cannot be read.
+    void NimmLuecke();
     /// Forgets what ended before a time.
     void VergissBis(Zeit laufzeit);
 
@@ -71,6 +79,37 @@ public:
     std::span<const std::uint16_t> UnterbrochenEinmal(std::size_t i, int teil) const;
     /// Interrupted in every pass.
     std::span<const std::uint16_t> UnterbrochenImmer(std::size_t i, int teil) const;
+
+private:
+    struct Teilabschnitt {
+        std::uint32_t durchgaenge = 0;
+        Bitspanne status{};
+        std::int16_t strahlen = 0;
+        std::array<Wertspanne, AnzahlMesswertregister> werte{};
+        std::vector<std::uint16_t> unterbrochen; ///< those that were once, then as many that were always
+    };
+    struct Abschnitt {
+        std::int64_t nummer = 0; ///< its beginning in lengths of a stretch
+        bool luecke = false;
+        Bitspanne geraetestatus{};
+        std::array<Teilabschnitt, AnzahlOptikteile> teile{};
+    };
+
+    static std::size_t Bytes(const Abschnitt& abschnitt);
+    static void Nimm(Teilabschnitt& ziel, const Teilmessung& messung);
+    static void Nimm(Teilabschnitt& ziel, const Teilabschnitt& spaeterer);
+    static void Erweitere(Teilabschnitt& ziel, std::size_t anzahl);
+    const Teilabschnitt& Teil(std::size_t i, int teil) const;
+    Abschnitt& AbschnittFuer(Zeit laufzeit);
+    void Unterbrich();
+    void Verdopple();
+
+    std::size_t hoechstens;
+    std::size_t belegt = 0;
+    Zeit laenge = std::chrono::seconds(1);
+    std::deque<Abschnitt> abschnitte;
+    std::optional<Zeit> letzter; ///< when the last pass ended
+    bool unterbrochen = false;   ///< since then
 };
 
 } // namespace varnoth

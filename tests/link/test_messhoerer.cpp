@@ -127,8 +127,8 @@ TEST_F(MesshoererTest, A_pass_that_was_not_certain_yet_is_not_told_when_live_dat
     StartePolling();
     PollingZyklus();
     EXPECT_TRUE(hoerer.durchgaenge.empty());
-    EXPECT_EQ(hoerer.ereignisse, (std::vector{Liveereignisart::Begonnen, Liveereignisart::Beendet,
-                                              Liveereignisart::Begonnen}));
+    EXPECT_EQ(hoerer.ereignisse,
+              (std::vector{Liveereignisart::Begonnen, Liveereignisart::Beendet, Liveereignisart::Begonnen}));
 }
 
 TEST_F(MesshoererTest, A_lost_connection_is_told_once_and_so_is_its_return) {
@@ -138,8 +138,8 @@ TEST_F(MesshoererTest, A_lost_connection_is_told_once_and_so_is_its_return) {
     geraet.schweige = nullptr;
     PollingZyklus();
     PollingZyklus();
-    EXPECT_EQ(hoerer.ereignisse, (std::vector{Liveereignisart::Begonnen, Liveereignisart::Verloren,
-                                              Liveereignisart::Zurueck}));
+    EXPECT_EQ(hoerer.ereignisse,
+              (std::vector{Liveereignisart::Begonnen, Liveereignisart::Verloren, Liveereignisart::Zurueck}));
 }
 
 TEST_F(MesshoererTest, Where_live_data_is_to_go_on_by_itself_no_box_waits_for_anybody) {

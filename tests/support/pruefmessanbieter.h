@@ -32,7 +32,9 @@ struct PruefMessanbieter : Messanbieter {
         geschrieben.emplace_back(pfad, bytes);
         return schreibbar;
     }
-    void SchlageBlankingVor(int teil, const Werte& muster) override { vorschlaege.emplace_back(teil, muster); }
+    void SchlageBlankingVor(int teil, const Werte& muster) override {
+        vorschlaege.emplace_back(teil, muster);
+    }
 
     struct Frage {
         std::string titel, filter, name;

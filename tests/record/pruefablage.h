@@ -1,0 +1,93 @@
+#pragma once
+
+#include "dateiablage.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <limits>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace varnoth::pruefung {
+
+/// A disk in memory that fails when it is told to. May be looked at while a thread writes.
+class PruefAblage : public Dateiablage {
+public:
+    Angelegt LegeAn(const std::string& pfad) override {
+        const std::lock_guard gesperrt(sperre);
+        ++versuche;
+        if (fehler != 0)
+            return {.fehler = fehler};
+        if (dateien.contains(pfad))
+            return {.fehler = EEXIST};
+        dateien[pfad];
+        return {.datei = std::make_unique<Datei>(*this, pfad)};
+    }
+    std::optional<std::uint64_t> FreierPlatz(const std::string& /*ordner*/) override {
+        const std::lock_guard gesperrt(sperre);
+        return platz;
+    }
+
+    /// What a file holds; empty when there is none.
+    std::string Inhalt(const std::string& pfad) const {
+        const std::lock_guard gesperrt(sperre);
+        const auto da = dateien.find(pfad);
+        return da == dateien.end() ? std::string() : da->second;
+    }
+    std::set<std::string> Pfade() const {
+        const std::lock_guard gesperrt(sperre);
+        std::set<std::string> pfade;
+        for (const auto& [pfad, inhalt] : dateien)
+            pfade.insert(pfad);
+        return pfade;
+    }
+    void LegeHin(const std::string& pfad, const std::string& inhalt) { dateien[pfad] = inhalt; }
+    /// From now on everything fails with this error; 0: no more.
+    void Versage(int mit) {
+        const std::lock_guard gesperrt(sperre);
+        fehler = mit;
+    }
+
+    std::uint64_t platz = std::numeric_limits<std::uint64_t>::max();
+    int versuche = 0; ///< to make a file
+    int sicherungen = 0;
+    std::set<std::string> offene; ///< never closed so far
+
+private:
+    class Datei : public Ausgabedatei {
+    public:
+        Datei(PruefAblage& welche, std::string woher) : ablage(welche), pfad(std::move(woher)) {
+            ablage.offene.insert(pfad);
+        }
+        int HaengeAn(std::string_view bytes) override {
+            const std::lock_guard gesperrt(ablage.sperre);
+            if (ablage.fehler == 0)
+                ablage.dateien[pfad] += bytes;
+            return ablage.fehler;
+        }
+        int Sichere() override {
+            const std::lock_guard gesperrt(ablage.sperre);
+            ++ablage.sicherungen;
+            return ablage.fehler;
+        }
+        void Schliesse() override { ablage.offene.erase(pfad); }
+        void Entferne() override {
+            const std::lock_guard gesperrt(ablage.sperre);
+            ablage.dateien.erase(pfad);
+        }
+
+    private:
+        PruefAblage& ablage;
+        std::string pfad;
+    };
+
+    mutable std::mutex sperre;
+    std::map<std::string, std::string> dateien;
+    int fehler = 0;
+};
+
+} // namespace varnoth::pruefung

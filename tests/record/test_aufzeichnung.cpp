@@ -1,0 +1,125 @@
+#include "aufzeichnung.h"
+
+#include "csvform.h"
+#include "pruefablage.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <semaphore>
+#include <string>
+#include <thread>
+
+namespace varnoth {
+namespace {
+
+using namespace std::chrono_literals;
+using pruefung::PruefAblage;
+
+Zeitpunkt Jetzt() {
+    return {.uhr = std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now().time_since_epoch()),
+            .zeit = std::chrono::system_clock::now()};
+}
+
+/// A form that waits until it is let go on.
+class Haltform : public Aufzeichnungsform {
+public:
+    explicit Haltform(std::counting_semaphore<>& schranke) : tor(schranke) {}
+    std::string Beginne(const Messangaben& /*angaben*/, std::shared_ptr<const Abbild> /*k*/) override {
+        return "B";
+    }
+    std::string Nimm(const Messpaket& paket, std::shared_ptr<const Abbild> /*k*/) override {
+        tor.acquire();
+        std::string bytes(paket.durchgaenge.size(), '.');
+        for (const Messereignis& ereignis : paket.ereignisse)
+            bytes += "<" + ereignis.text + ">";
+        return bytes;
+    }
+    std::string Beende() override { return "E"; }
+
+private:
+    std::counting_semaphore<>& tor;
+};
+
+class AufzeichnungTest : public testing::Test {
+protected:
+    Aufzeichnungsauftrag Auftrag() {
+        Aufzeichnungsauftrag auftrag{.wahl = {}, .ordner = "/o", .name = "n"};
+        auftrag.formen.push_back({".a", [this] { return std::make_unique<Haltform>(tor); }});
+        return auftrag;
+    }
+    /// Gives the thread time to come to where a condition holds.
+    template<class Bedingung>
+    static bool WarteAuf(Bedingung bedingung) {
+        const auto ende = std::chrono::steady_clock::now() + 20s;
+        while (!bedingung()) {
+            if (std::chrono::steady_clock::now() > ende)
+                return false;
+            std::this_thread::sleep_for(1ms);
+        }
+        return true;
+    }
+
+    PruefAblage ablage;
+    std::counting_semaphore<> tor{0};
+};
+
+TEST_F(AufzeichnungTest, A_pass_is_written_within_the_second_without_another_call) {
+    tor.release(1000);
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    ASSERT_EQ(aufzeichnung.Beginne(nullptr), 0);
+    const auto anfang = std::chrono::steady_clock::now();
+    aufzeichnung.Nimm(Messdurchgang{});
+    ASSERT_TRUE(WarteAuf([&] { return ablage.Inhalt("/o/n.a") == "B."; }));
+    EXPECT_LT(std::chrono::steady_clock::now() - anfang, 1s);
+}
+
+TEST_F(AufzeichnungTest, The_end_writes_what_is_waiting) {
+    tor.release(1000);
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    aufzeichnung.Beginne(nullptr);
+    for (int i = 0; i < 5; ++i)
+        aufzeichnung.Nimm(Messdurchgang{});
+    aufzeichnung.Beende();
+    EXPECT_EQ(ablage.Inhalt("/o/n.a"), "B.....E");
+    EXPECT_EQ(aufzeichnung.Stand().durchgaenge, 5U);
+}
+
+TEST_F(AufzeichnungTest, Its_destruction_ends_it_too) {
+    tor.release(1000);
+    {
+        Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+        aufzeichnung.Beginne(nullptr);
+        aufzeichnung.Nimm(Messdurchgang{});
+    }
+    EXPECT_EQ(ablage.Inhalt("/o/n.a"), "B.E");
+}
+
+TEST_F(AufzeichnungTest, A_disk_that_does_not_come_back_holds_up_nobody_and_what_finds_no_room_is_counted) {
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    aufzeichnung.Beginne(nullptr);
+    aufzeichnung.Nimm(Messdurchgang{});
+    ASSERT_TRUE(WarteAuf([&] { // the thread stands before the gate with that pass
+        aufzeichnung.Nimm(Messereignis{});
+        return ablage.Inhalt("/o/n.a") == "B";
+    }));
+    for (std::size_t i = 0; i < 3 * Aufzeichnung::MeisteWartende; ++i)
+        aufzeichnung.Nimm(Messdurchgang{});
+    tor.release(1000);
+    aufzeichnung.Beende();
+    const auto stand = aufzeichnung.Stand();
+    EXPECT_EQ(stand.durchgaenge + stand.verworfen, 3 * Aufzeichnung::MeisteWartende + 1);
+    EXPECT_GE(stand.verworfen, Aufzeichnung::MeisteWartende);
+    EXPECT_NE(ablage.Inhalt("/o/n.a").find("<" + std::to_string(stand.verworfen) + ">"), std::string::npos);
+}
+
+TEST_F(AufzeichnungTest, An_error_at_the_beginning_is_given_back) {
+    ablage.Versage(EACCES);
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    EXPECT_EQ(aufzeichnung.Beginne(nullptr), EACCES);
+}
+
+} // namespace
+} // namespace varnoth
