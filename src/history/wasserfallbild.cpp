@@ -3,6 +3,7 @@
 #include "messanbieter.h"
 #include "registeradressen.h"
 #include "strahlworte.h"
+#include "texte.h"
 #include "textmitwerten.h"
 #include "uebersicht.h"
 #include "umgebung.h"

@@ -181,6 +181,7 @@ void Strahlreduktion::RechneAusUebersicht(const Messquelle& quelle, std::int64_t
             spalte.art = Spaltenart::NichtGemessen;
         }
     }
+    spalte.luecke = spalte.luecke || spalte.art == Spaltenart::Luecke;
     Hole(nummer) = spalte;
 }
 

@@ -13,7 +13,7 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextStrahl = 6417, TextStrahlen = 6418, TextWarGeblankt = 6428;
+constexpr std::int16_t TextStrahl = 6417, TextStrahlen = 6418, TextGeblankt = 6413;
 constexpr std::int16_t Zellentexte[] = {6416, 6415, 6414, 6410, 6413, 6412, 6411}; // in the order of Zellenart
 constexpr std::int16_t Spaltentexte[AnzahlStrahlspalten] = {6420, 6421, 6422, 6423, 6424, 6425, 6426};
 
@@ -161,7 +161,7 @@ std::string Spaltenworte(Strahlspaltenart spalte, const Strahlwerte& werte, int 
     case Platz:
         return Strahlplatz(strahl, abstandMm);
     case Anteil:
-        return gemessen ? Anteilworte(werte.Anteil()) : werte.geblankt > Zeit{} ? LadeText(TextWarGeblankt) : "";
+        return gemessen ? Anteilworte(werte.Anteil()) : werte.geblankt > Zeit{} ? LadeText(TextGeblankt) : "";
     case Wechsel:
         return gemessen ? std::to_string(werte.wechsel) : "";
     case Laengste:
