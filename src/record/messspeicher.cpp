@@ -92,7 +92,7 @@ void Messspeicher::Schliesse() {
     if (offenes.IstLeer())
         return;
     gelesenesOffenes.reset();
-    pakete.push_back({.spanne = {}, .bytes = {}, .konfiguration = konfiguration});
+    pakete.push_back({.spanne = {}, .hatEreignisse = false, .bytes = {}, .konfiguration = konfiguration});
     Lege(pakete.back(), offenes.Entnimm());
     while (belegt > hoechstens && pakete.size() > 1) {
         belegt -= Bytes(pakete.front());
@@ -104,6 +104,7 @@ void Messspeicher::Schliesse() {
 
 void Messspeicher::Lege(Eintrag& eintrag, const Messpaket& paket) {
     eintrag.spanne = paket.spanne;
+    eintrag.hatEreignisse = !paket.ereignisse.empty();
     eintrag.bytes = AlsBytes(paket);
     eintrag.bytes.shrink_to_fit();
     belegt += Bytes(eintrag);
@@ -155,6 +156,10 @@ std::shared_ptr<const Messpaket> Messspeicher::Lies(std::uint64_t nummer) const 
     auto gelesenes = std::make_shared<const Messpaket>(std::move(*paket));
     gelesene.Merke(nummer, gelesenes);
     return gelesenes;
+}
+
+bool Messspeicher::HatEreignisse(std::uint64_t nummer) const {
+    return IstOffen(nummer) ? !offenes.Stand().ereignisse.empty() : Paket(nummer).hatEreignisse;
 }
 
 std::shared_ptr<const Abbild> Messspeicher::Konfiguration(std::uint64_t nummer) const {

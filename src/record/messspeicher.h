@@ -40,6 +40,7 @@ public:
     Zeitspanne Spanne(std::uint64_t nummer) const override;
     std::uint64_t PaketUm(Zeit laufzeit) const override;
     std::shared_ptr<const Messpaket> Lies(std::uint64_t nummer) const override;
+    bool HatEreignisse(std::uint64_t nummer) const override;
     std::shared_ptr<const Abbild> Konfiguration(std::uint64_t nummer) const override;
     const Uebersicht& DieUebersicht() const override { return uebersicht; }
     Messangaben Angaben() const override { return angaben; }
@@ -47,6 +48,7 @@ public:
 private:
     struct Eintrag {
         Zeitspanne spanne;
+        bool hatEreignisse;
         std::string bytes;
         std::shared_ptr<const Abbild> konfiguration;
     };

@@ -7,6 +7,7 @@
 #include "frmDocument.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
+#include "messablauf.h"
 #include "programmsymbol.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
@@ -91,6 +92,7 @@ frmMain::frmMain(const QString& programmordner)
                                  SeiteJetzt(Vergleichsquelle::InBearbeitung));
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
+    messung = std::make_unique<Messablauf>();
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
 }
@@ -183,6 +185,7 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    messung->Schliesse();
     verbindung->Schliesse();
     hide();
 }

@@ -27,6 +27,7 @@ class frmMain;
 
 class Vergleichsablauf;
 class Busablauf;
+class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
 class frmDocument;
@@ -196,6 +197,7 @@ private:
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
     std::unique_ptr<Busablauf> bus;
+    std::unique_ptr<Messablauf> messung;
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -14,6 +14,7 @@
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
+#include "messablauf.h"
 #include "qttexte.h"
 #include "schnittstelle.h"
 #include "sicherungsablauf.h"
@@ -161,6 +162,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     bus->Lokalisiere();
+    messung->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");

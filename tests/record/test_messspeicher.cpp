@@ -96,6 +96,9 @@ TEST_F(MessspeicherTest, A_note_goes_to_the_packet_of_its_time) {
     speicher.Notiere(Zeit(-7), Probebeginn, "vor allem");
     ASSERT_EQ(speicher.Lies(2)->ereignisse.size(), 1U);
     EXPECT_EQ(speicher.Lies(2)->ereignisse[0].text, "frueher");
+    EXPECT_TRUE(speicher.HatEreignisse(2));
+    EXPECT_FALSE(speicher.HatEreignisse(3));
+    EXPECT_TRUE(speicher.HatEreignisse(speicher.Ende() - 1));
     EXPECT_EQ(speicher.Lies(2)->ereignisse[0].laufzeit, spanne.von + Zeit(1));
     EXPECT_EQ(speicher.Lies(speicher.Ende() - 1)->ereignisse.at(0).text, "jetzt");
     EXPECT_EQ(speicher.Lies(0)->ereignisse.at(0).laufzeit, speicher.Spanne().von);
