@@ -363,7 +363,7 @@ void frmWasserfall::SchlageBlankingVor() {
     if (AnzahlImmerUnterbrochene(modell->Werte()) == 0)
         return ZeigeMeldung(LadeText(TextKeinStrahl));
     ui->lblMeldung->clear();
-    anbieter.SchlageBlankingVor(auswertung->Teil(), Blankingvorschlag(modell->Werte()));
+    anbieter.SchlageBlankingVor(auswertung->Teil(), ZuBlankendes(modell->Werte()));
 }
 
 void frmWasserfall::Berichte() {

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace varnoth {
 
@@ -30,16 +29,18 @@ Strahlsicht SichtAus(const Uebersicht& uebersicht, std::size_t i, int teil, cons
 
 /// What holds at a time: the last pass, unless something has ended it.
 struct Strahlreduktion::Lage {
-    std::optional<Zeit> seit{};
+    bool bekannt = false;
+    Zeit seit{};
     bool gemessen = false;
     Strahlsicht sicht{};
 
     void Nimm(const Messdurchgang& durchgang, const Teilmessung& messung, const Strahlmenge& geblankt) {
+        bekannt = true;
         seit = durchgang.uhr;
         gemessen = messung.gemessen;
         sicht = gemessen ? SichtAus(messung, geblankt) : Strahlsicht{};
     }
-    bool Gilt(Zeit zeit) const { return seit && zeit - *seit <= MessungGiltHoechstens; }
+    bool Gilt(Zeit zeit) const { return bekannt && zeit - seit <= MessungGiltHoechstens; }
 };
 
 /// Reads packets, no more than it may; those read last are kept.
@@ -116,7 +117,7 @@ bool Strahlreduktion::BrauchtPakete(const Messquelle& quelle, std::int64_t numme
     if (uebersicht.Anzahl() == 0)
         return true;
     const Zeitspanne spanne = uebersicht.Spanne(uebersicht.AbschnittUm(Beginn(nummer)));
-    return spanne.bis - spanne.von > breite || spanne.bis < Beginn(nummer);
+    return spanne.bis - spanne.von > breite;
 }
 
 bool Strahlreduktion::Rechne(const Messquelle& quelle, std::int64_t neueErste, int anzahl, int pakete) {

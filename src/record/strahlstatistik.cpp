@@ -229,7 +229,7 @@ std::vector<Strahlwerte> Strahlauswertung::Werte() const {
     return zaehler.Bis(betrachtetBis);
 }
 
-Werte Blankingvorschlag(std::span<const Strahlwerte> strahlen) {
+Werte ZuBlankendes(std::span<const Strahlwerte> strahlen) {
     Werte muster(spezifisch::Blankingregister, 0);
     for (std::size_t i = 0; i < strahlen.size(); ++i) {
         const bool warGeblankt = strahlen[i].gemessen == Zeit{} && strahlen[i].geblankt > Zeit{};

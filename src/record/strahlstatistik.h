@@ -113,7 +113,7 @@ private:
 
 /// The beams that are to be blanked: those that were interrupted in all the time that was measured, and those
 /// that were blanked all along. 32 registers of a pattern.
-Werte Blankingvorschlag(std::span<const Strahlwerte> strahlen);
+Werte ZuBlankendes(std::span<const Strahlwerte> strahlen);
 /// How many beams were interrupted in all the time that was measured.
 int AnzahlImmerUnterbrochene(std::span<const Strahlwerte> strahlen);
 

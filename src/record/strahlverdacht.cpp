@@ -82,7 +82,7 @@ constexpr Verdachtsregel DieRegeln[] = {
     {Verdachtsart::OftAllein,
      [](const Strahlwerte& s, const Nachbarschaft& umher) {
          const double anteil = Anteil(s.alleinUnterbrochen, s.umFrei);
-         return Genuegt(s.umFrei, s) && anteil >= GuterTeil && s.wechsel >= MindestensGewechselt &&
+         return Genuegt(s.umFrei, s) && anteil >= GuterTeil && s.alleinWechsel >= MindestensGewechselt &&
                 anteil >= MehrAlsUmher * umher.alleinUnterbrochen;
      }},
 };

@@ -72,8 +72,10 @@ Zeitfenster FensterUm(const Zeitspanne& spanne, int spalten) {
     const Zeit dauer = std::max(spanne.bis - spanne.von, Zeit(1));
     Zeitfenster fenster{.breite = Spaltenstufe(Zeit(dauer.count() / anzahl + 1)), .spalten = anzahl};
     fenster.erste = fenster.SpalteUm(spanne.von);
-    if (fenster.Bis() <= spanne.bis)
-        fenster = FensterUm({spanne.von, spanne.bis + fenster.breite}, spalten);
+    while (fenster.Bis() <= spanne.bis && fenster.breite < GroessteSpalte) {
+        fenster.breite = Spaltenstufe(fenster.breite, 1);
+        fenster.erste = fenster.SpalteUm(spanne.von);
+    }
     return fenster;
 }
 

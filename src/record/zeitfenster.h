@@ -24,7 +24,7 @@ struct Zeitfenster {
 
 /// The narrowest and the widest column.
 inline constexpr Zeit KleinsteSpalte = std::chrono::microseconds(100);
-inline constexpr Zeit GroessteSpalte = std::chrono::hours(1);
+inline constexpr Zeit GroessteSpalte = std::chrono::hours(100);
 
 /// The narrowest width of the steps that is at least so wide, as far as there are widths.
 Zeit Spaltenstufe(Zeit mindestens);

@@ -85,6 +85,12 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
      Leistengruppe::Pruefen},
+    {Befehl::Strahlverlauf, "tlbStrahlverlauf", LaeuftWeiter, Zeigt,
+     [](Ziel& z, int) { z.ZeigeStrahlverlauf(); }, 0, 1, "Ctrl+H", 6401, "strahlverlauf", 6402,
+     Leistengruppe::Verlauf},
+    {Befehl::BlankingVorschlagen, "", StopptUndStartetWieder, Zeigt,
+     [](Ziel& z, int) { z.BearbeiteBlankingvorschlag(); }, 0, 0},
+    {Befehl::Strahlbericht, "", Ruht, Zeigt, [](Ziel& z, int) { z.ZeigeStrahlbericht(); }, 0, 0},
 };
 
 } // namespace

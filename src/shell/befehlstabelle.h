@@ -61,6 +61,11 @@ public:
     /// Offers looks and beam colours.
     virtual void BieteDarstellung() = 0;
     virtual void ZeigeBusprotokoll() = 0;
+    virtual void ZeigeStrahlverlauf() = 0;
+    /// Opens the blanking editor with the pattern that the beam history suggests.
+    virtual void BearbeiteBlankingvorschlag() = 0;
+    /// Shows the report with the section about beams that the beam history has handed over.
+    virtual void ZeigeStrahlbericht() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,
@@ -70,7 +75,7 @@ enum class Live { LaeuftWeiter, Stoppt, StopptUndStartetWieder, Ruht };
 enum class Auftritt { Still, Zeigt };
 
 /// The groups of the tool bar in their order; a line stands between two.
-enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Darstellung, Hilfe };
+enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Verlauf, Darstellung, Hilfe };
 
 /// A command as the program knows it; the fields stand in the order in which a row is read.
 struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)

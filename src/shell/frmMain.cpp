@@ -13,6 +13,7 @@
 #include "schnittstelle.h"
 #include "seitenjetzt.h"
 #include "sicherungsablauf.h"
+#include "strahlablauf.h"
 #include "standardkonfiguration.h"
 #include "trace.h"
 #include "ui_frmMain.h"
@@ -93,6 +94,8 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
+    strahlen =
+        std::make_unique<Strahlablauf>(*messung, *ablauf, [this](Befehl befehl) { befehle.Klick(befehl); });
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
 }

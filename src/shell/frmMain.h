@@ -30,6 +30,7 @@ class Busablauf;
 class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
+class Strahlablauf;
 class frmDocument;
 class Erscheinungsbild;
 class Werkzeugleiste;
@@ -169,7 +170,7 @@ private:
     void OeffneUebergebeneDateien() override;
     void ZeigeSicherungen() override;
     void OeffneSicherung() override;
-    void ZeigeBericht() override { liveDatenPassen = !ablauf->Berichte(); }
+    void ZeigeBericht() override;
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
     void ZeigeVerbindung(bool suche) override;
@@ -178,6 +179,9 @@ private:
     void PruefeLeitung() override;
     void BieteDarstellung() override;
     void ZeigeBusprotokoll() override;
+    void ZeigeStrahlverlauf() override;
+    void BearbeiteBlankingvorschlag() override;
+    void ZeigeStrahlbericht() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -198,6 +202,7 @@ private:
     std::unique_ptr<Sicherungsablauf> sicherungen;
     std::unique_ptr<Busablauf> bus;
     std::unique_ptr<Messablauf> messung;
+    std::unique_ptr<Strahlablauf> strahlen;
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -18,6 +18,7 @@
 #include "qttexte.h"
 #include "schnittstelle.h"
 #include "sicherungsablauf.h"
+#include "strahlablauf.h"
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
@@ -163,6 +164,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     vergleich->Lokalisiere();
     bus->Lokalisiere();
     messung->Lokalisiere();
+    strahlen->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -229,6 +231,22 @@ void frmMain::BieteDarstellung() {
 
 void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
+}
+
+void frmMain::ZeigeBericht() {
+    liveDatenPassen = !strahlen->Berichte(false);
+}
+
+void frmMain::ZeigeStrahlbericht() {
+    liveDatenPassen = !strahlen->Berichte(true);
+}
+
+void frmMain::ZeigeStrahlverlauf() {
+    strahlen->Zeige();
+}
+
+void frmMain::BearbeiteBlankingvorschlag() {
+    strahlen->BearbeiteVorschlag();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -42,6 +42,9 @@ enum class Befehl {
     AnschlussUebernehmen = 151,
     GeraetSuchen = 152,
     LeitungPruefen = 153,
+    Strahlverlauf = 180,
+    BlankingVorschlagen = 181,
+    Strahlbericht = 182,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

@@ -163,7 +163,7 @@ TEST_F(StrahlstatistikTest, Proposes_to_blank_what_was_interrupted_all_the_time_
         return strahl == 5 || strahl == 17 || (strahl == 9 && durchgang != 100);
     });
     const auto werte = Gezaehlt(quelle, quelle.Spanne());
-    const Werte muster = Blankingvorschlag(werte);
+    const Werte muster = ZuBlankendes(werte);
     ASSERT_EQ(muster.size(), 32U);
     for (int strahl = 0; strahl < 512; ++strahl)
         EXPECT_EQ(StrahlBit(muster, strahl), strahl == 2 || strahl == 5 || strahl == 17) << strahl;
@@ -171,8 +171,8 @@ TEST_F(StrahlstatistikTest, Proposes_to_blank_what_was_interrupted_all_the_time_
 }
 
 TEST_F(StrahlstatistikTest, Without_measurements_nothing_is_proposed) {
-    EXPECT_THAT(Blankingvorschlag({}), Each(0));
-    EXPECT_THAT(Blankingvorschlag(std::vector<Strahlwerte>(8)), Each(0));
+    EXPECT_THAT(ZuBlankendes({}), Each(0));
+    EXPECT_THAT(ZuBlankendes(std::vector<Strahlwerte>(8)), Each(0));
 }
 
 } // namespace varnoth

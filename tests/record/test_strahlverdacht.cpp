@@ -1,6 +1,7 @@
 #include "strahlproben.h"
 #include "strahlverdacht.h"
 #include "strahlworte.h"
+#include "texte.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -31,8 +32,9 @@ std::vector<Strahlwerte> Statistik(const Vorhang& vorhang, const std::set<int>& 
     return auswertung.Werte();
 }
 
-std::vector<Strahlverdacht> Verdaechte(const Vorhang& vorhang, const std::set<int>& geblankte = {}) {
-    return Strahlverdaechte(Statistik(vorhang, geblankte));
+std::vector<Strahlverdacht> Verdaechte(const Vorhang& vorhang, const std::set<int>& geblankte = {},
+                                       int durchgaenge = EineMinute) {
+    return Strahlverdaechte(Statistik(vorhang, geblankte, durchgaenge));
 }
 
 /// A part of 40 beams that moves from one end of the curtain to the other and back, again and again.
@@ -136,7 +138,8 @@ TEST(Strahlverdacht, A_beam_that_flickers_among_interrupted_ones_is_found_too) {
 }
 
 TEST(Strahlverdacht, A_beam_that_sees_light_behind_a_web_is_found) {
-    EXPECT_THAT(Verdaechte([](int durchgang, int strahl) { return strahl != 60 && Bahn(durchgang, strahl); }),
+    EXPECT_THAT(Verdaechte([](int durchgang, int strahl) { return strahl != 60 && Bahn(durchgang, strahl); },
+                           {}, 3 * EineMinute),
                 ElementsAre(Ist(Verdachtsart::NieUnterbrochen, 60, 60)));
 }
 

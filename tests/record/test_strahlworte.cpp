@@ -1,8 +1,11 @@
 #include "strahltabelle.h"
 #include "strahlworte.h"
+#include "texte.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace varnoth {
 

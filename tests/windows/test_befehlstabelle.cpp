@@ -51,6 +51,9 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void ZeigeStrahlverlauf() override { getan = "beam history"; }
+    void BearbeiteBlankingvorschlag() override { getan = "suggested blanking"; }
+    void ZeigeStrahlbericht() override { getan = "report with beams"; }
 
     std::string getan;
 };
@@ -111,6 +114,9 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(180), "beam history");
+    EXPECT_EQ(GetanVon(181), "suggested blanking");
+    EXPECT_EQ(GetanVon(182), "report with beams");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -127,6 +133,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
+        {Befehl::Strahlverlauf, "Ctrl+H"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
