@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace varnoth {
 
@@ -54,10 +55,8 @@ void Wasserfallbild::NimmNeueQuelle() {
     ausschnitt = {};
     Waehle({});
     SetzeStelle({});
-    SetzeBlick(anbieter != nullptr && anbieter->IstWiedergabe() ? Blick::Alles : Blick::Folgt);
     LiesStrahlen();
-    FolgeQuelle();
-    update();
+    SetzeBlick(anbieter != nullptr && anbieter->IstWiedergabe() ? Blick::Alles : Blick::Folgt);
 }
 
 void Wasserfallbild::NimmZuwachs() {
@@ -112,7 +111,7 @@ void Wasserfallbild::FolgeQuelle() {
     if (blick == Blick::Alles && (neuZuZeigen || fenster.Bis() <= alles.bis || fenster.Von() > alles.von))
         fenster = FensterUm(alles, plan.flaeche.width());
     if (blick == Blick::Folgt && neuZuZeigen)
-        fenster = FensterUm({jetzt - LiveDauer, jetzt}, plan.flaeche.width());
+        fenster.breite = Spaltenstufe(LiveDauer / std::max(1, fenster.spalten));
     if (blick == Blick::Folgt)
         fenster = BisZu(fenster, jetzt);
     neuZuZeigen = false;
@@ -182,7 +181,7 @@ QString Wasserfallbild::Stellentext() const {
     if (!marken.stelle || anbieter == nullptr)
         return {};
     const auto [zeit, strahl] = *marken.stelle;
-    const Zellenart zelle = Strahlzelle(reduktion.Spalte(fenster.SpalteUm(zeit)), strahl);
+    const Zellenart zelle = Stellenzelle().value_or(Zellenart::Leer);
     const std::string platz = Strahlplatz(strahl, vorgabe.abstandMm);
     return QString::fromStdString(
         LadeTextMit(TextStelle, {Strahlname(strahl, strahl) + (platz.empty() ? "" : ", " + platz),
@@ -198,6 +197,19 @@ QString Wasserfallbild::Ansage() const {
                                  Zeitworte(angaben, fenster.Bis())});
     const QString stelle = Stellentext();
     return QString::fromStdString(text) + (stelle.isEmpty() ? QString() : QStringLiteral("; ") + stelle);
+}
+
+/// What is drawn at the place; nothing where it has not been drawn yet.
+std::optional<Zellenart> Wasserfallbild::Stellenzelle() const {
+    if (!marken.stelle || reduktion.Breite() != fenster.breite || reduktion.Teil() != teil)
+        return {};
+    return Strahlzelle(reduktion.Spalte(fenster.SpalteUm(marken.stelle->zeit)), marken.stelle->strahl);
+}
+
+/// Who tells of the place hears when there is something else to tell.
+void Wasserfallbild::VergleicheStelle() {
+    if (std::exchange(erzaehlteZelle, Stellenzelle()) != erzaehlteZelle)
+        QMetaObject::invokeMethod(this, &Wasserfallbild::StelleGeaendert, Qt::QueuedConnection);
 }
 
 void Wasserfallbild::Rechne() {
@@ -230,6 +242,7 @@ void Wasserfallbild::paintEvent(QPaintEvent* /*ereignis*/) {
         return;
     }
     Rechne();
+    VergleicheStelle();
     maler.scale(1 / vorgabe.dichte, 1 / vorgabe.dichte);
     Wasserfallmarken gezeigte = marken;
     if (anbieter->IstWiedergabe())

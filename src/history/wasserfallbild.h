@@ -95,6 +95,8 @@ private:
     void LiesStrahlen();
     void FolgeQuelle();
     void Rechne();
+    std::optional<Zellenart> Stellenzelle() const;
+    void VergleicheStelle();
     void PlaneMehr();
     QPointF Geraetepunkt(const QPointF& punkt) const { return punkt * vorgabe.dichte; }
     Strahlfeld Feld() const { return plan.Feld(vorgabe.strahlen, ausschnitt); }
@@ -119,6 +121,7 @@ private:
     Wasserfallzeichner zeichner;
     Strahlreduktion reduktion;
     bool neuZuZeigen = true; ///< nothing of the source has been shown yet
+    std::optional<Zellenart> erzaehlteZelle; ///< that was at the place when it was drawn last
     bool unvollstaendig = false;
     bool mehrGeplant = false;
 

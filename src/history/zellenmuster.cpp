@@ -28,10 +28,21 @@ bool SteigendeStriche(int x, int y) {
     return (x + y) % (Musterseite / 2) == 0;
 }
 bool Punkte(int x, int y) {
-    return x % (Musterseite / 2) == 0 && y % (Musterseite / 2) == (x / (Musterseite / 2) % 2) * 2;
+    return x % 2 == 0 && y % (Musterseite / 2) == x % (Musterseite / 2);
 }
 bool Karos(int x, int y) {
     return (x / 2 + y / 2) % 2 == 0;
+}
+
+/// The one of some colours that can be told best from both a free cell and an interrupted one.
+QColor Zweitfarbe(const Strahlfarben& farben) {
+    const auto abstand = [&](const QColor& farbe) {
+        return std::min(Kontrast(farbe, AlsFlaeche(farben.frei, farben.grund)),
+                        Kontrast(farbe, farben.unterbrochen));
+    };
+    const QColor farbenZurWahl[] = {AlsFlaeche(farben.unterbrochen, farben.grund), farben.grund,
+                                    farben.schrift};
+    return *std::ranges::max_element(farbenZurWahl, {}, abstand);
 }
 
 /// What was interrupted at some time keeps a strong colour in every pixel: a cell of one pixel must not look
@@ -50,7 +61,7 @@ Zeichnung ZeichnungFuer(Zellenart art, const Strahlfarben& farben) {
     case Zellenart::Geblankt:
         return {flaeche(farben.geblankt), farben.geblankt, SteigendeStriche};
     case Zellenart::Zeitweise:
-        return {flaeche(farben.unterbrochen), farben.unterbrochen, Karos};
+        return {Zweitfarbe(farben), farben.unterbrochen, Karos};
     case Zellenart::Unterbrochen:
         return {farben.unterbrochen, {}, Nirgends};
     }

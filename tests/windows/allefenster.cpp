@@ -23,9 +23,11 @@
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "frmWasserfall.h"
 #include "leitungspruefung.h"
 #include "mithoeren.h"
 #include "protokollanbieter.h"
+#include "pruefmessanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
 #include "rahmen.h"
@@ -102,6 +104,14 @@ std::unique_ptr<QWidget> Busprotokollfenster() {
     return fenster;
 }
 
+/// A source that calls itself something with tags.
+std::unique_ptr<QWidget> Strahlverlauf() {
+    struct Boeser : PruefMessanbieter {
+        Boeser() { quelle.angaben.bezeichnung = quelle.angaben.seriennummer = TextMitTags; }
+    };
+    return std::make_unique<MitUmfeld<frmWasserfall, Boeser>>();
+}
+
 std::unique_ptr<QWidget> Ansicht() {
     auto fenster = std::make_unique<frmDocument>(0);
     fenster->InitfrmDocument();
@@ -174,6 +184,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmBericht", Bericht},
         {"frmBlankingmuster", Blankingmuster},
         {"frmBusprotokoll", Busprotokollfenster},
+        {"frmWasserfall", Strahlverlauf},
         {"frmDocument", Ansicht},
         {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
         {"frmHilfe", Einfach<frmHilfe>},

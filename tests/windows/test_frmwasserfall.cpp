@@ -333,12 +333,12 @@ TEST_F(FrmWasserfallTest, Follows_live_data_as_long_as_it_is_ticked) {
 }
 
 TEST_F(FrmWasserfallTest, Keeps_its_place_and_closes_with_escape) {
-    Fenster().resize(900, 640);
+    Fenster().resize(760, 560);
     ASSERT_TRUE(BisGezaehlt());
     QTest::keyClick(&Fenster(), Qt::Key_Escape);
     EXPECT_FALSE(Fenster().isVisible());
     frmWasserfall zweites(anbieter);
-    EXPECT_EQ(zweites.size(), QSize(900, 640));
+    EXPECT_EQ(zweites.size(), QSize(760, 560));
 }
 
 } // namespace varnoth
