@@ -1,5 +1,5 @@
-// A frame of the waterfall over 8 hours of 512 beams, from the overview on: everything is calculated and drawn anew.
-// And one that slides, as live data makes it: only what is new is calculated.
+// A frame of the waterfall over 8 hours of 512 beams, from the overview on: everything is calculated and
+// drawn anew. And one that slides, as live data makes it: only what is new is calculated.
 
 #include "bericht.h"
 #include "pruefmessanbieter.h"

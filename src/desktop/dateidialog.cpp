@@ -43,6 +43,10 @@ void RichteEin(QFileDialog& dialog, const Dateifrage& frage) {
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setAcceptMode(speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (frage.art == Dateiwahl::Ordner) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+    }
     dialog.setWindowTitle(QString::fromStdString(frage.titel));
     dialog.setDirectory(Startordner(frage));
 }
@@ -79,7 +83,8 @@ std::optional<std::string> FrageNachDatei(const Dateifrage& frage) {
     RichteEin(dialog, frage);
     if (const auto* const knoepfe = dialog.findChild<QDialogButtonBox*>())
         GibKnoepfenSymbole(*knoepfe);
-    SetzeFilter(dialog, FilterFuerQt(frage.filter));
+    if (frage.art != Dateiwahl::Ordner)
+        SetzeFilter(dialog, FilterFuerQt(frage.filter));
     if (!frage.name.empty())
         dialog.selectFile(QString::fromStdString(frage.name));
     if (dialog.exec() != QDialog::Accepted)

@@ -103,8 +103,7 @@ void frmKonfigurationEdit::VerbindeKnoepfe() {
     connect(ui->cmdDownLoad, &QPushButton::clicked, this, [this] { Uebernimm(True); });
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     for (Optikseite* const seite : optikseiten)
-        connect(seite, &Optikseite::BlankingmusterVerlangt, this,
-                [this](int teil) { OeffneBlanking(teil); });
+        connect(seite, &Optikseite::BlankingmusterVerlangt, this, [this](int teil) { OeffneBlanking(teil); });
     connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this, [this] {
         OeffneReihenfolge(this);
         ui->picOptions_5->AktualisiereMarken();

@@ -29,7 +29,7 @@ constexpr std::int16_t TextTitel = 6400, TextTitelWiedergabe = 6419, TextErstesO
                        TextNichtsVerdaechtiges = 6451, TextZuWenig = 6452, TextBildKopiert = 6453,
                        TextGespeichert = 6454, TextSpeichernUnter = 6455, TextFilter = 6456,
                        TextKeinStrahl = 6457, TextNichtInWiedergabe = 6458, TextVorschlagTipp = 6444,
-                       TextAbgebrochen = 6473;
+                       TextBerichttipp = 6445, TextAbgebrochen = 6473, TextKeinBericht = 6474;
 
 constexpr const char* Abschnitt = "frmWasserfall";
 constexpr const char* Tabellenname = "strahlstatistik";
@@ -38,6 +38,7 @@ constexpr int Spaltenbreiten[] = {64, 84, 104, 84, 160, 196}; // at 96 dpi
 
 constexpr int VerzugMs = 200;
 constexpr int LiveTaktMs = 1000;
+constexpr int BildtaktMs = 250; // painting more often would cost polling time, and nobody sees more
 // What is done at one go, so that neither the next request nor the window waits for it.
 constexpr Zeit LaengsterSchritt = std::chrono::milliseconds(2);
 constexpr Zeit LaengsterSchrittOhneLeitung = std::chrono::milliseconds(10);
@@ -74,6 +75,7 @@ frmWasserfall::frmWasserfall(Messanbieter& derAnbieter)
     ui->setupUi(this);
     takt = new Messtakt(anbieter, *this);
     verzug.setSingleShot(true);
+    bildtakt.setSingleShot(true);
     RichteTabelleEin();
     StelleFensterHer(*this, Abschnitt, Anfangsgroesse);
     FuelleTeile();
@@ -123,6 +125,7 @@ void frmWasserfall::Verbinde() {
         rechnet = !abgebrochen;
         Plane();
     });
+    connect(&bildtakt, &QTimer::timeout, ui->bild, &Wasserfallbild::NimmZuwachs);
     connect(ui->cboTeil, &QComboBox::currentIndexChanged, this, &frmWasserfall::WaehleTeil);
     connect(ui->bild, &Wasserfallbild::StelleGeaendert, this, &frmWasserfall::ZeigeStelle);
     connect(ui->bild, &Wasserfallbild::ZeitraumGeaendert, this, &frmWasserfall::BeginneAuswertung);
@@ -200,12 +203,17 @@ void frmWasserfall::Lokalisiere() {
     ZeigeStelle();
 }
 
-/// A replay is told from what happens now, and nothing of it is for the controller that may be at the line.
+/// A replay is told from what happens now, and nothing of it is for the controller that may be at the line or
+/// for the report about the configuration in use.
 void frmWasserfall::ZeigeTitel() {
     const bool wiedergabe = anbieter.IstWiedergabe();
     setWindowTitle(Q(LadeText(wiedergabe ? TextTitelWiedergabe : TextTitel)));
     ui->cmdBlanking->setToolTip(Q(LadeText(wiedergabe ? TextNichtInWiedergabe : TextVorschlagTipp)));
-    ui->cmdBlanking->setEnabled(!wiedergabe && auswertung && auswertung->Zaehler().Durchgaenge() > 0);
+    ui->cmdBericht->setToolTip(Q(LadeText(wiedergabe ? TextKeinBericht : TextBerichttipp)));
+    const bool gemessen = auswertung && auswertung->Zaehler().Durchgaenge() > 0;
+    ui->cmdTabelle->setEnabled(gemessen);
+    for (QPushButton* const knopf : {ui->cmdBlanking, ui->cmdBericht})
+        knopf->setEnabled(gemessen && !wiedergabe);
 }
 
 void frmWasserfall::WaehleTeil() {
@@ -220,7 +228,10 @@ void frmWasserfall::NimmNeueQuelle() {
 }
 
 void frmWasserfall::NimmZuwachs() {
-    ui->bild->NimmZuwachs();
+    if (anbieter.IstWiedergabe())
+        ui->bild->NimmZuwachs();
+    else if (!bildtakt.isActive())
+        bildtakt.start(BildtaktMs);
     ZeigeTitel();
     if (!rechnet && !abgebrochen && !verzug.isActive())
         verzug.start(LiveTaktMs);
@@ -230,8 +241,8 @@ void frmWasserfall::NimmZuwachs() {
 void frmWasserfall::BeginneAuswertung() {
     abgebrochen = false;
     rechnet = false;
-    auswertung.emplace(ui->bild->Teil(),
-                       ui->bild->Gewaehlt().value_or(Zeitspanne{anbieter.Quelle().Spanne().von, Zeit::max()}));
+    auswertung.emplace(ui->bild->Teil(), ui->bild->Gewaehlt().value_or(
+                                             Zeitspanne{anbieter.Quelle().Spanne().von, Zeit::max()}));
     ui->cmdZeitraum->setEnabled(ui->bild->Gewaehlt().has_value());
     verzug.start(VerzugMs);
     ZeigeStatistik();
@@ -249,8 +260,8 @@ void frmWasserfall::Arbeite() {
     geplant = false;
     if (!rechnet)
         return;
-    const Zeit ende = DieUmgebung().Uhr() +
-                      (anbieter.IstWiedergabe() ? LaengsterSchrittOhneLeitung : LaengsterSchritt);
+    const Zeit ende =
+        DieUmgebung().Uhr() + (anbieter.IstWiedergabe() ? LaengsterSchrittOhneLeitung : LaengsterSchritt);
     do
         rechnet = auswertung->Weiter(anbieter.Quelle(), 1);
     while (rechnet && DieUmgebung().Uhr() < ende);
@@ -292,10 +303,10 @@ void frmWasserfall::ZeigeVerdacht() {
         zeilen.append({Q(Verdachtsfrage(verdacht) + " " + Verdachtsgrund(verdacht)), verdacht.von});
     const Zeit gemessen = auswertung ? auswertung->Zaehler().Gemessen() : Zeit{};
     if (zeilen.isEmpty())
-        zeilen.append({Q(gemessen < GenugGemessen
-                             ? LadeText(TextZuWenig)
-                             : LadeTextMit(TextNichtsVerdaechtiges, {Dauerworte(gemessen)})),
-                       -1});
+        zeilen.append(
+            {Q(gemessen < GenugGemessen ? LadeText(TextZuWenig)
+                                        : LadeTextMit(TextNichtsVerdaechtiges, {Dauerworte(gemessen)})),
+             -1});
     while (ui->lstVerdacht->count() > zeilen.size())
         delete ui->lstVerdacht->takeItem(ui->lstVerdacht->count() - 1);
     while (ui->lstVerdacht->count() < zeilen.size())
@@ -311,8 +322,6 @@ void frmWasserfall::ZeigeVerdacht() {
 void frmWasserfall::ZeigeStand() {
     const bool arbeitet = rechnet && auswertung;
     ui->cmdCancel->setVisible(arbeitet);
-    for (QPushButton* const knopf : {ui->cmdTabelle, ui->cmdBericht})
-        knopf->setEnabled(auswertung && auswertung->Zaehler().Durchgaenge() > 0);
     std::string text = LadeText(TextKeineMessdaten);
     if (arbeitet)
         text = LadeTextMit(TextRechnet, {Anteilworte(auswertung->Fortschritt(anbieter.Quelle()))});

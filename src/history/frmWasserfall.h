@@ -21,9 +21,9 @@ class frmWasserfall;
 class Messanbieter;
 class Messtakt;
 
-/// The past of the beams of one optical part: the waterfall, the statistics of a time that is chosen in it (of all
-/// the time where none is), and what they make suspicious. The statistics are counted in short pieces while
-/// the line is busy anyway.
+/// The past of the beams of one optical part: the waterfall, the statistics of a time that is chosen in it
+/// (of all the time where none is), and what they make suspicious. The statistics are counted in short pieces
+/// while the line is busy anyway.
 class frmWasserfall : public QWidget {
     Q_OBJECT
 
@@ -77,6 +77,7 @@ private:
     Strahlmodell* modell;
     QSortFilterProxyModel* auswahl;
     QTimer verzug{this}; ///< between a chosen time and its statistics, and between two of live data
+    QTimer bildtakt{this};
     std::optional<Strahlauswertung> auswertung;
     bool rechnet = false;
     bool abgebrochen = false;

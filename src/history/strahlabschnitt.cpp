@@ -17,9 +17,9 @@ bool IstZuBerichten(const Strahlwerte& werte, std::span<const Strahlverdacht> ve
 Strahlbericht Berichtsabschnitt(std::span<const Strahlwerte> strahlen,
                                 std::span<const Strahlverdacht> verdaechte, const Strahlbezug& bezug) {
     Strahlbericht bericht;
-    bericht.zeitraum =
-        LadeTextMit(TextZeitraum, {std::to_string(bezug.teil + 1), Zeitworte(bezug.angaben, bezug.zeitraum.von),
-                                   Zeitworte(bezug.angaben, bezug.zeitraum.bis), Dauerworte(bezug.gemessen)});
+    bericht.zeitraum = LadeTextMit(
+        TextZeitraum, {std::to_string(bezug.teil + 1), Zeitworte(bezug.angaben, bezug.zeitraum.von),
+                       Zeitworte(bezug.angaben, bezug.zeitraum.bis), Dauerworte(bezug.gemessen)});
     for (const Strahlverdacht& verdacht : verdaechte)
         bericht.verdacht.push_back(Verdachtsfrage(verdacht) + " " + Verdachtsgrund(verdacht));
     for (int spalte = 0; spalte < AnzahlStrahlspalten; ++spalte)

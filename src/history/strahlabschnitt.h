@@ -7,8 +7,8 @@
 
 namespace varnoth {
 
-/// The statistics as a section of the report, in the language in use. Beams that were never interrupted and are not
-/// suspicious are only counted.
+/// The statistics as a section of the report, in the language in use. Beams that were never interrupted and
+/// are not suspicious are only counted.
 Strahlbericht Berichtsabschnitt(std::span<const Strahlwerte> strahlen,
                                 std::span<const Strahlverdacht> verdaechte, const Strahlbezug& bezug);
 

@@ -55,15 +55,15 @@ void Wasserfallbild::wheelEvent(QWheelEvent* ereignis) {
 void Wasserfallbild::mousePressEvent(QMouseEvent* ereignis) {
     setFocus(Qt::MouseFocusReason);
     const QPointF punkt = Geraetepunkt(ereignis->position());
-    const bool schiebt = ereignis->button() == Qt::MiddleButton ||
-                         (ereignis->button() == Qt::LeftButton &&
-                          ereignis->modifiers().testFlag(Qt::ShiftModifier));
+    const bool schiebt =
+        ereignis->button() == Qt::MiddleButton ||
+        (ereignis->button() == Qt::LeftButton && ereignis->modifiers().testFlag(Qt::ShiftModifier));
     if (!schiebt && ereignis->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(ereignis);
-    zug = schiebt                        ? Zug::Schieben
-          : plan.IstUeberZeiten(punkt)   ? Zug::Zeitzoom
-          : plan.IstUeberNummern(punkt)  ? Zug::Strahlzoom
-                                         : Zug::Waehlen;
+    zug = schiebt                       ? Zug::Schieben
+          : plan.IstUeberZeiten(punkt)  ? Zug::Zeitzoom
+          : plan.IstUeberNummern(punkt) ? Zug::Strahlzoom
+                                        : Zug::Waehlen;
     gezogen = false;
     zugBeginn = punkt;
     zugFenster = fenster;
@@ -75,8 +75,8 @@ void Wasserfallbild::mouseMoveEvent(QMouseEvent* ereignis) {
     const QPointF punkt = Geraetepunkt(ereignis->position());
     if (zug == Zug::Keiner)
         return;
-    gezogen = gezogen || (punkt - zugBeginn).manhattanLength() >=
-                             QApplication::startDragDistance() * vorgabe.dichte;
+    gezogen = gezogen ||
+              (punkt - zugBeginn).manhattanLength() >= QApplication::startDragDistance() * vorgabe.dichte;
     if (gezogen)
         ZieheWeiter(punkt);
 }
@@ -101,14 +101,14 @@ void Wasserfallbild::ZieheWeiter(const QPointF& punkt) {
                                           (punkt.y() - zugBeginn.y()) / std::max(Feld().Teilung(), 1e-9)));
     }
     case Zug::Zeitzoom:
-        marken.band = QRect(QPoint(spalte(zugBeginn.x()), flaeche.top()),
-                            QPoint(spalte(punkt.x()), flaeche.bottom()))
-                          .normalized();
+        marken.band =
+            QRect(QPoint(spalte(zugBeginn.x()), flaeche.top()), QPoint(spalte(punkt.x()), flaeche.bottom()))
+                .normalized();
         break;
     case Zug::Strahlzoom:
-        marken.band = QRect(QPoint(flaeche.left(), reihe(zugBeginn.y())),
-                            QPoint(flaeche.right(), reihe(punkt.y())))
-                          .normalized();
+        marken.band =
+            QRect(QPoint(flaeche.left(), reihe(zugBeginn.y())), QPoint(flaeche.right(), reihe(punkt.y())))
+                .normalized();
         break;
     }
     update();
@@ -192,8 +192,8 @@ bool Wasserfallbild::Wahltaste(const QKeyEvent& taste) {
 /// walks over.
 bool Wasserfallbild::Cursortaste(const QKeyEvent& taste) {
     const int schritt = taste.modifiers().testFlag(Qt::ControlModifier) ? GrosserSchritt : 1;
-    Strahlstelle ziel = marken.stelle.value_or(Strahlstelle{
-        fenster.Von() + fenster.spalten / 2 * fenster.breite, vorgabe.strahlen / 2});
+    Strahlstelle ziel = marken.stelle.value_or(
+        Strahlstelle{fenster.Von() + fenster.spalten / 2 * fenster.breite, vorgabe.strahlen / 2});
     const Zeit vorher = ziel.zeit;
     switch (taste.key()) {
     case Qt::Key_Left:

@@ -165,7 +165,8 @@ Zeit Wasserfallbild::ZeitBei(double x) const {
 }
 
 QPointF Wasserfallbild::PunktVon(const Strahlstelle& stelle) const {
-    const double x = plan.flaeche.left() + static_cast<double>(fenster.SpalteUm(stelle.zeit) - fenster.erste) + 0.5;
+    const double x =
+        plan.flaeche.left() + static_cast<double>(fenster.SpalteUm(stelle.zeit) - fenster.erste) + 0.5;
     return QPointF(x, Feld().Y(stelle.strahl + 0.5)) / vorgabe.dichte;
 }
 

@@ -120,7 +120,7 @@ private:
     Wasserfallmarken marken;
     Wasserfallzeichner zeichner;
     Strahlreduktion reduktion;
-    bool neuZuZeigen = true; ///< nothing of the source has been shown yet
+    bool neuZuZeigen = true;                 ///< nothing of the source has been shown yet
     std::optional<Zellenart> erzaehlteZelle; ///< that was at the place when it was drawn last
     bool unvollstaendig = false;
     bool mehrGeplant = false;

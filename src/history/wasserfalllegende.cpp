@@ -85,7 +85,8 @@ void Wasserfalllegende::paintEvent(QPaintEvent* /*ereignis*/) {
         maler.setPen(farben.gehaeuserand);
         maler.drawRect(platz.x(), platz.y() + 2, Probe - 1, platz.height() - 5);
         maler.setPen(palette().color(QPalette::WindowText));
-        maler.drawText(platz.adjusted(Probe + Luft, 0, 2, 0), Qt::AlignVCenter | Qt::TextSingleLine, Wort(art));
+        maler.drawText(platz.adjusted(Probe + Luft, 0, 2, 0), Qt::AlignVCenter | Qt::TextSingleLine,
+                       Wort(art));
     });
 }
 

@@ -27,10 +27,9 @@ Wasserfallplan TeileAuf(const Wasserfallvorgabe& vorgabe) {
     Wasserfallplan plan;
     plan.nummernLinks = rand;
     const int links = rand + Breite(masse, vorgabe.strahlen) + luft + strich;
-    const int skala =
-        vorgabe.abstandMm > 0
-            ? Breite(masse, vorgabe.strahlen * vorgabe.abstandMm) + masse.horizontalAdvance(QStringLiteral(" mm"))
-            : 0;
+    const int skala = vorgabe.abstandMm > 0 ? Breite(masse, vorgabe.strahlen * vorgabe.abstandMm) +
+                                                  masse.horizontalAdvance(QStringLiteral(" mm"))
+                                            : 0;
     plan.skalaRechts = skala;
     const int rechts = skala > 0 ? skala + strich + luft + rand : rand;
     const int unten = masse.height() + strich + luft + rand;

@@ -6,7 +6,9 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdlib>
 
 namespace varnoth {
 
@@ -25,20 +27,18 @@ void Wasserfallzeichner::Zeichne(QPainter& maler, const Wasserfallvorgabe& neueV
                                  const QPalette& neuePalette, const Wasserfallinhalt& inhalt,
                                  const Wasserfallmarken& marken) {
     const Stand stand{.vorgabe = neueVorgabe,
-                      .fenster = inhalt.fenster,
+                      .spaltenbreite = inhalt.fenster.breite,
+                      .spalten = inhalt.fenster.spalten,
                       .ausschnitt = inhalt.ausschnitt,
-                      .gerechnete = inhalt.spalten.Gerechnete(),
                       .satz = GetStrahlfarbsatz(),
                       .teil = inhalt.spalten.Teil()};
     if (stand != gebaut || neuePalette != palette) {
         vorgabe = neueVorgabe;
         palette = neuePalette;
-        farben = FarbenAus(palette);
-        muster = Zellenmuster(farben, vorgabe.dichte);
-        plan = TeileAuf(vorgabe);
-        BaueZellen(inhalt, vorgabe.strahlen);
         gebaut = stand;
+        Bereite();
     }
+    BaueZellen(inhalt);
     maler.fillRect(QRect({}, vorgabe.groesse), farben.grund);
     maler.setFont(vorgabe.schrift);
     maler.setPen(farben.schrift);
@@ -51,34 +51,75 @@ void Wasserfallzeichner::Zeichne(QPainter& maler, const Wasserfallvorgabe& neueV
     ZeichneMarken(maler, inhalt, feld, marken);
 }
 
-void Wasserfallzeichner::BaueZellen(const Wasserfallinhalt& inhalt, int strahlen) {
-    const int breite = plan.flaeche.width();
-    const int hoehe = plan.flaeche.height();
-    const auto reihen = Strahlreihen(hoehe, inhalt.ausschnitt.unten, inhalt.ausschnitt.anzahl, strahlen);
-    raster.resize(static_cast<std::size_t>(breite) * static_cast<std::size_t>(hoehe));
-    std::vector<Zellenart> zellen;
-    for (int x = 0; x < breite; ++x) {
-        FuelleZellen(inhalt.spalten.Spalte(inhalt.fenster.erste + x), reihen, zellen);
-        std::ranges::copy(zellen, raster.begin() + static_cast<std::ptrdiff_t>(x) * hoehe);
-    }
-    if (bild.size() != plan.flaeche.size())
-        bild = QImage(plan.flaeche.size(), QImage::Format_RGB32);
-    Faerbe(inhalt.fenster.erste);
+void Wasserfallzeichner::Bereite() {
+    farben = FarbenAus(palette);
+    muster = Zellenmuster(farben, vorgabe.dichte);
+    plan = TeileAuf(vorgabe);
+    reihen = Strahlreihen(plan.flaeche.height(), gebaut.ausschnitt.unten, gebaut.ausschnitt.anzahl,
+                          vorgabe.strahlen);
+    bild = QImage(plan.flaeche.size(), QImage::Format_RGB32);
+    gezeichnete.assign(static_cast<std::size_t>(bild.width()), std::nullopt);
 }
 
-void Wasserfallzeichner::Faerbe(std::int64_t ersteSpalte) {
+/// What was drawn moves along with the window, and only columns that show something else are drawn.
+void Wasserfallzeichner::BaueZellen(const Wasserfallinhalt& inhalt) {
+    Verschiebe(inhalt.fenster.erste - ersteSpalte);
+    ersteSpalte = inhalt.fenster.erste;
+    std::vector<int> neue;
+    for (int x = 0; x < bild.width(); ++x) {
+        const Strahlspalte& spalte = inhalt.spalten.Spalte(ersteSpalte + x);
+        auto& gezeichnet = gezeichnete[static_cast<std::size_t>(x)];
+        if (gezeichnet && *gezeichnet == spalte)
+            continue;
+        gezeichnet = spalte;
+        neue.push_back(x);
+    }
+    Faerbe(neue);
+}
+
+void Wasserfallzeichner::Verschiebe(std::int64_t spalten) {
+    const auto breite = static_cast<std::int64_t>(gezeichnete.size());
+    if (spalten == 0)
+        return;
+    if (std::abs(spalten) >= breite)
+        return gezeichnete.assign(gezeichnete.size(), std::nullopt);
+    const int nachLinks = static_cast<int>(spalten);
+    if (nachLinks > 0) {
+        std::shift_left(gezeichnete.begin(), gezeichnete.end(), nachLinks);
+        std::fill(gezeichnete.end() - nachLinks, gezeichnete.end(), std::nullopt);
+    } else {
+        std::shift_right(gezeichnete.begin(), gezeichnete.end(), -nachLinks);
+        std::fill(gezeichnete.begin(), gezeichnete.begin() - nachLinks, std::nullopt);
+    }
+    for (int y = 0; y < bild.height(); ++y) {
+        auto* const zeile = reinterpret_cast<QRgb*>(bild.scanLine(y));
+        if (nachLinks > 0)
+            std::copy(zeile + nachLinks, zeile + breite, zeile);
+        else
+            std::copy_backward(zeile, zeile + breite + nachLinks, zeile + breite);
+    }
+}
+
+/// Row by row, as the picture lies in memory.
+void Wasserfallzeichner::Faerbe(const std::vector<int>& spalten) {
+    const auto hoehe = static_cast<std::size_t>(bild.height());
+    std::vector<Zellenart> raster(spalten.size() * hoehe);
+    std::vector<Zellenart> zellen;
+    for (std::size_t i = 0; i < spalten.size(); ++i) {
+        FuelleZellen(*gezeichnete[static_cast<std::size_t>(spalten[i])], reihen, zellen);
+        std::ranges::copy(zellen, raster.begin() + static_cast<std::ptrdiff_t>(i * hoehe));
+    }
     const int seite = muster.Seite();
     const int versatz = static_cast<int>((ersteSpalte % seite + seite) % seite);
-    for (int y = 0; y < bild.height(); ++y) {
+    for (int y = 0; y < bild.height() && !spalten.empty(); ++y) {
         std::array<const QRgb*, Zellenmuster::AnzahlArten> zeilen{};
         for (std::size_t art = 0; art < zeilen.size(); ++art)
             zeilen.at(art) = muster.Zeile(static_cast<Zellenart>(art), y);
         auto* const pixel = reinterpret_cast<QRgb*>(bild.scanLine(y));
         std::size_t zelle = static_cast<std::size_t>(y);
-        int stelle = versatz;
-        for (int x = 0; x < bild.width(); ++x, zelle += static_cast<std::size_t>(bild.height())) {
-            pixel[x] = zeilen[static_cast<std::size_t>(raster[zelle])][stelle];
-            stelle = stelle + 1 == seite ? 0 : stelle + 1;
+        for (const int x : spalten) {
+            pixel[x] = zeilen[static_cast<std::size_t>(raster[zelle])][(versatz + x) % seite];
+            zelle += hoehe;
         }
     }
 }
@@ -124,9 +165,11 @@ void Wasserfallzeichner::ZeichneSkala(QPainter& maler, const Strahlfeld& feld) c
     const double bis = von + feld.ausschnitt.anzahl * vorgabe.abstandMm;
     for (int mm = static_cast<int>(std::ceil(von / teilung.neben)) * teilung.neben; mm <= bis;
          mm += teilung.neben) {
-        const int y = static_cast<int>(std::lround(feld.Y(static_cast<double>(mm) / vorgabe.abstandMm + 0.5)));
+        const int y =
+            static_cast<int>(std::lround(feld.Y(static_cast<double>(mm) / vorgabe.abstandMm + 0.5)));
         const bool haupt = mm % teilung.haupt == 0;
-        maler.fillRect(links, y, haupt ? strich : strich / 2, Geraetepixel(1, vorgabe.dichte), farben.striche);
+        maler.fillRect(links, y, haupt ? strich : strich / 2, Geraetepixel(1, vorgabe.dichte),
+                       farben.striche);
         if (haupt)
             Setze(maler,
                   {links + strich + Geraetepixel(2, vorgabe.dichte), y - masse.height() / 2, plan.skalaRechts,
@@ -149,14 +192,15 @@ void Wasserfallzeichner::ZeichneZeiten(QPainter& maler, const Wasserfallinhalt& 
     }
 }
 
-void Wasserfallzeichner::ZeichneMarken(QPainter& maler, const Wasserfallinhalt& inhalt, const Strahlfeld& feld,
-                                       const Wasserfallmarken& marken) const {
+void Wasserfallzeichner::ZeichneMarken(QPainter& maler, const Wasserfallinhalt& inhalt,
+                                       const Strahlfeld& feld, const Wasserfallmarken& marken) const {
     const QRect& flaeche = plan.flaeche;
     const int fein = Geraetepixel(1, vorgabe.dichte);
     const auto senkrecht = [&](Zeit zeit, int dicke, const QColor& farbe) {
         const int x = X(inhalt.fenster, zeit);
         if (x >= flaeche.left() && x <= flaeche.right())
-            maler.fillRect(x - dicke / 2, flaeche.top(), dicke, flaeche.height() + plan.luecken.height(), farbe);
+            maler.fillRect(x - dicke / 2, flaeche.top(), dicke, flaeche.height() + plan.luecken.height(),
+                           farbe);
     };
     QColor ton = farben.marke;
     ton.setAlphaF(0.22F);

@@ -47,20 +47,22 @@ public:
                  const Wasserfallinhalt& inhalt, const Wasserfallmarken& marken);
 
 private:
-    /// All on which the cells depend but the palette.
+    /// What makes it draw all cells anew, besides the palette.
     struct Stand {
         Wasserfallvorgabe vorgabe{};
-        Zeitfenster fenster{};
+        Zeit spaltenbreite{};
+        int spalten = 0;
         Ausschnitt ausschnitt{};
-        std::int64_t gerechnete = -1;
         Strahlfarbsatz satz{};
         int teil = -1;
 
         bool operator==(const Stand&) const = default;
     };
 
-    void BaueZellen(const Wasserfallinhalt& inhalt, int strahlen);
-    void Faerbe(std::int64_t ersteSpalte);
+    void Bereite();
+    void BaueZellen(const Wasserfallinhalt& inhalt);
+    void Verschiebe(std::int64_t spalten);
+    void Faerbe(const std::vector<int>& spalten);
     void ZeichneNummern(QPainter& maler, const Strahlfeld& feld) const;
     void ZeichneSkala(QPainter& maler, const Strahlfeld& feld) const;
     void ZeichneZeiten(QPainter& maler, const Wasserfallinhalt& inhalt) const;
@@ -75,7 +77,9 @@ private:
     Wasserfallplan plan;
     Zellenmuster muster;
     Stand gebaut;
-    std::vector<Zellenart> raster; ///< column by column, each from the top
+    std::vector<Strahlreihe> reihen;
+    std::int64_t ersteSpalte = 0;
+    std::vector<std::optional<Strahlspalte>> gezeichnete; ///< what each column of the picture shows
     QImage bild;
 };
 

@@ -25,8 +25,7 @@ public:
     int Seite() const { return seite; }
     /// So many pixels of a kind: those of row `y`, which may be any from 0 on.
     const QRgb* Zeile(Zellenart art, int y) const {
-        return bilder[static_cast<std::size_t>(art)].data() +
-               static_cast<std::ptrdiff_t>(y % seite) * seite;
+        return bilder[static_cast<std::size_t>(art)].data() + static_cast<std::ptrdiff_t>(y % seite) * seite;
     }
 
 private:

@@ -45,8 +45,8 @@ void FuegeHinzu(Strahlmenge& menge, int strahl) {
 Strahlmenge ErsteStrahlen(int anzahl) {
     Strahlmenge menge{};
     for (std::size_t i = 0; i < menge.size(); ++i)
-        menge[i] =
-            Anfangsmaske(std::clamp(anzahl - static_cast<int>(i) * StrahlenJeRegister, 0, StrahlenJeRegister));
+        menge[i] = Anfangsmaske(
+            std::clamp(anzahl - static_cast<int>(i) * StrahlenJeRegister, 0, StrahlenJeRegister));
     return menge;
 }
 

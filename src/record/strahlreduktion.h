@@ -91,9 +91,9 @@ struct Strahlreihe {
     bool operator==(const Strahlreihe&) const = default;
 };
 
-/// The rows of a picture from the top on, in which the beams from position `unten` on stand, `anzahl` of them,
-/// the lowest at the bottom. Every beam has a row: where there are more beams than rows, each shows all that
-/// touch it.
+/// The rows of a picture from the top on, in which the beams from position `unten` on stand, `anzahl` of
+/// them, the lowest at the bottom. Every beam has a row: where there are more beams than rows, each shows all
+/// that touch it.
 std::vector<Strahlreihe> Strahlreihen(int hoehe, double unten, double anzahl, int strahlen);
 
 /// A column row by row. Where beams share a row, one that was interrupted is shown before all others.

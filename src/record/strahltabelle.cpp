@@ -49,8 +49,7 @@ std::string Strahlzeile(const Strahlwerte& werte, int strahl, std::span<const St
     return Zeile({std::to_string(strahl + 1),
                   bezug.abstandMm > 0 ? std::to_string(strahl * bezug.abstandMm) : "",
                   gemessen ? Zahl(werte.Anteil() * Prozent) : "",
-                  gemessen ? std::to_string(werte.wechsel) : "",
-                  gemessen ? Zahl(sekunden) : "",
+                  gemessen ? std::to_string(werte.wechsel) : "", gemessen ? Zahl(sekunden) : "",
                   werte.letzterWechsel ? Text(Zeitworte(bezug.angaben, *werte.letzterWechsel)) : "",
                   verdacht != nullptr ? Text(Verdachtsfrage(*verdacht)) : ""});
 }

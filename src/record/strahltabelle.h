@@ -17,8 +17,8 @@ struct Strahlbezug {
 };
 
 /// The statistics as a file for a spreadsheet: UTF-8 with its mark, a line a beam, ended by CR LF. Numbers
-/// stand without units, shares in percent, times in seconds; what stands between fields and before decimals is
-/// what spreadsheets of the language in use expect.
+/// stand without units, shares in percent, times in seconds; what stands between fields and before decimals
+/// is what spreadsheets of the language in use expect.
 std::string Strahltabelle(std::span<const Strahlwerte> strahlen, std::span<const Strahlverdacht> verdaechte,
                           const Strahlbezug& bezug);
 

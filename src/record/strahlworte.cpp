@@ -1,7 +1,7 @@
 #include "strahlworte.h"
 
-#include "textmitwerten.h"
 #include "texte.h"
+#include "textmitwerten.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +14,8 @@ namespace varnoth {
 namespace {
 
 constexpr std::int16_t TextStrahl = 6417, TextStrahlen = 6418, TextGeblankt = 6413;
-constexpr std::int16_t Zellentexte[] = {6416, 6415, 6414, 6410, 6413, 6412, 6411}; // in the order of Zellenart
+constexpr std::int16_t Zellentexte[] = {6416, 6415, 6414, 6410,
+                                        6413, 6412, 6411}; // in the order of Zellenart
 constexpr std::int16_t Spaltentexte[AnzahlStrahlspalten] = {6420, 6421, 6422, 6423, 6424, 6425, 6426};
 
 struct Verdachtstexte {
@@ -135,9 +136,9 @@ std::string Verdachtsgrund(const Strahlverdacht& verdacht) {
     const Zeit von = verdacht.werte.*texte.von;
     const double anteil =
         von > Zeit{} ? static_cast<double>(allein.count()) / static_cast<double>(von.count()) : 0;
-    return LadeTextMit(texte.grund, {Anteilworte(anteil), Dauerworte(von),
-                                     std::to_string(verdacht.werte.alleinWechsel),
-                                     std::to_string(verdacht.werte.wechsel)});
+    return LadeTextMit(texte.grund,
+                       {Anteilworte(anteil), Dauerworte(von), std::to_string(verdacht.werte.alleinWechsel),
+                        std::to_string(verdacht.werte.wechsel)});
 }
 
 const Strahlverdacht* VerdachtVon(std::span<const Strahlverdacht> verdaechte, int strahl) {

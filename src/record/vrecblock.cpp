@@ -96,8 +96,8 @@ std::optional<Messangaben> AngabenAus(std::string_view inhalt) {
 
 void Verzeichnisschreiber::Nimm(const Eintrag& eintrag) {
     Byteschreiber aus(bytes);
-    aus.Zahl((eintrag.stelle - letzteStelle) << Artbits |
-             (eintrag.istKonfiguration ? Konfigurationsbit : 0) | (eintrag.hatEreignisse ? Ereignisbit : 0));
+    aus.Zahl((eintrag.stelle - letzteStelle) << Artbits | (eintrag.istKonfiguration ? Konfigurationsbit : 0) |
+             (eintrag.hatEreignisse ? Ereignisbit : 0));
     aus.Zahl(eintrag.laenge);
     letzteStelle = eintrag.stelle;
     ++anzahl;

@@ -19,7 +19,13 @@ inline constexpr std::uint32_t GroessterBlock = 32U << 20U;
 inline constexpr std::size_t LaengeSchluss = LaengeBlockkopf + 16;
 inline constexpr std::size_t GroesstesVerzeichnis = 65'536; // entries
 
-enum class Blockart : std::uint8_t { Angaben = 1, Konfiguration = 2, Paket = 3, Verzeichnis = 4, Schluss = 5 };
+enum class Blockart : std::uint8_t {
+    Angaben = 1,
+    Konfiguration = 2,
+    Paket = 3,
+    Verzeichnis = 4,
+    Schluss = 5
+};
 
 struct Blockkopf {
     Blockart art{}; ///< may be one that is not known

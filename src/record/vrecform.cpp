@@ -51,9 +51,8 @@ std::string Vrecform::Wechsle(std::shared_ptr<const Abbild> neue) {
         return {};
     konfiguration = std::move(neue);
     const std::string inhalt = AlsKonfigurationsdatei(*konfiguration);
-    TrageEin({.istKonfiguration = true,
-              .stelle = groesse,
-              .laenge = static_cast<std::uint32_t>(inhalt.size())});
+    TrageEin(
+        {.istKonfiguration = true, .stelle = groesse, .laenge = static_cast<std::uint32_t>(inhalt.size())});
     return Block(Blockart::Konfiguration, inhalt);
 }
 

@@ -16,9 +16,9 @@ using namespace std::chrono_literals;
 constexpr std::array<std::int64_t, 10> Stufen{10, 12, 15, 20, 25, 30, 40, 50, 60, 80};
 constexpr int StufenJeZehnfach = static_cast<int>(Stufen.size());
 
-constexpr Zeit DieAbstaende[] = {1ms,  2ms,  5ms,   10ms,  20ms, 50ms, 100ms, 200ms, 500ms, 1s,
-                                 2s,   5s,   10s,   15s,   30s,  1min, 2min,  5min,  10min, 15min,
-                                 30min, 1h,  2h,    4h,    6h,   12h,  24h,   48h,   96h,   240h};
+constexpr Zeit DieAbstaende[] = {1ms,   2ms, 5ms, 10ms, 20ms, 50ms, 100ms, 200ms, 500ms, 1s,
+                                 2s,    5s,  10s, 15s,  30s,  1min, 2min,  5min,  10min, 15min,
+                                 30min, 1h,  2h,  4h,   6h,   12h,  24h,   48h,   96h,   240h};
 
 Zeit Stufe(int nummer) {
     std::int64_t breite = Stufen.at(static_cast<std::size_t>(nummer % StufenJeZehnfach));

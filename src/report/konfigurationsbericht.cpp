@@ -79,8 +79,8 @@ public:
           abweichungen(Abweichungen(inhalt)) {}
 
     std::string Dokument() const {
-        const std::string koerper =
-            Kopf() + Steuergeraet() + Optikteile() + Kommunikationsteil() + Strahlteil() + Unterschrift() + Anhang();
+        const std::string koerper = Kopf() + Steuergeraet() + Optikteile() + Kommunikationsteil() +
+                                    Strahlteil() + Unterschrift() + Anhang();
         return "<!DOCTYPE html>\n<html lang=\"" + std::string(sprache == Deutsch ? "de" : "en") +
                "\">\n<head>\n<meta charset=\"utf-8\">\n" + Element("title", Text(TextTitel)) + "\n" +
                Element("style", Stil()) + "\n" + Element("style", Seitenstil()) + "\n</head>\n<body>\n" +

@@ -6,8 +6,8 @@
 
 namespace varnoth {
 
-/// A section of the report about the beams of a part over a time, in words (UTF-8) of the language in use when it
-/// was made.
+/// A section of the report about the beams of a part over a time, in words (UTF-8) of the language in use
+/// when it was made.
 struct Strahlbericht {
     std::string zeitraum{};              ///< which part, from when to when, for how long measured
     std::vector<std::string> verdacht{}; ///< what is suspected and why

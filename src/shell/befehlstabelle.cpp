@@ -91,6 +91,12 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::BlankingVorschlagen, "", StopptUndStartetWieder, Zeigt,
      [](Ziel& z, int) { z.BearbeiteBlankingvorschlag(); }, 0, 0},
     {Befehl::Strahlbericht, "", Ruht, Zeigt, [](Ziel& z, int) { z.ZeigeStrahlbericht(); }, 0, 0},
+    {Befehl::Wiedergabe, "tlbWiedergabe", Ruht, Zeigt, [](Ziel& z, int) { z.OeffneAufzeichnung(); }, 0, 1,
+     "Ctrl+Shift+O", 6500, "wiedergabe", 6501, Leistengruppe::Verlauf},
+    {Befehl::WiedergabeVerlassen, "", LaeuftWeiter, Still, [](Ziel& z, int) { z.VerlasseWiedergabe(); }, 0,
+     0},
+    {Befehl::UebergebeneAufzeichnung, "", Ruht, Zeigt,
+     [](Ziel& z, int) { z.OeffneUebergebeneAufzeichnung(); }, 0, 0},
 };
 
 } // namespace

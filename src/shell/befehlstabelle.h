@@ -66,6 +66,12 @@ public:
     virtual void BearbeiteBlankingvorschlag() = 0;
     /// Shows the report with the section about beams that the beam history has handed over.
     virtual void ZeigeStrahlbericht() = 0;
+    /// Asks for a record and replays it.
+    virtual void OeffneAufzeichnung() = 0;
+    /// Replays the record that came from outside first.
+    virtual void OeffneUebergebeneAufzeichnung() = 0;
+    /// Leaves the replay; what was shown before is shown again.
+    virtual void VerlasseWiedergabe() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,

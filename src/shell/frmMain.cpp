@@ -13,14 +13,15 @@
 #include "schnittstelle.h"
 #include "seitenjetzt.h"
 #include "sicherungsablauf.h"
-#include "strahlablauf.h"
 #include "standardkonfiguration.h"
+#include "strahlablauf.h"
 #include "trace.h"
 #include "ui_frmMain.h"
 #include "verbindungsablauf.h"
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -98,6 +99,7 @@ frmMain::frmMain(const QString& programmordner)
         std::make_unique<Strahlablauf>(*messung, *ablauf, [this](Befehl befehl) { befehle.Klick(befehl); });
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
+    wiedergabe = MacheWiedergabeablauf(teile);
 }
 
 frmMain::~frmMain() = default;
@@ -180,6 +182,7 @@ void frmMain::Entlade() {
         return;
     entladen = true;
     modPolling::StoppePolling();
+    BeendeWiedergabe();
     BewahreFensterplatz(*this, Fensterabschnitt);
     ansichten->SpeicherePlaetze();
     leiste->SpeicherePlatz();

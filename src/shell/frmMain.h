@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ansichten.h"
+#include "aufzeichnungsleser.h"
 #include "befehlstabelle.h"
 #include "geraetebetrieb.h"
 #include "hauptmenue.h"
@@ -34,6 +35,7 @@ class Strahlablauf;
 class frmDocument;
 class Erscheinungsbild;
 class Werkzeugleiste;
+class Wiedergabeablauf;
 class Willkommensseite;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
@@ -96,6 +98,8 @@ public:
     void SetzeLeihport(std::function<void(const std::function<void()>& tat)> neuer) {
         leihport = std::move(neuer);
     }
+    /// Sets what opens records to replay.
+    void SetzeAufzeichnungsleser(Aufzeichnungsleser neuer) { aufzeichnungsleser = std::move(neuer); }
     /// Says that the line leads to the built-in controller for the whole run.
     void SetzeImmerSimuliert(bool ist) { immerSimuliert = ist; }
     /// Says in the status bar whether the line leads to the built-in controller.
@@ -122,6 +126,8 @@ private:
     void LiesEinstellungen();
     void ZeigePort();
     std::unique_ptr<Verbindungsablauf> MacheVerbindungsablauf();
+    std::unique_ptr<Wiedergabeablauf> MacheWiedergabeablauf(const Hauptteile& teile);
+    void BeendeWiedergabe();
     bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
     void BaueAnsichtenAuf();
     void ZeigeWillkommen();
@@ -129,6 +135,7 @@ private:
     void StelleInArbeitsflaeche(QSize groesse);
     bool IstErsterStart() const;
     void StelleUebergebeneAn();
+    void LadeVonAussen(const std::string& pfad);
     void Entlade();
 
     bool LiveDatenLaufen() const override { return betrieb->LiveDatenLaufen(); }
@@ -142,9 +149,10 @@ private:
     /// Not behind a configuration that was imported meanwhile: the controller's values are not measured with
     /// it.
     void SetzeLiveDatenFort() override {
-        if (std::exchange(liveDatenPassen, true))
+        if (std::exchange(liveDatenPassen, true) && !RuhtFuerWiedergabe())
             betrieb->SetzeLiveDatenFort();
     }
+    bool RuhtFuerWiedergabe();
     void ZeigeAnsicht(int optikteil) override;
     void Beende() override { SubBeenden(); }
     void BearbeiteEinzelwerte() override;
@@ -182,6 +190,9 @@ private:
     void ZeigeStrahlverlauf() override;
     void BearbeiteBlankingvorschlag() override;
     void ZeigeStrahlbericht() override;
+    void OeffneAufzeichnung() override;
+    void OeffneUebergebeneAufzeichnung() override;
+    void VerlasseWiedergabe() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -206,7 +217,10 @@ private:
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;
-    bool liveDatenPassen = true; ///< to the configuration, when a command that paused them has ended
+    std::unique_ptr<Wiedergabeablauf> wiedergabe;
+    Aufzeichnungsleser aufzeichnungsleser = LiesAufzeichnung;
+    bool liveNachWiedergabe = false; ///< live data ran when the replay began
+    bool liveDatenPassen = true;     ///< to the configuration, when a command that paused them has ended
     bool entladen = false;
 };
 

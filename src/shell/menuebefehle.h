@@ -45,6 +45,9 @@ enum class Befehl {
     Strahlverlauf = 180,
     BlankingVorschlagen = 181,
     Strahlbericht = 182,
+    Wiedergabe = 190,
+    WiedergabeVerlassen = 191,
+    UebergebeneAufzeichnung = 192,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

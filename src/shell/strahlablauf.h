@@ -23,8 +23,8 @@ public:
     void Zeige();
     /// Opens the editor with the pattern that was suggested last, once for each suggestion.
     void BearbeiteVorschlag();
-    /// Shows the report. The user can add the section that was handed over last; it is there at first when asked
-    /// for. Whether another configuration was imported there.
+    /// Shows the report. The user can add the section that was handed over last; it is there at first when
+    /// asked for. Whether another configuration was imported there.
     [[nodiscard]] bool Berichte(bool mitStrahlen);
     /// The language has changed: a section that speaks the other one is gone.
     void Lokalisiere();

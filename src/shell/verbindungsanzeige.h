@@ -31,6 +31,8 @@ public:
 
     /// The connection flow begins or ends.
     void SetzeVerbindet(bool ob);
+    /// A record is shown instead of a connection; nothing: no longer.
+    void SetzeWiedergabe(std::optional<Verbindungsgegenstand> woraus);
     /// Looks now.
     void Aktualisiere();
 
@@ -47,7 +49,7 @@ private:
 
     QPushButton* MacheKnopf(const QString& name, const std::function<void()>& tat);
     void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
-    void MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const;
+    void MerkeZustand(const Inhalt& inhalt) const;
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;
@@ -57,6 +59,7 @@ private:
     QTimer takt;
     Verbindungsregel regel;
     std::optional<Inhalt> gezeigt;
+    std::optional<Verbindungsgegenstand> wiedergabe;
     bool verbindet = false;
 };
 

@@ -15,7 +15,8 @@ using Vorhang = std::function<bool(int durchgang, int strahl)>;
 
 inline constexpr Zeit Takt = std::chrono::milliseconds(50);
 
-inline Messdurchgang Durchgang(Zeit uhr, int teil, int strahlen, const std::function<bool(int)>& unterbrochen) {
+inline Messdurchgang Durchgang(Zeit uhr, int teil, int strahlen,
+                               const std::function<bool(int)>& unterbrochen) {
     Messdurchgang durchgang{.uhr = uhr, .anzahlTeile = 4};
     Teilmessung& messung = durchgang.teile.at(static_cast<std::size_t>(teil));
     messung.vorhanden = messung.gemessen = true;
@@ -31,7 +32,8 @@ inline void Blanke(Abbild& abbild, int teil, const std::set<int>& strahlen) {
     for (const int strahl : strahlen)
         FuegeHinzu(menge, strahl);
     const Werte muster(menge.begin(), menge.begin() + spezifisch::Blankingregister);
-    if (!abbild.SetzeParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Blankingmuster, muster, teil))
+    if (!abbild.SetzeParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Blankingmuster, muster,
+                               teil))
         throw std::logic_error("no blanking pattern");
 }
 

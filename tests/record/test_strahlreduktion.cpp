@@ -78,7 +78,8 @@ void FuelleZufaellig(pruefung::PruefMessquelle& quelle, unsigned saat, int strah
     Zeit uhr{};
     for (int sekunde = 0; sekunde < 40; ++sekunde) {
         Messpaket paket = Paket(sekunde * 1s, sekunde * 1s + 999999us);
-        for (uhr = std::max(uhr, paket.spanne.von); uhr < paket.spanne.bis; uhr += 7ms + zufall() % 90 * 1ms) {
+        for (uhr = std::max(uhr, paket.spanne.von); uhr < paket.spanne.bis;
+             uhr += 7ms + zufall() % 90 * 1ms) {
             if (eins(60)) {
                 paket.ereignisse.push_back({.art = Messereignisart::Verloren, .laufzeit = uhr});
                 uhr += eins(3) ? 9s : 1s;
@@ -153,15 +154,16 @@ TEST_F(StrahlreduktionTest, Until_its_packets_are_read_a_column_shows_the_overvi
 }
 
 TEST_F(StrahlreduktionTest, Wide_columns_need_no_packets_and_lose_no_interrupted_beam) {
-    Fuelle(quelle, 40 * 60 * 20, 512, [](int durchgang, int strahl) { return durchgang == 12345 && strahl == 77; });
+    Fuelle(quelle, 40 * 60 * 20, 512,
+           [](int durchgang, int strahl) { return durchgang == 12345 && strahl == 77; });
     reduktion.Setze(0, 10s);
     EXPECT_TRUE(reduktion.Rechne(quelle, 0, 240, 0));
     EXPECT_EQ(quelle.gelesen, 0);
     const Zeit wann = 12345 * Takt;
     for (std::int64_t k = 0; k < 240; ++k)
         for (int strahl = 0; strahl < 512; ++strahl)
-            ASSERT_EQ(Strahlzelle(Spalte(k), strahl), strahl == 77 && k == wann / 10s ? Zellenart::Zeitweise
-                                                                                      : Zellenart::Frei)
+            ASSERT_EQ(Strahlzelle(Spalte(k), strahl),
+                      strahl == 77 && k == wann / 10s ? Zellenart::Zeitweise : Zellenart::Frei)
                 << k << ' ' << strahl;
 }
 
@@ -199,7 +201,8 @@ TEST_F(StrahlreduktionTest, What_lies_outside_of_the_source_is_empty_and_a_lost_
 
 TEST_F(StrahlreduktionTest, A_gap_is_one_in_wide_columns_too) {
     Fuelle(quelle, 20, 8, [](int, int) { return false; });
-    Fuelle(quelle, 20, 8, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        quelle, 20, 8, [](int, int) { return false; }, 0, 60s);
     reduktion.Setze(0, 2s);
     ASSERT_TRUE(reduktion.Rechne(quelle, 0, 35, 0));
     EXPECT_EQ(Spalte(0).art, Spaltenart::Gemessen);
@@ -209,7 +212,8 @@ TEST_F(StrahlreduktionTest, A_gap_is_one_in_wide_columns_too) {
 }
 
 TEST_F(StrahlreduktionTest, A_part_that_the_passes_leave_out_is_not_measured) {
-    Fuelle(quelle, 100, 8, [](int, int) { return true; }, 2);
+    Fuelle(
+        quelle, 100, 8, [](int, int) { return true; }, 2);
     for (const Zeit breite : {Zeit(50ms), Zeit(2s)}) {
         reduktion.Setze(1, breite);
         ASSERT_TRUE(reduktion.Rechne(quelle, 0, 2, Viele));
@@ -233,7 +237,8 @@ TEST_F(StrahlreduktionTest, Sliding_calculates_only_what_is_new) {
     reduktion.Setze(0, 2s);
     ASSERT_TRUE(reduktion.Rechne(quelle, 0, 40, 0));
     const auto vorher = reduktion.Gerechnete();
-    Fuelle(quelle, 100, 8, [](int, int strahl) { return strahl == 2; }, 0, 100s);
+    Fuelle(
+        quelle, 100, 8, [](int, int strahl) { return strahl == 2; }, 0, 100s);
     ASSERT_TRUE(reduktion.Rechne(quelle, 8, 40, 0));
     EXPECT_LE(reduktion.Gerechnete() - vorher, 9);
     EXPECT_EQ(Strahlzelle(Spalte(20), 1), Zellenart::Unterbrochen);
@@ -244,7 +249,8 @@ TEST_F(StrahlreduktionTest, A_column_that_still_grows_is_calculated_again) {
     reduktion.Setze(0, 2s);
     ASSERT_TRUE(reduktion.Rechne(quelle, 0, 2, 0));
     EXPECT_EQ(Strahlzelle(Spalte(0), 4), Zellenart::Frei);
-    Fuelle(quelle, 10, 8, [](int, int strahl) { return strahl == 4; }, 0, 1250ms);
+    Fuelle(
+        quelle, 10, 8, [](int, int strahl) { return strahl == 4; }, 0, 1250ms);
     ASSERT_TRUE(reduktion.Rechne(quelle, 0, 2, 0));
     EXPECT_EQ(Strahlzelle(Spalte(0), 4), Zellenart::Zeitweise);
 }

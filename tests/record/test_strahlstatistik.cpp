@@ -16,8 +16,8 @@ using testing::Each;
 
 namespace {
 
-std::vector<Strahlwerte> Gezaehlt(const pruefung::PruefMessquelle& quelle, Zeitspanne zeitraum, int jeSchritt = 1000,
-                                  int teil = 0) {
+std::vector<Strahlwerte> Gezaehlt(const pruefung::PruefMessquelle& quelle, Zeitspanne zeitraum,
+                                  int jeSchritt = 1000, int teil = 0) {
     Strahlauswertung auswertung(teil, zeitraum);
     while (auswertung.Weiter(quelle, jeSchritt))
         ;
@@ -97,8 +97,10 @@ TEST_F(StrahlstatistikTest, Goes_on_where_the_source_has_grown_and_counts_nothin
 
 TEST_F(StrahlstatistikTest, Time_without_measurements_counts_nowhere_and_no_change_is_seen_across_it) {
     Fuelle(quelle, 21, 8, [](int, int) { return true; });
-    quelle.pakete.back().ereignisse.push_back({.art = Messereignisart::Verloren, .laufzeit = 20 * Takt + 10ms});
-    Fuelle(quelle, 21, 8, [](int, int) { return false; }, 0, 3s);
+    quelle.pakete.back().ereignisse.push_back(
+        {.art = Messereignisart::Verloren, .laufzeit = 20 * Takt + 10ms});
+    Fuelle(
+        quelle, 21, 8, [](int, int) { return false; }, 0, 3s);
     const auto werte = Gezaehlt(quelle, quelle.Spanne());
     EXPECT_EQ(werte[0].gemessen, 40 * Takt + 10ms);
     EXPECT_EQ(werte[0].unterbrochen, 20 * Takt + 10ms);
@@ -108,7 +110,8 @@ TEST_F(StrahlstatistikTest, Time_without_measurements_counts_nowhere_and_no_chan
 
 TEST_F(StrahlstatistikTest, A_pass_after_which_nothing_comes_holds_for_a_while_only) {
     Fuelle(quelle, 1, 8, [](int, int) { return true; });
-    Fuelle(quelle, 1, 8, [](int, int) { return true; }, 0, 60s);
+    Fuelle(
+        quelle, 1, 8, [](int, int) { return true; }, 0, 60s);
     EXPECT_EQ(Gezaehlt(quelle, quelle.Spanne())[0].gemessen, MessungGiltHoechstens);
 }
 
@@ -129,7 +132,8 @@ TEST_F(StrahlstatistikTest, Blanked_time_is_neither_free_nor_interrupted) {
 }
 
 TEST_F(StrahlstatistikTest, Only_the_chosen_time_and_part_count) {
-    Fuelle(quelle, 200, 8, [](int durchgang, int) { return durchgang < 100; }, 2);
+    Fuelle(
+        quelle, 200, 8, [](int durchgang, int) { return durchgang < 100; }, 2);
     const auto werte = Gezaehlt(quelle, {40 * Takt, 60 * Takt}, 1000, 2);
     EXPECT_EQ(werte[0].gemessen, 20 * Takt);
     EXPECT_TRUE(werte[0].WarImmerUnterbrochen());

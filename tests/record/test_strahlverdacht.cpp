@@ -72,7 +72,9 @@ TEST(Strahlverdacht, A_web_that_moves_through_is_no_fault_of_any_beam) {
 }
 
 TEST(Strahlverdacht, An_edge_that_wanders_makes_no_beam_suspicious) {
-    const auto kante = [](int durchgang) { return 100 + static_cast<int>(std::lround(2 * std::sin(durchgang))); };
+    const auto kante = [](int durchgang) {
+        return 100 + static_cast<int>(std::lround(2 * std::sin(durchgang)));
+    };
     EXPECT_THAT(Verdaechte([&](int durchgang, int strahl) { return strahl < kante(durchgang); }), IsEmpty());
     EXPECT_THAT(Verdaechte([&](int durchgang, int strahl) {
                     return strahl < kante(durchgang) - 60 && strahl > kante(durchgang) - 90;
@@ -101,8 +103,9 @@ TEST(Strahlverdacht, A_dirty_beam_is_found_in_a_free_curtain) {
 }
 
 TEST(Strahlverdacht, A_dirty_beam_is_found_behind_a_web_that_moves_through) {
-    EXPECT_THAT(Verdaechte([](int durchgang, int strahl) { return strahl == 112 || Bahn(durchgang, strahl); }),
-                ElementsAre(Ist(Verdachtsart::NieFrei, 112, 112)));
+    EXPECT_THAT(
+        Verdaechte([](int durchgang, int strahl) { return strahl == 112 || Bahn(durchgang, strahl); }),
+        ElementsAre(Ist(Verdachtsart::NieFrei, 112, 112)));
 }
 
 TEST(Strahlverdacht, A_misaligned_pair_is_one_suspicion) {
@@ -150,17 +153,16 @@ TEST(Strahlverdacht, A_beam_that_is_interrupted_alone_for_long_times_is_found) {
 
 TEST(Strahlverdacht, Of_a_blanked_region_nothing_is_said_whatever_its_beams_do) {
     const std::set<int> geblankte{40, 41, 42, 43, 44};
-    EXPECT_THAT(Verdaechte(
-                    [](int durchgang, int strahl) {
-                        return strahl == 41 || (strahl == 43 && durchgang % 2 == 0);
-                    },
-                    geblankte),
+    EXPECT_THAT(Verdaechte([](int durchgang,
+                              int strahl) { return strahl == 41 || (strahl == 43 && durchgang % 2 == 0); },
+                           geblankte),
                 IsEmpty());
 }
 
 TEST(Strahlverdacht, A_dirty_beam_beside_a_blanked_region_is_found) {
-    EXPECT_THAT(Verdaechte([](int, int strahl) { return strahl >= 40 && strahl <= 45; }, {40, 41, 42, 43, 44}),
-                ElementsAre(Ist(Verdachtsart::NieFrei, 45, 45)));
+    EXPECT_THAT(
+        Verdaechte([](int, int strahl) { return strahl >= 40 && strahl <= 45; }, {40, 41, 42, 43, 44}),
+        ElementsAre(Ist(Verdachtsart::NieFrei, 45, 45)));
 }
 
 TEST(Strahlverdacht, A_few_seconds_are_not_enough_for_a_suspicion) {

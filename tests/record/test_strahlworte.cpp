@@ -17,7 +17,8 @@ namespace {
 
 Messangaben Angaben() {
     // 2026-11-22 23:59:58 in UTC, an hour ahead of it
-    return {.beginn = std::chrono::sys_days{std::chrono::year(2026) / 11 / 22} + 23h + 59min + 58s, .zoneMinuten = 60};
+    return {.beginn = std::chrono::sys_days{std::chrono::year(2026) / 11 / 22} + 23h + 59min + 58s,
+            .zoneMinuten = 60};
 }
 
 } // namespace
@@ -64,7 +65,8 @@ TEST(Strahlworte, Each_kind_of_cell_has_words_of_its_own) {
 
 TEST(Strahlworte, Columns_tell_of_a_beam_what_there_is_and_nothing_else) {
     using enum Strahlspaltenart;
-    Strahlwerte werte{.gemessen = 100s, .unterbrochen = 25s, .wechsel = 7, .laengste = 12s, .letzterWechsel = 2s};
+    Strahlwerte werte{
+        .gemessen = 100s, .unterbrochen = 25s, .wechsel = 7, .laengste = 12s, .letzterWechsel = 2s};
     const std::vector<Strahlverdacht> verdaechte{{.art = Verdachtsart::NieFrei, .von = 4, .bis = 6}};
     const auto worte = [&](Strahlspaltenart spalte, int strahl = 5) {
         return Spaltenworte(spalte, werte, strahl, 10, Angaben(), verdaechte);
@@ -88,14 +90,17 @@ TEST(Strahltabelle, Has_a_line_a_beam_as_spreadsheets_of_the_language_read_it) {
     std::vector<Strahlwerte> strahlen(2);
     strahlen[0] = {.gemessen = 80s, .unterbrochen = 10s, .wechsel = 2, .laengste = 10s, .letzterWechsel = 2s};
     const Strahlbezug bezug{.abstandMm = 10, .angaben = Angaben()};
-    EXPECT_EQ(Strahltabelle(strahlen, {}, bezug),
-              "\xEF\xBB\xBF\"Strahl\";\"Position mm\";\"Unterbrochen %\";\"Wechsel\";\"Längste Unterbrechung s\";"
-              "\"Letzter Wechsel\";\"Verdacht\"\r\n"
-              "1;0;12,500;2;10,000;\"23.11.2026 01:00:00,000\";\r\n2;10;;;;;\r\n");
+    EXPECT_EQ(
+        Strahltabelle(strahlen, {}, bezug),
+        "\xEF\xBB\xBF\"Strahl\";\"Position mm\";\"Unterbrochen %\";\"Wechsel\";\"Längste Unterbrechung s\";"
+        "\"Letzter Wechsel\";\"Verdacht\"\r\n"
+        "1;0;12,500;2;10,000;\"23.11.2026 01:00:00,000\";\r\n2;10;;;;;\r\n");
     SetzeSprachoffset(Englisch);
-    EXPECT_THAT(Strahltabelle(strahlen, {}, bezug), HasSubstr("\r\n1,0,12.500,2,10.000,\"2026-11-23 01:00:00.000\",\r\n"));
+    EXPECT_THAT(Strahltabelle(strahlen, {}, bezug),
+                HasSubstr("\r\n1,0,12.500,2,10.000,\"2026-11-23 01:00:00.000\",\r\n"));
     const std::vector<Strahlverdacht> verdaechte{{.art = Verdachtsart::NieFrei, .von = 1, .bis = 1}};
-    EXPECT_THAT(Strahltabelle(strahlen, verdaechte, bezug), HasSubstr("\r\n2,10,,,,,\"beam 2: dirty or misaligned?\""));
+    EXPECT_THAT(Strahltabelle(strahlen, verdaechte, bezug),
+                HasSubstr("\r\n2,10,,,,,\"beam 2: dirty or misaligned?\""));
 }
 
 } // namespace varnoth

@@ -34,7 +34,8 @@ TEST(Zeitfenster, Widths_come_in_steps_that_lead_back_to_where_they_came_from) {
 }
 
 TEST(Zeitfenster, A_window_around_a_time_shows_all_of_it_and_little_else) {
-    for (const Zeitspanne spanne : {Zeitspanne{0s, 8h}, Zeitspanne{7s, 27s}, Zeitspanne{5s, 5s}, Zeitspanne{999ms, 60s}})
+    for (const Zeitspanne spanne :
+         {Zeitspanne{0s, 8h}, Zeitspanne{7s, 27s}, Zeitspanne{5s, 5s}, Zeitspanne{999ms, 60s}})
         for (const int spalten : {1, 300, 1500}) {
             const Zeitfenster fenster = FensterUm(spanne, spalten);
             EXPECT_LE(fenster.Von(), spanne.von);
@@ -76,7 +77,8 @@ TEST(Zeitfenster, Following_a_time_it_is_in_the_last_column) {
 }
 
 TEST(Zeitfenster, Ticks_stand_on_round_local_times) {
-    const Messangaben angaben{.beginn = std::chrono::sys_days{std::chrono::year(2026) / 11 / 22} + 5h + 29min + 53s,
+    const Messangaben angaben{.beginn =
+                                  std::chrono::sys_days{std::chrono::year(2026) / 11 / 22} + 5h + 29min + 53s,
                               .zoneMinuten = 60};
     const Zeitfenster fenster{.breite = 100ms, .erste = 0, .spalten = 200};
     EXPECT_EQ(Strichabstand(fenster, 60), 10s);

@@ -294,7 +294,8 @@ TEST(Konfigurationsbericht, Has_a_section_about_beams_only_when_there_is_one) {
     EXPECT_THAT(bericht, HasSubstr("Der Rest war frei."));
     EXPECT_THAT(bericht, ContainsRegex("<td[^>]*>13</td><td[^>]*>7</td>"));
     EXPECT_LT(bericht.find("Strahlstatistik"), bericht.find("Unterschrift"));
-    EXPECT_THAT(Bericht(abbildproben::Vierteilig(), angaben, Englisch), HasSubstr("<h2>Beam statistics</h2>"));
+    EXPECT_THAT(Bericht(abbildproben::Vierteilig(), angaben, Englisch),
+                HasSubstr("<h2>Beam statistics</h2>"));
 }
 
 TEST(Konfigurationsbericht, A_section_about_beams_says_that_nothing_is_suspicious) {

@@ -54,6 +54,9 @@ struct PruefWirkung : Befehlswirkung {
     void ZeigeStrahlverlauf() override { getan = "beam history"; }
     void BearbeiteBlankingvorschlag() override { getan = "suggested blanking"; }
     void ZeigeStrahlbericht() override { getan = "report with beams"; }
+    void OeffneAufzeichnung() override { getan = "replay"; }
+    void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
+    void VerlasseWiedergabe() override { getan = "leave replay"; }
 
     std::string getan;
 };

@@ -387,7 +387,7 @@ TEST_F(FrmBlankingmusterTest, A_suggestion_is_shown_as_a_change_and_stored_only_
     EXPECT_EQ(dialog.windowTitle(), "Blankingmuster – Vorschlag aus dem Strahlverlauf");
     EXPECT_EQ(Muster(), Beginn(0x0100, 0));
     EXPECT_FALSE(modDaten::IstGeaendert());
-    Kind<QPushButton>(dialog, "cmdOK").click();
+    Klicke(dialog, "cmdOK");
     EXPECT_EQ(Muster(), Beginn(0x0300, 0));
 }
 

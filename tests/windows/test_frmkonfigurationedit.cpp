@@ -1069,7 +1069,9 @@ TEST_F(KonfigurationEditTest, A_suggestion_for_a_part_that_is_not_there_opens_no
     ASSERT_TRUE(pruefung::WarteBis(
         [&] { return AnzahlAnforderungen() == ZweiVersuche || Bereit(*dialog, "cmdDownLoad"); }));
     QCoreApplication::processEvents();
-    EXPECT_EQ(QApplication::activeModalWidget() == nullptr || QApplication::activeModalWidget() == dialog.get(), true);
+    EXPECT_EQ(QApplication::activeModalWidget() == nullptr ||
+                  QApplication::activeModalWidget() == dialog.get(),
+              true);
     EXPECT_EQ(modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, 2),
               Werte(spezifisch::Blankingregister, 0));
 }

@@ -48,9 +48,8 @@ protected:
         anbieter.quelle.angaben.beginn = std::chrono::sys_days{std::chrono::year(2026) / 11 / 22} + 5h;
         EXPECT_TRUE(anbieter.quelle.konfiguration.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten,
                                                                 spezifisch::Strahlenzahl, 64));
-        Fuelle(anbieter.quelle, 1200, 64, [](int durchgang, int strahl) {
-            return strahl == 12 || (strahl == 19 && durchgang >= 600);
-        });
+        Fuelle(anbieter.quelle, 1200, 64,
+               [](int durchgang, int strahl) { return strahl == 12 || (strahl == 19 && durchgang >= 600); });
     }
     frmWasserfall& Fenster() {
         if (!fenster) {
@@ -121,14 +120,16 @@ TEST_F(FrmWasserfallTest, Says_that_nothing_is_suspicious_only_when_enough_was_m
     Fuelle(anbieter.quelle, 40, 8, [](int, int) { return false; });
     ASSERT_TRUE(BisGezaehlt());
     EXPECT_THAT(Verdacht(), ElementsAre("Für ein Urteil ist zu wenig gemessen."));
-    Fuelle(anbieter.quelle, 400, 8, [](int, int) { return false; }, 0, 2s);
+    Fuelle(
+        anbieter.quelle, 400, 8, [](int, int) { return false; }, 0, 2s);
     EXPECT_TRUE(Bis([&] { return Verdacht()[0].find("Nichts Verdächtiges in ") == 0; }));
 }
 
 TEST_F(FrmWasserfallTest, Goes_on_counting_while_live_data_comes) {
     ASSERT_TRUE(BisGezaehlt());
     const auto vorher = Fenster().Bezug().gemessen;
-    Fuelle(anbieter.quelle, 200, 64, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        anbieter.quelle, 200, 64, [](int, int) { return false; }, 0, 60s);
     EXPECT_TRUE(Bis([&] { return Fenster().Bezug().gemessen > vorher + 9s; }));
     EXPECT_TRUE(Bis([&] { return Zelle(12, 3) == "1"; }));
 }
@@ -159,7 +160,8 @@ TEST_F(FrmWasserfallTest, The_table_is_sorted_by_value_and_shows_suspicious_beam
 }
 
 TEST_F(FrmWasserfallTest, Another_part_is_shown_and_counted) {
-    Fuelle(anbieter.quelle, 1200, 16, [](int, int strahl) { return strahl == 3; }, 2, 60s);
+    Fuelle(
+        anbieter.quelle, 1200, 16, [](int, int strahl) { return strahl == 3; }, 2, 60s);
     ASSERT_TRUE(BisGezaehlt());
     Kind<QComboBox>("cboTeil").setCurrentIndex(2);
     EXPECT_EQ(Bild().Teil(), 2);
@@ -195,6 +197,8 @@ TEST_F(FrmWasserfallTest, A_replay_says_so_in_the_title_and_suggests_nothing_for
     ASSERT_TRUE(BisGezaehlt());
     EXPECT_THAT(Fenster().windowTitle().toStdString(), HasSubstr("Wiedergabe"));
     EXPECT_FALSE(Kind<QPushButton>("cmdBlanking").isEnabled());
+    EXPECT_FALSE(Kind<QPushButton>("cmdBericht").isEnabled());
+    EXPECT_TRUE(Kind<QPushButton>("cmdTabelle").isEnabled());
     anbieter.wiedergabe = false;
     anbieter.quellenzahl = 2;
     EXPECT_TRUE(Bis([&] { return Fenster().windowTitle() == "Strahlverlauf"; }));
@@ -273,7 +277,8 @@ TEST_F(FrmWasserfallTest, Counting_much_shows_how_far_it_is_and_can_be_stopped) 
         umgebung.uhr += 100ms; // each piece takes long
         return Zeilen() == 64;
     }));
-    Fuelle(anbieter.quelle, 20000, 64, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        anbieter.quelle, 20000, 64, [](int, int) { return false; }, 0, 60s);
     anbieter.quellenzahl = 2;
     struct Langsame : pruefung::PruefUmgebung {
         Zeit Uhr() override { return uhr += 5ms; }

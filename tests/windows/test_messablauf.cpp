@@ -8,6 +8,7 @@
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

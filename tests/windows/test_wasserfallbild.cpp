@@ -57,7 +57,8 @@ protected:
         QWheelEvent rad(wo, bild.mapToGlobal(wo), {}, {0, 120 * rasten}, {}, mit, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&bild, &rad);
     }
-    void Ziehe(QPoint von, QPoint bis, Qt::KeyboardModifiers mit = {}, Qt::MouseButton knopf = Qt::LeftButton) {
+    void Ziehe(QPoint von, QPoint bis, Qt::KeyboardModifiers mit = {},
+               Qt::MouseButton knopf = Qt::LeftButton) {
         QTest::mousePress(&bild, knopf, mit, von);
         QMouseEvent weiter(QEvent::MouseMove, bis, bild.mapToGlobal(bis), Qt::NoButton, knopf, mit);
         QCoreApplication::sendEvent(&bild, &weiter);
@@ -94,7 +95,8 @@ TEST_F(WasserfallbildTest, Follows_live_data_at_first_and_slides_with_it) {
     EXPECT_EQ(bild.DerBlick(), Wasserfallbild::Blick::Folgt);
     const Zeit vorher = bild.Fenster().Bis();
     EXPECT_GT(vorher, anbieter.quelle.Spanne().bis);
-    Fuelle(anbieter.quelle, 200, 40, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        anbieter.quelle, 200, 40, [](int, int) { return false; }, 0, 60s);
     bild.NimmZuwachs();
     EXPECT_GT(bild.Fenster().Bis(), anbieter.quelle.Spanne().bis);
     EXPECT_LE(bild.Fenster().Bis() - anbieter.quelle.Spanne().bis, bild.Fenster().breite);
@@ -108,7 +110,8 @@ TEST_F(WasserfallbildTest, Moved_elsewhere_it_stands_still_while_data_comes) {
     EXPECT_EQ(bild.DerBlick(), Wasserfallbild::Blick::Fest);
     EXPECT_EQ(gewechselt.count(), 1);
     const Zeitfenster vorher = bild.Fenster();
-    Fuelle(anbieter.quelle, 200, 40, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        anbieter.quelle, 200, 40, [](int, int) { return false; }, 0, 60s);
     bild.NimmZuwachs();
     EXPECT_EQ(bild.Fenster(), vorher);
 }
@@ -126,7 +129,8 @@ TEST_F(WasserfallbildTest, A_record_is_shown_from_its_beginning_to_its_end) {
 TEST_F(WasserfallbildTest, Everything_stays_in_view_while_more_comes) {
     Oeffne();
     bild.ZeigeAlles();
-    Fuelle(anbieter.quelle, 2400, 40, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        anbieter.quelle, 2400, 40, [](int, int) { return false; }, 0, 60s);
     bild.NimmZuwachs();
     EXPECT_LE(bild.Fenster().Von(), 0s);
     EXPECT_GT(bild.Fenster().Bis(), anbieter.quelle.Spanne().bis);
@@ -224,8 +228,8 @@ TEST_F(WasserfallbildTest, Tells_beam_place_time_and_state_under_the_pointer) {
     Oeffne();
     bild.ZeigeAlles();
     QTest::mouseMove(&bild, Punkt(45s, 7));
-    QMouseEvent bewegung(QEvent::MouseMove, Punkt(45s, 7), bild.mapToGlobal(Punkt(45s, 7)), Qt::NoButton, Qt::NoButton,
-                         {});
+    QMouseEvent bewegung(QEvent::MouseMove, Punkt(45s, 7), bild.mapToGlobal(Punkt(45s, 7)), Qt::NoButton,
+                         Qt::NoButton, {});
     QCoreApplication::sendEvent(&bild, &bewegung);
     QSignalSpy erzaehlt(&bild, &Wasserfallbild::StelleGeaendert);
     EXPECT_TRUE(Bis([&] { return erzaehlt.count() == 1; })) << "it is drawn, so that its state is known";
@@ -276,7 +280,8 @@ TEST_F(WasserfallbildTest, With_shift_the_keyboard_chooses_a_time_and_enter_goes
 }
 
 TEST_F(WasserfallbildTest, A_picture_reads_few_packets_and_the_next_ones_read_the_rest) {
-    Fuelle(anbieter.quelle, 6000, 40, [](int, int) { return false; }, 0, 60s);
+    Fuelle(
+        anbieter.quelle, 6000, 40, [](int, int) { return false; }, 0, 60s);
     bild.resize(700, 400);
     bild.SetzeAnbieter(anbieter);
     Zeitfenster fenster = FensterUm({0s, 300s}, 640);
@@ -286,6 +291,28 @@ TEST_F(WasserfallbildTest, A_picture_reads_few_packets_and_the_next_ones_read_th
     EXPECT_LE(anbieter.quelle.gelesen, 30);
     bild.show();
     EXPECT_TRUE(Bis([&] { return !bild.IstUnvollstaendig(); }));
+}
+
+TEST_F(WasserfallbildTest, Sliding_to_either_side_draws_what_drawing_anew_draws) {
+    Oeffne();
+    bild.ZeigeAlles();
+    for (int i = 0; i < 4; ++i)
+        Rolle(Punkt(30s, 7), 1);
+    bild.grab();
+    for (const int um : {7, -3, -200, 5000, -5000}) {
+        Zeitfenster fenster = bild.Fenster();
+        fenster.erste += um;
+        bild.SetzeFenster(fenster);
+        ASSERT_TRUE(Bis([&] { return !bild.IstUnvollstaendig(); }));
+        Wasserfallbild neues;
+        neues.resize(bild.size());
+        neues.SetzeAnbieter(anbieter);
+        neues.SetzeFenster(fenster);
+        do
+            neues.grab();
+        while (neues.IstUnvollstaendig());
+        EXPECT_EQ(bild.AlsBild(), neues.AlsBild()) << um;
+    }
 }
 
 TEST_F(WasserfallbildTest, Says_so_when_there_is_nothing_to_show) {

@@ -11,8 +11,8 @@ namespace varnoth {
 
 namespace {
 
-constexpr Zellenart DieArten[] = {Zellenart::Leer,     Zellenart::Luecke,    Zellenart::NichtGemessen,
-                                  Zellenart::Frei,     Zellenart::Geblankt,  Zellenart::Zeitweise,
+constexpr Zellenart DieArten[] = {Zellenart::Leer,        Zellenart::Luecke,   Zellenart::NichtGemessen,
+                                  Zellenart::Frei,        Zellenart::Geblankt, Zellenart::Zeitweise,
                                   Zellenart::Unterbrochen};
 
 std::vector<Strahlfarben> AlleFarben() {
@@ -69,7 +69,8 @@ TEST(Zellenmuster, A_pattern_is_as_coarse_as_the_screen_is_dense) {
     ASSERT_EQ(doppelt.Seite(), 2 * einfach.Seite());
     for (int y = 0; y < doppelt.Seite(); ++y)
         for (int x = 0; x < doppelt.Seite(); ++x)
-            ASSERT_EQ(doppelt.Zeile(Zellenart::Zeitweise, y)[x], einfach.Zeile(Zellenart::Zeitweise, y / 2)[x / 2]);
+            ASSERT_EQ(doppelt.Zeile(Zellenart::Zeitweise, y)[x],
+                      einfach.Zeile(Zellenart::Zeitweise, y / 2)[x / 2]);
 }
 
 } // namespace varnoth
