@@ -42,11 +42,10 @@ void RichteEin(QFileDialog& dialog, const Dateifrage& frage) {
     dialog.setObjectName(QStringLiteral("Dateidialog"));
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialog.setAcceptMode(speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    if (frage.art == Dateiwahl::Ordner) {
-        dialog.setFileMode(QFileDialog::Directory);
-        dialog.setOption(QFileDialog::ShowDirsOnly);
-    }
+    dialog.setFileMode(frage.art == Dateiwahl::Ordner ? QFileDialog::Directory
+                       : speichern                    ? QFileDialog::AnyFile
+                                                      : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::ShowDirsOnly, frage.art == Dateiwahl::Ordner);
     dialog.setWindowTitle(QString::fromStdString(frage.titel));
     dialog.setDirectory(Startordner(frage));
 }

@@ -10,7 +10,7 @@ namespace varnoth {
 
 enum class Dateiwahl { Oeffnen, Speichern, Ordner };
 
-/// A question for a file or a folder. Texts and paths are UTF-8.
+/// A question for a file, or a folder. Texts and paths are UTF-8.
 struct Dateifrage {
     Dateiwahl art = Dateiwahl::Oeffnen;
     std::string titel{};

@@ -36,7 +36,7 @@ constexpr const char* SchluesselArt = "Art";
 constexpr const char* SchluesselFolgen = "Folgen";
 constexpr const char* Dateiname = "ereignisse";
 constexpr QSize Anfangsgroesse(1000, 560);
-constexpr int Spaltenbreiten[] = {190, 110, 380, 100, 130}; // at 96 dpi
+constexpr int Spaltenbreiten[] = {165, 115, 380, 95, 120}; // at 96 dpi
 
 constexpr int TaktMs = 500;
 // What is done at one go, so that the next request never waits for it.
@@ -195,7 +195,8 @@ const Ereignisspeicher& frmEreignisse::Speicher() const {
 void frmEreignisse::BlickeNach() {
     BlickeAufQuelle();
     ZeigeMitschrift();
-    if ((lauf && !lauf->IstFertig()) || std::exchange(gesehen, Speicher().Aenderungen()) != Speicher().Aenderungen())
+    if ((lauf && !lauf->IstFertig()) ||
+        std::exchange(gesehen, Speicher().Aenderungen()) != Speicher().Aenderungen())
         Plane();
 }
 

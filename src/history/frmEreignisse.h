@@ -20,8 +20,8 @@ class frmEreignisse;
 class Ereignisanbieter;
 class Messanbieter;
 
-/// Shows what has happened: in this run or, while a record is replayed, in the record. What takes long is done
-/// in short pieces while the line is busy anyway.
+/// Shows what has happened: in this run or, while a record is replayed, in the record. What takes long is
+/// done in short pieces while the line is busy anyway.
 class frmEreignisse : public QWidget {
     Q_OBJECT
 

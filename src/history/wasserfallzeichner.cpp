@@ -182,8 +182,8 @@ void Wasserfallzeichner::ZeichneZeiten(QPainter& maler, const Wasserfallinhalt& 
     const QFontMetrics masse(vorgabe.schrift);
     const int breite = masse.horizontalAdvance(QStringLiteral("00:00:00,000"));
     const int strich = Geraetepixel(Masse::Strich, vorgabe.dichte);
-    for (const Zeitstrich& teil :
-         Zeitstriche(inhalt.fenster, breite + Geraetepixel(Strichluft, vorgabe.dichte), inhalt.angaben)) {
+    for (const Fensterstrich& teil :
+         Fensterstriche(inhalt.fenster, breite + Geraetepixel(Strichluft, vorgabe.dichte), inhalt.angaben)) {
         const int x = X(inhalt.fenster, teil.zeit);
         maler.fillRect(x, plan.zeiten.top(), Geraetepixel(1, vorgabe.dichte), strich, farben.striche);
         QRect platz(x - breite / 2, plan.zeiten.top() + strich, breite, masse.height());

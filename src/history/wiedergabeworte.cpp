@@ -35,7 +35,7 @@ std::string Zustandswechsel(const Sprungfund& fund) {
 
 } // namespace
 
-std::string Tageszeit(const Messangaben& angaben, Zeit laufzeit) {
+std::string Augenblickstext(const Messangaben& angaben, Zeit laufzeit) {
     const auto ort =
         floor<milliseconds>(angaben.beginn.time_since_epoch() + laufzeit + minutes(angaben.zoneMinuten));
     const sys_days tag = floor<days>(sys_time<milliseconds>(ort));
@@ -59,7 +59,7 @@ std::string Laufzeittext(Zeit dauer) {
 }
 
 std::string Positionstext(const Messangaben& angaben, const Zeitspanne& spanne, Zeit laufzeit) {
-    return LadeTextMit(TextPosition, {Tageszeit(angaben, laufzeit), Laufzeittext(laufzeit - spanne.von),
+    return LadeTextMit(TextPosition, {Augenblickstext(angaben, laufzeit), Laufzeittext(laufzeit - spanne.von),
                                       Laufzeittext(spanne.bis - spanne.von)});
 }
 

@@ -1,5 +1,6 @@
 #include "frmDocument.h"
 
+#include "strahlposition.h"
 #include "ui_frmDocument.h"
 
 #include "gezeigtesabbild.h"
@@ -8,7 +9,6 @@
 #include "strahlbits.h"
 #include "strahlhinweis.h"
 #include "texte.h"
-#include "wertetext.h"
 #include "wertfeld.h"
 #include "zeigerschild.h"
 #include "zoomkopf.h"

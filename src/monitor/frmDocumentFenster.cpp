@@ -2,10 +2,10 @@
 
 #include "frmDocument.h"
 
+#include "strahlposition.h"
 #include "ui_frmDocument.h"
 
 #include "fensterplatz.h"
-#include "wertetext.h"
 #include "wertfeld.h"
 #include "ziffern.h"
 

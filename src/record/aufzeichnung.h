@@ -19,7 +19,7 @@ namespace varnoth {
 class Aufzeichnung {
 public:
     /// The moment it is now; called from both threads.
-    using Uhr = std::function<Zeitpunkt()>;
+    using Uhr = std::function<Augenblick()>;
 
     /// Passes that wait to be written at most.
     static constexpr std::size_t MeisteWartende = 10'000;

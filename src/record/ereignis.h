@@ -14,10 +14,9 @@ enum class Ereignisart : std::uint8_t {
     Verloren, ///< the controller no longer answers
     Zurueck,  ///< it answers again; `dauer`: after how long
     Zustand,  ///< the connection as the status bar shows it: `neu`; `alt` 1: simulated; `text`: the line
-    TeilGewechselt, ///< `neu` 1: there, 0: gone; `dauer`: how long it was the other, of several how long they
-                    ///< took
-    TeilStatus,     ///< `alt` and `neu`: status bits of part `teil`
-    GeraeteStatus,  ///< `alt` and `neu`: status bits of the controller without the output
+    TeilGewechselt,    ///< `neu` 1: there, `dauer`: how long it was away; 0: gone
+    TeilStatus,        ///< `alt` and `neu`: status bits of part `teil`
+    GeraeteStatus,     ///< `alt` and `neu`: status bits of the controller without the output
     AusgangGeschaltet, ///< `neu` 1: active
     Meldung,           ///< `text`: of a message box
     Befehl,            ///< `alt`: its code, `neu`: the id of its text or 0, `text`: where that has none

@@ -144,7 +144,7 @@ void Ereignisableitung::BeginneSchub(Groesse& groesse, std::int32_t wert, const 
                      .offen = true,
                      .alt = *groesse.wert,
                      .neu = wert};
-    if (groesse.art == Ereignisart::TeilGewechselt)
+    if (groesse.art == Ereignisart::TeilGewechselt && wert != 0)
         groesse.schub.dauer = durchgang.uhr - groesse.gewechselt;
     groesse.gewechselt = durchgang.uhr;
     groesse.nummer = ziel->Merke(groesse.schub);

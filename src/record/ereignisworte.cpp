@@ -89,7 +89,7 @@ std::string Ausgangswort(const Ereignis& e) {
 }
 
 std::string Zustandswort(const Ereignis& e) {
-    std::string wort = Text(TextErsterZustand + std::clamp(e.neu, 0, Zustandszahl - 1));
+    std::string wort = Zuletzt(e, Text(TextErsterZustand + std::clamp(e.neu, 0, Zustandszahl - 1)));
     if (e.alt != 0)
         wort = LadeTextMit(TextSimuliertUnd, {wort});
     return e.text.empty() ? wort : wort + " (" + e.text + ")";
@@ -199,8 +199,8 @@ double Sekunden(Zeit dauer) {
 
 /// Whether the number says how often something happened, and not how much.
 bool WirdGezaehlt(Ereignisart art) {
-    return art == TeilGewechselt || art == TeilStatus || art == GeraeteStatus || art == AusgangGeschaltet ||
-           art == Fehlgeschlagen;
+    return art == Zustand || art == TeilGewechselt || art == TeilStatus || art == GeraeteStatus ||
+           art == AusgangGeschaltet || art == Fehlgeschlagen;
 }
 
 std::string Zweistellig(long long zahl) {
@@ -241,7 +241,7 @@ std::string Dauertext(Zeit dauer) {
 }
 
 std::string Haeufigkeitstext(const Ereignis& ereignis) {
-    constexpr double KleinsteJeSekunde = 0.1, SekundenJeMinute = 60;
+    constexpr double KleinsteJeSekunde = 1, SekundenJeMinute = 60;
     if (!WirdGezaehlt(ereignis.art) || ereignis.anzahl < 2)
         return {};
     const std::string zahl = std::to_string(ereignis.anzahl);

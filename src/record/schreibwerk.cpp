@@ -23,6 +23,18 @@ std::string Nummerntext(int nummer) {
     return "_" + ziffern;
 }
 
+/// When the first of what is to be written was.
+Augenblick AnfangVon(const std::vector<Aufnahmestueck>& stuecke, Augenblick jetzt) {
+    Zeit anfang = jetzt.uhr;
+    for (const Aufnahmestueck& stueck : stuecke) {
+        if (!stueck.inhalt.durchgaenge.empty())
+            anfang = std::min(anfang, stueck.inhalt.durchgaenge.front().uhr);
+        if (!stueck.inhalt.ereignisse.empty())
+            anfang = std::min(anfang, stueck.inhalt.ereignisse.front().laufzeit);
+    }
+    return {.uhr = anfang, .zeit = jetzt.zeit - (jetzt.uhr - anfang)};
+}
+
 } // namespace
 
 Schreibwerk::Schreibwerk(Dateiablage& dieAblage, Aufzeichnungsauftrag derAuftrag)
@@ -31,26 +43,27 @@ Schreibwerk::Schreibwerk(Dateiablage& dieAblage, Aufzeichnungsauftrag derAuftrag
 
 Schreibwerk::~Schreibwerk() = default;
 
-int Schreibwerk::Beginne(Zeitpunkt jetzt, std::shared_ptr<const Abbild> neue) {
+int Schreibwerk::Beginne(Augenblick jetzt, std::shared_ptr<const Abbild> neue) {
     konfiguration = std::move(neue);
     begonnen = gesichert = jetzt.uhr;
     return Eroeffne(jetzt);
 }
 
-void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t verworfene, Zeitpunkt jetzt) {
+void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t verworfene, Augenblick jetzt) {
     if (stand.fertig)
         return;
     stand.dauer = jetzt.uhr - begonnen;
     stand.verworfen += verworfene;
     zuMelden += verworfene;
+    const Augenblick anfang = AnfangVon(stuecke, jetzt);
     if (stand.fehler != 0)
-        VersucheWieder(jetzt);
+        VersucheWieder(anfang, jetzt.uhr);
     if (stand.fehler == 0 && IstVoll(jetzt)) {
-        Schliesse(jetzt.uhr);
-        if (const int fehler = Eroeffne(jetzt); fehler != 0)
+        Schliesse(anfang.uhr);
+        if (const int fehler = Eroeffne(anfang); fehler != 0)
             Stoere(fehler, jetzt.uhr);
     }
-    MeldeVerworfene(jetzt);
+    MeldeVerworfene(anfang);
     for (Aufnahmestueck& stueck : stuecke)
         Schreibe(std::move(stueck));
     Sichere(jetzt.uhr);
@@ -62,7 +75,7 @@ void Schreibwerk::Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t ve
     }
 }
 
-void Schreibwerk::Beende(Zeitpunkt jetzt) {
+void Schreibwerk::Beende(Augenblick jetzt) {
     stand.dauer = jetzt.uhr - begonnen;
     MeldeVerworfene(jetzt);
     Schliesse(jetzt.uhr);
@@ -89,7 +102,7 @@ int Schreibwerk::LegeAn(Satz& neuer, int welche) {
 }
 
 /// Begins files of the next number that is free.
-int Schreibwerk::Eroeffne(Zeitpunkt jetzt) {
+int Schreibwerk::Eroeffne(Augenblick jetzt) {
     Satz neuer{.beginn = jetzt, .ende = jetzt.uhr};
     int welche = nummer + 1;
     int fehler = LegeAn(neuer, welche);
@@ -133,7 +146,7 @@ bool Schreibwerk::HatZuvieleBytes() const {
                                              [grenze](const Datei& datei) { return datei.bytes >= grenze; });
 }
 
-bool Schreibwerk::IstVoll(Zeitpunkt jetzt) const {
+bool Schreibwerk::IstVoll(Augenblick jetzt) const {
     const Aufzeichnungswahl& wahl = auftrag.wahl;
     if (laufender.leer)
         return false;
@@ -176,25 +189,29 @@ void Schreibwerk::Schreibe(Aufnahmestueck stueck) {
         }
     }
     laufender.leer = false;
+    laufender.bis = paket.spanne.bis;
     stand.durchgaenge += paket.durchgaenge.size();
 }
 
-/// What is due of it, with times from the beginning of the file on.
+/// What is due of it, with times from the beginning of the file on, which never go back.
 Messpaket Schreibwerk::AlsPaket(Messpaket inhalt) {
     if (!inhalt.ereignisse.empty())
         auswahl.BeginneNeu();
     std::erase_if(inhalt.durchgaenge, [this](const Messdurchgang& einer) { return !auswahl.Nimm(einer); });
-    const auto verschiebe = [&, bis = Zeit{}](Zeit& uhr) mutable { // a clock that stands still is no error
-        uhr = bis = std::max(bis, uhr - laufender.beginn.uhr);
-    };
-    std::ranges::for_each(inhalt.durchgaenge, verschiebe, &Messdurchgang::uhr);
-    std::ranges::for_each(inhalt.ereignisse, verschiebe, &Messereignis::laufzeit);
-    inhalt.spanne = {Zeit::max(), Zeit{}};
-    const auto umfasse = [&](Zeit uhr) {
-        inhalt.spanne = {std::min(inhalt.spanne.von, uhr), std::max(inhalt.spanne.bis, uhr)};
-    };
-    std::ranges::for_each(inhalt.durchgaenge, umfasse, &Messdurchgang::uhr);
-    std::ranges::for_each(inhalt.ereignisse, umfasse, &Messereignis::laufzeit);
+    const Zeit anfang = laufender.beginn.uhr;
+    inhalt.spanne = {laufender.bis, laufender.bis};
+    Zeit bis = laufender.bis;
+    for (Messdurchgang& durchgang : inhalt.durchgaenge)
+        durchgang.uhr = bis = std::max(bis, durchgang.uhr - anfang);
+    if (!inhalt.durchgaenge.empty())
+        inhalt.spanne = {inhalt.durchgaenge.front().uhr, bis};
+    for (Messereignis& ereignis : inhalt.ereignisse) {
+        const bool notiz = ereignis.art == Messereignisart::Notiz; // of any time before
+        ereignis.laufzeit = std::max(notiz ? Zeit{} : laufender.bis, ereignis.laufzeit - anfang);
+        if (!notiz)
+            inhalt.spanne = {std::min(inhalt.spanne.von, ereignis.laufzeit),
+                             std::max(inhalt.spanne.bis, ereignis.laufzeit)};
+    }
     return inhalt;
 }
 
@@ -217,14 +234,14 @@ void Schreibwerk::Stoere(int fehler, Zeit jetzt) {
     laufender = {};
 }
 
-void Schreibwerk::VersucheWieder(Zeitpunkt jetzt) {
-    if (jetzt.uhr - versucht < Versuchsabstand)
+void Schreibwerk::VersucheWieder(Augenblick anfang, Zeit jetzt) {
+    if (jetzt - versucht < Versuchsabstand)
         return;
-    versucht = jetzt.uhr;
-    VergissAlte(jetzt.uhr);
+    versucht = jetzt;
+    VergissAlte(jetzt);
     if (ablage.FreierPlatz(auftrag.ordner).value_or(Neubeginnplatz) < Neubeginnplatz)
         return;
-    stand.fehler = Eroeffne(jetzt);
+    stand.fehler = Eroeffne(anfang);
 }
 
 /// Passes are gone; what has happened meanwhile is told by the next file.
@@ -237,7 +254,7 @@ void Schreibwerk::Verwirf(Messpaket inhalt) {
 }
 
 /// The file tells how much is missing before what follows.
-void Schreibwerk::MeldeVerworfene(Zeitpunkt jetzt) {
+void Schreibwerk::MeldeVerworfene(Augenblick jetzt) {
     if (stand.fehler != 0 || laufender.dateien.empty() || (zuMelden == 0 && nachzutragen.empty()))
         return;
     Aufnahmestueck stueck;

@@ -15,7 +15,7 @@
 namespace varnoth {
 
 /// A moment, on the clock that never goes back and by the time of day.
-struct Zeitpunkt {
+struct Augenblick {
     Zeit uhr{};
     Systemzeit zeit{};
 };
@@ -42,13 +42,13 @@ struct Aufnahmestueck {
 /// How a recording stands.
 struct Aufzeichnungsstand {
     Zeit dauer{};
-    std::uint64_t bytes = 0;        ///< of all its files
-    std::uint64_t durchgaenge = 0;  ///< recorded
-    std::uint64_t verworfen = 0;    ///< passes that could not be kept
-    int dateien = 0;                ///< begun so far
-    std::vector<std::string> pfade; ///< of the newest files, one a form
-    int fehler = 0;                 ///< why nothing can be written now; 0 while all is well
-    bool fertig = false;            ///< the time that was chosen is up
+    std::uint64_t bytes = 0;          ///< of all its files
+    std::uint64_t durchgaenge = 0;    ///< recorded
+    std::uint64_t verworfen = 0;      ///< passes that could not be kept
+    int dateien = 0;                  ///< begun so far
+    std::vector<std::string> pfade{}; ///< of the newest files, one a form
+    int fehler = 0;                   ///< why nothing can be written now; 0 while all is well
+    bool fertig = false;              ///< the time that was chosen is up
 };
 
 /// Writes a recording: which passes, into which files, what becomes of full and of old ones. All of it
@@ -60,12 +60,12 @@ public:
     ~Schreibwerk();
 
     /// Makes the first files. An error leaves nothing behind.
-    int Beginne(Zeitpunkt jetzt, std::shared_ptr<const Abbild> konfiguration);
+    int Beginne(Augenblick jetzt, std::shared_ptr<const Abbild> konfiguration);
     /// Hands everything to the system. `verworfene` passes before it were lost on their way. To be called
     /// each second at least, with nothing too.
-    void Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t verworfene, Zeitpunkt jetzt);
+    void Schreibe(std::vector<Aufnahmestueck> stuecke, std::uint64_t verworfene, Augenblick jetzt);
     /// Ends the files whole.
-    void Beende(Zeitpunkt jetzt);
+    void Beende(Augenblick jetzt);
 
     const Aufzeichnungsstand& Stand() const { return stand; }
 
@@ -79,24 +79,25 @@ private:
     /// Files that belong together: the forms of the same stretch of time.
     struct Satz {
         std::vector<Datei> dateien{};
-        Zeitpunkt beginn{};
+        Augenblick beginn{};
         Zeit ende{};
+        Zeit bis{};       ///< from its beginning on, of what it holds
         bool leer = true; ///< holds nothing but its beginning
     };
 
     std::string Pfad(std::size_t form, int nummer) const;
     int LegeAn(Satz& neuer, int nummer);
-    int Eroeffne(Zeitpunkt jetzt);
+    int Eroeffne(Augenblick jetzt);
     int HaengeAn(Datei& datei, const std::string& bytes);
     bool HatZuvieleBytes() const;
-    bool IstVoll(Zeitpunkt jetzt) const;
+    bool IstVoll(Augenblick jetzt) const;
     void Schliesse(Zeit wann);
     void Schreibe(Aufnahmestueck stueck);
     Messpaket AlsPaket(Messpaket inhalt);
     void Stoere(int fehler, Zeit jetzt);
-    void VersucheWieder(Zeitpunkt jetzt);
+    void VersucheWieder(Augenblick anfang, Zeit jetzt);
     void Verwirf(Messpaket inhalt);
-    void MeldeVerworfene(Zeitpunkt jetzt);
+    void MeldeVerworfene(Augenblick jetzt);
     void Sichere(Zeit jetzt);
     void VergissAlte(Zeit jetzt);
 

@@ -114,12 +114,12 @@ Zeit Strichabstand(const Zeitfenster& fenster, int mindestensSpalten) {
     return da == std::end(DieAbstaende) ? *std::prev(std::end(DieAbstaende)) : *da;
 }
 
-std::vector<Zeitstrich> Zeitstriche(const Zeitfenster& fenster, int mindestensSpalten,
+std::vector<Fensterstrich> Fensterstriche(const Zeitfenster& fenster, int mindestensSpalten,
                                     const Messangaben& angaben) {
     const Zeit abstand = Strichabstand(fenster, std::max(1, mindestensSpalten));
     const auto ort = std::chrono::duration_cast<Zeit>(angaben.beginn.time_since_epoch()) +
                      std::chrono::minutes(angaben.zoneMinuten);
-    std::vector<Zeitstrich> striche;
+    std::vector<Fensterstrich> striche;
     const Zeit von = Abgerundet((fenster.Von() + ort).count() - 1, abstand.count()) * abstand + abstand - ort;
     for (Zeit zeit = von; zeit < fenster.Bis(); zeit += abstand)
         striche.push_back({zeit, Strichtext(angaben, zeit, abstand)});

@@ -43,16 +43,16 @@ Zeitfenster MitSpalten(const Zeitfenster& fenster, int spalten);
 Zeitfenster BisZu(const Zeitfenster& fenster, Zeit zeit);
 
 /// A tick of a time axis.
-struct Zeitstrich {
+struct Fensterstrich {
     Zeit zeit{};
     std::string text; ///< local time, as fine as the ticks stand
-    bool operator==(const Zeitstrich&) const = default;
+    bool operator==(const Fensterstrich&) const = default;
 };
 
 /// The distance of ticks of which at most so many columns of room lie between two: from a pleasant series.
 Zeit Strichabstand(const Zeitfenster& fenster, int mindestensSpalten);
 /// The ticks of a window, on round local times.
-std::vector<Zeitstrich> Zeitstriche(const Zeitfenster& fenster, int mindestensSpalten,
+std::vector<Fensterstrich> Fensterstriche(const Zeitfenster& fenster, int mindestensSpalten,
                                     const Messangaben& angaben);
 
 } // namespace varnoth

@@ -1,7 +1,9 @@
 #include "frmMain.h"
 
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
@@ -97,6 +99,8 @@ frmMain::frmMain(const QString& programmordner)
     messung = std::make_unique<Messablauf>();
     strahlen =
         std::make_unique<Strahlablauf>(*messung, *ablauf, [this](Befehl befehl) { befehle.Klick(befehl); });
+    aufzeichnung = MacheAufzeichnungsablauf();
+    ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
     wiedergabe = MacheWiedergabeablauf(teile);
@@ -191,7 +195,9 @@ void frmMain::Entlade() {
     sicherungen->Schliesse();
     vergleich->Schliesse();
     bus->Schliesse();
+    aufzeichnung->Schliesse();
     messung->Schliesse();
+    ereignisse->Schliesse();
     verbindung->Schliesse();
     hide();
 }

@@ -27,7 +27,9 @@ class frmMain;
 }
 
 class Vergleichsablauf;
+class Aufzeichnungsablauf;
 class Busablauf;
+class Ereignisablauf;
 class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
@@ -128,6 +130,7 @@ private:
     std::unique_ptr<Verbindungsablauf> MacheVerbindungsablauf();
     std::unique_ptr<Wiedergabeablauf> MacheWiedergabeablauf(const Hauptteile& teile);
     void BeendeWiedergabe();
+    std::unique_ptr<Aufzeichnungsablauf> MacheAufzeichnungsablauf();
     bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
     void BaueAnsichtenAuf();
     void ZeigeWillkommen();
@@ -193,6 +196,10 @@ private:
     void OeffneAufzeichnung() override;
     void OeffneUebergebeneAufzeichnung() override;
     void VerlasseWiedergabe() override;
+    void SchalteAufzeichnung() override;
+    void ZeigeAufzeichnungen() override;
+    void ZeigeEreignisse() override;
+    void ZeigeVerlauf() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -212,8 +219,10 @@ private:
     std::unique_ptr<Vergleichsablauf> vergleich;
     std::unique_ptr<Sicherungsablauf> sicherungen;
     std::unique_ptr<Busablauf> bus;
+    std::unique_ptr<Aufzeichnungsablauf> aufzeichnung;
     std::unique_ptr<Messablauf> messung;
     std::unique_ptr<Strahlablauf> strahlen;
+    std::unique_ptr<Ereignisablauf> ereignisse;       ///< comes after the past that it shows
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;

@@ -1,8 +1,11 @@
 // What the menu commands of the main window do.
 
+#include "aktionen.h"
+#include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
@@ -11,6 +14,7 @@
 #include "frmMain.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmVerlauf.h"
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
@@ -170,8 +174,10 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     sicherungen->Lokalisiere();
     vergleich->Lokalisiere();
     bus->Lokalisiere();
+    aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
     strahlen->Lokalisiere();
+    ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
@@ -255,6 +261,34 @@ void frmMain::ZeigeStrahlverlauf() {
 
 void frmMain::BearbeiteBlankingvorschlag() {
     strahlen->BearbeiteVorschlag();
+}
+
+std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
+    QAction& knopf = Aktion(*this, QStringLiteral("tlbAufzeichnung"));
+    knopf.setCheckable(true);
+    messung->SetzeNotizhoerer([this](Zeit uhr, Systemzeit zeit, const std::string& text) {
+        aufzeichnung->Notiere(uhr, zeit, text);
+    });
+    return std::make_unique<Aufzeichnungsablauf>(
+        Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,
+                                  .zeige = [this] { befehle.Klick(Befehl::Aufzeichnungen); },
+                                  .laeuft = [&knopf](bool laeuft) { knopf.setChecked(laeuft); }});
+}
+
+void frmMain::SchalteAufzeichnung() {
+    aufzeichnung->Schalte();
+}
+
+void frmMain::ZeigeAufzeichnungen() {
+    aufzeichnung->Zeige();
+}
+
+void frmMain::ZeigeEreignisse() {
+    ereignisse->Zeige();
+}
+
+void frmMain::ZeigeVerlauf() {
+    messung->Zeige<frmVerlauf>();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -44,8 +44,8 @@ void frmMain::StelleUebergebeneAn() {
     if (uebergebene.empty() || befehle.Wartet())
         return;
     const auto& dateien = uebergebene.front();
-    const bool aufzeichnung = dateien.size() == 1 && Wiedergabeablauf::IstAufzeichnung(dateien.front());
-    befehle.Klick(aufzeichnung ? Befehl::UebergebeneAufzeichnung : Befehl::UebergebeneDateien);
+    const bool istAufzeichnung = dateien.size() == 1 && Wiedergabeablauf::IstAufzeichnung(dateien.front());
+    befehle.Klick(istAufzeichnung ? Befehl::UebergebeneAufzeichnung : Befehl::UebergebeneDateien);
 }
 
 void frmMain::OeffneUebergebeneDateien() {

@@ -38,6 +38,12 @@ std::vector<const Befehlszeile*> Leistenfolge(std::span<const Befehlszeile> befe
     return folge;
 }
 
+std::span<const Leistengruppe> Textverzicht() {
+    using enum Leistengruppe;
+    static constexpr Leistengruppe folge[] = {Verlauf, Pruefen};
+    return folge;
+}
+
 std::string Leistentipp(std::string was, const std::string& tasten) {
     std::erase(was, '&');
     if (was.ends_with("..."))

@@ -14,6 +14,9 @@ class Einstellungen;
 /// The commands that stand in the tool bar, by group and within a group as the table has them.
 std::vector<const Befehlszeile*> Leistenfolge(std::span<const Befehlszeile> befehle);
 
+/// The groups whose buttons go without texts where the bar has not enough room, in this order.
+std::span<const Leistengruppe> Textverzicht();
+
 /// A button's tool tip: what it does and, where it has keys, those in brackets. A menu text's dots and mark
 /// of a letter do not belong to it.
 std::string Leistentipp(std::string was, const std::string& tasten);

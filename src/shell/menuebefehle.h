@@ -48,6 +48,10 @@ enum class Befehl {
     Wiedergabe = 190,
     WiedergabeVerlassen = 191,
     UebergebeneAufzeichnung = 192,
+    Aufzeichnung = 160,
+    Aufzeichnungen = 161,
+    Ereignisse = 200,
+    Verlauf = 170,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

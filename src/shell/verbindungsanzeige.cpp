@@ -1,6 +1,5 @@
 #include "verbindungsanzeige.h"
 
-#include "ereignisse.h"
 #include "identifikation.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
@@ -138,17 +137,19 @@ void Verbindungsanzeige::Aktualisiere() {
 }
 
 /// Every new state is kept, with the line that it is about.
-void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) const {
+void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) {
     if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
     const bool wiedergegeben = inhalt.bild.zustand == Verbindungszustand::Wiedergabe;
-    modEreignisse::Merke(
-        {.art = Ereignisart::Zustand,
-         .alt = inhalt.bild.simuliert ? 1 : 0,
-         .neu = static_cast<int>(inhalt.bild.zustand),
-         .text = wiedergegeben ? gegenstand.aufzeichnung
-                               : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
+    merker.Merke({.art = Ereignisart::Zustand,
+                  .zeit = std::chrono::system_clock::now(),
+                  .laufzeit = DieUmgebung().Uhr(),
+                  .alt = inhalt.bild.simuliert ? 1 : 0,
+                  .neu = static_cast<int>(inhalt.bild.zustand),
+                  .text = wiedergegeben
+                              ? gegenstand.aufzeichnung
+                              : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "ereignisse.h"
 #include "verbindungsregel.h"
 #include "verbindungstexte.h"
+#include "zustandsmerker.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -49,7 +51,7 @@ private:
 
     QPushButton* MacheKnopf(const QString& name, const std::function<void()>& tat);
     void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
-    void MerkeZustand(const Inhalt& inhalt) const;
+    void MerkeZustand(const Inhalt& inhalt);
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;
@@ -60,6 +62,7 @@ private:
     Verbindungsregel regel;
     std::optional<Inhalt> gezeigt;
     std::optional<Verbindungsgegenstand> wiedergabe;
+    Zustandsmerker merker{modEreignisse::Alle()};
     bool verbindet = false;
 };
 

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
+#include <QResizeEvent>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
@@ -118,6 +119,33 @@ void Werkzeugleiste::Lokalisiere() {
         const std::int16_t tipp = zeile->tippId != 0 ? zeile->tippId : zeile->textId;
         aktion->setToolTip(QString::fromStdString(Leistentipp(LadeText(tipp), tasten)));
     }
+    VerteileTexte();
+}
+
+void Werkzeugleiste::ZeigeTexte(Leistengruppe gruppe, bool ob) {
+    for (const auto& [aktion, zeile] : werkzeuge)
+        if (auto* const knopf = qobject_cast<QToolButton*>(widgetForAction(aktion));
+            zeile->gruppe == gruppe && knopf != nullptr)
+            knopf->setToolButtonStyle(ob ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+}
+
+/// All texts where they have room; else one group after the other goes without.
+void Werkzeugleiste::VerteileTexte() {
+    for (const Leistengruppe gruppe : Textverzicht())
+        ZeigeTexte(gruppe, true);
+    if (orientation() != Qt::Horizontal)
+        return;
+    for (const Leistengruppe gruppe : Textverzicht()) {
+        if (sizeHint().width() <= width())
+            return;
+        ZeigeTexte(gruppe, false);
+    }
+}
+
+void Werkzeugleiste::resizeEvent(QResizeEvent* ereignis) {
+    QToolBar::resizeEvent(ereignis);
+    if (ereignis->size().width() != ereignis->oldSize().width() && !mehr.isChecked())
+        VerteileTexte();
 }
 
 void Werkzeugleiste::SpeicherePlatz() const {

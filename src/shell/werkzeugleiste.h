@@ -17,7 +17,8 @@ namespace varnoth {
 ///
 /// It can be moved to each side of the window and hidden; a right click on it, on the menu bar or on the
 /// status bar tells both. F10 shows it and steps into it, and out again; inside, the arrow keys, Home and End
-/// move, Enter or space presses, Escape steps out. What does not fit waits behind the button at its end.
+/// move, Enter or space presses, Escape steps out. Where it lacks room, some groups show their pictures
+/// alone; what does not fit all the same waits behind the button at its end.
 class Werkzeugleiste : public QToolBar {
     Q_OBJECT
 
@@ -38,6 +39,7 @@ public:
 protected:
     void actionEvent(QActionEvent* ereignis) override;
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
     struct Werkzeug {
@@ -46,6 +48,8 @@ private:
     };
 
     void ZeichneMehr();
+    void VerteileTexte();
+    void ZeigeTexte(Leistengruppe gruppe, bool ob);
     void FuelleLeiste(std::span<const Befehlszeile> befehle);
     QAction& Stellvertreter(QAction& vorbild);
     void ZeigeMenue(QPoint stelle) const;

@@ -244,7 +244,7 @@ void Wiedergabeablauf::ZeigeAusgang(const Messdurchgang* durchgang) {
         return ziel.teile.status.ZeigeAusgangVon({}, {});
     const bool aktiv = (durchgang->geraetestatus & geraetestatus::PnpAktiv) != 0;
     ziel.teile.status.ZeigeAusgangVon(LadeText(aktiv ? TextAusgangAktiv : TextAusgangNichtAktiv),
-                                      Uhrzeit(Tageszeit(aufzeichnung->Angaben(), durchgang->uhr)));
+                                      Uhrzeit(Augenblickstext(aufzeichnung->Angaben(), durchgang->uhr)));
 }
 
 void Wiedergabeablauf::ZeigeAnsicht(int optikteil) {
@@ -278,7 +278,7 @@ std::string Wiedergabeablauf::Dateiname() const {
 
 std::string Wiedergabeablauf::Herkunft() const {
     return LadeTextMit(TextHerkunft, {QFileInfo(Q(pfad)).fileName().toStdString(),
-                                      Tageszeit(aufzeichnung->Angaben(), stand->Position())});
+                                      Augenblickstext(aufzeichnung->Angaben(), stand->Position())});
 }
 
 void Wiedergabeablauf::BerichteKonfiguration() {

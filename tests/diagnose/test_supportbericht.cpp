@@ -59,9 +59,9 @@ TEST(Supportbericht, Has_the_newest_500_events_in_the_language_of_the_moment) {
     const std::string kopf = Kopf();
     EXPECT_THAT(kopf, Not(HasSubstr("  Nr. 3.\n")));
     EXPECT_THAT(kopf, HasSubstr("  Nr. 4.\n"));
-    EXPECT_THAT(kopf, HasSubstr("  mehrmals gewechselt, zuletzt: PNP-Ausgang aktiv [3 (0,5/s), 4,0 s]\n"));
+    EXPECT_THAT(kopf, HasSubstr("  zuletzt: PNP-Ausgang aktiv [3 (30,0/min), 4,0 s]\n"));
     SetzeSprachoffset(Englisch);
-    EXPECT_THAT(Kopf(), HasSubstr("  changed several times, last: PNP output active [3 (0.5/s), 4.0 s]\n"));
+    EXPECT_THAT(Kopf(), HasSubstr("  last: PNP output active [3 (30.0/min), 4.0 s]\n"));
 }
 
 TEST(Supportbericht, Has_no_password_wherever_it_may_stand) {

@@ -18,7 +18,7 @@ namespace {
 using namespace std::chrono_literals;
 using pruefung::PruefAblage;
 
-Zeitpunkt Jetzt() {
+Augenblick Jetzt() {
     return {.uhr = std::chrono::duration_cast<Zeit>(std::chrono::steady_clock::now().time_since_epoch()),
             .zeit = std::chrono::system_clock::now()};
 }

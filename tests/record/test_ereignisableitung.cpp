@@ -114,6 +114,7 @@ TEST_F(EreignisableitungTest, A_part_that_goes_and_comes_is_told_with_the_time_i
     ASSERT_EQ(alle.size(), 2U);
     EXPECT_EQ(alle[0].teil, 1);
     EXPECT_EQ(alle[0].neu, 0);
+    EXPECT_EQ(alle[0].dauer, 0s);
     EXPECT_EQ(alle[1].neu, 1);
     EXPECT_EQ(alle[1].dauer, 30s);
     EXPECT_EQ(Alle(Ereignisart::TeilStatus).size(), 0U);

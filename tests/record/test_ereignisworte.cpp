@@ -33,6 +33,11 @@ TEST(Ereignisworte, Tell_what_has_happened_to_the_connection) {
     EXPECT_EQ(Worte({.art = Ereignisart::Zustand, .neu = 6}), Paar("Offline", "Offline"));
 }
 
+TEST(Ereignisworte, Tell_of_a_state_that_went_to_and_fro_only_the_last) {
+    EXPECT_EQ(Worte({.art = Ereignisart::Zustand, .anzahl = 5, .neu = 1, .dauer = 8s, .text = "COM1"}),
+              Paar("zuletzt: Live (COM1) [5 (30,0/min), 8,0 s]", "last: Live (COM1) [5 (30.0/min), 8.0 s]"));
+}
+
 TEST(Ereignisworte, Tell_of_parts_their_status_and_the_output) {
     EXPECT_EQ(Worte({.art = Ereignisart::TeilGewechselt, .teil = 1, .neu = 0}),
               Paar("K2 fehlt", "C2 is gone"));
@@ -53,8 +58,8 @@ TEST(Ereignisworte, Tell_of_parts_their_status_and_the_output) {
 
 TEST(Ereignisworte, Tell_of_a_burst_how_often_how_fast_and_what_held_last) {
     EXPECT_EQ(Worte({.art = Ereignisart::AusgangGeschaltet, .anzahl = 16, .neu = 0, .dauer = 10s}),
-              Paar("mehrmals gewechselt, zuletzt: PNP-Ausgang nicht aktiv [16 (1,5/s), 10,0 s]",
-                   "changed several times, last: PNP output not active [16 (1.5/s), 10.0 s]"));
+              Paar("zuletzt: PNP-Ausgang nicht aktiv [16 (1,5/s), 10,0 s]",
+                   "last: PNP output not active [16 (1.5/s), 10.0 s]"));
     EXPECT_EQ(Haeufigkeitstext({.art = Ereignisart::Fehlgeschlagen, .anzahl = 3, .dauer = 60s}),
               "3 (2,0/min)");
     EXPECT_EQ(Haeufigkeitstext({.art = Ereignisart::Fehlgeschlagen, .anzahl = 3}), "3");

@@ -55,7 +55,7 @@ protected:
         werk = std::make_unique<Schreibwerk>(ablage, std::move(auftrag));
         return *werk;
     }
-    Zeitpunkt Um(Zeit uhr) const { return {.uhr = 1000s + uhr, .zeit = mitternacht - 100s + uhr}; }
+    Augenblick Um(Zeit uhr) const { return {.uhr = 1000s + uhr, .zeit = mitternacht - 100s + uhr}; }
     int Beginne() { return werk->Beginne(Um(0s), std::make_shared<Abbild>()); }
     Aufnahmestueck Stueck(std::initializer_list<Zeit> uhren, int ereignisse = 0) const {
         Aufnahmestueck stueck;

@@ -34,8 +34,8 @@ struct WiedergabeTest : testing::Test {
     }
 
     PruefMessquelle quelle;
-    Wiedergabe wiedergabe{(Fuelle(anfang), anfang)};
     PruefMessquelle anfang;
+    Wiedergabe wiedergabe{(Fuelle(anfang), anfang)};
 };
 
 struct StelleTest : testing::Test {

@@ -82,14 +82,14 @@ TEST(Zeitfenster, Ticks_stand_on_round_local_times) {
                               .zoneMinuten = 60};
     const Zeitfenster fenster{.breite = 100ms, .erste = 0, .spalten = 200};
     EXPECT_EQ(Strichabstand(fenster, 60), 10s);
-    EXPECT_THAT(Zeitstriche(fenster, 60, angaben),
-                ElementsAre(Zeitstrich{7s, "06:30:00"}, Zeitstrich{17s, "06:30:10"}));
+    EXPECT_THAT(Fensterstriche(fenster, 60, angaben),
+                ElementsAre(Fensterstrich{7s, "06:30:00"}, Fensterstrich{17s, "06:30:10"}));
     const Zeitfenster feines{.breite = 1ms, .erste = 0, .spalten = 200};
-    EXPECT_EQ(Zeitstriche(feines, 90, angaben).front(), (Zeitstrich{0s, "06:29:53,000"}));
+    EXPECT_EQ(Fensterstriche(feines, 90, angaben).front(), (Fensterstrich{0s, "06:29:53,000"}));
     const Zeitfenster weites{.breite = 1min, .erste = 0, .spalten = 200};
-    EXPECT_EQ(Zeitstriche(weites, 60, angaben).front(), (Zeitstrich{30min + 7s, "07:00"}));
+    EXPECT_EQ(Fensterstriche(weites, 60, angaben).front(), (Fensterstrich{30min + 7s, "07:00"}));
     const Zeitfenster tage{.breite = 1h, .erste = 0, .spalten = 200};
-    EXPECT_EQ(Zeitstriche(tage, 20, angaben).front(), (Zeitstrich{17h + 30min + 7s, "23.11.2026"}));
+    EXPECT_EQ(Fensterstriche(tage, 20, angaben).front(), (Fensterstrich{17h + 30min + 7s, "23.11.2026"}));
 }
 
 } // namespace varnoth

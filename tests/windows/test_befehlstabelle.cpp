@@ -57,6 +57,10 @@ struct PruefWirkung : Befehlswirkung {
     void OeffneAufzeichnung() override { getan = "replay"; }
     void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
     void VerlasseWiedergabe() override { getan = "leave replay"; }
+    void SchalteAufzeichnung() override { getan = "recording"; }
+    void ZeigeAufzeichnungen() override { getan = "recordings"; }
+    void ZeigeEreignisse() override { getan = "events"; }
+    void ZeigeVerlauf() override { getan = "trend"; }
 
     std::string getan;
 };
@@ -120,6 +124,13 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(180), "beam history");
     EXPECT_EQ(GetanVon(181), "suggested blanking");
     EXPECT_EQ(GetanVon(182), "report with beams");
+    EXPECT_EQ(GetanVon(160), "recording");
+    EXPECT_EQ(GetanVon(161), "recordings");
+    EXPECT_EQ(GetanVon(190), "replay");
+    EXPECT_EQ(GetanVon(191), "leave replay");
+    EXPECT_EQ(GetanVon(192), "replay handed over");
+    EXPECT_EQ(GetanVon(200), "events");
+    EXPECT_EQ(GetanVon(170), "trend");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -137,6 +148,10 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
         {Befehl::Strahlverlauf, "Ctrl+H"},
+        {Befehl::Aufzeichnung, "Ctrl+R"},
+        {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
+        {Befehl::Wiedergabe, "Ctrl+Shift+O"},
+        {Befehl::Ereignisse, "Ctrl+E"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);

@@ -37,7 +37,7 @@ TEST_F(EreignismodellTest, Has_a_row_for_each_event_once_it_is_told_to_look) {
     ASSERT_EQ(modell.rowCount(), 1);
     EXPECT_EQ(Text(0, Ereignismodell::Zeitspalte).size(), std::string("2026-11-22 11:17:23.456").size());
     EXPECT_EQ(Text(0, Ereignismodell::Art), "Schaltausgang");
-    EXPECT_EQ(Text(0, Ereignismodell::Was), "mehrmals gewechselt, zuletzt: PNP-Ausgang aktiv");
+    EXPECT_EQ(Text(0, Ereignismodell::Was), "zuletzt: PNP-Ausgang aktiv");
     EXPECT_EQ(Text(0, Ereignismodell::Dauer), "5,0 s");
     EXPECT_EQ(Text(0, Ereignismodell::Anzahl), "11 (2,0/s)");
 }

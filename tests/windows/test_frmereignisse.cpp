@@ -151,7 +151,7 @@ TEST_F(frmEreignisseTest, Shows_an_event_anew_that_has_become_more) {
     Ereignis mehr = modEreignisse::Alle().Hole(nummer);
     mehr.anzahl = 5;
     modEreignisse::Alle().Aendere(nummer, mehr);
-    EXPECT_TRUE(Bis([&] { return Was(0) == "mehrmals gewechselt, zuletzt: PNP-Ausgang aktiv"; }));
+    EXPECT_TRUE(Bis([&] { return Was(0) == "zuletzt: PNP-Ausgang aktiv"; }));
 }
 
 TEST_F(frmEreignisseTest, Follows_the_newest_until_somebody_scrolls_back_and_again_at_the_end) {

@@ -78,7 +78,9 @@ protected:
     std::unique_ptr<frmMain> fenster;
 };
 
-TEST_F(WerkzeugleisteTest, Every_button_has_a_picture_beside_its_text) {
+TEST_F(WerkzeugleisteTest, Where_there_is_room_every_button_has_a_picture_beside_its_text) {
+    Fenster().resize(3000, 600);
+    QApplication::processEvents();
     for (QToolButton* knopf : Leiste().findChildren<QToolButton*>()) {
         if (knopf == &Mehr())
             continue;
@@ -141,6 +143,17 @@ TEST_F(WerkzeugleisteTest, All_of_it_fits_a_small_screen_in_German) {
     EXPECT_TRUE(WarteBis([&] { return Leiste().width() == BreiteEinesKleinenSchirms; }));
     EXPECT_LE(Leiste().sizeHint().width(), BreiteEinesKleinenSchirms);
     EXPECT_FALSE(Mehr().isVisible());
+}
+
+TEST_F(WerkzeugleisteTest, Where_room_is_short_some_groups_show_their_pictures_alone) {
+    constexpr auto mitText = Qt::ToolButtonTextBesideIcon;
+    Fenster().resize(3000, 600);
+    EXPECT_TRUE(WarteBis([&] { return Knopf("cmdAufzeichnung").toolButtonStyle() == mitText; }));
+    Fenster().resize(BreiteEinesKleinenSchirms, 600);
+    EXPECT_TRUE(
+        WarteBis([&] { return Knopf("cmdAufzeichnung").toolButtonStyle() == Qt::ToolButtonIconOnly; }));
+    EXPECT_EQ(Knopf("cmdOeffnen").toolButtonStyle(), mitText);
+    EXPECT_FALSE(Knopf("cmdAufzeichnung").toolTip().isEmpty());
 }
 
 TEST_F(WerkzeugleisteTest, It_takes_its_room_from_the_area_and_not_from_the_screen) {

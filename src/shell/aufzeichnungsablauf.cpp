@@ -1,0 +1,273 @@
+#include "aufzeichnungsablauf.h"
+
+#include "aufzeichnungseinstellungen.h"
+#include "aufzeichnungsmarke.h"
+#include "csvform.h"
+#include "dateidialog.h"
+#include "einstellungen.h"
+#include "ereignisse.h"
+#include "frmAufzeichnung.h"
+#include "identifikation.h"
+#include "konfigurationsbefehle.h"
+#include "polling.h"
+#include "programmversion.h"
+#include "registerabbild.h"
+#include "seriennummer.h"
+#include "standtext.h"
+#include "systemfehler.h"
+#include "texte.h"
+#include "textmitwerten.h"
+#include "transaktionen.h"
+#include "umgebung.h"
+#include "vrecform.h"
+
+#include <QDesktopServices>
+#include <QStatusBar>
+#include <QUrl>
+
+#include <utility>
+
+namespace varnoth {
+
+namespace {
+
+constexpr int TaktMs = 500;
+constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
+                       TextBeendet = 6233, TextMengen = 6272;
+
+/// The clock of the passes for another thread, which must not ask the environment.
+Aufzeichnung::Uhr UhrFuerAndere() {
+    const auto jetzt = [] {
+        return std::chrono::floor<Zeit>(std::chrono::steady_clock::now().time_since_epoch());
+    };
+    return [jetzt, versatz = DieUmgebung().Uhr() - jetzt()] {
+        return Augenblick{.uhr = jetzt() + versatz, .zeit = std::chrono::system_clock::now()};
+    };
+}
+
+Messereignisart ArtVon(Liveereignisart art) {
+    switch (art) {
+    case Liveereignisart::Begonnen:
+        return Messereignisart::LiveBegonnen;
+    case Liveereignisart::Beendet:
+        return Messereignisart::LiveBeendet;
+    case Liveereignisart::Verloren:
+        return Messereignisart::Verloren;
+    case Liveereignisart::Zurueck:
+        break;
+    }
+    return Messereignisart::Zurueck;
+}
+
+bool IstLive() {
+    return modPolling::GetPollingAktiv() != False && !modPolling::VerbindungVerloren();
+}
+
+Messangaben Angaben() {
+    Messangaben angaben{.programm = std::string(Programmversion())};
+    if (modModbus::GetIdentGueltig() == False)
+        return angaben;
+    angaben.bezeichnung = IdenttextAlsUtf8(modModbus::GetIdentText1());
+    angaben.seriennummer = GeraeteSeriennummer();
+    return angaben;
+}
+
+} // namespace
+
+Aufzeichnungsablauf::Aufzeichnungsablauf(Ziel dasZiel)
+    : ziel(std::move(dasZiel)), flugschreiber(LiesFlugschreiber(DieEinstellungen())),
+      marke(new Aufzeichnungsmarke(ziel.leiste)) {
+    QObject::connect(marke, &QPushButton::clicked, marke, [this] { ziel.zeige(); });
+    takt.setInterval(TaktMs);
+    QObject::connect(&takt, &QTimer::timeout, marke, [this] { BlickeNach(); });
+    modMesshoerer::MeldeAn(*this);
+}
+
+Aufzeichnungsablauf::~Aufzeichnungsablauf() {
+    modMesshoerer::MeldeAb(*this);
+}
+
+void Aufzeichnungsablauf::Schalte() {
+    if (Laeuft())
+        Beende();
+    else
+        Beginne({});
+}
+
+Aufzeichnungsauftrag Aufzeichnungsablauf::Auftrag(const std::string& name) {
+    const Aufzeichnungswahl wahl = Wahl();
+    Aufzeichnungsauftrag auftrag{.wahl = wahl,
+                                 .ordner = Ordner(),
+                                 .name = name.empty() ? Namensvorschlag() : Dateinamensteil(name),
+                                 .angaben = Angaben()};
+    if (wahl.vrec)
+        auftrag.formen.push_back({".vrec", [] { return std::make_unique<Vrecform>(); }});
+    if (wahl.csv)
+        auftrag.formen.push_back({".csv", [art = wahl.csvart, worte = LadeCsvworte()] {
+                                      return std::make_unique<Csvform>(art, worte);
+                                  }});
+    return auftrag;
+}
+
+void Aufzeichnungsablauf::Beginne(const std::string& name) {
+    if (Laeuft())
+        return;
+    auto neue = std::make_unique<Aufzeichnung>(ablage, Auftrag(name), ziel.uhr ? ziel.uhr : UhrFuerAndere());
+    FolgeKonfiguration();
+    if (const int fehler = neue->Beginne(konfiguration); fehler != 0)
+        return ZeigeWarnung(LadeTextMit(TextKeinBeginn, {Dateifehlertext(Systemfehler(fehler), Ordner())}));
+    aufzeichnung = std::move(neue);
+    gemeldeterFehler = 0;
+    rate = {};
+    modEreignisse::Merke(
+        {.art = Ereignisart::AufzeichnungBegonnen, .text = aufzeichnung->Stand().pfade.front()});
+    ziel.laeuft(true);
+    takt.start();
+    BlickeNach();
+}
+
+void Aufzeichnungsablauf::Beende() {
+    if (!Laeuft())
+        return;
+    aufzeichnung->Beende();
+    letzter = aufzeichnung->Stand();
+    aufzeichnung.reset();
+    takt.stop();
+    marke->hide();
+    ziel.laeuft(false);
+    const std::string wo = letzter.pfade.empty() ? Ordner() : letzter.pfade.front();
+    modEreignisse::Merke({.art = Ereignisart::AufzeichnungBeendet, .text = wo});
+    DieUmgebung().ZeigeStatustext(FeldMeldungen, LadeTextMit(TextBeendet, {wo}));
+}
+
+void Aufzeichnungsablauf::Notiere(Zeit uhr, Systemzeit zeit, const std::string& text) {
+    if (Laeuft())
+        aufzeichnung->Nimm({.art = Messereignisart::Notiz, .laufzeit = uhr, .zeit = zeit, .text = text});
+}
+
+void Aufzeichnungsablauf::Hoere(const Messdurchgang& durchgang) {
+    if (!Laeuft())
+        return;
+    if (FolgeKonfiguration())
+        aufzeichnung->SetzeKonfiguration(konfiguration);
+    aufzeichnung->Nimm(durchgang);
+}
+
+void Aufzeichnungsablauf::Hoere(const Liveereignis& ereignis) {
+    if (Laeuft())
+        aufzeichnung->Nimm({.art = ArtVon(ereignis.art), .laufzeit = ereignis.uhr, .zeit = ereignis.zeit});
+}
+
+bool Aufzeichnungsablauf::Braucht(int /*teil*/) const {
+    return Laeuft() || flugschreiber.alleTeile;
+}
+
+/// Whether the configuration in use has become another.
+bool Aufzeichnungsablauf::FolgeKonfiguration() {
+    Abbild jetzige = OhneMomentanes(modDaten::DasAbbild());
+    if (konfiguration != nullptr && *konfiguration == jetzige)
+        return false;
+    konfiguration = std::make_shared<const Abbild>(std::move(jetzige));
+    return true;
+}
+
+void Aufzeichnungsablauf::BlickeNach() {
+    if (!Laeuft())
+        return;
+    const Aufzeichnungslage lage = Lage();
+    marke->Zeige(Markentext(lage, IstLive()));
+    MeldeAenderung(lage);
+    if (lage.stand.fertig)
+        Beende();
+}
+
+/// What stands in the way is told once, and once when it is gone.
+void Aufzeichnungsablauf::MeldeAenderung(const Aufzeichnungslage& lage) {
+    const int vorher = std::exchange(gemeldeterFehler, lage.stand.fehler);
+    if (vorher == lage.stand.fehler)
+        return;
+    const std::string text =
+        lage.hindernis.empty() ? LadeText(TextGehtWeiter) : LadeTextMit(TextUnterbrochen, {lage.hindernis});
+    if (!lage.hindernis.empty())
+        modEreignisse::Merke({.art = Ereignisart::AufzeichnungOhnePlatz, .text = lage.hindernis});
+    else if (!lage.stand.pfade.empty())
+        modEreignisse::Merke({.art = Ereignisart::AufzeichnungBegonnen, .text = lage.stand.pfade.back()});
+    DieUmgebung().ZeigeStatustext(FeldMeldungen, text);
+}
+
+Aufzeichnungslage Aufzeichnungsablauf::Lage() {
+    if (Laeuft())
+        letzter = aufzeichnung->Stand();
+    return {.laeuft = Laeuft(),
+            .stand = letzter,
+            .durchgaengeJeSekunde = rate.Betrachte(letzter),
+            .hindernis = Laeuft() && letzter.fehler != 0 ? Systemfehler(letzter.fehler) : std::string()};
+}
+
+std::string Aufzeichnungsablauf::Standtext() {
+    const Aufzeichnungslage lage = Lage();
+    return LadeTextMit(TextMengen, {Markentext(lage, IstLive()), std::to_string(lage.stand.durchgaenge),
+                                    std::to_string(lage.stand.dateien)});
+}
+
+Aufzeichnungswahl Aufzeichnungsablauf::Wahl() {
+    return LiesAufzeichnungswahl(DieEinstellungen());
+}
+
+void Aufzeichnungsablauf::Waehle(const Aufzeichnungswahl& wahl) {
+    SchreibAufzeichnungswahl(DieEinstellungen(), wahl);
+}
+
+std::string Aufzeichnungsablauf::Ordner() {
+    return LiesAufzeichnungsordner(DieEinstellungen());
+}
+
+void Aufzeichnungsablauf::WaehleOrdner(const std::string& ordner) {
+    SchreibAufzeichnungsordner(DieEinstellungen(), ordner);
+}
+
+std::string Aufzeichnungsablauf::Namensvorschlag() {
+    return Aufzeichnungsname(GeraeteSeriennummer(), std::chrono::system_clock::now());
+}
+
+std::optional<std::string> Aufzeichnungsablauf::FrageNachOrdner(const std::string& titel,
+                                                                const std::string& anfang) {
+    return FrageNachDatei({.art = Dateiwahl::Ordner, .titel = titel, .ordner = anfang});
+}
+
+void Aufzeichnungsablauf::ZeigeOrdner(const std::string& ordner) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(ordner)));
+}
+
+void Aufzeichnungsablauf::Waehle(const Flugschreiber& wahl) {
+    flugschreiber = wahl;
+    SchreibFlugschreiber(DieEinstellungen(), wahl);
+}
+
+std::string Aufzeichnungsablauf::ImSpeicher() {
+    return {};
+}
+
+std::optional<std::string> Aufzeichnungsablauf::SichereSpeicher(int /*minuten*/) {
+    return std::nullopt;
+}
+
+void Aufzeichnungsablauf::Zeige() {
+    if (fenster == nullptr)
+        fenster = std::make_unique<frmAufzeichnung>(static_cast<Aufzeichnungsanbieter&>(*this));
+    fenster->ZeigeVor();
+}
+
+void Aufzeichnungsablauf::Lokalisiere() {
+    if (fenster != nullptr)
+        fenster->Lokalisiere();
+    BlickeNach();
+}
+
+void Aufzeichnungsablauf::Schliesse() {
+    Beende();
+    if (fenster != nullptr)
+        fenster->close();
+}
+
+} // namespace varnoth

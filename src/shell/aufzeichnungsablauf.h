@@ -1,0 +1,91 @@
+#pragma once
+
+#include "abbild.h"
+#include "aufzeichnung.h"
+#include "aufzeichnungsanbieter.h"
+#include "aufzeichnungstexte.h"
+#include "dateiausgabe.h"
+#include "messhoerer.h"
+
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+class QStatusBar;
+
+namespace varnoth {
+
+class Aufzeichnungsmarke;
+class frmAufzeichnung;
+
+/// Recordings as the main window runs them: it hears of the passes and hands them to the recording that runs,
+/// shows its mark in the status bar, and has the window of recordings.
+class Aufzeichnungsablauf : private Messhoerer, private Aufzeichnungsanbieter {
+public:
+    /// What it needs of the main window.
+    struct Ziel {
+        QStatusBar& leiste;
+        std::function<void()> zeige;             ///< asks for the window of recordings
+        std::function<void(bool laeuft)> laeuft; ///< a recording has begun or ended
+        Aufzeichnung::Uhr uhr{}; ///< the clock of the passes for another thread; nothing: the system's
+    };
+
+    explicit Aufzeichnungsablauf(Ziel ziel);
+    ~Aufzeichnungsablauf() override;
+
+    /// Begins a recording under the name that is proposed, or ends the one that runs.
+    void Schalte();
+    bool Laeuft() const { return aufzeichnung != nullptr; }
+    /// Keeps a note in the recording that runs.
+    void Notiere(Zeit uhr, Systemzeit zeit, const std::string& text);
+    /// Shows the window.
+    void Zeige();
+    /// Fills all texts in the current language again.
+    void Lokalisiere();
+    /// The program ends: so does a recording, without a word.
+    void Schliesse();
+
+private:
+    void Hoere(const Messdurchgang& durchgang) override;
+    void Hoere(const Liveereignis& ereignis) override;
+    bool Braucht(int teil) const override;
+    bool LaeuftAllein() const override { return Laeuft(); }
+
+    Aufzeichnungslage Lage() override;
+    std::string Standtext() override;
+    Aufzeichnungswahl Wahl() override;
+    void Waehle(const Aufzeichnungswahl& wahl) override;
+    std::string Ordner() override;
+    void WaehleOrdner(const std::string& ordner) override;
+    std::string Namensvorschlag() override;
+    void Beginne(const std::string& name) override;
+    void Beende() override;
+    std::optional<std::string> FrageNachOrdner(const std::string& titel, const std::string& anfang) override;
+    void ZeigeOrdner(const std::string& ordner) override;
+    Flugschreiber DerFlugschreiber() override { return flugschreiber; }
+    void Waehle(const Flugschreiber& wahl) override;
+    std::string ImSpeicher() override;
+    std::optional<std::string> SichereSpeicher(int minuten) override;
+
+    Aufzeichnungsauftrag Auftrag(const std::string& name);
+    bool FolgeKonfiguration();
+    void BlickeNach();
+    void MeldeAenderung(const Aufzeichnungslage& lage);
+
+    Ziel ziel;
+    Dateiausgabe ablage;
+    std::unique_ptr<Aufzeichnung> aufzeichnung;
+    Aufzeichnungsstand letzter; ///< of the last recording, or of the one that runs
+    Aufzeichnungsrate rate;
+    std::shared_ptr<const Abbild> konfiguration; ///< in use, without what is measured
+    Flugschreiber flugschreiber;
+    int gemeldeterFehler = 0;
+    QTimer takt;
+    Aufzeichnungsmarke* marke;
+    std::unique_ptr<frmAufzeichnung> fenster;
+};
+
+} // namespace varnoth

@@ -1,0 +1,285 @@
+#include "aufzeichnungsablauf.h"
+
+#include "dateidialog.h"
+#include "dateien.h"
+#include "fenstertest.h"
+#include "messhoerer.h"
+#include "pruefumgebung.h"
+#include "registerabbild.h"
+#include "registeradressen.h"
+#include "texte.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace varnoth {
+
+using pruefung::WarteBis;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+/// Recordings into a folder that is really there.
+class AufzeichnungsablaufTest : public testing::Test {
+protected:
+    AufzeichnungsablaufTest() {
+        SetzeSprachoffset(Englisch);
+        Setze("Ordner", ordner.path().toStdString());
+        Setze("Vrec", "0");
+        leiste.show();
+    }
+    ~AufzeichnungsablaufTest() override { SetzeDateiantwort({}); }
+
+    void Setze(const char* schluessel, const std::string& text) {
+        einstellungen.texte[{"Aufzeichnung", schluessel}] = text;
+    }
+    Aufzeichnungsablauf& Ablauf() {
+        if (!ablauf)
+            ablauf = std::make_unique<Aufzeichnungsablauf>(
+                Aufzeichnungsablauf::Ziel{.leiste = leiste,
+                                          .zeige = [this] { ++verlangt; },
+                                          .laeuft = [this](bool laeuft) { gemeldet.push_back(laeuft); },
+                                          .uhr = [this] { return Um(); }});
+        return *ablauf;
+    }
+    /// The clock of this test, moved on by hand.
+    Augenblick Um() const {
+        const auto jetzt = std::chrono::steady_clock::now() - begonnen + std::chrono::minutes(minuten);
+        return {.uhr = std::chrono::floor<Zeit>(jetzt), .zeit = std::chrono::system_clock::now()};
+    }
+    void MeldeDurchgang(std::uint16_t wert) {
+        Messdurchgang durchgang;
+        durchgang.uhr = umgebung.uhr += std::chrono::milliseconds(100);
+        durchgang.anzahlTeile = 1;
+        durchgang.teile[0] = {.vorhanden = true, .gemessen = true, .strahlen = 8};
+        durchgang.teile[0].werte[0] = wert;
+        modMesshoerer::Melde(durchgang);
+    }
+    QStringList Dateien() const { return QDir(ordner.path()).entryList(QDir::Files, QDir::Name); }
+    std::string Inhalt(const QString& name) const {
+        return LiesDatei(ordner.filePath(name).toStdString(), 1 << 20).bytes;
+    }
+    QPushButton& Marke() { return *leiste.findChild<QPushButton*>("cmdAufzeichnungsmarke"); }
+    static QWidget& Fenster() {
+        for (QWidget* const fenster : QApplication::topLevelWidgets())
+            if (fenster->objectName() == "frmAufzeichnung")
+                return *fenster;
+        throw std::runtime_error("no window");
+    }
+    template<class Element>
+    static Element& Im(const char* name) {
+        return *Fenster().findChild<Element*>(QLatin1String(name));
+    }
+
+    pruefung::PruefUmgebung umgebung;
+    pruefung::PruefEinstellungen einstellungen;
+    QTemporaryDir ordner;
+    QStatusBar leiste;
+    const std::chrono::steady_clock::time_point begonnen = std::chrono::steady_clock::now();
+    std::atomic<int> minuten = 0;
+    int verlangt = 0;
+    std::vector<bool> gemeldet;
+    std::unique_ptr<Aufzeichnungsablauf> ablauf;
+};
+
+TEST_F(AufzeichnungsablaufTest, One_click_records_every_pass_and_a_second_one_ends_it) {
+    Ablauf().Schalte();
+    EXPECT_TRUE(Ablauf().Laeuft());
+    MeldeDurchgang(4711);
+    MeldeDurchgang(4712);
+    Ablauf().Schalte();
+    EXPECT_FALSE(Ablauf().Laeuft());
+    MeldeDurchgang(4713);
+    ASSERT_EQ(Dateien().size(), 1);
+    EXPECT_TRUE(Dateien().front().endsWith(".csv"));
+    const std::string text = Inhalt(Dateien().front());
+    EXPECT_THAT(text, HasSubstr(",4711,"));
+    EXPECT_THAT(text, HasSubstr(",4712,"));
+    EXPECT_THAT(text, Not(HasSubstr(",4713,")));
+    EXPECT_THAT(gemeldet, ElementsAre(true, false));
+}
+
+TEST_F(AufzeichnungsablaufTest, While_recording_all_parts_are_needed_and_live_data_goes_on_by_itself) {
+    Ablauf();
+    EXPECT_FALSE(modMesshoerer::Braucht(2));
+    EXPECT_FALSE(modMesshoerer::LaeuftAllein());
+    Ablauf().Schalte();
+    EXPECT_TRUE(modMesshoerer::Braucht(2));
+    EXPECT_TRUE(modMesshoerer::LaeuftAllein());
+    Ablauf().Schalte();
+    EXPECT_FALSE(modMesshoerer::Braucht(2));
+    EXPECT_FALSE(modMesshoerer::LaeuftAllein());
+}
+
+TEST_F(AufzeichnungsablaufTest, What_happens_to_the_connection_stands_between_the_passes) {
+    Ablauf().Schalte();
+    MeldeDurchgang(1);
+    for (const auto art : {Liveereignisart::Verloren, Liveereignisart::Zurueck, Liveereignisart::Beendet,
+                           Liveereignisart::Begonnen})
+        modMesshoerer::Melde(art);
+    MeldeDurchgang(2);
+    Ablauf().Notiere(umgebung.uhr + std::chrono::seconds(1), {}, "web changed");
+    Ablauf().Schalte();
+    const std::string text = Inhalt(Dateien().front());
+    std::size_t stelle = 0;
+    for (const char* const wort : {"\"Connection lost\"", "\"Connection back\"", "\"Live data ended\"",
+                                   "\"Live data started\"", ",2,0,0,0,", "\"Note: web changed\""}) {
+        stelle = text.find(wort, stelle);
+        EXPECT_NE(stelle, std::string::npos) << wort;
+    }
+}
+
+TEST_F(AufzeichnungsablaufTest, A_changed_configuration_is_in_force_for_the_passes_behind_it) {
+    Ablauf().Schalte();
+    MeldeDurchgang(7001);
+    Werte muster(spezifisch::Blankingregister, 0);
+    muster[0] = 0x0300;
+    ASSERT_TRUE(modDaten::SetzeParameter(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Blankingmuster,
+                                         muster));
+    MeldeDurchgang(7002);
+    Ablauf().Schalte();
+    const std::string text = Inhalt(Dateien().front());
+    EXPECT_THAT(text, HasSubstr(",7001,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0x00,"));
+    EXPECT_THAT(text, HasSubstr(",7002,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,2,0,0x00,"));
+}
+
+TEST_F(AufzeichnungsablaufTest, The_mark_is_there_while_it_records_and_leads_to_the_window) {
+    Ablauf();
+    EXPECT_FALSE(Marke().isVisible());
+    Ablauf().Schalte();
+    EXPECT_TRUE(Marke().isVisible());
+    EXPECT_TRUE(Marke().text().startsWith("Recording 00:00:0"));
+    EXPECT_EQ(Marke().accessibleName(), Marke().text());
+    Marke().click();
+    EXPECT_EQ(verlangt, 1);
+    Ablauf().Schalte();
+    EXPECT_FALSE(Marke().isVisible());
+}
+
+TEST_F(AufzeichnungsablaufTest, The_mark_follows_the_language) {
+    Ablauf().Schalte();
+    SetzeSprachoffset(Deutsch);
+    Ablauf().Lokalisiere();
+    EXPECT_TRUE(Marke().text().startsWith("Aufzeichnung 00:"));
+}
+
+TEST_F(AufzeichnungsablaufTest, A_folder_that_cannot_be_written_is_told_and_nothing_begins) {
+    QFile hindernis(ordner.filePath("file"));
+    ASSERT_TRUE(hindernis.open(QIODevice::WriteOnly));
+    Setze("Ordner", ordner.filePath("file/below").toStdString());
+    Ablauf().Schalte();
+    EXPECT_FALSE(Ablauf().Laeuft());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_THAT(umgebung.meldungen.front().text, HasSubstr("The recording cannot begin."));
+    EXPECT_FALSE(Marke().isVisible());
+}
+
+TEST_F(AufzeichnungsablaufTest, A_file_that_vanishes_is_told_once_in_the_status_bar_and_the_recording_waits) {
+    Ablauf().Schalte();
+    MeldeDurchgang(1);
+    ASSERT_TRUE(WarteBis([&] { return Inhalt(Dateien().front()).find(",1,") != std::string::npos; }));
+    ASSERT_TRUE(QFile::remove(ordner.filePath(Dateien().front())));
+    ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0].find("is interrupted") != std::string::npos; },
+                         20'000));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_TRUE(Marke().text().contains("waiting:"));
+    ASSERT_TRUE(WarteBis([&] { return Dateien().size() == 1; }, 20'000));
+    MeldeDurchgang(2);
+    Ablauf().Schalte();
+    EXPECT_TRUE(Dateien().front().endsWith("_002.csv"));
+    EXPECT_THAT(Inhalt(Dateien().front()), HasSubstr(",2,0,0,"));
+}
+
+TEST_F(AufzeichnungsablaufTest, It_ends_by_itself_when_the_time_is_up) {
+    Setze("EndeMinuten", "1");
+    Ablauf().Schalte();
+    EXPECT_FALSE(WarteBis([&] { return !Ablauf().Laeuft(); }, 1500));
+    minuten = 1;
+    EXPECT_TRUE(WarteBis([&] { return !Ablauf().Laeuft(); }));
+    EXPECT_THAT(umgebung.statustexte[0], HasSubstr("The recording has ended: "));
+    EXPECT_FALSE(Marke().isVisible());
+}
+
+TEST_F(AufzeichnungsablaufTest, The_end_of_the_program_ends_it_whole_and_without_a_word) {
+    Ablauf().Schalte();
+    MeldeDurchgang(5);
+    Ablauf().Schliesse();
+    EXPECT_THAT(Inhalt(Dateien().front()), HasSubstr(",5,0,0,"));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(AufzeichnungsablaufTest, Both_forms_lie_beside_each_other) {
+    Setze("Vrec", "1");
+    Ablauf().Schalte();
+    Ablauf().Schalte();
+    ASSERT_EQ(Dateien().size(), 2);
+    EXPECT_TRUE(Dateien().back().endsWith(".vrec"));
+}
+
+TEST_F(AufzeichnungsablaufTest, What_is_chosen_in_the_window_is_kept_and_holds_for_the_next_recording) {
+    Ablauf().Zeige();
+    Im<QCheckBox>("chkMitternacht").setChecked(true);
+    Im<QSpinBox>("spnBehalte").setValue(24);
+    EXPECT_EQ((einstellungen.texte[{"Aufzeichnung", "Mitternacht"}]), "1");
+    EXPECT_EQ((einstellungen.texte[{"Aufzeichnung", "BehalteStunden"}]), "24");
+    EXPECT_TRUE(Im<QLabel>("lblBehalteHinweis").isVisible());
+}
+
+TEST_F(AufzeichnungsablaufTest, The_window_records_under_a_name_that_was_typed) {
+    Ablauf().Zeige();
+    Im<QLineEdit>("txtName").setText("night shift");
+    Im<QPushButton>("cmdAufzeichnen").click();
+    EXPECT_TRUE(Ablauf().Laeuft());
+    EXPECT_THAT(Dateien(), ElementsAre(QString("night shift.csv")));
+    EXPECT_FALSE(Im<QWidget>("grpForm").isEnabled());
+    EXPECT_EQ(Im<QPushButton>("cmdAufzeichnen").text(), "&End recording");
+    Im<QPushButton>("cmdAufzeichnen").click();
+    EXPECT_FALSE(Ablauf().Laeuft());
+    EXPECT_TRUE(Im<QWidget>("grpForm").isEnabled());
+    EXPECT_TRUE(Im<QLabel>("lblZuletzt").text().contains("night shift.csv"));
+}
+
+TEST_F(AufzeichnungsablaufTest, A_typed_name_cannot_lead_out_of_the_folder) {
+    Ablauf().Zeige();
+    Im<QLineEdit>("txtName").setText("../../outside");
+    Im<QPushButton>("cmdAufzeichnen").click();
+    EXPECT_THAT(Dateien(), ElementsAre(QString("_._.._outside.csv")));
+}
+
+TEST_F(AufzeichnungsablaufTest, Another_folder_is_asked_for) {
+    SetzeDateiantwort([](const Dateifrage& frage) {
+        EXPECT_EQ(frage.art, Dateiwahl::Ordner);
+        return std::optional<std::string>("/mnt/records");
+    });
+    Ablauf().Zeige();
+    Im<QPushButton>("cmdOrdner").click();
+    EXPECT_EQ((einstellungen.texte[{"Aufzeichnung", "Ordner"}]), "/mnt/records");
+    EXPECT_EQ(Im<QLineEdit>("txtOrdner").text(), "/mnt/records");
+}
+
+TEST_F(AufzeichnungsablaufTest, The_flight_recorder_needs_all_parts_when_that_is_chosen) {
+    Ablauf().Zeige();
+    EXPECT_FALSE(modMesshoerer::Braucht(0));
+    Im<QCheckBox>("chkAlleTeile").setChecked(true);
+    EXPECT_TRUE(modMesshoerer::Braucht(0));
+    EXPECT_FALSE(modMesshoerer::LaeuftAllein());
+    EXPECT_EQ((einstellungen.texte[{"Aufzeichnung", "FlugschreiberAlleTeile"}]), "1");
+}
+
+} // namespace varnoth
