@@ -3,6 +3,7 @@
 
 #include "bericht.h"
 #include "dateieingabe.h"
+#include "messspeicher.h"
 #include "probedurchgaenge.h"
 #include "statistik.h"
 #include "vrecform.h"
@@ -105,6 +106,19 @@ double Spruenge(const Vrecleser& leser) {
     return laengster;
 }
 
+/// What keeping a pass in memory costs whoever polls.
+void MissSpeicher(const std::vector<Messpaket>& pakete) {
+    Messspeicher speicher({}, Zeit(0));
+    const double beginn = Uhrzeit();
+    for (const Messpaket& paket : pakete)
+        for (const Messdurchgang& durchgang : paket.durchgaenge)
+            speicher.Nimm(durchgang);
+    const double je = (Uhrzeit() - beginn) / (VerschiedenePakete * DurchgaengeJePaket);
+    const auto bytes = static_cast<double>(speicher.Bytes()) / (VerschiedenePakete * DurchgaengeJePaket);
+    Berichte(QStringLiteral("a pass kept in memory"), 1e6 * je, QStringLiteral("us"), Ziel::Hoechstens, 20,
+             QStringLiteral("%1 bytes").arg(bytes, 0, 'f', 0));
+}
+
 void Miss(int stunden, const QString& ordner, const std::vector<Messpaket>& pakete) {
     const QString pfad = ordner + QStringLiteral("/%1.vrec").arg(stunden);
     const double bytes = Schreibe(pfad, stunden, pakete);
@@ -137,6 +151,7 @@ void Miss(int stunden, const QString& ordner, const std::vector<Messpaket>& pake
 int main() {
     const QTemporaryDir ordner;
     const auto pakete = MachePakete();
+    MissSpeicher(pakete);
     for (const int stunden : {8, 200})
         Miss(stunden, ordner.path(), pakete);
     return 0;

@@ -147,6 +147,13 @@ void frmWiedergabe::Beginne() {
     ui->zltAufzeichnung->setFocus();
 }
 
+void frmWiedergabe::Beende() {
+    uhrwerk.stop();
+    suche.reset();
+    ui->zltAufzeichnung->SetzeQuelle(nullptr);
+    setEnabled(false);
+}
+
 /// Looks as long as there is something to do.
 void frmWiedergabe::PlaneTakt() {
     const bool noetig = steuerung.Stand().Laeuft() || suche || naechstesPaket < steuerung.Quelle().Ende();

@@ -28,6 +28,8 @@ public:
 
     /// Another record is replayed: all begins anew.
     void Beginne();
+    /// The replay is over: the bar does nothing more.
+    void Beende();
     /// The replay was moved from elsewhere.
     void Folge();
     /// Fills all texts in the current language again.

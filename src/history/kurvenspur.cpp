@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::int16_t TextSchaltausgang = 6344;
 
-constexpr double Strichstaerke = 2;    // logical pixels
 constexpr double Zeichenabstand = 120; // between two signs of a curve
 constexpr double Zeichenversatz = 17;  // from those of one curve to those of the next
 
@@ -154,8 +153,10 @@ std::vector<QRect> Kurvenspur(const Spurfeld& feld, const Verlaufswahl& wahl,
         const bool eben = anschluss && strecke.oben == strecke.unten;
         letzte = eigene;
         letztesX = x;
-        if (x >= von && (!eben || muster.IstGezeichnet(stelle(x))))
-            Haenge(spur, QRect(x, strecke.oben - staerke / 2, 1, strecke.unten - strecke.oben + staerke));
+        if (x < von || (eben && !muster.IstGezeichnet(stelle(x))))
+            return;
+        const int hoehe = strecke.unten - strecke.oben;
+        Haenge(spur, QRect(x, strecke.oben - staerke / 2, hoehe > 0 ? staerke : 1, hoehe + staerke));
     });
     return spur;
 }

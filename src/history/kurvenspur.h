@@ -27,9 +27,12 @@ struct Spurfeld {
     int Y(double wert) const;
 };
 
-/// The rectangles of a curve from column `von` on: in each column from its smallest to its greatest value,
-/// and joined to the one before. Where it is level, the pattern of its part leaves gaps; a spike never falls
-/// into one.
+/// So many logical pixels a line is wide.
+inline constexpr double Strichstaerke = 2;
+
+/// The rectangles of a curve from column `von` on, a step reaching over into the next ones by the width of
+/// the line: in each column from its smallest to its greatest value, and joined to the one before. Where it
+/// is level, the pattern of its part leaves gaps; a spike never falls into one.
 std::vector<QRect> Kurvenspur(const Spurfeld& feld, const Verlaufswahl& wahl,
                               const Strahlabstaende& abstaende, Messreihe reihe, int von);
 /// The rectangles between minimum and maximum registers.

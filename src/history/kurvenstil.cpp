@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array<Strichmuster, AnzahlOptikteile> DieMuster{
     {{{1, 0, 0, 0}}, {{12, 5, 0, 0}}, {{4, 4, 0, 0}}, {{12, 4, 3, 4}}}};
-constexpr double Strichstaerke = 2;
+constexpr double Legendenstrich = 2;
 
 /// The outlines of the signs in the order of the values: triangles that point to the lower and the upper end,
 /// a square for a number; upside down and rotated for what is free.
@@ -69,7 +69,7 @@ void ZeichneMuster(QPainter& maler, const QRectF& platz, Messreihe reihe, const 
     const double mitte = platz.center().y();
     for (int x = 0; x < static_cast<int>(platz.width()); ++x)
         if (MusterDesTeils(reihe.teil).IstGezeichnet(x))
-            maler.fillRect(QRectF(platz.left() + x, mitte - Strichstaerke / 2, 1, Strichstaerke), farbe);
+            maler.fillRect(QRectF(platz.left() + x, mitte - Legendenstrich / 2, 1, Legendenstrich), farbe);
     ZeichneZeichen(maler, platz.center(), reihe, 1, palette);
 }
 

@@ -21,7 +21,7 @@ constexpr std::int16_t TextLeer = 6330, TextKeineKurve = 6331, TextBild = 6333, 
 
 constexpr int WunschbreiteZeichen = 90;
 constexpr int WunschhoeheZeilen = 26;
-constexpr int MindestbreiteZeichen = 45;
+constexpr int MindestbreiteZeichen = 60;
 constexpr int MindesthoeheZeilen = 12;
 constexpr double Kopffreiheit = 1.03; // above the highest value that there can be
 constexpr int UeblicheStrahlen = 100; // as long as none were measured
@@ -66,6 +66,9 @@ void Verlaufsbild::Erneuere() {
     blatt.angaben = anbieter->Quelle().Angaben();
     blatt.abstaende = StrahlabstaendeVon(anbieter->Quelle());
     Richte();
+    // A little that is new is exact before it is first drawn.
+    MerkeGeaendert(spalten.Verfeinere(anbieter->Quelle(), PaketeJeBlick));
+    Richte();
     Plane();
 }
 
@@ -105,8 +108,11 @@ void Verlaufsbild::Richte() {
 void Verlaufsbild::RichteSpalten() {
     const int anzahl = feld.Spalten();
     const Zeit breite = std::max(Zeit(1), (blick.Breite() + Zeit(anzahl - 1)) / anzahl);
-    if (breite != spalten.Breite())
-        spalten.Beginne(breite);
+    unsigned teile = 0;
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        teile |= blatt.wahl.HatTeil(teil) ? 1U << static_cast<unsigned>(teil) : 0U;
+    if (breite != spalten.Breite() || teile != spalten.Teile())
+        spalten.Beginne(breite, teile);
     blatt.ersteSpalte = spalten.NummerUm(blick.Spanne().bis) - anzahl + 1;
     blatt.spanne = {spalten.Beginn(blatt.ersteSpalte), spalten.Beginn(blatt.ersteSpalte + anzahl)};
     // What holds at the edges begins before them.

@@ -22,7 +22,7 @@ constexpr double ZeilenJeZahl = 2;
 constexpr double BreitenJeZeit = 1.5;
 constexpr double BreitesteNotiz = 170;
 constexpr int BandDeckung = 20;      // of 255
-constexpr double LaengsteNamen = 24; // of rows, in letters
+constexpr double LaengsteNamen = 28; // of rows, in letters
 
 QString Q(const std::string& text) {
     return QString::fromStdString(text);
@@ -42,10 +42,13 @@ std::vector<double> Wertstriche(const Verlaufsblatt& blatt, double hoehe, const 
                              ganz * masse.height() * ZeilenJeZahl / std::max(1.0, hoehe));
 }
 
+QString Teilname(int teil) {
+    return Text(static_cast<std::int16_t>(TextErstesOptikteil + teil));
+}
+
 QString Zeilenname(const Zustandszeile& zeile) {
     const QString was = Text(zeile.text);
-    return zeile.teil < 0 ? was
-                          : Text(static_cast<std::int16_t>(TextErstesOptikteil + zeile.teil)) + " " + was;
+    return zeile.teil < 0 ? was : Teilname(zeile.teil) + " " + was;
 }
 
 /// How far apart marks of time are, so that their texts do not touch.
@@ -174,12 +177,12 @@ void ZeichneSpuren(QPainter& maler, const Spaltenspeicher& spalten, const std::v
         farbe.setAlpha(BandDeckung);
         Fuelle(maler, Bandspur(spur, blatt.wahl, blatt.abstaende, reihe, von), farbe);
     }
+    // What begins before and reaches over is cut off, not left out.
+    const int ab = std::max(0, von - static_cast<int>(std::ceil(Zeichenradius * feld.dichte)) - 1);
     for (const Messreihe reihe : blatt.wahl.Reihen()) {
-        Fuelle(maler, Kurvenspur(spur, blatt.wahl, blatt.abstaende, reihe, von),
+        Fuelle(maler, Kurvenspur(spur, blatt.wahl, blatt.abstaende, reihe, ab),
                FarbeDerReihe(palette, reihe));
-        const int reichweite = static_cast<int>(std::ceil(Zeichenradius * feld.dichte)) + 1;
-        for (const QPoint& ort :
-             Zeichenspur(spur, blatt.wahl, blatt.abstaende, reihe, std::max(0, von - reichweite)))
+        for (const QPoint& ort : Zeichenspur(spur, blatt.wahl, blatt.abstaende, reihe, ab))
             ZeichneZeichen(maler, ort, reihe, feld.dichte, palette);
     }
     maler.setClipping(false);
@@ -226,20 +229,28 @@ void Verlaufszeichner::ZeichneZeitachse() const {
     const QString datum = Q(Datum(blatt.angaben, blatt.spanne.von));
     maler.drawText(QPointF(feld.kurven.left(), grund + masse.height()), datum);
     const QString dauer = Q(Abstandstext(blatt.spanne.bis - blatt.spanne.von));
-    maler.drawText(QPointF(feld.kurven.right() - masse.horizontalAdvance(dauer), grund + masse.height()),
-                   dauer);
+    const double links = feld.kurven.right() - masse.horizontalAdvance(dauer);
+    if (links > feld.kurven.left() + masse.horizontalAdvance(datum) + Abstand)
+        maler.drawText(QPointF(links, grund + masse.height()), dauer);
 }
 
+/// Rows that are too low for their names have that of their part.
 void Verlaufszeichner::ZeichneZeilennamen() const {
-    if (feld.zeilen.isEmpty() || !HatNamen(feld, masse))
-        return;
+    const auto zeilen = Zustandszeilen(blatt.wahl);
+    const bool einzeln = HatNamen(feld, masse);
     double y = feld.zeilen.top();
     maler.setPen(farben.schrift);
-    for (const Zustandszeile& zeile : Zustandszeilen(blatt.wahl)) {
-        const QRectF platz(Abstand, y, feld.kurven.left() - 2 * Abstand, feld.zeilenhoehe);
-        maler.drawText(platz, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                       masse.elidedText(Zeilenname(zeile), Qt::ElideRight, platz.width()));
-        y += feld.zeilenhoehe;
+    for (std::size_t i = 0; i < zeilen.size();) {
+        std::size_t ende = i + 1;
+        while (!einzeln && ende < zeilen.size() && zeilen[ende].teil == zeilen[i].teil)
+            ++ende;
+        const QString name = einzeln || zeilen[i].teil < 0 ? Zeilenname(zeilen[i]) : Teilname(zeilen[i].teil);
+        const double hoehe = static_cast<double>(ende - i) * feld.zeilenhoehe;
+        const QRectF platz(Abstand, y, feld.kurven.left() - 2 * Abstand, hoehe);
+        maler.drawText(platz, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                       masse.elidedText(name, Qt::ElideRight, platz.width()));
+        y += hoehe;
+        i = ende;
     }
 }
 

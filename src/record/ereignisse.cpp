@@ -19,10 +19,6 @@ std::uint64_t Merke(Ereignis ereignis) {
     return ereignisse.Merke(std::move(ereignis));
 }
 
-std::uint64_t Merke(const std::string& text) {
-    return Merke({.art = Ereignisart::Notiz, .text = text});
-}
-
 Ereignisspeicher& Alle() {
     return ereignisse;
 }

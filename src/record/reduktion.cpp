@@ -7,8 +7,8 @@ namespace varnoth {
 
 namespace {
 
-constexpr int ErstesMinimum = AnzahlKurvenwerte;
-constexpr int ErstesMaximum = 2 * AnzahlKurvenwerte;
+constexpr std::size_t ErstesMinimum = AnzahlKurvenwerte;
+constexpr std::size_t ErstesMaximum = 2 * AnzahlKurvenwerte;
 // More packets than this are never read for one picture: the overview has to do.
 constexpr std::uint64_t MeistePakete = 4000;
 
@@ -24,22 +24,23 @@ Teilspalte TeilAus(const Uebersicht& uebersicht, std::size_t i, int teil) {
         return spalte;
     spalte.status = uebersicht.Status(i, teil);
     spalte.strahlen = static_cast<std::int16_t>(uebersicht.Strahlen(i, teil));
-    for (int wert = 0; wert < AnzahlKurvenwerte; ++wert) {
-        const auto k = static_cast<std::size_t>(wert);
-        spalte.aktuell[k] = uebersicht.Wert(i, teil, wert);
-        spalte.band[k] = uebersicht.Wert(i, teil, ErstesMinimum + wert);
-        spalte.band[k].Nimm(uebersicht.Wert(i, teil, ErstesMaximum + wert));
+    const std::span<const Wertspanne> werte = uebersicht.Werte(i, teil);
+    for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
+        spalte.aktuell[k] = werte[k];
+        spalte.band[k] = werte[ErstesMinimum + k];
+        spalte.band[k].Nimm(werte[ErstesMaximum + k]);
     }
     return spalte;
 }
 
-Messspalte SpalteAus(const Uebersicht& uebersicht, std::size_t i) {
+Messspalte SpalteAus(const Uebersicht& uebersicht, std::size_t i, unsigned teile) {
     Messspalte spalte;
     spalte.geraetestatus = uebersicht.Geraetestatus(i);
     spalte.durchgang = spalte.geraetestatus != Bitspanne{};
     spalte.luecke = uebersicht.HatLuecke(i);
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        spalte.teile[static_cast<std::size_t>(teil)] = TeilAus(uebersicht, i, teil);
+        if ((teile >> static_cast<unsigned>(teil) & 1U) != 0)
+            spalte.teile[static_cast<std::size_t>(teil)] = TeilAus(uebersicht, i, teil);
     return spalte;
 }
 
@@ -68,11 +69,12 @@ void Teilspalte::Nimm(const Teilspalte& andere) {
     }
 }
 
-void Messspalte::Nimm(const Messdurchgang& neuer) {
+void Messspalte::Nimm(const Messdurchgang& neuer, unsigned gewaehlte) {
     durchgang = true;
     geraetestatus.Nimm(neuer.geraetestatus);
     for (std::size_t teil = 0; teil < teile.size(); ++teil)
-        teile[teil].Nimm(neuer.teile[teil]);
+        if ((gewaehlte >> teil & 1U) != 0)
+            teile[teil].Nimm(neuer.teile[teil]);
 }
 
 void Messspalte::Nimm(const Messspalte& andere) {
@@ -80,11 +82,13 @@ void Messspalte::Nimm(const Messspalte& andere) {
     luecke |= andere.luecke;
     geraetestatus.Nimm(andere.geraetestatus);
     for (std::size_t teil = 0; teil < teile.size(); ++teil)
-        teile[teil].Nimm(andere.teile[teil]);
+        if (andere.teile[teil].gemessen)
+            teile[teil].Nimm(andere.teile[teil]);
 }
 
-void Spaltenspeicher::Beginne(Zeit neueBreite) {
+void Spaltenspeicher::Beginne(Zeit neueBreite, unsigned neueTeile) {
     breite = std::max(neueBreite, Zeit(1));
+    teile = neueTeile;
     spalten.clear();
     basis = 0;
     bekanntBis = Zeit(-1);
@@ -176,7 +180,7 @@ void Spaltenspeicher::NimmAbschnitte(const Uebersicht& uebersicht, std::int64_t 
             break;
         if (erste > letzte)
             continue;
-        const Messspalte abschnitt = SpalteAus(uebersicht, i);
+        const Messspalte abschnitt = SpalteAus(uebersicht, i, teile);
         for (std::int64_t nummer = erste; nummer <= letzte; ++nummer)
             An(nummer).spalte.Nimm(abschnitt);
     }
@@ -225,7 +229,7 @@ void Spaltenspeicher::NimmGenau(const std::vector<std::shared_ptr<const Messpake
     for (const auto& paket : pakete) {
         for (const Messdurchgang& durchgang : paket->durchgaenge)
             if (const auto n = NummerUm(durchgang.uhr); n >= von && n < bis)
-                An(n).spalte.Nimm(durchgang);
+                An(n).spalte.Nimm(durchgang, teile);
         for (const Messereignis& ereignis : paket->ereignisse)
             if (const auto n = NummerUm(ereignis.laufzeit);
                 n >= von && n < bis && IstVerbindungsereignis(ereignis.art))

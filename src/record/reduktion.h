@@ -36,7 +36,8 @@ struct Messspalte {
     Bitspanne geraetestatus{};
     std::array<Teilspalte, AnzahlOptikteile> teile{};
 
-    void Nimm(const Messdurchgang& durchgang);
+    /// Takes in a pass; of the parts only those in `teile`, a bit each.
+    void Nimm(const Messdurchgang& durchgang, unsigned teile = ~0U);
     void Nimm(const Messspalte& andere);
     bool operator==(const Messspalte&) const = default;
 };
@@ -56,10 +57,13 @@ class Spaltenspeicher {
 public:
     /// Passes further apart than this have a gap between them.
     static constexpr Zeit LaengstePause = std::chrono::seconds(3);
+    static constexpr unsigned AlleTeile = (1U << AnzahlOptikteile) - 1;
 
-    /// Forgets everything; columns are `breite` wide from now on (1 µs at least).
-    void Beginne(Zeit breite);
+    /// Forgets everything; columns are `breite` wide from now on (1 µs at least), and of a column is kept what
+    /// was seen of the parts in `teile`, a bit each.
+    void Beginne(Zeit breite, unsigned teile = AlleTeile);
     Zeit Breite() const { return breite; }
+    unsigned Teile() const { return teile; }
 
     /// Keeps `anzahl` columns from `erste` on, and drops all others. Whatever the source has got since the
     /// last call is missing then, and so is what ended with it; what it has forgotten is gone at once. All of
@@ -104,6 +108,7 @@ private:
                    std::int64_t bis);
 
     Zeit breite{1000};
+    unsigned teile = AlleTeile;
     std::int64_t basis = 0;
     std::deque<Platz> spalten;
     Zeit anfang{0};

@@ -113,6 +113,10 @@ Wertspanne Uebersicht::Wert(std::size_t i, int teil, int wert) const {
     return Teil(i, teil).werte.at(static_cast<std::size_t>(wert));
 }
 
+std::span<const Wertspanne> Uebersicht::Werte(std::size_t i, int teil) const {
+    return Teil(i, teil).werte;
+}
+
 Bitspanne Uebersicht::Status(std::size_t i, int teil) const {
     return Teil(i, teil).status;
 }

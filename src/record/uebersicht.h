@@ -72,6 +72,8 @@ public:
     std::uint32_t Durchgaenge(std::size_t i, int teil) const;
     /// A measured value: 0..17, as in Teilmessung::werte.
     Wertspanne Wert(std::size_t i, int teil, int wert) const;
+    /// All of them.
+    std::span<const Wertspanne> Werte(std::size_t i, int teil) const;
     /// Of every pass that asked the part, measured or not.
     Bitspanne Status(std::size_t i, int teil) const;
     /// The most beams the part had.

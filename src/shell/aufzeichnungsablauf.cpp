@@ -136,6 +136,9 @@ void Aufzeichnungsablauf::Beende() {
     marke->hide();
     ziel.laeuft(false);
     const std::string wo = letzter.pfade.empty() ? Ordner() : letzter.pfade.front();
+    if (letzter.verworfen > 0)
+        modEreignisse::Merke(
+            {.art = Ereignisart::Verworfen, .anzahl = static_cast<std::uint32_t>(letzter.verworfen)});
     modEreignisse::Merke({.art = Ereignisart::AufzeichnungBeendet, .text = wo});
     DieUmgebung().ZeigeStatustext(FeldMeldungen, LadeTextMit(TextBeendet, {wo}));
 }

@@ -268,6 +268,7 @@ std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
     knopf.setCheckable(true);
     messung->SetzeNotizhoerer([this](Zeit uhr, Systemzeit zeit, const std::string& text) {
         aufzeichnung->Notiere(uhr, zeit, text);
+        modEreignisse::Merke({.art = Ereignisart::Notiz, .zeit = zeit, .laufzeit = uhr, .text = text});
     });
     return std::make_unique<Aufzeichnungsablauf>(
         Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,

@@ -167,6 +167,7 @@ void Wiedergabeablauf::ZeigeTitel() {
 void Wiedergabeablauf::Beende() {
     if (!Laeuft())
         return;
+    leiste->Beende();
     modDaten::ZeigeAnderesAbbild(nullptr);
     ziel.setzeWiedergabe(nullptr);
     ziel.teile.verbindung.SetzeWiedergabe({});

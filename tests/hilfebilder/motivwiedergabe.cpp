@@ -22,7 +22,7 @@ namespace {
 constexpr int Durchgaenge = 400;
 constexpr int NotizBei = 150;
 constexpr int VerlorenAb = 250, ZurueckBei = 300;
-constexpr QSize Groesse(1180, 660);
+constexpr QSize Groesse(900, 640);
 
 /// Keeps live data as a recording does.
 struct Mitschnitt : Messhoerer {

@@ -165,6 +165,21 @@ TEST(Reduktion, Of_a_part_that_a_pass_did_not_measure_nothing_is_known) {
     EXPECT_EQ(spalte.teile[0].band[0], (Wertspanne{2, 120}));
 }
 
+TEST(Reduktion, Of_parts_that_nobody_asked_for_nothing_is_kept) {
+    PruefMessquelle quelle;
+    FuelleZufaellig(quelle, 3, 30);
+    for (const Zeit breite : {Zeit(milliseconds(100)), Zeit(seconds(5))}) {
+        Spaltenspeicher speicher;
+        speicher.Beginne(breite, 0b0010);
+        speicher.Decke(quelle, 0, 5);
+        Verfeinere(speicher, quelle);
+        EXPECT_EQ(speicher.Spalte(1).teile[0], Teilspalte{});
+        EXPECT_EQ(speicher.Spalte(4).teile[2], Teilspalte{});
+        EXPECT_TRUE(std::ranges::any_of(std::array{0, 1, 2, 3, 4},
+                                        [&](int n) { return speicher.Spalte(n).teile[1].gemessen; }));
+    }
+}
+
 TEST(Reduktion, Between_passes_a_value_holds_and_a_long_silence_is_a_gap) {
     PruefMessquelle quelle;
     quelle.Nimm(PaketMit(seconds(0), 3, seconds(1)));

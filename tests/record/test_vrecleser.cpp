@@ -210,12 +210,12 @@ TEST(VrecleserTest, Of_one_that_is_too_long_the_beginning_is_given) {
 TEST(VrecleserTest, Behind_a_damaged_configuration_none_is_known_until_the_next) {
     for (const bool beendet : {true, false}) {
         std::string bytes = Aufzeichnung(5, beendet);
-        bytes[bytes.find("Varnoth Konfiguration") + 100] ^= 1;
+        bytes[bytes.rfind("Varnoth Konfiguration") + 100] ^= 1;
         const auto leser = Geoeffnet(bytes);
         EXPECT_EQ(leser->Zustand().beschaedigte, 1U);
-        EXPECT_EQ(Strahlen(*leser, 2), -1);
-        EXPECT_EQ(Strahlen(*leser, 3), 30);
-        EXPECT_EQ(Strahlen(*leser, 2), -1);
+        EXPECT_EQ(Strahlen(*leser, 2), 20);
+        EXPECT_EQ(Strahlen(*leser, 3), -1);
+        EXPECT_EQ(Strahlen(*leser, 2), 20);
     }
 }
 
@@ -230,6 +230,95 @@ TEST(VrecleserTest, An_index_of_another_record_is_not_believed) {
     EXPECT_EQ(leser->Ende(), 5U);
     EXPECT_EQ(leser->Zustand().durchgaenge, 30U);
     EXPECT_EQ(*leser->Lies(4), Paket(4));
+}
+
+TEST(VrecleserTest, An_index_is_believed_when_all_that_it_tells_of_lies_in_order) {
+    Vrecform form;
+    const std::string vorn = form.Beginne(Angaben, nullptr);
+    const std::string erstes = form.Nimm(Paket(0), nullptr);
+    const std::string bytes = vorn + erstes + form.Nimm(Paket(1), nullptr);
+    const auto eintrag = [&](std::uint64_t stelle, Zeitspanne spanne) {
+        return vrec::Eintrag{.stelle = stelle, .laenge = 400, .spanne = spanne};
+    };
+    const vrec::Eintrag eins = eintrag(vorn.size(), Paket(0).spanne);
+    const vrec::Eintrag zwei = eintrag(vorn.size() + erstes.size(), Paket(1).spanne);
+    vrec::Eintrag fruehere = eins;
+    fruehere.istKonfiguration = true;
+    /// Whether an index of two blocks, an entry each, is believed.
+    const auto wirdGeglaubt = [&](const vrec::Eintrag& a, const vrec::Eintrag& b, const std::string& danach) {
+        std::string datei = bytes;
+        for (const vrec::Eintrag& einer : {a, b}) {
+            vrec::Verzeichnisschreiber schreiber;
+            schreiber.Nimm(einer);
+            datei += vrec::AlsBlock(vrec::Blockart::Verzeichnis, schreiber.Entnimm());
+        }
+        const vrec::Schluss schluss{.verzeichnis = bytes.size(), .durchgaenge = 12};
+        const std::string ende = vrec::AlsBlock(vrec::Blockart::Schluss, vrec::AlsInhalt(schluss));
+        Vrecleser leser(std::make_unique<Speicherdatei>(datei + danach + ende));
+        bool frueh = false;
+        while (leser.Arbeite())
+            frueh = frueh || leser.IstBrauchbar();
+        EXPECT_EQ(leser.Zustand().durchgaenge, 12U) << "the walk finds them all";
+        EXPECT_EQ(leser.Ende(), 2U);
+        return frueh;
+    };
+    ASSERT_GT(erstes.size(), 400U);
+    EXPECT_FALSE(wirdGeglaubt(zwei, fruehere, {})) << "back in the file";
+    EXPECT_FALSE(wirdGeglaubt(eins, eintrag(zwei.stelle, {Zeit(5), Zeit(5)}), {})) << "back in time";
+    EXPECT_FALSE(wirdGeglaubt(eins, eintrag(bytes.size() - 10, Paket(1).spanne), {})) << "into the index";
+    EXPECT_FALSE(wirdGeglaubt(eins, zwei, vrec::AlsBlock(vrec::Blockart::Paket, "x"))) << "packets behind it";
+}
+
+TEST(VrecleserTest, What_the_index_tells_of_a_packet_is_held_against_the_packet) {
+    std::string bytes = Aufzeichnung(2);
+    const auto blockVon = [&bytes](std::size_t vor) { return bytes.rfind(vrec::Blockmarke, vor); };
+    const std::size_t schluss = blockVon(std::string::npos);
+    const std::size_t verzeichnis = blockVon(schluss - 1);
+    auto eintraege = vrec::VerzeichnisAus(std::string_view(bytes).substr(
+        verzeichnis + vrec::LaengeBlockkopf, schluss - verzeichnis - vrec::LaengeBlockkopf));
+    ASSERT_TRUE(eintraege);
+    eintraege->at(2).spanne.bis += Zeit(1);
+    vrec::Verzeichnisschreiber schreiber;
+    for (const vrec::Eintrag& einer : *eintraege)
+        schreiber.Nimm(einer);
+    const auto leser =
+        Geoeffnet(bytes.substr(0, verzeichnis) +
+                  vrec::AlsBlock(vrec::Blockart::Verzeichnis, schreiber.Entnimm()) + bytes.substr(schluss));
+    EXPECT_NE(leser->Lies(0), nullptr);
+    EXPECT_EQ(leser->Lies(1), nullptr);
+    EXPECT_EQ(leser->Zustand().beschaedigte, 1U);
+    EXPECT_EQ(leser->Zustand().durchgaenge, 6U);
+}
+
+TEST(VrecleserTest, A_packet_that_was_read_before_its_note_was_met_is_read_again) {
+    Vrecform form;
+    std::string bytes = form.Beginne(Angaben, nullptr);
+    for (int i = 0; i < 600; ++i) {
+        Messpaket paket = Paket(i);
+        if (i == 599)
+            paket.ereignisse = {{Messereignisart::Notiz, Paket(1).spanne.bis, Probebeginn, "n"}};
+        bytes += form.Nimm(paket, nullptr);
+    }
+    Vrecleser leser(std::make_unique<Speicherdatei>(bytes + form.Beende()));
+    while (!leser.IstBrauchbar())
+        ASSERT_TRUE(leser.Arbeite());
+    EXPECT_TRUE(leser.Lies(1)->ereignisse.empty());
+    while (leser.Arbeite())
+        continue;
+    EXPECT_EQ(leser.Lies(1)->ereignisse.size(), 1U);
+}
+
+TEST(VrecleserTest, Of_very_many_notes_of_earlier_times_some_are_left_out) {
+    Vrecform form;
+    std::string bytes = form.Beginne(Angaben, nullptr) + form.Nimm(Paket(0), nullptr);
+    for (int i = 1; i < 6; ++i) {
+        Messpaket paket = Paket(i);
+        for (int n = 0; n < 4000; ++n)
+            paket.ereignisse.push_back({Messereignisart::Notiz, Zeit(n), Probebeginn, std::to_string(i)});
+        bytes += form.Nimm(paket, nullptr);
+    }
+    const auto leser = Geoeffnet(bytes);
+    EXPECT_EQ(leser->Lies(0)->ereignisse.size(), 10'000U);
 }
 
 } // namespace varnoth

@@ -128,10 +128,13 @@ TEST_F(KurvenspurTest, Only_columns_from_the_one_asked_for_are_drawn_and_as_in_t
         quelle.Nimm(PaketMit(milliseconds(150 * i), 1, seconds(1), static_cast<std::uint16_t>(20 + i % 7)));
     const Spurfeld feld = Feld();
     const auto ganz = Kurvenspur(feld, wahl, abstaende, Tu, 0);
-    const auto rest = Kurvenspur(feld, wahl, abstaende, Tu, 41);
-    for (int x = 0; x < 100; ++x)
-        for (int y = 60; y < 90; ++y)
-            EXPECT_EQ(Bedeckt(rest, x, y), x >= 41 && Bedeckt(ganz, x, y)) << x << ", " << y;
+    const auto rest = Kurvenspur(feld, wahl, abstaende, Tu, 40);
+    for (int y = 60; y < 90; ++y) {
+        for (int x = 0; x < 40; ++x)
+            EXPECT_FALSE(Bedeckt(rest, x, y)) << x << ", " << y;
+        for (int x = 41; x < 100; ++x)
+            EXPECT_EQ(Bedeckt(rest, x, y), Bedeckt(ganz, x, y)) << x << ", " << y;
+    }
 }
 
 TEST_F(KurvenspurTest, A_bit_that_was_always_1_fills_its_row_and_one_that_changed_half_of_it) {

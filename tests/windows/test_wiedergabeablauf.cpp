@@ -250,6 +250,21 @@ TEST_F(WiedergabeablaufTest, Everything_is_as_it_was_when_the_replay_is_left) {
     EXPECT_EQ(Leiste(), nullptr);
 }
 
+TEST_F(WiedergabeablaufTest, Leaving_in_the_middle_of_playing_and_searching_ends_both) {
+    Oeffne(Probe());
+    Klicke("cmdAbspielen");
+    Klicke("cmdEreignisVor");
+    Klicke("cmdAbspielen");
+    Verlasse();
+    int takte = 0;
+    QTimer uhrwerk;
+    QObject::connect(&uhrwerk, &QTimer::timeout, [&] { ++takte; });
+    uhrwerk.start(60); // slower than the bar's own
+    EXPECT_TRUE(pruefung::WarteBis([&] { return takte == 4; }));
+    EXPECT_FALSE(modDaten::IstAnderesGezeigt());
+    EXPECT_EQ(Titel(0), "1. Optikteil offline");
+}
+
 TEST_F(WiedergabeablaufTest, Live_data_rests_meanwhile_and_goes_on_afterwards) {
     SchliesseAn({32, 0, 0, 0});
     Fenster().Autostart();
