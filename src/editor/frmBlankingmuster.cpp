@@ -24,6 +24,7 @@ constexpr auto Abschnitt = "frmBlankingmuster";
 constexpr std::int16_t TextVonNach = 9863;
 constexpr std::int16_t TextErstesOptikteil = 5200;
 constexpr std::int16_t TextAnzahlGeblankter = 4019;
+constexpr std::int16_t TextVorschlag = 6471;
 
 std::int32_t Register(std::int16_t optikteil, std::int16_t adresse) {
     return modDaten::HoleRegister(Spezifisch, adresse, optikteil);
@@ -91,6 +92,12 @@ void frmBlankingmuster::InitFormBlankingmuster(std::int32_t Index) {
     anfangs = Gezeigte();
     gemerkte = anfangs;
     verlauf->Beginne();
+}
+
+void frmBlankingmuster::SchlageVor(const Werte& muster) {
+    Zeige(GeblankteAusMuster(muster, ui->BeamBar1->Strahlanzahl()));
+    verlauf->Merke();
+    setWindowTitle(windowTitle() + QStringLiteral(" – ") + QString::fromStdString(LadeText(TextVorschlag)));
 }
 
 /// What one movement of the mouse or one key has blanked is one step.

@@ -25,6 +25,9 @@ public:
     /// Takes over the optical part (0..3) that is edited: its beams, its resolution and its pattern.
     void InitFormBlankingmuster(std::int32_t Index);
 
+    /// Shows another pattern (32 registers) as a change of the user's that was suggested to him.
+    void SchlageVor(const Werte& muster);
+
     void done(int ergebnis) override;
 
 protected:

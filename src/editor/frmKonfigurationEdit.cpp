@@ -20,6 +20,7 @@
 #include <QLineEdit>
 
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace varnoth {
@@ -63,9 +64,11 @@ Werte AusListe(const QVariantList& liste) {
     return werte;
 }
 
-void OeffneBlankingmuster(QWidget* eltern, int optikteil) {
+void OeffneBlankingmuster(QWidget* eltern, int optikteil, const std::optional<Werte>& vorschlag) {
     frmBlankingmuster dialog(eltern);
     dialog.InitFormBlankingmuster(optikteil);
+    if (vorschlag)
+        dialog.SchlageVor(*vorschlag);
     dialog.exec();
 }
 
@@ -100,11 +103,7 @@ void frmKonfigurationEdit::VerbindeKnoepfe() {
     connect(ui->cmdDownLoad, &QPushButton::clicked, this, [this] { Uebernimm(True); });
     connect(ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     for (Optikseite* const seite : optikseiten)
-        connect(seite, &Optikseite::BlankingmusterVerlangt, this, [this, seite](int teil) {
-            OeffneBlankingmuster(this, teil);
-            seite->AktualisiereMarken();
-            verlauf->Merke();
-        });
+        connect(seite, &Optikseite::BlankingmusterVerlangt, this, [this](int teil) { OeffneBlanking(teil); });
     connect(ui->picOptions_5, &Kommunikationsseite::ReihenfolgeVerlangt, this, [this] {
         OeffneReihenfolge(this);
         ui->picOptions_5->AktualisiereMarken();
@@ -240,6 +239,24 @@ void frmKonfigurationEdit::SucheGeraet() {
         done(*schliesseMit);
     else if (gefunden)
         ErlaubeDownload();
+    if (!schliesseMit && umfeld.blankingvorschlag)
+        ZeigeBlankingvorschlag();
+}
+
+void frmKonfigurationEdit::OeffneBlanking(int teil, const std::optional<Werte>& vorschlag) {
+    OeffneBlankingmuster(this, teil, vorschlag);
+    optikseiten.at(static_cast<std::size_t>(teil))->AktualisiereMarken();
+    verlauf->Merke();
+}
+
+/// On the page of its part; a part that is not there has none.
+void frmKonfigurationEdit::ZeigeBlankingvorschlag() {
+    const auto vorschlag = std::exchange(umfeld.blankingvorschlag, {});
+    QWidget* const seite = optikseiten.at(static_cast<std::size_t>(vorschlag->teil));
+    if (ui->tbsOptions->indexOf(seite) < 0)
+        return;
+    ui->tbsOptions->setCurrentWidget(seite);
+    OeffneBlanking(vorschlag->teil, vorschlag->muster);
 }
 
 void frmKonfigurationEdit::ErlaubeDownload() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "abbild.h"
+#include "blankingvorschlag.h"
 #include "boolean.h"
 #include "eingabedialog.h"
 
@@ -24,6 +25,7 @@ class Verlauf;
 struct Editorumfeld {
     bool zeigeUebertrageneWerte = false; ///< labels beside the lists show the values that selections send
     std::function<void(bool startbar)> autosendStartbar{}; ///< hears whether sending can be started
+    std::optional<Blankingvorschlag> blankingvorschlag{};  ///< is shown in its sub-editor at once
 };
 
 /// Edits the configuration in the register image: filled when it begins, written back by the two buttons that
@@ -59,6 +61,8 @@ private:
     QString Aenderung();
     void Uebernimm(Boolean mitDownload);
     void SucheGeraet();
+    void OeffneBlanking(int teil, const std::optional<Werte>& vorschlag = {});
+    void ZeigeBlankingvorschlag();
     void ErlaubeDownload();
     void GibPortFrei();
 

@@ -7,6 +7,8 @@
 
 namespace varnoth {
 
+struct Strahlbericht;
+
 /// What the windows of the past ask of the program around them.
 class Messanbieter {
 public:
@@ -36,6 +38,8 @@ public:
     virtual bool Schreibe(const std::string& pfad, const std::string& bytes) = 0;
     /// Opens the blanking editor of an optical part with a pattern (32 registers) as a suggestion.
     virtual void SchlageBlankingVor(int teil, const Werte& muster) = 0;
+    /// Shows the report with a section about beams.
+    virtual void BerichteStrahlen(const Strahlbericht& /*abschnitt*/) {}
 };
 
 } // namespace varnoth

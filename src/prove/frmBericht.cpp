@@ -47,6 +47,8 @@ frmBericht::frmBericht(Berichtsumfeld neues, QWidget* parent)
     LokalisiereForm(*this);
     for (const auto& [eingabe, schluessel] : Eingaben())
         eingabe->setText(QString::fromStdString(DieEinstellungen().LiesText(Abschnittname, schluessel, "")));
+    ui->chkStrahlstatistik->setVisible(umfeld.strahlen.has_value());
+    ui->chkStrahlstatistik->setChecked(umfeld.strahlen && umfeld.mitStrahlen);
     Verbinde();
     StelleFensterHer(*this, Abschnittname);
     Zeige();
@@ -64,6 +66,7 @@ void frmBericht::Verbinde() {
     connect(verzug, &QTimer::timeout, this, [this] { Zeige(); });
     for (const auto& [eingabe, schluessel] : Eingaben())
         connect(eingabe, &QLineEdit::textEdited, verzug, qOverload<>(&QTimer::start));
+    connect(ui->chkStrahlstatistik, &QCheckBox::toggled, this, [this] { Zeige(); });
     connect(ui->cmdDrucken, &QPushButton::clicked, this, [this] { DruckeAufPapier(); });
     connect(ui->cmdPdf, &QPushButton::clicked, this, [this] { SpeicherePdf(); });
     connect(ui->cmdHtml, &QPushButton::clicked, this,
@@ -82,6 +85,8 @@ Berichtsangaben frmBericht::Angaben() const {
     angaben.anlage = ui->txtAnlage->text().toStdString();
     angaben.maschine = ui->txtMaschine->text().toStdString();
     angaben.person = ui->txtPerson->text().toStdString();
+    if (ui->chkStrahlstatistik->isChecked())
+        angaben.strahlen = umfeld.strahlen;
     return angaben;
 }
 

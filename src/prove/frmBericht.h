@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -45,6 +46,8 @@ struct Berichtsumfeld {
     std::function<QStringList()> drucker{};
     /// Lets the user choose and set up a printer in a dialog above a window; false when he did not.
     std::function<bool(QPrinter& drucker, QWidget& ueber)> waehleDrucker{};
+    std::optional<Strahlbericht> strahlen{}; ///< a section that the user may add; nothing: he is not asked
+    bool mitStrahlen = false;                ///< whether it is there at first
 };
 
 /// Shows the report about the configuration in use as it goes to paper, prints and saves it. Plant, machine

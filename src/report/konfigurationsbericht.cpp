@@ -79,8 +79,8 @@ public:
           abweichungen(Abweichungen(inhalt)) {}
 
     std::string Dokument() const {
-        const std::string koerper =
-            Kopf() + Steuergeraet() + Optikteile() + Kommunikationsteil() + Unterschrift() + Anhang();
+        const std::string koerper = Kopf() + Steuergeraet() + Optikteile() + Kommunikationsteil() +
+                                    Strahlteil() + Unterschrift() + Anhang();
         return "<!DOCTYPE html>\n<html lang=\"" + std::string(sprache == Deutsch ? "de" : "en") +
                "\">\n<head>\n<meta charset=\"utf-8\">\n" + Element("title", Text(TextTitel)) + "\n" +
                Element("style", Stil()) + "\n" + Element("style", Seitenstil()) + "\n</head>\n<body>\n" +
@@ -240,6 +240,10 @@ private:
                            Paar(TextUebertragbar, bytes),
                        R"(border="1" cellspacing="0" cellpadding="3" width="100%")") +
                "\n" + Element("p", Text(TextFormel)) + "\n";
+    }
+
+    std::string Strahlteil() const {
+        return angaben.strahlen ? Strahlabschnitt(*angaben.strahlen, sprache) : std::string();
     }
 
     /// One line of text, for a page may end between two, even of one row of a table.

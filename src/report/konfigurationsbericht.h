@@ -1,10 +1,12 @@
 #pragma once
 
 #include "abbild.h"
+#include "strahlbericht.h"
 #include "texte.h"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,6 +29,7 @@ struct Berichtsangaben {
     std::array<std::string, AnzahlOptikteile>
         teilzustaende{}; ///< what each optical part last said of its own
     std::string programmversion{};
+    std::optional<Strahlbericht> strahlen{}; ///< a section about the beams over a time
 };
 
 /// The document. The same image, apart from what is measured at the moment, and the same other arguments

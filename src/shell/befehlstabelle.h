@@ -61,6 +61,11 @@ public:
     /// Offers looks and beam colours.
     virtual void BieteDarstellung() = 0;
     virtual void ZeigeBusprotokoll() = 0;
+    virtual void ZeigeStrahlverlauf() = 0;
+    /// Opens the blanking editor with the pattern that the beam history suggests.
+    virtual void BearbeiteBlankingvorschlag() = 0;
+    /// Shows the report with the section about beams that the beam history has handed over.
+    virtual void ZeigeStrahlbericht() = 0;
     /// Asks for a record and replays it.
     virtual void OeffneAufzeichnung() = 0;
     /// Replays the record that came from outside first.

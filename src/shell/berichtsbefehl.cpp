@@ -88,7 +88,7 @@ bool WaehleDrucker(QPrinter& drucker, QWidget& ueber) {
 
 } // namespace
 
-void ZeigeBericht(QWidget* eltern, const std::function<void()>& nachImport) {
+void ZeigeBericht(QWidget* eltern, const std::function<void()>& nachImport, const Strahlzusatz& zusatz) {
     const auto importiere = [&nachImport] {
         if (ImportiereKonfigurationstext())
             nachImport();
@@ -98,7 +98,9 @@ void ZeigeBericht(QWidget* eltern, const std::function<void()>& nachImport) {
                 .speichere = SpeichereDokument,
                 .importiereText = importiere,
                 .drucker = QPrinterInfo::availablePrinterNames,
-                .waehleDrucker = WaehleDrucker},
+                .waehleDrucker = WaehleDrucker,
+                .strahlen = zusatz.strahlen,
+                .mitStrahlen = zusatz.mitStrahlen},
                eltern)
         .exec();
 }

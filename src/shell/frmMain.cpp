@@ -16,6 +16,7 @@
 #include "seitenjetzt.h"
 #include "sicherungsablauf.h"
 #include "standardkonfiguration.h"
+#include "strahlablauf.h"
 #include "trace.h"
 #include "ui_frmMain.h"
 #include "verbindungsablauf.h"
@@ -96,6 +97,8 @@ frmMain::frmMain(const QString& programmordner)
             }});
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
+    strahlen =
+        std::make_unique<Strahlablauf>(*messung, *ablauf, [this](Befehl befehl) { befehle.Klick(befehl); });
     aufzeichnung = MacheAufzeichnungsablauf();
     ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });

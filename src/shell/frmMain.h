@@ -33,6 +33,7 @@ class Ereignisablauf;
 class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
+class Strahlablauf;
 class frmDocument;
 class Erscheinungsbild;
 class Werkzeugleiste;
@@ -180,7 +181,7 @@ private:
     void OeffneUebergebeneDateien() override;
     void ZeigeSicherungen() override;
     void OeffneSicherung() override;
-    void ZeigeBericht() override { liveDatenPassen = !ablauf->Berichte(); }
+    void ZeigeBericht() override;
     void ZeigeVergleich() override;
     void LiesGeraetZumVergleich() override;
     void ZeigeVerbindung(bool suche) override;
@@ -189,6 +190,9 @@ private:
     void PruefeLeitung() override;
     void BieteDarstellung() override;
     void ZeigeBusprotokoll() override;
+    void ZeigeStrahlverlauf() override;
+    void BearbeiteBlankingvorschlag() override;
+    void ZeigeStrahlbericht() override;
     void OeffneAufzeichnung() override;
     void OeffneUebergebeneAufzeichnung() override;
     void VerlasseWiedergabe() override;
@@ -217,6 +221,7 @@ private:
     std::unique_ptr<Busablauf> bus;
     std::unique_ptr<Aufzeichnungsablauf> aufzeichnung;
     std::unique_ptr<Messablauf> messung;
+    std::unique_ptr<Strahlablauf> strahlen;
     std::unique_ptr<Ereignisablauf> ereignisse;       ///< comes after the past that it shows
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;

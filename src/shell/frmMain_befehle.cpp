@@ -22,6 +22,7 @@
 #include "qttexte.h"
 #include "schnittstelle.h"
 #include "sicherungsablauf.h"
+#include "strahlablauf.h"
 #include "texte.h"
 #include "trace.h"
 #include "transaktionen.h"
@@ -175,6 +176,7 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     bus->Lokalisiere();
     aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
+    strahlen->Lokalisiere();
     ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
@@ -243,6 +245,22 @@ void frmMain::BieteDarstellung() {
 
 void frmMain::ZeigeBusprotokoll() {
     bus->Zeige();
+}
+
+void frmMain::ZeigeBericht() {
+    liveDatenPassen = !strahlen->Berichte(false);
+}
+
+void frmMain::ZeigeStrahlbericht() {
+    liveDatenPassen = !strahlen->Berichte(true);
+}
+
+void frmMain::ZeigeStrahlverlauf() {
+    strahlen->Zeige();
+}
+
+void frmMain::BearbeiteBlankingvorschlag() {
+    strahlen->BearbeiteVorschlag();
 }
 
 std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {

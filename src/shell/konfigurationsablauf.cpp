@@ -51,12 +51,15 @@ void Konfigurationsablauf::MacheNeue() {
         Zeige();
 }
 
-bool Konfigurationsablauf::Berichte() {
+bool Konfigurationsablauf::Berichte(const Strahlzusatz* zusatz) {
     bool ersetzt = false;
-    ZeigeBericht(&teile.fenster, [this, &ersetzt] {
-        ersetzt = true;
-        Zeige();
-    });
+    ZeigeBericht(
+        &teile.fenster,
+        [this, &ersetzt] {
+            ersetzt = true;
+            Zeige();
+        },
+        zusatz != nullptr ? *zusatz : Strahlzusatz{});
     return ersetzt;
 }
 
@@ -80,7 +83,7 @@ bool Konfigurationsablauf::FrageNachKonfiguration(const std::optional<Verbindung
     return true;
 }
 
-void Konfigurationsablauf::Bearbeite() {
+void Konfigurationsablauf::Bearbeite(const Blankingvorschlag* vorschlag) {
     const bool gewaehlt = HatStrahlen() || FrageNachKonfiguration();
     Zeige();
     if (!gewaehlt || !HatStrahlen())
@@ -88,7 +91,8 @@ void Konfigurationsablauf::Bearbeite() {
     frmKonfigurationEdit editor(&teile.fenster);
     editor.InitKonfiguration(
         {.zeigeUebertrageneWerte = teile.menue.UebertragenerWert(),
-         .autosendStartbar = [this](bool startbar) { teile.menue.SetzeAutosendWaehlbar(startbar); }});
+         .autosendStartbar = [this](bool startbar) { teile.menue.SetzeAutosendWaehlbar(startbar); },
+         .blankingvorschlag = vorschlag != nullptr ? std::optional(*vorschlag) : std::nullopt});
     editor.exec();
     modHilfsFunktionen::BerechneZykluszeiten();
     if (editor.GetButtonDownLoad() != False)

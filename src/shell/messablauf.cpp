@@ -95,6 +95,11 @@ void Messablauf::SchlageBlankingVor(int teil, const Werte& muster) {
         blankingweg(teil, muster);
 }
 
+void Messablauf::BerichteStrahlen(const Strahlbericht& abschnitt) {
+    if (berichtsweg)
+        berichtsweg(abschnitt);
+}
+
 void Messablauf::Hoere(const Messdurchgang& durchgang) {
     if (durchgang.uhr - zuletztGesehen >= Vergleichsabstand) {
         zuletztGesehen = durchgang.uhr;

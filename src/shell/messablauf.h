@@ -64,6 +64,11 @@ public:
         blankingweg = std::move(neuer);
     }
 
+    /// Sets what shows the report with a section about beams.
+    void SetzeBerichtsweg(std::function<void(const Strahlbericht& abschnitt)> neuer) {
+        berichtsweg = std::move(neuer);
+    }
+
     const Messquelle& Quelle() override;
     int Quellenzahl() override { return quellenzahl; }
     bool IstWiedergabe() override { return wiedergabe != nullptr; }
@@ -75,6 +80,7 @@ public:
                                               const std::string& name) override;
     bool Schreibe(const std::string& pfad, const std::string& bytes) override;
     void SchlageBlankingVor(int teil, const Werte& muster) override;
+    void BerichteStrahlen(const Strahlbericht& abschnitt) override;
 
 private:
     struct Gezeigtes {
@@ -113,6 +119,7 @@ private:
     int quellenzahl = 1;
     Notizhoerer notizhoerer;
     std::function<void(int, const Werte&)> blankingweg;
+    std::function<void(const Strahlbericht&)> berichtsweg;
     std::vector<Gezeigtes> fenster;
 };
 

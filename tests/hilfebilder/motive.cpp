@@ -27,6 +27,7 @@
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
 #include "frmVerlauf.h"
+#include "frmWasserfall.h"
 #include "leitungspruefung.h"
 #include "motivwiedergabe.h"
 #include "polling.h"
@@ -38,9 +39,11 @@
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "servicetext.h"
+#include "strahlproben.h"
 #include "suchworte.h"
 #include "textmitwerten.h"
 #include "vergleichsanbieter.h"
+#include "wasserfallbild.h"
 #include "zeittext.h"
 
 #include <QCheckBox>
@@ -54,6 +57,7 @@
 #include <QTableView>
 #include <QTreeWidget>
 
+#include <cmath>
 #include <tuple>
 
 namespace varnoth::hilfebilder {
@@ -72,6 +76,7 @@ constexpr QSize Vergleichsgroesse(840, 400);
 constexpr QSize Verbindungsgroesse(760, 480);
 constexpr QSize Berichtsgroesse(840, 600);
 constexpr QSize Protokollgroesse(840, 520);
+constexpr QSize Strahlverlaufgroesse(960, 700);
 constexpr QSize Verlaufsgroesse(840, 520);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
@@ -353,6 +358,45 @@ QImage Protokoll(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+/// Ten minutes of a web that moves to and fro; one beam is dirty, one flickers, and the line failed once.
+void FuelleStrahlverlauf(pruefung::PruefMessanbieter& anbieter) {
+    constexpr int Strahlen = 128;
+    constexpr int Schmutziger = 96;
+    constexpr int Flackernder = 30;
+    constexpr int Durchgaenge = 12000;
+    Abbild& abbild = anbieter.quelle.konfiguration;
+    if (!abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, Strahlen) ||
+        !abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 5))
+        return;
+    strahlproben::Blanke(abbild, 0, {120, 121, 122, 123, 124, 125, 126, 127});
+    anbieter.quelle.angaben.beginn =
+        std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    const strahlproben::Vorhang vorhang = [](int durchgang, int strahl) {
+        const int kante = 50 + static_cast<int>(std::lround(16 * std::sin(durchgang / 900.0)));
+        const bool flackert = strahl == Flackernder && durchgang % 97 < 3;
+        return strahl == Schmutziger || flackert || (strahl >= kante && strahl < kante + 30);
+    };
+    strahlproben::Fuelle(anbieter.quelle, Durchgaenge, Strahlen, vorhang);
+    strahlproben::Fuelle(anbieter.quelle, Durchgaenge, Strahlen, vorhang, 0, std::chrono::seconds(620));
+}
+
+QImage Strahlverlauf(Buehne& buehne) {
+    pruefung::PruefMessanbieter anbieter;
+    FuelleStrahlverlauf(anbieter);
+    frmWasserfall fenster(anbieter);
+    fenster.resize(Strahlverlaufgroesse);
+    fenster.show();
+    auto& bild = Kind<Wasserfallbild>(fenster, "bild");
+    bild.ZeigeAlles();
+    bild.SetzeStelle(Strahlstelle{std::chrono::seconds(700), 96});
+    const auto& tabelle = Kind<QTableView>(fenster, "tblStrahlen");
+    while (tabelle.model()->rowCount() == 0 || Kind<QPushButton>(fenster, "cmdCancel").isVisible()) {
+        DieUmgebung().LasseEreignisseLaufen();
+        DieUmgebung().NutzeWartezeit();
+    }
+    return buehne.BildNach(fenster, Sofort);
+}
+
 /// A recording of a quarter of an hour.
 struct Aufzeichnungszeit : Aufzeichnungsanbieter {
     Aufzeichnungslage Lage() override {
@@ -498,6 +542,7 @@ std::span<const Motiv> AlleMotive() {
         {"frmRegisterliste", Registerliste},
         {"frmBericht", Berichtsfenster},
         {"frmBusprotokoll", Protokoll},
+        {"frmWasserfall", Strahlverlauf},
         {"frmAufzeichnung", Aufzeichnungen},
         {"frmWiedergabe", Wiedergabebild},
         {"frmEreignisse", Ereignisfenster},

@@ -279,4 +279,29 @@ TEST(BerichtTest, The_foot_tells_plant_machine_checksum_and_when_it_was_issued) 
     EXPECT_EQ(Berichtsfuss(Abbild(), {}, Englisch), "Checksum of the configuration: " + summe);
 }
 
+TEST(Konfigurationsbericht, Has_a_section_about_beams_only_when_there_is_one) {
+    EXPECT_THAT(Deutscher(), Not(HasSubstr("Strahlstatistik")));
+    Berichtsangaben angaben = AlleAngaben;
+    angaben.strahlen = Strahlbericht{.zeitraum = "Optikteil 1, von bis",
+                                     .verdacht = {"Strahl 13: <schmutzig>?"},
+                                     .titel = {"Strahl", "Wechsel"},
+                                     .zeilen = {{"13", "7"}},
+                                     .anmerkung = "Der Rest war frei."};
+    const std::string bericht = Deutscher(abbildproben::Vierteilig(), angaben);
+    EXPECT_THAT(bericht, HasSubstr("<h2>Strahlstatistik</h2>"));
+    EXPECT_THAT(bericht, HasSubstr("<p>Optikteil 1, von bis</p>"));
+    EXPECT_THAT(bericht, HasSubstr("<p>Strahl 13: &lt;schmutzig&gt;?</p>"));
+    EXPECT_THAT(bericht, HasSubstr("Der Rest war frei."));
+    EXPECT_THAT(bericht, ContainsRegex("<td[^>]*>13</td><td[^>]*>7</td>"));
+    EXPECT_LT(bericht.find("Strahlstatistik"), bericht.find("Unterschrift"));
+    EXPECT_THAT(Bericht(abbildproben::Vierteilig(), angaben, Englisch),
+                HasSubstr("<h2>Beam statistics</h2>"));
+}
+
+TEST(Konfigurationsbericht, A_section_about_beams_says_that_nothing_is_suspicious) {
+    EXPECT_THAT(Strahlabschnitt({.zeitraum = "jetzt"}, Deutsch), HasSubstr("Nichts Verdächtiges."));
+    EXPECT_THAT(Strahlabschnitt({.zeitraum = "jetzt", .verdacht = {"etwas"}}, Deutsch),
+                Not(HasSubstr("Nichts Verdächtiges.")));
+}
+
 } // namespace varnoth

@@ -27,6 +27,7 @@
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
 #include "frmVerlauf.h"
+#include "frmWasserfall.h"
 #include "leitungspruefung.h"
 #include "mithoeren.h"
 #include "protokollanbieter.h"
@@ -106,6 +107,14 @@ std::unique_ptr<QWidget> Busprotokollfenster() {
     modMithoeren::Endet(Austauschart::Auftrag, LeseAnforderung(1, 5, 1), modMithoeren::Ausgang::Ausgeblieben,
                         true);
     return fenster;
+}
+
+/// A source that calls itself something with tags.
+std::unique_ptr<QWidget> Strahlverlauf() {
+    struct Boeser : PruefMessanbieter {
+        Boeser() { quelle.angaben.bezeichnung = quelle.angaben.seriennummer = TextMitTags; }
+    };
+    return std::make_unique<MitUmfeld<frmWasserfall, Boeser>>();
 }
 
 struct BoeseMitschrift : Ereignisanbieter {
@@ -208,6 +217,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmBericht", Bericht},
         {"frmBlankingmuster", Blankingmuster},
         {"frmBusprotokoll", Busprotokollfenster},
+        {"frmWasserfall", Strahlverlauf},
         {"frmDocument", Ansicht},
         {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
         {"frmEreignisse", Ereignisfenster},

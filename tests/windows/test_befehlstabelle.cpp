@@ -51,6 +51,9 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void ZeigeStrahlverlauf() override { getan = "beam history"; }
+    void BearbeiteBlankingvorschlag() override { getan = "suggested blanking"; }
+    void ZeigeStrahlbericht() override { getan = "report with beams"; }
     void OeffneAufzeichnung() override { getan = "replay"; }
     void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
     void VerlasseWiedergabe() override { getan = "leave replay"; }
@@ -118,6 +121,9 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(152), "search");
     EXPECT_EQ(GetanVon(153), "line check");
     EXPECT_EQ(GetanVon(140), "bus log");
+    EXPECT_EQ(GetanVon(180), "beam history");
+    EXPECT_EQ(GetanVon(181), "suggested blanking");
+    EXPECT_EQ(GetanVon(182), "report with beams");
     EXPECT_EQ(GetanVon(160), "recording");
     EXPECT_EQ(GetanVon(161), "recordings");
     EXPECT_EQ(GetanVon(190), "replay");
@@ -141,6 +147,7 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Vergleich, "Ctrl+D"},
         {Befehl::Verbindung, "Ctrl+Shift+K"},
         {Befehl::Busprotokoll, "Ctrl+L"},
+        {Befehl::Strahlverlauf, "Ctrl+H"},
         {Befehl::Aufzeichnung, "Ctrl+R"},
         {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
         {Befehl::Wiedergabe, "Ctrl+Shift+O"},

@@ -7,6 +7,7 @@
 #include "standtext.h"
 #include "untereditortest.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QPdfWriter>
 #include <QPrintPreviewWidget>
@@ -231,6 +232,28 @@ TEST_F(FrmBerichtTest, The_controller_is_no_source_of_pictures_from_elsewhere) {
     QPdfWriter geraet(ordner.filePath("a.pdf"));
     EXPECT_EQ(Seitenzahl({"<img src=\"/etc/hostname\"><img src=\"http://x/y.png\">", "", "%1 %2"}, geraet),
               1);
+}
+
+TEST_F(FrmBerichtTest, Without_beam_statistics_nobody_is_asked_about_them) {
+    EXPECT_TRUE(Kind<QCheckBox>(Fenster(), "chkStrahlstatistik").isHidden());
+    EXPECT_THAT(Fenster().Html(), Not(HasSubstr("Strahlstatistik")));
+}
+
+TEST_F(FrmBerichtTest, Beam_statistics_are_added_when_they_are_ticked) {
+    const Strahlbericht abschnitt{.zeitraum = "von bis"};
+    for (const bool anfangs : {false, true}) {
+        frmBericht bericht({.angaben = [] { return Berichtsangaben{}; },
+                            .drucker = [] { return QStringList(); },
+                            .strahlen = abschnitt,
+                            .mitStrahlen = anfangs});
+        auto& haken = Kind<QCheckBox>(bericht, "chkStrahlstatistik");
+        EXPECT_FALSE(haken.isHidden());
+        EXPECT_EQ(haken.isChecked(), anfangs);
+        for (const bool an : {true, false}) {
+            haken.setChecked(an);
+            EXPECT_EQ(bericht.Html().find("<h2>Strahlstatistik</h2>") != std::string::npos, an);
+        }
+    }
 }
 
 } // namespace varnoth

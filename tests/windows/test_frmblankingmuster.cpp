@@ -379,4 +379,23 @@ TEST_F(FrmBlankingmusterTest, After_undoing_everything_closing_asks_nothing) {
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
+TEST_F(FrmBlankingmusterTest, A_suggestion_is_shown_as_a_change_and_stored_only_with_OK) {
+    SetzeMuster(Beginn(0x0100, 0));
+    Oeffne();
+    dialog.SchlageVor(Beginn(0x0300, 0));
+    EXPECT_EQ(GezeigteGeblankte(), (std::vector<int>{0, 1}));
+    EXPECT_EQ(dialog.windowTitle(), "Blankingmuster – Vorschlag aus dem Strahlverlauf");
+    EXPECT_EQ(Muster(), Beginn(0x0100, 0));
+    EXPECT_FALSE(modDaten::IstGeaendert());
+    Klicke(dialog, "cmdOK");
+    EXPECT_EQ(Muster(), Beginn(0x0300, 0));
+}
+
+TEST_F(FrmBlankingmusterTest, A_suggestion_for_more_beams_than_there_are_blanks_those_that_are_there) {
+    SetzeMuster(Beginn(0, 0));
+    Oeffne();
+    dialog.SchlageVor(Werte(Blankingregister, 0xFFFF));
+    EXPECT_EQ(GezeigteGeblankte().size(), 20U);
+}
+
 } // namespace varnoth

@@ -1039,4 +1039,41 @@ TEST_F(EditorverlaufTest, What_a_sub_editor_has_stored_is_a_step_of_the_editor) 
     EXPECT_EQ(modDaten::HoleParameter(Kommunikation, kommunikation::Datenblock), vorher);
 }
 
+TEST_F(KonfigurationEditTest, A_suggested_blanking_opens_its_sub_editor_on_the_page_of_its_part_once) {
+    Werte muster(spezifisch::Blankingregister, 0);
+    muster[0] = 0x0700;
+    QStringList gesehene;
+    Oeffne({.blankingvorschlag = Blankingvorschlag{2, muster}});
+    QTimer beobachter;
+    QObject::connect(&beobachter, &QTimer::timeout, dialog.get(), [&] {
+        QWidget* const fenster = QApplication::activeModalWidget();
+        if (fenster == nullptr || fenster == dialog.get() || fenster->objectName() != "frmBlankingmuster")
+            return;
+        gesehene += fenster->findChild<QLabel*>("lblOptikteil")->text() + " auf " +
+                    K<QTabWidget>("tbsOptions").tabText(K<QTabWidget>("tbsOptions").currentIndex());
+        fenster->findChild<QPushButton*>("cmdOK")->click();
+    });
+    beobachter.start(1);
+    dialog->show();
+    ASSERT_TRUE(pruefung::WarteBis([&] { return !gesehene.isEmpty(); }));
+    EXPECT_EQ(gesehene, QStringList("K3 auf K3"));
+    EXPECT_EQ(modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, 2), muster);
+    EXPECT_FALSE(dialog->GetButtonDownLoad()) << "nothing goes to the controller by itself";
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(KonfigurationEditTest, A_suggestion_for_a_part_that_is_not_there_opens_nothing) {
+    SetzeStrahlen({64, 64, 0, 64});
+    Oeffne({.blankingvorschlag = Blankingvorschlag{2, Werte(spezifisch::Blankingregister, 0xFFFF)}});
+    dialog->show();
+    ASSERT_TRUE(pruefung::WarteBis(
+        [&] { return AnzahlAnforderungen() == ZweiVersuche || Bereit(*dialog, "cmdDownLoad"); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::activeModalWidget() == nullptr ||
+                  QApplication::activeModalWidget() == dialog.get(),
+              true);
+    EXPECT_EQ(modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, 2),
+              Werte(spezifisch::Blankingregister, 0));
+}
+
 } // namespace varnoth

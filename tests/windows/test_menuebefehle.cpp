@@ -187,11 +187,18 @@ TEST(Menuebefehle, Exactly_three_commands_start_live_data_again) {
 }
 
 TEST(Menuebefehle, A_report_and_a_reading_aside_only_pause_live_data) {
-    for (const Befehl befehl : {Befehl::Bericht, Befehl::GeraetVergleichen}) {
+    for (const Befehl befehl : {Befehl::Bericht, Befehl::Strahlbericht, Befehl::GeraetVergleichen}) {
         EXPECT_TRUE(StopptLiveDaten(befehl));
         EXPECT_TRUE(SetztLiveDatenFort(befehl));
         EXPECT_FALSE(StartetLiveDatenWieder(befehl)) << "reading anew would lose what is being edited";
     }
+}
+
+TEST(Menuebefehle, A_suggested_blanking_goes_along_with_live_data_as_the_editor_does) {
+    EXPECT_TRUE(StopptLiveDaten(Befehl::BlankingVorschlagen));
+    EXPECT_TRUE(StartetLiveDatenWieder(Befehl::BlankingVorschlagen));
+    EXPECT_TRUE(ZeigtFenster(Befehl::BlankingVorschlagen));
+    EXPECT_FALSE(StopptLiveDaten(Befehl::Strahlverlauf));
 }
 
 TEST(Menuebefehle, Exactly_these_commands_do_without_a_window) {
