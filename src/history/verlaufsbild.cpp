@@ -314,8 +314,10 @@ void Verlaufsbild::ErneuereGemaltes() {
         if (um > 0)
             gemaltes.scroll(static_cast<int>(-um), 0, gemaltes.rect());
         const std::int64_t neu = jetziges.groesse.width() - um;
-        von = static_cast<int>(std::clamp<std::int64_t>(
-            std::min(neu, zuMalenAb == KeineSpalte ? neu : zuMalenAb - jetziges.erste - 1), 0, neu));
+        const std::int64_t ab = zuMalenAb == KeineSpalte ? neu : std::min(neu, zuMalenAb - jetziges.erste);
+        von = ab < jetziges.groesse.width()
+                  ? static_cast<int>(std::max<std::int64_t>(0, ab - Reichweite(feld.dichte)))
+                  : jetziges.groesse.width();
     } else {
         gemaltes = QPixmap(jetziges.groesse);
     }

@@ -128,6 +128,10 @@ void ZeichneZeilen(QPainter& maler, const Spurfeld& spur, const Verlaufsblatt& b
 
 } // namespace
 
+int Reichweite(double dichte) {
+    return static_cast<int>(std::ceil(Zeichenradius * dichte)) + 1;
+}
+
 double Randbreite(const Verlaufsblatt& blatt, const QFontMetricsF& masse) {
     double breite =
         std::max(masse.horizontalAdvance(Zahl(blatt.werte.oben)), masse.horizontalAdvance("00000"));
@@ -178,7 +182,7 @@ void ZeichneSpuren(QPainter& maler, const Spaltenspeicher& spalten, const std::v
         Fuelle(maler, Bandspur(spur, blatt.wahl, blatt.abstaende, reihe, von), farbe);
     }
     // What begins before and reaches over is cut off, not left out.
-    const int ab = std::max(0, von - static_cast<int>(std::ceil(Zeichenradius * feld.dichte)) - 1);
+    const int ab = std::max(0, von - Reichweite(feld.dichte));
     for (const Messreihe reihe : blatt.wahl.Reihen()) {
         Fuelle(maler, Kurvenspur(spur, blatt.wahl, blatt.abstaende, reihe, ab),
                FarbeDerReihe(palette, reihe));

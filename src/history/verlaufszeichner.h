@@ -37,6 +37,9 @@ double Legendenhoehe(const Verlaufsblatt& blatt, const QFontMetricsF& masse, dou
 /// Where everything lies in a picture of that size.
 Verlaufsfeld FeldFuer(const Verlaufsblatt& blatt, const QFontMetricsF& masse, QSizeF groesse, double dichte);
 
+/// How many columns to both sides what belongs to a column reaches over: signs, the width of a step.
+int Reichweite(double dichte);
+
 /// Draws curves, bands, rows and gaps from column `von` on into a picture of device pixels, whose upper left
 /// corner is that of the field of the curves. What was drawn there before is replaced.
 void ZeichneSpuren(QPainter& maler, const Spaltenspeicher& spalten, const std::vector<Spaltensinn>& sinn,
@@ -69,7 +72,7 @@ private:
     QFontMetricsF masse;
 };
 
-/// Tells which curve a place in the legend belongs to, of that many pixels of width.
+/// What the values on the axis are: beams, millimetres.
 QString Wertachsenname(const Verlaufswahl& wahl);
 
 } // namespace varnoth
