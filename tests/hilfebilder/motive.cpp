@@ -76,7 +76,7 @@ constexpr QSize Vergleichsgroesse(840, 400);
 constexpr QSize Verbindungsgroesse(760, 480);
 constexpr QSize Berichtsgroesse(840, 600);
 constexpr QSize Protokollgroesse(840, 520);
-constexpr QSize Strahlverlaufgroesse(960, 700);
+constexpr QSize Strahlverlaufgroesse(880, 680);
 constexpr QSize Verlaufsgroesse(840, 520);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
