@@ -58,6 +58,8 @@ public:
 
     /// Nothing that is shown holds any longer: no values and no status until the next ones come.
     void VerwirfWerte();
+    /// Shows at once what else waits until the line is busy.
+    void ZeigeFaelliges();
     /// Whether what is shown is of another time, as in a replay, and so does not become old.
     void SetzeZeitlos(bool ob);
 
@@ -101,7 +103,6 @@ private:
     void RichteWerteEin();
     void RichteAnsagenEin();
     void VergissAnzeige();
-    void ZeigeFaelliges();
     void ZeigeScan();
     void ZeigeWerte();
     void ZeigeStatus(const QString& text);

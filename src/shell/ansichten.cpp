@@ -189,6 +189,7 @@ void Ansichten::ZeigeDurchgang(int optikteil) {
     ansicht.StrahlzustaendeLiegenVor();
     ansicht.BlankingBekannt();
     ansicht.MesswerteLiegenVor();
+    ansicht.ZeigeFaelliges();
 }
 
 void Ansichten::VerwirfWerte(int optikteil) {

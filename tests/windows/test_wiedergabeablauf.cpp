@@ -455,6 +455,7 @@ TEST_F(WiedergabeablaufTest, Replay_shows_the_same_pictures_as_live_did) {
         }
         umgebung.uhr += 200ms;
         modPolling::PollingZyklus();
+        umgebung.ErledigeAufgeschobenes();
         live.push_back(bilder());
     }
     umgebung.uhr += 200ms;
