@@ -75,7 +75,8 @@ TEST_F(EreignisablaufTest, Commands_messages_backups_and_live_data_become_events
     EXPECT_TRUE(Geschah(Ereignisart::Befehl, "Englisch") || Geschah(Ereignisart::Befehl, "&Englisch"));
     ZeigeWarnung("kein Platz");
     EXPECT_TRUE(Geschah(Ereignisart::Meldung, "kein Platz"));
-    EXPECT_EQ(DieSicherungen()->Lege(Standardkonfiguration(), {.zeit = std::chrono::system_clock::now()}), "");
+    EXPECT_EQ(DieSicherungen()->Lege(Standardkonfiguration(), {.zeit = std::chrono::system_clock::now()}),
+              "");
     EXPECT_TRUE(Geschah(Ereignisart::Gesichert));
     modMesshoerer::Melde(Liveereignisart::Begonnen);
     EXPECT_TRUE(Geschah(Ereignisart::LiveBegonnen));
