@@ -1,5 +1,5 @@
-// Kills a recording at random moments and looks at what it has left: abschuesse [--kills N] [--seed S]. Each file has to
-// open, and of what was handed over earlier than a second before the kill nothing may be missing.
+// Kills a recording at random moments and looks at what it has left: abschuesse [--kills N] [--seed S]. Each
+// file has to open, and of what was handed over earlier than a second before the kill nothing may be missing.
 
 #include "aufzeichnung.h"
 #include "csvform.h"
@@ -174,7 +174,8 @@ Befund Betrachte(const std::string& ordner, std::uint32_t uebergeben, std::uint3
     for (const std::string& satz : {Pruefe(csv, mindestens, "csv"), Pruefe(vrec, mindestens, "vrec")})
         if (!satz.empty())
             befund.fehler = satz;
-    befund.fehlen = uebergeben - static_cast<std::uint32_t>(std::min({csv.size(), vrec.size(), std::size_t{uebergeben}}));
+    befund.fehlen =
+        uebergeben - static_cast<std::uint32_t>(std::min({csv.size(), vrec.size(), std::size_t{uebergeben}}));
     return befund;
 }
 
@@ -226,9 +227,10 @@ int Laufe(int anzahl, unsigned saat) {
         if (!befund.fehler.empty() && ++fehler != 0)
             std::printf("killed after %d ms: %s\n", static_cast<int>(wann.count()), befund.fehler.c_str());
     }
-    std::printf("%d kills, %llu passes handed over, %d files: at most %u passes (%lld ms) missing, %d failures\n",
-                anzahl, static_cast<unsigned long long>(durchgaenge), dateien, groessterVerlust,
-                static_cast<long long>(groessterVerlust * Durchgangszeit.count()), fehler);
+    std::printf(
+        "%d kills, %llu passes handed over, %d files: at most %u passes (%lld ms) missing, %d failures\n",
+        anzahl, static_cast<unsigned long long>(durchgaenge), dateien, groessterVerlust,
+        static_cast<long long>(groessterVerlust * Durchgangszeit.count()), fehler);
     return fehler == 0 && durchgaenge > 0 ? 0 : 1;
 }
 
