@@ -180,7 +180,8 @@ TEST_F(AufzeichnungImBetrieb, Every_pass_and_beam_that_the_controller_has_sent_i
     EXPECT_EQ(alle.front().anzahlTeile, 4);
 }
 
-TEST_F(AufzeichnungImBetrieb, A_line_that_fails_a_plug_that_is_pulled_and_a_restart_leave_gaps_and_no_wrong_pass) {
+TEST_F(AufzeichnungImBetrieb,
+       A_line_that_fails_a_plug_that_is_pulled_and_a_restart_leave_gaps_and_no_wrong_pass) {
     ZeichneAuf({"--fault", "crc:5@0x03", "--fault", "silence:2@0x03"});
     ASSERT_TRUE(LaufeDurchgaenge(25));
     geraet->Befehl("restart");
@@ -196,7 +197,8 @@ TEST_F(AufzeichnungImBetrieb, A_line_that_fails_a_plug_that_is_pulled_and_a_rest
     const auto alle = Alle(*leser);
     EXPECT_GE(alle.size(), 70U);
     EXPECT_LE(Vergleiche(alle), 15U);
-    EXPECT_THAT(Ereignisse(*leser), testing::ElementsAre(Messereignisart::Verloren, Messereignisart::Zurueck));
+    EXPECT_THAT(Ereignisse(*leser),
+                testing::ElementsAre(Messereignisart::Verloren, Messereignisart::Zurueck));
 }
 
 TEST_F(AufzeichnungImBetrieb, It_goes_on_through_a_language_switch_and_an_end_of_live_data) {
