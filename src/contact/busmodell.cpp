@@ -4,6 +4,7 @@
 #include "busworte.h"
 #include "texte.h"
 #include "tipptext.h"
+#include "zeitpunkt.h"
 
 #include <QGuiApplication>
 

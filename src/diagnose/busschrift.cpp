@@ -2,8 +2,10 @@
 
 #include "busrahmen.h"
 #include "busworte.h"
+#include "csvzeile.h"
 #include "texte.h"
 #include "zahlen.h"
+#include "zeitpunkt.h"
 
 #include <vector>
 
@@ -13,22 +15,6 @@ namespace {
 
 // Number, time, direction, function, register, address, values, sent, received, round trip, result.
 constexpr std::int16_t Spaltentexte[] = {8455, 8403, 8404, 8405, 8406, 8456, 8407, 8453, 8454, 8457, 8409};
-
-constexpr const char* Bytefolgemarke = "\xEF\xBB\xBF"; // by which spreadsheets know UTF-8
-
-char Trenner() {
-    return GetSprachoffset() == Englisch ? ',' : ';';
-}
-
-std::string Csvzeile(const std::vector<std::string>& felder) {
-    std::string zeile;
-    for (std::size_t i = 0; i < felder.size(); ++i) {
-        if (i > 0)
-            zeile += Trenner();
-        zeile += CsvFeld(felder[i]);
-    }
-    return zeile + "\r\n";
-}
 
 std::vector<std::string> Ueberschriften() {
     std::vector<std::string> texte;
@@ -70,21 +56,8 @@ std::string Textzeile(const Busaustausch& austausch, std::chrono::system_clock::
 
 } // namespace
 
-std::string CsvFeld(std::string_view wert) {
-    constexpr std::string_view Formelzeichen = "=+-@\t\r";
-    std::string feld;
-    if (!wert.empty() && Formelzeichen.find(wert.front()) != std::string_view::npos)
-        feld = "'";
-    feld += wert;
-    if (feld.find_first_of("\";,\r\n") == std::string::npos)
-        return feld;
-    for (auto stelle = feld.find('"'); stelle != std::string::npos; stelle = feld.find('"', stelle + 2))
-        feld.insert(stelle, 1, '"');
-    return "\"" + feld + "\"";
-}
-
 std::string Schriftkopf(Busformat format) {
-    return format == Busformat::Csv ? Bytefolgemarke + Csvzeile(Ueberschriften()) : std::string();
+    return format == Busformat::Csv ? CsvMarke + Csvzeile(Ueberschriften()) : std::string();
 }
 
 std::string Schriftzeile(Busformat format, const Busaustausch& austausch,

@@ -3,7 +3,6 @@
 #include "busprotokoll.h"
 
 #include <string>
-#include <string_view>
 
 /// The log as a file (UTF-8).
 namespace varnoth {
@@ -11,10 +10,6 @@ namespace varnoth {
 /// Text for reading, or values for a spreadsheet. What stands between values, and before decimals, is what
 /// spreadsheets of the language expect: comma and point, in German semicolon and comma.
 enum class Busformat { Text, Csv };
-
-/// A value as a field of CSV: in quotes where it must be, and with an apostrophe in front where a spreadsheet
-/// would take it for a formula.
-std::string CsvFeld(std::string_view wert);
 
 /// What the file begins with: what its columns are.
 std::string Schriftkopf(Busformat format);

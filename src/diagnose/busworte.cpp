@@ -11,11 +11,11 @@
 #include "textmitwerten.h"
 #include "textschutz.h"
 #include "zahlen.h"
+#include "zeitpunkt.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <ctime>
 #include <utility>
 
 namespace varnoth {
@@ -116,28 +116,6 @@ std::string Werteworte(const Registerbezug& bezug, const Werte& werte, int optik
                     LesartFuer(modDaten::DasAbbild(), name->bereich, std::max(optikteil, 0)));
 }
 
-std::tm Ortszeit(std::chrono::system_clock::time_point zeit) {
-    const std::time_t sekunden = std::chrono::system_clock::to_time_t(zeit);
-    std::tm teile{};
-    localtime_r(&sekunden, &teile);
-    return teile;
-}
-
-std::string Zeitmuster(std::chrono::system_clock::time_point zeit, const char* muster, char trenner) {
-    const auto ganze = std::chrono::floor<std::chrono::seconds>(zeit);
-    const std::tm teile = Ortszeit(ganze);
-    std::array<char, 32> text{};
-    std::strftime(text.data(), text.size(), muster, &teile);
-    const auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(zeit - ganze).count();
-    std::array<char, 8> bruch{};
-    std::snprintf(bruch.data(), bruch.size(), "%c%03d", trenner, static_cast<int>(ms));
-    return std::string(text.data()) + bruch.data();
-}
-
-char Dezimaltrenner() {
-    return GetSprachoffset() == Englisch ? '.' : ',';
-}
-
 bool Antwortete(const Busaustausch& austausch) {
     return austausch.ergebnis == Austauschergebnis::Beantwortet;
 }
@@ -235,14 +213,6 @@ std::string Ergebnistext(const Busaustausch& austausch) {
         code && austausch.ergebnis == Austauschergebnis::Abgelehnt)
         text = LadeTextMit(TextAblehnungscode, {std::to_string(*code)});
     return austausch.art == Austauschart::Klaerung ? LadeTextMit(TextKlaerung, {text}) : text;
-}
-
-std::string Uhrzeittext(std::chrono::system_clock::time_point zeit) {
-    return Zeitmuster(zeit, "%H:%M:%S", Dezimaltrenner());
-}
-
-std::string Zeitpunkttext(std::chrono::system_clock::time_point zeit) {
-    return Zeitmuster(zeit, "%Y-%m-%d %H:%M:%S", '.');
 }
 
 std::string Einzelheiten(const Busaustausch& austausch, std::chrono::system_clock::time_point zeit) {

@@ -27,11 +27,6 @@ std::string Umlauftext(const Busaustausch& austausch);
 std::string Umlaufzahl(const Busaustausch& austausch);
 std::string Ergebnistext(const Busaustausch& austausch);
 
-/// Local time to the millisecond, as readers of the language write it: "11:17:23,456".
-std::string Uhrzeittext(std::chrono::system_clock::time_point zeit);
-/// The same with the date before it, the same in every language: "2026-11-22 11:17:23.456".
-std::string Zeitpunkttext(std::chrono::system_clock::time_point zeit);
-
 /// All of it, line by line, for whoever looks at one exchange.
 std::string Einzelheiten(const Busaustausch& austausch, std::chrono::system_clock::time_point zeit);
 

@@ -27,8 +27,7 @@ int Millisekunden(Zeit dauer) {
 }
 
 bool KommtEtwas(Zeit hoechstens) {
-    WarteAufZeichen(Millisekunden(hoechstens), True);
-    return CommPortBytesAvailable() > 0;
+    return WarteAufZeichen(Millisekunden(hoechstens), True);
 }
 
 /// Reads until nothing has come for so long, or for 50 ms.

@@ -1,7 +1,7 @@
 #include "supportbericht.h"
 
-#include "busworte.h"
 #include "ereignisse.h"
+#include "ereignisworte.h"
 #include "leitungsstatistik.h"
 #include "passwortschutz.h"
 #include "seriennummer.h"
@@ -9,7 +9,9 @@
 #include "textmitwerten.h"
 #include "textschutz.h"
 #include "transaktionen.h"
+#include "zeitpunkt.h"
 
+#include <algorithm>
 #include <iterator>
 #include <sstream>
 
@@ -21,6 +23,7 @@ constexpr std::int16_t TextTitel = 8475, TextVersionen = 8476, TextVerbindung = 
                        TextZaehlungen = 8479, TextEreignisse = 8480, TextEinstellungen = 8481,
                        TextProtokoll = 8400, TextKeines = 8483;
 constexpr std::int16_t Zaehlungstexte[] = {8421, 8430, 8422, 8487, 8426}; // in the order of Austauschende
+constexpr std::uint64_t HoechstensEreignisse = 500;
 
 std::string Abschnitt(std::int16_t titel, std::string inhalt) {
     if (inhalt.empty())
@@ -46,9 +49,11 @@ std::string Zaehlungen() {
 }
 
 std::string Ereignisse() {
+    const Ereignisspeicher& alle = modEreignisse::Alle();
+    std::uint64_t nummer = std::max(alle.Erstes(), alle.Ende() - std::min(alle.Ende(), HoechstensEreignisse));
     std::string zeilen;
-    for (const auto& ereignis : modEreignisse::Alle())
-        zeilen += Zeitpunkttext(ereignis.zeit) + "  " + ereignis.text + "\n";
+    for (; nummer < alle.Ende(); ++nummer)
+        zeilen += Zeitpunkttext(alle.Hole(nummer).zeit) + "  " + Ereignissatz(alle.Hole(nummer)) + "\n";
     return zeilen;
 }
 

@@ -59,8 +59,7 @@ bool Empfange(Erkenner& erkenner, std::string& strom) {
     while (!erkenner.Fertig()) {
         const Zeit ende = DieUmgebung().Uhr() + Antwortzeit;
         WarteAufRest(erkenner.MindestensNoch());
-        WarteAufZeichen(MillisekundenBis(ende), True);
-        if (CommPortBytesAvailable() == 0)
+        if (!WarteAufZeichen(MillisekundenBis(ende), True))
             return false;
         const std::string bytes = CommPortReadInput();
         strom += bytes;
@@ -80,8 +79,7 @@ bool ErwarteIdentAntwort(std::string& strom, Zeit ende) {
             zustand.letzteAntwort = identAntwort;
             return true;
         }
-        WarteAufZeichen(MillisekundenBis(ende), True);
-        if (CommPortBytesAvailable() == 0) {
+        if (!WarteAufZeichen(MillisekundenBis(ende), True)) {
             NimmUngefragtes(std::exchange(strom, {}));
             return false;
         }

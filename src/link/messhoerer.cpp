@@ -41,10 +41,11 @@ void Melde(const Messdurchgang& durchgang) {
 }
 
 void Melde(Liveereignisart art) {
-    if (hoerer.empty())
-        return;
-    const Liveereignis ereignis{
-        .art = art, .zeit = std::chrono::system_clock::now(), .uhr = DieUmgebung().Uhr()};
+    if (!hoerer.empty())
+        Melde(Liveereignis{.art = art, .zeit = std::chrono::system_clock::now(), .uhr = DieUmgebung().Uhr()});
+}
+
+void Melde(const Liveereignis& ereignis) {
     for (Messhoerer* const einer : hoerer)
         einer->Hoere(ereignis);
 }

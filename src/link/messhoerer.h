@@ -42,6 +42,8 @@ bool LaeuftAllein();
 void Melde(const Messdurchgang& durchgang);
 /// Tells what has happened just now.
 void Melde(Liveereignisart art);
+/// Tells what has happened at some time.
+void Melde(const Liveereignis& ereignis);
 
 } // namespace modMesshoerer
 

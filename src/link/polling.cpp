@@ -1,6 +1,7 @@
 #include "polling.h"
 
 #include "austausch.h"
+#include "durchgangsmeldung.h"
 #include "geraetestand.h"
 #include "geraetestatus.h"
 #include "messhoerer.h"
@@ -9,7 +10,6 @@
 #include "schnittstelle.h"
 #include "startzustand.h"
 #include "statusbits.h"
-#include "strahlbits.h"
 #include "texte.h"
 #include "transaktionen.h"
 #include "verbindungsauskunft.h"
@@ -57,30 +57,13 @@ struct Vorlaeufiges {
     std::function<void()> nimmZurueck;
 };
 
-/// A pass that came to its end, and its last exchange: the pass is certain when that is.
-struct Beendeter {
-    unsigned long austausch;
-    Messdurchgang durchgang;
-};
-
 Zustand zustand;
 std::vector<Vorlaeufiges> vorlaeufiges;
-Messdurchgang laufender;         ///< the pass under way, for those who hear of passes
-std::vector<Beendeter> beendete; ///< those that are not certain yet
 PollingZiel* dasZiel = nullptr;
-const Startwert startwert(zustand, vorlaeufiges, laufender, beendete, dasZiel);
-
-void MeldeGewisse() {
-    const auto ungewiss = std::ranges::find_if(
-        beendete, [](const Beendeter& einer) { return einer.austausch > modAustausch::GewissBis(); });
-    std::for_each(beendete.begin(), ungewiss,
-                  [](const Beendeter& einer) { modMesshoerer::Melde(einer.durchgang); });
-    beendete.erase(beendete.begin(), ungewiss);
-}
+const Startwert startwert(zustand, vorlaeufiges, dasZiel);
 
 void MeldeVerlust() {
-    MeldeGewisse();
-    beendete.clear();
+    modDurchgangsmeldung::Verwirf();
     if (!zustand.verloren)
         modMesshoerer::Melde(Liveereignisart::Verloren);
     zustand.verloren = true;
@@ -122,8 +105,7 @@ void SpeichereStrahlen(int teil, std::int16_t anzahl, const Werte& werte) {
 }
 
 void NimmVorlaeufigesZurueck() {
-    MeldeGewisse();
-    beendete.clear();
+    modDurchgangsmeldung::Verwirf();
     for (const auto& eines : std::views::reverse(vorlaeufiges))
         if (eines.austausch > modAustausch::GewissBis())
             eines.nimmZurueck();
@@ -181,24 +163,13 @@ bool LiesParameter(Speicherbereich bereich, std::int16_t adresse, int teil = 0) 
            SpeichereParameter(bereich, adresse, werte, teil);
 }
 
-/// The beam states of a part as those who hear of passes get them: none behind the last beam.
-void MerkeStrahlen(Werte werte, int strahlen, Teilmessung& messung) {
-    werte.resize(std::min(werte.size(), static_cast<std::size_t>((strahlen + 15) / 16)));
-    for (int strahl = strahlen; strahl < static_cast<int>(werte.size()) * 16; ++strahl)
-        SetzeStrahlBit(werte, strahl, false);
-    std::ranges::transform(werte, messung.strahlregister.begin(),
-                           [](std::int32_t wert) { return static_cast<std::uint16_t>(wert); });
-}
-
 bool LiesStrahlen(int teil, LiveAnsicht& ansicht, bool zeigt) {
     const auto anzahl = static_cast<std::int16_t>(GeleseneStrahlregister(Strahlenzahl(teil)));
     Werte werte;
     if (anzahl > 0 && !Lies(Spezifisch, spezifisch::Strahlzustaende, anzahl, werte))
         return false;
     SpeichereStrahlen(teil, anzahl, werte);
-    if (modMesshoerer::HoertJemand())
-        MerkeStrahlen(std::move(werte), Strahlenzahl(teil),
-                      laufender.teile.at(static_cast<std::size_t>(teil)));
+    modDurchgangsmeldung::MerkeStrahlen(teil, std::move(werte));
     if (!zeigt)
         return true;
     ansicht.StrahlzustaendeLiegenVor();
@@ -209,21 +180,10 @@ bool LiesStrahlen(int teil, LiveAnsicht& ansicht, bool zeigt) {
 bool LiesMesswerte(int teil, LiveAnsicht& ansicht, bool zeigt) {
     if (!LiesParameter(Spezifisch, spezifisch::Messwerte, teil))
         return false;
-    Teilmessung& messung = laufender.teile.at(static_cast<std::size_t>(teil));
-    std::ranges::transform(HoleParameter(Spezifisch, spezifisch::Messwerte, teil), messung.werte.begin(),
-                           [](std::int32_t wert) { return static_cast<std::uint16_t>(wert); });
-    messung.gemessen = true;
+    modDurchgangsmeldung::MerkeMesswerte(teil);
     if (zeigt)
         ansicht.MesswerteLiegenVor();
     return true;
-}
-
-/// What the status that was read just now tells of a part.
-void MerkeStatus(int teil) {
-    Teilmessung& messung = laufender.teile.at(static_cast<std::size_t>(teil));
-    messung.status = static_cast<std::uint16_t>(HoleRegister(Spezifisch, spezifisch::Optikteilstatus, teil));
-    messung.vorhanden = GetOptikteilStatus(teil) == Vorhanden;
-    messung.strahlen = static_cast<std::int16_t>(Strahlenzahl(teil));
 }
 
 /// Takes over a part's presence. False when it has changed, which ends the pass.
@@ -249,7 +209,7 @@ bool PolleOptikteil(int teil) {
     if (!LiesParameter(Spezifisch, spezifisch::Optikteilstatus, teil) ||
         !UebernimmAnwesenheit(teil, HoleRegister(Spezifisch, spezifisch::Optikteilstatus, teil)))
         return false;
-    MerkeStatus(teil);
+    modDurchgangsmeldung::MerkeStatus(teil, GetOptikteilStatus(teil) == Vorhanden);
     LiveAnsicht& ansicht = dasZiel->Ansicht(teil);
     const bool zeigt = ansicht.ZeigtLiveDaten();
     if (GetOptikteilStatus(teil) != Vorhanden || (!zeigt && !modMesshoerer::Braucht(teil)))
@@ -268,20 +228,12 @@ bool PolleGlobalstatus() {
     return true;
 }
 
-/// The pass has come to its end: those who hear of passes hear of it once it is certain.
 void BeendeDurchgang() {
     ++zustand.durchgaenge;
     zustand.letzter = std::chrono::system_clock::now();
     zustand.verworfene = 0;
     MeldeRueckkehr();
-    if (!modMesshoerer::HoertJemand())
-        return;
-    laufender.zeit = zustand.letzter;
-    laufender.uhr = DieUmgebung().Uhr();
-    laufender.anzahlTeile = zustand.anzahlOptikteile;
-    laufender.geraetestatus = static_cast<std::uint16_t>(HoleRegister(Global, global::Geraetestatus));
-    beendete.push_back({modAustausch::Letzter(), laufender});
-    MeldeGewisse();
+    modDurchgangsmeldung::Beende(zustand.letzter, zustand.anzahlOptikteile);
 }
 
 /// After a break it is settled first whose turn it is, which may take several attempts. False ends the pass.
@@ -371,8 +323,7 @@ int GeleseneStrahlregister(std::int32_t strahlenzahl) {
 void PollingZyklus() {
     if (!BeginneNachBruch())
         return;
-    MeldeGewisse();
-    laufender = {};
+    modDurchgangsmeldung::Beginne();
     for (int teil = 0; teil < zustand.anzahlOptikteile; ++teil)
         if (!PolleOptikteil(teil))
             return;

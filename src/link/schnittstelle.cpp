@@ -237,16 +237,18 @@ void CommPortWriteOutput(std::string_view daten) {
     modLeitungsstatistik::Gesendet(daten);
 }
 
-void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
+bool WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten) {
     const Zeit ende = DieUmgebung().Uhr() + std::chrono::milliseconds(TimeoutMs);
     for (Zeit jetzt = DieUmgebung().Uhr(); jetzt < ende; jetzt = DieUmgebung().Uhr()) {
         if (AufZeichenWarten == True && CommPortBytesAvailable() > 0)
-            return;
+            return true;
         zustand.takt.NochNichts(jetzt);
         SchlafeBisEingang(ende - jetzt);
     }
-    if (AufZeichenWarten != True || CommPortBytesAvailable() == 0)
-        MeldeZeitueberschreitung();
+    if (AufZeichenWarten == True && CommPortBytesAvailable() > 0)
+        return true;
+    MeldeZeitueberschreitung();
+    return false;
 }
 
 void WarteAufRest(std::size_t bytes) {

@@ -74,9 +74,9 @@ void WarteAufRest(std::size_t bytes);
 bool KamZuFrueh();
 /// Whether what was read since the last write came much later than replies on this line did before.
 bool KamSpaet();
-/// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. The caller
-/// asks CommPortBytesAvailable whether the time ran out.
-void WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);
+/// Waits up to TimeoutMs milliseconds; with AufZeichenWarten it returns as soon as a byte waits. False when
+/// the time ran out.
+bool WarteAufZeichen(int TimeoutMs, Boolean AufZeichenWarten);
 /// How long a line in use is quiet at least when nothing is under way; USB adapters hand over every 16 ms.
 inline constexpr Zeit Ruhezeit = std::chrono::milliseconds(20);
 /// Whether nothing has come for so long.

@@ -1,22 +1,24 @@
 #include "frmDocument.h"
 
+#include "strahlposition.h"
 #include "ui_frmDocument.h"
 
+#include "gezeigtesabbild.h"
 #include "lokalisiereform.h"
-#include "registerabbild.h"
 #include "registeradressen.h"
 #include "strahlbits.h"
 #include "strahlhinweis.h"
 #include "texte.h"
-#include "wertetext.h"
 #include "wertfeld.h"
 #include "zeigerschild.h"
 #include "zoomkopf.h"
 
 #include <QButtonGroup>
+#include <QPointer>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace varnoth {
 
@@ -98,7 +100,8 @@ void frmDocument::ZeigeWerte() {
     if (gewaehlt != versatz)
         gezeigteWerte.fill(-1);
     versatz = gewaehlt;
-    const Werte werte = modDaten::HoleParameter(Spezifisch, spezifisch::Messwerte, optikteil);
+    const Werte werte =
+        modDaten::GezeigtesAbbild().HoleParameter(Spezifisch, spezifisch::Messwerte, optikteil);
     for (std::size_t k = 0; k < felder.size(); ++k) {
         const std::int32_t wert = werte[static_cast<std::size_t>(versatz) + k];
         if (wert != gezeigteWerte[k]) {
@@ -177,19 +180,43 @@ void frmDocument::BenenneWerte() {
 }
 
 void frmDocument::NeuerDatensatz() {
-    strahlen.clear();
+    scanBekannt = false;
 }
 
-void frmDocument::StrahlzustaendeLiegenVor() {
-    const std::int16_t anzahl = GezeigteStrahlregister(ui->BeamBar1->Strahlanzahl());
-    if (anzahl > 0)
-        modDaten::HoleStrahlzustaende(anzahl, optikteil, strahlen);
-}
+// They are drawn when the blanking pattern is known as well.
+void frmDocument::StrahlzustaendeLiegenVor() {}
 
 void frmDocument::BlankingBekannt() {
-    if (strahlen.empty())
+    scanBekannt = true;
+}
+
+// Shown while the line is busy, beams and values with one paint. What was taken back or discarded by then is
+// not shown.
+void frmDocument::MesswerteLiegenVor() {
+    if (std::exchange(faellig, true))
         return;
-    const Werte blanking = modDaten::HoleParameter(Spezifisch, spezifisch::Blankingmuster, optikteil);
+    DieUmgebung().FuerWartezeit([sicht = QPointer<frmDocument>(this)] {
+        if (sicht != nullptr)
+            sicht->ZeigeFaelliges();
+    });
+}
+
+void frmDocument::ZeigeFaelliges() {
+    if (!std::exchange(faellig, false))
+        return;
+    if (std::exchange(scanBekannt, false))
+        ZeigeScan();
+    SetAktuellMinMaxStatus();
+    SetStatusSubgerät();
+}
+
+void frmDocument::ZeigeScan() {
+    const std::int16_t anzahl = GezeigteStrahlregister(ui->BeamBar1->Strahlanzahl());
+    if (anzahl == 0)
+        return;
+    const Abbild& abbild = modDaten::GezeigtesAbbild();
+    const Werte strahlen = abbild.HoleStrahlzustaende(anzahl, optikteil);
+    const Werte blanking = abbild.HoleParameter(Spezifisch, spezifisch::Blankingmuster, optikteil);
     StartBeamRefresh();
     for (int strahl = 0; strahl < ui->BeamBar1->Strahlanzahl(); ++strahl)
         SetBeamIndexState(static_cast<std::int16_t>(strahl), StrahlBit(strahlen, strahl),
@@ -197,13 +224,8 @@ void frmDocument::BlankingBekannt() {
     EndeBeamRefresh();
 }
 
-void frmDocument::MesswerteLiegenVor() {
-    SetAktuellMinMaxStatus();
-    SetStatusSubgerät();
-}
-
 std::int32_t frmDocument::Register(std::int16_t adresse) const {
-    return modDaten::HoleRegister(Spezifisch, adresse, optikteil);
+    return modDaten::GezeigtesAbbild().HoleRegister(Spezifisch, adresse, optikteil);
 }
 
 void frmDocument::VergissAnzeige() {

@@ -58,6 +58,8 @@ public:
 
     /// Nothing that is shown holds any longer: no values and no status until the next ones come.
     void VerwirfWerte();
+    /// Whether what is shown is of another time, as in a replay, and so does not become old.
+    void SetzeZeitlos(bool ob);
 
     /// Fills all texts in the current language again.
     void Lokalisiere();
@@ -99,6 +101,8 @@ private:
     void RichteWerteEin();
     void RichteAnsagenEin();
     void VergissAnzeige();
+    void ZeigeFaelliges();
+    void ZeigeScan();
     void ZeigeWerte();
     void ZeigeStatus(const QString& text);
     void ZeigePosition(std::size_t k, std::int32_t wert);
@@ -135,8 +139,10 @@ private:
     Zeigerschild* zeigerschild;
     Zoomkopf* zoomkopf;
     Ansager ansager;
-    Werte strahlen;
+    bool scanBekannt = false; // a scan of the data set is in the image
+    bool faellig = false;     // what is in the image is to be shown
     int strahlUnterMaus = -1;
+    bool zeitlos = false;
     bool warSichtbar = false;
 };
 

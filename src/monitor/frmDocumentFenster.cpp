@@ -2,10 +2,10 @@
 
 #include "frmDocument.h"
 
+#include "strahlposition.h"
 #include "ui_frmDocument.h"
 
 #include "fensterplatz.h"
-#include "wertetext.h"
 #include "wertfeld.h"
 #include "ziffern.h"
 
@@ -29,6 +29,8 @@ constexpr int Rundung = 2; // pixels that a label may want beyond its text
 constexpr int BreitesterStrahl = 511;
 constexpr int BreitesterAbstand = 40;
 constexpr double SchmalUnter = 2.4;
+constexpr QMargins Statusrand(6, 3, 6, 3);
+constexpr int Statusabstand = 6;
 
 QSize Mindestgroesse() {
     return {(MindestBreiteTwips + TwipsAusPixel(1) - 1) / TwipsAusPixel(1),
@@ -144,19 +146,24 @@ void frmDocument::PasseBreiteAn() {
 }
 
 // The panels of the status bar stand side by side, in a narrow view one above the other; the bar is as high
-// as the status text needs.
+// as the status text needs. No layout does this: it would lay out the whole view for every new text.
 void frmDocument::OrdneStatuszeile() {
     QLabel& status = *ui->sbStatusBar_1;
     QLabel& strahl = *ui->sbStatusBar_2;
-    const bool schmal = width() < SchmalUnter * strahl.minimumWidth();
-    const QMargins rand = ui->Felder->contentsMargins();
-    const int abstand = ui->Felder->spacing();
+    const int strahlbreite = strahl.minimumWidth();
+    const bool schmal = width() < SchmalUnter * strahlbreite;
     const int zeile = fontMetrics().height();
-    const int platz = width() - rand.left() - rand.right() - (schmal ? 0 : strahl.minimumWidth() + abstand);
-    const int hoehe = std::max(zeile, status.heightForWidth(std::max(1, platz)));
-    ui->Felder->setDirection(schmal ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    const int breite = width() - Statusrand.left() - Statusrand.right();
+    const int platz = std::max(1, schmal ? breite : breite - strahlbreite - Statusabstand);
+    const int hoehe = std::max(zeile, status.heightForWidth(platz));
+    status.setGeometry(Statusrand.left(), Statusrand.top(), platz, hoehe);
     strahl.setAlignment((schmal ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    ui->sbStatusBar->setFixedHeight(rand.top() + hoehe + (schmal ? abstand + zeile : 0) + rand.bottom());
+    if (schmal)
+        strahl.setGeometry(Statusrand.left(), Statusrand.top() + hoehe + Statusabstand, breite, zeile);
+    else
+        strahl.setGeometry(Statusrand.left() + breite - strahlbreite, Statusrand.top(), strahlbreite, hoehe);
+    ui->sbStatusBar->setFixedHeight(Statusrand.top() + hoehe + (schmal ? Statusabstand + zeile : 0) +
+                                    Statusrand.bottom());
 }
 
 } // namespace varnoth

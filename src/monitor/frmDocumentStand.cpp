@@ -18,6 +18,7 @@ constexpr std::int16_t TextKeineWerte = 9000;
 } // namespace
 
 void frmDocument::VerwirfWerte() {
+    faellig = false;
     alter.Vergiss();
     SetzeStand(Datenstand::Ungueltig);
     VergissAnzeige();
@@ -30,6 +31,11 @@ void frmDocument::VerwirfWerte() {
     ZeigeStatus({});
 }
 
+void frmDocument::SetzeZeitlos(bool ob) {
+    zeitlos = ob;
+    PruefeAlter();
+}
+
 void frmDocument::WerteSindDa() {
     alter.Erneuert(DieUmgebung().Uhr());
     SetzeStand(Datenstand::Gueltig);
@@ -38,7 +44,8 @@ void frmDocument::WerteSindDa() {
 void frmDocument::PruefeAlter() {
     if (stand == Datenstand::Ungueltig)
         return;
-    SetzeStand(alter.IstAlt(DieUmgebung().Uhr()) ? Datenstand::Veraltet : Datenstand::Gueltig);
+    const bool alt = !zeitlos && alter.IstAlt(DieUmgebung().Uhr());
+    SetzeStand(alt ? Datenstand::Veraltet : Datenstand::Gueltig);
     ZeigeHinweis();
 }
 

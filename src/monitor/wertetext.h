@@ -1,17 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 
 namespace varnoth {
-
-/// Where a beam lies: its number from 1, the beam spacing in millimetres. Nothing for a number that is no
-/// beam's and without a spacing.
-std::optional<int> Strahlposition(int nummer, int abstandMm);
-
-/// "530 mm"; empty without a position.
-std::string Positionstext(std::optional<int> positionMm);
 
 /// A value as it goes into a table: its caption, its text, and what stands beside it (may be empty).
 struct Wertzeile {

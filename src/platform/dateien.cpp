@@ -134,4 +134,22 @@ std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes) {
     return fehler;
 }
 
+Anhaengeergebnis HaengeAnDatei(const std::string& pfad, std::string_view bytes, std::size_t hoechstens) {
+    const QString name = QString::fromStdString(pfad);
+    if (auto hindernis = Hindernis(name); !hindernis.empty())
+        return {.fehlertext = std::move(hindernis)};
+    QFile datei(name);
+    errno = 0;
+    if (!datei.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        return {.fehlertext = Fehlertext(datei)};
+    const qint64 vorher = datei.size();
+    if (static_cast<std::size_t>(vorher) + bytes.size() > hoechstens)
+        return {.voll = true};
+    if (SchreibAlles(datei, bytes))
+        return {};
+    std::string fehler = Fehlertext(datei);
+    datei.resize(vorher);
+    return {.fehlertext = std::move(fehler)};
+}
+
 } // namespace varnoth

@@ -28,4 +28,14 @@ bool GibtEsDatei(const std::string& pfad);
 /// well and the disk holds the new file; after an error the old one is still there.
 std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes);
 
+/// What came of appending to a file: nothing, the system's error text, or that it would have become too long.
+struct Anhaengeergebnis {
+    bool voll = false;
+    std::string fehlertext{};
+};
+
+/// Appends bytes to a file, which is created where it is missing; never a part of them, and nothing where the
+/// file would become longer than `hoechstens` bytes. It does not wait for the disk.
+Anhaengeergebnis HaengeAnDatei(const std::string& pfad, std::string_view bytes, std::size_t hoechstens);
+
 } // namespace varnoth

@@ -1,8 +1,6 @@
 #include "ereignispumpe.h"
 
 #include <QAbstractEventDispatcher>
-#include <QCoreApplication>
-#include <QEvent>
 #include <QThread>
 
 #include <utility>
@@ -10,11 +8,6 @@
 namespace varnoth {
 
 namespace {
-
-QEvent::Type Erinnerung() {
-    static const auto art = static_cast<QEvent::Type>(QEvent::registerEventType());
-    return art;
-}
 
 /// Runs what is pending; gives whether there was anything.
 bool LaufeEinmal(QEventLoop::ProcessEventsFlags wie = QEventLoop::AllEvents) {
@@ -27,13 +20,16 @@ bool LaufeEinmal(QEventLoop::ProcessEventsFlags wie = QEventLoop::AllEvents) {
 Ereignispumpe::Ereignispumpe() {
     wecker.setSingleShot(true);
     wecker.setTimerType(Qt::PreciseTimer);
+    // Every round of every event loop gives one of these signals before it runs or waits for events.
+    const QAbstractEventDispatcher* verteiler = QThread::currentThread()->eventDispatcher();
+    connect(verteiler, &QAbstractEventDispatcher::awake, this, &Ereignispumpe::NutzeRunde);
+    connect(verteiler, &QAbstractEventDispatcher::aboutToBlock, this, &Ereignispumpe::NutzeRunde);
 }
 
 void Ereignispumpe::LaufeOhneAufgeschobenes() {
     const int vorher = std::exchange(gehalteneEbene, QThread::currentThread()->loopLevel());
     LaufeEinmal();
     gehalteneEbene = vorher;
-    Erinnere();
 }
 
 void Ereignispumpe::LaufeMitAllem() {
@@ -47,41 +43,33 @@ void Ereignispumpe::LaufeMitAllem() {
 
 void Ereignispumpe::WarteAufEreignis(Zeit hoechstens) {
     const int vorher = std::exchange(gehalteneEbene, Nie);
-    Erledige();
-    wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));
-    LaufeEinmal(QEventLoop::WaitForMoreEvents);
-    wecker.stop();
+    if (HatAufgeschobenes()) {
+        Erledige();
+        LaufeEinmal();
+    } else {
+        wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));
+        LaufeEinmal(QEventLoop::WaitForMoreEvents);
+        wecker.stop();
+    }
     gehalteneEbene = vorher;
 }
 
 void Ereignispumpe::SchiebeAuf(std::function<void()> arbeit) {
     aufgeschobenes.push_back(std::move(arbeit));
-    if (!HaeltZurueck())
-        Erinnere();
 }
 
 bool Ereignispumpe::HaeltZurueck() const {
     return QThread::currentThread()->loopLevel() == gehalteneEbene;
 }
 
-bool Ereignispumpe::event(QEvent* ereignis) {
-    if (ereignis->type() != Erinnerung())
-        return QObject::event(ereignis);
-    erinnert = false;
-    if (!HaeltZurueck())
+void Ereignispumpe::NutzeRunde() {
+    if (HatAufgeschobenes() && !HaeltZurueck())
         Erledige();
-    return true;
 }
 
 void Ereignispumpe::Erledige() {
     for (const auto& arbeit : std::exchange(aufgeschobenes, {}))
         arbeit();
-}
-
-/// Lets any event loop but the held one come across what was put off.
-void Ereignispumpe::Erinnere() {
-    if (!aufgeschobenes.empty() && !std::exchange(erinnert, true))
-        QCoreApplication::postEvent(this, new QEvent(Erinnerung()));
 }
 
 } // namespace varnoth

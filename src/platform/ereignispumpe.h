@@ -22,7 +22,8 @@ public:
     void LaufeOhneAufgeschobenes();
     /// Does what was put off and runs every pending event.
     void LaufeMitAllem();
-    /// The same, and sleeps until an event was served or the time, 1 ms or more, has passed.
+    /// The same; where nothing was put off, it sleeps until an event was served or the time, 1 ms or more,
+    /// has passed.
     void WarteAufEreignis(Zeit hoechstens);
 
     /// Puts work off: it is done, in the order of the calls, by whatever runs events next but
@@ -32,17 +33,13 @@ public:
     /// Whether the events that run right now are those of LaufeOhneAufgeschobenes.
     bool HaeltZurueck() const;
 
-protected:
-    bool event(QEvent* ereignis) override;
-
 private:
     static constexpr int Nie = -1;
 
+    void NutzeRunde();
     void Erledige();
-    void Erinnere();
 
     int gehalteneEbene = Nie; // the depth of event loops at which work stays put off
-    bool erinnert = false;    // an event of our own is on its way to do it
     std::vector<std::function<void()>> aufgeschobenes;
     QTimer wecker;
 };

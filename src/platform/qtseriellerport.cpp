@@ -53,28 +53,36 @@ constexpr Zeit Uebergabe = std::chrono::microseconds(200);
 // Whether the far end has hung up is asked for this often at most; an exchange would ask five times.
 constexpr Zeit Leitungsblick = std::chrono::milliseconds(1);
 
+#ifdef Q_OS_UNIX
+bool IstWeg(short meldungen) {
+    return (meldungen & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+}
+#endif
+
 /// Whether the line behind an open port is gone. Qt does not tell in every version and for every kind of
 /// device.
 bool LeitungIstWeg([[maybe_unused]] QSerialPort& port) {
 #ifdef Q_OS_UNIX
     pollfd anschluss{port.handle(), 0, 0};
-    return ::poll(&anschluss, 1, 0) > 0 && (anschluss.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+    return ::poll(&anschluss, 1, 0) > 0 && IstWeg(anschluss.revents);
 #else
     return false;
 #endif
 }
 
 /// Sleeps on the line itself until something has arrived or the time has passed: the way through the event
-/// loop costs tens of microseconds for each lot of bytes.
-void SchlafeAnDerLeitung([[maybe_unused]] QSerialPort& port, [[maybe_unused]] Zeit hoechstens) {
+/// loop costs tens of microseconds for each lot of bytes. Gives whether the line is known to be
+/// still there.
+bool SchlafeAnDerLeitung([[maybe_unused]] QSerialPort& port, [[maybe_unused]] Zeit hoechstens) {
 #ifdef Q_OS_LINUX
     pollfd anschluss{port.handle(), POLLIN, 0};
     const auto sekunden = std::chrono::floor<std::chrono::seconds>(hoechstens);
     const timespec frist{static_cast<time_t>(sekunden.count()),
                          static_cast<long>(std::chrono::nanoseconds(hoechstens - sekunden).count())};
-    ::ppoll(&anschluss, 1, &frist, nullptr);
+    return ::ppoll(&anschluss, 1, &frist, nullptr) <= 0 || !IstWeg(anschluss.revents);
 #else
     DieUmgebung().WarteAufEreignis(hoechstens);
+    return false;
 #endif
 }
 
@@ -308,7 +316,7 @@ void QtSeriellerPort::UebergibUndMale() {
         return;
     }
     if (port.isOpen())
-        SchlafeAnDerLeitung(port, Uebergabe);
+        Schlummere(Uebergabe);
     if (BytesImSystem(port) == 0 || DieUmgebung().Uhr() >= naechsterFensterblick)
         SchaueNachDemFenster();
 }
@@ -319,17 +327,26 @@ void QtSeriellerPort::SchaueNachDemFenster() {
     naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
 }
 
+/// Sleeps on the open line. A line that has nothing to say of itself then need not be asked right away.
+void QtSeriellerPort::Schlummere(Zeit hoechstens) {
+    if (SchlafeAnDerLeitung(port, hoechstens))
+        naechsterLeitungsblick = DieUmgebung().Uhr() + Leitungsblick;
+}
+
 void QtSeriellerPort::WarteAufEingang(Zeit hoechstens) {
-    if (BytesWartend() > 0)
+    if (port.bytesAvailable() > 0)
         return;
     if (!IstOffen()) {
         DieUmgebung().WarteAufEreignis(hoechstens);
         return;
     }
-    if (DieUmgebung().Uhr() >= naechsterFensterblick)
+    if (DieUmgebung().Uhr() >= naechsterFensterblick) {
+        if (BytesImSystem(port) > 0)
+            return;
         SchaueNachDemFenster();
-    if (port.isOpen() && BytesWartend() == 0)
-        SchlafeAnDerLeitung(port, std::min(hoechstens, Fensterblick));
+    }
+    if (port.isOpen() && port.bytesAvailable() == 0)
+        Schlummere(std::min(hoechstens, Fensterblick));
 }
 
 void QtSeriellerPort::Schlafe([[maybe_unused]] Zeit hoechstens) {

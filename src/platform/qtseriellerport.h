@@ -42,6 +42,7 @@ private:
     void BeiEingang();
     void SchalteLeitungenEin();
     void SchaueNachDemFenster();
+    void Schlummere(Zeit hoechstens);
     void UebergibUndMale();
 
     QSerialPort port;

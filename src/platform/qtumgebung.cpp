@@ -77,6 +77,8 @@ Zeit QtUmgebung::Uhr() {
 }
 
 Antwort QtUmgebung::ZeigeMeldung(const Meldung& meldung) {
+    if (meldungszeuge)
+        meldungszeuge(meldung);
     return meldungsweg ? meldungsweg(meldung) : Frage(meldung);
 }
 
@@ -99,6 +101,10 @@ void QtUmgebung::SetzeStatusanzeige(std::function<void(int, const std::string&)>
 
 void QtUmgebung::SetzeMeldungsweg(std::function<Antwort(const Meldung&)> weg) {
     meldungsweg = std::move(weg);
+}
+
+void QtUmgebung::SetzeMeldungszeuge(std::function<void(const Meldung&)> zeuge) {
+    meldungszeuge = std::move(zeuge);
 }
 
 } // namespace varnoth

@@ -28,6 +28,8 @@ public:
     void SetzeStatusanzeige(std::function<void(int feld, const std::string& text)> anzeige);
     /// Sets who answers messages (an empty function: whoever this environment asks by itself).
     void SetzeMeldungsweg(std::function<Antwort(const Meldung&)> weg);
+    /// Sets who hears of each message before it is answered.
+    void SetzeMeldungszeuge(std::function<void(const Meldung&)> zeuge);
 
 protected:
     Ereignispumpe& Pumpe() { return pumpe; }
@@ -42,6 +44,7 @@ private:
     std::function<int()> formularzaehler;
     std::function<void(int, const std::string&)> statusanzeige;
     std::function<Antwort(const Meldung&)> meldungsweg;
+    std::function<void(const Meldung&)> meldungszeuge;
 };
 
 } // namespace varnoth

@@ -1,5 +1,6 @@
 #include "einzelwert.h"
 
+#include "ereignisse.h"
 #include "geraetestand.h"
 #include "registeradressen.h"
 #include "transaktionen.h"
@@ -88,6 +89,7 @@ std::string SchreibeEinzelwert(const Einzelregister& wahl, std::string_view inha
         return Fehlanzeige;
     const bool geschrieben = modModbus::RTUModeH10SchreibenAnforderung(*adresse, 1, {*wert}) != False;
     VergissGeschriebenes(*adresse, wahl.optikteil);
+    modEreignisse::Merke({.art = Ereignisart::RegisterGeschrieben, .gelungen = geschrieben, .alt = *adresse});
     return geschrieben ? Bestaetigung : Fehlanzeige;
 }
 

@@ -1,6 +1,7 @@
 #include "hardwareinitialisierung.h"
 
 #include "einstellungen.h"
+#include "ereignisse.h"
 #include "geraetestand.h"
 #include "kommandoregister.h"
 #include "registeradressen.h"
@@ -134,10 +135,10 @@ Werte PackeHardwareversion(const Werksdaten& daten) {
 bool InitialisiereHardware(Initialisierungsanzeige& anzeige, const Werksdaten& daten) {
     if (modService::GetServiceText().size() != Passwortlaenge)
         return false;
-    for (const Schritt& schritt : Schritte)
-        if (!FuehreAus(anzeige, schritt, daten))
-            return false;
-    return true;
+    const bool vollstaendig = std::ranges::all_of(
+        Schritte, [&](const Schritt& schritt) { return FuehreAus(anzeige, schritt, daten); });
+    modEreignisse::Merke({.art = Ereignisart::Werksdaten, .gelungen = vollstaendig});
+    return vollstaendig;
 }
 
 } // namespace varnoth

@@ -1,5 +1,6 @@
 #include "hardwarereset.h"
 
+#include "ereignisse.h"
 #include "geraetestand.h"
 #include "kommandoregister.h"
 #include "versuche.h"
@@ -15,6 +16,7 @@ bool SetzeHardwareZurueck(Resetanzeige& anzeige) {
         VersucheBisErfolg(anzeige, zeige, [] { return SendeKommando(Kommando::StarteNeu); });
     // Even without a confirmation the controller may have started anew.
     modGeraetestand::BeginneVerbindung();
+    modEreignisse::Merke({.art = Ereignisart::Neustart, .gelungen = bestaetigt});
     return bestaetigt;
 }
 

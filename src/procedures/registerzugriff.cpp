@@ -1,5 +1,6 @@
 #include "registerzugriff.h"
 
+#include "ereignisse.h"
 #include "geraetestand.h"
 #include "nachlese.h"
 #include "transaktionen.h"
@@ -69,6 +70,10 @@ bool SchreibeRegister(Ablaufanzeige& anzeige, const Transferparameter& parameter
               .uebernimm = [] {}});
     const bool gelungen = Laufe(anzeige, std::move(schritte));
     modGeraetestand::Vergiss(ParameterMitRegistern(parameter));
+    modEreignisse::Merke({.art = Ereignisart::RegisterGeschrieben,
+                          .gelungen = gelungen,
+                          .anzahl = static_cast<std::uint32_t>(parameter.anzahl),
+                          .alt = Geraeteadresse(parameter.bereich, parameter.adresse)});
     return gelungen;
 }
 

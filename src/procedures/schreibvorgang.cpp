@@ -1,6 +1,7 @@
 #include "schreibvorgang.h"
 
 #include "austausch.h"
+#include "ereignisse.h"
 #include "geraetestand.h"
 #include "kommandoregister.h"
 #include "registerabbild.h"
@@ -91,6 +92,9 @@ bool SchreibeKonfiguration(Transferanzeige& anzeige, Ablage ablage, const Schrei
     if (!spur.geschrieben.empty())
         modGeraetestand::MerkeGeschrieben(auftrag.abbild, spur.geschrieben, GeraeteSeriennummer());
     modGeraetestand::Vergiss(spur.ungewiss);
+    modEreignisse::Merke({.art = Ereignisart::KonfigurationGeschrieben,
+                          .gelungen = vollstaendig,
+                          .anzahl = static_cast<std::uint32_t>(AnzahlRegister(spur.geschrieben))});
     if (vollstaendig)
         anzeige.ZeigeEnde(LadeText(TextUebertragungBeendet));
     return vollstaendig;

@@ -13,7 +13,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr double Randbreite = 15;   // mm
 constexpr double Schriftgrad = 9;   // pt
 constexpr double Fussschrift = 7.5; // pt
 constexpr double Fusshoehe = 2.5;   // of its letters
@@ -110,12 +109,6 @@ bool Drucke(const Berichtsdruck& druck, QPagedPaintDevice& geraet) {
         MaleFuss(maler, dokument, druck, seite);
     }
     return maler.end();
-}
-
-void RichteSeiteEin(QPagedPaintDevice& geraet) {
-    geraet.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                     QMarginsF(Randbreite, Randbreite, Randbreite, Randbreite),
-                                     QPageLayout::Millimeter));
 }
 
 QByteArray AlsPdf(const Berichtsdruck& druck, const QString& titel) {

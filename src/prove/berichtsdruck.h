@@ -1,5 +1,7 @@
 #pragma once
 
+#include "seiteneinrichtung.h"
+
 #include <QByteArray>
 #include <QPagedPaintDevice>
 #include <QString>
@@ -24,8 +26,5 @@ bool Drucke(const Berichtsdruck& druck, QPagedPaintDevice& geraet);
 
 /// The pages (A4) as a PDF file; empty when it could not be made.
 QByteArray AlsPdf(const Berichtsdruck& druck, const QString& titel);
-
-/// Makes A4 with margins of 15 mm of a device's pages.
-void RichteSeiteEin(QPagedPaintDevice& geraet);
 
 } // namespace varnoth

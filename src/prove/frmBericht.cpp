@@ -70,8 +70,9 @@ void frmBericht::Verbinde() {
             [this] { umfeld.speichere(LadeText(TextHtmlfilter), umfeld.name + ".html", Html()); });
     connect(ui->cmdTextExport, &QPushButton::clicked, this, [this] {
         umfeld.speichere(LadeText(TextTextfilter), umfeld.name + ".txt",
-                         Standtext(OhneMomentanes(modDaten::DasAbbild())));
+                         Standtext(OhneMomentanes(umfeld.abbild())));
     });
+    ui->cmdTextImport->setVisible(umfeld.importiereText != nullptr);
     connect(ui->cmdTextImport, &QPushButton::clicked, this, [this] { ImportiereText(); });
     connect(ui->cmdSchliessen, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -85,12 +86,11 @@ Berichtsangaben frmBericht::Angaben() const {
 }
 
 std::string frmBericht::Html() const {
-    return Bericht(modDaten::DasAbbild(), Angaben());
+    return Bericht(umfeld.abbild(), Angaben());
 }
 
 Berichtsdruck frmBericht::Druck() const {
-    return {QString::fromStdString(Html()),
-            QString::fromStdString(Berichtsfuss(modDaten::DasAbbild(), Angaben())),
+    return {QString::fromStdString(Html()), QString::fromStdString(Berichtsfuss(umfeld.abbild(), Angaben())),
             QString::fromStdString(LadeText(TextSeiteVon))};
 }
 

@@ -2,6 +2,7 @@
 
 #include "berichtsdruck.h"
 #include "konfigurationsbericht.h"
+#include "registerabbild.h"
 
 #include <QByteArray>
 #include <QDialog>
@@ -26,6 +27,8 @@ class frmBericht;
 
 /// What the report's window asks of the one who opens it. Texts are UTF-8.
 struct Berichtsumfeld {
+    /// What the report is about.
+    std::function<const Abbild&()> abbild = modDaten::DasAbbild;
     /// What the report says besides the image, all but plant, machine and person.
     std::function<Berichtsangaben()> angaben{};
     std::string name = "Varnoth"; ///< proposed for files, without ending
@@ -34,6 +37,7 @@ struct Berichtsumfeld {
     std::function<void(const std::string& filter, const std::string& name, const std::string& bytes)>
         speichere{};
     /// Replaces the configuration in use by one from a text file, all questions and messages included.
+    /// Without it there is no button for it.
     std::function<void()> importiereText{};
     /// Makes a PDF file of the report's pages; empty when that fails.
     std::function<QByteArray(const Berichtsdruck& druck, const QString& titel)> machePdf = AlsPdf;

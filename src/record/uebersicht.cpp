@@ -51,6 +51,8 @@ void Uebersicht::Nimm(const Messdurchgang& durchgang) {
     for (std::size_t teil = 0; teil < durchgang.teile.size(); ++teil)
         if (durchgang.teile[teil].gemessen)
             Nimm(abschnitt.teile[teil], durchgang.teile[teil]);
+        else if (static_cast<int>(teil) < durchgang.anzahlTeile)
+            abschnitt.teile[teil].status.Nimm(durchgang.teile[teil].status);
     belegt += Bytes(abschnitt) - vorher;
     while (belegt > hoechstens && abschnitte.size() > 1)
         Verdopple();
@@ -169,12 +171,12 @@ void Uebersicht::Nimm(Teilabschnitt& ziel, const Teilmessung& messung) {
 }
 
 void Uebersicht::Nimm(Teilabschnitt& ziel, const Teilabschnitt& spaeterer) {
+    ziel.status.Nimm(spaeterer.status);
     if (spaeterer.durchgaenge == 0)
         return;
     const std::size_t seine = spaeterer.unterbrochen.size() / 2;
     Erweitere(ziel, seine);
     ziel.durchgaenge += spaeterer.durchgaenge;
-    ziel.status.Nimm(spaeterer.status);
     ziel.strahlen = std::max(ziel.strahlen, spaeterer.strahlen);
     for (std::size_t i = 0; i < ziel.werte.size(); ++i)
         ziel.werte[i].Nimm(spaeterer.werte[i]);

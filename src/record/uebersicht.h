@@ -72,6 +72,7 @@ public:
     std::uint32_t Durchgaenge(std::size_t i, int teil) const;
     /// A measured value: 0..17, as in Teilmessung::werte.
     Wertspanne Wert(std::size_t i, int teil, int wert) const;
+    /// Of every pass that asked the part, measured or not.
     Bitspanne Status(std::size_t i, int teil) const;
     /// The most beams the part had.
     int Strahlen(std::size_t i, int teil) const;

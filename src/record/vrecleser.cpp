@@ -23,8 +23,8 @@ constexpr std::uint64_t BytesJeScheibe = std::uint64_t{1} << 18U;
 
 } // namespace
 
-Vrecleser::Vrecleser(std::unique_ptr<const Eingabedatei> neue)
-    : datei(std::move(neue)), uebersicht(Uebersichtsbytes) {}
+Vrecleser::Vrecleser(std::unique_ptr<const Eingabedatei> neue, std::size_t hoechstensPakete)
+    : datei(std::move(neue)), meistePakete(hoechstensPakete), uebersicht(Uebersichtsbytes) {}
 
 bool Vrecleser::Arbeite() {
     switch (schritt) {
@@ -123,7 +123,7 @@ bool Vrecleser::NimmEintrag(const vrec::Eintrag& eintrag) {
     }
     if (!pakete.empty() && eintrag.spanne.von < pakete.back().spanne.bis)
         return false;
-    zustand.zuLang = pakete.size() >= MeistePakete;
+    zustand.zuLang = pakete.size() >= meistePakete;
     if (!zustand.zuLang)
         pakete.push_back({eintrag.spanne, eintrag.stelle, eintrag.laenge, eintrag.hatEreignisse});
     return true;
@@ -196,7 +196,7 @@ void Vrecleser::NimmBlock() {
 }
 
 void Vrecleser::NimmPaket() {
-    zustand.zuLang = zustand.zuLang || (!mitVerzeichnis && pakete.size() >= MeistePakete);
+    zustand.zuLang = zustand.zuLang || (!mitVerzeichnis && pakete.size() >= meistePakete);
     if (zustand.zuLang && !mitVerzeichnis)
         return;
     const auto paket = PaketAus(gang->Inhalt());

@@ -31,7 +31,7 @@ public:
     /// The most packets that are looked at, a month of them; what follows is left out.
     static constexpr std::size_t MeistePakete = 2'500'000;
 
-    explicit Vrecleser(std::unique_ptr<const Eingabedatei> datei);
+    explicit Vrecleser(std::unique_ptr<const Eingabedatei> datei, std::size_t meistePakete = MeistePakete);
 
     /// Opens a bit more of it, some milliseconds. False once all is done; `Zustand` then tells what came of
     /// it. Whoever gives up just lets it be.
@@ -88,6 +88,7 @@ private:
                                          vrec::Blockart art) const;
 
     std::unique_ptr<const Eingabedatei> datei;
+    std::size_t meistePakete;
     Schritt schritt = Schritt::Kennung;
     std::optional<vrec::Blockgang> gang;
     Vreczustand zustand;

@@ -4,7 +4,7 @@
 #include "einstellungen.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
-#include "registerabbild.h"
+#include "gezeigtesabbild.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -102,10 +102,10 @@ frmDocument& Ansichten::Ansicht(int optikteil) {
 
 bool Ansichten::BaueAuf() {
     const auto ohnePlatz = [this](int teil) {
-        return modDaten::Strahlenzahl(teil) > 0 && !hatPlatz[static_cast<std::size_t>(teil)];
+        return modDaten::GezeigteStrahlenzahl(teil) > 0 && !hatPlatz[static_cast<std::size_t>(teil)];
     };
     const auto mitPlatz = [this](int teil) {
-        return modDaten::Strahlenzahl(teil) > 0 && hatPlatz[static_cast<std::size_t>(teil)];
+        return modDaten::GezeigteStrahlenzahl(teil) > 0 && hatPlatz[static_cast<std::size_t>(teil)];
     };
     constexpr std::array teile{0, 1, 2, 3};
     const bool neue = std::ranges::any_of(teile, ohnePlatz);
@@ -123,7 +123,7 @@ void Ansichten::ZeigeGebaute() {
     const Waehrend marke(ordnet);
     for (int teil = AnzahlOptikteile - 1; teil >= 0; --teil) {
         const auto platz = static_cast<std::size_t>(teil);
-        if (modDaten::Strahlenzahl(teil) > 0) {
+        if (modDaten::GezeigteStrahlenzahl(teil) > 0) {
             hatPlatz[platz] = true;
             Ansicht(teil).InitfrmDocument();
             Ansicht(teil).Zeige();
@@ -154,7 +154,7 @@ int Ansichten::AnzahlGezeigter() const {
 
 void Ansichten::SetzeTitel(int optikteil, std::int16_t textId) {
     const auto platz = static_cast<std::size_t>(optikteil);
-    const QString titel = Ansichtstitel(optikteil, textId);
+    const QString titel = wiedergabe ? Wiedergabetitel(optikteil, textId) : Ansichtstitel(optikteil, textId);
     titeltexte.at(platz) = textId;
     if (ansichten.at(platz) == nullptr)
         return;
@@ -172,6 +172,55 @@ void Ansichten::ZeigeZustaende(bool live) {
 void Ansichten::ZeigeAlleOffline() {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         SetzeTitel(teil, TextOffline);
+}
+
+void Ansichten::SetzeWiedergabe(bool ob) {
+    wiedergabe = ob;
+    LadeAlle();
+    for (frmDocument* ansicht : ansichten)
+        ansicht->SetzeZeitlos(ob);
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        SetzeTitel(teil, titeltexte.at(static_cast<std::size_t>(teil)));
+}
+
+void Ansichten::ZeigeDurchgang(int optikteil) {
+    frmDocument& ansicht = Ansicht(optikteil);
+    ansicht.NeuerDatensatz();
+    ansicht.StrahlzustaendeLiegenVor();
+    ansicht.BlankingBekannt();
+    ansicht.MesswerteLiegenVor();
+}
+
+void Ansichten::VerwirfWerte(int optikteil) {
+    Ansicht(optikteil).VerwirfWerte();
+}
+
+Ansichten::Stand Ansichten::HoleStand() const {
+    Stand stand{.titeltexte = titeltexte};
+    for (std::size_t teil = 0; SindGeladen() && teil < rahmen.size(); ++teil)
+        stand.gezeigt[teil] = !rahmen[teil]->isHidden();
+    return stand;
+}
+
+void Ansichten::StelleHer(const Stand& stand) {
+    {
+        const Waehrend marke(ordnet);
+        for (int teil = AnzahlOptikteile - 1; SindGeladen() && teil >= 0; --teil)
+            StelleTeilHer(teil, stand.gezeigt.at(static_cast<std::size_t>(teil)));
+    }
+    FolgeFlaeche();
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        SetzeTitel(teil, stand.titeltexte.at(static_cast<std::size_t>(teil)));
+}
+
+void Ansichten::StelleTeilHer(int optikteil, bool gezeigt) {
+    const auto platz = static_cast<std::size_t>(optikteil);
+    if (gezeigt) {
+        Ansicht(optikteil).InitfrmDocument();
+        Ansicht(optikteil).Zeige();
+    } else if (rahmen[platz]->isVisible()) {
+        rahmen[platz]->close();
+    }
 }
 
 void Ansichten::Lokalisiere() {

@@ -48,6 +48,23 @@ public:
     void ZeigeZustaende(bool live);
     /// All captions say offline.
     void ZeigeAlleOffline();
+    /// Whether the views show a replay: each caption then begins with the word, and nothing becomes old.
+    void SetzeWiedergabe(bool ob);
+    /// The values of a part are in the image that is shown, as after a polling pass.
+    void ZeigeDurchgang(int optikteil);
+    /// What the view of a part shows holds no longer; its caption stays.
+    void VerwirfWerte(int optikteil);
+
+    /// What is shown, and under which captions.
+    struct Stand {
+        std::array<bool, AnzahlOptikteile> gezeigt{};
+        std::array<std::int16_t, AnzahlOptikteile> titeltexte{};
+    };
+    Stand HoleStand() const;
+    /// Shows what was shown then, set up for the image that is shown now; without values, for they are not
+    /// those of now.
+    void StelleHer(const Stand& stand);
+
     /// Fills all texts in the current language again.
     void Lokalisiere();
 
@@ -79,6 +96,7 @@ private:
     std::vector<QMdiSubWindow*> Gezeigte() const;
     QSize KleinsterRahmen();
     void ZeigeGebaute();
+    void StelleTeilHer(int optikteil, bool gezeigt);
     bool EineMaximiert() const;
     void BemerkeWechsel();
     void BemerkeRahmen(QEvent::Type ereignis, const QMdiSubWindow& fenster);
@@ -94,6 +112,7 @@ private:
     bool wechselt = false;                         // a view is being maximised, minimised or restored
     bool nachzuholen = false;                      // the area has changed while a view was maximised
     std::array<std::int16_t, AnzahlOptikteile> titeltexte{};
+    bool wiedergabe = false;
 };
 
 } // namespace varnoth

@@ -14,4 +14,10 @@ QString Ansichtstitel(int optikteil, std::int16_t textId) {
     return QString::number(optikteil + 1) + QString::fromStdString(LadeText(textId));
 }
 
+QString Wiedergabetitel(int optikteil, std::int16_t textId) {
+    constexpr std::int16_t TextWiedergabe = 6500;
+    return QString::fromStdString(LadeText(TextWiedergabe)) + QStringLiteral(": ") +
+           Ansichtstitel(optikteil, textId);
+}
+
 } // namespace varnoth

@@ -18,5 +18,7 @@ std::int16_t Titeltext(modPolling::Optikteilzustand zustand, bool live);
 
 /// The caption of the view of optical part 0..3: its number from 1 and a text.
 QString Ansichtstitel(int optikteil, std::int16_t textId);
+/// The same of a view that shows a replay.
+QString Wiedergabetitel(int optikteil, std::int16_t textId);
 
 } // namespace varnoth

@@ -1,5 +1,6 @@
 #include "anwendung.h"
 
+#include "ereignisse.h"
 #include "frmSplash.h"
 #include "geraetepfade.h"
 #include "konfigurationsbefehle.h"
@@ -67,7 +68,7 @@ Anwendung::Anwendung(Startbedingungen start)
       sperre(bedingungen.programmname, bedingungen.sperrordner), simuliert(kommandozeile.simulator),
       port(MachePort(simuliert)), hilfe([this] { return Hilfedatei(); }),
       hilfetaste([this](QWidget* stelle) { hilfe.ZeigeSeiteZu(stelle); }) {
-    SetzeSicherungen(&sicherungen);
+    SetzeSicherungen(&gemeldete);
     SetzeGeraetepfad(kommandozeile.geraet.toStdString());
     modSchnittstelle::SetzePort(port.get());
     modDaten::SetzeReaktionAufUnplausiblesAbbild(modModbus::BeendeAutosendAmOffenenPort);
@@ -141,6 +142,9 @@ void Anwendung::LadeHauptfenster() {
     umgebung.SetzeFormularzaehler([this] { return hauptfenster->OffeneFormulare(); });
     umgebung.SetzeStatusanzeige(
         [this](int feld, const std::string& text) { hauptfenster->ZeigeStatustext(feld, text); });
+    umgebung.SetzeMeldungszeuge([](const Meldung& meldung) {
+        modEreignisse::Merke({.art = Ereignisart::Meldung, .text = meldung.text});
+    });
     einstellungen.SetzeFehlermeldung([this](const std::string& text) {
         hauptfenster->ZeigeStatustext(FeldMeldungen, LadeText(TextNichtGespeichert) + text);
     });

@@ -6,6 +6,7 @@
 #include "dialogplatz.h"
 #include "fensterumgebung.h"
 #include "frmMain.h"
+#include "gemeldetesicherungen.h"
 #include "hilfe.h"
 #include "hilfetaste.h"
 #include "inieinstellungen.h"
@@ -78,6 +79,7 @@ private:
     Fensterumgebung umgebung;
     IniEinstellungen einstellungen;
     Dateisicherungen sicherungen;
+    GemeldeteSicherungen gemeldete{sicherungen};
     Instanzsperre sperre;
     bool simuliert;
     std::unique_ptr<SeriellerPort> port;

@@ -36,9 +36,9 @@ namespace varnoth {
 namespace {
 
 constexpr int TaktMs = 500;
-constexpr std::int16_t TextAufzeichnung = 6224, TextKeinBeginn = 6230, TextUnterbrochen = 6231,
-                       TextGehtWeiter = 6232, TextBeendet = 6233, TextMengen = 6272,
-                       TextSpeicherSichern = 6279, TextVrecfilter = 6280;
+constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
+                       TextBeendet = 6233, TextMengen = 6272, TextSpeicherSichern = 6279,
+                       TextVrecfilter = 6280;
 
 /// The clock of the passes for another thread, which must not ask the environment.
 Aufzeichnung::Uhr UhrFuerAndere() {
@@ -124,7 +124,8 @@ void Aufzeichnungsablauf::Beginne(const std::string& name) {
     aufzeichnung = std::move(neue);
     gemeldeterFehler = 0;
     rate = {};
-    modEreignisse::Merke(LadeTextMit(TextAufzeichnung, {aufzeichnung->Stand().pfade.front()}));
+    modEreignisse::Merke(
+        {.art = Ereignisart::AufzeichnungBegonnen, .text = aufzeichnung->Stand().pfade.front()});
     ziel.laeuft(true);
     takt.start();
     BlickeNach();
@@ -140,6 +141,7 @@ void Aufzeichnungsablauf::Beende() {
     marke->hide();
     ziel.laeuft(false);
     const std::string wo = letzter.pfade.empty() ? Ordner() : letzter.pfade.front();
+    modEreignisse::Merke({.art = Ereignisart::AufzeichnungBeendet, .text = wo});
     DieUmgebung().ZeigeStatustext(FeldMeldungen, LadeTextMit(TextBeendet, {wo}));
 }
 
@@ -191,7 +193,10 @@ void Aufzeichnungsablauf::MeldeAenderung(const Aufzeichnungslage& lage) {
         return;
     const std::string text =
         lage.hindernis.empty() ? LadeText(TextGehtWeiter) : LadeTextMit(TextUnterbrochen, {lage.hindernis});
-    modEreignisse::Merke(text);
+    if (!lage.hindernis.empty())
+        modEreignisse::Merke({.art = Ereignisart::AufzeichnungOhnePlatz, .text = lage.hindernis});
+    else if (!lage.stand.pfade.empty())
+        modEreignisse::Merke({.art = Ereignisart::AufzeichnungBegonnen, .text = lage.stand.pfade.back()});
     DieUmgebung().ZeigeStatustext(FeldMeldungen, text);
 }
 
@@ -248,7 +253,7 @@ std::string Aufzeichnungsablauf::ImSpeicher() {
     if (ziel.speicher == nullptr || ziel.speicher->Erstes() == ziel.speicher->Ende())
         return {};
     const Zeitspanne spanne = ziel.speicher->Spanne();
-    return Dauertext(spanne.bis - spanne.von);
+    return Aufnahmedauer(spanne.bis - spanne.von);
 }
 
 std::optional<std::string> Aufzeichnungsablauf::SichereSpeicher(int minuten) {

@@ -41,7 +41,7 @@ bool IstNamenszeichen(char zeichen) {
 
 } // namespace
 
-std::string Dauertext(Zeit dauer) {
+std::string Aufnahmedauer(Zeit dauer) {
     const auto sekunden = std::chrono::floor<std::chrono::seconds>(dauer).count();
     std::array<char, 32> puffer{};
     std::snprintf(puffer.data(), puffer.size(), "%02lld:%02lld:%02lld",
@@ -58,7 +58,7 @@ std::string Groessentext(std::uint64_t bytes) {
 }
 
 std::string Markentext(const Aufzeichnungslage& lage, bool liveDaten) {
-    std::string text = LadeTextMit(TextAufzeichnung, {Dauertext(lage.stand.dauer)}) + Trennung +
+    std::string text = LadeTextMit(TextAufzeichnung, {Aufnahmedauer(lage.stand.dauer)}) + Trennung +
                        Groessentext(lage.stand.bytes);
     if (!lage.hindernis.empty())
         text += Trennung + LadeTextMit(TextWartet, {lage.hindernis});

@@ -7,7 +7,7 @@
 namespace varnoth {
 
 /// "HH:MM:SS", hours without end.
-std::string Dauertext(Zeit dauer);
+std::string Aufnahmedauer(Zeit dauer);
 /// "812 KB", "1,2 MB", with the separator of the language.
 std::string Groessentext(std::uint64_t bytes);
 

@@ -36,6 +36,14 @@ void Ausgangsanzeige::Zeige(const QString& text) {
     SetzeBlass(false);
 }
 
+void Ausgangsanzeige::ZeigeVon(const QString& text, const QString& uhrzeit) {
+    Zeige({});
+    if (feld.text() != text)
+        feld.setText(text);
+    if (!text.isEmpty())
+        feld.setToolTip(QString::fromStdString(LadeText(TextLetzterWert)).arg(uhrzeit));
+}
+
 void Ausgangsanzeige::ZeigeUhrzeit() {
     const QTime jetzt = QTime::currentTime();
     if (!feld.toolTip().isEmpty() && jetzt.second() == gelesen.second() && gelesen.secsTo(jetzt) == 0)

@@ -17,6 +17,8 @@ public:
 
     /// Shows the state that was read just now; an empty text: none is known.
     void Zeige(const QString& text);
+    /// Shows the state of another time, as in a replay; it does not become old.
+    void ZeigeVon(const QString& text, const QString& uhrzeit);
 
 protected:
     bool eventFilter(QObject* ziel, QEvent* ereignis) override;

@@ -85,12 +85,22 @@ constexpr Befehlszeile DieBefehle[] = {
     {Befehl::Busprotokoll, "mnuBusprotokoll", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeBusprotokoll(); }, 0, 1, "Ctrl+L", 8401, "busprotokoll", 8402,
      Leistengruppe::Pruefen},
+    {Befehl::Wiedergabe, "tlbWiedergabe", Ruht, Zeigt, [](Ziel& z, int) { z.OeffneAufzeichnung(); }, 0, 1,
+     "Ctrl+Shift+O", 6500, "wiedergabe", 6501, Leistengruppe::Verlauf},
+    {Befehl::WiedergabeVerlassen, "", LaeuftWeiter, Still, [](Ziel& z, int) { z.VerlasseWiedergabe(); }, 0,
+     0},
+    {Befehl::UebergebeneAufzeichnung, "", Ruht, Zeigt,
+     [](Ziel& z, int) { z.OeffneUebergebeneAufzeichnung(); }, 0, 0},
     {Befehl::Aufzeichnung, "tlbAufzeichnung", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.SchalteAufzeichnung(); }, 0, 1, "Ctrl+R", 6220, "aufnahme", 6221,
      Leistengruppe::Verlauf},
     {Befehl::Aufzeichnungen, "tlbAufzeichnungen", LaeuftWeiter, Zeigt,
      [](Ziel& z, int) { z.ZeigeAufzeichnungen(); }, 0, 1, "Ctrl+Shift+R", 6222, "aufzeichnungen", 6223,
      Leistengruppe::Verlauf},
+    {Befehl::Ereignisse, "tlbEreignisse", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeEreignisse(); }, 0,
+     1, "Ctrl+E", 6601, "ereignisse", 6602, Leistengruppe::Verlauf},
+    {Befehl::Verlauf, "tlbVerlauf", LaeuftWeiter, Zeigt, [](Ziel& z, int) { z.ZeigeVerlauf(); }, 0, 1,
+     "Ctrl+T", 6300, "verlauf", 6301, Leistengruppe::Verlauf},
 };
 
 } // namespace

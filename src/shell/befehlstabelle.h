@@ -61,9 +61,17 @@ public:
     /// Offers looks and beam colours.
     virtual void BieteDarstellung() = 0;
     virtual void ZeigeBusprotokoll() = 0;
+    /// Asks for a record and replays it.
+    virtual void OeffneAufzeichnung() = 0;
+    /// Replays the record that came from outside first.
+    virtual void OeffneUebergebeneAufzeichnung() = 0;
+    /// Leaves the replay; what was shown before is shown again.
+    virtual void VerlasseWiedergabe() = 0;
     /// Begins a recording, or ends the one that runs.
     virtual void SchalteAufzeichnung() = 0;
     virtual void ZeigeAufzeichnungen() = 0;
+    virtual void ZeigeEreignisse() = 0;
+    virtual void ZeigeVerlauf() = 0;
 };
 
 /// How a command gets along with live data: whether it stops before, starts again after as when connecting,

@@ -69,10 +69,15 @@ void NenneGeraet(Berichtsangaben& angaben) {
     }
 }
 
-Berichtsangaben Angaben() {
+Berichtsangaben Grundangaben() {
     Berichtsangaben angaben;
     angaben.ausgestellt = Zeittext(QDateTime::currentDateTime()).toStdString();
     angaben.programmversion = Versionstext().toStdString();
+    return angaben;
+}
+
+Berichtsangaben Angaben() {
+    Berichtsangaben angaben = Grundangaben();
     NenneGeraet(angaben);
     return angaben;
 }
@@ -92,6 +97,23 @@ void ZeigeBericht(QWidget* eltern, const std::function<void()>& nachImport) {
                 .name = Namensvorschlag(),
                 .speichere = SpeichereDokument,
                 .importiereText = importiere,
+                .drucker = QPrinterInfo::availablePrinterNames,
+                .waehleDrucker = WaehleDrucker},
+               eltern)
+        .exec();
+}
+
+void ZeigeBerichtUeber(QWidget* eltern, const Abbild& abbild, const std::string& quelle,
+                       const std::string& name) {
+    const auto angaben = [&quelle] {
+        Berichtsangaben diese = Grundangaben();
+        diese.quelle = quelle;
+        return diese;
+    };
+    frmBericht({.abbild = [&abbild]() -> const Abbild& { return abbild; },
+                .angaben = angaben,
+                .name = name,
+                .speichere = SpeichereDokument,
                 .drucker = QPrinterInfo::availablePrinterNames,
                 .waehleDrucker = WaehleDrucker},
                eltern)

@@ -3,6 +3,7 @@
 #include "aufzeichnungsablauf.h"
 #include "busablauf.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "erscheinungsbild.h"
 #include "fensterplatz.h"
 #include "frmDocument.h"
@@ -21,6 +22,7 @@
 #include "verbindungsanzeige.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
 #include "willkommensseite.h"
 
 #include <QApplication>
@@ -95,8 +97,10 @@ frmMain::frmMain(const QString& programmordner)
     bus = std::make_unique<Busablauf>([this] { return einstellungsdatei; });
     messung = std::make_unique<Messablauf>();
     aufzeichnung = MacheAufzeichnungsablauf();
+    ereignisse = std::make_unique<Ereignisablauf>(*messung);
     vergleich = std::make_unique<Vergleichsablauf>([this] { befehle.Klick(Befehl::GeraetVergleichen); });
     verbindung = MacheVerbindungsablauf();
+    wiedergabe = MacheWiedergabeablauf(teile);
 }
 
 frmMain::~frmMain() = default;
@@ -179,6 +183,7 @@ void frmMain::Entlade() {
         return;
     entladen = true;
     modPolling::StoppePolling();
+    BeendeWiedergabe();
     BewahreFensterplatz(*this, Fensterabschnitt);
     ansichten->SpeicherePlaetze();
     leiste->SpeicherePlatz();
@@ -189,6 +194,7 @@ void frmMain::Entlade() {
     bus->Schliesse();
     aufzeichnung->Schliesse();
     messung->Schliesse();
+    ereignisse->Schliesse();
     verbindung->Schliesse();
     hide();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ansichten.h"
+#include "aufzeichnungsleser.h"
 #include "befehlstabelle.h"
 #include "geraetebetrieb.h"
 #include "hauptmenue.h"
@@ -28,12 +29,14 @@ class frmMain;
 class Vergleichsablauf;
 class Aufzeichnungsablauf;
 class Busablauf;
+class Ereignisablauf;
 class Messablauf;
 class Verbindungsablauf;
 class Sicherungsablauf;
 class frmDocument;
 class Erscheinungsbild;
 class Werkzeugleiste;
+class Wiedergabeablauf;
 class Willkommensseite;
 
 /// The main window: its children are the views of the four optical parts, its menu bar carries every command.
@@ -96,6 +99,8 @@ public:
     void SetzeLeihport(std::function<void(const std::function<void()>& tat)> neuer) {
         leihport = std::move(neuer);
     }
+    /// Sets what opens records to replay.
+    void SetzeAufzeichnungsleser(Aufzeichnungsleser neuer) { aufzeichnungsleser = std::move(neuer); }
     /// Says that the line leads to the built-in controller for the whole run.
     void SetzeImmerSimuliert(bool ist) { immerSimuliert = ist; }
     /// Says in the status bar whether the line leads to the built-in controller.
@@ -122,6 +127,8 @@ private:
     void LiesEinstellungen();
     void ZeigePort();
     std::unique_ptr<Verbindungsablauf> MacheVerbindungsablauf();
+    std::unique_ptr<Wiedergabeablauf> MacheWiedergabeablauf(const Hauptteile& teile);
+    void BeendeWiedergabe();
     std::unique_ptr<Aufzeichnungsablauf> MacheAufzeichnungsablauf();
     bool WechslePort(bool simuliert) { return portwechsel && portwechsel(simuliert); }
     void BaueAnsichtenAuf();
@@ -130,6 +137,7 @@ private:
     void StelleInArbeitsflaeche(QSize groesse);
     bool IstErsterStart() const;
     void StelleUebergebeneAn();
+    void LadeVonAussen(const std::string& pfad);
     void Entlade();
 
     bool LiveDatenLaufen() const override { return betrieb->LiveDatenLaufen(); }
@@ -143,9 +151,10 @@ private:
     /// Not behind a configuration that was imported meanwhile: the controller's values are not measured with
     /// it.
     void SetzeLiveDatenFort() override {
-        if (std::exchange(liveDatenPassen, true))
+        if (std::exchange(liveDatenPassen, true) && !RuhtFuerWiedergabe())
             betrieb->SetzeLiveDatenFort();
     }
+    bool RuhtFuerWiedergabe();
     void ZeigeAnsicht(int optikteil) override;
     void Beende() override { SubBeenden(); }
     void BearbeiteEinzelwerte() override;
@@ -180,8 +189,13 @@ private:
     void PruefeLeitung() override;
     void BieteDarstellung() override;
     void ZeigeBusprotokoll() override;
+    void OeffneAufzeichnung() override;
+    void OeffneUebergebeneAufzeichnung() override;
+    void VerlasseWiedergabe() override;
     void SchalteAufzeichnung() override;
     void ZeigeAufzeichnungen() override;
+    void ZeigeEreignisse() override;
+    void ZeigeVerlauf() override;
     void MerkeBefehl(const Befehlszeile& zeile, int index) const;
 
     std::unique_ptr<Erscheinungsbild> erscheinungsbild; ///< comes first: what is made below has its colours
@@ -203,10 +217,14 @@ private:
     std::unique_ptr<Busablauf> bus;
     std::unique_ptr<Aufzeichnungsablauf> aufzeichnung;
     std::unique_ptr<Messablauf> messung;
+    std::unique_ptr<Ereignisablauf> ereignisse;       ///< comes after the past that it shows
     std::deque<std::vector<std::string>> uebergebene; ///< files from outside, those that came together as one
     QString einstellungsdatei;
     std::unique_ptr<Verbindungsablauf> verbindung;
-    bool liveDatenPassen = true; ///< to the configuration, when a command that paused them has ended
+    std::unique_ptr<Wiedergabeablauf> wiedergabe;
+    Aufzeichnungsleser aufzeichnungsleser = LiesAufzeichnung;
+    bool liveNachWiedergabe = false; ///< live data ran when the replay began
+    bool liveDatenPassen = true;     ///< to the configuration, when a command that paused them has ended
     bool entladen = false;
 };
 

@@ -5,6 +5,7 @@
 #include "busablauf.h"
 #include "darstellungsmenue.h"
 #include "einstellungen.h"
+#include "ereignisablauf.h"
 #include "ereignisse.h"
 #include "erscheinungsbild.h"
 #include "frmEinzelwerteLesenSchreiben.h"
@@ -13,6 +14,7 @@
 #include "frmMain.h"
 #include "frmResetHardware.h"
 #include "frmSimulation.h"
+#include "frmVerlauf.h"
 #include "konfigurationsbefehle.h"
 #include "letztedateien.h"
 #include "lokalisiereform.h"
@@ -28,6 +30,8 @@
 #include "verbindungsablauf.h"
 #include "vergleichsablauf.h"
 #include "werkzeugleiste.h"
+#include "wiedergabeablauf.h"
+#include "wiedergaberegel.h"
 
 #include <QAction>
 #include <QMenu>
@@ -44,20 +48,23 @@ void frmMain::FuehreAus(Befehl befehl, int index) {
     if (zeile == nullptr || IstZuSpaet(befehl))
         return;
     MerkeBefehl(*zeile, index);
+    if (VerlaesstWiedergabe(befehl))
+        BeendeWiedergabe();
     zeile->tut(*this, index);
 }
 
-/// By the text of its button or, where it has none, of its menu item, for whoever reads later what has
-/// happened.
+/// By the id of its button's text or, where it has none, of its menu item's, so that it is told later in
+/// whatever language is in use.
 void frmMain::MerkeBefehl(const Befehlszeile& zeile, int index) const {
     const auto* const aktion =
         findChild<QAction*>(QString::fromStdString(Aktionsname(zeile, index - zeile.ersterIndex)));
-    QString text = QString::fromStdString(LadeText(zeile.textId));
-    if (text.isEmpty() && aktion != nullptr)
-        text = aktion->text();
-    text.remove(u'&');
-    modEreignisse::Merke(text.isEmpty() ? "(" + std::to_string(static_cast<int>(zeile.befehl)) + ")"
-                                        : text.toStdString());
+    Ereignis ereignis{
+        .art = Ereignisart::Befehl, .alt = static_cast<std::int32_t>(zeile.befehl), .neu = zeile.textId};
+    if (ereignis.neu == 0 && aktion != nullptr) {
+        ereignis.neu = aktion->property("Tag").toInt();
+        ereignis.text = aktion->text().toStdString();
+    }
+    modEreignisse::Merke(ereignis);
 }
 
 void frmMain::MenuAusführen() {
@@ -111,6 +118,8 @@ void frmMain::SubBeenden() {
 }
 
 void frmMain::ZeigeAnsicht(int optikteil) {
+    if (wiedergabe->Laeuft())
+        return wiedergabe->ZeigeAnsicht(optikteil);
     ansichten->Zeige(optikteil, betrieb->IstLive());
 }
 
@@ -166,9 +175,11 @@ void frmMain::SchalteSprache(std::int16_t offset) {
     bus->Lokalisiere();
     aufzeichnung->Lokalisiere();
     messung->Lokalisiere();
+    ereignisse->Lokalisiere();
     verbindung->Lokalisiere();
     status.ZeigePort();
     ZeigeStatustext(FeldSchaltausgang, "");
+    wiedergabe->Lokalisiere();
 }
 
 void frmMain::OeffneLetzteDatei(int platz) {
@@ -253,6 +264,14 @@ void frmMain::SchalteAufzeichnung() {
 
 void frmMain::ZeigeAufzeichnungen() {
     aufzeichnung->Zeige();
+}
+
+void frmMain::ZeigeEreignisse() {
+    ereignisse->Zeige();
+}
+
+void frmMain::ZeigeVerlauf() {
+    messung->Zeige<frmVerlauf>();
 }
 
 void frmMain::ZeigeSicherungen() {

@@ -8,6 +8,7 @@
 #include "texte.h"
 #include "textmitwerten.h"
 #include "umgebung.h"
+#include "wiedergabeablauf.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -40,8 +41,11 @@ void frmMain::Uebergib(std::vector<std::string> dateien) {
 }
 
 void frmMain::StelleUebergebeneAn() {
-    if (!uebergebene.empty() && !befehle.Wartet())
-        befehle.Klick(Befehl::UebergebeneDateien);
+    if (uebergebene.empty() || befehle.Wartet())
+        return;
+    const auto& dateien = uebergebene.front();
+    const bool istAufzeichnung = dateien.size() == 1 && Wiedergabeablauf::IstAufzeichnung(dateien.front());
+    befehle.Klick(istAufzeichnung ? Befehl::UebergebeneAufzeichnung : Befehl::UebergebeneDateien);
 }
 
 void frmMain::OeffneUebergebeneDateien() {
@@ -53,7 +57,22 @@ void frmMain::OeffneUebergebeneDateien() {
     if (dateien.size() > 1)
         ZeigeMehrereDateien();
     else
-        LadeDatei(dateien.front());
+        LadeVonAussen(dateien.front());
+}
+
+/// Who opens a configuration wants to see it.
+void frmMain::LadeVonAussen(const std::string& pfad) {
+    BeendeWiedergabe();
+    LadeDatei(pfad);
+}
+
+void frmMain::OeffneUebergebeneAufzeichnung() {
+    if (uebergebene.empty())
+        return;
+    const auto dateien = std::move(uebergebene.front());
+    uebergebene.pop_front();
+    ZeigeStatustext(FeldMeldungen, "");
+    wiedergabe->Oeffne(dateien.front());
 }
 
 void frmMain::KommNachVorn() {

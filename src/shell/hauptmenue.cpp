@@ -1,7 +1,7 @@
 #include "hauptmenue.h"
 
 #include "aktionen.h"
-#include "registerabbild.h"
+#include "gezeigtesabbild.h"
 #include "symbolbild.h"
 #include "texte.h"
 
@@ -108,7 +108,12 @@ void Hauptmenue::ZeigeService() {
 
 void Hauptmenue::FolgeStrahlenzahlen() {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        zustand.hatStrahlen.at(static_cast<std::size_t>(teil)) = modDaten::Strahlenzahl(teil) > 0;
+        zustand.hatStrahlen.at(static_cast<std::size_t>(teil)) = modDaten::GezeigteStrahlenzahl(teil) > 0;
+    Aktualisiere();
+}
+
+void Hauptmenue::ZeigeTeile(const std::array<bool, AnzahlOptikteile>& teile) {
+    zustand.hatStrahlen = teile;
     Aktualisiere();
 }
 

@@ -32,6 +32,9 @@ public:
     void ZeigeService();
     /// Each part's item is visible exactly when the part has beams in the image.
     void FolgeStrahlenzahlen();
+    /// Which parts' items are visible.
+    std::array<bool, AnzahlOptikteile> GezeigteTeile() const { return zustand.hatStrahlen; }
+    void ZeigeTeile(const std::array<bool, AnzahlOptikteile>& teile);
     /// No part's item is visible.
     void VerbergeAnsichten();
 

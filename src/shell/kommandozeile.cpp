@@ -22,7 +22,7 @@ constexpr std::int16_t TextVersion = 8829;
 const QString Trenner = QStringLiteral("--");
 const QString Hilfewort = QStringLiteral("--help");
 const QString Versionswort = QStringLiteral("--version");
-const QString Endung = QStringLiteral(".con");
+const QString Endungen[] = {QStringLiteral(".con"), QStringLiteral(".vrec")};
 
 std::string AlsServiceText(const QString& eingabe) {
     return eingabe.left(ServiceTextLaenge).leftJustified(ServiceTextLaenge).toLatin1().toStdString();
@@ -64,7 +64,9 @@ bool IstDatei(const QString& wort, const std::function<bool(const QString&)>& gi
     const bool zweiterStrich = wort.indexOf(u'/', 1) > 0;
     if (BeginntWieSchalter(wort))
         return zweiterStrich && gibtEs(wort);
-    return zweiterStrich || wort.endsWith(Endung, Qt::CaseInsensitive);
+    return zweiterStrich || std::ranges::any_of(Endungen, [&](const QString& endung) {
+               return wort.endsWith(endung, Qt::CaseInsensitive);
+           });
 }
 
 void NimmSchalter(Kommandozeile& zeile, const QString& wort) {

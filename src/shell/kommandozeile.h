@@ -32,8 +32,8 @@ struct Kommandozeile {
 /// Paths begin with a slash as switches do, so this tells them apart: behind the word "--" every word is a
 /// file. Before it, a word that begins like a switch is that switch, unless it has a second slash and a file
 /// of exactly this name exists. Any other word with a slash in front is a file when it has a second slash or
-/// ends with ".con"; one without a slash in front is a file unless it begins with "-". What is left is
-/// ignored.
+/// ends with ".con" or ".vrec"; one without a slash in front is a file unless it begins with "-". What is
+/// left is ignored.
 /// @param gibtEs whether a path leads to a file that exists
 Kommandozeile LiesKommandozeile(const QStringList& worte, const std::function<bool(const QString&)>& gibtEs);
 /// The same with the files of the system.

@@ -42,8 +42,13 @@ enum class Befehl {
     AnschlussUebernehmen = 151,
     GeraetSuchen = 152,
     LeitungPruefen = 153,
+    Wiedergabe = 190,
+    WiedergabeVerlassen = 191,
+    UebergebeneAufzeichnung = 192,
     Aufzeichnung = 160,
     Aufzeichnungen = 161,
+    Ereignisse = 200,
+    Verlauf = 170,
 };
 
 /// Whether the command has the serial line for itself, so that live data stops before it runs.

@@ -119,6 +119,10 @@ void Messablauf::Hoere(const Liveereignis& ereignis) {
     speicher.Nimm(ereignis);
 }
 
+bool Messablauf::Braucht(int teil) const {
+    return std::ranges::any_of(fenster, [teil](const Gezeigtes& eines) { return eines.braucht(teil); });
+}
+
 void Messablauf::MerkeGeraet() {
     if (modModbus::GetIdentGueltig() != False)
         speicher.SetzeGeraet(IdenttextAlsUtf8(modModbus::GetIdentText1()),

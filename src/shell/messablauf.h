@@ -40,7 +40,7 @@ public:
     ~Messablauf() override;
 
     /// Shows a window of the past, which is made when it is first needed: a class that is made with a
-    /// Messanbieter and has ZeigeVor and Lokalisiere.
+    /// Messanbieter and has ZeigeVor and Lokalisiere, and Braucht where it needs parts that no view shows.
     template<class Fenster>
     void Zeige() {
         auto stelle = std::ranges::find(fenster, std::type_index(typeid(Fenster)), &Gezeigtes::art);
@@ -82,6 +82,7 @@ private:
         std::unique_ptr<QWidget> fenster;
         std::function<void()> zeigeVor;
         std::function<void()> lokalisiere;
+        std::function<bool(int teil)> braucht;
     };
 
     template<class Fenster>
@@ -89,11 +90,18 @@ private:
         auto neues = std::make_unique<Fenster>(static_cast<Messanbieter&>(*this));
         Fenster* const dieses = neues.get();
         return {typeid(Fenster), std::move(neues), [dieses] { dieses->ZeigeVor(); },
-                [dieses] { dieses->Lokalisiere(); }};
+                [dieses] { dieses->Lokalisiere(); },
+                [dieses](int teil) {
+                    if constexpr (requires { dieses->Braucht(teil); })
+                        return dieses->Braucht(teil);
+                    else
+                        return false;
+                }};
     }
 
     void Hoere(const Messdurchgang& durchgang) override;
     void Hoere(const Liveereignis& ereignis) override;
+    bool Braucht(int teil) const override;
     void MerkeGeraet();
     void MerkeKonfiguration();
 

@@ -55,6 +55,10 @@ void Statusleiste::Zeige(int feld, const std::string& text) {
         anzeige.setToolTip(anzeige.text());
 }
 
+void Statusleiste::ZeigeAusgangVon(const std::string& text, const std::string& uhrzeit) {
+    ausgang->ZeigeVon(QString::fromStdString(text), QString::fromStdString(uhrzeit));
+}
+
 void Statusleiste::ZeigePort() {
     const int nummer = modSchnittstelle::GetComPort();
     Zeige(FeldPort, simuliert ? LadeText(TextSimuliert)

@@ -20,6 +20,8 @@ public:
 
     /// Writes into panel 1..3.
     void Zeige(int feld, const std::string& text);
+    /// Shows the state of the switching output at another time, as in a replay.
+    void ZeigeAusgangVon(const std::string& text, const std::string& uhrzeit);
     /// Shows the serial port in use, with the system's name of it as the tool tip; on a line to the built-in
     /// controller that.
     void ZeigePort();

@@ -1,6 +1,5 @@
 #include "verbindungsanzeige.h"
 
-#include "ereignisse.h"
 #include "identifikation.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
@@ -15,6 +14,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QStatusBar>
+
+#include <utility>
 
 namespace varnoth {
 
@@ -113,26 +114,42 @@ void Verbindungsanzeige::SetzeVerbindet(bool ob) {
     Aktualisiere();
 }
 
+void Verbindungsanzeige::SetzeWiedergabe(std::optional<Verbindungsgegenstand> woraus) {
+    wiedergabe = std::move(woraus);
+    Aktualisiere();
+}
+
 void Verbindungsanzeige::Aktualisiere() {
     const Verbindungstatsachen tatsachen = Tatsachen(verbindet);
-    const Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
-                        .gegenstand = Gegenstand(),
-                        .tag = tatsachen.uhrzeit.date(),
-                        .sprache = GetSprachoffset()};
+    Inhalt inhalt{.bild = regel.Betrachte(tatsachen),
+                  .gegenstand = Gegenstand(),
+                  .tag = tatsachen.uhrzeit.date(),
+                  .sprache = GetSprachoffset()};
+    if (wiedergabe) {
+        inhalt.bild = {.zustand = Verbindungszustand::Wiedergabe};
+        inhalt.gegenstand = *wiedergabe;
+    }
     if (inhalt != gezeigt) {
-        MerkeZustand(inhalt, tatsachen.uhrzeit);
+        MerkeZustand(inhalt);
         Zeige(inhalt, tatsachen.uhrzeit);
     }
     gezeigt = inhalt;
 }
 
 /// Every new state is kept, with the line that it is about.
-void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const {
+void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) {
     if (gezeigt && gezeigt->bild.zustand == inhalt.bild.zustand)
         return;
     const Verbindungsgegenstand& gegenstand = inhalt.gegenstand;
-    modEreignisse::Merke(Zustandstext(inhalt.bild, jetzt) + " (" + gegenstand.port + ", " +
-                         gegenstand.geraet + ", " + gegenstand.format + ")");
+    const bool wiedergegeben = inhalt.bild.zustand == Verbindungszustand::Wiedergabe;
+    merker.Merke({.art = Ereignisart::Zustand,
+                  .zeit = std::chrono::system_clock::now(),
+                  .laufzeit = DieUmgebung().Uhr(),
+                  .alt = inhalt.bild.simuliert ? 1 : 0,
+                  .neu = static_cast<int>(inhalt.bild.zustand),
+                  .text = wiedergegeben
+                              ? gegenstand.aufzeichnung
+                              : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "ereignisse.h"
 #include "verbindungsregel.h"
 #include "verbindungstexte.h"
+#include "zustandsmerker.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -31,6 +33,8 @@ public:
 
     /// The connection flow begins or ends.
     void SetzeVerbindet(bool ob);
+    /// A record is shown instead of a connection; nothing: no longer.
+    void SetzeWiedergabe(std::optional<Verbindungsgegenstand> woraus);
     /// Looks now.
     void Aktualisiere();
 
@@ -47,7 +51,7 @@ private:
 
     QPushButton* MacheKnopf(const QString& name, const std::function<void()>& tat);
     void Zeige(const Inhalt& inhalt, const QDateTime& jetzt);
-    void MerkeZustand(const Inhalt& inhalt, const QDateTime& jetzt) const;
+    void MerkeZustand(const Inhalt& inhalt);
 
     Verbindungssymbol* symbol;
     Kurzlabel* zustandstext;
@@ -57,6 +61,8 @@ private:
     QTimer takt;
     Verbindungsregel regel;
     std::optional<Inhalt> gezeigt;
+    std::optional<Verbindungsgegenstand> wiedergabe;
+    Zustandsmerker merker{modEreignisse::Alle()};
     bool verbindet = false;
 };
 

@@ -8,6 +8,8 @@ using enum Verbindungszustand;
 
 // Longer than an exchange takes at 1200 baud.
 constexpr Zeit Geduld = std::chrono::milliseconds(1200);
+// A figure that changes more often cannot be read.
+constexpr Zeit Ratenruhe = std::chrono::seconds(1);
 
 void Dauert(Verbindungsbild& bild, Verbindungszustand zustand, Zeit dauer) {
     bild.zustand = zustand;
@@ -56,10 +58,15 @@ Verbindungsbild Verbindungsregel::Betrachte(const Verbindungstatsachen& tatsache
 double Verbindungsregel::NimmRate(const Verbindungstatsachen& tatsachen, Verbindungszustand zustand) {
     if (zustand != Live) {
         rate = {};
+        gezeigteRate = 0;
         return 0;
     }
     rate.Nimm(tatsachen.jetzt, tatsachen.durchgaenge);
-    return rate.ProSekunde(tatsachen.jetzt);
+    if (gezeigteRate > 0 && tatsachen.jetzt < rateGenommen + Ratenruhe)
+        return gezeigteRate;
+    gezeigteRate = rate.ProSekunde(tatsachen.jetzt);
+    rateGenommen = tatsachen.jetzt;
+    return gezeigteRate;
 }
 
 void Verbindungsregel::MerkeEnde(const Verbindungstatsachen& tatsachen) {

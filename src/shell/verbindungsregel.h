@@ -35,6 +35,7 @@ enum class Verbindungszustand {
     PortOffen,  ///< a dialog has the line for itself
     Angehalten, ///< live data was stopped
     Offline,
+    Wiedergabe, ///< a record is shown; nothing is connected
 };
 
 /// How the connection is shown.
@@ -43,7 +44,7 @@ struct Verbindungsbild {
     bool simuliert = false;
     std::chrono::seconds dauer{0};   ///< of Wartet and Pausiert
     QDateTime seit{};                ///< of Angehalten and Offline: when live data ended, else the first look
-    double durchgaengeJeSekunde = 0; ///< of Live; 0 while none is known
+    double durchgaengeJeSekunde = 0; ///< of Live, another at most once a second; 0 while none is known
     int fehlschlaege = 0;
     bool startBieten = false; ///< live data is neither on nor about to be
     bool sucheBieten = false; ///< and the last attempt to reach the controller has failed
@@ -63,6 +64,8 @@ private:
     void Unterscheide(const Verbindungstatsachen& tatsachen, Verbindungsbild& bild) const;
 
     Durchgangsrate rate;
+    double gezeigteRate = 0;
+    Zeit rateGenommen{0};
     QDateTime seit;
     bool warLive = false;
     bool angehalten = false;

@@ -47,6 +47,10 @@ void MaleRaute(QPainter& maler) {
     maler.drawPolygon(QPolygonF({QPointF(0, -0.9), QPointF(0.9, 0), QPointF(0, 0.9), QPointF(-0.9, 0)}));
 }
 
+void MaleDreieck(QPainter& maler) {
+    maler.drawPolygon(QPolygonF({QPointF(-0.6, -0.8), QPointF(0.8, 0), QPointF(-0.6, 0.8)}));
+}
+
 void Male(QPainter& maler, Verbindungszustand zustand, bool simuliert) {
     switch (zustand) {
     case Verbindet:
@@ -62,6 +66,8 @@ void Male(QPainter& maler, Verbindungszustand zustand, bool simuliert) {
         return MaleRing(maler);
     case Offline:
         return MaleKreuz(maler);
+    case Wiedergabe:
+        return MaleDreieck(maler);
     }
 }
 
@@ -78,6 +84,8 @@ QColor Verbindungsfarbe(Verbindungszustand zustand, bool simuliert) {
     case Pausiert:
     case Angehalten:
         return {0xc9, 0x7a, 0x00};
+    case Wiedergabe:
+        return {0x8e, 0x44, 0xad};
     case Offline:
         break;
     }

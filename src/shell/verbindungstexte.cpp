@@ -10,7 +10,7 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::array<std::int16_t, 7> TexteDerZustaende{9100, 9101, 9102, 9103, 9104, 9105, 9106};
+constexpr std::array<std::int16_t, 8> TexteDerZustaende{9100, 9101, 9102, 9103, 9104, 9105, 9106, 6500};
 constexpr std::int16_t TextSimuliert = 9107;
 constexpr std::int16_t TextSimuliertUnd = 9108;
 constexpr std::int16_t TextDurchgaenge = 9109;
@@ -22,6 +22,7 @@ constexpr std::int16_t TextSeriennummer = 9114;
 constexpr std::int16_t TextDurchgaengeJeSekunde = 9115;
 constexpr std::int16_t TextFehlschlaege = 9116;
 constexpr std::int16_t TextEingebaut = 9117;
+constexpr std::int16_t TextAufzeichnung = 6502;
 
 /// The time of day, with the date where it is another day's.
 std::string Zeitpunkt(const QDateTime& wann, const QDateTime& jetzt) {
@@ -85,6 +86,11 @@ std::string Zahlentext(const Verbindungsbild& bild) {
 std::string Verbindungshinweis(const Verbindungsbild& bild, const Verbindungsgegenstand& gegenstand,
                                const QDateTime& jetzt) {
     std::string text = Zustandstext(bild, jetzt);
+    if (bild.zustand == Verbindungszustand::Wiedergabe) {
+        HaengeAn(text, "\n", LadeTextMit(TextAufzeichnung, {EineZeile(gegenstand.aufzeichnung)}));
+        NenneSteuergeraet(text, gegenstand);
+        return text;
+    }
     if (bild.simuliert)
         HaengeAn(text, "\n", LadeText(TextEingebaut));
     else

@@ -15,6 +15,7 @@ struct Verbindungsgegenstand {
     std::string format;         ///< "38400,n,8,2"
     std::string bezeichnung{};  ///< what the controller calls itself (UTF-8); empty while it has not said
     std::string seriennummer{}; ///< the same of its serial number
+    std::string aufzeichnung{}; ///< path of the record that is replayed (UTF-8)
 
     bool operator==(const Verbindungsgegenstand&) const = default;
 };

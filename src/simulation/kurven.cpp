@@ -1,5 +1,6 @@
 #include "kurven.h"
 
+#include "achse.h"
 #include "formeln.h"
 
 #include <algorithm>
@@ -13,8 +14,6 @@ namespace {
 constexpr double KleinstesXEnde = 50; // mm: holds the smallest holes of every beam distance
 constexpr double Luft = 1.1;          // from the farthest point to the end of the axis
 constexpr double GroessteAchse = 1e9;
-constexpr double Toleranz = 1e-9; // of computed multiples
-constexpr int TeileJeAchse = 10;
 
 bool IstDarstellbar(const Marke& marke) {
     const auto passt = [](double wert) { return wert >= 0 && wert <= GroessteAchse; };
@@ -60,30 +59,6 @@ Diagramm DiagrammFuer(double tz, std::int32_t strahlabstand, std::span<const Mar
     if (const double hoechster = HoechsterPunkt(diagramm); hoechster > 0)
         diagramm.yEnde = RundesEnde(hoechster);
     return diagramm;
-}
-
-double RunderSchritt(double mindestens) {
-    const double zehner = std::pow(10, std::floor(std::log10(mindestens)));
-    for (const double vielfaches : {1, 2, 5})
-        if (vielfaches * zehner >= mindestens * (1 - Toleranz))
-            return vielfaches * zehner;
-    return 10 * zehner;
-}
-
-double RundesEnde(double wert) {
-    const double schritt = RunderSchritt(wert / TeileJeAchse);
-    return std::ceil(wert / schritt - Toleranz) * schritt;
-}
-
-std::vector<double> Achsenzahlen(double ende, double mindestabstand) {
-    std::vector<double> zahlen;
-    if (ende <= 0 || mindestabstand <= 0)
-        return zahlen;
-    const double schritt = RunderSchritt(mindestabstand);
-    const int anzahl = static_cast<int>(ende / schritt * (1 + Toleranz));
-    for (int i = 0; i <= anzahl; ++i)
-        zahlen.push_back(i * schritt);
-    return zahlen;
 }
 
 } // namespace varnoth

@@ -47,16 +47,6 @@ struct Diagramm {
 /// all points marked. Points that no axis could hold (negative or enormous) are left out.
 Diagramm DiagrammFuer(double tz, std::int32_t strahlabstand, std::span<const Marke> marken);
 
-/// The smallest of 1, 2 and 5 times a power of ten that is not below a number above 0.
-double RunderSchritt(double mindestens);
-
-/// The end of an axis: a round number, at least the given one (above 0).
-double RundesEnde(double wert);
-
-/// The round numbers from 0 to the end of an axis that are at least so far apart; none for an axis without
-/// length.
-std::vector<double> Achsenzahlen(double ende, double mindestabstand);
-
 /// The rectangle in which the curves are drawn, and what its right and upper edges stand for.
 struct Kurvenfeld {
     double links = 0;

@@ -1,5 +1,6 @@
 #include "kurvenzeichner.h"
 
+#include "achse.h"
 #include "gebietszahl.h"
 #include "texte.h"
 
@@ -33,6 +34,10 @@ QString Kurvenname(Kurvenart art) {
     constexpr std::int16_t Objekterfassung = 8038;
     constexpr std::int16_t Locherkennung = 8039;
     return Text(art == Kurvenart::Objekt ? Objekterfassung : Locherkennung);
+}
+
+const QColor& Farbe(Kurvenart art, const Kurvenfarben& farben) {
+    return art == Kurvenart::Objekt ? farben.objekt : farben.loch;
 }
 
 QString Zahl(double zahl, const QLocale& gebiet) {
@@ -152,7 +157,7 @@ void Kurvenzeichner::ZeichneZeilen() const {
 }
 
 void Kurvenzeichner::ZeichneKurve(const std::vector<Strecke>& kurve, Kurvenart art) const {
-    maler.setPen(Kurvenstift(art, farben.Fuer(art)));
+    maler.setPen(Kurvenstift(art, Farbe(art, farben)));
     for (const auto& [von, bis] : kurve)
         maler.drawLine(QPointF(feld.X(von.x), feld.Y(von.y)), QPointF(feld.X(bis.x), feld.Y(bis.y)));
 }
@@ -160,7 +165,7 @@ void Kurvenzeichner::ZeichneKurve(const std::vector<Strecke>& kurve, Kurvenart a
 void Kurvenzeichner::ZeichneHilfslinien(const Marke& marke) const {
     const double mitte = Strichbreite() / 2;
     const QPointF ort(Gerastet(feld.X(marke.ort.x)) + mitte, Gerastet(feld.Y(marke.ort.y)) + mitte);
-    maler.setPen(QPen(farben.Fuer(marke.art), Strichbreite(), Qt::DotLine, Qt::FlatCap));
+    maler.setPen(QPen(Farbe(marke.art, farben), Strichbreite(), Qt::DotLine, Qt::FlatCap));
     maler.drawLine(ort, QPointF(ort.x(), feld.Unten()));
     maler.drawLine(ort, QPointF(feld.links, ort.y()));
 }
@@ -170,7 +175,7 @@ void Kurvenzeichner::ZeichneMarke(const Marke& marke) const {
     const QPointF radius(Markenradius, Markenradius);
     const QRectF rahmen(ort - radius, ort + radius);
     maler.setPen(QPen(farben.grund, Linienbreite));
-    maler.setBrush(farben.Fuer(marke.art));
+    maler.setBrush(Farbe(marke.art, farben));
     if (marke.art == Kurvenart::Objekt)
         maler.drawEllipse(rahmen);
     else
@@ -191,7 +196,7 @@ double Kurvenzeichner::ZeichneEintrag(double rechts, Kurvenart art) const {
     const double mitte = Gerastet(Abstand + masse.height() / 2);
     maler.setPen(farben.schrift);
     maler.drawText(QPointF(links, Abstand + masse.ascent()), name);
-    maler.setPen(Kurvenstift(art, farben.Fuer(art)));
+    maler.setPen(Kurvenstift(art, Farbe(art, farben)));
     maler.drawLine(QPointF(links - Abstand - Musterlaenge, mitte), QPointF(links - Abstand, mitte));
     return links - Abstand - Musterlaenge;
 }

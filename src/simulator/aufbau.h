@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,8 @@ inline constexpr int Optikteile = 4;
 inline constexpr int MaxStrahlen = 512;
 inline constexpr std::size_t Passwortlaenge = 16;
 
+class Band;
+
 /// What is put on the bench: the controller, its optical parts and the line to it.
 struct Aufbau {
     std::array<int, Optikteile> strahlen{32, 64, 128, 288}; ///< beam counts, 0 = no part; at most 512 in all
@@ -35,6 +38,8 @@ struct Aufbau {
     std::string passwort = "Varnoth-Service1"; ///< opens the factory data, 16 characters
     std::filesystem::path speicherdatei{}; ///< keeps configuration and factory data; empty = in memory only
     std::vector<Stoerung> stoerungen{};
+    std::shared_ptr<Band> band{}; ///< a record that is replayed in place of the scene; may be none
+    bool schleife = false;        ///< the record begins anew at its end
     std::function<void(std::string_view)> protokoll{}; ///< takes the log, line by line without line ends
 };
 

@@ -31,6 +31,11 @@ void PruefeStrahlen(const std::array<int, Optikteile>& strahlen) {
 }
 
 Optik::Optik(const Aufbau& aufbau) : szene(aufbau.startwert) {
+    if (aufbau.band) {
+        band.emplace(aufbau.band, aufbau.schleife);
+        NimmBeginn();
+        return;
+    }
     PruefeStrahlen(aufbau.strahlen);
     for (int teil = 0; teil < Optikteile; ++teil) {
         Teil(teil).anzahl = aufbau.strahlen[static_cast<std::size_t>(teil)];
@@ -80,6 +85,8 @@ void Optik::Neustart() {
 }
 
 void Optik::Aktualisiere(Registerspeicher& speicher, Zeit jetzt) {
+    if (band)
+        return SpieleAb(speicher, jetzt);
     const Zeit zeit = std::max(angehalten.value_or(jetzt) - rueckstand, Zeit{0});
     const auto scan = zeit / Abtastzeit;
     if (letzterScan == scan)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "band.h"
 #include "messung.h"
 #include "registerspeicher.h"
 
@@ -31,6 +32,11 @@ public:
     /// Something that the measurement goes by has changed: scan anew at the next chance.
     void Erneuere() { letzterScan.reset(); }
 
+    /// Beam states or measured values are asked for: a record that is replayed begins to run.
+    void Beginne(Zeit jetzt);
+    /// Whether the record that is replayed says that the controller does not answer now.
+    bool Schweigt(Zeit jetzt);
+
     /// Brings the registers that show the scene up to the given time.
     void Aktualisiere(Registerspeicher& speicher, Zeit jetzt);
 
@@ -45,12 +51,19 @@ private:
     Optikteil& Teil(int teil) { return teile[static_cast<std::size_t>(teil)]; }
     void TasteAb(Registerspeicher& speicher, int teil, Zeit zeit);
     std::uint16_t Geraetestatus(const Registerspeicher& speicher, bool gerade) const;
+    Zeit Bandzeit(Zeit jetzt) const;
+    void NimmBeginn();
+    void SpieleAb(Registerspeicher& speicher, Zeit jetzt);
+    void Schreibe(Registerspeicher& speicher, int teil, const Bandteil& gelesen);
 
     Szene szene;
     std::array<Optikteil, Optikteile> teile{};
     std::optional<Zeit> angehalten{};
     Zeit rueckstand{0};
     std::optional<Zeit::rep> letzterScan{};
+    std::optional<Bandlauf> band{};
+    std::optional<Zeit> bandbeginn{};
+    std::size_t konfiguration = 1; ///< of the record, in force
 };
 
 } // namespace varnoth::simulator

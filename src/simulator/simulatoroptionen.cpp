@@ -64,6 +64,12 @@ constexpr Option AlleOptionen[] = {
      [](Optionen& o, std::string_view wert) {
          o.aufbau.startwert = static_cast<std::uint64_t>(LiesZahl(wert, "--seed", 0, GroessterStartwert));
      }},
+    {"--replay", "FILE",
+     "serve the beams, values and configuration of a record in place of the scene, at the pace they were "
+     "recorded; it begins when they are first asked for and stays at its last pass",
+     [](Optionen& o, std::string_view wert) { o.wiedergabe = wert; }},
+    {"--replay-loop", "", "begin the record anew behind its last pass",
+     [](Optionen& o, std::string_view) { o.aufbau.schleife = true; }},
     {"--store", "FILE", "keep the stored configuration and factory data in FILE",
      [](Optionen& o, std::string_view wert) { o.aufbau.speicherdatei = wert; }},
     {"--password", "TEXT", "the 16 characters that open the factory data (Varnoth-Service1)", NimmPasswort},

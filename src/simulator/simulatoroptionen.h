@@ -10,6 +10,7 @@ namespace varnoth::simulator {
 /// What the program's command line says.
 struct Optionen {
     Aufbau aufbau{};
+    std::string wiedergabe{};   ///< path of the record to replay, empty = none
     std::string verknuepfung{}; ///< path of the symbolic link to the terminal, empty = none
     std::string protokoll{};    ///< path of the log, "-" = standard output, empty = none
     std::string steuerkanal{};  ///< path of the control socket, empty = none

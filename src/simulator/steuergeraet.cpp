@@ -37,6 +37,12 @@ std::string Liste(std::span<const std::uint16_t> werte) {
     return text;
 }
 
+/// Whether beam states or measured values are among the registers.
+bool ZeigtSzene(Ort ort, int anzahl) {
+    return ort.bereich == Bereich::Spezifisch && ort.adresse + anzahl > reg::Messwerte &&
+           ort.adresse < reg::Strahlen + reg::Strahlenregister;
+}
+
 bool Beruehrt(Ort ort, std::size_t anzahl, int globalesRegister) {
     return ort.bereich == Bereich::Global && ort.adresse <= globalesRegister &&
            globalesRegister < ort.adresse + static_cast<int>(anzahl);
@@ -110,6 +116,10 @@ Bytes Steuergeraet::Bearbeite(Anfrage anfrage, Zeit zeit) {
         return {};
     }
     jetzt = zeit;
+    if (optik.Schweigt(jetzt)) {
+        protokoll.Zeile([] { return std::string("silent, as the record"); });
+        return {};
+    }
     const bool mitAntwort = WirdBeantwortet(anfrage); // a restart may change the address
     ++zaehlwerk.anfragen[anfrage[1]];
     Bytes antwort{static_cast<std::uint8_t>(adresse), anfrage[1]};
@@ -143,6 +153,8 @@ Steuergeraet::Ablehnung Steuergeraet::Lies(Anfrage anfrage, Bytes& antwort) {
     const auto ort = FindeOrt(Wort(anfrage, 2), anzahl);
     if (!ort)
         return Ablehnung::Adresse;
+    if (ZeigtSzene(*ort, anzahl))
+        optik.Beginne(jetzt);
     optik.Aktualisiere(speicher, jetzt);
     const auto werte = speicher.Block(*ort, Optikteil(), anzahl);
     antwort.push_back(static_cast<std::uint8_t>(2 * anzahl));

@@ -1,4 +1,5 @@
 #include "ablauf.h"
+#include "band.h"
 
 #ifdef __linux__
 #include <sys/prctl.h>
@@ -7,6 +8,8 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -24,7 +27,9 @@ void EndeMitEltern() {
 #endif
 }
 
-void Diene(const Optionen& optionen) {
+void Diene(Optionen optionen) {
+    if (!optionen.wiedergabe.empty())
+        optionen.aufbau.band = std::make_shared<Band>(optionen.wiedergabe);
     if (optionen.endetMitEltern)
         EndeMitEltern();
     Ablauf ablauf(optionen);
@@ -44,13 +49,13 @@ int Melde(const std::exception& fehler, int ergebnis) {
 
 int main(int anzahl, char* worte[]) {
     try {
-        const Optionen optionen = LiesOptionen({worte + 1, static_cast<std::size_t>(anzahl - 1)});
+        Optionen optionen = LiesOptionen({worte + 1, static_cast<std::size_t>(anzahl - 1)});
         if (optionen.hilfe)
             std::cout << Hilfetext();
         else if (optionen.version)
             std::cout << "varnoth-simulator " VARNOTH_VERSION "\n";
         else
-            Diene(optionen);
+            Diene(std::move(optionen));
         return EXIT_SUCCESS;
     } catch (const std::invalid_argument& fehler) {
         return Melde(fehler, FalscherAufruf);

@@ -1,5 +1,7 @@
 #include "werkseinstellung.h"
 
+#include "band.h"
+
 #include <algorithm>
 
 namespace varnoth::simulator {
@@ -54,6 +56,8 @@ Registerspeicher Werkseinstellung(const Aufbau& aufbau) {
     speicher.Kommunikation(reg::Leitungsformat) =
         static_cast<std::uint16_t>(Registerwert(aufbau.format.value_or(Zeichenformat{.baud = aufbau.baud})));
     speicher.Kommunikation(reg::Stationsadresse) = static_cast<std::uint16_t>(aufbau.adresse);
+    if (aufbau.band)
+        aufbau.band->Uebernimm(1, speicher);
     return speicher;
 }
 

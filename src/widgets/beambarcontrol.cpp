@@ -3,11 +3,12 @@
 #include "strahlbalkenzugang.h"
 #include "strahlmasse.h"
 
-#include <QEvent>
 #include <QFontInfo>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 namespace varnoth {
 
@@ -64,7 +65,7 @@ void BeamBarControl::SetzeZustand(Strahlzustand zustand) {
     if (alter == zustand)
         return;
     alter = zustand;
-    Geaendert();
+    StrahlGeaendert(gewaehlt);
 }
 
 Strahlzustand BeamBarControl::Zustand() const {
@@ -79,6 +80,8 @@ void BeamBarControl::SetzeAutomatischesZeichnen(bool an) {
     automatisch = an;
     if (an && geaendert)
         Geaendert();
+    if (an)
+        ErneuereStrahlen();
 }
 
 void BeamBarControl::SetzeDatenstand(Datenstand neuer) {
@@ -147,7 +150,7 @@ bool BeamBarControl::event(QEvent* ereignis) {
     return QWidget::event(ereignis);
 }
 
-void BeamBarControl::paintEvent(QPaintEvent* /*ereignis*/) {
+void BeamBarControl::paintEvent(QPaintEvent* ereignis) {
     QPainter maler(this);
     const double dichte = StelleAufGeraetepixel(maler);
     Marken marken;
@@ -158,7 +161,11 @@ void BeamBarControl::paintEvent(QPaintEvent* /*ereignis*/) {
         marken.bandOben = std::min(start, bandEnde);
         marken.bandHoehe = std::abs(start - bandEnde);
     }
-    bild.Zeichne(maler, Vorgabe(dichte), palette(), zustaende, marken);
+    std::vector<Streifen> streifen;
+    for (const QRect& teil : ereignis->region())
+        streifen.push_back({static_cast<int>(std::floor((teil.top() - 1) * dichte)),
+                            static_cast<int>(std::ceil((teil.bottom() + 2) * dichte))});
+    bild.Zeichne(maler, Vorgabe(dichte), palette(), zustaende, marken, streifen);
 }
 
 Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
@@ -182,6 +189,20 @@ void BeamBarControl::Geaendert() {
     geaendert = !automatisch;
     if (automatisch)
         update();
+}
+
+void BeamBarControl::StrahlGeaendert(int strahl) {
+    geaenderteStrahlen.push_back(strahl);
+    if (automatisch)
+        ErneuereStrahlen();
+}
+
+// Only what shows a beam that has changed: from scan to scan these are few.
+void BeamBarControl::ErneuereStrahlen() {
+    if (geaenderteStrahlen.empty())
+        return;
+    const std::vector<int> strahlen = std::exchange(geaenderteStrahlen, {});
+    update(Strahlgebiet(Vorgabe(devicePixelRatioF()), strahlen));
 }
 
 } // namespace varnoth

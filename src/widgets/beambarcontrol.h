@@ -105,6 +105,8 @@ private:
     int GeraeteY(const QPointF& stelle) const;
     bool IstStrahl(int index) const { return index >= 0 && index < Strahlanzahl(); }
     void Geaendert();
+    void StrahlGeaendert(int strahl);
+    void ErneuereStrahlen();
     void NimmAusschnitt(const Ausschnitt& neuer);
     bool AufUebersicht(const QPointF& stelle) const;
     void GeheInUebersicht(const QPointF& stelle);
@@ -123,6 +125,7 @@ private:
     int gewaehlt = -1;
     bool automatisch = true;
     bool geaendert = false;
+    std::vector<int> geaenderteStrahlen;
     Datenstand stand = Datenstand::Gueltig;
     bool beobachtung = false;
     Bedienart bedienart = Bedienart::Zoom;

@@ -34,6 +34,31 @@ QColor Uebersichtsfarbe(const Strahlfarben& farben, Strahlzustand zustand) {
     return AlsFlaeche(zustand == Strahlzustand::Geblankt ? farben.geblankt : farben.frei, farben.grund);
 }
 
+constexpr std::size_t MeisteStrecken = 8; // more are drawn faster as one
+
+// Beams in a row, from the first to the last.
+struct Strecke {
+    int von;
+    int bis;
+};
+
+std::vector<Strecke> Strecken(std::vector<int> strahlen) {
+    std::ranges::sort(strahlen);
+    std::vector<Strecke> strecken;
+    for (const int strahl : strahlen)
+        if (strecken.empty() || strahl > strecken.back().bis + 1)
+            strecken.push_back({strahl, strahl});
+        else
+            strecken.back().bis = strahl;
+    return strecken;
+}
+
+bool LiegtIn(std::span<const Streifen> streifen, const Zeile& zeile, int rand) {
+    return std::ranges::any_of(streifen, [&](const Streifen& einer) {
+        return zeile.oben - rand < einer.unten && zeile.oben + zeile.hoehe + rand > einer.oben;
+    });
+}
+
 // A small triangle beside a beam.
 void ZeichnePfeil(QPainter& maler, double x, double y, double breite, const QColor& farbe) {
     QPainterPath pfad;
@@ -75,12 +100,31 @@ Aufteilung TeileAuf(const Bildvorgabe& vorgabe) {
     return plan;
 }
 
+QRegion Strahlgebiet(const Bildvorgabe& vorgabe, std::span<const int> strahlen) {
+    const Aufteilung plan = TeileAuf(vorgabe);
+    const std::vector<Strecke> strecken = Strecken({strahlen.begin(), strahlen.end()});
+    const QRect alles(QPoint(), (QSizeF(vorgabe.groesse) / vorgabe.dichte).toSize() + QSize(1, 1));
+    if (plan.uebersicht > 0 || strecken.size() > MeisteStrecken)
+        return alles;
+    const int rand = Geraetepixel(Masse::Meldung, vorgabe.dichte) + 1;
+    QRegion gebiet;
+    for (const auto& [von, bis] : strecken) {
+        const int oben = plan.feld.Unterkante(bis + 1) - rand;
+        const int hoehe = plan.feld.Unterkante(von) + rand - oben;
+        const QRectF flaeche(plan.strahlenLinks, oben, plan.strahlenBreite + plan.gehaeuse, hoehe);
+        const QRectF logisch(flaeche.topLeft() / vorgabe.dichte, flaeche.size() / vorgabe.dichte);
+        gebiet += logisch.toAlignedRect().adjusted(-1, -1, 1, 1) & alles;
+    }
+    return gebiet;
+}
+
 void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& neueVorgabe, const QPalette& neuePalette,
-                         std::span<const Strahlzustand> zustaende, const Marken& marken) {
+                         std::span<const Strahlzustand> zustaende, const Marken& marken,
+                         std::span<const Streifen> streifen) {
     Bereite(neueVorgabe, neuePalette);
     maler.drawPixmap(0, 0, hintergrund);
     if (vorgabe.stand != Datenstand::Ungueltig)
-        ZeichneStrahlen(maler, zustaende);
+        ZeichneStrahlen(maler, zustaende, streifen);
     if (aufteilung.uebersicht > 0)
         ZeichneUebersicht(maler, zustaende);
     ZeichneMarken(maler, marken);
@@ -101,11 +145,14 @@ void Strahlbild::Bereite(const Bildvorgabe& neueVorgabe, const QPalette& neuePal
     muster = Musterbogen({aufteilung.strahlenBreite, aufteilung.feld.Teilung(), vorgabe.dichte}, farben);
 }
 
-void Strahlbild::ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende) const {
+void Strahlbild::ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende,
+                                 std::span<const Streifen> streifen) const {
     const Strahlfeld& feld = aufteilung.feld;
     const Musterformat format{aufteilung.strahlenBreite, feld.Teilung(), vorgabe.dichte};
     const int links = aufteilung.strahlenLinks;
-    const std::vector<Zeile> zeilen = Zeilen(feld, zustaende);
+    const int rand = Geraetepixel(Masse::Meldung, vorgabe.dichte);
+    std::vector<Zeile> zeilen = Zeilen(feld, zustaende);
+    std::erase_if(zeilen, [=](const Zeile& zeile) { return !LiegtIn(streifen, zeile, rand); });
     maler.save();
     maler.setClipRect(links, feld.oben, aufteilung.strahlenBreite, feld.hoehe);
     for (const Zeile& zeile : zeilen)

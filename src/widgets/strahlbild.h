@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QPixmap>
+#include <QRegion>
 #include <QSize>
 
 class QPainter;
@@ -60,16 +61,28 @@ struct Marken {
     int bandHoehe = 0;
 };
 
+/// Device pixel rows that are to be drawn; beams that lie in none of them may be left out.
+struct Streifen {
+    int oben = 0;
+    int unten = 0;
+};
+
+/// What of a widget with a beam bar has to be drawn anew when these beams (indices, in any order) have
+/// changed, in logical pixels.
+QRegion Strahlgebiet(const Bildvorgabe& vorgabe, std::span<const int> strahlen);
+
 /// Draws beam bars. What does not change from scan to scan is kept as pictures.
 class Strahlbild {
 public:
     /// Draws at the painter's origin; one unit of the painter must be one device pixel.
     void Zeichne(QPainter& maler, const Bildvorgabe& vorgabe, const QPalette& palette,
-                 std::span<const Strahlzustand> zustaende, const Marken& marken);
+                 std::span<const Strahlzustand> zustaende, const Marken& marken,
+                 std::span<const Streifen> streifen);
 
 private:
     void Bereite(const Bildvorgabe& vorgabe, const QPalette& palette);
-    void ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende) const;
+    void ZeichneStrahlen(QPainter& maler, std::span<const Strahlzustand> zustaende,
+                         std::span<const Streifen> streifen) const;
     void MeldeUnterbrochene(QPainter& maler, const std::vector<Zeile>& zeilen) const;
     void ZeichneUebersicht(QPainter& maler, std::span<const Strahlzustand> zustaende) const;
     void ZeichneZeiger(QPainter& maler, int strahl) const;

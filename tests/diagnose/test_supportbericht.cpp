@@ -3,6 +3,7 @@
 #include "ereignisse.h"
 #include "pruefgeraet.h"
 #include "servicetext.h"
+#include "texte.h"
 #include "transaktionen.h"
 
 #include <gmock/gmock.h>
@@ -19,23 +20,14 @@ std::string Kopf(const Supportangaben& angaben = {}) {
     return Supportkopf(angaben, std::chrono::system_clock::now());
 }
 
+void Merke(const std::string& text) {
+    modEreignisse::Merke({.art = Ereignisart::Befehl, .text = text});
+}
+
 } // namespace
 
-TEST(Ereignisse, Are_kept_in_their_order_and_the_newest_500_of_them) {
-    for (int i = 0; i < 503; ++i)
-        modEreignisse::Merke("Nr. " + std::to_string(i));
-    ASSERT_EQ(modEreignisse::Alle().size(), 500U);
-    EXPECT_EQ(modEreignisse::Alle().front().text, "Nr. 3");
-    EXPECT_EQ(modEreignisse::Alle().back().text, "Nr. 502");
-}
-
-TEST(Ereignisse, Are_one_line_each) {
-    modEreignisse::Merke("a\nb");
-    EXPECT_EQ(modEreignisse::Alle().back().text, "a�b");
-}
-
 TEST(Supportbericht, Holds_versions_connection_settings_and_events) {
-    modEreignisse::Merke("Verbinden");
+    Merke("Verbinden");
     const std::string kopf = Kopf({.umfeld = "Monitor 1.0.0\nQt 6.4",
                                    .verbindung = "COM1, /dev/ttyUSB0",
                                    .einstellungen = "[Settings]\nComPort=1\n"});
@@ -59,9 +51,22 @@ TEST(Supportbericht, Tells_the_controller_and_how_the_exchanges_ended) {
                 HasSubstr("beantwortet: 1\nkein Anschluss: 0\nkeine Antwort: 0\nunverstanden: 0\nEcho: 0\n"));
 }
 
+TEST(Supportbericht, Has_the_newest_500_events_in_the_language_of_the_moment) {
+    for (int i = 0; i < 503; ++i)
+        Merke("Nr. " + std::to_string(i) + ".");
+    modEreignisse::Merke(
+        {.art = Ereignisart::AusgangGeschaltet, .anzahl = 3, .neu = 1, .dauer = std::chrono::seconds(4)});
+    const std::string kopf = Kopf();
+    EXPECT_THAT(kopf, Not(HasSubstr("  Nr. 3.\n")));
+    EXPECT_THAT(kopf, HasSubstr("  Nr. 4.\n"));
+    EXPECT_THAT(kopf, HasSubstr("  zuletzt: PNP-Ausgang aktiv [3 (30,0/min), 4,0 s]\n"));
+    SetzeSprachoffset(Englisch);
+    EXPECT_THAT(Kopf(), HasSubstr("  last: PNP output active [3 (30.0/min), 4.0 s]\n"));
+}
+
 TEST(Supportbericht, Has_no_password_wherever_it_may_stand) {
     modService::SetzeServiceText("Varnoth-Service1");
-    modEreignisse::Merke("Varnoth-Service1");
+    Merke("Varnoth-Service1");
     const std::string kopf = Kopf({.umfeld = "x Varnoth-Service1",
                                    .verbindung = "/dev/Varnoth-Service1",
                                    .einstellungen = "Passwort=geheim\nName=Varnoth-Service1\n"});

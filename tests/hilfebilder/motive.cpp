@@ -2,12 +2,15 @@
 
 #include "aufzeichnungstexte.h"
 #include "einstellungen.h"
+#include "ereignisanbieter.h"
+#include "ereignisse.h"
 #include "frmAufzeichnung.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
+#include "frmEreignisse.h"
 #include "frmIdentifikationsAnforderung.h"
 #include "frmInfo.h"
 #include "frmInitHardware.h"
@@ -23,9 +26,13 @@
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "frmVerlauf.h"
 #include "leitungspruefung.h"
+#include "motivwiedergabe.h"
 #include "polling.h"
 #include "protokollanbieter.h"
+#include "pruefdurchgaenge.h"
+#include "pruefmessanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
 #include "registerabbild.h"
@@ -65,6 +72,7 @@ constexpr QSize Vergleichsgroesse(840, 400);
 constexpr QSize Verbindungsgroesse(760, 480);
 constexpr QSize Berichtsgroesse(840, 600);
 constexpr QSize Protokollgroesse(840, 520);
+constexpr QSize Verlaufsgroesse(840, 520);
 constexpr int Seitenbreite = 840; // that a page of the help has in its window
 constexpr int SeiteGlobal = 0;
 constexpr int SeiteK1 = 1;
@@ -385,9 +393,83 @@ QImage Aufzeichnungen(Buehne& buehne) {
     return buehne.BildNach(fenster, Sofort);
 }
 
+/// Five minutes of a web that wanders, with a spike and a short loss of the connection.
+void FuelleVerlauf(pruefung::PruefMessquelle& quelle) {
+    constexpr int Sekunden = 300;
+    constexpr int Spitze = 190;
+    quelle.angaben.beginn = std::chrono::sys_days{std::chrono::year{2026} / 3 / 17} + std::chrono::hours(13);
+    for (int i = 0; i < Sekunden; ++i) {
+        const auto tu = static_cast<std::uint16_t>(i == Spitze ? 90 : 40 + i * 7 % 60 / 4);
+        Messpaket paket = pruefung::PaketMit(std::chrono::seconds(i), 10, milliseconds(100), tu);
+        if (i == Spitze)
+            paket.ereignisse = {
+                {.art = Messereignisart::Notiz, .laufzeit = std::chrono::seconds(i), .text = "B 12"}};
+        if (i < 80 || i > 90)
+            quelle.Nimm(std::move(paket));
+    }
+}
+
+QImage Verlauf(Buehne& buehne) {
+    pruefung::PruefMessanbieter anbieter;
+    FuelleVerlauf(anbieter.quelle);
+    frmVerlauf fenster(anbieter);
+    fenster.resize(Verlaufsgroesse);
+    return buehne.BildNach(fenster, milliseconds(300));
+}
+
 QImage Info(Buehne& buehne) {
     frmInfo dialog(nullptr);
     return buehne.BildNach(dialog, Sofort);
+}
+
+struct KeineMitschrift : Ereignisanbieter {
+    Mitschriftstand Mitschrift() override {
+        return {.laeuft = true, .ordner = "/home/service", .datei = "/home/service/varnoth-2026-03-17.txt"};
+    }
+    void SetzeMitschrift(bool /*laeuft*/, const std::string& /*ordner*/) override {}
+    std::optional<std::string> FrageNachOrdner(const std::string& /*titel*/,
+                                               const std::string& /*anfang*/) override {
+        return {};
+    }
+};
+
+/// A night with a disturbed line.
+QImage Ereignisfenster(Buehne& buehne) {
+    using namespace std::chrono_literals;
+    using enum Ereignisart;
+    const Ereignis nacht[] = {
+        {.art = LiveBegonnen, .zeit = Systemzeit(21h + 58min)},
+        {.art = AusgangGeschaltet,
+         .zeit = Systemzeit(26h + 10min + 58s),
+         .anzahl = 62,
+         .neu = 1,
+         .dauer = 31s},
+        {.art = Fehlgeschlagen, .zeit = Systemzeit(26h + 11min + 30s), .anzahl = 41, .neu = 3, .dauer = 156s},
+        {.art = Fehlgeschlagen,
+         .zeit = Systemzeit(26h + 14min + 6s),
+         .anzahl = 19,
+         .neu = 2,
+         .dauer = 48'200ms},
+        {.art = Verloren, .zeit = Systemzeit(26h + 14min + 7s)},
+        {.art = Zurueck, .zeit = Systemzeit(26h + 14min + 55s), .dauer = 47'800ms},
+        {.art = TeilStatus, .zeit = Systemzeit(26h + 15min), .teil = 0, .neu = 4},
+        {.art = TeilGewechselt, .zeit = Systemzeit(27h + 2min), .teil = 2, .neu = 0},
+        {.art = TeilGewechselt, .zeit = Systemzeit(27h + 3min + 5s), .teil = 2, .neu = 1, .dauer = 65s},
+        {.art = Notiz, .zeit = Systemzeit(30h), .text = "Stecker am Optikteil gereinigt"},
+        {.art = Gesichert, .zeit = Systemzeit(30h + 4min)},
+        {.art = KonfigurationGeschrieben, .zeit = Systemzeit(30h + 4min + 20s), .anzahl = 212}};
+    modEreignisse::Alle() = Ereignisspeicher();
+    for (Ereignis ereignis : nacht) {
+        ereignis.zeit += std::chrono::sys_days{std::chrono::year{2026} / 3 / 16}.time_since_epoch();
+        modEreignisse::Merke(ereignis);
+    }
+    pruefung::PruefMessanbieter messungen;
+    KeineMitschrift anbieter;
+    frmEreignisse fenster(messungen, anbieter);
+    fenster.resize(Protokollgroesse.width(), Protokollgroesse.height() * 3 / 4);
+    fenster.show();
+    DieUmgebung().NutzeWartezeit();
+    return buehne.BildNach(fenster, Sofort);
 }
 
 } // namespace
@@ -417,6 +499,9 @@ std::span<const Motiv> AlleMotive() {
         {"frmBericht", Berichtsfenster},
         {"frmBusprotokoll", Protokoll},
         {"frmAufzeichnung", Aufzeichnungen},
+        {"frmWiedergabe", Wiedergabebild},
+        {"frmEreignisse", Ereignisfenster},
+        {"frmVerlauf", Verlauf},
         {"frmVerbindung_ports", Verbindungsports},
         {"frmVerbindung_suche", Verbindungssuche},
         {"frmVerbindung_leitung", Verbindungspruefung},

@@ -107,6 +107,14 @@ TEST_F(MesshoererTest, A_pass_holds_what_was_read_and_when_it_ended) {
     EXPECT_EQ(durchgang.teile[1], Teilmessung{});
 }
 
+TEST_F(MesshoererTest, A_part_has_no_more_beams_than_there_can_be_whatever_its_register_holds) {
+    EXPECT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, 12, 60000));
+    PollingZyklus();
+    PollingZyklus();
+    ASSERT_EQ(hoerer.durchgaenge.size(), 1U);
+    EXPECT_EQ(hoerer.durchgaenge[0].teile[0].strahlen, 1009);
+}
+
 TEST_F(MesshoererTest, A_part_that_no_view_shows_is_measured_only_for_a_listener_that_needs_it) {
     ziel.ansicht.zeigt = false;
     PollingZyklus();

@@ -266,6 +266,8 @@ int main(int argc, char** argv) {
     using namespace varnoth::pruefung;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir heim; // where files go unless somebody says otherwise
+    qputenv("HOME", heim.path().toUtf8());
     QApplication anwendung(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QCommandLineParser worte;

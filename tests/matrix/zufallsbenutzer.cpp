@@ -1,5 +1,6 @@
 #include "zufallsbenutzer.h"
 
+#include "befehlstabelle.h"
 #include "frmDocument.h"
 #include "polling.h"
 
@@ -31,6 +32,9 @@ constexpr std::string_view Oeffnen = "mnuOeffnen";
 /// Writes single registers without any check, so that no configuration would be left to go on with.
 constexpr std::string_view EinzelnesSchreiben = "cmdSchreiben";
 constexpr std::string_view Einzelwerte = "frmEinzelwerteLesenSchreiben";
+/// Windows that stay open beside the main one and have nothing to do with the port.
+constexpr std::array<std::string_view, 5> Vergangenheit{"frmAufzeichnung", "frmEreignisse", "frmVerlauf",
+                                                        "frmWasserfall", "frmWiedergabe"};
 
 template<class Element>
 std::vector<Element*> Bedienbare(QWidget& fenster) {
@@ -39,6 +43,13 @@ std::vector<Element*> Bedienbare(QWidget& fenster) {
         if (element->isVisible() && element->isEnabled())
             liste.push_back(element);
     return liste;
+}
+
+/// A menu item, or the button of a command of the past, which no menu has.
+bool IstBefehl(const QString& aktion) {
+    return aktion.startsWith("mnu") || std::ranges::any_of(Befehlstabelle(), [&](const Befehlszeile& zeile) {
+               return zeile.gruppe == Leistengruppe::Verlauf && zeile.textId != 0 && aktion == zeile.aktion;
+           });
 }
 
 void SchaltNachher(QAbstractButton& knopf) {
@@ -67,6 +78,8 @@ void Zufallsbenutzer::Handle() {
         betrieb.Waehle("mnuMessdatenVisualisierenStart");
     else if (vorn == nullptr && Zufall(3) == 0)
         BedieneFenster();
+    else if (vorn == nullptr && Zufall(3) == 0)
+        BedieneVergangenheit();
     else if (vorn == nullptr)
         WaehleCommand();
 }
@@ -74,7 +87,7 @@ void Zufallsbenutzer::Handle() {
 void Zufallsbenutzer::WaehleCommand() {
     std::vector<QAction*> posten;
     for (QAction* const aktion : betrieb.Hauptfenster().findChildren<QAction*>())
-        if (aktion->objectName().startsWith("mnu") && aktion->menu() == nullptr && !aktion->isSeparator() &&
+        if (IstBefehl(aktion->objectName()) && aktion->menu() == nullptr && !aktion->isSeparator() &&
             aktion->isEnabled() && aktion->isVisible() && aktion->objectName().toStdString() != Ende)
             posten.push_back(aktion);
     QAction& gewaehlt = *posten[zufall() % posten.size()];
@@ -115,6 +128,22 @@ void Zufallsbenutzer::AendereFeld(QWidget& dialog) {
     else if (!felder.empty())
         felder[zufall() % felder.size()]->setText(QString::number(Zufall(300)));
     Zaehle("change in " + dialog.objectName().toStdString());
+}
+
+void Zufallsbenutzer::BedieneVergangenheit() {
+    std::vector<QWidget*> offene;
+    for (QWidget* const fenster : QApplication::topLevelWidgets())
+        if (fenster->isVisible() &&
+            std::ranges::find(Vergangenheit, fenster->objectName().toStdString()) != Vergangenheit.end())
+            offene.push_back(fenster);
+    if (offene.empty())
+        return;
+    QWidget& fenster = *offene[zufall() % offene.size()];
+    const auto knoepfe = Bedienbare<QAbstractButton>(fenster);
+    if (Zufall(2) == 0 || knoepfe.empty())
+        return AendereFeld(fenster);
+    Zaehle("click in " + fenster.objectName().toStdString());
+    SchaltNachher(*knoepfe[zufall() % knoepfe.size()]);
 }
 
 /// A window or view is moved, minimised, closed, shown.

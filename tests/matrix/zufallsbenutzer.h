@@ -11,7 +11,8 @@
 namespace varnoth::pruefung {
 
 /// A user without a plan: chooses commands, opens, changes and cancels dialogs, closes, minimises and opens
-/// views, whatever the program is doing. He never ends it.
+/// views, whatever the program is doing, and changes and clicks what the windows of the past offer. He never
+/// ends it.
 class Zufallsbenutzer {
 public:
     Zufallsbenutzer(Betrieb& bedienter, unsigned seed);
@@ -28,6 +29,7 @@ private:
 
     void BedieneDialog(QDialog& dialog);
     void BedieneFenster();
+    void BedieneVergangenheit();
     void WaehleCommand();
     void AendereFeld(QWidget& dialog);
     void Zaehle(const std::string& was) { ++taten[was]; }

@@ -198,6 +198,40 @@ TEST_F(Dateien, A_name_as_long_as_the_file_system_takes_works) {
     EXPECT_EQ(Inhalt(pfad), neu);
 }
 
+TEST_F(Dateien, Appending_makes_the_file_and_goes_on_behind_what_is_there) {
+    EXPECT_EQ(HaengeAnDatei(Pfad("a.txt"), "ab\n", 100).fehlertext, "");
+    EXPECT_EQ(HaengeAnDatei(Pfad("a.txt"), "c\n", 100).fehlertext, "");
+    EXPECT_EQ(Inhalt(Pfad("a.txt")), "ab\nc\n");
+}
+
+TEST_F(Dateien, Appending_stops_before_the_file_becomes_too_long) {
+    EXPECT_FALSE(HaengeAnDatei(Pfad("a.txt"), "12345", 10).voll);
+    EXPECT_FALSE(HaengeAnDatei(Pfad("a.txt"), "67890", 10).voll);
+    EXPECT_TRUE(HaengeAnDatei(Pfad("a.txt"), "x", 10).voll);
+    EXPECT_EQ(Inhalt(Pfad("a.txt")), "1234567890");
+}
+
+TEST_F(Dateien, Appending_is_said_where_it_cannot_be_and_waits_for_no_pipe) {
+    const std::string rohr = Pfad("rohr");
+    ASSERT_EQ(mkfifo(rohr.c_str(), 0600), 0);
+    EXPECT_EQ(HaengeAnDatei(rohr, "x", 10).fehlertext, KeineGewoehnlicheDatei());
+    EXPECT_EQ(HaengeAnDatei(Pfad("weg/a.txt"), "x", 10).fehlertext, Systemfehler(ENOENT));
+    chmod(ordner.path().toUtf8().constData(), 0555);
+    EXPECT_EQ(AlsNutzer([&] { return HaengeAnDatei(Pfad("a.txt"), "x", 10).fehlertext; }),
+              Systemfehler(EACCES));
+}
+
+TEST_F(Dateien, An_append_that_stops_half_way_leaves_the_file_as_it_was) {
+    HaengeAnDatei(Pfad("a.txt"), "alt", 1000);
+    const auto kind = Kind([&](int) {
+                          signal(SIGXFSZ, SIG_IGN);
+                          BegrenzeDateigroesse(10);
+                          return HaengeAnDatei(Pfad("a.txt"), std::string(100, 'x'), 1000).fehlertext;
+                      }).Ende();
+    EXPECT_EQ(kind.text, Systemfehler(EFBIG));
+    EXPECT_EQ(Inhalt(Pfad("a.txt")), "alt");
+}
+
 TEST_F(Dateien, Unreadable_settings_give_defaults_and_are_left_alone) {
     ErsetzeDatei(Pfad("varnoth.ini"), "[Settings]\nSprache=10000\n");
     chmod(Pfad("varnoth.ini").c_str(), 0);

@@ -1,6 +1,7 @@
 #include "ereignispumpe.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -48,9 +49,12 @@ TEST_F(EreignispumpeTest, A_wait_does_the_work_too_and_ends_with_it) {
         pumpe.SchiebeAuf(Arbeit('a'));
         if (dazwischen)
             pumpe.LaufeOhneAufgeschobenes();
+        QElapsedTimer dauer;
+        dauer.start();
         for (int i = 0; getan.empty() && i < 100; ++i)
             pumpe.WarteAufEreignis(10s);
         EXPECT_EQ(getan, "a");
+        EXPECT_LT(dauer.elapsed(), 5000);
     }
 }
 

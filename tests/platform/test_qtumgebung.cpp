@@ -51,6 +51,17 @@ TEST_F(QtUmgebungTest, Messages_take_the_way_that_was_set) {
     EXPECT_EQ(gezeigt, "x");
 }
 
+TEST_F(QtUmgebungTest, A_witness_hears_of_each_message_before_it_is_answered_and_changes_nothing) {
+    std::vector<std::string> gang;
+    umgebung.SetzeMeldungszeuge([&](const Meldung& meldung) { gang.push_back("heard: " + meldung.text); });
+    umgebung.SetzeMeldungsweg([&](const Meldung& meldung) {
+        gang.push_back("answered: " + meldung.text);
+        return Antwort::Nein;
+    });
+    EXPECT_EQ(umgebung.ZeigeMeldung({.text = "Frage"}), Antwort::Nein);
+    EXPECT_EQ(gang, (std::vector<std::string>{"heard: Frage", "answered: Frage"}));
+}
+
 TEST_F(QtUmgebungTest, Without_windows_a_message_gets_the_answer_of_a_box_that_is_closed) {
     EXPECT_EQ(umgebung.ZeigeMeldung({.text = "x", .knoepfe = Knoepfe::Ok}), Antwort::Ok);
     EXPECT_EQ(umgebung.ZeigeMeldung({.text = "x", .knoepfe = Knoepfe::OkAbbrechen}), Antwort::Abbrechen);

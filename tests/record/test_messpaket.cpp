@@ -87,4 +87,23 @@ TEST(MesspaketTest, A_text_that_is_too_long_ends_with_a_whole_character) {
     EXPECT_EQ(gelesen->ereignisse.at(0).text, ganze);
 }
 
+TEST(MesspaketTest, What_no_writer_writes_is_none) {
+    const auto ist = [](const std::string& bytes) { return PaketAus(bytes).has_value(); };
+    EXPECT_TRUE(ist(std::string("\0\0\0\1\5\0\0\0", 8)));
+    EXPECT_FALSE(ist(std::string("\0\0\0\1\6\0\0\0", 8))) << "a kind of event that there is not";
+    EXPECT_FALSE(ist(std::string("\0\0\0\1\5\1\0\0", 8))) << "an event before the beginning of all";
+    EXPECT_TRUE(ist(std::string("\0\0\1\0\0\x14\x3\0", 8)));
+    EXPECT_FALSE(ist(std::string("\0\0\1\0\0\x14\x43\0", 8))) << "a bit of a part that means nothing";
+    EXPECT_FALSE(ist(std::string("\0\0\1\0\0\x15\x3\0", 8))) << "five parts";
+    EXPECT_FALSE(ist(std::string("\0\0\1\0\0\x14\x8\xF2\7\0", 10))) << "1010 beams";
+}
+
+TEST(MesspaketTest, A_part_with_more_beams_than_there_can_be_is_kept_with_the_most) {
+    Messpaket paket = LebhaftesPaket(0, 1);
+    paket.durchgaenge[0].teile[0].strahlen = 2000;
+    const auto gelesen = PaketAus(AlsBytes(paket));
+    ASSERT_TRUE(gelesen);
+    EXPECT_EQ(gelesen->durchgaenge[0].teile[0].strahlen, 1009);
+}
+
 } // namespace varnoth

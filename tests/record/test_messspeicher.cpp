@@ -146,4 +146,21 @@ TEST_F(MessspeicherTest, What_the_controller_calls_itself_can_become_known_later
               (Messangaben{.beginn = Probebeginn, .bezeichnung = "Vorhang", .seriennummer = "4711"}));
 }
 
+TEST_F(MessspeicherTest, An_event_shows_at_once) {
+    Nimm(0, 1);
+    ASSERT_TRUE(speicher.Lies(0)->ereignisse.empty());
+    speicher.Nimm({Liveereignisart::Beendet, Probebeginn, Beginnuhr + Zeit(9)});
+    EXPECT_EQ(speicher.Lies(0)->ereignisse.size(), 1U);
+}
+
+TEST_F(MessspeicherTest, A_note_between_two_packets_belongs_to_the_first_and_lies_in_its_span) {
+    Nimm(0, 40);
+    const Zeit danach = speicher.Spanne(2).bis + Zeit(100);
+    const std::size_t bytes = speicher.Bytes();
+    speicher.Notiere(danach, Probebeginn, "dazwischen");
+    EXPECT_EQ(speicher.Lies(2)->ereignisse.at(0).laufzeit, danach);
+    EXPECT_EQ(speicher.Spanne(2).bis, danach);
+    EXPECT_LT(speicher.Bytes(), bytes + 100) << "the packet takes little more room than before";
+}
+
 } // namespace varnoth

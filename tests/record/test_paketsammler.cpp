@@ -47,4 +47,16 @@ TEST(PaketsammlerTest, Times_of_day_are_kept_to_the_microsecond) {
     EXPECT_EQ(sammler.Stand().durchgaenge.at(0), LebhafterDurchgang(0));
 }
 
+TEST(PaketsammlerTest, A_packet_is_full_once_it_holds_as_much_as_one_may) {
+    Paketsammler ereignisse;
+    Paketsammler durchgaenge;
+    for (std::size_t i = 0; i < GroessterPaketinhalt; ++i) {
+        ASSERT_FALSE(ereignisse.IstVoll() || durchgaenge.IstVoll());
+        ereignisse.Nimm({Messereignisart::Notiz, Zeit(0), Probebeginn, {}});
+        durchgaenge.Nimm(Messdurchgang{});
+    }
+    EXPECT_TRUE(ereignisse.IstVoll());
+    EXPECT_TRUE(durchgaenge.IstVoll());
+}
+
 } // namespace varnoth

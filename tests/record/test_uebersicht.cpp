@@ -154,4 +154,53 @@ TEST(UebersichtTest, A_packet_counts_as_its_passes_and_events_in_order_of_time) 
     EXPECT_FALSE(uebersicht.HatLuecke(2));
 }
 
+TEST(UebersichtTest, Two_stretches_that_become_one_keep_gaps_beams_and_what_only_one_of_them_saw) {
+    Uebersicht eine(1); // never more than one stretch
+    Messdurchgang kurz = Einer(0s, 1, 0x0000);
+    kurz.teile[0].strahlen = 8;
+    eine.Nimm(kurz);
+    Messdurchgang ohne = Einer(1s, 1);
+    ohne.teile[0] = {};
+    eine.Nimm(ohne);
+    ASSERT_EQ(eine.Anzahl(), 1U);
+    EXPECT_EQ(eine.UnterbrochenImmer(0, 0)[0], 0xFF00) << "nothing was measured in the second one";
+    EXPECT_FALSE(eine.HatLuecke(0));
+    eine.Nimm({Messereignisart::LiveBeendet, 1s, {}, {}});
+    eine.Nimm(Einer(3s, 1, 0x0000, 0x0000));
+    ASSERT_EQ(eine.Anzahl(), 1U);
+    EXPECT_TRUE(eine.HatLuecke(0));
+    EXPECT_EQ(eine.Strahlen(0, 0), 20);
+    EXPECT_EQ(eine.UnterbrochenImmer(0, 0)[0], 0xFF00);
+    EXPECT_EQ(eine.UnterbrochenEinmal(0, 0)[0], 0xFFFF);
+    EXPECT_EQ(eine.UnterbrochenImmer(0, 0)[1], 0) << "these beams came later";
+    EXPECT_EQ(eine.UnterbrochenEinmal(0, 0)[1], 0x0F00);
+}
+
+TEST(UebersichtTest, A_gap_of_one_of_two_stretches_that_become_one_is_its_own) {
+    Uebersicht eine(1);
+    eine.Nimm(Einer(0s, 1));
+    eine.Nimm(Einer(2s, 1)); // a stretch is four seconds now
+    eine.Nimm(Einer(5s, 1));
+    EXPECT_FALSE(eine.HatLuecke(0));
+    eine.NimmLuecke();
+    eine.Nimm(Einer(9s, 1));
+    EXPECT_TRUE(eine.HatLuecke(0));
+}
+
+TEST(UebersichtTest, Stretches_stay_short_while_as_many_are_forgotten_as_come) {
+    Uebersicht uebersicht(20'000);
+    for (int i = 0; i < 1000; ++i) {
+        uebersicht.Nimm(Einer(std::chrono::seconds(i), 1));
+        uebersicht.VergissBis(std::chrono::seconds(i - 10));
+    }
+    EXPECT_EQ(uebersicht.Spanne(0).bis - uebersicht.Spanne(0).von, 1s - Zeit(1));
+}
+
+TEST(UebersichtTest, Passes_that_could_not_be_kept_are_a_gap) {
+    Uebersicht uebersicht;
+    uebersicht.Nimm(Einer(0s, 1));
+    uebersicht.Nimm({Messereignisart::Verworfen, 500ms, {}, "3"});
+    EXPECT_TRUE(uebersicht.HatLuecke(0));
+}
+
 } // namespace varnoth

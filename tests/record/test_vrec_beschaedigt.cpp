@@ -41,6 +41,35 @@ const Vreczustand& Oeffne(Vrecleser& leser) {
     return leser.Zustand();
 }
 
+/// A file with a hole of zeros in the middle.
+struct Lochdatei : Eingabedatei {
+    Lochdatei(std::string anfang, std::uint64_t loch, std::string ende)
+        : vorn(std::move(anfang)), luecke(loch), hinten(std::move(ende)) {}
+
+    std::uint64_t Groesse() const override { return vorn.size() + luecke + hinten.size(); }
+    bool Lies(std::uint64_t stelle, std::span<char> ziel) const override {
+        groesstes = std::max(groesstes, ziel.size());
+        std::ranges::fill(ziel, '\0');
+        Lege(vorn, 0, stelle, ziel);
+        Lege(hinten, vorn.size() + luecke, stelle, ziel);
+        return stelle + ziel.size() <= Groesse();
+    }
+
+    mutable std::size_t groesstes = 0; ///< bytes that were asked for at once
+
+private:
+    static void Lege(const std::string& teil, std::uint64_t ab, std::uint64_t stelle, std::span<char> ziel) {
+        const std::uint64_t von = std::max(ab, stelle);
+        const std::uint64_t bis = std::min(ab + teil.size(), stelle + ziel.size());
+        for (std::uint64_t i = von; i < bis; ++i)
+            ziel[static_cast<std::size_t>(i - stelle)] = teil[static_cast<std::size_t>(i - ab)];
+    }
+
+    std::string vorn;
+    std::uint64_t luecke;
+    std::string hinten;
+};
+
 /// How many passes can really be read; each must be one that was recorded.
 std::uint64_t Lesbare(const Vrecleser& leser) {
     std::uint64_t anzahl = 0;
@@ -111,6 +140,30 @@ TEST(BeschaedigteVrecTest, Behind_bytes_that_are_nothing_the_next_packet_is_foun
     Vrecleser leser(std::make_unique<Speicherdatei>(bytes));
     EXPECT_EQ(Oeffne(leser).durchgaenge, 12U);
     EXPECT_EQ(leser.Zustand().beschaedigte, 1U);
+    EXPECT_EQ(Lesbare(leser), 12U);
+}
+
+TEST(BeschaedigteVrecTest, A_file_of_10_GB_is_opened_in_small_slices_that_get_on) {
+    const Probe probe = MacheProbe();
+    auto datei = std::make_unique<Lochdatei>(probe.bytes, std::uint64_t{10} << 30, "");
+    const Lochdatei& gelesene = *datei;
+    Vrecleser leser(std::move(datei));
+    double vorher = 0;
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_TRUE(leser.Arbeite());
+        ASSERT_TRUE(i < 2 || leser.Anteil() > vorher) << i;
+        vorher = leser.Anteil();
+    }
+    EXPECT_GT(vorher, 0.005);
+    EXPECT_LE(gelesene.groesstes, std::size_t{1} << 20U);
+}
+
+TEST(BeschaedigteVrecTest, What_lies_behind_a_large_hole_is_found) {
+    const Probe probe = MacheProbe();
+    const std::size_t stelle = probe.paketenden[1];
+    Vrecleser leser(std::make_unique<Lochdatei>(probe.bytes.substr(0, stelle), std::uint64_t{100} << 20,
+                                                probe.bytes.substr(stelle)));
+    EXPECT_EQ(Oeffne(leser).durchgaenge, 12U);
     EXPECT_EQ(Lesbare(leser), 12U);
 }
 

@@ -189,4 +189,47 @@ TEST(VrecleserTest, Bytes_that_the_disk_does_not_give_are_a_gap_and_none_at_all_
     }
 }
 
+TEST(VrecleserTest, Of_one_that_is_too_long_the_beginning_is_given) {
+    for (const bool beendet : {true, false}) {
+        Vrecleser leser(std::make_unique<Speicherdatei>(Aufzeichnung(50, beendet)), 20);
+        while (leser.Arbeite())
+            continue;
+        EXPECT_TRUE(leser.Zustand().zuLang);
+        EXPECT_EQ(leser.Zustand().befund, Vrecbefund::Gut);
+        EXPECT_EQ(leser.Zustand().durchgaenge, 120U);
+        EXPECT_EQ(leser.Zustand().beschaedigte, 0U);
+        EXPECT_EQ(leser.Ende(), 20U);
+        EXPECT_EQ(*leser.Lies(19), Paket(19));
+    }
+    Vrecleser ganz(std::make_unique<Speicherdatei>(Aufzeichnung(20)), 20);
+    while (ganz.Arbeite())
+        continue;
+    EXPECT_FALSE(ganz.Zustand().zuLang);
+}
+
+TEST(VrecleserTest, Behind_a_damaged_configuration_none_is_known_until_the_next) {
+    for (const bool beendet : {true, false}) {
+        std::string bytes = Aufzeichnung(5, beendet);
+        bytes[bytes.find("Varnoth Konfiguration") + 100] ^= 1;
+        const auto leser = Geoeffnet(bytes);
+        EXPECT_EQ(leser->Zustand().beschaedigte, 1U);
+        EXPECT_EQ(Strahlen(*leser, 2), -1);
+        EXPECT_EQ(Strahlen(*leser, 3), 30);
+        EXPECT_EQ(Strahlen(*leser, 2), -1);
+    }
+}
+
+TEST(VrecleserTest, An_index_of_another_record_is_not_believed) {
+    const std::string bytes = Aufzeichnung(5);
+    const std::string andere = Aufzeichnung(400);
+    const std::size_t stelle = bytes.rfind("\xA5VRB", bytes.rfind("\xA5VRB") - 1);
+    const std::size_t ihre = andere.rfind("\xA5VRB", andere.rfind("\xA5VRB") - 1);
+    const std::string verzeichnis = andere.substr(ihre, andere.size() - vrec::LaengeSchluss - ihre);
+    const auto leser =
+        Geoeffnet(bytes.substr(0, stelle) + verzeichnis + bytes.substr(bytes.size() - vrec::LaengeSchluss));
+    EXPECT_EQ(leser->Ende(), 5U);
+    EXPECT_EQ(leser->Zustand().durchgaenge, 30U);
+    EXPECT_EQ(*leser->Lies(4), Paket(4));
+}
+
 } // namespace varnoth

@@ -1,11 +1,14 @@
 #include "allefenster.h"
 
+#include "ereignisanbieter.h"
+#include "ereignisse.h"
 #include "frmAufzeichnung.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmBusprotokoll.h"
 #include "frmDocument.h"
 #include "frmEinzelwerteLesenSchreiben.h"
+#include "frmEreignisse.h"
 #include "frmHilfe.h"
 #include "frmHoleLichtleistenInfo.h"
 #include "frmIdentifikationsAnforderung.h"
@@ -24,9 +27,12 @@
 #include "frmStrahlenBestimmen.h"
 #include "frmVerbindung.h"
 #include "frmVergleich.h"
+#include "frmVerlauf.h"
 #include "leitungspruefung.h"
 #include "mithoeren.h"
 #include "protokollanbieter.h"
+#include "pruefdurchgaenge.h"
+#include "pruefmessanbieter.h"
 #include "pruefsicherungen.h"
 #include "pruefverbindung.h"
 #include "rahmen.h"
@@ -123,6 +129,19 @@ std::unique_ptr<QWidget> Busprotokollfenster() {
     return fenster;
 }
 
+struct BoeseMitschrift : Ereignisanbieter {
+    Mitschriftstand Mitschrift() override {
+        return {.laeuft = true, .ordner = TextMitTags, .fehler = TextMitTags};
+    }
+    void SetzeMitschrift(bool, const std::string&) override {}
+    std::optional<std::string> FrageNachOrdner(const std::string&, const std::string&) override { return {}; }
+};
+
+std::unique_ptr<QWidget> Ereignisfenster() {
+    modEreignisse::Merke({.art = Ereignisart::Meldung, .text = TextMitTags});
+    return std::make_unique<MitUmfeld<frmEreignisse, PruefMessanbieter, BoeseMitschrift>>();
+}
+
 std::unique_ptr<QWidget> Ansicht() {
     auto fenster = std::make_unique<frmDocument>(0);
     fenster->InitfrmDocument();
@@ -180,6 +199,21 @@ std::unique_ptr<QWidget> Verbindungsfenster() {
     return fenster;
 }
 
+/// A past with a note that somebody has written.
+struct BoeseVergangenheit : PruefMessanbieter {
+    BoeseVergangenheit() {
+        const std::string boese = TextMitTags;
+        quelle.angaben = {.bezeichnung = boese, .seriennummer = boese, .programm = boese};
+        Messpaket paket = PaketMit(Zeit(0), 10, std::chrono::milliseconds(100));
+        paket.ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = Zeit(0), .text = boese}};
+        quelle.Nimm(std::move(paket));
+    }
+};
+
+std::unique_ptr<QWidget> Verlaufsfenster() {
+    return std::make_unique<MitUmfeld<frmVerlauf, BoeseVergangenheit>>();
+}
+
 std::unique_ptr<QWidget> Vergleich() {
     auto fenster = std::make_unique<MitUmfeld<frmVergleich, Anbieter>>();
     fenster->Setze(
@@ -198,6 +232,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmBusprotokoll", Busprotokollfenster},
         {"frmDocument", Ansicht},
         {"frmEinzelwerteLesenSchreiben", Einfach<frmEinzelwerteLesenSchreiben>},
+        {"frmEreignisse", Ereignisfenster},
         {"frmHilfe", Einfach<frmHilfe>},
         {"frmHoleLichtleistenInfo", Einfach<frmHoleLichtleistenInfo>},
         {"frmIdentifikationsAnforderung", Einfach<frmIdentifikationsAnforderung>},
@@ -216,6 +251,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmStrahlenBestimmen", Einfach<frmStrahlenBestimmen>},
         {"frmVerbindung", Verbindungsfenster},
         {"frmVergleich", Vergleich},
+        {"frmVerlauf", Verlaufsfenster},
     };
     return alle;
 }

@@ -6,6 +6,9 @@
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
+#include <QPaintEvent>
+#include <QRegion>
+#include <QScreen>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
@@ -17,14 +20,16 @@ inline constexpr auto Frei = Strahlzustand::Frei;
 inline constexpr auto Unterbrochen = Strahlzustand::Unterbrochen;
 inline constexpr auto Geblankt = Strahlzustand::Geblankt;
 
-/// Counts its paints.
+/// Counts its paints and keeps where the last one drew.
 class GezaehlterBalken : public BeamBarControl {
 public:
     int gezeichnet = 0;
+    QRegion gebiet;
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override {
         ++gezeichnet;
+        gebiet = ereignis->region();
         BeamBarControl::paintEvent(ereignis);
     }
 };
@@ -52,6 +57,10 @@ protected:
         WarteBis([this] { return balken.gezeichnet > 0; });
         QApplication::processEvents();
         balken.gezeichnet = 0;
+    }
+    /// What a user sees, as the paints so far have left it.
+    QImage Gesehenes() {
+        return balken.screen()->grabWindow(balken.winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
     void Maus(QEvent::Type art, const QPointF& stelle, Qt::MouseButton knopf = Qt::LeftButton) {
         const bool gedrueckt = art != QEvent::MouseButtonRelease && knopf != Qt::NoButton;

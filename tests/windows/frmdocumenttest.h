@@ -51,7 +51,8 @@ protected:
                 werte.push_back(beginn + k);
         modDaten::SetzeSpezifischeDaten(spezifisch::Messwerte, Messwertregister, Teil, werte);
     }
-    void Scan(std::initializer_list<int> freie, std::initializer_list<int> geblankte) {
+    /// A data set with values and status of the image, not shown yet.
+    void Lies(std::initializer_list<int> freie, std::initializer_list<int> geblankte) {
         Werte zustaende(2);
         Werte blanking(Blankingregister);
         for (const int strahl : freie)
@@ -64,6 +65,10 @@ protected:
         sicht->StrahlzustaendeLiegenVor();
         sicht->BlankingBekannt();
         sicht->MesswerteLiegenVor();
+    }
+    void Scan(std::initializer_list<int> freie, std::initializer_list<int> geblankte) {
+        Lies(freie, geblankte);
+        umgebung.ErledigeAufgeschobenes();
     }
     void Zeige() {
         sicht->Zeige();

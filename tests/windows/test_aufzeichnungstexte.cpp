@@ -41,7 +41,7 @@ TEST(Aufzeichnungstexte, The_mark_tells_what_was_dropped_and_what_it_waits_for) 
 }
 
 TEST(Aufzeichnungstexte, Durations_go_beyond_a_day) {
-    EXPECT_EQ(Dauertext(100h + 1s), "100:00:01");
+    EXPECT_EQ(Aufnahmedauer(100h + 1s), "100:00:01");
 }
 
 TEST(Aufzeichnungstexte, A_name_holds_serial_number_date_and_time_in_letters_that_every_file_system_takes) {

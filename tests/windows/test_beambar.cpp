@@ -1,6 +1,8 @@
 #include "beambartest.h"
 #include "strahlfarben.h"
 
+#include <array>
+#include <random>
 #include <utility>
 #include <vector>
 
@@ -163,6 +165,38 @@ TEST_F(BeamBar, A_scan_is_one_paint) {
     pruefung::WarteBis([this] { return balken.gezeichnet > 0; });
     QApplication::processEvents();
     EXPECT_EQ(balken.gezeichnet, 1);
+}
+
+TEST_F(BeamBar, A_beam_that_changes_draws_its_row_and_no_others) {
+    Stelle(128, 300, 500);
+    Zeige();
+    Setze(20, Unterbrochen);
+    Setze(100, Geblankt);
+    ASSERT_TRUE(WarteBis([this] { return balken.gezeichnet > 0; }));
+    for (const int strahl : {20, 100})
+        EXPECT_TRUE(balken.gebiet.contains(balken.Strahlmitte(strahl).toPoint())) << strahl;
+    EXPECT_FALSE(balken.gebiet.contains(balken.Strahlmitte(60).toPoint()));
+    EXPECT_LT(balken.gebiet.boundingRect().width(), balken.width());
+}
+
+TEST_F(BeamBar, Changes_of_some_beams_leave_the_same_picture_as_a_paint_of_all) {
+    std::mt19937 zufall(7);
+    const auto bis = [&](int anzahl) { return std::uniform_int_distribution<>(0, anzahl - 1)(zufall); };
+    for (const auto& [strahlen, hoehe] : {std::pair(4, 300), {20, 300}, {128, 330}, {512, 300}, {512, 777}}) {
+        Stelle(strahlen, 260, hoehe);
+        Zeige();
+        for (int scan = 0; scan < 12; ++scan) {
+            balken.SetzeAutomatischesZeichnen(false);
+            const int lauf = bis(strahlen / 4) + 1;
+            for (int stelle = 0; stelle <= scan; ++stelle)
+                for (int i = 0, von = bis(strahlen); i < lauf && von + i < strahlen; ++i)
+                    Setze(von + i,
+                          std::array{Frei, Unterbrochen, Geblankt}[static_cast<std::size_t>(bis(3))]);
+            balken.SetzeAutomatischesZeichnen(true);
+            QApplication::processEvents();
+            ASSERT_EQ(Gesehenes(), Bild()) << strahlen << " beams, " << hoehe << " pixels, scan " << scan;
+        }
+    }
 }
 
 TEST_F(BeamBar, A_scan_without_a_change_is_not_painted) {

@@ -51,8 +51,13 @@ struct PruefWirkung : Befehlswirkung {
     void PruefeLeitung() override { getan = "line check"; }
     void BieteDarstellung() override { getan = "appearance"; }
     void ZeigeBusprotokoll() override { getan = "bus log"; }
+    void OeffneAufzeichnung() override { getan = "replay"; }
+    void OeffneUebergebeneAufzeichnung() override { getan = "replay handed over"; }
+    void VerlasseWiedergabe() override { getan = "leave replay"; }
     void SchalteAufzeichnung() override { getan = "recording"; }
     void ZeigeAufzeichnungen() override { getan = "recordings"; }
+    void ZeigeEreignisse() override { getan = "events"; }
+    void ZeigeVerlauf() override { getan = "trend"; }
 
     std::string getan;
 };
@@ -115,6 +120,11 @@ TEST(Befehlstabelle, Every_command_does_its_own_work) {
     EXPECT_EQ(GetanVon(140), "bus log");
     EXPECT_EQ(GetanVon(160), "recording");
     EXPECT_EQ(GetanVon(161), "recordings");
+    EXPECT_EQ(GetanVon(190), "replay");
+    EXPECT_EQ(GetanVon(191), "leave replay");
+    EXPECT_EQ(GetanVon(192), "replay handed over");
+    EXPECT_EQ(GetanVon(200), "events");
+    EXPECT_EQ(GetanVon(170), "trend");
 }
 
 TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
@@ -133,6 +143,8 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Busprotokoll, "Ctrl+L"},
         {Befehl::Aufzeichnung, "Ctrl+R"},
         {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
+        {Befehl::Wiedergabe, "Ctrl+Shift+O"},
+        {Befehl::Ereignisse, "Ctrl+E"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);

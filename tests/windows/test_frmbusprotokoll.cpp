@@ -425,7 +425,7 @@ TEST_F(frmBusprotokollTest, The_selected_rows_are_copied_and_all_that_are_shown_
 }
 
 TEST_F(frmBusprotokollTest, What_goes_to_support_is_said_before_it_is_saved) {
-    modEreignisse::Merke("Verbinden");
+    modEreignisse::Merke({.art = Ereignisart::Befehl, .text = "Verbinden"});
     Hoere(1);
     ASSERT_TRUE(BisZeilen(1));
     Setze("chkNurFehler", true);

@@ -87,6 +87,43 @@ TEST_F(FrmDocument, A_scan_shows_free_interrupted_and_blanked_beams) {
     EXPECT_EQ(Balken().Zustand(5), Strahlzustand::Unterbrochen);
 }
 
+TEST_F(FrmDocument, Beams_and_values_appear_together_once_the_line_is_busy) {
+    SetzeMesswerte(10, 20, 30);
+    Lies({0}, {});
+    EXPECT_EQ(Text("lblInhaltTU"), "–");
+    EXPECT_EQ(Balken().Zustand(0), Strahlzustand::Unterbrochen);
+    umgebung.ErledigeAufgeschobenes();
+    EXPECT_EQ(Text("lblInhaltTU"), "10");
+    EXPECT_EQ(Balken().Zustand(0), Strahlzustand::Frei);
+}
+
+TEST_F(FrmDocument, Data_sets_that_follow_before_there_was_time_are_shown_once) {
+    Lies({0}, {});
+    Lies({1}, {});
+    EXPECT_EQ(umgebung.aufgeschobenes.size(), 1);
+    umgebung.ErledigeAufgeschobenes();
+    EXPECT_EQ(Balken().Zustand(1), Strahlzustand::Frei);
+    Lies({2}, {});
+    EXPECT_EQ(umgebung.aufgeschobenes.size(), 1);
+}
+
+TEST_F(FrmDocument, What_was_taken_back_before_there_was_time_is_not_shown) {
+    SetzeMesswerte(50, 20, 30);
+    Lies({5}, {});
+    SetzeMesswerte(10, 20, 30);
+    modDaten::SetzeStrahlzustaende(2, Teil, Werte(2));
+    umgebung.ErledigeAufgeschobenes();
+    EXPECT_EQ(Text("lblInhaltTU"), "10");
+    EXPECT_EQ(Balken().Zustand(5), Strahlzustand::Unterbrochen);
+}
+
+TEST_F(FrmDocument, A_view_that_is_gone_before_there_was_time_shows_nothing) {
+    Lies({0}, {});
+    delete rahmen;
+    umgebung.ErledigeAufgeschobenes();
+    EXPECT_TRUE(umgebung.aufgeschobenes.empty());
+}
+
 TEST_F(FrmDocument, Blanked_beams_are_counted_anew_in_each_scan) {
     Scan({}, {4, 8});
     EXPECT_EQ(Text("lblInhaltBlankingStrahlenMax"), "2");
@@ -158,6 +195,7 @@ TEST_F(FrmDocument, A_part_with_beam_spacing_0_shows_the_beam_without_a_position
 TEST_F(FrmDocument, All_texts_follow_the_language) {
     Setze(spezifisch::Optikteilstatus, 4);
     sicht->MesswerteLiegenVor();
+    umgebung.ErledigeAufgeschobenes();
     emit Balken().StrahlUnterMaus(9);
     SetzeSprachoffset(Englisch);
     sicht->Lokalisiere();

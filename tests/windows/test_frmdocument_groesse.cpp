@@ -103,6 +103,19 @@ TEST_F(FrmDocumentGroesse, Other_values_arrange_nothing_anew_and_draw_only_thems
     EXPECT_GE(Feld("lblPositionTU").height(), Feld("lblPositionTU").sizeHint().height());
 }
 
+TEST_F(FrmDocumentGroesse, Another_status_arranges_nothing_anew_and_draws_only_itself) {
+    SetzeGroesse(700, 500);
+    sicht->SetStatusSubgerät();
+    QApplication::processEvents();
+    pruefung::Ereigniszaehler ansicht(*sicht);
+    Setze(spezifisch::Optikteilstatus, 4);
+    sicht->SetStatusSubgerät();
+    QApplication::processEvents();
+    ASSERT_EQ(Text("sbStatusBar_1"), "Status: Bahn in Mitte");
+    EXPECT_EQ(ansicht.anzahl[QEvent::LayoutRequest], 0);
+    EXPECT_EQ(ansicht.anzahl[QEvent::Paint], 0);
+}
+
 TEST_F(FrmDocumentGroesse, Positions_follow_the_chosen_block) {
     Waehle(2);
     EXPECT_EQ(Text("lblPositionTU"), "580 mm");

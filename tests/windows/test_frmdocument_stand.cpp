@@ -50,6 +50,14 @@ TEST_F(FrmDocumentStand, Discarded_values_leave_nothing_behind) {
     ErwarteNichts();
 }
 
+TEST_F(FrmDocumentStand, Values_discarded_before_there_was_time_to_show_them_stay_away) {
+    SetzeMesswerte(10, 20, 30);
+    Lies({0, 1}, {3});
+    sicht->VerwirfWerte();
+    umgebung.ErledigeAufgeschobenes();
+    ErwarteNichts();
+}
+
 TEST_F(FrmDocumentStand, A_view_that_is_built_anew_has_no_values) {
     Miss();
     sicht->InitfrmDocument();

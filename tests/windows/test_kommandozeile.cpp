@@ -63,8 +63,10 @@ TEST(Kommandozeile, A_word_without_a_slash_in_front_is_a_file_unless_it_looks_li
 }
 
 TEST(Kommandozeile, A_path_from_the_root_is_a_file_and_no_unknown_switch) {
-    EXPECT_EQ(LiesKommandozeile({"/home/user/a.con", "/a.con", "/A.CON", "/tmp/x", "/unknown", "/"}).dateien,
-              QStringList({"/home/user/a.con", "/a.con", "/A.CON", "/tmp/x"}));
+    EXPECT_EQ(
+        LiesKommandozeile({"/home/user/a.con", "/a.con", "/A.CON", "/nacht.vrec", "/tmp/x", "/unknown", "/"})
+            .dateien,
+        QStringList({"/home/user/a.con", "/a.con", "/A.CON", "/nacht.vrec", "/tmp/x"}));
 }
 
 TEST(Kommandozeile, A_path_that_begins_like_a_switch_is_a_file_where_it_exists_and_that_switch_otherwise) {

@@ -70,8 +70,9 @@ TEST(Kurvenbild, Marks_a_point_in_the_colour_of_its_curve) {
         bild.setPalette(Hell());
         bild.Zeige(Mit({{art, {30, 20}}}));
         const QImage aufnahme = Aufnahme(bild);
-        EXPECT_TRUE(
-            HatFarbeBei(aufnahme, bild.Stelle({30, 20}).toPoint(), KurvenfarbenAus(Hell()).Fuer(art)));
+        const Kurvenfarben farben = KurvenfarbenAus(Hell());
+        EXPECT_TRUE(HatFarbeBei(aufnahme, bild.Stelle({30, 20}).toPoint(),
+                                art == Kurvenart::Objekt ? farben.objekt : farben.loch));
     }
 }
 

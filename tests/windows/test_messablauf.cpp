@@ -8,6 +8,7 @@
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -35,6 +36,13 @@ public:
     void Lokalisiere() { setText("neu"); }
 
     static inline int gemacht = 0;
+};
+
+/// A window that needs the third part while it is shown.
+class Bedarfsfenster : public Probefenster {
+public:
+    using Probefenster::Probefenster;
+    bool Braucht(int teil) const { return isVisible() && teil == 2; }
 };
 
 struct MessablaufTest : testing::Test {
@@ -165,6 +173,16 @@ TEST_F(MessablaufTest, A_window_is_made_once_follows_the_language_and_closes_wit
     ablauf.Schliesse();
     for (const QWidget* fenster : QApplication::topLevelWidgets())
         EXPECT_FALSE(dynamic_cast<const Probefenster*>(fenster) != nullptr && fenster->isVisible());
+}
+
+TEST_F(MessablaufTest, Parts_that_a_window_needs_are_measured_while_it_is_open) {
+    ablauf.Zeige<Probefenster>();
+    EXPECT_FALSE(modMesshoerer::Braucht(2));
+    ablauf.Zeige<Bedarfsfenster>();
+    EXPECT_TRUE(modMesshoerer::Braucht(2));
+    EXPECT_FALSE(modMesshoerer::Braucht(1));
+    ablauf.Schliesse();
+    EXPECT_FALSE(modMesshoerer::Braucht(2));
 }
 
 TEST_F(MessablaufTest, A_blanking_pattern_goes_to_who_takes_suggestions) {

@@ -153,12 +153,25 @@ TEST_F(VerbindungsregelTest, A_lost_connection_that_is_stopped_stays_offline_sin
 TEST_F(VerbindungsregelTest, Passes_a_second_are_those_of_the_last_two_seconds) {
     GeheLive();
     Verbindungsbild bild;
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < 24; ++i) {
         tatsachen.durchgaenge += i < 10 ? 1 : 4;
         tatsachen.letzteAntwort = tatsachen.wartetSeit = tatsachen.jetzt + 250ms;
         bild = BetrachteNach(250ms);
     }
     EXPECT_NEAR(bild.durchgaengeJeSekunde, 16, 0.01);
+}
+
+TEST_F(VerbindungsregelTest, Another_rate_is_given_once_a_second) {
+    GeheLive();
+    std::vector<double> raten;
+    for (int i = 0; i < 40; ++i) {
+        tatsachen.durchgaenge += static_cast<unsigned>(i + 1);
+        tatsachen.letzteAntwort = tatsachen.wartetSeit = tatsachen.jetzt + 250ms;
+        const double neue = BetrachteNach(250ms).durchgaengeJeSekunde;
+        if (raten.empty() || raten.back() != neue)
+            raten.push_back(neue);
+    }
+    EXPECT_EQ(raten.size(), 10);
 }
 
 TEST_F(VerbindungsregelTest, Slow_passes_have_a_rate_too) {

@@ -32,7 +32,22 @@ Kurvenfarben KurvenfarbenAus(const QPalette& palette) {
             .achsen = farben.striche,
             .gitter = farben.gehaeuse,
             .objekt = AlsLinie(farben.unterbrochen, farben),
-            .loch = AlsLinie(farben.frei, farben)};
+            .loch = AlsLinie(farben.frei, farben),
+            .marke = farben.marke};
+}
+
+QColor Reihenfarbe(const QPalette& palette, int nummer) {
+    constexpr int Vollkreis = 360;
+    // Neighbours are as far apart as hues can be for eyes that confuse red and green.
+    constexpr int Grade[AnzahlReihenfarben] = {212, 28, 315, 168, 265, 48, 0, 190};
+    constexpr float Saettigung = 0.85F;
+    constexpr float Helligkeit = 0.5F;
+    const QColor grund = palette.color(QPalette::Base);
+    if (GetStrahlfarbsatz() == Strahlfarbsatz::Graustufen)
+        return Gemischt(palette.color(QPalette::Text), grund, static_cast<float>(nummer % 3) * 0.2F);
+    const auto grad = static_cast<float>(Grade[nummer % AnzahlReihenfarben]);
+    return Abgehoben(QColor::fromHslF(grad / Vollkreis, Saettigung, Helligkeit), grund,
+                     IstHoherKontrast(palette) ? 2 * Linienkontrast : Linienkontrast);
 }
 
 } // namespace varnoth

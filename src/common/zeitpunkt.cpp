@@ -1,0 +1,48 @@
+#include "zeitpunkt.h"
+
+#include "texte.h"
+
+#include <array>
+#include <cstdio>
+#include <ctime>
+
+namespace varnoth {
+
+namespace {
+
+std::string InForm(std::chrono::system_clock::time_point zeit, const char* form) {
+    const std::time_t sekunden = std::chrono::system_clock::to_time_t(zeit);
+    std::tm ortszeit{};
+    localtime_r(&sekunden, &ortszeit);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), form, &ortszeit);
+    return text.data();
+}
+
+std::string MitMs(std::chrono::system_clock::time_point zeit, const char* form, char trenner) {
+    const auto ganze = std::chrono::floor<std::chrono::seconds>(zeit);
+    const auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(zeit - ganze).count();
+    std::array<char, 8> bruch{};
+    std::snprintf(bruch.data(), bruch.size(), "%c%03d", trenner, static_cast<int>(ms));
+    return InForm(ganze, form) + bruch.data();
+}
+
+} // namespace
+
+char Dezimaltrenner() {
+    return GetSprachoffset() == Englisch ? '.' : ',';
+}
+
+std::string Uhrzeittext(std::chrono::system_clock::time_point zeit) {
+    return MitMs(zeit, "%H:%M:%S", Dezimaltrenner());
+}
+
+std::string Zeitpunkttext(std::chrono::system_clock::time_point zeit) {
+    return MitMs(zeit, "%Y-%m-%d %H:%M:%S", '.');
+}
+
+std::string Datumstext(std::chrono::system_clock::time_point zeit) {
+    return InForm(std::chrono::floor<std::chrono::seconds>(zeit), "%Y-%m-%d");
+}
+
+} // namespace varnoth

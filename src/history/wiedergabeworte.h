@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ereignissuche.h"
+#include "wiedergabe.h"
+
+#include <string>
+
+/// A replay in words, in the current language.
+namespace varnoth {
+
+/// A time of a source as the time of day where it was recorded: "22.11.2026 14:43:18,120".
+std::string Augenblickstext(const Messangaben& angaben, Zeit laufzeit);
+/// A time since the beginning: "1:02:03,4"; without hours where there are none.
+std::string Laufzeittext(Zeit dauer);
+/// Where a replay stands: time of day, time since the beginning, length.
+std::string Positionstext(const Messangaben& angaben, const Zeitspanne& spanne, Zeit laufzeit);
+/// What has happened.
+std::string Fundtext(const Sprungfund& fund);
+/// Why there is nothing to be seen; empty where there is.
+std::string Lagetext(Wiedergabelage lage);
+/// A speed: "0.5×".
+std::string Tempotext(double tempo);
+
+} // namespace varnoth

@@ -1,0 +1,152 @@
+// The soak of the past: hours of live data that nobody has measured, told in minutes, while every window of
+// the past is open and recordings run. Nothing may grow once all that is bounded is full.
+//   zeitraffer [--hours N] [--seed S]
+
+#include "befehlstabelle.h"
+#include "betrieb.h"
+#include "livefolge.h"
+#include "speicherstand.h"
+
+#include "dateidialog.h"
+#include "ereignisse.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+namespace varnoth::pruefung {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Zeit Runde = 1min;             ///< told between two looks at the windows
+constexpr int BlickeJeRunde = 3;         ///< rounds of the main loop, in which windows follow and paint
+constexpr std::size_t WachstumKb = 4096; ///< that is still called none
+constexpr double RundenJeStunde = 60;
+constexpr double KuerzestesUrteil = 60; ///< hours; less does not fill what is bounded
+
+QString warnung;
+
+void BeiLogzeile(QtMsgType art, const QMessageLogContext& /*woher*/, const QString& text) {
+    if (art != QtDebugMsg && art != QtInfoMsg && !text.contains("This plugin does not support"))
+        warnung = text;
+}
+
+class Zeitraffer {
+public:
+    explicit Zeitraffer(const QCommandLineParser& worte);
+    /// True when nothing went wrong.
+    bool Laufe();
+
+private:
+    void OeffneFenster();
+    void Spiele();
+    void Miss(int runde);
+    bool Berichte() const;
+
+    Betrieb betrieb;
+    Livefolge folge;
+    double stunden;
+    int runden;
+    std::vector<std::string> geoeffnet;
+    std::optional<Speicherstand> warm;
+    Speicherstand zuletzt{};
+};
+
+Zeitraffer::Zeitraffer(const QCommandLineParser& worte)
+    : betrieb("varnoth-simulator 1\n", {}, {}), folge(worte.value("seed").toUInt()),
+      stunden(worte.value("hours").toDouble()), runden(static_cast<int>(stunden * RundenJeStunde)) {
+    const QString ordner = betrieb.ordner.path();
+    SetzeDateiantwort([ordner](const Dateifrage& frage) -> std::optional<std::string> {
+        if (frage.art == Dateiwahl::Oeffnen)
+            return std::nullopt;
+        return (frage.art == Dateiwahl::Ordner ? ordner : ordner + "/datei").toStdString();
+    });
+}
+
+bool Zeitraffer::Laufe() {
+    betrieb.Hauptfenster().show();
+    OeffneFenster();
+    Spiele();
+    SetzeDateiantwort({});
+    return Berichte();
+}
+
+/// Every command that has to do with the past.
+void Zeitraffer::OeffneFenster() {
+    for (const Befehlszeile& zeile : Befehlstabelle())
+        if (zeile.gruppe == Leistengruppe::Verlauf && zeile.anzahl == 1) {
+            betrieb.Waehle(QString::fromLatin1(zeile.aktion));
+            betrieb.LaufeBis([this] { return betrieb.HatRuhe(); });
+            geoeffnet.emplace_back(zeile.aktion);
+        }
+}
+
+void Zeitraffer::Spiele() {
+    for (int runde = 0; runde < runden && warnung.isEmpty(); ++runde) {
+        folge.Erzaehle(Runde);
+        int blicke = 0;
+        betrieb.LaufeBis([&blicke] {
+            DieUmgebung().NutzeWartezeit();
+            return ++blicke > BlickeJeRunde;
+        });
+        Miss(runde);
+    }
+}
+
+void Zeitraffer::Miss(int runde) {
+    zuletzt = LiesSpeicherstand();
+    if (runde >= runden / 2)
+        return;
+    warm = {std::max(warm.value_or(zuletzt).belegtKb, zuletzt.belegtKb),
+            std::max(warm.value_or(zuletzt).benutztKb, zuletzt.benutztKb),
+            std::max(warm.value_or(zuletzt).deskriptoren, zuletzt.deskriptoren)};
+}
+
+bool Zeitraffer::Berichte() const {
+    const Ereignisspeicher& ereignisse = modEreignisse::Alle();
+    std::printf("passes         %u in %.1f hours, connection lost and back %u times\n", folge.Durchgaenge(),
+                stunden, folge.Verluste());
+    for (const std::string& aktion : geoeffnet)
+        std::printf("open           %s\n", aktion.c_str());
+    std::printf("events         %llu, kept %llu\n", static_cast<unsigned long long>(ereignisse.Ende()),
+                static_cast<unsigned long long>(ereignisse.Ende() - ereignisse.Erstes()));
+    std::printf("memory         %zu kB after warm-up, %zu kB at the end (allocated: %zu, %zu)\n",
+                warm ? warm->belegtKb : 0, zuletzt.belegtKb, warm ? warm->benutztKb : 0, zuletzt.benutztKb);
+    std::printf("descriptors    %zu, %zu\n", warm ? warm->deskriptoren : 0, zuletzt.deskriptoren);
+    std::string urteil = warnung.isEmpty() ? std::string() : "unexpected warning: " + warnung.toStdString();
+    if (urteil.empty() && warm && stunden >= KuerzestesUrteil &&
+        zuletzt.benutztKb > warm->benutztKb + WachstumKb)
+        urteil = "memory grows";
+    if (urteil.empty() && warm && zuletzt.deskriptoren > warm->deskriptoren)
+        urteil = "file descriptors stay open";
+    std::printf("%s\n", urteil.empty() ? "ok" : ("FAILED: " + urteil).c_str());
+    return urteil.empty();
+}
+
+} // namespace
+
+} // namespace varnoth::pruefung
+
+int main(int argc, char** argv) {
+    using namespace varnoth::pruefung;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir heim; // where files go unless somebody says otherwise
+    qputenv("HOME", heim.path().toUtf8());
+    QApplication anwendung(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QCommandLineParser worte;
+    worte.addOptions(
+        {{"hours", "of live data (72)", "number", "72"}, {"seed", "another run (1)", "number", "1"}});
+    worte.addHelpOption();
+    worte.process(anwendung);
+    qInstallMessageHandler(BeiLogzeile);
+    std::printf("soak of the past, %s hours, seed %s\n", qPrintable(worte.value("hours")),
+                qPrintable(worte.value("seed")));
+    return Zeitraffer(worte).Laufe() ? 0 : 1;
+}
