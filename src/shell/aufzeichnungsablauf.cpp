@@ -4,13 +4,17 @@
 #include "aufzeichnungsmarke.h"
 #include "csvform.h"
 #include "dateidialog.h"
+#include "dateien.h"
+#include "dateiziel.h"
 #include "einstellungen.h"
 #include "ereignisse.h"
 #include "frmAufzeichnung.h"
 #include "identifikation.h"
 #include "konfigurationsbefehle.h"
+#include "messspeicher.h"
 #include "polling.h"
 #include "programmversion.h"
+#include "quellenabschrift.h"
 #include "registerabbild.h"
 #include "seriennummer.h"
 #include "standtext.h"
@@ -33,7 +37,8 @@ namespace {
 
 constexpr int TaktMs = 500;
 constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
-                       TextBeendet = 6233, TextMengen = 6272;
+                       TextBeendet = 6233, TextMengen = 6272, TextSpeicherSichern = 6279,
+                       TextVrecfilter = 6280;
 
 /// The clock of the passes for another thread, which must not ask the environment.
 Aufzeichnung::Uhr UhrFuerAndere() {
@@ -248,11 +253,31 @@ void Aufzeichnungsablauf::Waehle(const Flugschreiber& wahl) {
 }
 
 std::string Aufzeichnungsablauf::ImSpeicher() {
-    return {};
+    if (ziel.speicher == nullptr || ziel.speicher->Erstes() == ziel.speicher->Ende())
+        return {};
+    const Zeitspanne spanne = ziel.speicher->Spanne();
+    return Aufnahmedauer(spanne.bis - spanne.von);
 }
 
-std::optional<std::string> Aufzeichnungsablauf::SichereSpeicher(int /*minuten*/) {
-    return std::nullopt;
+std::optional<std::string> Aufzeichnungsablauf::SichereSpeicher(int minuten) {
+    if (ImSpeicher().empty())
+        return std::nullopt;
+    const auto pfad = FrageNachZiel({.titel = LadeText(TextSpeicherSichern),
+                                     .filter = LadeText(TextVrecfilter),
+                                     .ordner = Ordner(),
+                                     .name = Namensvorschlag() + ".vrec"});
+    if (!pfad)
+        return std::nullopt;
+    const Zeit bis = ziel.speicher->Spanne().bis;
+    const Zeitspanne spanne{bis - std::chrono::minutes(minuten), bis};
+    Quellenabschrift abschrift(*ziel.speicher, std::make_unique<Vrecform>(), spanne);
+    std::string bytes;
+    while (const auto stueck = abschrift.Weiter())
+        bytes += *stueck;
+    const std::string fehler = ErsetzeDatei(*pfad, bytes);
+    if (!fehler.empty())
+        ZeigeWarnung(Dateifehlertext(fehler, *pfad));
+    return fehler.empty() ? pfad : std::nullopt;
 }
 
 void Aufzeichnungsablauf::Zeige() {

@@ -19,6 +19,7 @@ class QStatusBar;
 namespace varnoth {
 
 class Aufzeichnungsmarke;
+class Messspeicher;
 class frmAufzeichnung;
 
 /// Recordings as the main window runs them: it hears of the passes and hands them to the recording that runs,
@@ -30,6 +31,7 @@ public:
         QStatusBar& leiste;
         std::function<void()> zeige;             ///< asks for the window of recordings
         std::function<void(bool laeuft)> laeuft; ///< a recording has begun or ended
+        const Messspeicher* speicher = nullptr;  ///< the memory of this run, if there is one
         Aufzeichnung::Uhr uhr{}; ///< the clock of the passes for another thread; nothing: the system's
     };
 

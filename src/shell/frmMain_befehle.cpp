@@ -273,7 +273,8 @@ std::unique_ptr<Aufzeichnungsablauf> frmMain::MacheAufzeichnungsablauf() {
     return std::make_unique<Aufzeichnungsablauf>(
         Aufzeichnungsablauf::Ziel{.leiste = *ui->sbStatusBar,
                                   .zeige = [this] { befehle.Klick(Befehl::Aufzeichnungen); },
-                                  .laeuft = [&knopf](bool laeuft) { knopf.setChecked(laeuft); }});
+                                  .laeuft = [&knopf](bool laeuft) { knopf.setChecked(laeuft); },
+                                  .speicher = &messung->Speicher()});
 }
 
 void frmMain::SchalteAufzeichnung() {

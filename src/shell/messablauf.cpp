@@ -1,7 +1,9 @@
 #include "messablauf.h"
 
+#include "aufzeichnungseinstellungen.h"
 #include "dateien.h"
 #include "dateiziel.h"
+#include "einstellungen.h"
 #include "konfigurationsbefehle.h"
 #include "programmversion.h"
 #include "registerabbild.h"
@@ -27,9 +29,14 @@ Messangaben AngabenJetzt() {
             .programm = std::string(Programmversion())};
 }
 
+/// As much as the settings give the flight recorder.
+std::size_t Speicherbytes() {
+    return static_cast<std::size_t>(LiesFlugschreiber(DieEinstellungen()).megabyte) << 20U;
+}
+
 } // namespace
 
-Messablauf::Messablauf() : speicher(AngabenJetzt(), DieUmgebung().Uhr()) {
+Messablauf::Messablauf() : speicher(AngabenJetzt(), DieUmgebung().Uhr(), Speicherbytes()) {
     modMesshoerer::MeldeAn(*this);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ereignisanbieter.h"
 #include "ereignisse.h"
+#include "frmAufzeichnung.h"
 #include "frmBericht.h"
 #include "frmBlankingmuster.h"
 #include "frmBusprotokoll.h"
@@ -65,6 +66,26 @@ struct KeinProtokollziel : Protokollanbieter {
     }
     bool Schreibe(const std::string&, const std::string&) override { return false; }
     Supportangaben Angaben() override { return {}; }
+};
+
+struct KeineAufzeichnung : Aufzeichnungsanbieter {
+    Aufzeichnungslage Lage() override {
+        return {.laeuft = true, .stand = {.pfade = {TextMitTags}}, .hindernis = TextMitTags};
+    }
+    std::string Standtext() override { return TextMitTags; }
+    Aufzeichnungswahl Wahl() override { return {}; }
+    void Waehle(const Aufzeichnungswahl&) override {}
+    std::string Ordner() override { return TextMitTags; }
+    void WaehleOrdner(const std::string&) override {}
+    std::string Namensvorschlag() override { return TextMitTags; }
+    void Beginne(const std::string&) override {}
+    void Beende() override {}
+    std::optional<std::string> FrageNachOrdner(const std::string&, const std::string&) override { return {}; }
+    void ZeigeOrdner(const std::string&) override {}
+    Flugschreiber DerFlugschreiber() override { return {}; }
+    void Waehle(const Flugschreiber&) override {}
+    std::string ImSpeicher() override { return TextMitTags; }
+    std::optional<std::string> SichereSpeicher(int) override { return {}; }
 };
 
 struct EineSicherung : PruefSicherungen {
@@ -216,6 +237,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
     static const std::vector<Fensterprobe> alle{
         {"frmBericht", Bericht},
         {"frmBlankingmuster", Blankingmuster},
+        {"frmAufzeichnung", [] { return std::make_unique<MitUmfeld<frmAufzeichnung, KeineAufzeichnung>>(); }},
         {"frmBusprotokoll", Busprotokollfenster},
         {"frmWasserfall", Strahlverlauf},
         {"frmDocument", Ansicht},

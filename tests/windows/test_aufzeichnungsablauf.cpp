@@ -1,13 +1,16 @@
 #include "aufzeichnungsablauf.h"
 
 #include "dateidialog.h"
+#include "dateieingabe.h"
 #include "dateien.h"
 #include "fenstertest.h"
 #include "messhoerer.h"
+#include "messspeicher.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
 #include "texte.h"
+#include "vrecleser.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -55,6 +58,7 @@ protected:
                 Aufzeichnungsablauf::Ziel{.leiste = leiste,
                                           .zeige = [this] { ++verlangt; },
                                           .laeuft = [this](bool laeuft) { gemeldet.push_back(laeuft); },
+                                          .speicher = &speicher,
                                           .uhr = [this] { return Um(); }});
         return *ablauf;
     }
@@ -93,6 +97,7 @@ protected:
     QStatusBar leiste;
     const std::chrono::steady_clock::time_point begonnen = std::chrono::steady_clock::now();
     std::atomic<int> minuten = 0;
+    Messspeicher speicher{{}, Zeit{}};
     int verlangt = 0;
     std::vector<bool> gemeldet;
     std::unique_ptr<Aufzeichnungsablauf> ablauf;
@@ -280,6 +285,31 @@ TEST_F(AufzeichnungsablaufTest, The_flight_recorder_needs_all_parts_when_that_is
     EXPECT_TRUE(modMesshoerer::Braucht(0));
     EXPECT_FALSE(modMesshoerer::LaeuftAllein());
     EXPECT_EQ((einstellungen.texte[{"Aufzeichnung", "FlugschreiberAlleTeile"}]), "1");
+}
+
+TEST_F(AufzeichnungsablaufTest, The_last_minutes_of_memory_are_saved_as_a_record) {
+    for (int i = 1; i <= 1200; ++i) {
+        Messdurchgang durchgang;
+        durchgang.uhr = std::chrono::seconds(i);
+        durchgang.anzahlTeile = 1;
+        speicher.Nimm(durchgang);
+    }
+    SetzeDateiantwort([this](const Dateifrage&) { return ordner.filePath("saved.vrec").toStdString(); });
+    Ablauf().Zeige();
+    EXPECT_EQ(Im<QLabel>("lblImSpeicher").text(), "In memory: 00:19:59");
+    Im<QPushButton>("cmdSichern").click();
+    Vrecleser leser(OeffneEingabe(ordner.filePath("saved.vrec").toStdString()).datei);
+    while (leser.Arbeite()) {
+    }
+    EXPECT_EQ(leser.Zustand().befund, Vrecbefund::Gut);
+    EXPECT_GE(leser.Zustand().durchgaenge, 600U);
+    EXPECT_LE(leser.Zustand().durchgaenge, 603U);
+    EXPECT_TRUE(Im<QLabel>("lblZuletzt").text().contains("saved.vrec"));
+}
+
+TEST_F(AufzeichnungsablaufTest, While_memory_is_empty_there_is_nothing_to_save) {
+    Ablauf().Zeige();
+    EXPECT_FALSE(Im<QPushButton>("cmdSichern").isEnabled());
 }
 
 } // namespace varnoth
