@@ -59,8 +59,8 @@ public:
     static constexpr Zeit LaengstePause = std::chrono::seconds(3);
     static constexpr unsigned AlleTeile = (1U << AnzahlOptikteile) - 1;
 
-    /// Forgets everything; columns are `breite` wide from now on (1 µs at least), and of a column is kept what
-    /// was seen of the parts in `teile`, a bit each.
+    /// Forgets everything; columns are `breite` wide from now on (1 µs at least), and of a column is kept
+    /// what was seen of the parts in `teile`, a bit each.
     void Beginne(Zeit breite, unsigned teile = AlleTeile);
     Zeit Breite() const { return breite; }
     unsigned Teile() const { return teile; }

@@ -115,7 +115,7 @@ Zeit Strichabstand(const Zeitfenster& fenster, int mindestensSpalten) {
 }
 
 std::vector<Fensterstrich> Fensterstriche(const Zeitfenster& fenster, int mindestensSpalten,
-                                    const Messangaben& angaben) {
+                                          const Messangaben& angaben) {
     const Zeit abstand = Strichabstand(fenster, std::max(1, mindestensSpalten));
     const auto ort = std::chrono::duration_cast<Zeit>(angaben.beginn.time_since_epoch()) +
                      std::chrono::minutes(angaben.zoneMinuten);

@@ -53,6 +53,6 @@ struct Fensterstrich {
 Zeit Strichabstand(const Zeitfenster& fenster, int mindestensSpalten);
 /// The ticks of a window, on round local times.
 std::vector<Fensterstrich> Fensterstriche(const Zeitfenster& fenster, int mindestensSpalten,
-                                    const Messangaben& angaben);
+                                          const Messangaben& angaben);
 
 } // namespace varnoth

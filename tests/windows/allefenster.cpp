@@ -29,6 +29,7 @@
 #include "frmVergleich.h"
 #include "frmVerlauf.h"
 #include "frmWasserfall.h"
+#include "frmWiedergabe.h"
 #include "leitungspruefung.h"
 #include "mithoeren.h"
 #include "protokollanbieter.h"
@@ -39,6 +40,7 @@
 #include "rahmen.h"
 #include "standardkonfiguration.h"
 #include "vergleichsanbieter.h"
+#include "wiedergabesteuerung.h"
 
 namespace varnoth::pruefung {
 
@@ -86,6 +88,19 @@ struct KeineAufzeichnung : Aufzeichnungsanbieter {
     void Waehle(const Flugschreiber&) override {}
     std::string ImSpeicher() override { return TextMitTags; }
     std::optional<std::string> SichereSpeicher(int) override { return {}; }
+};
+
+struct StehendeWiedergabe : Wiedergabesteuerung {
+    const Messquelle& Quelle() const override { return quelle; }
+    Wiedergabe& Stand() override { return stand; }
+    Wiedergabelage Zeige() override { return {}; }
+    void Verlasse() override {}
+    void BerichteKonfiguration() override {}
+    void VergleicheKonfiguration() override {}
+    void SpeichereKonfiguration() override {}
+
+    PruefMessquelle quelle;
+    Wiedergabe stand{quelle};
 };
 
 struct EineSicherung : PruefSicherungen {
@@ -262,6 +277,7 @@ const std::vector<Fensterprobe>& AlleFenster() {
         {"frmVerbindung", Verbindungsfenster},
         {"frmVergleich", Vergleich},
         {"frmVerlauf", Verlaufsfenster},
+        {"frmWiedergabe", [] { return std::make_unique<MitUmfeld<frmWiedergabe, StehendeWiedergabe>>(); }},
     };
     return alle;
 }
