@@ -114,7 +114,7 @@ void Wasserfallbild::FolgeQuelle() {
         fenster.breite = Spaltenstufe(LiveDauer / std::max(1, fenster.spalten));
     if (blick == Blick::Folgt)
         fenster = BisZu(fenster, jetzt);
-    neuZuZeigen = false;
+    neuZuZeigen = !isVisible(); // only then it has its size
 }
 
 void Wasserfallbild::SetzeBlick(Blick neuer) {

@@ -11,6 +11,7 @@
 #include "frmDocument.h"
 #include "polling.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDialog>
@@ -190,6 +191,12 @@ Handlung Dauerlauf::Ruhepunkt() {
     BeendeStoerungen();
     betrieb.geraet.Befehl("fault none");
     co_await SchliesseDialoge();
+    if (auto* const aufzeichnung =
+            betrieb.Hauptfenster().findChild<QAction*>(QStringLiteral("tlbAufzeichnung"));
+        aufzeichnung->isChecked()) {
+        aufzeichnung->trigger(); // it has files open
+        co_await regie.Bis("the recording's end", [this] { return betrieb.HatRuhe(); });
+    }
     betrieb.geraet.Befehl("scene run");
     co_await regie.Nach(static_cast<int>(zufall() % LaengsteDenkpauseMs));
     betrieb.geraet.Befehl("scene freeze");

@@ -98,6 +98,13 @@ protected:
     std::optional<frmWasserfall> fenster;
 };
 
+TEST_F(FrmWasserfallTest, Shows_minutes_at_first_however_small_the_picture_was_before_it_was_laid_out) {
+    const auto& bild = *Fenster().findChild<Wasserfallbild*>();
+    const Zeit dauer = bild.Fenster().Bis() - bild.Fenster().Von();
+    EXPECT_GE(dauer, 1min);
+    EXPECT_LE(dauer, 5min);
+}
+
 TEST_F(FrmWasserfallTest, Counts_all_the_time_there_is_and_says_so) {
     ASSERT_TRUE(BisGezaehlt());
     EXPECT_EQ(Zeilen(), 64);
