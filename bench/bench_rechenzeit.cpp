@@ -54,6 +54,13 @@ void MissPolling() {
     Berichte(QStringLiteral("processor while polling 4 x 128 at 38400 baud"), Auslastung(platz, Sekunden),
              QStringLiteral("%"), Ziel::Hoechstens, 2.5,
              QStringLiteral("of one core, four views drawing, bytes in lots of eight"));
+    platz.ZeichneAuf(true);
+    Auslastung(platz, 1);
+    const double mitAufzeichnung = Auslastung(platz, Sekunden);
+    platz.ZeichneAuf(false);
+    Berichte(QStringLiteral("the same while recording, trend and beam history open"),
+             mitAufzeichnung - Auslastung(platz, Sekunden), QStringLiteral("%"), Ziel::Hoechstens, 2,
+             QStringLiteral("of one core more than without; %1 % in all").arg(mitAufzeichnung, 0, 'f', 2));
     platz.Stoppe();
     Berichte(QStringLiteral("processor idle, polling stopped"), Auslastung(platz, Sekunden),
              QStringLiteral("%"), Ziel::Hoechstens, 0.3, QStringLiteral("of one core"));

@@ -27,6 +27,7 @@ void SchreibeEinstellungen(const QString& ordner, int baud) {
 /// Where the program starts; its settings are there then.
 Startbedingungen Bedingungen(const QString& ordner, const QString& geraet, int baud) {
     SchreibeEinstellungen(ordner, baud);
+    qputenv("HOME", ordner.toUtf8()); // where recordings go
     return {.worte = {QStringLiteral("/Geraet=") + geraet},
             .programmordner = ordner,
             .programmname = Programmname,
@@ -65,10 +66,10 @@ void Messplatz::Durchlaufe() {
         programm.Runde();
 }
 
-void Messplatz::ZeigeProtokoll(bool offen) {
-    const auto fenster = []() -> QWidget* {
+void Messplatz::Zeige(const QString& aktion, const QString& name, bool offen) {
+    const auto fenster = [&name]() -> QWidget* {
         for (QWidget* const eines : QApplication::topLevelWidgets())
-            if (eines->objectName() == QLatin1String("frmBusprotokoll"))
+            if (eines->objectName() == name)
                 return eines;
         return nullptr;
     };
@@ -77,8 +78,23 @@ void Messplatz::ZeigeProtokoll(bool offen) {
             fenster()->close();
         return;
     }
-    programm.Hauptfenster().findChild<QAction*>(QStringLiteral("mnuBusprotokoll"))->trigger();
+    programm.Hauptfenster().findChild<QAction*>(aktion)->trigger();
     while (fenster() == nullptr || !fenster()->isVisible())
+        programm.Runde();
+}
+
+void Messplatz::ZeigeProtokoll(bool offen) {
+    Zeige(QStringLiteral("mnuBusprotokoll"), QStringLiteral("frmBusprotokoll"), offen);
+}
+
+void Messplatz::ZeichneAuf(bool ob) {
+    Zeige(QStringLiteral("tlbVerlauf"), QStringLiteral("frmVerlauf"), ob);
+    Zeige(QStringLiteral("tlbStrahlverlauf"), QStringLiteral("frmWasserfall"), ob);
+    auto* const aufzeichnung = programm.Hauptfenster().findChild<QAction*>(QStringLiteral("tlbAufzeichnung"));
+    if (aufzeichnung->isChecked() == ob)
+        return;
+    aufzeichnung->trigger();
+    while (programm.Hauptfenster().BefehlWartet())
         programm.Runde();
 }
 

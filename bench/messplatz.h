@@ -24,6 +24,8 @@ public:
     void Durchlaufe();
     /// Opens the bus log as its command does, or closes it.
     void ZeigeProtokoll(bool offen);
+    /// Opens trend and beam history and begins a recording in both forms, or ends all of it.
+    void ZeichneAuf(bool ob);
     /// Stops live data as a click on the menu item does.
     void Stoppe();
     /// Answers messages with OK from now on instead of failing.
@@ -36,6 +38,8 @@ public:
     Zaehlport& Port() { return port; }
 
 private:
+    void Zeige(const QString& aktion, const QString& name, bool offen);
+
     QTemporaryDir ordner;
     Simulatorprozess simulator;
     Anwendung programm;

@@ -1,5 +1,7 @@
 #include "terminal.h"
 
+#include "abbruchsignal.h"
+
 #include <QtGlobal>
 
 #include <cerrno>
@@ -32,6 +34,17 @@ namespace {
 void WarteBisFrei(int nummer) {
     pollfd eines{nummer, POLLOUT, 0};
     ::poll(&eines, 1, -1);
+}
+
+/// Waits until a byte can be read. False when the user has interrupted the program: of a signal that comes
+/// just before it waits, a read would not hear.
+bool WarteAufEingabe() {
+    constexpr int BlickMs = 100;
+    pollfd eines{STDIN_FILENO, POLLIN, 0};
+    while (!IstAbbruchVerlangt())
+        if (::poll(&eines, 1, BlickMs) > 0)
+            return true;
+    return false;
 }
 
 /// The character set in the name of a locale that is not installed: "UTF-8" of "de_DE.UTF-8".
@@ -83,7 +96,7 @@ std::optional<std::string> LiesEingabezeile() {
     std::string zeile;
     char zeichen = 0;
     while (zeile.size() < Laengste) {
-        if (::read(STDIN_FILENO, &zeichen, 1) != 1)
+        if (!WarteAufEingabe() || ::read(STDIN_FILENO, &zeichen, 1) != 1)
             return std::nullopt;
         if (zeichen == '\n')
             break;

@@ -14,6 +14,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
@@ -129,8 +130,14 @@ TEST_F(SucheAnGeraeten, A_port_that_another_search_has_names_its_program) {
 }
 
 TEST_F(SucheAnGeraeten, An_adapter_that_vanishes_in_the_middle_of_a_try_is_told_as_gone) {
-    QTimer::singleShot(50, [this] { ZieheAb(); });
-    EXPECT_THAT(Ausgang(geraet), HasSubstr("There is no device " + geraet + "."));
+    const std::string adapter =
+        Pfad("adapter"); // another process may be given the name of the terminal at once
+    ASSERT_EQ(symlink(geraet.c_str(), adapter.c_str()), 0);
+    QTimer::singleShot(50, [&] {
+        unlink(adapter.c_str());
+        ZieheAb();
+    });
+    EXPECT_THAT(Ausgang(adapter), HasSubstr("There is no device " + adapter + "."));
     EXPECT_THAT(uhr.ergebnisse, testing::ElementsAre(Suchergebnis::PortVerschlossen));
 }
 

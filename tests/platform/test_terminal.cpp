@@ -129,6 +129,19 @@ TEST(Abbruchsignale, Are_remembered_and_end_the_program_when_they_come_again) {
     }
 }
 
+TEST(Abbruchsignale, End_the_wait_for_a_line_also_when_they_come_just_before_it) {
+    EXPECT_EQ(ImKind([] {
+                  FangeAbbruchsignaleAb();
+                  int rohr[2] = {-1, -1};
+                  const bool gelegt = ::pipe(rohr) == 0;
+                  ::dup2(rohr[0], STDIN_FILENO);
+                  std::raise(SIGINT);
+                  ::alarm(20);
+                  return gelegt ? LiesEingabezeile().value_or("(end)") : "(no pipe)";
+              }),
+              "(end)");
+}
+
 TEST(Abbruchsignale, Leave_a_pipe_without_a_reader_an_error) {
     EXPECT_EQ(ImKind([] {
                   FangeAbbruchsignaleAb();
