@@ -17,31 +17,29 @@ bool IstVerbindungsereignis(Messereignisart art) {
     return art == LiveBegonnen || art == LiveBeendet || art == Verloren || art == Zurueck;
 }
 
-Teilspalte TeilAus(const Uebersicht& uebersicht, std::size_t i, int teil) {
-    Teilspalte spalte;
-    spalte.gemessen = uebersicht.Durchgaenge(i, teil) > 0;
-    if (!spalte.gemessen)
-        return spalte;
-    spalte.status = uebersicht.Status(i, teil);
-    spalte.strahlen = static_cast<std::int16_t>(uebersicht.Strahlen(i, teil));
+void NimmTeil(Teilspalte& ziel, const Uebersicht& uebersicht, std::size_t i, int teil) {
+    if (uebersicht.Durchgaenge(i, teil) == 0)
+        return;
+    ziel.gemessen = true;
+    ziel.status.Nimm(uebersicht.Status(i, teil));
+    ziel.strahlen = std::max(ziel.strahlen, static_cast<std::int16_t>(uebersicht.Strahlen(i, teil)));
     const std::span<const Wertspanne> werte = uebersicht.Werte(i, teil);
     for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
-        spalte.aktuell[k] = werte[k];
-        spalte.band[k] = werte[ErstesMinimum + k];
-        spalte.band[k].Nimm(werte[ErstesMaximum + k]);
+        ziel.aktuell[k].Nimm(werte[k]);
+        ziel.band[k].Nimm(werte[ErstesMinimum + k]);
+        ziel.band[k].Nimm(werte[ErstesMaximum + k]);
     }
-    return spalte;
 }
 
-Messspalte SpalteAus(const Uebersicht& uebersicht, std::size_t i, unsigned teile) {
-    Messspalte spalte;
-    spalte.geraetestatus = uebersicht.Geraetestatus(i);
-    spalte.durchgang = spalte.geraetestatus != Bitspanne{};
-    spalte.luecke = uebersicht.HatLuecke(i);
+/// Takes a stretch of the overview into a column: thousands of them for a picture, so nothing is copied.
+void NimmAbschnitt(Messspalte& ziel, const Uebersicht& uebersicht, std::size_t i, unsigned teile) {
+    const Bitspanne geraetestatus = uebersicht.Geraetestatus(i);
+    ziel.geraetestatus.Nimm(geraetestatus);
+    ziel.durchgang |= geraetestatus != Bitspanne{};
+    ziel.luecke |= uebersicht.HatLuecke(i);
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         if ((teile >> static_cast<unsigned>(teil) & 1U) != 0)
-            spalte.teile[static_cast<std::size_t>(teil)] = TeilAus(uebersicht, i, teil);
-    return spalte;
+            NimmTeil(ziel.teile[static_cast<std::size_t>(teil)], uebersicht, i, teil);
 }
 
 } // namespace
@@ -178,11 +176,8 @@ void Spaltenspeicher::NimmAbschnitte(const Uebersicht& uebersicht, std::int64_t 
         const std::int64_t letzte = std::min(bis - 1, NummerUm(spanne.bis));
         if (erste >= bis)
             break;
-        if (erste > letzte)
-            continue;
-        const Messspalte abschnitt = SpalteAus(uebersicht, i, teile);
         for (std::int64_t nummer = erste; nummer <= letzte; ++nummer)
-            An(nummer).spalte.Nimm(abschnitt);
+            NimmAbschnitt(An(nummer).spalte, uebersicht, i, teile);
     }
 }
 
