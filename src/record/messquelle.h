@@ -2,6 +2,7 @@
 
 #include "messdurchgang.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -22,6 +23,13 @@ enum class Messereignisart : std::uint8_t {
     Notiz,     ///< somebody's note; `text`
     Verworfen, ///< passes that could not be kept; `text` is how many
 };
+
+/// What stands in a source for what has happened to live data.
+constexpr Messereignisart ArtVon(Liveereignisart art) {
+    constexpr Messereignisart arten[] = {Messereignisart::LiveBegonnen, Messereignisart::LiveBeendet,
+                                         Messereignisart::Verloren, Messereignisart::Zurueck};
+    return arten[static_cast<std::size_t>(art)];
+}
 
 struct Messereignis {
     Messereignisart art{};

@@ -7,24 +7,6 @@
 
 namespace varnoth {
 
-namespace {
-
-Messereignisart Art(Liveereignisart art) {
-    switch (art) {
-    case Liveereignisart::Begonnen:
-        return Messereignisart::LiveBegonnen;
-    case Liveereignisart::Beendet:
-        return Messereignisart::LiveBeendet;
-    case Liveereignisart::Verloren:
-        return Messereignisart::Verloren;
-    case Liveereignisart::Zurueck:
-        break;
-    }
-    return Messereignisart::Zurueck;
-}
-
-} // namespace
-
 Messspeicher::Messspeicher(Messangaben neue, Zeit beginnUhr, std::size_t hoechstensBytes)
     : angaben(std::move(neue)), beginn(beginnUhr), hoechstens(hoechstensBytes),
       konfiguration(std::make_shared<Abbild>()) {}
@@ -40,7 +22,7 @@ void Messspeicher::Nimm(const Messdurchgang& durchgang) {
 }
 
 void Messspeicher::Nimm(const Liveereignis& ereignis) {
-    Nimm({.art = Art(ereignis.art), .laufzeit = Laufzeit(ereignis.uhr), .zeit = ereignis.zeit});
+    Nimm({.art = ArtVon(ereignis.art), .laufzeit = Laufzeit(ereignis.uhr), .zeit = ereignis.zeit});
 }
 
 void Messspeicher::Nimm(const Messereignis& ereignis) {

@@ -50,20 +50,6 @@ Aufzeichnung::Uhr UhrFuerAndere() {
     };
 }
 
-Messereignisart ArtVon(Liveereignisart art) {
-    switch (art) {
-    case Liveereignisart::Begonnen:
-        return Messereignisart::LiveBegonnen;
-    case Liveereignisart::Beendet:
-        return Messereignisart::LiveBeendet;
-    case Liveereignisart::Verloren:
-        return Messereignisart::Verloren;
-    case Liveereignisart::Zurueck:
-        break;
-    }
-    return Messereignisart::Zurueck;
-}
-
 bool IstLive() {
     return modPolling::GetPollingAktiv() != False && !modPolling::VerbindungVerloren();
 }

@@ -10,20 +10,6 @@ namespace {
 
 constexpr int TaktMs = 1000;
 
-Messereignisart ArtVon(Liveereignisart art) {
-    switch (art) {
-    case Liveereignisart::Begonnen:
-        return Messereignisart::LiveBegonnen;
-    case Liveereignisart::Beendet:
-        return Messereignisart::LiveBeendet;
-    case Liveereignisart::Verloren:
-        return Messereignisart::Verloren;
-    case Liveereignisart::Zurueck:
-        break;
-    }
-    return Messereignisart::Zurueck;
-}
-
 } // namespace
 
 Ereignissammler::Ereignissammler() : ableitung(modEreignisse::Alle()), fehlschlaege(modEreignisse::Alle()) {
