@@ -13,6 +13,7 @@
 #include "umgebung.h"
 #include "verlaufsdruck.h"
 #include "zeitachse.h"
+#include "zeitworte.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -355,7 +356,7 @@ QString frmVerlauf::Ueberschrift() const {
         if (!teil.empty())
             teile.append(Q(Einzeilig(teil)));
     for (const Zeit zeit : {spanne.von, spanne.bis})
-        teile.append(Q(Datum(angaben, zeit) + " " + Tageszeit(angaben, zeit)));
+        teile.append(Q(Zeitworte(angaben, zeit)));
     return teile.join(QStringLiteral("   "));
 }
 

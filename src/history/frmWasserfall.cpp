@@ -9,6 +9,7 @@
 #include "textmitwerten.h"
 #include "ui_frmWasserfall.h"
 #include "umgebung.h"
+#include "zeitworte.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,7 @@
 #include "strahlabschnitt.h"
 
 #include "textmitwerten.h"
+#include "zeitworte.h"
 
 namespace varnoth {
 

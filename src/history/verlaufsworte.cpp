@@ -4,6 +4,7 @@
 #include "texte.h"
 #include "textmitwerten.h"
 #include "zeitachse.h"
+#include "zeitworte.h"
 
 #include <cmath>
 
@@ -65,7 +66,7 @@ std::string Zuwachs(const Messdurchgang& a, const Messdurchgang& b, Messreihe re
 
 std::string Zeigerworte(const Messangaben& angaben, const Messdurchgang& durchgang, const Verlaufswahl& wahl,
                         const Strahlabstaende& abstaende) {
-    std::string text = Datum(angaben, durchgang.uhr) + " " + Tageszeit(angaben, durchgang.uhr);
+    std::string text = Zeitworte(angaben, durchgang.uhr);
     text += JeTeil(wahl, [&](int teil) {
         if (!Messung(durchgang, teil).gemessen)
             return LadeText(TextNichtGemessen);
@@ -84,7 +85,7 @@ std::string Markenworte(const Messangaben& angaben, const Messdurchgang* a, cons
     for (const auto& [name, durchgang] : marken)
         if (durchgang != nullptr)
             text += (text.empty() ? "" : Trennung) +
-                    LadeTextMit(TextMarke, {name, Tageszeit(angaben, durchgang->uhr)});
+                    LadeTextMit(TextMarke, {name, Uhrzeitworte(angaben, durchgang->uhr)});
     if (a == nullptr || b == nullptr)
         return text;
     text += Trennung + LadeTextMit(TextZeitunterschied, {Abstandstext(b->uhr - a->uhr)});

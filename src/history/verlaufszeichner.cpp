@@ -4,6 +4,7 @@
 #include "kurvenstil.h"
 #include "strahlfarben.h"
 #include "texte.h"
+#include "zeitworte.h"
 
 #include <QPainter>
 
@@ -230,7 +231,7 @@ void Verlaufszeichner::ZeichneZeitachse() const {
                                     feld.kurven.left() - Abstand, feld.kurven.right() + 2 * Abstand - breite);
         maler.drawText(QPointF(x, grund), Q(zeit.text));
     }
-    const QString datum = Q(Datum(blatt.angaben, blatt.spanne.von));
+    const QString datum = Q(Datumsworte(blatt.angaben, blatt.spanne.von));
     maler.drawText(QPointF(feld.kurven.left(), grund + masse.height()), datum);
     const QString dauer = Q(Abstandstext(blatt.spanne.bis - blatt.spanne.von));
     const double links = feld.kurven.right() - masse.horizontalAdvance(dauer);

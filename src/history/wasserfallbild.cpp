@@ -7,6 +7,7 @@
 #include "textmitwerten.h"
 #include "uebersicht.h"
 #include "umgebung.h"
+#include "zeitworte.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -2,6 +2,7 @@
 
 #include "texte.h"
 #include "textmitwerten.h"
+#include "zeitworte.h"
 
 #include <algorithm>
 #include <chrono>
@@ -35,21 +36,6 @@ std::string Zustandswechsel(const Sprungfund& fund) {
 
 } // namespace
 
-std::string Augenblickstext(const Messangaben& angaben, Zeit laufzeit) {
-    const auto ort =
-        floor<milliseconds>(angaben.beginn.time_since_epoch() + laufzeit + minutes(angaben.zoneMinuten));
-    const sys_days tag = floor<days>(sys_time<milliseconds>(ort));
-    const year_month_day datum(tag);
-    const hh_mm_ss zeit(ort - tag.time_since_epoch());
-    const std::string jahr = Gefuellt(static_cast<int>(datum.year()), 4);
-    const std::string monat = Gefuellt(static_cast<unsigned>(datum.month()), 2);
-    const std::string tagImMonat = Gefuellt(static_cast<unsigned>(datum.day()), 2);
-    const std::string vorn = GetSprachoffset() == Englisch ? jahr + "-" + monat + "-" + tagImMonat
-                                                           : tagImMonat + "." + monat + "." + jahr;
-    return vorn + " " + Gefuellt(zeit.hours().count(), 2) + ":" + Gefuellt(zeit.minutes().count(), 2) + ":" +
-           Gefuellt(zeit.seconds().count(), 2) + Komma() + Gefuellt(zeit.subseconds().count(), 3);
-}
-
 std::string Laufzeittext(Zeit dauer) {
     const hh_mm_ss zeit(floor<milliseconds>(std::max(dauer, Zeit{0})));
     const auto stunden = static_cast<long long>(zeit.hours().count());
@@ -59,7 +45,7 @@ std::string Laufzeittext(Zeit dauer) {
 }
 
 std::string Positionstext(const Messangaben& angaben, const Zeitspanne& spanne, Zeit laufzeit) {
-    return LadeTextMit(TextPosition, {Augenblickstext(angaben, laufzeit), Laufzeittext(laufzeit - spanne.von),
+    return LadeTextMit(TextPosition, {Zeitworte(angaben, laufzeit), Laufzeittext(laufzeit - spanne.von),
                                       Laufzeittext(spanne.bis - spanne.von)});
 }
 

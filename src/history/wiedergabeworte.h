@@ -8,8 +8,6 @@
 /// A replay in words, in the current language.
 namespace varnoth {
 
-/// A time of a source as the time of day where it was recorded: "22.11.2026 14:43:18,120".
-std::string Augenblickstext(const Messangaben& angaben, Zeit laufzeit);
 /// A time since the beginning: "1:02:03,4"; without hours where there are none.
 std::string Laufzeittext(Zeit dauer);
 /// Where a replay stands: time of day, time since the beginning, length.

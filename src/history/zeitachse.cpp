@@ -122,14 +122,6 @@ std::string BreitesterZeittext(Zeit schritt) {
     return datum.size() > tageszeit.size() ? datum : tageszeit;
 }
 
-std::string Tageszeit(const Messangaben& angaben, Zeit laufzeit) {
-    return Tageszeit(Ortszeit(angaben, laufzeit), milliseconds(1));
-}
-
-std::string Datum(const Messangaben& angaben, Zeit laufzeit) {
-    return Datum(Ortszeit(angaben, laufzeit));
-}
-
 std::string Abstandstext(Zeit dauer) {
     const std::string vorzeichen = dauer < Zeit(0) ? "-" : "";
     const Zeit betrag = dauer < Zeit(0) ? -dauer : dauer;

@@ -25,11 +25,6 @@ std::vector<Zeitstrich> Zeitstriche(const Messangaben& angaben, Zeitspanne spann
 /// The widest text that `Zeitstriche` writes at steps of that size.
 std::string BreitesterZeittext(Zeit schritt);
 
-/// "14:03:05.250": the local time of day, in the language in use.
-std::string Tageszeit(const Messangaben& angaben, Zeit laufzeit);
-/// "22.11.2026", "2026-11-22": the local date.
-std::string Datum(const Messangaben& angaben, Zeit laufzeit);
-
 /// "250 ms", "12,345 s", "1:02:03": how long something takes; "-" before it when it is below 0.
 std::string Abstandstext(Zeit dauer);
 

@@ -1,6 +1,7 @@
 #include "strahltabelle.h"
 
 #include "texte.h"
+#include "zeitworte.h"
 
 #include <algorithm>
 #include <array>

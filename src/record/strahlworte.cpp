@@ -2,12 +2,12 @@
 
 #include "texte.h"
 #include "textmitwerten.h"
+#include "zeitworte.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
 
 namespace varnoth {
 
@@ -55,29 +55,6 @@ std::string Dezimal(double zahl) {
     return text;
 }
 
-/// Local time as it was where the source was made.
-struct Ortszeit {
-    std::tm teile{};
-    int ms = 0;
-};
-
-Ortszeit OrtszeitUm(const Messangaben& angaben, Zeit laufzeit) {
-    const auto zeit = angaben.beginn + laufzeit + std::chrono::minutes(angaben.zoneMinuten);
-    const auto ganze = std::chrono::floor<std::chrono::seconds>(zeit);
-    const auto tag = std::chrono::floor<std::chrono::days>(ganze);
-    const std::chrono::year_month_day datum(tag);
-    const std::chrono::hh_mm_ss uhr(ganze - tag);
-    Ortszeit ort;
-    ort.teile.tm_year = static_cast<int>(datum.year());
-    ort.teile.tm_mon = static_cast<int>(static_cast<unsigned>(datum.month()));
-    ort.teile.tm_mday = static_cast<int>(static_cast<unsigned>(datum.day()));
-    ort.teile.tm_hour = static_cast<int>(uhr.hours().count());
-    ort.teile.tm_min = static_cast<int>(uhr.minutes().count());
-    ort.teile.tm_sec = static_cast<int>(uhr.seconds().count());
-    ort.ms = static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(zeit - ganze).count());
-    return ort;
-}
-
 } // namespace
 
 std::string Dauerworte(Zeit dauer) {
@@ -96,20 +73,6 @@ std::string Anteilworte(double anteil) {
     if (anteil <= 0 || anteil >= 1)
         return anteil <= 0 ? "0 %" : "100 %";
     return Dezimal(std::clamp(std::round(anteil * 1000) / 10, 0.1, 99.9)) + " %";
-}
-
-std::string Uhrzeitworte(const Messangaben& angaben, Zeit laufzeit) {
-    const Ortszeit ort = OrtszeitUm(angaben, laufzeit);
-    return Gesetzt("%02d:%02d:%02d%c%03d", ort.teile.tm_hour, ort.teile.tm_min, ort.teile.tm_sec,
-                   IstEnglisch() ? '.' : ',', ort.ms);
-}
-
-std::string Zeitworte(const Messangaben& angaben, Zeit laufzeit) {
-    const std::tm teile = OrtszeitUm(angaben, laufzeit).teile;
-    const std::string datum = IstEnglisch()
-                                  ? Gesetzt("%04d-%02d-%02d ", teile.tm_year, teile.tm_mon, teile.tm_mday)
-                                  : Gesetzt("%02d.%02d.%04d ", teile.tm_mday, teile.tm_mon, teile.tm_year);
-    return datum + Uhrzeitworte(angaben, laufzeit);
 }
 
 std::string Zellenworte(Zellenart art) {

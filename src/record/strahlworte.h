@@ -15,10 +15,6 @@ namespace varnoth {
 std::string Dauerworte(Zeit dauer);
 /// A share of 0 to 1: "12,3 %". What is not all is not called 100, and what is not nothing not 0.
 std::string Anteilworte(double anteil);
-/// Local time at a time of a source, to the millisecond: "22.11.2026 05:30:12,345".
-std::string Zeitworte(const Messangaben& angaben, Zeit laufzeit);
-/// The same without the date.
-std::string Uhrzeitworte(const Messangaben& angaben, Zeit laufzeit);
 /// What a cell of the waterfall shows.
 std::string Zellenworte(Zellenart art);
 /// "Strahl 113", "Strahlen 113–114", by index.

@@ -1,6 +1,7 @@
 #include "zeitfenster.h"
 
 #include "strahlworte.h"
+#include "zeitworte.h"
 
 #include <algorithm>
 #include <array>

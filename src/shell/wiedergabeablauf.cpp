@@ -19,7 +19,7 @@
 #include "textmitwerten.h"
 #include "umgebung.h"
 #include "verbindungsanzeige.h"
-#include "wiedergabeworte.h"
+#include "zeitworte.h"
 
 #include <QDockWidget>
 #include <QFileInfo>
@@ -37,6 +37,7 @@ constexpr std::int16_t TextAusgangAktiv = 3001, TextAusgangNichtAktiv = 3002, Te
                        TextOhneDurchgaenge = 6546, TextSpeichernUnter = 6547, TextKonfigurationsfilter = 2000,
                        TextOhneKonfiguration = 6550, TextHerkunft = 6553;
 constexpr int Fortschrittsschritte = 1000;
+constexpr std::size_t HhMmSs = 8; // letters of a time of day without its milliseconds
 constexpr std::chrono::milliseconds FortschrittNach(400);
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
@@ -51,12 +52,6 @@ std::vector<std::pair<std::int32_t, std::int32_t>> Aufbau(const Abbild& abbild) 
         aufbau.emplace_back(abbild.HoleRegister(Spezifisch, spezifisch::Strahlenzahl, teil),
                             abbild.HoleRegister(Spezifisch, spezifisch::Aufloesung, teil));
     return aufbau;
-}
-
-std::string Uhrzeit(const std::string& tageszeit) {
-    constexpr std::size_t Laenge = 8; // hh:mm:ss
-    const auto stelle = tageszeit.find(' ');
-    return stelle == std::string::npos ? tageszeit : tageszeit.substr(stelle + 1, Laenge);
 }
 
 } // namespace
@@ -244,8 +239,9 @@ void Wiedergabeablauf::ZeigeAusgang(const Messdurchgang* durchgang) {
     if (durchgang == nullptr)
         return ziel.teile.status.ZeigeAusgangVon({}, {});
     const bool aktiv = (durchgang->geraetestatus & geraetestatus::PnpAktiv) != 0;
-    ziel.teile.status.ZeigeAusgangVon(LadeText(aktiv ? TextAusgangAktiv : TextAusgangNichtAktiv),
-                                      Uhrzeit(Augenblickstext(aufzeichnung->Angaben(), durchgang->uhr)));
+    ziel.teile.status.ZeigeAusgangVon(
+        LadeText(aktiv ? TextAusgangAktiv : TextAusgangNichtAktiv),
+        Uhrzeitworte(aufzeichnung->Angaben(), durchgang->uhr).substr(0, HhMmSs));
 }
 
 void Wiedergabeablauf::ZeigeAnsicht(int optikteil) {
@@ -279,7 +275,7 @@ std::string Wiedergabeablauf::Dateiname() const {
 
 std::string Wiedergabeablauf::Herkunft() const {
     return LadeTextMit(TextHerkunft, {QFileInfo(Q(pfad)).fileName().toStdString(),
-                                      Augenblickstext(aufzeichnung->Angaben(), stand->Position())});
+                                      Zeitworte(aufzeichnung->Angaben(), stand->Position())});
 }
 
 void Wiedergabeablauf::BerichteKonfiguration() {

@@ -248,17 +248,13 @@ bool Dauerlauf::Berichte(const std::string& fehler) {
                 betrieb.fahrer.Meldungen().size());
     for (const auto& [name, wieOft] : benutzer.Taten())
         std::printf("               %5d %s\n", wieOft, name.c_str());
-    std::printf("memory         %zu kB after warm-up, %zu kB at the end (allocated: %zu, %zu)\n",
-                warm ? warm->belegtKb : 0, zuletzt.belegtKb, warm ? warm->benutztKb : 0, zuletzt.benutztKb);
-    std::printf("descriptors    %zu, %zu\n", warm ? warm->deskriptoren : 0, zuletzt.deskriptoren);
+    std::printf("%s", Speicherzeilen(warm, zuletzt).c_str());
     std::printf("longest gap    %lld ms at %s\n", static_cast<long long>(betrieb.puls.GroessteLueckeMs()),
                 betrieb.puls.Wo().c_str());
     std::string urteil = fehler;
-    if (urteil.empty() && warm && dauerMs >= KuerzestesUrteilMs &&
-        zuletzt.benutztKb > warm->benutztKb + WachstumKb)
-        urteil = "memory grows";
-    if (urteil.empty() && warm && zuletzt.deskriptoren > warm->deskriptoren)
-        urteil = "file descriptors stay open";
+    if (urteil.empty())
+        urteil = Speicherurteil(warm, zuletzt,
+                                dauerMs >= KuerzestesUrteilMs ? std::optional(WachstumKb) : std::nullopt);
     if (!urteil.empty() && !betrieb.fahrer.Meldungen().empty())
         std::printf("last message   %s\n", betrieb.fahrer.Meldungen().back().c_str());
     std::printf("%s\n", urteil.empty() ? "ok" : ("FAILED: " + urteil).c_str());

@@ -23,4 +23,19 @@ Speicherstand LiesSpeicherstand() {
             ::mallinfo2().uordblks / Kilobyte, static_cast<std::size_t>(anzahl)};
 }
 
+std::string Speicherzeilen(const std::optional<Speicherstand>& warm, const Speicherstand& ende) {
+    const Speicherstand vorher = warm.value_or(Speicherstand{});
+    return "memory         " + std::to_string(vorher.belegtKb) + " kB after warm-up, " +
+           std::to_string(ende.belegtKb) + " kB at the end (allocated: " + std::to_string(vorher.benutztKb) +
+           ", " + std::to_string(ende.benutztKb) + ")\ndescriptors    " +
+           std::to_string(vorher.deskriptoren) + ", " + std::to_string(ende.deskriptoren) + "\n";
+}
+
+std::string Speicherurteil(const std::optional<Speicherstand>& warm, const Speicherstand& ende,
+                           std::optional<std::size_t> hoechstensKb) {
+    if (warm && hoechstensKb && ende.benutztKb > warm->benutztKb + *hoechstensKb)
+        return "memory grows";
+    return warm && ende.deskriptoren > warm->deskriptoren ? "file descriptors stay open" : "";
+}
+
 } // namespace varnoth::pruefung

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <string>
 
 namespace varnoth::pruefung {
 
@@ -12,5 +14,12 @@ struct Speicherstand {
 };
 
 Speicherstand LiesSpeicherstand();
+
+/// Two lines about memory and descriptors after warm-up and at the end.
+std::string Speicherzeilen(const std::optional<Speicherstand>& warm, const Speicherstand& ende);
+/// What is wrong with the end beside the state after warm-up; empty when nothing is, and without the latter.
+/// @param hoechstensKb how much more allocated memory is still called none; none judges descriptors alone
+std::string Speicherurteil(const std::optional<Speicherstand>& warm, const Speicherstand& ende,
+                           std::optional<std::size_t> hoechstensKb);
 
 } // namespace varnoth::pruefung

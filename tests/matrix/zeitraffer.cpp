@@ -115,15 +115,11 @@ bool Zeitraffer::Berichte() const {
         std::printf("open           %s\n", aktion.c_str());
     std::printf("events         %llu, kept %llu\n", static_cast<unsigned long long>(ereignisse.Ende()),
                 static_cast<unsigned long long>(ereignisse.Ende() - ereignisse.Erstes()));
-    std::printf("memory         %zu kB after warm-up, %zu kB at the end (allocated: %zu, %zu)\n",
-                warm ? warm->belegtKb : 0, zuletzt.belegtKb, warm ? warm->benutztKb : 0, zuletzt.benutztKb);
-    std::printf("descriptors    %zu, %zu\n", warm ? warm->deskriptoren : 0, zuletzt.deskriptoren);
+    std::printf("%s", Speicherzeilen(warm, zuletzt).c_str());
     std::string urteil = warnung.isEmpty() ? std::string() : "unexpected warning: " + warnung.toStdString();
-    if (urteil.empty() && warm && stunden >= KuerzestesUrteil &&
-        zuletzt.benutztKb > warm->benutztKb + WachstumKb)
-        urteil = "memory grows";
-    if (urteil.empty() && warm && zuletzt.deskriptoren > warm->deskriptoren)
-        urteil = "file descriptors stay open";
+    if (urteil.empty())
+        urteil = Speicherurteil(warm, zuletzt,
+                                stunden >= KuerzestesUrteil ? std::optional(WachstumKb) : std::nullopt);
     std::printf("%s\n", urteil.empty() ? "ok" : ("FAILED: " + urteil).c_str());
     return urteil.empty();
 }

@@ -1,6 +1,7 @@
 #include "strahltabelle.h"
 #include "strahlworte.h"
 #include "texte.h"
+#include "zeitworte.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

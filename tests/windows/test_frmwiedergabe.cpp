@@ -6,6 +6,7 @@
 #include "texte.h"
 #include "wiedergabeworte.h"
 #include "zeitleiste.h"
+#include "zeitworte.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -247,7 +248,7 @@ TEST(WiedergabeworteTest, Times_are_told_as_a_reader_writes_them) {
     EXPECT_EQ(Laufzeittext(200h), "200:00:00,0");
     EXPECT_EQ(Laufzeittext(-5s), "0:00,0");
     const Messangaben angaben{.beginn = Systemzeit(0s), .zoneMinuten = -90};
-    EXPECT_EQ(Augenblickstext(angaben, 1'500ms), "31.12.1969 22:30:01,500");
+    EXPECT_EQ(Zeitworte(angaben, 1'500ms), "31.12.1969 22:30:01,500");
 }
 
 TEST(WiedergabeworteTest, Every_event_has_words_of_its_own) {

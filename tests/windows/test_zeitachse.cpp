@@ -1,6 +1,7 @@
 #include "zeitachse.h"
 
 #include "texte.h"
+#include "zeitworte.h"
 
 #include <gtest/gtest.h>
 
@@ -82,11 +83,11 @@ TEST(Zeitachse, Times_before_the_source_began_have_marks_too) {
 }
 
 TEST(Zeitachse, A_time_is_told_to_the_millisecond_at_its_place) {
-    EXPECT_EQ(Tageszeit(Angaben(), milliseconds(850)), "14:00:01,250");
-    EXPECT_EQ(Datum(Angaben(), hours(10)), "23.11.2026");
+    EXPECT_EQ(Uhrzeitworte(Angaben(), milliseconds(850)), "14:00:01,250");
+    EXPECT_EQ(Datumsworte(Angaben(), hours(10)), "23.11.2026");
     SetzeSprachoffset(Englisch);
-    EXPECT_EQ(Tageszeit(Angaben(), milliseconds(850)), "14:00:01.250");
-    EXPECT_EQ(Datum(Angaben(), hours(10)), "2026-11-23");
+    EXPECT_EQ(Uhrzeitworte(Angaben(), milliseconds(850)), "14:00:01.250");
+    EXPECT_EQ(Datumsworte(Angaben(), hours(10)), "2026-11-23");
 }
 
 TEST(Zeitachse, A_duration_is_told_in_the_unit_that_fits) {
