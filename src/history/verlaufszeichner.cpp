@@ -23,7 +23,7 @@ constexpr double ZeilenJeZahl = 2;
 constexpr double BreitenJeZeit = 1.5;
 constexpr double BreitesteNotiz = 170;
 constexpr int BandDeckung = 20;      // of 255
-constexpr double LaengsteNamen = 28; // of rows, in letters
+constexpr double LaengsteNamen = 30; // of rows, in letters
 
 QString Q(const std::string& text) {
     return QString::fromStdString(text);
@@ -139,7 +139,8 @@ double Randbreite(const Verlaufsblatt& blatt, const QFontMetricsF& masse) {
     breite = std::max(breite, masse.horizontalAdvance(Wertachsenname(blatt.wahl)));
     for (const Zustandszeile& zeile : Zustandszeilen(blatt.wahl))
         breite = std::max(breite, masse.horizontalAdvance(Zeilenname(zeile)));
-    return std::min(breite, LaengsteNamen * masse.averageCharWidth());
+    return std::min(std::ceil(breite) + 1,
+                    LaengsteNamen * masse.averageCharWidth()); // whole pixels lose some
 }
 
 double Legendenhoehe(const Verlaufsblatt& blatt, const QFontMetricsF& masse, double breite) {

@@ -26,7 +26,8 @@ std::string Gesetzt(const char* muster, Zahlen... zahlen) {
 } // namespace
 
 std::string Datumsworte(const Messangaben& angaben, Zeit laufzeit) {
-    const std::chrono::year_month_day datum(std::chrono::floor<std::chrono::days>(Ortszeit(angaben, laufzeit)));
+    const std::chrono::year_month_day datum(
+        std::chrono::floor<std::chrono::days>(Ortszeit(angaben, laufzeit)));
     const auto jahr = static_cast<int>(datum.year());
     const auto monat = static_cast<unsigned>(datum.month());
     const auto tag = static_cast<unsigned>(datum.day());
