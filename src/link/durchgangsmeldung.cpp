@@ -53,7 +53,6 @@ void MeldeGewisse() {
 } // namespace
 
 void Beginne() {
-    MeldeGewisse();
     laufender = {};
 }
 

@@ -6,7 +6,7 @@
 /// certain.
 namespace varnoth::modDurchgangsmeldung {
 
-/// A pass begins; what is certain of those before it is told.
+/// A pass begins.
 void Beginne();
 /// What the status in the image tells of optical part 0..3.
 void MerkeStatus(int teil, bool vorhanden);
@@ -14,7 +14,7 @@ void MerkeStatus(int teil, bool vorhanden);
 void MerkeStrahlen(int teil, Werte werte);
 /// The measured values of a part as they stand in the image.
 void MerkeMesswerte(int teil);
-/// The pass has come to its end, with the last exchange.
+/// The pass has come to its end, with the last exchange. Tells of those that are certain by now.
 void Beende(Systemzeit zeit, int anzahlTeile);
 
 /// Tells of the passes that are certain and forgets all others: they will not become so.

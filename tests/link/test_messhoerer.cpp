@@ -1,5 +1,6 @@
 #include "messhoerer.h"
 
+#include "austausch.h"
 #include "polling.h"
 #include "pruefgeraet.h"
 #include "registerabbild.h"
@@ -107,7 +108,7 @@ TEST_F(MesshoererTest, A_pass_holds_what_was_read_and_when_it_ended) {
     EXPECT_EQ(durchgang.teile[1], Teilmessung{});
 }
 
-TEST_F(MesshoererTest, A_part_has_no_more_beams_than_there_can_be_whatever_its_register_holds) {
+TEST_F(MesshoererTest, A_part_has_no_more_beams_than_there_can_be_whatever_its_nummerholds) {
     EXPECT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, 12, 60000));
     PollingZyklus();
     PollingZyklus();
@@ -127,6 +128,53 @@ TEST_F(MesshoererTest, A_part_that_no_view_shows_is_measured_only_for_a_listener
     PollingZyklus();
     EXPECT_TRUE(hoerer.durchgaenge.back().teile[0].gemessen);
     EXPECT_EQ(ziel.ansicht.gerufen, 0);
+}
+
+TEST_F(MesshoererTest, Registers_behind_the_last_beam_are_not_kept) {
+    EXPECT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, 12, 24));
+    for (const int nummer : {353, 354, 355})
+        geraet.Spezifisch(0, nummer) = 0xFFFF;
+    PollingZyklus();
+    PollingZyklus();
+    const auto& strahlen = hoerer.durchgaenge.at(0).teile[0].strahlregister;
+    EXPECT_EQ(strahlen[0], 0xFFFF);
+    EXPECT_EQ(strahlen[1], 0xFF00);
+    EXPECT_EQ(strahlen[2], 0);
+}
+
+TEST_F(MesshoererTest, A_part_without_beams_has_none) {
+    EXPECT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, 12, 0));
+    PollingZyklus();
+    PollingZyklus();
+    EXPECT_EQ(hoerer.durchgaenge.at(0).teile[0].strahlen, 0);
+}
+
+TEST_F(MesshoererTest, A_pass_keeps_nothing_of_the_one_before_it) {
+    geraet.Spezifisch(0, 335) = 17;
+    PollingZyklus();
+    ziel.ansicht.zeigt = false;
+    PollingZyklus();
+    PollingZyklus();
+    const Teilmessung& teil = hoerer.durchgaenge.at(1).teile[0];
+    EXPECT_FALSE(teil.gemessen);
+    EXPECT_EQ(teil.werte[0], 0);
+}
+
+TEST_F(MesshoererTest, A_pass_tells_the_time_of_day_at_its_end) {
+    const auto vorher = std::chrono::system_clock::now();
+    PollingZyklus();
+    const auto nachher = std::chrono::system_clock::now();
+    PollingZyklus();
+    EXPECT_GE(hoerer.durchgaenge.at(0).zeit, vorher);
+    EXPECT_LE(hoerer.durchgaenge.at(0).zeit, nachher);
+}
+
+TEST_F(MesshoererTest, A_pass_that_has_become_certain_meanwhile_is_told_when_live_data_stops) {
+    PollingZyklus();
+    ASSERT_TRUE(modAustausch::Vergewissere());
+    EXPECT_TRUE(hoerer.durchgaenge.empty());
+    StoppePolling();
+    EXPECT_EQ(hoerer.durchgaenge.size(), 1U);
 }
 
 TEST_F(MesshoererTest, A_pass_that_was_not_certain_yet_is_not_told_when_live_data_stops) {
