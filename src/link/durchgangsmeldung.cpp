@@ -66,10 +66,7 @@ void MerkeStatus(int teil, bool vorhanden) {
 void MerkeStrahlen(int teil, Werte werte) {
     if (!modMesshoerer::HoertJemand())
         return;
-    const int strahlen = Strahlen(teil);
-    werte.resize(
-        std::min(werte.size(), static_cast<std::size_t>((strahlen + Registerbits - 1) / Registerbits)));
-    for (int strahl = strahlen; strahl < static_cast<int>(werte.size()) * Registerbits; ++strahl)
+    for (int strahl = Strahlen(teil); strahl < static_cast<int>(werte.size()) * Registerbits; ++strahl)
         SetzeStrahlBit(werte, strahl, false);
     std::ranges::transform(werte, Teil(teil).strahlregister.begin(), AlsRegister);
 }
