@@ -1,10 +1,8 @@
 # Qt's own German texts come from the Qt installation and travel inside the program: the catalogue is copied beside
-# the resource list in the build folder. They are the same on every system.
-if(TARGET Qt6::qmake)
-    get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
-    execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
-        OUTPUT_VARIABLE qt_translations OUTPUT_STRIP_TRAILING_WHITESPACE)
-endif()
+# the resource list in the build folder.
+get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
+execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
+    OUTPUT_VARIABLE qt_translations OUTPUT_STRIP_TRAILING_WHITESPACE)
 find_file(VARNOTH_QTBASE_DE_QM qtbase_de.qm
     HINTS ${qt_translations} /usr/share/qt6/translations
     DOC "Qt's German message catalogue" NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
