@@ -16,8 +16,8 @@ int Zonenminuten(std::chrono::system_clock::time_point zeit);
 /// The same as dates name it: "+0100".
 std::string Zonentext(std::chrono::system_clock::time_point zeit);
 
-/// A moment of the calendar in the form of strftime, 63 bytes at most. The form must hold nothing that depends on the
-/// system: no names of days, months and zones, and no "%z".
+/// A moment of the calendar in the form of strftime, 63 bytes at most. The form must hold nothing that
+/// depends on the system: no names of days, months and zones, and no "%z".
 std::string InForm(const char* form, const std::tm& kalender);
 
 } // namespace varnoth

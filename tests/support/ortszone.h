@@ -12,7 +12,8 @@ public:
 #ifdef _WIN32
         ::_putenv_s("TZ", zone);
 #else
-        ::setenv("TZ", zone, 1); // NOLINT(concurrency-mt-unsafe): tests have one thread that asks for the zone
+        ::setenv("TZ", zone,
+                 1);      // NOLINT(concurrency-mt-unsafe): tests have one thread that asks for the zone
 #endif
         ::tzset();
     }
