@@ -1,36 +1,48 @@
 #include "kalenderzeit.h"
 
+#include "ortszone.h"
+
 #include <gtest/gtest.h>
 
 namespace varnoth {
-
 namespace {
 
 using namespace std::chrono;
 
-constexpr const char* Form = "%Y-%m-%d %H:%M:%S, day %j, weekday %w";
-
-std::string AlsWeltzeit(system_clock::time_point zeit) {
-    return InForm(Form, Weltzeit(zeit));
+system_clock::time_point Um(sys_seconds zeit) {
+    return zeit;
 }
 
-} // namespace
+const auto Winter = Um(sys_days(2026y / 1 / 15) + 22h + 59min + 58s) + 999ms;
+const auto Sommer = Um(sys_days(2026y / 7 / 15));
 
-TEST(Kalender, Tells_world_time_to_the_second_over_leap_days) {
-    const auto schalttag = sys_days(2024y / February / 29) + 23h + 59min + 59s + 999ms;
-    EXPECT_EQ(AlsWeltzeit(schalttag), "2024-02-29 23:59:59, day 060, weekday 4");
-    EXPECT_EQ(AlsWeltzeit(schalttag + 1ms), "2024-03-01 00:00:00, day 061, weekday 5");
+TEST(Kalenderzeit, The_offset_of_the_zone_follows_summer_time) {
+    const Ortszone zone("CET-1CEST");
+    EXPECT_EQ(Zonenminuten(Winter), 60);
+    EXPECT_EQ(Zonenminuten(Sommer), 120);
 }
 
-TEST(Kalender, Local_time_is_as_far_ahead_of_world_time_as_it_says) {
-    for (const auto& zeit : {sys_days(2024y / January / 15) + 12h, sys_days(2024y / July / 15) + 23h}) {
-        const auto versatz = minutes(Zonenminuten(zeit));
-        EXPECT_EQ(InForm(Form, Ortszeit(zeit)), AlsWeltzeit(zeit + versatz));
-        const std::string text = Zonentext(zeit);
-        ASSERT_EQ(text.size(), 5U) << text;
-        const int gesagt = std::stoi(text.substr(1, 2)) * 60 + std::stoi(text.substr(3));
-        EXPECT_EQ(text[0] == '-' ? -gesagt : gesagt, versatz.count());
+TEST(Kalenderzeit, A_zone_is_told_as_hours_and_minutes_with_its_sign) {
+    {
+        const Ortszone zone("CET-1");
+        EXPECT_EQ(Zonentext(Winter), "+0100");
+    }
+    {
+        const Ortszone zone("NST3:30");
+        EXPECT_EQ(Zonenminuten(Winter), -210);
+        EXPECT_EQ(Zonentext(Winter), "-0330");
     }
 }
 
+TEST(Kalenderzeit, Local_and_universal_time_tell_the_same_moment) {
+    const Ortszone zone("CET-1");
+    EXPECT_EQ(InForm("%Y-%m-%d %H:%M:%S", Ortszeit(Winter)), "2026-01-15 23:59:58");
+    EXPECT_EQ(InForm("%Y-%m-%d %H:%M:%S", Weltzeit(Winter)), "2026-01-15 22:59:58");
+}
+
+TEST(Kalenderzeit, A_moment_before_the_epoch_drops_its_decimals_downwards) {
+    EXPECT_EQ(InForm("%Y-%m-%d %H:%M:%S", Weltzeit(Um(sys_seconds(-1s)) + 1ms)), "1969-12-31 23:59:59");
+}
+
+} // namespace
 } // namespace varnoth
