@@ -7,8 +7,8 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 #include <cerrno>
+#include <chrono>
 #include <utility>
 #include <vector>
 

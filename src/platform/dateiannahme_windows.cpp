@@ -20,8 +20,8 @@ namespace varnoth {
 
 namespace {
 
-/// A new end that can be called. The first makes the pipe, this user's alone; it comes to nothing where another
-/// program has one of that name.
+/// A new end that can be called. The first makes the pipe, this user's alone; it comes to nothing where
+/// another program has one of that name.
 Griff NeuesRohr(const std::wstring& name, bool erstes) {
     constexpr DWORD wie = PIPE_TYPE_MESSAGE | PIPE_READMODE_MESSAGE | PIPE_REJECT_REMOTE_CLIENTS;
     const std::wstring nutzer = Nutzerkennung();
@@ -31,9 +31,10 @@ Griff NeuesRohr(const std::wstring& name, bool erstes) {
         ::ConvertStringSecurityDescriptorToSecurityDescriptorW(
             rechte.c_str(), SDDL_REVISION_1, &sicherheit.lpSecurityDescriptor, nullptr) == 0)
         return {};
-    Griff rohr(::CreateNamedPipeW(
-        name.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED | (erstes ? FILE_FLAG_FIRST_PIPE_INSTANCE : 0),
-        wie, HoechstensAnrufe, 256, LaengsterRuf, 0, &sicherheit));
+    Griff rohr(::CreateNamedPipeW(name.c_str(),
+                                  PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED |
+                                      (erstes ? FILE_FLAG_FIRST_PIPE_INSTANCE : 0),
+                                  wie, HoechstensAnrufe, 256, LaengsterRuf, 0, &sicherheit));
     ::LocalFree(sicherheit.lpSecurityDescriptor);
     return rohr;
 }
@@ -89,7 +90,8 @@ private:
         anruf.verbunden = true;
         anruf.frist = std::make_unique<QTimer>();
         anruf.frist->setSingleShot(true);
-        QObject::connect(anruf.frist.get(), &QTimer::timeout, anruf.frist.get(), [this, &anruf] { Vergiss(anruf); });
+        QObject::connect(anruf.frist.get(), &QTimer::timeout, anruf.frist.get(),
+                         [this, &anruf] { Vergiss(anruf); });
         anruf.frist->start(std::chrono::ceil<std::chrono::milliseconds>(ziel.laengsterSatz));
         anruf.rohr.Lies(LaengsterRuf + 1);
         HoereWeiter();

@@ -71,16 +71,17 @@ int Dateihindernis(const std::wstring& systempfad) {
 
 Geoeffnet OeffneDatei(std::string_view pfad, Oeffnung wie) {
     const std::wstring systempfad = Systempfad(pfad);
-    if (const int fehler = Dateihindernis(systempfad); fehler != 0 && (wie != Oeffnung::Neu || fehler != EISDIR))
+    if (const int fehler = Dateihindernis(systempfad);
+        fehler != 0 && (wie != Oeffnung::Neu || fehler != EISDIR))
         return {.fehler = fehler};
     const auto [zugriff, mitAnderen, anlegen, flaggen] = WeiseVon(wie);
     Griff datei;
-    const int fehler = Geduldig([&, zugriff = zugriff, mitAnderen = mitAnderen, anlegen = anlegen,
-                                 flaggen = flaggen] {
-        datei = Griff(
-            ::CreateFileW(systempfad.c_str(), zugriff, mitAnderen, nullptr, anlegen, flaggen, nullptr));
-        return datei ? 0 : LetzteFehlernummer();
-    });
+    const int fehler =
+        Geduldig([&, zugriff = zugriff, mitAnderen = mitAnderen, anlegen = anlegen, flaggen = flaggen] {
+            datei = Griff(
+                ::CreateFileW(systempfad.c_str(), zugriff, mitAnderen, nullptr, anlegen, flaggen, nullptr));
+            return datei ? 0 : LetzteFehlernummer();
+        });
     if (fehler != 0)
         return {.fehler = fehler};
     if (::GetFileType(datei.Wert()) != FILE_TYPE_DISK)

@@ -19,8 +19,8 @@ std::string Dateifehler(int fehler);
 int Dateihindernis(const std::wstring& systempfad);
 
 enum class Oeffnung {
-    Lesen,     ///< one that is there
-    Neu,       ///< one that is not there, not even a link; until it is closed nobody else writes or removes it
+    Lesen, ///< one that is there
+    Neu,   ///< one that is not there, not even a link; until it is closed nobody else writes or removes it
     Anhaengen, ///< one that is there or is made; nobody else writes it meanwhile
 };
 

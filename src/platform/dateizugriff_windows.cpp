@@ -79,8 +79,8 @@ Leseergebnis Lies(const QString& pfad, std::size_t hoechstens) {
     for (DWORD gelesen = 1; gelesen > 0 && bytes.size() < hoechstens;) {
         const std::size_t vorher = bytes.size();
         bytes.resize(vorher + std::min(stueck, hoechstens - vorher));
-        if (::ReadFile(datei.Wert(), bytes.data() + vorher, static_cast<DWORD>(bytes.size() - vorher), &gelesen,
-                       nullptr) == 0)
+        if (::ReadFile(datei.Wert(), bytes.data() + vorher, static_cast<DWORD>(bytes.size() - vorher),
+                       &gelesen, nullptr) == 0)
             return {.fehlertext = Dateifehler(LetzteFehlernummer())};
         bytes.resize(vorher + gelesen);
     }

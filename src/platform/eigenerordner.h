@@ -18,8 +18,8 @@ void LegeEigenenOrdnerAn(const QString& ordner);
 QString ErsterEigenerOrdner(const QStringList& kandidaten);
 
 /// Where the files of a running program lie that others must not tamper with: the session's folder, else one
-/// of this user's own in the temporary folder, else in the user's cache; on Windows one in %LOCALAPPDATA%, else
-/// in the temporary folder. Empty when none serves.
+/// of this user's own in the temporary folder, else in the user's cache; on Windows one in %LOCALAPPDATA%,
+/// else in the temporary folder. Empty when none serves.
 QString LaufzeitOrdner();
 
 } // namespace varnoth

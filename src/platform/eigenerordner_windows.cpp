@@ -19,8 +19,8 @@ bool GehoertNurMir(const QString& ordner) {
     if (merkmale == INVALID_FILE_ATTRIBUTES || (merkmale & FILE_ATTRIBUTE_DIRECTORY) == 0 ||
         (merkmale & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
         return false;
-    const Griff offener(::CreateFileW(systempfad.c_str(), READ_CONTROL, mitAllen, nullptr, OPEN_EXISTING, flaggen,
-                                      nullptr));
+    const Griff offener(
+        ::CreateFileW(systempfad.c_str(), READ_CONTROL, mitAllen, nullptr, OPEN_EXISTING, flaggen, nullptr));
     return offener && GehoertMir(offener.Wert(), true) && SchreibenNurEigene(offener.Wert());
 }
 

@@ -6,8 +6,8 @@
 
 namespace varnoth {
 
-/// Repeats a call that another program may be in the way of for a moment, as virus scanners are that look at a
-/// new file: until it gives another error number than EBUSY, or for about a second.
+/// Repeats a call that another program may be in the way of for a moment, as virus scanners are that look at
+/// a new file: until it gives another error number than EBUSY, or for about a second.
 template<class Tun>
 int Geduldig(Tun tun) {
     constexpr auto Laengste = std::chrono::milliseconds(320);

@@ -32,7 +32,8 @@ std::vector<std::byte> Ausweis(TOKEN_INFORMATION_CLASS was) {
 class Eigene {
 public:
     bool Enthaelt(PSID kennung) const {
-        return kennung != nullptr && (IstEine<TOKEN_USER>(nutzer, kennung) || IstEine<TOKEN_OWNER>(besitzer, kennung));
+        return kennung != nullptr &&
+               (IstEine<TOKEN_USER>(nutzer, kennung) || IstEine<TOKEN_OWNER>(besitzer, kennung));
     }
     PSID Nutzer() const { return nutzer.empty() ? nullptr : Kennung<TOKEN_USER>(nutzer); }
 

@@ -61,7 +61,8 @@ int LegeOrdnerAn(const std::string& pfad) {
 bool IstBeschreibbar(const QString& ordner) {
     if (LiegtBeiProgrammen(ordner))
         return false;
-    const QString name = QStringLiteral(".varnoth-%1.neu").arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0'));
+    const QString name = QStringLiteral(".varnoth-%1.neu")
+                             .arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0'));
     const std::wstring probe = Systempfad(QDir(ordner).filePath(name).toStdString());
     const Griff datei(::CreateFileW(probe.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr));

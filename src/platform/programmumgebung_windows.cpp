@@ -32,7 +32,8 @@ std::vector<std::string> Programmworte(int /*anzahl*/, char** /*worte*/) {
 std::string Umgebungswert(const char* name) {
     std::wstring wert(::GetEnvironmentVariableW(AlsUtf16(name).c_str(), nullptr, 0), L'\0');
     if (!wert.empty())
-        wert.resize(::GetEnvironmentVariableW(AlsUtf16(name).c_str(), wert.data(), static_cast<DWORD>(wert.size())));
+        wert.resize(
+            ::GetEnvironmentVariableW(AlsUtf16(name).c_str(), wert.data(), static_cast<DWORD>(wert.size())));
     if (wert.empty() && std::string_view(name) == "LANG")
         return Fenstersprache();
     return AlsUtf8(wert);

@@ -60,13 +60,15 @@ void Rohrende::WarteAufAnruf() {
 void Rohrende::Lies(std::size_t hoechstens) {
     auto* const ablauf = static_cast<OVERLAPPED*>(Beginne());
     vorgang->puffer.resize(hoechstens);
-    Merke(::ReadFile(rohr.Wert(), vorgang->puffer.data(), static_cast<DWORD>(hoechstens), nullptr, ablauf) != 0);
+    Merke(::ReadFile(rohr.Wert(), vorgang->puffer.data(), static_cast<DWORD>(hoechstens), nullptr, ablauf) !=
+          0);
 }
 
 void Rohrende::Sende(std::string_view bytes) {
     auto* const ablauf = static_cast<OVERLAPPED*>(Beginne());
     vorgang->puffer = bytes;
-    Merke(::WriteFile(rohr.Wert(), vorgang->puffer.data(), static_cast<DWORD>(bytes.size()), nullptr, ablauf) != 0);
+    Merke(::WriteFile(rohr.Wert(), vorgang->puffer.data(), static_cast<DWORD>(bytes.size()), nullptr,
+                      ablauf) != 0);
 }
 
 Rufstand Rohrende::Stand() {

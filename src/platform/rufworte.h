@@ -17,7 +17,7 @@ inline constexpr std::string_view RufAngenommen = "taken\n";
 inline constexpr std::string_view RufAbgelehnt = "refused\n";
 
 inline constexpr std::size_t LaengsterRuf = 65536;
-inline constexpr std::size_t HoechstensAnrufe = 8; ///< who are heard at a time
+inline constexpr std::size_t HoechstensAnrufe = 8;              ///< who are heard at a time
 inline constexpr Zeit Rufpause = std::chrono::milliseconds(20); ///< between two attempts to call
 
 /// What a call asks for, an absolute path; nothing when it is no call of ours.

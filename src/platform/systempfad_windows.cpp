@@ -39,8 +39,8 @@ bool IstRohr(std::wstring_view netzpfad) {
     constexpr std::wstring_view name = L"pipe";
     const std::wstring_view freigabe = NachErstem(netzpfad);
     const std::wstring_view erster = freigabe.substr(0, freigabe.find(L'\\'));
-    return std::ranges::equal(erster, name,
-                              [](wchar_t a, wchar_t b) { return std::towlower(static_cast<wint_t>(a)) == b; });
+    return std::ranges::equal(
+        erster, name, [](wchar_t a, wchar_t b) { return std::towlower(static_cast<wint_t>(a)) == b; });
 }
 
 } // namespace
@@ -55,8 +55,7 @@ std::wstring AlsUtf16(std::string_view utf8) {
 
 std::string AlsUtf8(std::wstring_view utf16) {
     const int zeichen = static_cast<int>(utf16.size());
-    const int laenge =
-        ::WideCharToMultiByte(CP_UTF8, 0, utf16.data(), zeichen, nullptr, 0, nullptr, nullptr);
+    const int laenge = ::WideCharToMultiByte(CP_UTF8, 0, utf16.data(), zeichen, nullptr, 0, nullptr, nullptr);
     std::string text(static_cast<std::size_t>(std::max(laenge, 0)), '\0');
     ::WideCharToMultiByte(CP_UTF8, 0, utf16.data(), zeichen, text.data(), laenge, nullptr, nullptr);
     return text;

@@ -9,8 +9,8 @@ namespace varnoth {
 std::wstring AlsUtf16(std::string_view utf8);
 std::string AlsUtf8(std::wstring_view utf16);
 
-/// A path (UTF-8) as the system takes it whatever its length: absolute, behind "\\?\". A name that stands for a
-/// device in every folder ("CON", "nul.txt", "COM1") comes as "\\.\NAME".
+/// A path (UTF-8) as the system takes it whatever its length: absolute, behind "\\?\". A name that stands for
+/// a device in every folder ("CON", "nul.txt", "COM1") comes as "\\.\NAME".
 std::wstring Systempfad(std::string_view utf8);
 
 /// Whether such a path can lead to a file or folder: no device, no pipe.

@@ -46,7 +46,8 @@ int SchreibeInKonsole(HANDLE konsole, std::string_view bytes) {
         bytes.remove_prefix(ganze);
         for (std::wstring_view rest = text; !rest.empty();) {
             DWORD geschrieben = 0;
-            if (::WriteConsoleW(konsole, rest.data(), static_cast<DWORD>(rest.size()), &geschrieben, nullptr) == 0)
+            if (::WriteConsoleW(konsole, rest.data(), static_cast<DWORD>(rest.size()), &geschrieben,
+                                nullptr) == 0)
                 return LetzteFehlernummer();
             rest.remove_prefix(geschrieben);
         }
