@@ -17,5 +17,11 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
+# Qt for Windows cannot unpack what Debian's rcc would pack with zstd.
+set(CMAKE_AUTORCC_OPTIONS --no-zstd)
+
+# What a build or test starts of its own programs, it starts by this.
+find_program(CMAKE_CROSSCOMPILING_EMULATOR wine)
+
 # Windows 10 is the oldest that is served.
 add_compile_definitions(_WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN _POSIX_THREAD_SAFE_FUNCTIONS)

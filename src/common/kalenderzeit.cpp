@@ -36,9 +36,20 @@ std::tm Ortszeit(system_clock::time_point zeit) {
 }
 
 std::tm Weltzeit(system_clock::time_point zeit) {
-    const std::time_t sekunden = Sekunden(zeit);
+    using namespace std::chrono;
+    const auto sekunden = floor<seconds>(zeit);
+    const auto mitternacht = floor<days>(sekunden);
+    const year_month_day tag(mitternacht);
+    const hh_mm_ss uhr(sekunden - mitternacht);
     std::tm kalender{};
-    ::gmtime_r(&sekunden, &kalender);
+    kalender.tm_year = static_cast<int>(tag.year()) - ErstesJahr;
+    kalender.tm_mon = static_cast<int>(static_cast<unsigned>(tag.month())) - 1;
+    kalender.tm_mday = static_cast<int>(static_cast<unsigned>(tag.day()));
+    kalender.tm_hour = static_cast<int>(uhr.hours().count());
+    kalender.tm_min = static_cast<int>(uhr.minutes().count());
+    kalender.tm_sec = static_cast<int>(uhr.seconds().count());
+    kalender.tm_wday = static_cast<int>(weekday(mitternacht).c_encoding());
+    kalender.tm_yday = static_cast<int>((mitternacht - sys_days(tag.year() / January / 1)).count());
     return kalender;
 }
 

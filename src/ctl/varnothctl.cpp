@@ -7,6 +7,7 @@
 #include "inieinstellungen.h"
 #include "lauf.h"
 #include "leseeinstellungen.h"
+#include "programmumgebung.h"
 #include "programmversion.h"
 #include "prozesskonsole.h"
 #include "qtumgebung.h"
@@ -19,18 +20,11 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <cstdlib>
-
 namespace {
 
 using namespace varnoth;
 
 constexpr const char* Fensterprogramm = "varnoth"; // its settings, its data folder
-
-std::string Umgebungsvariable(const char* name) {
-    const char* const wert = std::getenv(name);
-    return wert != nullptr ? wert : "";
-}
 
 /// What a window would show in a box.
 Antwort Melde(ctl::Konsole& konsole, const Meldung& meldung) {
@@ -73,7 +67,7 @@ int main(int argc, char** argv) {
     const QCoreApplication anwendung(argc, argv);
     QCoreApplication::setApplicationName(QString::fromLatin1(Fensterprogramm));
     FangeAbbruchsignaleAb();
-    const std::vector<std::string> worte(argv + 1, argv + argc);
-    SetzeSprachoffset(ctl::SpracheAus(worte, Umgebungsvariable));
+    const auto worte = Programmworte(argc, argv);
+    SetzeSprachoffset(ctl::SpracheAus(worte, Umgebungswert));
     return Laufe(worte, konsole);
 }

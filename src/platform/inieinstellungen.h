@@ -45,12 +45,14 @@ private:
 };
 
 /// The data folder of an installed program whose executable lies in this one. A program is installed where it
-/// exists.
+/// exists; on Windows, where all its files lie together, none is, and its settings lie beside it as long as
+/// that folder can be written.
 QString Programmdaten(const QString& ordner);
 
 /// Where the settings file of a program lies. `<ordner>/<name>.ini` when it is there or the program is not
 /// installed, as long as that place can be written. Otherwise `<name>/<name>.ini` in the user's configuration
-/// folder, or `<name>.ini` there when an earlier version has left only that.
+/// folder (~/.config, on Windows %APPDATA%), or `<name>.ini` there when an earlier version has left only
+/// that.
 QString Einstellungspfad(const QString& ordner, const QString& name);
 
 } // namespace varnoth

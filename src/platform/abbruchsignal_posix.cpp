@@ -13,8 +13,6 @@ extern "C" void MerkeAbbruch(int /*signal*/) {
     abbruchVerlangt = 1;
 }
 
-#ifdef SIGPIPE
-
 /// No call is resumed, so that whoever waits for an answer at the terminal hears of it.
 void Fange(int signal) {
     struct sigaction aktion {};
@@ -23,18 +21,12 @@ void Fange(int signal) {
     sigaction(signal, &aktion, nullptr);
 }
 
-#endif
-
 } // namespace
 
 void FangeAbbruchsignaleAb() {
-#ifdef SIGPIPE
     std::signal(SIGPIPE, SIG_IGN); // NOLINT(*-int-to-ptr,*-cstyle-cast): the system's own
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         Fange(signal);
-#else
-    std::signal(SIGINT, MerkeAbbruch);
-#endif
 }
 
 bool IstAbbruchVerlangt() {

@@ -8,11 +8,7 @@ namespace varnoth::simulator {
 
 namespace {
 
-#ifdef O_NOFOLLOW
 constexpr int OhneVerweis = O_NOFOLLOW | O_CLOEXEC;
-#else
-constexpr int OhneVerweis = 0;
-#endif
 constexpr mode_t NurEigentuemer = 0600;
 
 } // namespace

@@ -1,11 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <QtGlobal>
 
-#ifdef Q_OS_LINUX
-
-#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -13,12 +9,6 @@
 #include <sys/un.h>
 
 namespace varnoth {
-
-// The line between a second start and the running program. A call is the greeting and the path of a file, to
-// the end of the stream; the answer is one line.
-inline constexpr std::string_view Rufgruss = "varnoth: open\n";
-inline constexpr std::string_view RufAngenommen = "taken\n";
-inline constexpr std::string_view RufAbgelehnt = "refused\n";
 
 /// A descriptor that closes itself; -1 = none.
 class Deskriptor {
@@ -48,5 +38,3 @@ bool IstDerselbeNutzer(const Deskriptor& leitung);
 bool Sende(const Deskriptor& leitung, std::string_view bytes);
 
 } // namespace varnoth
-
-#endif

@@ -3,7 +3,8 @@
 #include "dateiannahme.h"
 #include "fenstertest.h"
 #include "kindprozess.h"
-#include "rufleitung.h"
+#include "rufleitung_posix.h"
+#include "rufworte.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -2,11 +2,6 @@
 
 #include "abbruchsignal.h"
 
-#include <QtGlobal>
-
-#include <cerrno>
-
-#ifdef Q_OS_UNIX
 #include <langinfo.h>
 #include <poll.h>
 #include <sys/ioctl.h>
@@ -14,19 +9,12 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <clocale>
 #include <cstdlib>
 #include <initializer_list>
-#else
-#include <io.h>
-
-#include <cstdio>
-#include <iostream>
-#endif
 
 namespace varnoth {
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -113,34 +101,5 @@ Zeichenvorrat ZeichenvorratDesNutzers() {
     return name.starts_with("ISO-8859-1") || name.starts_with("ISO8859-1") ? Zeichenvorrat::Latin1
                                                                            : Zeichenvorrat::Ascii;
 }
-
-#else
-
-bool IstTerminal(Strom strom) {
-    return ::_isatty(static_cast<int>(strom)) != 0;
-}
-
-int Terminalbreite(Strom /*strom*/) {
-    return 0;
-}
-
-int SchreibeInStrom(Strom strom, std::string_view bytes) {
-    FILE* const datei = strom == Strom::Ausgabe ? stdout : stderr;
-    const bool geschrieben = std::fwrite(bytes.data(), 1, bytes.size(), datei) == bytes.size();
-    return geschrieben && std::fflush(datei) == 0 ? 0 : EIO;
-}
-
-std::optional<std::string> LiesEingabezeile() {
-    std::string zeile;
-    if (!std::getline(std::cin, zeile))
-        return std::nullopt;
-    return zeile;
-}
-
-Zeichenvorrat ZeichenvorratDesNutzers() {
-    return Zeichenvorrat::Utf8;
-}
-
-#endif
 
 } // namespace varnoth

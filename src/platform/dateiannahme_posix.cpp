@@ -1,33 +1,23 @@
 #include "dateiannahme.h"
 
-#include "rufleitung.h"
-#include "utf8.h"
+#include "rufleitung_posix.h"
+#include "rufworte.h"
 
 #include <QSocketNotifier>
 #include <QTimer>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
-#include <optional>
-#include <string_view>
 #include <utility>
 #include <vector>
 
-#ifdef Q_OS_LINUX
-#include <cerrno>
-
 #include <sys/stat.h>
 #include <unistd.h>
-#endif
 
 namespace varnoth {
 
-#ifdef Q_OS_LINUX
-
 namespace {
-
-constexpr std::size_t LaengsterRuf = 65536;
-constexpr std::size_t HoechstensAnrufe = 8;
 
 /// Whether the place is free for a socket; an old one goes, anything else stays.
 bool MachePlatz(const sockaddr_un& adresse) {
@@ -35,16 +25,6 @@ bool MachePlatz(const sockaddr_un& adresse) {
     if (::lstat(adresse.sun_path, &stand) != 0)
         return errno == ENOENT;
     return S_ISSOCK(stand.st_mode) && ::unlink(adresse.sun_path) == 0;
-}
-
-/// What the call asks for; nothing when it is no call of ours.
-std::optional<std::string> Pfad(std::string_view anruf) {
-    if (!anruf.starts_with(Rufgruss))
-        return std::nullopt;
-    anruf.remove_prefix(Rufgruss.size());
-    const bool brauchbar =
-        anruf.starts_with('/') && anruf.find('\0') == std::string_view::npos && IstUtf8(anruf);
-    return brauchbar ? std::optional(std::string(anruf)) : std::nullopt;
 }
 
 } // namespace
@@ -111,7 +91,7 @@ private:
                 return;
             anruf.gelesen.clear();
         }
-        const auto pfad = stueck < 0 ? std::nullopt : Pfad(anruf.gelesen);
+        const auto pfad = stueck < 0 ? std::nullopt : GerufenerPfad(anruf.gelesen);
         const bool gehoert = Beantworte(anruf, pfad && ziel.bereit());
         Vergiss(anruf);
         if (gehoert)
@@ -138,27 +118,13 @@ private:
     std::vector<std::unique_ptr<Anruf>> anrufe;
 };
 
-#else
-
-class Dateiannahme::Innen {};
-
-#endif
-
 Dateiannahme::Dateiannahme(const QString& ort, Ziel ziel)
-#ifdef Q_OS_LINUX
-    : innen(std::make_unique<Innen>(ort, std::move(ziel)))
-#endif
-{
-}
+    : innen(std::make_unique<Innen>(ort, std::move(ziel))) {}
 
 Dateiannahme::~Dateiannahme() = default;
 
 bool Dateiannahme::Hoert() const {
-#ifdef Q_OS_LINUX
     return innen->Hoert();
-#else
-    return false;
-#endif
 }
 
 } // namespace varnoth

@@ -1,6 +1,4 @@
-#include "rufleitung.h"
-
-#ifdef Q_OS_LINUX
+#include "rufleitung_posix.h"
 
 #include "eigenerordner.h"
 
@@ -58,5 +56,3 @@ bool Sende(const Deskriptor& leitung, std::string_view bytes) {
 }
 
 } // namespace varnoth
-
-#endif

@@ -1,27 +1,13 @@
-#include "dauerhaft.h"
+#include "dauerhaft_posix.h"
 
 #include "systemfehler.h"
 
 #include <cerrno>
 
-#ifdef Q_OS_WIN
-#include <io.h>
-#else
 #include <fcntl.h>
 #include <unistd.h>
-#endif
 
 namespace varnoth {
-
-#ifdef Q_OS_WIN
-
-std::string BringeAufDatentraeger(const QFile& datei) {
-    return _commit(datei.handle()) == 0 ? std::string() : Systemfehler(errno);
-}
-
-void BringeOrdnerAufDatentraeger(const QString& /*ordner*/) {}
-
-#else
 
 std::string BringeAufDatentraeger(const QFile& datei) {
     const bool gelungen = ::fsync(datei.handle()) == 0 || errno == EINVAL || errno == ENOTSUP;
@@ -35,7 +21,5 @@ void BringeOrdnerAufDatentraeger(const QString& ordner) {
     ::fsync(handle);
     ::close(handle);
 }
-
-#endif
 
 } // namespace varnoth
