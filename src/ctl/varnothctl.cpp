@@ -3,13 +3,13 @@
 #include "abbruchsignal.h"
 #include "befehlszeile.h"
 #include "dateisicherungen.h"
+#include "geraeteport.h"
 #include "inieinstellungen.h"
 #include "lauf.h"
 #include "leseeinstellungen.h"
 #include "programmumgebung.h"
 #include "programmversion.h"
 #include "prozesskonsole.h"
-#include "qtseriellerport.h"
 #include "qtumgebung.h"
 #include "schnittstelle.h"
 #include "sicherungen.h"
@@ -50,8 +50,8 @@ int Laufe(std::span<const std::string> worte, ctl::Prozesskonsole& konsole) {
     ctl::Leseeinstellungen einstellungen(datei);
     Dateisicherungen sicherungen(UeblicherDatenordner(), std::string(Programmversion()));
     SetzeSicherungen(&sicherungen);
-    QtSeriellerPort port;
-    modSchnittstelle::SetzePort(&port);
+    const auto port = MacheGeraeteport();
+    modSchnittstelle::SetzePort(port.get());
     const ctl::Ende ende = ctl::FuehreAus(worte, konsole);
     modSchnittstelle::SetzePort(nullptr);
     SetzeSicherungen(nullptr);

@@ -1,8 +1,5 @@
 #include "portbenutzer.h"
 
-#include <QtGlobal>
-
-#ifdef Q_OS_UNIX
 #include "pseudoterminal.h"
 #include "textschutz.h"
 
@@ -15,11 +12,8 @@
 #include <fstream>
 #include <optional>
 #include <sstream>
-#endif
 
 namespace varnoth {
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -150,23 +144,5 @@ std::vector<std::string> ProzesseAn(const std::string& pfad) {
         Nimm(namen, name);
     return namen;
 }
-
-#else
-
-std::vector<std::vector<std::string>> ProzesseAnGeraeten(const std::vector<std::string>& pfade,
-                                                         const std::string& /*proc*/) {
-    return std::vector<std::vector<std::string>>(pfade.size());
-}
-
-std::vector<std::vector<std::string>> SperrendeAnGeraeten(const std::vector<std::string>& pfade,
-                                                          const std::string& /*proc*/) {
-    return std::vector<std::vector<std::string>>(pfade.size());
-}
-
-std::vector<std::string> ProzesseAn(const std::string& /*pfad*/) {
-    return {};
-}
-
-#endif
 
 } // namespace varnoth

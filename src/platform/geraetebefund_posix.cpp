@@ -1,8 +1,5 @@
 #include "geraetebefund.h"
 
-#include <QtGlobal>
-
-#ifdef Q_OS_UNIX
 #include <grp.h>
 #include <pwd.h>
 #include <sys/stat.h>
@@ -11,11 +8,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <vector>
-#endif
 
 namespace varnoth {
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -73,13 +67,5 @@ Portbefund BefundDesGeraets(const std::string& pfad) {
         return OhneRecht(geraet);
     return {};
 }
-
-#else
-
-Portbefund BefundDesGeraets(const std::string& /*pfad*/) {
-    return {};
-}
-
-#endif
 
 } // namespace varnoth
