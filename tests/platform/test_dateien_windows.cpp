@@ -1,4 +1,5 @@
-// Where files lie on Windows: devices in every folder, long paths, and programs that look at what others write.
+// Where files lie on Windows: devices in every folder, long paths, and programs that look at what others
+// write.
 
 #include "ausgabeprobe.h"
 #include "dateieingabe.h"
@@ -46,8 +47,8 @@ protected:
 };
 
 TEST_F(DateienUnterWindows, A_device_or_pipe_is_neither_waited_for_nor_replaced) {
-    const Griff rohr(::CreateNamedPipeW(L"\\\\.\\pipe\\varnoth-test", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 64,
-                                        64, 0, nullptr));
+    const Griff rohr(::CreateNamedPipeW(L"\\\\.\\pipe\\varnoth-test", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1,
+                                        64, 64, 0, nullptr));
     ASSERT_TRUE(rohr);
     for (const std::string& pfad :
          {std::string("CON"), std::string("NUL"), Pfad("nul"), Pfad("COM1"), std::string("\\\\.\\COM1"),
