@@ -37,6 +37,8 @@ std::string WindowsPort::Fehlertext() const {
     switch (HindernisNachOeffnen(oeffnungsfehler)) {
     case Hindernis::Keines:
         return {};
+    case Hindernis::Fehlt:
+        return Systemfehler(ENOENT);
     case Hindernis::Belegt: // the system's own words are those for a missing right
         return Systemfehler(EBUSY);
     default:

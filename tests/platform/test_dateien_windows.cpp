@@ -1,8 +1,10 @@
-// Where files lie on Windows: devices in every folder, long paths, and programs that look at what others write.
+// Where files lie on Windows: devices in every folder, long paths, and programs that look at what others
+// write.
 
 #include "ausgabeprobe.h"
 #include "dateieingabe.h"
 #include "geduldig_windows.h"
+#include "griff_windows.h"
 #include "ordner.h"
 #include "systemfehler.h"
 #include "systempfad_windows.h"
@@ -46,8 +48,8 @@ protected:
 };
 
 TEST_F(DateienUnterWindows, A_device_or_pipe_is_neither_waited_for_nor_replaced) {
-    const Griff rohr(::CreateNamedPipeW(L"\\\\.\\pipe\\varnoth-test", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1, 64,
-                                        64, 0, nullptr));
+    const Griff rohr(::CreateNamedPipeW(L"\\\\.\\pipe\\varnoth-test", PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 1,
+                                        64, 64, 0, nullptr));
     ASSERT_TRUE(rohr);
     for (const std::string& pfad :
          {std::string("CON"), std::string("NUL"), Pfad("nul"), Pfad("COM1"), std::string("\\\\.\\COM1"),

@@ -126,9 +126,12 @@ TEST_F(Rohruebergabe, A_program_that_is_just_starting_is_waited_for) {
 TEST_F(Rohruebergabe, What_is_no_path_is_refused) {
     using namespace std::string_literals;
     const std::string gruss(Rufgruss);
-    const std::string rufe[] = {"C:/a.con",           gruss,
-                                gruss + "a.con",      gruss + "C:/a\0b.con"s,
-                                gruss + "C:/a\xFF.con", gruss + LangerPfad(80'000)};
+    const std::string rufe[] = {"C:/a.con",
+                                gruss,
+                                gruss + "a.con",
+                                gruss + "C:/a\0b.con"s,
+                                gruss + "C:/a\xFF.con",
+                                gruss + LangerPfad(80'000)};
     Hoere(std::chrono::seconds(10));
     for (const std::string& ruf : rufe) {
         Anrufer anrufer(ort);

@@ -50,10 +50,11 @@ TEST(StartUnterWindows, A_started_program_gets_its_arguments_and_no_shell_interp
     const QTemporaryDir ordner;
     const QString ziel = ordner.filePath(QStringLiteral("worte.txt"));
     qputenv(WohinDasKindSchreibt, ziel.toUtf8());
-    EXPECT_EQ(StarteProgramm(QCoreApplication::applicationFilePath(),
-                             QStringLiteral("--gtest_also_run_disabled_tests --gtest_filter=DISABLED_Startkind.* "
-                                            "COM1 \"new firmware.bin\" /v %TEMP% & dir")),
-              "");
+    EXPECT_EQ(
+        StarteProgramm(QCoreApplication::applicationFilePath(),
+                       QStringLiteral("--gtest_also_run_disabled_tests --gtest_filter=DISABLED_Startkind.* "
+                                      "COM1 \"new firmware.bin\" /v %TEMP% & dir")),
+        "");
     ASSERT_TRUE(pruefung::WarteBis([&] { return QFile::exists(ziel); }, 60000));
     QFile datei(ziel);
     ASSERT_TRUE(datei.open(QIODevice::ReadOnly));

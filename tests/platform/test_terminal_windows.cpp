@@ -28,10 +28,12 @@ public:
     Eigenekonsole() {
         ::FreeConsole();
         ::AllocConsole();
-        schirm = Griff(::CreateConsoleScreenBuffer(GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                                   nullptr, CONSOLE_TEXTMODE_BUFFER, nullptr));
-        tastatur = Griff(::CreateFileW(L"CONIN$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                       nullptr, OPEN_EXISTING, 0, nullptr));
+        schirm = Griff(::CreateConsoleScreenBuffer(GENERIC_READ | GENERIC_WRITE,
+                                                   FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                                   CONSOLE_TEXTMODE_BUFFER, nullptr));
+        tastatur =
+            Griff(::CreateFileW(L"CONIN$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                nullptr, OPEN_EXISTING, 0, nullptr));
         ::SetStdHandle(STD_OUTPUT_HANDLE, schirm.Wert());
         ::SetStdHandle(STD_INPUT_HANDLE, tastatur.Wert());
     }
@@ -40,7 +42,8 @@ public:
     std::string ErsteZeile(std::size_t zeichen) const {
         std::wstring text(zeichen, L'\0');
         DWORD gelesen = 0;
-        ::ReadConsoleOutputCharacterW(schirm.Wert(), text.data(), static_cast<DWORD>(zeichen), {0, 0}, &gelesen);
+        ::ReadConsoleOutputCharacterW(schirm.Wert(), text.data(), static_cast<DWORD>(zeichen), {0, 0},
+                                      &gelesen);
         return AlsUtf8(text.substr(0, gelesen));
     }
     void Tippe(const std::wstring& text) const {

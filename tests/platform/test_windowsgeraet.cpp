@@ -27,7 +27,8 @@ TEST(Windowsgeraet, Is_opened_by_a_path_that_serves_numbers_above_nine_too) {
 TEST(Windowsgeraet, Is_no_file_and_no_folder) {
     for (const char* name : {"COM1", R"(\\.\COM10)", "CNCB0"})
         EXPECT_TRUE(KannWindowsgeraetSein(name)) << name;
-    for (const char* name : {"", R"(C:\line)", "C:", "folder/line", "line.txt", R"(\\server\line)", R"(\\.\)"})
+    for (const char* name :
+         {"", R"(C:\line)", "C:", "folder/line", "line.txt", R"(\\server\line)", R"(\\.\)"})
         EXPECT_FALSE(KannWindowsgeraetSein(name)) << name;
 }
 
