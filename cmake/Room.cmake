@@ -1,6 +1,14 @@
 # Every folder under src/ is a room: one static library that sees its own headers and those of the rooms it
 # names, and no others. A wrong include is then a file that the compiler cannot find.
 
+# What touches the system comes in pairs behind one header, NAME_posix.cpp and NAME_windows.cpp, of which a room lists
+# NAME_${VARNOTH_SYSTEM}.cpp.
+if(WIN32)
+    set(VARNOTH_SYSTEM windows)
+else()
+    set(VARNOTH_SYSTEM posix)
+endif()
+
 add_library(varnoth_warnings INTERFACE)
 target_compile_options(varnoth_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow

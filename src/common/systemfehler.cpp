@@ -22,7 +22,7 @@ struct Zeile {
 constexpr Zeile DieZeilen[] = {
     {ENOENT, 9250}, {EACCES, 9251}, {EPERM, 9251},        {EISDIR, 9252}, {ENOTDIR, 9253}, {ENOSPC, 9254},
     {EROFS, 9255},  {EIO, 9256},    {ENAMETOOLONG, 9257}, {EMFILE, 9258}, {ENFILE, 9258},  {EBUSY, 9259},
-    {ENODEV, 9260}, {ENXIO, 9260},  {EFBIG, 9262},        {ENOTTY, 9265},
+    {ENODEV, 9260}, {ENXIO, 9260},  {EFBIG, 9262},        {ENOTTY, 9265}, {EILSEQ, 9266},
 };
 
 } // namespace

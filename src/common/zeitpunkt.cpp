@@ -1,30 +1,21 @@
 #include "zeitpunkt.h"
 
+#include "kalenderzeit.h"
 #include "texte.h"
 
 #include <array>
 #include <cstdio>
-#include <ctime>
 
 namespace varnoth {
 
 namespace {
-
-std::string InForm(std::chrono::system_clock::time_point zeit, const char* form) {
-    const std::time_t sekunden = std::chrono::system_clock::to_time_t(zeit);
-    std::tm ortszeit{};
-    localtime_r(&sekunden, &ortszeit);
-    std::array<char, 32> text{};
-    std::strftime(text.data(), text.size(), form, &ortszeit);
-    return text.data();
-}
 
 std::string MitMs(std::chrono::system_clock::time_point zeit, const char* form, char trenner) {
     const auto ganze = std::chrono::floor<std::chrono::seconds>(zeit);
     const auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(zeit - ganze).count();
     std::array<char, 8> bruch{};
     std::snprintf(bruch.data(), bruch.size(), "%c%03d", trenner, static_cast<int>(ms));
-    return InForm(ganze, form) + bruch.data();
+    return InForm(form, Ortszeit(zeit)) + bruch.data();
 }
 
 } // namespace
@@ -42,7 +33,7 @@ std::string Zeitpunkttext(std::chrono::system_clock::time_point zeit) {
 }
 
 std::string Datumstext(std::chrono::system_clock::time_point zeit) {
-    return InForm(std::chrono::floor<std::chrono::seconds>(zeit), "%Y-%m-%d");
+    return InForm("%Y-%m-%d", Ortszeit(zeit));
 }
 
 } // namespace varnoth

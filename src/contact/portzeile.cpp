@@ -21,6 +21,7 @@ constexpr std::int16_t TextUnbrauchbar = 8321;
 constexpr std::int16_t TextEingetragen = 8322;
 constexpr std::int16_t TextPort = 8323;
 constexpr std::int16_t TextMitNummer = 8324;
+constexpr std::int16_t TextVorhanden = 6790;
 constexpr std::int16_t TextKeineBerechtigung = 9251;
 constexpr std::int16_t TextKeineSchnittstelle = 9265;
 
@@ -69,7 +70,9 @@ std::string Zustand(const Portbefund& befund) {
     }
     if (!befund.prozesse.empty())
         return LadeTextMit(TextBelegtVon, {Liste(befund.prozesse)});
-    return LadeText(befund.hindernis == Hindernis::Belegt ? TextBelegt : TextFrei);
+    if (befund.hindernis == Hindernis::Belegt)
+        return LadeText(TextBelegt);
+    return LadeText(befund.benutzungUnbekannt ? TextVorhanden : TextFrei);
 }
 
 std::string Zustand(const Portangabe& port, const Anschlussstand& stand) {

@@ -7,9 +7,6 @@
 #include "texte.h"
 #include "textmitwerten.h"
 
-#include <filesystem>
-#include <system_error>
-
 namespace varnoth::ctl {
 
 namespace {
@@ -22,8 +19,7 @@ constexpr std::int16_t TextGeschrieben = 8631;
 Ende DarfDatei(const Lauf& lauf, const std::string& pfad) {
     if (!GibtEsDatei(pfad))
         return Ende::Erledigt;
-    std::error_code fehler;
-    if (!std::filesystem::is_regular_file(pfad, fehler))
+    if (!IstGewoehnlicheDatei(pfad))
         return lauf.Scheitere(Ende::Datei,
                               LadeTextMit(TextDateifehler, {pfad, LiesDatei(pfad, 1).fehlertext}));
     return lauf.Erlaubnis(LadeTextMit(TextErsetzen, {pfad}));
@@ -43,8 +39,7 @@ Ende LiesFuerZiel(const Lauf& lauf, Umwandlung& umwandlung) {
 }
 
 bool IstDasselbe(const std::string& ein, const std::string& anderes) {
-    std::error_code fehler;
-    return ein == anderes || std::filesystem::equivalent(ein, anderes, fehler);
+    return ein == anderes || IstDieselbeDatei(ein, anderes);
 }
 
 Ende LegeDatei(const Lauf& lauf, const std::string& pfad, std::string_view bytes) {

@@ -1,6 +1,7 @@
 #include "leitungszugang.h"
 
 #include "einstellungen.h"
+#include "geraetename.h"
 #include "geraetepfade.h"
 #include "lauf.h"
 #include "porteinstellungen.h"
@@ -13,9 +14,7 @@
 
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
 namespace varnoth::ctl {
 
@@ -43,26 +42,20 @@ bool IstComName(std::string_view worte) {
 Ende WaehlePort(const Lauf& lauf, const std::string& worte) {
     if (worte.empty())
         return lauf.Scheitere(Ende::Bedienung, LadeTextMit(TextKeinComPort, {worte}));
-    if (!IstComName(worte)) {
-        SetzeGeraetepfad(Geraetepfadname(worte));
+    const bool istCom = IstComName(worte);
+    const std::string nummer = istCom ? worte.substr(ComName.size()) : std::string();
+    const bool istEingestellter = nummer.size() == 1 && nummer >= "1" && nummer <= "4";
+    if (!istCom || (!istEingestellter && KenntComNummern())) {
+        SetzeGeraetepfad(GanzerGeraetename(worte));
         return Ende::Erledigt;
     }
-    const std::string nummer = worte.substr(ComName.size());
-    if (nummer.size() != 1 || nummer < "1" || nummer > "4")
+    if (!istEingestellter)
         return lauf.Scheitere(Ende::Bedienung, LadeTextMit(TextKeinComPort, {worte}));
     modSchnittstelle::SetzeComPort(static_cast<std::int16_t>(nummer[0] - '0'));
     return Ende::Erledigt;
 }
 
 } // namespace
-
-std::string Geraetepfadname(const std::string& pfad) {
-    std::error_code fehler;
-    if (pfad.find('/') == std::string::npos && !std::filesystem::exists(pfad, fehler))
-        return "/dev/" + pfad;
-    const auto ganzer = std::filesystem::absolute(pfad, fehler);
-    return fehler ? pfad : ganzer.string();
-}
 
 Ende WaehleAnschluss(const Lauf& lauf) {
     modSchnittstelle::SetzeComPort(

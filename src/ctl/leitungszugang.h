@@ -37,10 +37,6 @@ private:
 /// makes no sense.
 Ende WaehleAnschluss(const Lauf& lauf);
 
-/// The device that a path means: a bare name that is not in the current folder lies where the system keeps
-/// its devices.
-std::string Geraetepfadname(const std::string& pfad);
-
 /// Texts of the controller that answered last, as UTF-8.
 std::string Geraetename();
 std::string Geraetecopyright();

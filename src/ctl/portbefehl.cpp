@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::int16_t TextKeinPort = 8277;
 constexpr std::int16_t TextFrei = 8278;
+constexpr std::int16_t TextVorhanden = 6790;
 constexpr std::int16_t TextSeriennummer = 8279;
 constexpr int Portnummern = 4;
 
@@ -50,7 +51,8 @@ std::string Kopfzeile(const Portangabe& port) {
 
 std::string Absatz(const Portangabe& port) {
     const std::string ursache = Ursache(port);
-    std::string text = Kopfzeile(port) + "  " + (ursache.empty() ? LadeText(TextFrei) : ursache) + "\n";
+    const std::string frei = LadeText(port.befund.benutzungUnbekannt ? TextVorhanden : TextFrei);
+    std::string text = Kopfzeile(port) + "  " + (ursache.empty() ? frei : ursache) + "\n";
     for (const std::string& name : port.stabileNamen)
         text += "  " + name + "\n";
     return text;
@@ -59,7 +61,7 @@ std::string Absatz(const Portangabe& port) {
 const char* Zustand(const Portbefund& befund) {
     switch (befund.hindernis) {
     case Hindernis::Keines:
-        return "free";
+        return befund.benutzungUnbekannt ? "present" : "free";
     case Hindernis::Belegt:
         return "busy";
     case Hindernis::KeinRecht:

@@ -1,6 +1,7 @@
 // The command that finds the controller.
 
 #include "auftraege.h"
+#include "geraetename.h"
 #include "lauf.h"
 #include "leitungszugang.h"
 #include "portliste.h"
@@ -72,7 +73,7 @@ Json FundAlsJson(const Suchfund& fund) {
 std::vector<std::string> Geraete(const Lauf& lauf) {
     if (!lauf.zeile.argumente.empty()) {
         std::vector<std::string> geraete;
-        std::ranges::transform(lauf.zeile.argumente, std::back_inserter(geraete), Geraetepfadname);
+        std::ranges::transform(lauf.zeile.argumente, std::back_inserter(geraete), GanzerGeraetename);
         return geraete;
     }
     if (lauf.zeile.Hat("port"))

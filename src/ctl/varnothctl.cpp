@@ -3,12 +3,13 @@
 #include "abbruchsignal.h"
 #include "befehlszeile.h"
 #include "dateisicherungen.h"
+#include "geraeteport.h"
 #include "inieinstellungen.h"
 #include "lauf.h"
 #include "leseeinstellungen.h"
+#include "programmumgebung.h"
 #include "programmversion.h"
 #include "prozesskonsole.h"
-#include "qtseriellerport.h"
 #include "qtumgebung.h"
 #include "schnittstelle.h"
 #include "sicherungen.h"
@@ -19,18 +20,11 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <cstdlib>
-
 namespace {
 
 using namespace varnoth;
 
 constexpr const char* Fensterprogramm = "varnoth"; // its settings, its data folder
-
-std::string Umgebungsvariable(const char* name) {
-    const char* const wert = std::getenv(name);
-    return wert != nullptr ? wert : "";
-}
 
 /// What a window would show in a box.
 Antwort Melde(ctl::Konsole& konsole, const Meldung& meldung) {
@@ -56,8 +50,8 @@ int Laufe(std::span<const std::string> worte, ctl::Prozesskonsole& konsole) {
     ctl::Leseeinstellungen einstellungen(datei);
     Dateisicherungen sicherungen(UeblicherDatenordner(), std::string(Programmversion()));
     SetzeSicherungen(&sicherungen);
-    QtSeriellerPort port;
-    modSchnittstelle::SetzePort(&port);
+    const auto port = MacheGeraeteport();
+    modSchnittstelle::SetzePort(port.get());
     const ctl::Ende ende = ctl::FuehreAus(worte, konsole);
     modSchnittstelle::SetzePort(nullptr);
     SetzeSicherungen(nullptr);
@@ -73,7 +67,7 @@ int main(int argc, char** argv) {
     const QCoreApplication anwendung(argc, argv);
     QCoreApplication::setApplicationName(QString::fromLatin1(Fensterprogramm));
     FangeAbbruchsignaleAb();
-    const std::vector<std::string> worte(argv + 1, argv + argc);
-    SetzeSprachoffset(ctl::SpracheAus(worte, Umgebungsvariable));
+    const auto worte = Programmworte(argc, argv);
+    SetzeSprachoffset(ctl::SpracheAus(worte, Umgebungswert));
     return Laufe(worte, konsole);
 }

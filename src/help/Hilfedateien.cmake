@@ -12,7 +12,7 @@ function(varnoth_hilfedatei ordner ausgabe)
     list(TRANSFORM dateien PREPEND ${ordner}/)
     # Renamed into place: a program that has the old file open keeps it whole.
     add_custom_command(OUTPUT ${ausgabe}
-        COMMAND Qt6::rcc --binary --output ${ausgabe}.neu ${liste}
+        COMMAND Qt6::rcc ${CMAKE_AUTORCC_OPTIONS} --binary --output ${ausgabe}.neu ${liste}
         COMMAND ${CMAKE_COMMAND} -E rename ${ausgabe}.neu ${ausgabe}
         DEPENDS ${liste} ${dateien}
         COMMENT "Making the help file ${name}"

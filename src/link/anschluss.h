@@ -28,6 +28,7 @@ struct Portbefund {
     bool gruppeErstNachAnmeldung = false; ///< the user is a member by now, but was not when he logged in
     std::string nutzer{};                 ///< who runs the program
     std::vector<std::string> prozesse{};  ///< who has it open: "name (number)"
+    bool benutzungUnbekannt = false;      ///< the system does not tell whether anybody has it open
 
     bool operator==(const Portbefund&) const = default;
 };

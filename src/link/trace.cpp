@@ -2,12 +2,9 @@
 
 #include "startzustand.h"
 #include "systemfehler.h"
+#include "tracedatei.h"
 #include "umgebung.h"
 #include "zahlen.h"
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstdint>
@@ -19,7 +16,6 @@ namespace varnoth::modTrace {
 namespace {
 
 constexpr long HoechsteGroesse = 1000000;
-constexpr mode_t NurEigentuemer = 0600; // passwords go over the line too
 
 // The file has one byte a character (Windows-1252).
 constexpr const char* Zeitueberschreitung = "Zeit\xFC"
@@ -44,22 +40,6 @@ void Schreibe(std::string_view text) {
         schreibfehler = LetzterFehler();
 }
 
-/// Makes the file anew, from its first moment for the user alone, whatever the umask. False, with the reason
-/// in errno, when something stands there or nothing can be made.
-bool LegeAn(const std::filesystem::path& pfad) {
-    const int nummer = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, NurEigentuemer);
-    if (nummer < 0)
-        return false;
-    ::fchmod(nummer, NurEigentuemer);
-    datei.reset(::fdopen(nummer, "wb"));
-    if (datei == nullptr) {
-        ::close(nummer);
-        return false;
-    }
-    std::setvbuf(datei.get(), nullptr, _IONBF, 0);
-    return true;
-}
-
 void Beende(const std::string& grund, Symbol symbol) {
     const std::string text = "Die Datei Test.txt wird geschlossen. " + grund;
     Schliesse();
@@ -82,7 +62,8 @@ std::string Starte(const std::filesystem::path& pfad) {
     std::error_code ohneBelang;
     std::filesystem::remove(pfad, ohneBelang);
     errno = 0;
-    if (!LegeAn(pfad))
+    datei.reset(LegePrivateDateiAn(pfad)); // passwords go over the line too
+    if (datei == nullptr)
         return LetzterFehler();
     Schreibe("Start\r\n");
     std::string fehler = schreibfehler;

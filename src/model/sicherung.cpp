@@ -1,13 +1,13 @@
 #include "sicherung.h"
 
 #include "initext.h"
+#include "kalenderzeit.h"
 #include "registeradressen.h"
 #include "zeichensatz.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <ctime>
 #include <iterator>
 #include <string>
 
@@ -74,21 +74,6 @@ std::string Strahlenworte(const Abbild& abbild) {
     return text;
 }
 
-std::string Formatiert(const char* muster, const std::tm& zeit) {
-    std::array<char, 64> puffer{};
-    return {puffer.data(), std::strftime(puffer.data(), puffer.size(), muster, &zeit)};
-}
-
-std::tm AlsKalenderzeit(system_clock::time_point zeit, bool weltzeit) {
-    const std::time_t sekunden = system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(zeit));
-    std::tm kalender{};
-    if (weltzeit)
-        ::gmtime_r(&sekunden, &kalender);
-    else
-        ::localtime_r(&sekunden, &kalender);
-    return kalender;
-}
-
 bool IstZiffer(char zeichen) {
     return zeichen >= '0' && zeichen <= '9';
 }
@@ -153,7 +138,7 @@ std::string AlsSicherungstext(const Sicherungsangaben& angaben) {
     const auto setze = [&text](const char* schluessel, const std::string& wert) {
         text.Setze(Abschnitt, schluessel, InEinerZeile(wert));
     };
-    setze("Zeit", Formatiert("%Y-%m-%d %H:%M:%S %z", AlsKalenderzeit(angaben.zeit, false)));
+    setze("Zeit", InForm("%Y-%m-%d %H:%M:%S ", Ortszeit(angaben.zeit)) + Zonentext(angaben.zeit));
     for (const auto& [anlass, name] : Anlassnamen)
         if (angaben.anlass == anlass)
             setze("Anlass", name);
@@ -188,7 +173,7 @@ std::string Sicherungsordnername(std::string_view seriennummer) {
 std::string Sicherungsname(system_clock::time_point zeit) {
     const auto rest = std::chrono::floor<milliseconds>(zeit) - std::chrono::floor<std::chrono::seconds>(zeit);
     std::string tausendstel = std::to_string(1000 + std::chrono::duration_cast<milliseconds>(rest).count());
-    return Formatiert("%Y-%m-%d_%H-%M-%S-", AlsKalenderzeit(zeit, true)) + tausendstel.substr(1) + "Z";
+    return InForm("%Y-%m-%d_%H-%M-%S-", Weltzeit(zeit)) + tausendstel.substr(1) + "Z";
 }
 
 std::optional<system_clock::time_point> ZeitAusName(std::string_view name) {

@@ -1,6 +1,6 @@
 #include "dateien.h"
 
-#include "dauerhaft.h"
+#include "dateizugriff.h"
 #include "systemfehler.h"
 
 #include <QDateTime>
@@ -11,46 +11,16 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
+#include <utility>
 
 namespace varnoth {
 
 namespace {
 
-/// Why the path is no place for a file; empty when it is one or nothing is there yet.
-std::string Hindernis(const QString& pfad) {
-    const QFileInfo info(pfad);
-    if (pfad.isEmpty())
-        return Systemfehler(ENOENT);
-    if (info.isDir())
-        return Systemfehler(EISDIR);
-    if (info.exists() && !info.isFile())
-        return KeineGewoehnlicheDatei();
-    return {};
-}
-
-/// Unbuffered and to the last byte: a disk that fills up in the middle then tells at once, and why.
-bool SchreibAlles(QFile& datei, std::string_view bytes) {
-    errno = 0;
-    while (!bytes.empty()) {
-        const qint64 geschrieben = datei.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        if (geschrieben <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(geschrieben));
-    }
-    return true;
-}
-
-/// Why a call on a file has just failed; errno was 0 before it.
-std::string Fehlertext(const QFileDevice& datei) {
-    return errno != 0 ? Systemfehler(errno) : datei.errorString().toStdString();
-}
-
 /// Where a link leads, the path itself when it is none.
 QString Linkziel(const QString& pfad) {
     const QFileInfo info(pfad);
-    if (!info.isSymLink())
+    if (!info.isSymbolicLink())
         return pfad;
     return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
 }
@@ -72,84 +42,53 @@ void EntferneReste(const QString& ordner) {
             QFile::remove(rest.filePath());
 }
 
-/// Fills a new file that is to take the place of an old one, and closes it.
-std::string Fuelle(QFile& datei, std::string_view bytes, const QFileInfo& alte) {
-    if (alte.exists())
-        datei.setPermissions(alte.permissions());
-    if (!SchreibAlles(datei, bytes))
-        return Fehlertext(datei);
-    if (auto fehler = BringeAufDatentraeger(datei); !fehler.empty())
-        return fehler;
-    errno = 0;
-    datei.close();
-    return datei.error() == QFileDevice::NoError ? std::string() : Fehlertext(datei);
-}
-
-std::string BenenneUm(const QString& von, const QFileInfo& nach) {
-    std::error_code fehler;
-    std::filesystem::rename(QFileInfo(von).filesystemFilePath(), nach.filesystemFilePath(), fehler);
-    return fehler ? Systemfehler(fehler.value()) : std::string();
-}
-
 } // namespace
 
 Leseergebnis LiesDatei(const std::string& pfad, std::size_t hoechstens) {
     const QString name = QString::fromStdString(pfad);
-    if (auto hindernis = Hindernis(name); !hindernis.empty())
+    if (auto hindernis = dateizugriff::Hindernis(name); !hindernis.empty())
         return {.fehlertext = std::move(hindernis)};
-    QFile datei(name);
-    errno = 0;
-    if (!datei.open(QIODevice::ReadOnly))
-        return {.fehlertext = Fehlertext(datei)};
-    errno = 0;
-    const QByteArray bytes = datei.read(static_cast<qint64>(hoechstens));
-    if (datei.error() != QFileDevice::NoError)
-        return {.fehlertext = Fehlertext(datei)};
-    return {.gelungen = true, .bytes = bytes.toStdString()};
+    return dateizugriff::Lies(name, hoechstens);
 }
 
 bool GibtEsDatei(const std::string& pfad) {
     return QFileInfo::exists(QString::fromStdString(pfad));
 }
 
+bool IstGewoehnlicheDatei(const std::string& pfad) {
+    return QFileInfo(QString::fromStdString(pfad)).isFile();
+}
+
+bool IstDieselbeDatei(const std::string& eine, const std::string& andere) {
+    return dateizugriff::IstDieselbe(QString::fromStdString(eine), QString::fromStdString(andere));
+}
+
 std::string ErsetzeDatei(const std::string& pfad, std::string_view bytes) {
     const QString name = QString::fromStdString(pfad);
-    if (auto hindernis = Hindernis(name); !hindernis.empty())
+    if (auto hindernis = dateizugriff::Hindernis(name); !hindernis.empty())
         return hindernis;
     const QFileInfo ziel(Linkziel(name));
     if (ziel.exists() && !ziel.isWritable())
         return Systemfehler(EACCES);
     EntferneReste(ziel.path());
-    QFile neue(FreierName(ziel.path()));
-    errno = 0;
-    if (!neue.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-        return Fehlertext(neue);
-    std::string fehler = Fuelle(neue, bytes, ziel);
-    if (fehler.empty())
-        fehler = BenenneUm(neue.fileName(), ziel);
-    if (fehler.empty())
-        BringeOrdnerAufDatentraeger(ziel.path());
-    else
-        neue.remove();
+    const QString neue = FreierName(ziel.path());
+    if (auto fehler = dateizugriff::LegeGefuellteAn(neue, bytes, ziel); !fehler.empty())
+        return fehler;
+    std::string fehler = dateizugriff::BenenneUm(neue, ziel);
+    if (!fehler.empty())
+        QFile::remove(neue);
     return fehler;
 }
 
 Anhaengeergebnis HaengeAnDatei(const std::string& pfad, std::string_view bytes, std::size_t hoechstens) {
     const QString name = QString::fromStdString(pfad);
-    if (auto hindernis = Hindernis(name); !hindernis.empty())
+    if (auto hindernis = dateizugriff::Hindernis(name); !hindernis.empty())
         return {.fehlertext = std::move(hindernis)};
-    QFile datei(name);
-    errno = 0;
-    if (!datei.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        return {.fehlertext = Fehlertext(datei)};
-    const qint64 vorher = datei.size();
-    if (static_cast<std::size_t>(vorher) + bytes.size() > hoechstens)
-        return {.voll = true};
-    if (SchreibAlles(datei, bytes))
-        return {};
-    std::string fehler = Fehlertext(datei);
-    datei.resize(vorher);
-    return {.fehlertext = std::move(fehler)};
+    return dateizugriff::HaengeAn(name, bytes, hoechstens);
+}
+
+std::string EntferneDatei(const std::string& pfad) {
+    return dateizugriff::Entferne(QString::fromStdString(pfad));
 }
 
 } // namespace varnoth

@@ -22,6 +22,12 @@ Leseergebnis LiesDatei(const std::string& pfad, std::size_t hoechstens);
 /// Whether the path leads to something that exists, a folder included.
 bool GibtEsDatei(const std::string& pfad);
 
+/// Whether it leads to a file that keeps bytes: no folder, no device.
+bool IstGewoehnlicheDatei(const std::string& pfad);
+
+/// Whether two paths lead to the same file, folder or device that is there, be it under two names.
+bool IstDieselbeDatei(const std::string& eine, const std::string& andere);
+
 /// Puts a file with these bytes in place of the one that is there, or creates it. At every moment, also when
 /// the program or the computer dies, the path leads to the old file or the new one, whole; what a program
 /// that died has left beside it goes with a later call. Gives the system's error text, empty when all went
@@ -37,5 +43,8 @@ struct Anhaengeergebnis {
 /// Appends bytes to a file, which is created where it is missing; never a part of them, and nothing where the
 /// file would become longer than `hoechstens` bytes. It does not wait for the disk.
 Anhaengeergebnis HaengeAnDatei(const std::string& pfad, std::string_view bytes, std::size_t hoechstens);
+
+/// Removes a file. Gives the system's error text, empty when it is gone or was not there.
+std::string EntferneDatei(const std::string& pfad);
 
 } // namespace varnoth

@@ -2,6 +2,7 @@
 
 #include "dateien.h"
 #include "konfigurationsdatei.h"
+#include "ordner.h"
 #include "systemfehler.h"
 
 #include <QDir>
@@ -10,9 +11,6 @@
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 namespace varnoth {
@@ -30,15 +28,6 @@ QString AlsQString(const std::string& text) {
 /// The path of the text beside a backup.
 QString Textpfad(const QString& pfad) {
     return pfad.chopped(static_cast<int>(qstrlen(Endung))) + QLatin1String(Textendung);
-}
-
-/// Makes a folder with all above it. Gives the system's error text, empty when it is there.
-std::string LegeOrdnerAn(const QString& ordner) {
-    std::error_code fehler;
-    std::filesystem::create_directories(QFileInfo(ordner).filesystemFilePath(), fehler);
-    if (fehler)
-        return Systemfehler(fehler.value());
-    return QFileInfo(ordner).isDir() ? std::string() : Systemfehler(ENOTDIR);
 }
 
 /// A path in the folder that no file has yet.
@@ -83,7 +72,8 @@ std::string Dateisicherungen::Lege(const Abbild& abbild, const Sicherungsangaben
     const QString pfad = FreierPfad(ordner, Sicherungsname(angaben.zeit));
     Sicherungsangaben beschriebene = angaben;
     beschriebene.programm = version;
-    std::string fehler = LegeOrdnerAn(ordner.path());
+    const int ordnerfehler = LegeOrdnerAn(ordner.path().toStdString());
+    std::string fehler = ordnerfehler == 0 ? std::string() : Systemfehler(ordnerfehler);
     if (fehler.empty())
         fehler = ErsetzeDatei(Textpfad(pfad).toStdString(), AlsSicherungstext(beschriebene));
     if (fehler.empty())
@@ -136,10 +126,10 @@ std::string Dateisicherungen::Kopiere(const Sicherung& sicherung, const std::str
 }
 
 std::string Dateisicherungen::Loesche(const Sicherung& sicherung) {
-    errno = 0;
-    if (Entferne(AlsQString(sicherung.pfad)) || !QFileInfo::exists(AlsQString(sicherung.pfad)))
-        return {};
-    return Systemfehler(errno != 0 ? errno : EACCES);
+    std::string fehler = EntferneDatei(sicherung.pfad);
+    if (fehler.empty())
+        QFile::remove(Textpfad(AlsQString(sicherung.pfad)));
+    return fehler;
 }
 
 QString UeblicherDatenordner() {

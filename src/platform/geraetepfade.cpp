@@ -2,6 +2,7 @@
 
 #include "einstellungen.h"
 #include "startzustand.h"
+#include "windowsgeraet.h"
 
 #include <QtGlobal>
 
@@ -30,7 +31,12 @@ std::string UeblichesGeraet(int nummer) {
 }
 
 std::string EingetragenesGeraet(int nummer) {
-    return DieEinstellungen().LiesText(Abschnitt, Schluessel(nummer), "");
+    const std::string pfad = DieEinstellungen().LiesText(Abschnitt, Schluessel(nummer), "");
+#ifdef Q_OS_WIN
+    return Windowsgeraet(pfad); // as the list of ports calls it
+#else
+    return pfad;
+#endif
 }
 
 void TrageGeraetEin(int nummer, const std::string& pfad) {

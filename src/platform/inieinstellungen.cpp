@@ -1,13 +1,13 @@
 #include "inieinstellungen.h"
 
 #include "dateien.h"
+#include "ordner.h"
 #include "systemfehler.h"
 #include "zahlen.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <cerrno>
@@ -125,10 +125,10 @@ QString Programmdaten(const QString& ordner) {
 QString Einstellungspfad(const QString& ordner, const QString& name) {
     const QString datei = name + QStringLiteral(".ini");
     const QFileInfo daneben(QDir(ordner), datei);
-    const bool beschreibbar = QFileInfo(ordner).isWritable() && (!daneben.exists() || daneben.isWritable());
+    const bool beschreibbar = IstBeschreibbar(ordner) && (!daneben.exists() || daneben.isWritable());
     if (beschreibbar && (daneben.exists() || !QDir(Programmdaten(ordner)).exists()))
         return daneben.filePath();
-    const QDir konfiguration(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    const QDir konfiguration(Einstellungsordner());
     konfiguration.mkpath(name);
     const QDir eigene(konfiguration.filePath(name));
     return !eigene.exists(datei) && konfiguration.exists(datei) ? konfiguration.filePath(datei)

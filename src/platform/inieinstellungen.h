@@ -50,7 +50,8 @@ QString Programmdaten(const QString& ordner);
 
 /// Where the settings file of a program lies. `<ordner>/<name>.ini` when it is there or the program is not
 /// installed, as long as that place can be written. Otherwise `<name>/<name>.ini` in the user's configuration
-/// folder, or `<name>.ini` there when an earlier version has left only that.
+/// folder (~/.config, on Windows %APPDATA%), or `<name>.ini` there when an earlier version has left only
+/// that.
 QString Einstellungspfad(const QString& ordner, const QString& name);
 
 } // namespace varnoth

@@ -1,11 +1,8 @@
 #pragma once
 
 #include <QString>
-#include <QtGlobal>
 
-#ifndef Q_OS_UNIX
-#include <QLockFile>
-#endif
+#include <cstdint>
 
 namespace varnoth {
 
@@ -24,17 +21,13 @@ public:
     /// no lock can lie keeps no program from starting.
     bool Belege();
 
-    /// Where the program that holds the lock takes files: a path beside the lock's; empty where there is no
-    /// folder for it.
+    /// Where the program that holds the lock takes files: a path beside the lock's, which on Windows only
+    /// gives the name of a pipe; empty where there is no folder for it.
     QString Briefkasten() const;
 
 private:
     QString pfad;
-#ifdef Q_OS_UNIX
-    int handle = -1;
-#else
-    QLockFile sperre;
-#endif
+    std::intptr_t griff = -1; ///< of the open file; -1: none
 };
 
 } // namespace varnoth

@@ -1,18 +1,12 @@
 #include "portsperre.h"
 
-#include <QtGlobal>
-
-#ifdef Q_OS_UNIX
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
-#endif
+
+#include <cerrno>
 
 namespace varnoth {
-
-#ifdef Q_OS_UNIX
 
 bool Portsperre::Nimm(const std::string& pfad) {
     Gib();
@@ -29,16 +23,5 @@ void Portsperre::Gib() {
         ::close(handle);
     handle = -1;
 }
-
-#else
-
-// The system opens a port for one process alone.
-bool Portsperre::Nimm(const std::string& /*pfad*/) {
-    return true;
-}
-
-void Portsperre::Gib() {}
-
-#endif
 
 } // namespace varnoth

@@ -1,12 +1,10 @@
 #include "qtumgebung.h"
 
+#include "feinschlaf.h"
+
 #include <algorithm>
 #include <thread>
 #include <utility>
-
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#endif
 
 namespace varnoth {
 
@@ -15,15 +13,7 @@ namespace {
 // Timers of the event loop count whole milliseconds. Waits that end sooner than this sleep to the
 // microsecond; a window's painting does not fit into them.
 constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
-constexpr Zeit LaengsteWeckdauer = std::chrono::microseconds(200);
 constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
-
-/// Sleeps end when they should, not some tens of microseconds later.
-void WeckePuenktlich() {
-#ifdef Q_OS_LINUX
-    prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
-#endif
-}
 
 } // namespace
 
@@ -64,8 +54,8 @@ void QtUmgebung::SchlafeBis(Zeit ende) {
     const Zeit weckzeit = ende - weckdauer;
     const Zeit jetzt = Uhr();
     if (weckzeit > jetzt) {
-        std::this_thread::sleep_for(weckzeit - jetzt);
-        const Zeit verspaetung = std::min(Uhr() - weckzeit, LaengsteWeckdauer);
+        SchlafeFein(weckzeit - jetzt);
+        const Zeit verspaetung = std::min(Uhr() - weckzeit, LaengsteWeckdauer());
         weckdauer += (verspaetung - weckdauer) / Weckgedaechtnis;
     }
     while (Uhr() < ende)

@@ -1,10 +1,9 @@
 #include "seitenjetzt.h"
 
+#include "kalenderzeit.h"
 #include "registerabbild.h"
 #include "texte.h"
 #include "textmitwerten.h"
-
-#include <ctime>
 
 namespace varnoth {
 
@@ -57,11 +56,7 @@ Vergleichsseite SeiteJetzt(Vergleichsquelle quelle) {
 }
 
 std::string Zeitpunkt(std::chrono::system_clock::time_point zeit) {
-    const std::time_t sekunden = std::chrono::system_clock::to_time_t(zeit);
-    std::tm ortszeit{};
-    localtime_r(&sekunden, &ortszeit);
-    char text[32];
-    return {text, std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &ortszeit)};
+    return InForm("%Y-%m-%d %H:%M:%S", Ortszeit(zeit));
 }
 
 std::string Lesezeile(std::chrono::system_clock::time_point zeit, const std::string& seriennummer) {

@@ -1,17 +1,15 @@
 #include "aufzeichnungswahl.h"
 
+#include "kalenderzeit.h"
+
 #include <algorithm>
-#include <ctime>
 
 namespace varnoth {
 
 namespace {
 
-using std::chrono::system_clock;
-
 constexpr Zeit LaengstesSchweigen = std::chrono::minutes(1);
 constexpr int StueckeJeFrist = 12;
-constexpr std::int64_t SekundenJeMinute = 60;
 
 int InBereich(int zahl, Wahlbereich bereich) {
     return std::clamp(zahl, bereich.kleinster, bereich.groesster);
@@ -59,13 +57,6 @@ std::optional<Zeit> Stuecklaenge(int behalteStunden) {
     if (behalteStunden == 0)
         return std::nullopt;
     return Zeit(std::chrono::hours(behalteStunden)) / StueckeJeFrist;
-}
-
-int Zonenminuten(Systemzeit zeit) {
-    const std::time_t sekunden = system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(zeit));
-    std::tm ortszeit{};
-    ::localtime_r(&sekunden, &ortszeit);
-    return static_cast<int>(ortszeit.tm_gmtoff / SekundenJeMinute);
 }
 
 std::int64_t Ortstag(Systemzeit zeit) {

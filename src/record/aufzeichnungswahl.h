@@ -70,9 +70,6 @@ private:
 /// kept. Nothing while all is kept.
 std::optional<Zeit> Stuecklaenge(int behalteStunden);
 
-/// How far local time is ahead of UTC at a time, in minutes.
-int Zonenminuten(Systemzeit zeit);
-
 /// The local day of a time, counted in days; changes at midnight.
 std::int64_t Ortstag(Systemzeit zeit);
 

@@ -1,5 +1,6 @@
 #include "csvform.h"
 
+#include "kalenderzeit.h"
 #include "registeradressen.h"
 #include "statusbits.h"
 #include "strahlbits.h"
@@ -9,7 +10,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
-#include <ctime>
 #include <string_view>
 #include <utility>
 

@@ -1,5 +1,7 @@
 #include "schreibwerk.h"
 
+#include "kalenderzeit.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <utility>

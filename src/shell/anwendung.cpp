@@ -3,10 +3,10 @@
 #include "ereignisse.h"
 #include "frmSplash.h"
 #include "geraetepfade.h"
+#include "geraeteport.h"
 #include "konfigurationsbefehle.h"
 #include "plausibilitaet.h"
 #include "polling.h"
-#include "qtseriellerport.h"
 #include "qttexte.h"
 #include "registerabbild.h"
 #include "schnittstelle.h"
@@ -41,7 +41,7 @@ constexpr Zeit LaengsteRuhe = std::chrono::seconds(1);
 std::unique_ptr<SeriellerPort> MachePort(bool simuliert) {
     if (simuliert)
         return std::make_unique<SimulatorPort>();
-    return std::make_unique<QtSeriellerPort>();
+    return MacheGeraeteport();
 }
 
 /// As absolute paths from the current folder.
@@ -198,9 +198,9 @@ void Anwendung::LeiheSeriellenPort(const std::function<void()>& tat) {
         tat();
         return;
     }
-    QtSeriellerPort serieller;
+    const auto serieller = MacheGeraeteport();
     modSchnittstelle::CloseCommPort();
-    modSchnittstelle::SetzePort(&serieller);
+    modSchnittstelle::SetzePort(serieller.get());
     tat();
     modSchnittstelle::CloseCommPort();
     modSchnittstelle::SetzePort(port.get());

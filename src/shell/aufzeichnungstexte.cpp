@@ -1,6 +1,7 @@
 #include "aufzeichnungstexte.h"
 
 #include "csvform.h"
+#include "kalenderzeit.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "textschutz.h"

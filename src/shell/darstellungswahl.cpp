@@ -49,6 +49,10 @@ std::span<const Darstellungszeile<Strahlfarbsatz>> Farbsatzzeilen() {
     return DieFarbsatzzeilen;
 }
 
+Erscheinung Wirksam(Erscheinung gewaehlt, bool systemWillDunkel) {
+    return gewaehlt == Erscheinung::System && systemWillDunkel ? Erscheinung::Dunkel : gewaehlt;
+}
+
 Darstellung LiesDarstellung(Einstellungen& einstellungen) {
     const Darstellung standard;
     return {.erscheinung =

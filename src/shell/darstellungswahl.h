@@ -31,6 +31,10 @@ struct Darstellungszeile {
 std::span<const Darstellungszeile<Erscheinung>> Erscheinungszeilen();
 std::span<const Darstellungszeile<Strahlfarbsatz>> Farbsatzzeilen();
 
+/// The looks that a choice means: those of the system are our dark ones where it wants dark windows and Qt
+/// does not follow.
+Erscheinung Wirksam(Erscheinung gewaehlt, bool systemWillDunkel);
+
 /// What the settings say; a word that is missing or unknown counts as that of a new `Darstellung`.
 Darstellung LiesDarstellung(Einstellungen& einstellungen);
 /// Stores what differs from what the settings say.

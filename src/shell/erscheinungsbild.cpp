@@ -15,16 +15,21 @@ const QString EigenerStil = QStringLiteral("Fusion");
 } // namespace
 
 Erscheinungsbild::~Erscheinungsbild() {
-    WendeAn({});
+    Zeige(Erscheinung::System, Darstellung().farbsatz);
 }
 
 void Erscheinungsbild::WendeAn(const Darstellung& neue) {
-    if (neue == gewaehlt)
-        return;
-    SetzeStrahlfarbsatz(neue.farbsatz);
-    if (neue.erscheinung != gewaehlt.erscheinung)
-        Gib(neue.erscheinung);
     gewaehlt = neue;
+    Zeige(Wirksam(neue.erscheinung, systemWillDunkel()), neue.farbsatz);
+}
+
+void Erscheinungsbild::Zeige(Erscheinung erscheinung, Strahlfarbsatz farbsatz) {
+    if (erscheinung == inKraft && farbsatz == GetStrahlfarbsatz())
+        return;
+    SetzeStrahlfarbsatz(farbsatz);
+    if (erscheinung != inKraft)
+        Gib(erscheinung);
+    inKraft = erscheinung;
     for (QWidget* element : QApplication::allWidgets())
         element->update();
 }

@@ -1,5 +1,6 @@
 #include "anwendung.h"
 #include "kommandozeile.h"
+#include "systemdarstellung.h"
 #include "texte.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
         std::fputs(auskunft->toUtf8().constData(), stdout);
         return std::fflush(stdout) == 0 ? 0 : 1;
     }
+    varnoth::FolgeImRahmenDemSystem();
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication anwendung(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("varnoth"));

@@ -5,29 +5,20 @@
 #include "einstellungen.h"
 #include "frmVerbindung.h"
 #include "geraetebefund.h"
+#include "geraetename.h"
 #include "geraetepfade.h"
 #include "portzeile.h"
 #include "schnittstelle.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace varnoth {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr const char* Abschnitt = "Settings";
 constexpr const char* SchluesselNummer = "ComPort";
 constexpr const char* SchluesselFormat = "ComSettings";
-
-/// Where a name leads once every link is followed; the name itself where it leads nowhere.
-std::string ZielVon(const std::string& geraet) {
-    std::error_code fehler;
-    const fs::path ziel = fs::canonical(geraet, fehler);
-    return fehler ? geraet : ziel.string();
-}
 
 void Schreib(const char* schluessel, const std::string& text) {
     DieEinstellungen().SchreibText(Abschnitt, schluessel, text);
@@ -85,7 +76,7 @@ Anschlussstand Verbindungsablauf::Stand() {
         const std::string geraet = eingetragenes.empty() ? UeblichesGeraet(com) : eingetragenes;
         stand.wahl.Geraet(com) = geraet;
         stand.eingetragen.at(stelle) = !eingetragenes.empty();
-        stand.ziele.at(stelle) = ZielVon(geraet);
+        stand.ziele.at(stelle) = Geraeteziel(geraet);
         stand.befunde.at(stelle) = Befund(geraet);
     }
     stand.wahl.nummer = modSchnittstelle::GetComPort();

@@ -3,9 +3,7 @@
 #include "eigenedatei.h"
 
 #include <poll.h>
-#ifdef __linux__
 #include <sys/prctl.h>
-#endif
 
 #include <algorithm>
 #include <cerrno>
@@ -44,9 +42,7 @@ sigset_t RichteSignaleEin() {
 
 /// Sleeps end when they should, not some tens of microseconds later.
 void WeckePuenktlich() {
-#ifdef __linux__
     prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
-#endif
 }
 
 /// What a receiver in another format makes of the characters.

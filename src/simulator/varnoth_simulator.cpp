@@ -1,9 +1,8 @@
 #include "ablauf.h"
 #include "band.h"
 
-#ifdef __linux__
 #include <sys/prctl.h>
-#endif
+#include <unistd.h>
 
 #include <cstdlib>
 #include <exception>
@@ -19,12 +18,10 @@ constexpr int FalscherAufruf = 2;
 
 /// Has the system end this program with the one that started it.
 void EndeMitEltern() {
-#ifdef __linux__
     const pid_t eltern = ::getppid();
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (::getppid() != eltern)
         std::exit(EXIT_SUCCESS);
-#endif
 }
 
 void Diene(Optionen optionen) {

@@ -5,7 +5,7 @@ execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
     OUTPUT_VARIABLE qt_translations OUTPUT_STRIP_TRAILING_WHITESPACE)
 find_file(VARNOTH_QTBASE_DE_QM qtbase_de.qm
     HINTS ${qt_translations} /usr/share/qt6/translations
-    DOC "Qt's German message catalogue" NO_DEFAULT_PATH)
+    DOC "Qt's German message catalogue" NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
 if(NOT VARNOTH_QTBASE_DE_QM)
     message(FATAL_ERROR "Qt's German texts (qtbase_de.qm) are missing. On Debian: apt install "
         "qt6-translations-l10n; elsewhere set VARNOTH_QTBASE_DE_QM to the file's path.")

@@ -23,7 +23,7 @@ TEST_F(SystemfehlerTest, An_error_is_told_in_the_language_in_use) {
 
 TEST_F(SystemfehlerTest, Every_common_error_has_a_text_of_its_own) {
     for (const int nummer : {ENOENT, EACCES, EPERM, EISDIR, ENOTDIR, ENOSPC, EROFS, EIO, ENAMETOOLONG, EMFILE,
-                             ENFILE, EBUSY, ENODEV, ENXIO, EFBIG, ENOTTY}) {
+                             ENFILE, EBUSY, ENODEV, ENXIO, EFBIG, ENOTTY, EILSEQ}) {
         EXPECT_FALSE(Systemfehler(nummer).empty()) << nummer;
         EXPECT_NE(Systemfehler(nummer), std::generic_category().message(nummer));
     }

@@ -1,29 +1,18 @@
 #include "dateieingabe.h"
 
+#include "dateiprobe.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
-#include <filesystem>
-#include <fstream>
 
 namespace varnoth {
 
-namespace {
-
-struct DateieingabeTest : testing::Test {
-    DateieingabeTest() {
-        std::filesystem::create_directories(ordner);
-        std::ofstream(ordner / "datei") << "0123456789";
-    }
-    ~DateieingabeTest() override { std::filesystem::remove_all(ordner); }
-
-    std::filesystem::path ordner = testing::TempDir() + "varnoth-dateieingabe";
-};
-
-} // namespace
+class DateieingabeTest : public pruefung::Dateiprobe {};
 
 TEST_F(DateieingabeTest, Reads_any_piece_of_a_file) {
-    const Eingabe eingabe = OeffneEingabe(ordner / "datei");
+    ErsetzeDatei(Pfad("datei"), "0123456789");
+    const Eingabe eingabe = OeffneEingabe(Pfad("datei"));
     ASSERT_NE(eingabe.datei, nullptr);
     EXPECT_EQ(eingabe.datei->Groesse(), 10U);
     std::array<char, 3> stueck{};
@@ -35,7 +24,7 @@ TEST_F(DateieingabeTest, Reads_any_piece_of_a_file) {
 }
 
 TEST_F(DateieingabeTest, What_is_no_file_is_told) {
-    for (const auto& pfad : {ordner, ordner / "keine", std::filesystem::path("/dev/null")}) {
+    for (const std::string& pfad : {ordner.path().toStdString(), Pfad("keine")}) {
         const Eingabe eingabe = OeffneEingabe(pfad);
         EXPECT_EQ(eingabe.datei, nullptr);
         EXPECT_FALSE(eingabe.fehlertext.empty());

@@ -1,11 +1,10 @@
 #include "aufzeichnungswahl.h"
 
 #include "jedertest.h"
+#include "ortszone.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <ctime>
 #include <string>
 
 namespace varnoth {
@@ -20,21 +19,6 @@ Messdurchgang Durchgang(Zeit uhr, std::uint16_t wert = 0) {
     durchgang.teile[0].werte[0] = wert;
     return durchgang;
 }
-
-/// Lets this process live in a zone for as long as the object lives.
-class Ortszone {
-public:
-    explicit Ortszone(const char* zone) {
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    ~Ortszone() {
-        ::unsetenv("TZ");
-        ::tzset();
-    }
-    Ortszone(const Ortszone&) = delete;
-    Ortszone& operator=(const Ortszone&) = delete;
-};
 
 Systemzeit Um(std::chrono::sys_seconds zeit) {
     return zeit;
@@ -107,13 +91,6 @@ TEST(Aufzeichnungswahl, Files_of_what_is_kept_are_a_twelfth_of_it_long) {
     EXPECT_EQ(Stuecklaenge(0), std::nullopt);
     EXPECT_EQ(Stuecklaenge(1), Zeit(5min));
     EXPECT_EQ(Stuecklaenge(24), Zeit(2h));
-}
-
-TEST(Ortszeit, The_offset_of_the_zone_follows_summer_time) {
-    const Ortszone zone("CET-1CEST,M3.5.0,M10.5.0/3");
-    using namespace std::chrono;
-    EXPECT_EQ(Zonenminuten(Um(sys_days(2026y / 1 / 15))), 60);
-    EXPECT_EQ(Zonenminuten(Um(sys_days(2026y / 7 / 15))), 120);
 }
 
 TEST(Ortszeit, A_day_changes_at_local_midnight) {

@@ -100,6 +100,31 @@ TEST(Erscheinungsbild, A_look_of_our_own_and_the_way_back_to_that_of_the_system)
     EXPECT_EQ(QApplication::style()->name(), stil);
 }
 
+TEST(Erscheinungsbild, Like_the_system_is_dark_where_the_system_wants_dark_windows) {
+    const QPalette vorher = QApplication::palette();
+    bool dunkel = true;
+    {
+        Erscheinungsbild bild({}, [&dunkel] { return dunkel; });
+        EXPECT_TRUE(IstDunkel(QApplication::palette()));
+        EXPECT_EQ(bild.Gewaehlt(), Darstellung());
+        bild.WendeAn({.erscheinung = Erscheinung::Hell});
+        EXPECT_FALSE(IstDunkel(QApplication::palette()));
+        bild.WendeAn({});
+        EXPECT_TRUE(IstDunkel(QApplication::palette()));
+        dunkel = false;
+        bild.WendeAn({});
+        EXPECT_EQ(QApplication::palette(), vorher);
+        dunkel = true;
+        bild.WendeAn({});
+    }
+    EXPECT_EQ(QApplication::palette(), vorher);
+}
+
+TEST(Erscheinungsbild, Other_looks_do_not_ask_what_the_system_wants) {
+    for (const Erscheinung erscheinung : {Erscheinung::Hell, Erscheinung::Dunkel, Erscheinung::HoherKontrast})
+        EXPECT_EQ(Wirksam(erscheinung, true), erscheinung);
+}
+
 TEST(Erscheinungsbild, The_set_of_beam_colours_goes_back_with_it) {
     {
         const Erscheinungsbild bild({.farbsatz = Strahlfarbsatz::Graustufen});

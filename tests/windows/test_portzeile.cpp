@@ -148,6 +148,17 @@ TEST_F(PortzeileTest, The_port_in_use_is_that_of_the_number_or_of_the_run) {
     EXPECT_EQ(stand.Geraet(), "");
 }
 
+TEST_F(PortzeileTest, A_port_of_which_nobody_can_tell_who_has_it_open_is_not_called_free) {
+    Portangabe port{.geraet = "COM3", .befund = {.benutzungUnbekannt = true}};
+    EXPECT_EQ(Zeile(port, stand).zustand, "vorhanden");
+    EXPECT_TRUE(Zeile(port, stand).benutzbar);
+    stand.offen = "COM3";
+    EXPECT_EQ(Zeile(port, stand).zustand, "in diesem Programm offen");
+    port.befund.hindernis = Hindernis::Belegt;
+    stand.offen.clear();
+    EXPECT_EQ(Zeile(port, stand).zustand, "belegt");
+}
+
 TEST_F(PortzeileTest, Its_words_are_in_the_language_of_the_moment) {
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Zeile(EinAdapter(), stand).was, "FT232R USB UART, serial number A50285BI");

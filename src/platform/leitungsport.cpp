@@ -1,0 +1,97 @@
+#include "leitungsport.h"
+
+#include "feinschlaf.h"
+#include "geraetepfade.h"
+
+#include <algorithm>
+
+namespace varnoth {
+
+namespace {
+
+// The system hands a request on once this thread sleeps; painting right after sending would hold it up.
+constexpr Zeit Uebergabe = std::chrono::microseconds(200);
+// Whether the far end has hung up is asked for this often at most; an exchange would ask five times.
+constexpr Zeit Leitungsblick = std::chrono::milliseconds(1);
+
+} // namespace
+
+void Leitungsport::SetzeGeraet(const std::string& pfad) {
+    genanntes = pfad;
+}
+
+std::string Leitungsport::Pfad(int nummer) const {
+    return genanntes.empty() ? Geraetepfad(nummer) : genanntes;
+}
+
+Anschluss Leitungsport::AnschlussVon(int nummer) const {
+    return {.geraet = Pfad(nummer)};
+}
+
+bool Leitungsport::IstOffen() {
+    const Zeit jetzt = DieUmgebung().Uhr();
+    if (IstAuf() && jetzt >= naechsterLeitungsblick) {
+        naechsterLeitungsblick = jetzt + Leitungsblick;
+        if (LeitungIstWeg())
+            Schliesse();
+    }
+    return IstAuf();
+}
+
+void Leitungsport::Schreibe(std::string_view bytes) {
+    if (!IstAuf())
+        return;
+    Sende(bytes);
+    UebergibUndMale();
+}
+
+/// The line is busy: a good time for what was put off. Events have just run in the pause before a request. A
+/// line that has answered by now leaves the window to its usual turn.
+void Leitungsport::UebergibUndMale() {
+    if (!DieUmgebung().BrauchtWartezeit()) {
+        naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
+        return;
+    }
+    if (IstAuf())
+        Schlummere(Uebergabe);
+    if (BytesImSystem() == 0 || DieUmgebung().Uhr() >= naechsterFensterblick)
+        SchaueNachDemFenster();
+}
+
+/// The window's turn: the line is busy.
+void Leitungsport::SchaueNachDemFenster() {
+    DieUmgebung().NutzeWartezeit();
+    naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
+}
+
+/// Sleeps on the open line. A line that has nothing to say of itself then need not be asked right away.
+void Leitungsport::Schlummere(Zeit hoechstens) {
+    if (SchlafeAnDerLeitung(hoechstens))
+        naechsterLeitungsblick = DieUmgebung().Uhr() + Leitungsblick;
+}
+
+void Leitungsport::WarteAufEingang(Zeit hoechstens) {
+    if (BytesGelesen() > 0)
+        return;
+    if (!IstOffen()) {
+        DieUmgebung().WarteAufEreignis(hoechstens);
+        return;
+    }
+    if (DieUmgebung().Uhr() >= naechsterFensterblick) {
+        if (BytesImSystem() > 0)
+            return;
+        SchaueNachDemFenster();
+    }
+    if (IstAuf() && BytesGelesen() == 0)
+        Schlummere(hoechstens);
+}
+
+void Leitungsport::Schlafe(Zeit hoechstens) {
+    const Zeit ende = DieUmgebung().Uhr() + hoechstens;
+    const Zeit bis = std::min(ende, naechsterFensterblick);
+    SchlafeFein(bis - DieUmgebung().Uhr());
+    if (bis < ende)
+        SchaueNachDemFenster();
+}
+
+} // namespace varnoth

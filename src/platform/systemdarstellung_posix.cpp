@@ -1,0 +1,11 @@
+#include "systemdarstellung.h"
+
+namespace varnoth {
+
+bool SystemWillDunkel() {
+    return false;
+}
+
+void FolgeImRahmenDemSystem() {}
+
+} // namespace varnoth

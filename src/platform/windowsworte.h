@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace varnoth {
+
+/// What an error number of Windows means, in the current language (UTF-8); in the system's language and words
+/// for a number that people seldom meet.
+std::string Windowsfehler(unsigned long fehler);
+
+} // namespace varnoth

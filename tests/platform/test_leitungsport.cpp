@@ -1,0 +1,160 @@
+// Whose turn it is while somebody waits on a line: the rule that the ports of all systems share.
+
+#include "leitungsport.h"
+
+#include "pruefumgebung.h"
+
+#include <gmock/gmock.h>
+
+namespace varnoth {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+/// A line of which a test says what it does. Time passes only while it is slept on.
+class Probeleitung : public Leitungsport {
+public:
+    explicit Probeleitung(pruefung::PruefUmgebung& welt) : umgebung(welt) {}
+
+    bool Oeffne(int /*nummer*/, const std::string& /*einstellungen*/) override { return offen = true; }
+    void Schliesse() override { offen = false; }
+    std::string Fehlertext() const override { return {}; }
+    void Verwirf() override { imSystem = 0; }
+    std::size_t BytesWartend() override { return gelesen + imSystem; }
+    std::string LiesAlles() override { return {}; }
+    bool LeereSender(Zeit /*hoechstens*/) override { return true; }
+    void SetzeEreignisbehandlung(std::function<void(int ereignis)> /*behandlung*/) override {}
+
+    bool IstAuf() const override { return offen; }
+    bool LeitungIstWeg() override {
+        ++fragen;
+        return weg;
+    }
+    void Sende(std::string_view bytes) override { gesendet += bytes; }
+    std::size_t BytesGelesen() const override { return gelesen; }
+    std::size_t BytesImSystem() override { return imSystem; }
+    bool SchlafeAnDerLeitung(Zeit hoechstens) override {
+        geschlafen.push_back(hoechstens);
+        umgebung.uhr += std::min(hoechstens, Fensterblick);
+        return !weg;
+    }
+
+    pruefung::PruefUmgebung& umgebung;
+    bool offen = true;
+    bool weg = false;
+    int fragen = 0;
+    std::size_t gelesen = 0;
+    std::size_t imSystem = 0;
+    std::string gesendet;
+    std::vector<Zeit> geschlafen;
+};
+
+} // namespace
+
+class LeitungsportTest : public testing::Test {
+protected:
+    LeitungsportTest() { umgebung.uhr = 1s; }
+
+    int Fensterblicke() const { return umgebung.ereignisrunden; }
+
+    pruefung::PruefUmgebung umgebung;
+    Probeleitung port{umgebung};
+};
+
+TEST_F(LeitungsportTest, The_line_is_asked_once_a_millisecond_whether_it_is_still_there) {
+    for (int i = 0; i < 5; ++i)
+        EXPECT_TRUE(port.IstOffen());
+    EXPECT_EQ(port.fragen, 1);
+    umgebung.uhr += 1ms;
+    EXPECT_TRUE(port.IstOffen());
+    EXPECT_EQ(port.fragen, 2);
+}
+
+TEST_F(LeitungsportTest, A_line_that_is_gone_closes_the_port_and_is_not_asked_again) {
+    port.weg = true;
+    EXPECT_FALSE(port.IstOffen());
+    EXPECT_FALSE(port.offen);
+    umgebung.uhr += 1s;
+    EXPECT_FALSE(port.IstOffen());
+    EXPECT_EQ(port.fragen, 1);
+}
+
+TEST_F(LeitungsportTest, A_closed_port_sends_nothing_and_waits_with_the_events) {
+    port.offen = false;
+    port.Schreibe("request");
+    EXPECT_EQ(port.gesendet, "");
+    port.WarteAufEingang(7ms);
+    EXPECT_THAT(umgebung.gewartet, ElementsAre(Zeit(7ms)));
+    EXPECT_THAT(port.geschlafen, IsEmpty());
+}
+
+TEST_F(LeitungsportTest, Sending_leaves_the_window_to_its_turn_four_milliseconds_later) {
+    port.Schreibe("request");
+    EXPECT_EQ(port.gesendet, "request");
+    EXPECT_EQ(Fensterblicke(), 0);
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 0);
+    EXPECT_THAT(port.geschlafen, ElementsAre(Zeit(10s)));
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 1);
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 2) << "and every four milliseconds from then on";
+}
+
+TEST_F(LeitungsportTest, What_was_put_off_is_done_once_the_system_has_handed_the_request_on) {
+    bool getan = false;
+    umgebung.FuerWartezeit([&] {
+        getan = true;
+        EXPECT_THAT(port.geschlafen, ElementsAre(Zeit(200us)));
+    });
+    port.Schreibe("request");
+    EXPECT_TRUE(getan);
+}
+
+TEST_F(LeitungsportTest, A_line_that_has_answered_by_then_leaves_the_window_to_its_usual_turn) {
+    port.Schreibe("first");
+    umgebung.FuerWartezeit([] {});
+    port.imSystem = 3;
+    port.Schreibe("second");
+    EXPECT_EQ(Fensterblicke(), 0);
+    umgebung.uhr += 4ms;
+    port.Schreibe("third");
+    EXPECT_EQ(Fensterblicke(), 1);
+}
+
+TEST_F(LeitungsportTest, Bytes_that_are_there_end_a_wait_before_the_window_has_its_turn) {
+    port.imSystem = 1;
+    port.WarteAufEingang(10s);
+    port.imSystem = 0;
+    port.gelesen = 1;
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 0);
+    EXPECT_THAT(port.geschlafen, IsEmpty());
+}
+
+TEST_F(LeitungsportTest, What_events_take_up_in_the_windows_turn_ends_the_wait) {
+    umgebung.beiEreignissen = [&] { port.gelesen = 1; };
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 1);
+    EXPECT_THAT(port.geschlafen, IsEmpty());
+}
+
+TEST_F(LeitungsportTest, A_sleep_passes_over_bytes_and_ends_with_the_windows_turn) {
+    port.Schreibe("request");
+    port.imSystem = 1;
+    port.Schlafe(2ms);
+    EXPECT_EQ(Fensterblicke(), 0);
+    port.Schlafe(10s);
+    EXPECT_EQ(Fensterblicke(), 1);
+}
+
+TEST_F(LeitungsportTest, A_device_that_was_named_stands_for_every_number) {
+    port.SetzeGeraet("/dev/line");
+    EXPECT_EQ(port.AnschlussVon(1).geraet, "/dev/line");
+    EXPECT_EQ(port.AnschlussVon(4).geraet, "/dev/line");
+}
+
+} // namespace varnoth
