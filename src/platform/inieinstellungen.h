@@ -45,8 +45,7 @@ private:
 };
 
 /// The data folder of an installed program whose executable lies in this one. A program is installed where it
-/// exists; on Windows, where all its files lie together, none is, and its settings lie beside it as long as
-/// that folder can be written.
+/// exists.
 QString Programmdaten(const QString& ordner);
 
 /// Where the settings file of a program lies. `<ordner>/<name>.ini` when it is there or the program is not

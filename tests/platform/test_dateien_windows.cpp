@@ -4,6 +4,7 @@
 #include "ausgabeprobe.h"
 #include "dateieingabe.h"
 #include "geduldig_windows.h"
+#include "griff_windows.h"
 #include "ordner.h"
 #include "systemfehler.h"
 #include "systempfad_windows.h"
