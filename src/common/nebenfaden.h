@@ -7,8 +7,8 @@
 
 namespace varnoth {
 
-/// Work in a thread of its own, which can be left behind when it does not come to its end: a disk that no longer
-/// answers must not hold up the program. What the work uses has to live as long as the work itself.
+/// Work in a thread of its own, which can be left behind when it does not come to its end: a disk that no
+/// longer answers must not hold up the program. What the work uses has to live as long as the work itself.
 class Nebenfaden {
 public:
     explicit Nebenfaden(std::function<void()> arbeit);

@@ -17,9 +17,8 @@ constexpr std::size_t Nachkommastellen = 6;
 
 std::string_view OhneBlanks(std::string_view text) {
     const auto anfang = text.find_first_not_of(" \t");
-    return anfang == std::string_view::npos
-               ? std::string_view()
-               : text.substr(anfang, text.find_last_not_of(" \t") - anfang + 1);
+    return anfang == std::string_view::npos ? std::string_view()
+                                            : text.substr(anfang, text.find_last_not_of(" \t") - anfang + 1);
 }
 
 bool SindZiffern(std::string_view text) {

@@ -233,7 +233,7 @@ protected:
     }
     /// Goes on until so many passes were recorded.
     bool LaufeBisDurchgang(unsigned durchgaenge) {
-        return LaufeBis([&] { return modPolling::GetDurchgaenge() >= anfang + durchgaenge; }, 60'000);
+        return LaufeBis([&] { return modPolling::GetDurchgaenge() >= anfang + durchgaenge; }, 120'000);
     }
     void LaufeUndBeende(unsigned durchgaenge) {
         ASSERT_TRUE(LaufeBisDurchgang(durchgaenge));
