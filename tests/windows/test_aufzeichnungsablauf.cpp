@@ -103,6 +103,13 @@ protected:
     std::unique_ptr<Aufzeichnungsablauf> ablauf;
 };
 
+TEST_F(AufzeichnungsablaufTest, What_has_gone_hears_no_more_of_live_data) {
+    Ablauf();
+    EXPECT_TRUE(modMesshoerer::HoertJemand());
+    ablauf.reset();
+    EXPECT_FALSE(modMesshoerer::HoertJemand());
+}
+
 TEST_F(AufzeichnungsablaufTest, One_click_records_every_pass_and_a_second_one_ends_it) {
     Ablauf().Schalte();
     EXPECT_TRUE(Ablauf().Laeuft());

@@ -56,6 +56,17 @@ TEST(Aufzeichnungstexte, A_name_holds_serial_number_date_and_time_in_letters_tha
     ::tzset();
 }
 
+TEST(Aufzeichnungstexte, A_typed_name_keeps_its_letters_but_those_that_a_file_system_refuses) {
+    EXPECT_EQ(Dateinamensteil("Prüfung 3"), "Prüfung 3");
+    EXPECT_EQ(Dateinamensteil("a/b\\c:d*e?f\"g<h>i|j"), "a_b_c_d_e_f_g_h_i_j");
+    EXPECT_EQ(Dateinamensteil(".versteckt"), "_versteckt");
+}
+
+TEST(Aufzeichnungstexte, A_typed_name_of_more_than_a_hundred_bytes_is_cut) {
+    EXPECT_EQ(Dateinamensteil(std::string(100, 'a')).size(), 100U);
+    EXPECT_EQ(Dateinamensteil(std::string(101, 'a')).size(), 25U);
+}
+
 TEST(Aufzeichnungsrate, Is_that_of_the_last_seconds) {
     Aufzeichnungsrate rate;
     EXPECT_EQ(rate.Betrachte({.dauer = 1s, .durchgaenge = 8}), 0);
