@@ -39,14 +39,27 @@ Griff Rufe(const QString& ort) {
                                FILE_FLAG_OVERLAPPED, nullptr));
 }
 
+/// Not so on Windows; Wine 8 knows no better.
+bool ZweiProgrammeKoennenDasselbeRohrHaben() {
+    const auto mache = [] {
+        return Griff(::CreateNamedPipeW(L"\\\\.\\pipe\\varnoth-test-first",
+                                        PIPE_ACCESS_DUPLEX | FILE_FLAG_FIRST_PIPE_INSTANCE, PIPE_TYPE_BYTE, 2,
+                                        64, 64, 0, nullptr));
+    };
+    const Griff erstes = mache();
+    return static_cast<bool>(mache());
+}
+
 /// A call that says what it likes.
 class Anrufer {
 public:
     explicit Anrufer(const QString& ort) : ende(Rufe(ort)) {}
     bool IstVerbunden() const { return ende.Wert() != nullptr; }
-    void Sage(const std::string& bytes) {
+    /// Whether it could be said before the other side hung up.
+    bool Sage(const std::string& bytes) {
         ende.Sende(bytes);
-        EXPECT_EQ(ende.StandNach(5000), Rufstand::Fertig);
+        EXPECT_TRUE(WarteBis([this] { return ende.Stand() != Rufstand::Laeuft; }));
+        return ende.Stand() == Rufstand::Fertig;
     }
     /// What is answered until the other side hangs up.
     std::string Antwort() {
@@ -126,19 +139,24 @@ TEST_F(Rohruebergabe, A_program_that_is_just_starting_is_waited_for) {
 TEST_F(Rohruebergabe, What_is_no_path_is_refused) {
     using namespace std::string_literals;
     const std::string gruss(Rufgruss);
-    const std::string rufe[] = {"C:/a.con",
-                                gruss,
-                                gruss + "a.con",
-                                gruss + "C:/a\0b.con"s,
-                                gruss + "C:/a\xFF.con",
-                                gruss + LangerPfad(80'000)};
+    const std::string rufe[] = {"C:/a.con", gruss, gruss + "a.con", gruss + "C:/a\0b.con"s,
+                                gruss + "C:/a\xFF.con"};
     Hoere(std::chrono::seconds(10));
     for (const std::string& ruf : rufe) {
         Anrufer anrufer(ort);
-        anrufer.Sage(ruf);
+        EXPECT_TRUE(anrufer.Sage(ruf));
         EXPECT_EQ(anrufer.Antwort(), RufAbgelehnt) << ruf.substr(0, 40);
     }
     EXPECT_THAT(pfade, IsEmpty());
+}
+
+TEST_F(Rohruebergabe, Who_says_more_than_a_path_can_hold_is_hung_up_on) {
+    Hoere(std::chrono::seconds(10));
+    Anrufer anrufer(ort);
+    anrufer.Sage(std::string(Rufgruss) + LangerPfad(80'000));
+    EXPECT_NE(anrufer.Antwort(), RufAngenommen);
+    EXPECT_THAT(pfade, IsEmpty());
+    EXPECT_TRUE(Uebergib("C:/b.con"));
 }
 
 TEST_F(Rohruebergabe, A_caller_who_says_nothing_is_hung_up_on) {
@@ -170,6 +188,8 @@ TEST_F(Rohruebergabe, Of_callers_who_say_nothing_only_a_few_are_heard_at_a_time)
 }
 
 TEST_F(Rohruebergabe, Where_another_program_listens_already_nothing_listens_until_that_has_gone) {
+    if (ZweiProgrammeKoennenDasselbeRohrHaben())
+        GTEST_SKIP() << "this system does not keep two programs from making the same pipe";
     Hoere();
     auto zweite = std::make_unique<Dateiannahme>(ort, Ziel(Kurz));
     EXPECT_FALSE(zweite->Hoert());
