@@ -166,6 +166,11 @@ TEST_F(AnwendungTest, Any_other_language_in_the_settings_file_counts_as_German) 
     }
 }
 
+TEST_F(AnwendungTest, The_start_shows_the_main_window) {
+    ASSERT_TRUE(Mit({}).Starte());
+    EXPECT_TRUE(anwendung->Hauptfenster().isVisible());
+}
+
 TEST_F(AnwendungTest, A_second_instance_is_refused_with_a_message) {
     Instanzsperre erste(QStringLiteral("varnoth"), ordner.path());
     ASSERT_TRUE(erste.Belege());
