@@ -214,6 +214,7 @@ TEST_F(AufzeichnungsablaufTest, The_mark_is_there_while_it_records_and_leads_to_
     Ablauf().Schalte();
     EXPECT_TRUE(Marke().isVisible());
     EXPECT_TRUE(Marke().text().startsWith("Recording 00:00:0"));
+    EXPECT_FALSE(Marke().text().contains("waiting:"));
     EXPECT_EQ(Marke().accessibleName(), Marke().text());
     Marke().click();
     EXPECT_EQ(verlangt, 1);
