@@ -17,6 +17,9 @@ namespace {
 constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
 constexpr Zeit LaengsteWeckdauer = std::chrono::microseconds(200);
 constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
+// Between a reply and the next request events are let run several times; each round costs processor time,
+// the first after a sleep most of all.
+constexpr Zeit Rundenabstand = std::chrono::milliseconds(3);
 
 /// Sleeps end when they should, not some tens of microseconds later.
 void WeckePuenktlich() {
@@ -37,12 +40,21 @@ QtUmgebung::~QtUmgebung() {
 }
 
 int QtUmgebung::LasseEreignisseLaufen() {
-    pumpe.LaufeOhneAufgeschobenes();
+    LasseFaelligesLaufen();
     return formularzaehler ? formularzaehler() : 0;
+}
+
+/// Runs pending events unless that was done a moment ago.
+void QtUmgebung::LasseFaelligesLaufen() {
+    if (Uhr() < naechsteRunde)
+        return;
+    pumpe.LaufeOhneAufgeschobenes();
+    naechsteRunde = Uhr() + Rundenabstand;
 }
 
 void QtUmgebung::NutzeWartezeit() {
     pumpe.LaufeMitAllem();
+    naechsteRunde = Uhr() + Rundenabstand;
 }
 
 void QtUmgebung::FuerWartezeit(std::function<void()> arbeit) {
@@ -52,11 +64,12 @@ void QtUmgebung::FuerWartezeit(std::function<void()> arbeit) {
 void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
-        pumpe.LaufeOhneAufgeschobenes();
+        LasseFaelligesLaufen();
         SchlafeBis(ende);
         return;
     }
     pumpe.WarteAufEreignis(hoechstens);
+    naechsteRunde = Zeit{0};
 }
 
 /// Sleeps a little shorter by what waking took lately, and watches the clock for the rest.
