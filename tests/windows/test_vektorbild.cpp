@@ -79,7 +79,8 @@ TEST(Vektorbild, Its_size_is_the_one_the_document_names_or_else_that_of_what_it_
 }
 
 TEST(Vektorbild, What_is_no_such_document_is_empty_and_draws_nothing) {
-    for (const char* const falsches : {"", "no xml", "<html/>", R"(<svg viewBox="0 0 9 9"><rect)", "<svg/>"}) {
+    for (const char* const falsches :
+         {"", "no xml", "<html/>", R"(<svg viewBox="0 0 9 9"><rect)", "<svg/>"}) {
         const Vektorbild bild{QByteArray(falsches)};
         EXPECT_TRUE(bild.Groesse().isEmpty()) << falsches;
         EXPECT_EQ(bild.Bild({4, 4}).pixelColor(1, 1).alpha(), 0) << falsches;
