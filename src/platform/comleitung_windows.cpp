@@ -273,6 +273,8 @@ void Comleitung::BrichSendungAb() {
     if (offen == nullptr)
         return;
     PurgeComm(offen->griff, PURGE_TXABORT | PURGE_TXCLEAR);
+    for (const auto& sendung : offen->sendungen) // where the driver did not heed that
+        CancelIoEx(offen->griff, &sendung->lauf);
     offen->WarteAufSendungen(DieUmgebung().Uhr() + Treiberfrist);
     std::erase_if(offen->sendungen, [](const auto& sendung) { return sendung->IstFertig(); });
 }
