@@ -7,6 +7,7 @@
 #include "rufworte.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -76,7 +77,7 @@ private:
 
 class Rohruebergabe : public testing::Test {
 protected:
-    void Hoere(Zeit laengsterSatz = Kurz) {
+    void Hoere(Zeit laengsterSatz = std::chrono::seconds(10)) {
         annahme.reset();
         annahme = std::make_unique<Dateiannahme>(ort, Ziel(laengsterSatz));
     }
@@ -160,7 +161,7 @@ TEST_F(Rohruebergabe, Who_says_more_than_a_path_can_hold_is_hung_up_on) {
 }
 
 TEST_F(Rohruebergabe, A_caller_who_says_nothing_is_hung_up_on) {
-    Hoere();
+    Hoere(Kurz);
     Anrufer stumm(ort);
     ASSERT_TRUE(stumm.IstVerbunden());
     EXPECT_EQ(stumm.Antwort(), "");
@@ -203,6 +204,23 @@ TEST_F(Rohruebergabe, The_place_names_the_pipe_and_no_place_names_none) {
     EXPECT_EQ(Rohrname(ort), Rohrname(ort.toUpper()));
     EXPECT_EQ(Rohrname(QString()), L"");
     EXPECT_FALSE(Dateiannahme(QString(), Ziel(Kurz)).Hoert());
+}
+
+TEST_F(Rohruebergabe, Opening_a_file_may_take_longer_than_a_call) {
+    annahme = std::make_unique<Dateiannahme>(
+        ort, Dateiannahme::Ziel{.bereit = [] { return true; },
+                                .oeffne =
+                                    [this](const std::string& pfad) {
+                                        QTimer spaeter;
+                                        spaeter.setSingleShot(true);
+                                        spaeter.start(2 * std::chrono::ceil<std::chrono::milliseconds>(Kurz));
+                                        EXPECT_TRUE(WarteBis([&] { return !spaeter.isActive(); }));
+                                        pfade.push_back(pfad);
+                                    },
+                                .laengsterSatz = Kurz});
+    EXPECT_TRUE(Uebergib("C:/a.con"));
+    EXPECT_TRUE(WarteBis([this] { return !pfade.empty(); }));
+    EXPECT_THAT(pfade, ElementsAre("C:/a.con"));
 }
 
 } // namespace varnoth
