@@ -26,17 +26,25 @@ if(VARNOTH_FUZZ)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+set(standard_headers algorithm array charconv chrono functional map memory optional span string string_view vector)
+varnoth_headers(rules
+    HEADERS ${standard_headers}
+    LIBS varnoth_warnings)
+# Who uses Qt is compiled as Qt asks for; precompiled headers serve only sources that are compiled alike.
+varnoth_headers(core
+    HEADERS ${standard_headers} filesystem
+    LIBS Qt6::Core varnoth_warnings)
 varnoth_headers(windows
     HEADERS algorithm array functional map memory optional string vector
         QAction QApplication QComboBox QDialog QFileInfo QLabel QLineEdit QMainWindow QMdiArea QMdiSubWindow QMessageBox
         QMouseEvent QPainter QPainterPath QPushButton QTimer QVBoxLayout
     LIBS Qt6::Widgets varnoth_warnings)
 
-# varnoth_room(NAME SOURCES file... [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...]): the static library
-# varnoth_NAME. Who uses a room also sees its ROOMS; PRIVATE_ROOMS only its own sources see,
-# and who includes a header that names one of those lists that room itself.
+# varnoth_room(NAME SOURCES file... [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...] [QT]): the static
+# library varnoth_NAME. Who uses a room also sees its ROOMS; PRIVATE_ROOMS only its own sources see,
+# and who includes a header that names one of those lists that room itself. QT stands where Qt comes with a room.
 function(varnoth_room name)
-    cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;PRIVATE_ROOMS;LIBS" ${ARGN})
+    cmake_parse_arguments(ROOM "QT" "" "SOURCES;ROOMS;PRIVATE_ROOMS;LIBS" ${ARGN})
     add_library(varnoth_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(varnoth_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     list(TRANSFORM ROOM_ROOMS PREPEND varnoth_)
@@ -47,5 +55,9 @@ function(varnoth_room name)
     if(ROOM_LIBS MATCHES "Qt6::Widgets")
         varnoth_use_headers(varnoth_${name} windows)
         set_target_properties(varnoth_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    elseif(ROOM_LIBS MATCHES "Qt6::" OR ROOM_QT)
+        varnoth_use_headers(varnoth_${name} core)
+    else()
+        varnoth_use_headers(varnoth_${name} rules)
     endif()
 endfunction()

@@ -69,8 +69,8 @@ std::wstring Systempfad(std::string_view utf8) {
     if (pfad.starts_with(Geraet))
         return pfad;
     if (pfad.starts_with(Netz))
-        return std::wstring(LangesNetz) + pfad.substr(Netz.size());
-    return std::wstring(Langes) + pfad;
+        return pfad.replace(0, Netz.size(), LangesNetz);
+    return pfad.insert(0, Langes);
 }
 
 bool KannDateiSein(std::wstring_view systempfad) {

@@ -1,5 +1,6 @@
 #include "windowsworte.h"
 
+#include "fehlernummer_windows.h"
 #include "systemfehler.h"
 #include "textschutz.h"
 #include "windowsfehler.h"
@@ -9,6 +10,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cerrno>
 
 namespace varnoth {
 
@@ -25,9 +27,12 @@ std::string WorteDesSystems(unsigned long nummer) {
 
 } // namespace
 
-std::string Windowsfehler(unsigned long nummer) {
-    const int bekannte = AlsFehlernummer(nummer);
-    return bekannte != 0 ? Systemfehler(bekannte) : WorteDesSystems(nummer);
+std::string Windowsfehler(unsigned long fehler) {
+    if (fehler == ERROR_INVALID_FUNCTION) // a device that knows no line format
+        return Systemfehler(ENOTTY);
+    const int nummer = FehlernummerVon(fehler);
+    const bool bekannt = nummer != EIO || IstGeraetefehler(fehler);
+    return bekannt ? Systemfehler(nummer) : WorteDesSystems(fehler);
 }
 
 } // namespace varnoth

@@ -1,8 +1,9 @@
 #include "berichtsdruck.h"
 
+#include "vektorbild.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
-#include <QImageReader>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -21,11 +22,8 @@ constexpr int Pdfaufloesung = 600;
 
 /// The picture of an address that holds it, finer than the screen would need it.
 QImage BildAus(const QUrl& adresse) {
-    QByteArray svg = QByteArray::fromBase64(adresse.path().section(',', 1).toLatin1());
-    QBuffer puffer(&svg);
-    QImageReader leser(&puffer, "svg");
-    leser.setScaledSize(leser.size() * Bildschaerfe);
-    return leser.read();
+    const Vektorbild bild(QByteArray::fromBase64(adresse.path().section(',', 1).toLatin1()));
+    return bild.Bild((bild.Groesse() * Bildschaerfe).toSize());
 }
 
 /// The report laid out for a device.

@@ -81,14 +81,13 @@ void Geraetebetrieb::SetzeLiveDatenFort() {
         LiveDatenLaufenAn();
 }
 
-bool Geraetebetrieb::LiesAbzug(QWidget& ueber, Geraeteabzug& abzug) {
+void Geraetebetrieb::LiesAbzug(QWidget& ueber, Geraeteabzug& abzug) {
     modModbus::SchreibeSteuerwert4();
     if (Beendet() || !Durchlaufe<frmIdentifikationsAnforderung>(ueber) || Beendet())
-        return false;
+        return;
     frmKonfigurationLesenAusHardware dialog(&ueber, &abzug);
     dialog.SetWeiter(True);
     dialog.exec();
-    return true;
 }
 
 bool Geraetebetrieb::IstLive() const {

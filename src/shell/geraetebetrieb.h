@@ -32,9 +32,9 @@ public:
     /// Live data that has rested goes on with the parts and values that were known, if the port can be
     /// opened.
     void SetzeLiveDatenFort();
-    /// Identifies the controller and reads its configuration aside, in dialogs over a window. False when
-    /// nobody has answered; a read that was cancelled leaves the rest unread.
-    bool LiesAbzug(QWidget& ueber, Geraeteabzug& abzug);
+    /// Identifies the controller and reads its configuration aside, in dialogs over a window. What was not
+    /// read is told by `abzug`: all of it when nobody has answered, the rest when the user has cancelled.
+    void LiesAbzug(QWidget& ueber, Geraeteabzug& abzug);
     /// Whether live data is running on a line that answers.
     bool IstLive() const;
     /// Asks, and on OK lets the controller send by itself.

@@ -1,5 +1,7 @@
 #include "programmsymbol.h"
 
+#include "symbolbild.h"
+
 /// The resources of a static library have to be asked for, and Qt wants that done outside of any namespace.
 static void InitRessourcen() {
     Q_INIT_RESOURCE(shell);
@@ -9,7 +11,7 @@ namespace varnoth {
 
 QIcon Programmsymbol() {
     InitRessourcen();
-    return QIcon(QStringLiteral(":/symbole/varnoth.svg"));
+    return FarbigesBild(QStringLiteral(":/symbole/varnoth.svg"));
 }
 
 } // namespace varnoth

@@ -68,8 +68,8 @@ void Vergleichsablauf::Zeige(const Vergleichsseite& a, const Vergleichsseite& b)
 
 void Vergleichsablauf::LiesGeraet(Geraetebetrieb& betrieb) {
     Geraeteabzug abzug;
-    const bool etwasGelesen =
-        betrieb.LiesAbzug(Fenster(), abzug) && abzug.ungelesen != AlleStellen(IstLesbar);
+    betrieb.LiesAbzug(Fenster(), abzug);
+    const bool etwasGelesen = abzug.ungelesen != AlleStellen(IstLesbar);
     if (etwasGelesen)
         Fenster().Setze(geraeteseite, Geraeteseite(abzug));
 }

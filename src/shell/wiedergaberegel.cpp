@@ -25,8 +25,8 @@ constexpr Regel DieAusnahmen[] = {
     {Befehl::Simulation, false},           // looks and help
     {Befehl::Hilfethemen, false},
     {Befehl::Info, false},
-    {Befehl::Deutsch, false},
-    {Befehl::Englisch, false},
+    {Befehl::SpracheDeutsch, false},
+    {Befehl::SpracheEnglisch, false},
     {Befehl::UebergebeneDateien, false}, // a configuration leaves it when it is opened
     {Befehl::Wiedergabe, false},         // another record takes its place once it is open
     {Befehl::UebergebeneAufzeichnung, false},

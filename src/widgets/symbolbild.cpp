@@ -1,15 +1,15 @@
 #include "symbolbild.h"
 
 #include "darstellung.h"
+#include "vektorbild.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
-#include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
 
+#include <algorithm>
 #include <utility>
 
 /// The resources of a static library have to be asked for, and Qt wants that done outside of any namespace.
@@ -26,20 +26,18 @@ constexpr char GezeichneteBetonung[] = "#2a6fb5";
 constexpr QColor AufHell(0x2a, 0x6f, 0xb5);
 constexpr QColor AufDunkel(0x7c, 0xb7, 0xf0);
 
+enum class Farbwahl { Palette, Eigene };
+
 QPixmap Gezeichnet(const QByteArray& svg, const QSize& groesse) {
-    QByteArray inhalt = svg;
-    QBuffer quelle(&inhalt);
-    QImageReader leser(&quelle, "svg");
-    leser.setScaledSize(groesse);
-    return QPixmap::fromImageReader(&leser);
+    return QPixmap::fromImage(Vektorbild(svg).Bild(groesse));
 }
 
-/// Draws a picture in the palette's colours, which it looks up each time: a palette that changes needs no new
-/// icon.
+/// Draws a picture, in its own colours or in the palette's, which it looks up each time: a palette that
+/// changes needs no new icon.
 class Symbolmaschine : public QIconEngine {
 public:
-    Symbolmaschine(QString dateiname, QByteArray inhalt)
-        : name(std::move(dateiname)), svg(std::move(inhalt)) {}
+    Symbolmaschine(QString bildname, QByteArray inhalt, Farbwahl wahl)
+        : name(std::move(bildname)), svg(std::move(inhalt)), farbwahl(wahl) {}
 
     void paint(QPainter* maler, const QRect& flaeche, QIcon::Mode mode, QIcon::State zustand) override {
         const qreal schaerfe = maler->device()->devicePixelRatioF();
@@ -54,7 +52,7 @@ public:
                                     .arg(farben.linie.name(), farben.betonung.name());
         QPixmap bild;
         if (!QPixmapCache::find(merkmal, &bild)) {
-            bild = Gezeichnet(Umgefaerbt(svg, farben), {seite, seite});
+            bild = Gezeichnet(farbwahl == Farbwahl::Palette ? Umgefaerbt(svg, farben) : svg, {seite, seite});
             QPixmapCache::insert(merkmal, bild);
         }
         return bild;
@@ -63,12 +61,20 @@ public:
         const int seite = std::min(groesse.width(), groesse.height());
         return {seite, seite};
     }
-    QIconEngine* clone() const override { return new Symbolmaschine(name, svg); }
+    QIconEngine* clone() const override { return new Symbolmaschine(name, svg, farbwahl); }
 
 private:
     QString name;
     QByteArray svg;
+    Farbwahl farbwahl;
 };
+
+QIcon Bild(const QString& datei, Farbwahl farbwahl) {
+    QFile quelle(datei);
+    if (!quelle.open(QIODevice::ReadOnly))
+        return {};
+    return QIcon(new Symbolmaschine(datei, quelle.readAll(), farbwahl));
+}
 
 } // namespace
 
@@ -98,10 +104,11 @@ QByteArray Umgefaerbt(QByteArray svg, const Symbolfarben& farben) {
 
 QIcon Symbolbild(const QString& name) {
     InitRessourcen();
-    QFile datei(QStringLiteral(":/symbole/%1.svg").arg(name));
-    if (!datei.open(QIODevice::ReadOnly))
-        return {};
-    return QIcon(new Symbolmaschine(name, datei.readAll()));
+    return Bild(QStringLiteral(":/symbole/%1.svg").arg(name), Farbwahl::Palette);
+}
+
+QIcon FarbigesBild(const QString& datei) {
+    return Bild(datei, Farbwahl::Eigene);
 }
 
 } // namespace varnoth

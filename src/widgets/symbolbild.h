@@ -27,4 +27,7 @@ QByteArray Umgefaerbt(QByteArray svg, const Symbolfarben& farben);
 /// palette at the time, light or dark. Empty where there is none of that name.
 QIcon Symbolbild(const QString& name);
 
+/// An SVG file or resource as a picture of any size, in its own colours. Empty where there is none.
+QIcon FarbigesBild(const QString& datei);
+
 } // namespace varnoth

@@ -70,6 +70,13 @@ TEST_F(GewissheitTest, What_cannot_be_mistaken_makes_all_before_it_certain) {
     EXPECT_EQ(gewissheit.GewissBis(), 3U);
 }
 
+TEST_F(GewissheitTest, What_has_become_certain_stays_so_at_the_next_change_of_shape) {
+    Gelungen({"a", "b"});
+    gewissheit.Geklaert();
+    Gelungen({"c"});
+    EXPECT_EQ(gewissheit.GewissBis(), 2U);
+}
+
 TEST_F(GewissheitTest, What_is_asked_alone_of_its_shape_behind_what_is_certain_cannot_be_mistaken) {
     FrageUndLies({"a", "a", "b"});
     EXPECT_FALSE(gewissheit.IstUnverwechselbar());

@@ -215,6 +215,10 @@ TEST_F(PollingTest, A_pass_that_fails_at_any_read_asks_for_nothing_more) {
     }
 }
 
+TEST(PollingAmAnfang, No_connection_is_lost_before_live_data_has_begun) {
+    EXPECT_FALSE(VerbindungVerloren());
+}
+
 TEST_F(PollingTest, Polling_that_begins_anew_knows_of_no_lost_connection) {
     Verbinde({16});
     VerstummeBei(DevGlobal);

@@ -41,6 +41,14 @@ TEST_F(TransaktionenTest, A_silent_device_costs_one_second_and_gives_False) {
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
+TEST_F(TransaktionenTest, A_closed_port_costs_as_much_as_a_silent_device) {
+    modSchnittstelle::CloseCommPort();
+    Werte werte(1);
+    const Zeit davor = umgebung.uhr;
+    EXPECT_EQ(RTUModeH03LeseAnforderung(0, 1, werte), False);
+    EXPECT_GE(umgebung.uhr - davor, 1000ms);
+}
+
 TEST_F(TransaktionenTest, A_read_gives_the_registers) {
     Identifiziere();
     AntworteMit({{0ms, MitPruefsumme(Bytes({1, 3, 4, 0x12, 0x34, 0xFF, 0xFE}))}});

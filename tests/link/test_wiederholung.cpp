@@ -3,6 +3,7 @@
 #include "austausch.h"
 
 #include "pruefgeraet.h"
+#include "rahmen.h"
 #include "schrittfolge.h"
 #include "transaktionen.h"
 
@@ -21,6 +22,8 @@ using namespace modModbus;
 using namespace std::chrono_literals;
 using pruefung::PruefGeraet;
 using pruefung::Stueck;
+
+const std::string Ruhebefehl = SchreibAnforderung(1, 0x4084, 1, {4});
 
 } // namespace
 
@@ -56,6 +59,15 @@ protected:
         basis = static_cast<int>(port.gesendet.size());
     }
 
+    /// The line does not become quiet until the controller is told to stop sending by itself, or for half a
+    /// minute.
+    void RedeBisZumBefehl() {
+        for (auto wann = umgebung.uhr; wann < umgebung.uhr + 30s; wann += 10ms)
+            umgebung.Plane(wann, [this] {
+                if (std::ranges::count(port.gesendet, Ruhebefehl) == 0)
+                    port.eingang += 'U';
+            });
+    }
     /// Behind the reply to the n-th request from now, that to the m-th comes once more.
     void Wiederhole(int hinter, int welche, Zeit nach) {
         wiederholte[basis + hinter].emplace_back(nach, basis + welche);
@@ -318,6 +330,21 @@ TEST_F(WiederholungTest, A_row_that_is_to_be_certain_asks_once_more_on_a_line_in
     EXPECT_TRUE(folge.Laufe());
     EXPECT_EQ(Kennungen(), bisher + 1);
     ErwarteRichtige();
+}
+
+TEST_F(WiederholungTest, A_controller_that_talks_in_the_middle_of_a_row_is_told_to_stop) {
+    for (const bool bewacht : {false, true}) {
+        uebernommen.clear();
+        RedeBisZumBefehl();
+        Schrittfolge folge({Lesung(0), Lesung(1), Lesung(2)}, [this] { return abbruch; });
+        if (bewacht)
+            folge.Bewache();
+        EXPECT_TRUE(folge.Laufe());
+        EXPECT_EQ(std::ranges::count(port.gesendet, Ruhebefehl), 1) << bewacht;
+        EXPECT_EQ(uebernommen.size(), 3U);
+        ErwarteRichtige();
+        port.gesendet.clear();
+    }
 }
 
 TEST_F(WiederholungTest, What_is_through_is_taken_over_when_a_row_on_a_line_in_order_is_cancelled) {

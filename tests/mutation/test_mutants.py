@@ -74,6 +74,10 @@ class Programs(unittest.TestCase):
     def test_every_folder_with_sources_is_a_room(self):
         self.assertEqual(set(the_tool().ROOMS), {path.parent.name for path in (ROOT / "src").glob("*/*.cpp")})
 
+    def test_a_room_stands_there_once(self):
+        rows = re.findall(r'^    "(\w+)": \[', (ROOT / "scripts/mutation").read_text(), re.MULTILINE)
+        self.assertEqual(len(rows), len(set(rows)))
+
     def test_what_is_to_notice_a_mistake_in_a_room_is_a_test_program(self):
         for room, programs in the_tool().ROOMS.items():
             self.assertLessEqual(set(programs), test_programs(), room)

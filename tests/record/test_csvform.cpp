@@ -1,6 +1,7 @@
 #include "csvform.h"
 
 #include "jedertest.h"
+#include "ortszone.h"
 #include "registeradressen.h"
 #include "statusbits.h"
 #include "texte.h"
@@ -8,8 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <ctime>
 #include <string>
 
 namespace varnoth {
@@ -21,8 +20,6 @@ using namespace std::chrono_literals;
 class CsvformTest : public testing::Test {
 protected:
     CsvformTest() {
-        ::setenv("TZ", "CET-1", 1);
-        ::tzset();
         SetzeSprachoffset(Englisch);
         Teilmessung& teil = durchgang.teile[0];
         teil = {.vorhanden = true, .gemessen = true, .status = 0x1E05, .strahlen = 6};
@@ -34,15 +31,12 @@ protected:
         durchgang.uhr = 61s + 7654us;
         durchgang.geraetestatus = geraetestatus::PnpAktiv;
     }
-    ~CsvformTest() override {
-        ::unsetenv("TZ");
-        ::tzset();
-    }
 
     std::string Zeilen(const Messpaket& paket, Csvart art = Csvart::Standard) {
         return Csvform(art, LadeCsvworte()).Nimm(paket, konfiguration);
     }
 
+    const Ortszone zone{"CET-1"};
     Messdurchgang durchgang;
     std::shared_ptr<Abbild> konfiguration = std::make_shared<Abbild>();
 };

@@ -1,11 +1,10 @@
 #include "schreibwerk.h"
 
+#include "ortszone.h"
 #include "pruefablage.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <ctime>
 #include <set>
 #include <string>
 #include <utility>
@@ -43,9 +42,6 @@ private:
 
 class SchreibwerkTest : public testing::Test {
 protected:
-    SchreibwerkTest() { ::setenv("TZ", "UTC", 1), ::tzset(); }
-    ~SchreibwerkTest() override { ::unsetenv("TZ"), ::tzset(); }
-
     Schreibwerk& Werk(Aufzeichnungswahl wahl = {}, std::size_t fuelle = 0) {
         Aufzeichnungsauftrag auftrag{.wahl = wahl, .ordner = "/o", .name = "n"};
         auftrag.angaben.seriennummer = "S";
@@ -72,6 +68,7 @@ protected:
         werk->Schreibe({Stueck({uhr})}, verworfene, Um(uhr));
     }
 
+    const Ortszone zone{"UTC"};
     const Systemzeit mitternacht = std::chrono::sys_days(std::chrono::year(2026) / 3 / 1);
     PruefAblage ablage;
     std::size_t formen = 1;

@@ -2,8 +2,9 @@
 """The far end of a serial line for tests of programs that run under Wine.
 
 ferneende.py LINK: keeps a symbolic link at LINK to a pseudo terminal and does what the near end asks for, a line
-each: "say HEX" sends bytes back; "later MS HEX" does after so many milliseconds; "flood N" sends N bytes; "hangup MS"
-takes the line away after so many milliseconds and puts another in its place. Ends with its standard input.
+each: "begin" forgets what was asked before and answers "ready"; "say HEX" sends bytes back; "later MS HEX" does after
+so many milliseconds; "flood N" sends N bytes; "hangup MS" takes the line away after so many milliseconds and puts
+another in its place. Ends with its standard input.
 """
 import os
 import select
@@ -38,6 +39,9 @@ class Leitung:
     def befolge(self, zeile):
         worte = zeile.decode("ascii", "replace").split()
         match worte:
+            case ["begin"]:
+                self.geplant.clear()
+                os.write(self.fern, b"ready")
             case ["say", hexzahlen]:
                 os.write(self.fern, bytes.fromhex(hexzahlen))
             case ["later", ms, hexzahlen]:

@@ -108,6 +108,16 @@ TYPED_TEST(AblaufdialogTest, The_title_is_in_the_language_of_the_moment) {
     }
 }
 
+TYPED_TEST(AblaufdialogTest, It_opens_over_the_middle_of_its_window) {
+    QWidget fenster;
+    fenster.setGeometry(200, 250, 560, 440);
+    fenster.show();
+    TypeParam dialog(&fenster);
+    dialog.show();
+    const QPoint abstand = dialog.geometry().center() - fenster.geometry().center();
+    EXPECT_LE(abstand.manhattanLength(), 60);
+}
+
 TYPED_TEST(AblaufdialogTest, While_the_procedure_runs_only_cancel_is_enabled) {
     TypeParam dialog;
     bool bestaetigen = true;

@@ -1,11 +1,9 @@
 #include "aufzeichnungstexte.h"
 
+#include "ortszone.h"
 #include "texte.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <ctime>
 
 namespace varnoth {
 
@@ -45,15 +43,24 @@ TEST(Aufzeichnungstexte, Durations_go_beyond_a_day) {
 }
 
 TEST(Aufzeichnungstexte, A_name_holds_serial_number_date_and_time_in_letters_that_every_file_system_takes) {
-    ::setenv("TZ", "CET-1", 1);
-    ::tzset();
+    const Ortszone zone("CET-1");
     const Systemzeit zeit = std::chrono::sys_days(std::chrono::year(2026) / 3 / 1) + 13h + 5min + 9s;
     EXPECT_EQ(Aufzeichnungsname("VN-10/2 ä", zeit), "VN-10_2____2026-03-01_14-05-09");
+    EXPECT_EQ(Aufzeichnungsname("09AZaz-", zeit), "09AZaz-_2026-03-01_14-05-09");
     EXPECT_EQ(Aufzeichnungsname("", zeit), "Varnoth_2026-03-01_14-05-09");
     EXPECT_EQ(Aufzeichnungsname("../../x", zeit), "______x_2026-03-01_14-05-09");
     EXPECT_EQ(Aufzeichnungsname(std::string(500, 'a'), zeit).size(), 60U);
-    ::unsetenv("TZ");
-    ::tzset();
+}
+
+TEST(Aufzeichnungstexte, A_typed_name_keeps_its_letters_but_those_that_a_file_system_refuses) {
+    EXPECT_EQ(Dateinamensteil("Prüfung 3"), "Prüfung 3");
+    EXPECT_EQ(Dateinamensteil("a/b\\c:d*e?f\"g<h>i|j"), "a_b_c_d_e_f_g_h_i_j");
+    EXPECT_EQ(Dateinamensteil(".versteckt"), "_versteckt");
+}
+
+TEST(Aufzeichnungstexte, A_typed_name_of_more_than_a_hundred_bytes_is_cut) {
+    EXPECT_EQ(Dateinamensteil(std::string(100, 'a')).size(), 100U);
+    EXPECT_EQ(Dateinamensteil(std::string(101, 'a')).size(), 25U);
 }
 
 TEST(Aufzeichnungsrate, Is_that_of_the_last_seconds) {

@@ -1,12 +1,17 @@
 #include "befehlstabelle.h"
 
 #include "menuezustand.h"
+#include "texte.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <iterator>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace varnoth {
 
@@ -157,6 +162,44 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
     for (int teil = 0; teil < 4; ++teil)
         EXPECT_EQ(Kuerzel(*ZeileZu(Befehl::LichtleisteAnzeigen), teil), "Ctrl+" + std::to_string(teil + 1));
+}
+
+TEST(Befehlstabelle, Buttons_and_their_tips_say_what_they_do) {
+    const std::pair<Befehl, std::array<const char*, 2>> worte[] = {
+        {Befehl::VisualisierenStart,
+         {"Connect", "Find the controller, read its configuration, show live data"}},
+        {Befehl::VisualisierenStop, {"Stop", "Stop live data"}},
+        {Befehl::Verbindung, {"Port", "Choose the port, find the controller, check the line"}},
+        {Befehl::NeueKonfiguration, {"New", "New configuration without a controller"}},
+        {Befehl::KonfigurationOeffnen, {"Open", "Load a configuration from a file"}},
+        {Befehl::KonfigurationSpeichernUnter, {"Save", "Save the configuration to a file"}},
+        {Befehl::KonfigurationAnzeigen, {"Configuration", "View and change the configuration"}},
+        {Befehl::Hilfethemen, {"Help", "Every window, every setting, every message"}},
+        {Befehl::Vergleich,
+         {"Compare", "Two configurations side by side: edited, read, file, controller, factory default"}},
+        {Befehl::Sicherungen,
+         {"Backups", "What the program has backed up before writing and before changes were replaced"}},
+        {Befehl::Bericht,
+         {"Report", "The configuration as a document: view, print, save as PDF, HTML or text"}},
+        {Befehl::Darstellung, {"Appearance", "Colours of the program and of the beams"}},
+        {Befehl::Busprotokoll, {"Bus log", "Shows every exchange with the controller as it happens"}},
+        {Befehl::Strahlverlauf,
+         {"Beam history", "Shows which beams were interrupted when, and which are suspicious"}},
+        {Befehl::Wiedergabe, {"Replay", "Open a record and play it"}},
+        {Befehl::Aufzeichnung, {"Record", "Record measured data until clicked again"}},
+        {Befehl::Aufzeichnungen, {"Recordings...", "Set what is recorded, how and where"}},
+        {Befehl::Ereignisse,
+         {"Events",
+          "Shows what has happened: connection, optical parts, switching output, messages, commands"}},
+        {Befehl::Verlauf, {"Trend", "Measured values over time"}},
+    };
+    SetzeSprachoffset(Englisch);
+    for (const auto& [befehl, beide] : worte) {
+        EXPECT_EQ(LadeText(ZeileZu(befehl)->textId), beide[0]);
+        EXPECT_EQ(LadeText(ZeileZu(befehl)->tippId), beide[1]);
+    }
+    EXPECT_EQ(std::ranges::count_if(Befehlstabelle(), [](const auto& zeile) { return zeile.textId != 0; }),
+              std::ssize(worte));
 }
 
 TEST(Befehlstabelle, No_action_belongs_to_two_commands) {

@@ -910,6 +910,15 @@ TEST_F(EditorverlaufTest, A_changed_list_is_undone_and_done_again) {
     EXPECT_EQ(box.currentIndex(), 3);
 }
 
+TEST_F(EditorverlaufTest, The_other_usual_key_does_a_step_again_too) {
+    QComboBox& box = Box("cboAuflösung_0");
+    box.setCurrentIndex(3);
+    Rueckgaengig();
+    ASSERT_NE(box.currentIndex(), 3);
+    QTest::keyClick(dialog.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(box.currentIndex(), 3);
+}
+
 TEST_F(EditorverlaufTest, Steps_are_undone_one_by_one_in_reverse) {
     Box("cboAuflösung_0").setCurrentIndex(3);
     Box("cboReichweite_1").setCurrentIndex(5);

@@ -121,6 +121,23 @@ TEST_F(EditorvorgabenTest, What_the_switching_output_does_is_marked_for_each_of_
     EXPECT_EQ(Markierte(), "optAusgangAktive_0 optPNPAusgang_Option1_3 optPNPAusgang_Option2_2");
 }
 
+TEST_F(EditorvorgabenTest, What_a_trigger_starts_is_marked_and_set_back) {
+    K<QRadioButton>("optAutosendmitTriggerModbus").click();
+    EXPECT_EQ(Markierte(), "optAutosendmitTriggerModbus");
+    const char* const spaeter = "optTriggerStartetDatenübertragungNachVollständigenScan";
+    K<QRadioButton>(spaeter).click();
+    EXPECT_EQ(Markierte(), QString("optAutosendmitTriggerModbus ") + spaeter);
+    EXPECT_TRUE(StelleZurueck(spaeter));
+    EXPECT_TRUE(K<QRadioButton>("optTriggerStartetDatenübertragungSofort").isChecked());
+}
+
+TEST_F(EditorvorgabenTest, What_can_no_longer_be_set_loses_its_mark) {
+    Setze(Spezifisch, spezifisch::Reichweite, 5);
+    EXPECT_EQ(Markierte(), "cboReichweite_0");
+    K<QComboBox>("cboReichweite_0").setEnabled(false);
+    EXPECT_EQ(Markierte(), "");
+}
+
 TEST_F(EditorvorgabenTest, The_context_menu_leads_back_to_the_default) {
     Setze(Spezifisch, spezifisch::Reichweite, 5);
     Setze(Kommunikation, kommunikation::Pausenzeit, 7);

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
+#include <gmock/gmock.h>
 
 #include <vector>
 
@@ -316,6 +317,25 @@ TEST_F(FrmMainAblauf, Behind_a_report_that_took_another_configuration_in_live_da
     Sobald("frmBericht", [](QDialog& dialog) { dialog.reject(); });
     Waehle("mnuBericht");
     EXPECT_EQ(modPolling::GetPollingAktiv(), True) << "it is the next report that counts";
+}
+
+TEST_F(FrmMainAblauf, A_report_tells_the_state_that_live_data_last_saw_of_the_parts) {
+    const QTemporaryDir ordner;
+    const std::string pfad = ordner.filePath("bericht.html").toStdString();
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    SetzeDateiantwort([&](const Dateifrage&) { return pfad; });
+    const auto bericht = [&] {
+        Sobald("frmBericht", [](QDialog& dialog) {
+            dialog.findChild<QPushButton*>("cmdHtml")->click();
+            dialog.reject();
+        });
+        Waehle("mnuBericht");
+        return LiesDatei(pfad, 1 << 20).bytes;
+    };
+    EXPECT_THAT(bericht(), testing::Not(testing::HasSubstr("Zustand am "))) << "no pass has ended yet";
+    modPolling::PollingZyklus();
+    EXPECT_THAT(bericht(), testing::HasSubstr("Zustand am "));
 }
 
 } // namespace varnoth

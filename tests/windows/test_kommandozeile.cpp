@@ -45,7 +45,8 @@ TEST(Kommandozeile, A_malformed_switch_is_ignored) {
 }
 
 TEST(Kommandozeile, A_port_number_counts_only_from_one_to_four) {
-    EXPECT_EQ(LiesKommandozeile({"/Com=3"}).com, 3);
+    for (int nummer = 1; nummer <= 4; ++nummer)
+        EXPECT_EQ(LiesKommandozeile({QStringLiteral("/Com=%1").arg(nummer)}).com, nummer);
     for (const char* wort : {"/Com=0", "/Com=5", "/Com=", "/Com=x", "/Com"})
         EXPECT_EQ(LiesKommandozeile({QString::fromLatin1(wort)}).com, 0) << wort;
 }

@@ -41,6 +41,7 @@ TEST_F(LetzteDateienTest, A_ninth_file_pushes_the_oldest_out) {
     EXPECT_EQ(LetzteDateien().size(), 8U);
     EXPECT_EQ(LetzteDateien().front(), "/9.con");
     EXPECT_EQ(LetzteDateien().back(), "/2.con");
+    EXPECT_FALSE(einstellungen.texte.contains({"LetzteDateien", "Datei9"}));
 }
 
 TEST_F(LetzteDateienTest, Gaps_and_repeats_in_the_settings_are_passed_over) {

@@ -14,6 +14,7 @@
 #include <QTextDocument>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -21,6 +22,18 @@ namespace varnoth {
 
 using namespace std::chrono_literals;
 using pruefung::WarteBis;
+
+namespace {
+
+/// The sign of a state; its ground is that of the corner.
+QImage Gemaltes(Verbindungszustand zustand, bool simuliert) {
+    Verbindungssymbol symbol(nullptr);
+    symbol.resize(24, 24);
+    symbol.Zeige(zustand, simuliert);
+    return symbol.grab().toImage();
+}
+
+} // namespace
 
 /// The connection part in a status bar of its own, over a scripted line.
 class VerbindungsanzeigeTest : public testing::Test {
@@ -176,12 +189,9 @@ TEST_F(VerbindungsanzeigeTest, Live_waiting_stopped_and_simulated_have_colours_o
 TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {
     using enum Verbindungszustand;
     std::set<std::string> formen;
-    Verbindungssymbol symbol(nullptr);
-    symbol.resize(24, 24);
-    const auto Form = [&](Verbindungszustand zustand, bool simuliert) {
-        symbol.Zeige(zustand, simuliert);
-        const QImage bild = symbol.grab().toImage();
+    const auto Form = [](Verbindungszustand zustand, bool simuliert) {
         std::string form;
+        const QImage bild = Gemaltes(zustand, simuliert);
         for (int y = 0; y < bild.height(); ++y)
             for (int x = 0; x < bild.width(); ++x)
                 form += bild.pixel(x, y) == bild.pixel(0, 0) ? ' ' : 'x';
@@ -191,6 +201,23 @@ TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {
         formen.insert(Form(zustand, false));
     formen.insert(Form(Live, true));
     EXPECT_EQ(formen.size(), 7U);
+}
+
+TEST_F(VerbindungsanzeigeTest, Every_shape_is_as_wide_as_its_place) {
+    using enum Verbindungszustand;
+    for (const auto zustand :
+         {Verbindet, Live, Wartet, Pausiert, PortOffen, Angehalten, Offline, Wiedergabe}) {
+        const QImage bild = Gemaltes(zustand, false);
+        int links = bild.width();
+        int rechts = 0;
+        for (int y = 0; y < bild.height(); ++y)
+            for (int x = 0; x < bild.width(); ++x)
+                if (bild.pixel(x, y) != bild.pixel(0, 0)) {
+                    links = std::min(links, x);
+                    rechts = std::max(rechts, x);
+                }
+        EXPECT_GE(rechts - links, bild.width() * 6 / 10) << static_cast<int>(zustand);
+    }
 }
 
 } // namespace varnoth

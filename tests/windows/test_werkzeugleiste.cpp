@@ -5,6 +5,7 @@
 #include "frmMain.h"
 #include "pruefgeraet.h"
 #include "qttexte.h"
+#include "symbolbild.h"
 #include "texte.h"
 
 #include <QAction>
@@ -273,6 +274,18 @@ TEST_F(WerkzeugleisteTest, Its_place_is_remembered) {
     Fenster().close();
     fenster.reset();
     EXPECT_TRUE(Leiste().isVisible());
+}
+
+TEST_F(WerkzeugleisteTest, The_sign_for_more_commands_points_to_where_they_open) {
+    const auto zeigt = [this](const char* bild) {
+        const QSize groesse(24, 24);
+        return Mehr().icon().pixmap(groesse).toImage() ==
+               Symbolbild(QLatin1String(bild)).pixmap(groesse).toImage();
+    };
+    EXPECT_TRUE(zeigt("mehr"));
+    EXPECT_FALSE(zeigt("mehr_unten"));
+    Fenster().addToolBar(Qt::LeftToolBarArea, &Leiste());
+    EXPECT_TRUE(zeigt("mehr_unten"));
 }
 
 TEST_F(WerkzeugleisteTest, A_bar_that_nobody_moved_leaves_no_setting) {

@@ -311,7 +311,9 @@ TEST_F(WiedergabeablaufTest, Opening_can_be_cancelled_and_leaves_what_was_replay
         EXPECT_NE(dialog, nullptr);
         EXPECT_TRUE(weiter(0.1));
         EXPECT_EQ(dialog->value(), 100);
-        dialog->cancel();
+        auto* const abbrechen = dialog->findChild<QPushButton*>();
+        if (abbrechen != nullptr && abbrechen->text() == "Abbrechen")
+            abbrechen->click();
         weiterGefragt = weiter(0.2);
         return GeoeffneteAufzeichnung{.quelle = Probe()};
     });
@@ -381,6 +383,18 @@ TEST_F(WiedergabeablaufTest, The_language_changes_in_the_middle_of_it) {
     EXPECT_EQ(Fenster().windowTitle().count("nacht.vrec"), 1);
     EXPECT_EQ(Leiste()->findChild<QPushButton*>("cmdVerlassen")->text(), "End replay");
     Waehle("mnuDeutsch");
+}
+
+TEST_F(WiedergabeablaufTest, What_is_said_of_a_gap_follows_the_language) {
+    Oeffne(Probe());
+    Leiste()->findChild<QComboBox*>("cboEreignis")->setCurrentIndex(1);
+    Klicke("cmdEreignisVor");
+    const auto* const meldung = Leiste()->findChild<QLabel*>("lblMeldung");
+    EXPECT_TRUE(pruefung::WarteBis([&] { return Titel(0) == "Wiedergabe: 1. Optikteil offline"; }));
+    Waehle("mnuEnglisch");
+    EXPECT_EQ(meldung->text().toStdString(), Lagetext(Wiedergabelage::Verloren));
+    Waehle("mnuDeutsch");
+    EXPECT_EQ(meldung->text().toStdString(), Lagetext(Wiedergabelage::Verloren));
 }
 
 TEST_F(WiedergabeablaufTest, The_record_s_configuration_is_saved_without_touching_the_one_in_use) {
@@ -523,8 +537,8 @@ TEST(WiedergaberegelTest, What_needs_the_line_or_the_configuration_leaves_the_re
                                 Simulation,
                                 Hilfethemen,
                                 Info,
-                                Deutsch,
-                                Englisch,
+                                SpracheDeutsch,
+                                SpracheEnglisch,
                                 Sicherungen,
                                 Vergleich,
                                 Darstellung,
