@@ -7,6 +7,7 @@
 #include "rufworte.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -26,6 +27,8 @@ using testing::IsEmpty;
 namespace {
 
 constexpr Zeit Kurz = std::chrono::milliseconds(200);
+constexpr Zeit Lang = std::chrono::seconds(30); // on a busy machine Wine takes seconds for a call
+constexpr int LangMs = 60000;
 
 std::string LangerPfad(std::size_t laenge) {
     std::string pfad = "C:";
@@ -76,7 +79,7 @@ private:
 
 class Rohruebergabe : public testing::Test {
 protected:
-    void Hoere(Zeit laengsterSatz = Kurz) {
+    void Hoere(Zeit laengsterSatz = std::chrono::seconds(10)) {
         annahme.reset();
         annahme = std::make_unique<Dateiannahme>(ort, Ziel(laengsterSatz));
     }
@@ -87,8 +90,8 @@ protected:
     }
     /// What a second start hears, while events run in this one.
     bool Uebergib(const std::string& pfad) {
-        auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, pfad); });
-        EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }));
+        auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, pfad, Lang); });
+        EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }, LangMs));
         return antwort.get();
     }
 
@@ -129,10 +132,10 @@ TEST_F(Rohruebergabe, A_program_that_hangs_is_not_waited_for_and_does_not_open_t
 }
 
 TEST_F(Rohruebergabe, A_program_that_is_just_starting_is_waited_for) {
-    auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, "C:/a.con"); });
+    auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, "C:/a.con", Lang); });
     EXPECT_EQ(antwort.wait_for(Kurz), std::future_status::timeout);
     Hoere();
-    EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }));
+    EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }, LangMs));
     EXPECT_TRUE(antwort.get());
 }
 
@@ -160,7 +163,7 @@ TEST_F(Rohruebergabe, Who_says_more_than_a_path_can_hold_is_hung_up_on) {
 }
 
 TEST_F(Rohruebergabe, A_caller_who_says_nothing_is_hung_up_on) {
-    Hoere();
+    Hoere(Kurz);
     Anrufer stumm(ort);
     ASSERT_TRUE(stumm.IstVerbunden());
     EXPECT_EQ(stumm.Antwort(), "");
@@ -203,6 +206,23 @@ TEST_F(Rohruebergabe, The_place_names_the_pipe_and_no_place_names_none) {
     EXPECT_EQ(Rohrname(ort), Rohrname(ort.toUpper()));
     EXPECT_EQ(Rohrname(QString()), L"");
     EXPECT_FALSE(Dateiannahme(QString(), Ziel(Kurz)).Hoert());
+}
+
+TEST_F(Rohruebergabe, Opening_a_file_may_take_longer_than_a_call) {
+    annahme = std::make_unique<Dateiannahme>(
+        ort, Dateiannahme::Ziel{.bereit = [] { return true; },
+                                .oeffne =
+                                    [this](const std::string& pfad) {
+                                        QTimer spaeter;
+                                        spaeter.setSingleShot(true);
+                                        spaeter.start(std::chrono::seconds(3));
+                                        EXPECT_TRUE(WarteBis([&] { return !spaeter.isActive(); }));
+                                        pfade.push_back(pfad);
+                                    },
+                                .laengsterSatz = std::chrono::seconds(2)});
+    EXPECT_TRUE(Uebergib("C:/a.con"));
+    EXPECT_TRUE(WarteBis([this] { return !pfade.empty(); }));
+    EXPECT_THAT(pfade, ElementsAre("C:/a.con"));
 }
 
 } // namespace varnoth
