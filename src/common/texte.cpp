@@ -4,6 +4,7 @@
 #include "texte_daten.h"
 
 #include <algorithm>
+#include <atomic>
 #include <charconv>
 #include <string_view>
 #include <utility>
@@ -82,15 +83,15 @@ const Startwert startwert(sprachoffset);
 } // namespace
 
 std::int16_t GetSprachoffset() {
-    return sprachoffset;
+    return std::atomic_ref(sprachoffset).load();
 }
 
 void SetzeSprachoffset(std::int16_t offset) {
-    sprachoffset = offset;
+    std::atomic_ref(sprachoffset).store(offset);
 }
 
 const std::string& LadeText(std::int16_t id) {
-    return LadeText(id, sprachoffset);
+    return LadeText(id, GetSprachoffset());
 }
 
 const std::string& LadeText(std::int16_t id, std::int16_t sprache) {

@@ -41,8 +41,8 @@ public:
     Umgebung& operator=(const Umgebung&) = delete;
     virtual ~Umgebung() = default;
 
-    /// Runs every window event that is pending, and gives the number of open forms. Painting may be left to
-    /// the next wait.
+    /// Runs every window event that is pending, unless that was done a moment ago, and gives the number of
+    /// open forms. Painting may be left to the next wait.
     virtual int LasseEreignisseLaufen() = 0;
     /// Runs every pending event and does what was put off for this (FuerWartezeit), painting too: the line is
     /// busy for a while, and nobody waits for this thread.

@@ -23,6 +23,13 @@ struct Flugschreiber {
     bool operator==(const Flugschreiber&) const = default;
 };
 
+/// How the saving of the memory stands.
+struct Speicherlage {
+    bool laeuft = false;
+    double anteil = 0;       ///< of what is to be done before the disk has it all, 0 to 1
+    std::string gesichert{}; ///< path of the last one that was saved
+};
+
 inline constexpr Wahlbereich Flugschreiberbereich{16, 512};
 
 /// What the window of recordings asks of the program around it.
@@ -57,9 +64,10 @@ public:
     virtual void Waehle(const Flugschreiber& wahl) = 0;
     /// How much is in memory, as a person writes it: "00:12:34"; empty while there is nothing.
     virtual std::string ImSpeicher() = 0;
-    /// Asks for a file and saves the last so many minutes of the memory as a record, or says why not. The
-    /// path, or nothing.
-    virtual std::optional<std::string> SichereSpeicher(int minuten) = 0;
+    /// Asks for a file and begins to save the last so many minutes of the memory there as a record. What goes
+    /// wrong is told by a message.
+    virtual void SichereSpeicher(int minuten) = 0;
+    virtual Speicherlage Sicherung() = 0;
 };
 
 } // namespace varnoth

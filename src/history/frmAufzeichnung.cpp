@@ -22,7 +22,8 @@ namespace {
 constexpr std::int16_t TextSekunden = 6245, TextStandard = 6249, TextExcel = 6250, TextMegabyte = 6260,
                        TextMinuten = 6261, TextStunden = 6262, TextStarten = 6268, TextBeenden = 6269,
                        TextKeine = 6271, TextZuletzt = 6273, TextOhneGrenze = 6274, TextOrdnerfrage = 6276,
-                       TextGesichert = 6278, TextNichtsImSpeicher = 6281, TextImSpeicher = 6282;
+                       TextGesichert = 6278, TextNichtsImSpeicher = 6281, TextImSpeicher = 6282,
+                       TextWirdGesichert = 6751;
 constexpr const char* Abschnitt = "frmAufzeichnung";
 constexpr int TaktMs = 500;
 constexpr Wahlbereich Minutenbereich{1, 600};
@@ -195,8 +196,8 @@ void frmAufzeichnung::Schalte() {
 }
 
 void frmAufzeichnung::Sichere() {
-    if (const auto pfad = anbieter.SichereSpeicher(ui->spnMinuten->value()))
-        SetzeText(*ui->lblZuletzt, LadeTextMit(TextGesichert, {*pfad}));
+    anbieter.SichereSpeicher(ui->spnMinuten->value());
+    ZeigeStand();
 }
 
 /// Between a reply and the next request nothing is written into labels.
@@ -217,18 +218,32 @@ void frmAufzeichnung::ZeigeStand() {
     ui->txtName->setPlaceholderText(Q(anbieter.Namensvorschlag()));
     SetzeText(*ui->lblStand, lage.laeuft ? anbieter.Standtext() : LadeText(TextKeine));
     ZeigeLetzte(lage);
-    const std::string imSpeicher = anbieter.ImSpeicher();
-    SetzeText(*ui->lblImSpeicher, imSpeicher.empty() ? LadeText(TextNichtsImSpeicher)
-                                                     : LadeTextMit(TextImSpeicher, {imSpeicher}));
-    ui->cmdSichern->setEnabled(!imSpeicher.empty());
+    ZeigeSpeicher();
 }
 
+void frmAufzeichnung::ZeigeSpeicher() {
+    const std::string imSpeicher = anbieter.ImSpeicher();
+    const Speicherlage lage = anbieter.Sicherung();
+    std::string text =
+        imSpeicher.empty() ? LadeText(TextNichtsImSpeicher) : LadeTextMit(TextImSpeicher, {imSpeicher});
+    if (lage.laeuft)
+        text = LadeTextMit(TextWirdGesichert, {std::to_string(static_cast<int>(lage.anteil * 100))});
+    SetzeText(*ui->lblImSpeicher, text);
+    ui->cmdSichern->setEnabled(!imSpeicher.empty() && !lage.laeuft);
+    if (std::exchange(gesichert, lage.gesichert) != lage.gesichert)
+        SetzeText(*ui->lblZuletzt, LadeTextMit(TextGesichert, {gesichert}));
+}
+
+/// What was told last stays until there is something new to tell.
 void frmAufzeichnung::ZeigeLetzte(const Aufzeichnungslage& lage) {
     std::string pfade;
     for (const std::string& pfad : lage.stand.pfade)
         pfade += (pfade.empty() ? "" : "\n") + pfad;
-    if (!pfade.empty())
-        SetzeText(*ui->lblZuletzt, lage.laeuft ? pfade : LadeTextMit(TextZuletzt, {pfade}));
+    if (pfade.empty())
+        return;
+    const std::string text = lage.laeuft ? pfade : LadeTextMit(TextZuletzt, {pfade});
+    if (std::exchange(letzte, text) != text)
+        SetzeText(*ui->lblZuletzt, text);
 }
 
 } // namespace varnoth

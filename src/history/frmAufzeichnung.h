@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <string>
 
 namespace varnoth {
 
@@ -43,12 +44,15 @@ private:
     void Sichere();
     void Plane();
     void ZeigeStand();
+    void ZeigeSpeicher();
     void ZeigeLetzte(const Aufzeichnungslage& lage);
 
     std::unique_ptr<Ui::frmAufzeichnung> ui;
     Aufzeichnungsanbieter& anbieter;
     QTimer takt{this};
     bool geplant = false;
+    std::string letzte;    ///< files that were told last
+    std::string gesichert; ///< what was saved of the memory last
 };
 
 } // namespace varnoth

@@ -3,9 +3,11 @@
 #include "lokalisiereform.h"
 #include "symbolbild.h"
 #include "texte.h"
+#include "textmitwerten.h"
 #include "ui_frmWiedergabe.h"
 #include "umgebung.h"
 #include "wiedergabeworte.h"
+#include "zeiteingabe.h"
 
 #include <QEvent>
 #include <QMenu>
@@ -22,6 +24,7 @@ namespace varnoth {
 
 namespace {
 
+constexpr std::int16_t TextKeineZeit = 6756;
 constexpr std::int16_t TextAbspielen = 6504, TextAnhalten = 6505, TextSucht = 6530, TextKeines = 6531;
 constexpr std::chrono::milliseconds Bildtakt(40);
 constexpr int PaketeJeTakt = 12; // to read and look through them takes a few milliseconds
@@ -76,6 +79,11 @@ void frmWiedergabe::VerbindeKnoepfe() {
     connect(ui->cboTempo, &QComboBox::currentIndexChanged, this, [this](int platz) {
         if (platz >= 0)
             steuerung.Stand().SetzeTempo(Tempi[platz], Jetzt());
+    });
+    connect(ui->txtZeit, &QLineEdit::returnPressed, this, &frmWiedergabe::GeheZurEingabe);
+    connect(ui->txtZeit, &QLineEdit::textEdited, this, [this] {
+        if (eingabeFalsch)
+            Melde({});
     });
     auto* const menue = new QMenu(this);
     menue->setObjectName(QStringLiteral("mnuAufzeichnungKonfiguration"));
@@ -222,6 +230,21 @@ void frmWiedergabe::GeheZu(Zeit laufzeit) {
     Zeige();
 }
 
+/// What was typed stays, so that it can be corrected or typed over.
+void frmWiedergabe::GeheZurEingabe() {
+    const std::string text = ui->txtZeit->text().toStdString();
+    const Messquelle& quelle = steuerung.Quelle();
+    const Zeitspanne spanne = quelle.Spanne();
+    ui->txtZeit->selectAll();
+    const auto eingabe = LiesZeiteingabe(text);
+    if (!eingabe)
+        return MeldeEingabefehler(LadeTextMit(TextKeineZeit, {text}));
+    const auto wohin = GemeinteLaufzeit(*eingabe, quelle.Angaben(), spanne, steuerung.Stand().Position());
+    if (!wohin)
+        return MeldeEingabefehler(Spannentext(quelle.Angaben(), spanne));
+    GeheZu(*wohin);
+}
+
 void frmWiedergabe::Schreite(bool vorwaerts) {
     suche.reset();
     Melde({});
@@ -255,7 +278,7 @@ void frmWiedergabe::Zeige() {
     const Wiedergabelage lage = steuerung.Zeige();
     ui->zltAufzeichnung->SetzePosition(wo);
     ui->lblPosition->setText(Q(Positionstext(quelle.Angaben(), quelle.Spanne(), wo)));
-    const bool nenntLage = lage != Wiedergabelage::Messwert && !suche;
+    const bool nenntLage = lage != Wiedergabelage::Messwert && !suche && !eingabeFalsch;
     if (nenntLage || lageGenannt)
         Melde(nenntLage ? Lagetext(lage) : std::string());
     lageGenannt = nenntLage;
@@ -272,7 +295,15 @@ void frmWiedergabe::ZeigeKnopf() {
     ui->cmdAbspielen->setAccessibleName(text);
 }
 
+void frmWiedergabe::MeldeEingabefehler(const std::string& text) {
+    suche.reset();
+    Melde(text);
+    eingabeFalsch = true;
+    lageGenannt = false;
+}
+
 void frmWiedergabe::Melde(const std::string& text) {
+    eingabeFalsch = false;
     ui->lblMeldung->setText(Q(text));
     ui->lblMeldung->setToolTip(Q(text));
 }

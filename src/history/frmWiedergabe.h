@@ -52,12 +52,14 @@ private:
 
     void SchalteUm();
     void GeheZu(Zeit laufzeit);
+    void GeheZurEingabe();
     void Schreite(bool vorwaerts);
     void Springe(bool vorwaerts);
     void AendereTempo(bool schneller);
     void Zeige();
     void ZeigeKnopf();
     void Melde(const std::string& text);
+    void MeldeEingabefehler(const std::string& text);
 
     std::unique_ptr<Ui::frmWiedergabe> ui;
     Wiedergabesteuerung& steuerung;
@@ -65,6 +67,7 @@ private:
     std::optional<Ereignissuche> suche;
     std::uint64_t naechstesPaket = 0; ///< in which notes are still to be looked for
     bool spielt = false;              ///< as the button shows it
+    bool eingabeFalsch = false;       ///< the message says what is wrong with what was typed
     bool lageGenannt = false;         ///< the message says why there is nothing to be seen
 };
 

@@ -17,7 +17,7 @@ using namespace std::chrono;
 constexpr std::int16_t TextPosition = 6524, TextVerloren = 6526, TextBeendet = 6527, TextUnlesbar = 6528,
                        TextLeer = 6529, TextAusgangEin = 6532, TextAusgangAus = 6533, TextTeilDa = 6534,
                        TextTeilFort = 6535, TextZustand = 6536, TextGeraetezustand = 6537,
-                       TextErstesLiveereignis = 6538, TextNotiz = 6542;
+                       TextErstesLiveereignis = 6538, TextNotiz = 6542, TextSpanne = 6757;
 
 /// With so many digits at least.
 std::string Gefuellt(long long zahl, std::size_t stellen) {
@@ -47,6 +47,16 @@ std::string Laufzeittext(Zeit dauer) {
 std::string Positionstext(const Messangaben& angaben, const Zeitspanne& spanne, Zeit laufzeit) {
     return LadeTextMit(TextPosition, {Zeitworte(angaben, laufzeit), Laufzeittext(laufzeit - spanne.von),
                                       Laufzeittext(spanne.bis - spanne.von)});
+}
+
+std::string Spannentext(const Messangaben& angaben, const Zeitspanne& spanne) {
+    constexpr std::size_t tausendstel = 4; // letters
+    const auto ohneTausendstel = [](const std::string& text) {
+        return text.substr(0, text.size() - tausendstel);
+    };
+    const bool amSelbenTag = Datumsworte(angaben, spanne.von) == Datumsworte(angaben, spanne.bis);
+    const std::string bis = amSelbenTag ? Uhrzeitworte(angaben, spanne.bis) : Zeitworte(angaben, spanne.bis);
+    return LadeTextMit(TextSpanne, {ohneTausendstel(Zeitworte(angaben, spanne.von)), ohneTausendstel(bis)});
 }
 
 std::string Fundtext(const Sprungfund& fund) {

@@ -12,6 +12,8 @@ namespace varnoth {
 std::string Laufzeittext(Zeit dauer);
 /// Where a replay stands: time of day, time since the beginning, length.
 std::string Positionstext(const Messangaben& angaben, const Zeitspanne& spanne, Zeit laufzeit);
+/// From when to when there is anything, to the second; the day of the end only where it is another.
+std::string Spannentext(const Messangaben& angaben, const Zeitspanne& spanne);
 /// What has happened.
 std::string Fundtext(const Sprungfund& fund);
 /// Why there is nothing to be seen; empty where there is.

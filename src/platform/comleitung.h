@@ -32,8 +32,8 @@ public:
     bool IstVerloren() const;
     /// The same; the driver is asked for it.
     bool IstWeg();
-    /// Whether the driver has thrown bytes away, or holds as many as the input buffer takes, as IstWeg and
-    /// BytesWartend saw it since this was asked last.
+    /// Whether the driver has thrown bytes away that found no room, as far as it was asked for anything else
+    /// since this was asked last.
     bool NimmUeberlauf();
 
     /// Number of bytes that have come; 0 on a line that is gone, or closed.
@@ -50,6 +50,8 @@ public:
     /// Lets the driver forget them.
     void BrichSendungAb();
 
+    /// Whether there are messages for windows of this thread.
+    static bool HatMeldungen();
     /// Sleeps until a byte has come, the line is gone or the time has passed. Messages for windows of this
     /// thread wake it up only when told so. Gives whether nothing tells that the line is gone.
     bool Schlafe(Zeit hoechstens, bool auchFuersFenster);

@@ -97,7 +97,9 @@ struct Comleitung::Leitung {
 unsigned long Comleitung::Leitung::RichteEin(const Leitungswerte& werte) {
     DCB stand{};
     stand.DCBlength = sizeof stand;
-    if (!GetCommState(griff, &stand) || !GetCommTimeouts(griff, &fruehereZeiten))
+    if (!GetCommState(griff, &stand))
+        return ERROR_INVALID_FUNCTION; // no serial port, whatever its driver calls that
+    if (!GetCommTimeouts(griff, &fruehereZeiten))
         return GetLastError();
     fruehere = stand;
     DCB neue = Einstellung(stand, werte);
@@ -157,7 +159,7 @@ std::size_t Comleitung::Leitung::Wartend() {
         weg = true;
         return 0;
     }
-    uebergelaufen = uebergelaufen || (fehler & CE_RXOVER) != 0 || stand.cbInQue >= Eingabepuffergroesse;
+    uebergelaufen = uebergelaufen || (fehler & CE_RXOVER) != 0;
     imTreiber = stand.cbOutQue;
     return stand.cbInQue;
 }
@@ -271,8 +273,14 @@ void Comleitung::BrichSendungAb() {
     if (offen == nullptr)
         return;
     PurgeComm(offen->griff, PURGE_TXABORT | PURGE_TXCLEAR);
+    for (const auto& sendung : offen->sendungen) // where the driver did not heed that
+        CancelIoEx(offen->griff, &sendung->lauf);
     offen->WarteAufSendungen(DieUmgebung().Uhr() + Treiberfrist);
     std::erase_if(offen->sendungen, [](const auto& sendung) { return sendung->IstFertig(); });
+}
+
+bool Comleitung::HatMeldungen() {
+    return HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
 }
 
 bool Comleitung::Schlafe(Zeit hoechstens, bool auchFuersFenster) {

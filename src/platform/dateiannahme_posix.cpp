@@ -103,10 +103,12 @@ private:
         return Sende(anruf.leitung, nehmen ? RufAngenommen : RufAbgelehnt) && nehmen;
     }
 
-    /// The notifier and the timer may be those whose signal runs just now.
+    /// The notifier and the timer may be those whose signal runs just now; they go once the events do that
+    /// are served now, which may be long after the file was opened.
     void Vergiss(Anruf& anruf) {
         anruf.melder->setEnabled(false);
         anruf.melder.release()->deleteLater();
+        anruf.frist->disconnect();
         anruf.frist.release()->deleteLater();
         std::erase_if(anrufe, [&](const auto& einer) { return einer.get() == &anruf; });
     }

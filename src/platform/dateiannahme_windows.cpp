@@ -99,11 +99,12 @@ private:
 
     /// A caller who no longer listens has told the user that the file is not opened.
     void Beantworte(Anruf& anruf) {
+        constexpr int AntwortMs = 200; // the pipe takes it at once, as a rule
         const auto ruf = anruf.rohr.Gelesenes();
         const auto pfad = ruf.size() <= LaengsterRuf ? GerufenerPfad(ruf) : std::nullopt;
         const bool nehmen = pfad && ziel.bereit();
         anruf.rohr.Sende(nehmen ? RufAngenommen : RufAbgelehnt);
-        const bool gehoert = anruf.rohr.StandNach(0) == Rufstand::Fertig;
+        const bool gehoert = anruf.rohr.StandNach(AntwortMs) == Rufstand::Fertig;
         Vergiss(anruf);
         if (nehmen && gehoert)
             ziel.oeffne(*pfad);
@@ -111,10 +112,13 @@ private:
 
     /// The notifier and the timer may be those whose signal runs just now.
     void Vergiss(Anruf& anruf) {
+        anruf.melder->disconnect();
         anruf.melder->setEnabled(false);
         anruf.melder.release()->deleteLater();
-        if (anruf.frist)
+        if (anruf.frist) {
+            anruf.frist->disconnect();
             anruf.frist.release()->deleteLater();
+        }
         std::erase_if(anrufe, [&](const auto& einer) { return einer.get() == &anruf; });
         if (std::ranges::none_of(anrufe, [](const auto& einer) { return !einer->verbunden; }))
             HoereWeiter();

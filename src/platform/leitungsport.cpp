@@ -80,7 +80,10 @@ void Leitungsport::WarteAufEingang(Zeit hoechstens) {
     if (DieUmgebung().Uhr() >= naechsterFensterblick) {
         if (BytesImSystem() > 0)
             return;
-        SchaueNachDemFenster();
+        if (DieUmgebung().BrauchtWartezeit() || KannFensterWarten()) {
+            SchaueNachDemFenster();
+            hoechstens = std::min(hoechstens, Fensterblick); // the caller is to see what has come of it
+        }
     }
     if (IstAuf() && BytesGelesen() == 0)
         Schlummere(hoechstens);

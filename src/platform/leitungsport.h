@@ -36,6 +36,8 @@ protected:
     virtual std::size_t BytesGelesen() const = 0;
     /// Number of bytes that wait in the system.
     virtual std::size_t BytesImSystem() = 0;
+    /// Whether there may be anything for the window. A port that is not told says yes.
+    virtual bool KannFensterWarten() const { return true; }
     /// Sleeps on the open line until something has arrived or the time has passed. A port that wakes for
     /// nothing else sleeps for Fensterblick at most; one that can leave a message for the window for so long,
     /// and then wakes for it, may sleep on. Gives whether the line is known to be still there.

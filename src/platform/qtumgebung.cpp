@@ -14,6 +14,9 @@ namespace {
 // microsecond; a window's painting does not fit into them.
 constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
 constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
+// Between a reply and the next request events are let run several times; each round costs processor time,
+// the first after a sleep most of all.
+constexpr Zeit Rundenabstand = std::chrono::milliseconds(3);
 
 } // namespace
 
@@ -27,12 +30,21 @@ QtUmgebung::~QtUmgebung() {
 }
 
 int QtUmgebung::LasseEreignisseLaufen() {
-    pumpe.LaufeOhneAufgeschobenes();
+    LasseFaelligesLaufen();
     return formularzaehler ? formularzaehler() : 0;
+}
+
+/// Runs pending events unless that was done a moment ago.
+void QtUmgebung::LasseFaelligesLaufen() {
+    if (Uhr() < naechsteRunde)
+        return;
+    pumpe.LaufeOhneAufgeschobenes();
+    naechsteRunde = Uhr() + Rundenabstand;
 }
 
 void QtUmgebung::NutzeWartezeit() {
     pumpe.LaufeMitAllem();
+    naechsteRunde = Uhr() + Rundenabstand;
 }
 
 void QtUmgebung::FuerWartezeit(std::function<void()> arbeit) {
@@ -42,11 +54,12 @@ void QtUmgebung::FuerWartezeit(std::function<void()> arbeit) {
 void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
     const Zeit ende = Uhr() + hoechstens;
     if (hoechstens < Feinwartezeit) {
-        pumpe.LaufeOhneAufgeschobenes();
+        LasseFaelligesLaufen();
         SchlafeBis(ende);
         return;
     }
     pumpe.WarteAufEreignis(hoechstens);
+    naechsteRunde = Zeit{0};
 }
 
 /// Sleeps a little shorter by what waking took lately, and watches the clock for the rest.

@@ -37,9 +37,11 @@ protected:
     virtual Antwort Frage(const Meldung& meldung);
 
 private:
+    void LasseFaelligesLaufen();
     void SchlafeBis(Zeit ende);
 
     Ereignispumpe pumpe;
+    Zeit naechsteRunde{0}; ///< until then events have run a moment ago
     Zeit weckdauer{0};
     std::function<int()> formularzaehler;
     std::function<void(int, const std::string&)> statusanzeige;

@@ -29,6 +29,7 @@ bool WindowsPort::Oeffne(int nummer, const std::string& einstellungen) {
 
 void WindowsPort::Schliesse() {
     leitung.Schliesse();
+    eingang.clear();
 }
 
 std::string WindowsPort::Fehlertext() const {
@@ -62,36 +63,37 @@ void WindowsPort::SchliesseVerlorene() {
 }
 
 bool WindowsPort::LeitungIstWeg() {
-    const bool weg = leitung.IstWeg();
-    MeldeUeberlauf();
-    return weg;
+    return leitung.IstWeg();
 }
 
-/// Tells of bytes that found no room. Gives whether anybody was told.
-bool WindowsPort::MeldeUeberlauf() {
-    const bool gemeldet = leitung.NimmUeberlauf() && ereignisbehandlung != nullptr;
-    if (gemeldet)
+/// Takes up what has come, as far as the input buffer has room for it.
+void WindowsPort::HoleBytes() {
+    if (eingang.size() < Eingabepuffergroesse)
+        eingang += leitung.Lies();
+    MeldeUeberlauf();
+    SchliesseVerlorene();
+}
+
+void WindowsPort::MeldeUeberlauf() {
+    const bool voll = leitung.NimmUeberlauf() || eingang.size() >= Eingabepuffergroesse;
+    if (voll && ereignisbehandlung)
         ereignisbehandlung(EreignisEmpfangspufferUeberlauf);
-    return gemeldet;
 }
 
 void WindowsPort::Verwirf() {
+    eingang.clear();
     leitung.Verwirf();
     SchliesseVerlorene();
 }
 
 std::size_t WindowsPort::BytesWartend() {
-    std::size_t anzahl = leitung.BytesWartend();
-    if (MeldeUeberlauf())
-        anzahl = leitung.BytesWartend();
-    SchliesseVerlorene();
-    return anzahl;
+    HoleBytes();
+    return eingang.size();
 }
 
 std::string WindowsPort::LiesAlles() {
-    std::string bytes = leitung.Lies();
-    SchliesseVerlorene();
-    return bytes;
+    HoleBytes();
+    return std::exchange(eingang, {});
 }
 
 void WindowsPort::Sende(std::string_view bytes) {

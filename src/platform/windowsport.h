@@ -27,14 +27,17 @@ private:
     bool IstAuf() const override { return leitung.IstOffen(); }
     bool LeitungIstWeg() override;
     void Sende(std::string_view bytes) override;
-    std::size_t BytesGelesen() const override { return 0; } // events take up none
-    std::size_t BytesImSystem() override { return BytesWartend(); }
+    std::size_t BytesGelesen() const override { return eingang.size(); }
+    std::size_t BytesImSystem() override { return leitung.BytesWartend(); }
+    bool KannFensterWarten() const override { return Comleitung::HatMeldungen(); }
     bool SchlafeAnDerLeitung(Zeit hoechstens) override;
 
     void SchliesseVerlorene();
-    bool MeldeUeberlauf();
+    void HoleBytes();
+    void MeldeUeberlauf();
 
     Comleitung leitung;
+    std::string eingang; // what has come and was not asked for yet; drivers hold less than the buffer's size
     std::function<void(int)> ereignisbehandlung;
     std::optional<std::string> falscheEinstellung; // the settings string that is no line format
     unsigned long oeffnungsfehler = 0;             // of the system, why the last opening failed

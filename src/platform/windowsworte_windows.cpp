@@ -28,6 +28,8 @@ std::string WorteDesSystems(unsigned long nummer) {
 } // namespace
 
 std::string Windowsfehler(unsigned long fehler) {
+    if (fehler == ERROR_INVALID_FUNCTION) // a device that knows no line format
+        return Systemfehler(ENOTTY);
     const int nummer = FehlernummerVon(fehler);
     const bool bekannt = nummer != EIO || IstGeraetefehler(fehler);
     return bekannt ? Systemfehler(nummer) : WorteDesSystems(fehler);

@@ -1,6 +1,10 @@
 #include "aufzeichnung.h"
 
+#include <cerrno>
+#include <condition_variable>
+#include <mutex>
 #include <utility>
+#include <vector>
 
 namespace varnoth {
 
@@ -12,35 +16,76 @@ constexpr std::size_t MeisteJeStueck = 1000;
 
 } // namespace
 
-Aufzeichnung::Aufzeichnung(Dateiablage& ablage, Aufzeichnungsauftrag auftrag, Uhr dieUhr)
-    : uhr(std::move(dieUhr)), werk(ablage, std::move(auftrag)) {}
+/// What both threads use, and what outlives the one that is left behind.
+struct Aufzeichnung::Innen {
+    /// What waits to be written.
+    struct Wartendes {
+        std::vector<Aufnahmestueck> stuecke;
+        std::size_t durchgaenge = 0;
+        std::uint64_t verworfene = 0;
+    };
+
+    Innen(std::shared_ptr<Dateiablage> welche, Aufzeichnungsauftrag auftrag, Uhr welcheUhr)
+        : ablage(std::move(welche)), uhr(std::move(welcheUhr)), werk(*ablage, std::move(auftrag)) {}
+
+    Messpaket& LetztesStueck();
+    void Laufe();
+    void GibAuf();
+
+    std::shared_ptr<Dateiablage> ablage;
+    Uhr uhr;
+    Schreibwerk werk; ///< the thread's own while it runs
+    std::mutex sperre;
+    std::condition_variable wecker;
+    Wartendes wartendes;
+    Aufzeichnungsstand stand;
+    std::size_t inArbeit = 0; ///< passes that are being written
+    bool zuEnde = false;
+    bool aufgegeben = false; ///< `stand` is the last word
+};
+
+Aufzeichnung::Aufzeichnung(std::shared_ptr<Dateiablage> ablage, Aufzeichnungsauftrag auftrag, Uhr uhr)
+    : innen(std::make_shared<Innen>(std::move(ablage), std::move(auftrag), std::move(uhr))) {}
 
 Aufzeichnung::~Aufzeichnung() {
     Beende();
 }
 
 int Aufzeichnung::Beginne(std::shared_ptr<const Abbild> konfiguration) {
-    if (const int fehler = werk.Beginne(uhr(), std::move(konfiguration)); fehler != 0)
+    if (const int fehler = innen->werk.Beginne(innen->uhr(), std::move(konfiguration)); fehler != 0)
         return fehler;
-    stand = werk.Stand();
-    faden.emplace([this] { Laufe(); });
+    innen->stand = innen->werk.Stand();
+    faden.emplace([innen = innen] { innen->Laufe(); });
     return 0;
 }
 
-void Aufzeichnung::Beende() {
+bool Aufzeichnung::Beende(std::chrono::milliseconds hoechstens) {
     if (!faden)
-        return;
+        return true;
     {
-        const std::lock_guard gesperrt(sperre);
-        zuEnde = true;
+        const std::lock_guard gesperrt(innen->sperre);
+        innen->zuEnde = true;
     }
-    wecker.notify_one();
-    faden->join();
+    innen->wecker.notify_one();
+    const bool geendet = faden->WarteAufEnde(hoechstens);
+    if (!geendet) {
+        innen->GibAuf();
+        faden->LasseZurueck();
+    }
     faden.reset();
+    return geendet;
+}
+
+/// The thread may still write what it has; nobody will hear of it.
+void Aufzeichnung::Innen::GibAuf() {
+    const std::lock_guard gesperrt(sperre);
+    aufgegeben = true;
+    stand.verworfen += wartendes.durchgaenge + wartendes.verworfene + inArbeit;
+    stand.fehler = ETIMEDOUT;
 }
 
 /// What follows belongs to the same stretch as long as the configuration does not change.
-Messpaket& Aufzeichnung::LetztesStueck() {
+Messpaket& Aufzeichnung::Innen::LetztesStueck() {
     const auto istVoll = [](const Messpaket& inhalt) {
         return inhalt.durchgaenge.size() >= MeisteJeStueck || inhalt.ereignisse.size() >= MeisteJeStueck;
     };
@@ -50,32 +95,33 @@ Messpaket& Aufzeichnung::LetztesStueck() {
 }
 
 void Aufzeichnung::Nimm(const Messdurchgang& durchgang) {
-    const std::lock_guard gesperrt(sperre);
+    const std::lock_guard gesperrt(innen->sperre);
+    Innen::Wartendes& wartendes = innen->wartendes;
     if (wartendes.durchgaenge >= MeisteWartende) {
         ++wartendes.verworfene;
         return;
     }
-    LetztesStueck().durchgaenge.push_back(durchgang);
+    innen->LetztesStueck().durchgaenge.push_back(durchgang);
     if (++wartendes.durchgaenge == MeisteWartende / 2)
-        wecker.notify_one();
+        innen->wecker.notify_one();
 }
 
 void Aufzeichnung::Nimm(Messereignis ereignis) {
-    const std::lock_guard gesperrt(sperre);
-    LetztesStueck().ereignisse.push_back(std::move(ereignis));
+    const std::lock_guard gesperrt(innen->sperre);
+    innen->LetztesStueck().ereignisse.push_back(std::move(ereignis));
 }
 
 void Aufzeichnung::SetzeKonfiguration(std::shared_ptr<const Abbild> konfiguration) {
-    const std::lock_guard gesperrt(sperre);
-    wartendes.stuecke.push_back({.konfiguration = std::move(konfiguration), .inhalt = {}});
+    const std::lock_guard gesperrt(innen->sperre);
+    innen->wartendes.stuecke.push_back({.konfiguration = std::move(konfiguration), .inhalt = {}});
 }
 
 Aufzeichnungsstand Aufzeichnung::Stand() const {
-    const std::lock_guard gesperrt(sperre);
-    return stand;
+    const std::lock_guard gesperrt(innen->sperre);
+    return innen->stand;
 }
 
-void Aufzeichnung::Laufe() {
+void Aufzeichnung::Innen::Laufe() {
     for (bool letztesMal = false; !letztesMal;) {
         Wartendes geholtes;
         {
@@ -84,11 +130,15 @@ void Aufzeichnung::Laufe() {
                             [this] { return zuEnde || wartendes.durchgaenge >= MeisteWartende / 2; });
             letztesMal = zuEnde;
             geholtes = std::exchange(wartendes, {});
+            inArbeit = geholtes.durchgaenge + geholtes.verworfene;
         }
         werk.Schreibe(std::move(geholtes.stuecke), geholtes.verworfene, uhr());
         if (letztesMal)
             werk.Beende(uhr());
         const std::lock_guard gesperrt(sperre);
+        if (aufgegeben)
+            continue;
+        inArbeit = 0;
         stand = werk.Stand();
     }
 }

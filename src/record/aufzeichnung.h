@@ -1,15 +1,13 @@
 #pragma once
 
+#include "nebenfaden.h"
 #include "schreibwerk.h"
 
-#include <condition_variable>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
-#include <thread>
-#include <vector>
 
 namespace varnoth {
 
@@ -23,18 +21,21 @@ public:
 
     /// Passes that wait to be written at most.
     static constexpr std::size_t MeisteWartende = 10'000;
+    /// As long as a disk may take.
+    static constexpr auto Beliebig =
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::hours(24 * 365));
 
-    /// `ablage` must outlive this object.
-    Aufzeichnung(Dateiablage& ablage, Aufzeichnungsauftrag auftrag, Uhr uhr);
-    /// Ends it, if it runs.
+    Aufzeichnung(std::shared_ptr<Dateiablage> ablage, Aufzeichnungsauftrag auftrag, Uhr uhr);
+    /// Ends it, if it runs, however long the disk takes.
     ~Aufzeichnung();
     Aufzeichnung(const Aufzeichnung&) = delete;
     Aufzeichnung& operator=(const Aufzeichnung&) = delete;
 
     /// Makes the files and lets the thread run. A POSIX error number, 0 when all went well.
     int Beginne(std::shared_ptr<const Abbild> konfiguration);
-    /// Writes what is waiting, and ends the files whole. Nothing is taken from then on.
-    void Beende();
+    /// Writes what is waiting, and ends the files whole. Nothing is taken from then on. False when that takes
+    /// longer than given: the thread is left to itself, and what it has not written by now counts as dropped.
+    bool Beende(std::chrono::milliseconds hoechstens = Beliebig);
 
     // After Beginne, from the same thread:
 
@@ -49,24 +50,10 @@ public:
     Aufzeichnungsstand Stand() const;
 
 private:
-    /// What waits to be written.
-    struct Wartendes {
-        std::vector<Aufnahmestueck> stuecke;
-        std::size_t durchgaenge = 0;
-        std::uint64_t verworfene = 0;
-    };
+    struct Innen;
 
-    Messpaket& LetztesStueck();
-    void Laufe();
-
-    Uhr uhr;
-    Schreibwerk werk; ///< the thread's own while it runs
-    mutable std::mutex sperre;
-    std::condition_variable wecker;
-    Wartendes wartendes;
-    Aufzeichnungsstand stand;
-    bool zuEnde = false;
-    std::optional<std::thread> faden;
+    std::shared_ptr<Innen> innen; ///< the thread's too
+    std::optional<Nebenfaden> faden;
 };
 
 } // namespace varnoth

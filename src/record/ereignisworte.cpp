@@ -24,6 +24,7 @@ constexpr std::int16_t TextKonfiguration = 6631, TextKonfigurationAbgebrochen = 
                        TextRegisterMisslungen = 6634, TextNeustart = 6635, TextNeustartUnbestaetigt = 6629,
                        TextWerksdaten = 6636, TextWerksdatenMisslungen = 6637, TextGesichert = 6638,
                        TextSicherungMisslungen = 6639;
+constexpr std::int16_t TextBeendet = 6641, TextMitDurchgaengen = 6750;
 constexpr std::int16_t TextVerworfen = 6642, TextFehlgeschlagen = 6645, TextErsterZustand = 6647;
 constexpr std::int16_t TextSimuliertUnd = 9108, TextAusgangAktiv = 9308, TextAusgangNichtAktiv = 9309,
                        TextKeinOptikteil = 9310, TextStrahlenzahlGeaendert = 9311, TextNichtLesbar = 9312,
@@ -127,6 +128,10 @@ std::string Sicherungswort(const Ereignis& e) {
     return e.gelungen ? LadeText(TextGesichert) : LadeTextMit(TextSicherungMisslungen, {e.text});
 }
 
+std::string Beendetwort(const Ereignis& e) {
+    return LadeTextMit(TextBeendet, {LadeTextMit(TextMitDurchgaengen, {e.text, std::to_string(e.anzahl)})});
+}
+
 std::string Verworfenwort(const Ereignis& e) {
     return LadeTextMit(TextVerworfen, {std::to_string(e.anzahl)});
 }
@@ -166,7 +171,7 @@ constexpr Wortregel Wortregeln[] = {
     {Werksdaten, Gruppe::Schreiben, 0, Werksdatenwort},
     {Gesichert, Gruppe::Schreiben, 0, Sicherungswort},
     {AufzeichnungBegonnen, Gruppe::Aufzeichnung, 6640},
-    {AufzeichnungBeendet, Gruppe::Aufzeichnung, 6641},
+    {AufzeichnungBeendet, Gruppe::Aufzeichnung, 0, Beendetwort},
     {AufzeichnungOhnePlatz, Gruppe::Aufzeichnung, 6643},
     {Verworfen, Gruppe::Aufzeichnung, 0, Verworfenwort},
     {Fehlgeschlagen, Gruppe::Fehlschlag, 0, Fehlschlagwort},

@@ -3,6 +3,7 @@
 #include "aufzeichnungseinstellungen.h"
 #include "aufzeichnungsmarke.h"
 #include "csvform.h"
+#include "dateiausgabe.h"
 #include "dateidialog.h"
 #include "dateien.h"
 #include "dateiziel.h"
@@ -14,7 +15,6 @@
 #include "messspeicher.h"
 #include "polling.h"
 #include "programmversion.h"
-#include "quellenabschrift.h"
 #include "registerabbild.h"
 #include "seriennummer.h"
 #include "standtext.h"
@@ -36,9 +36,13 @@ namespace varnoth {
 namespace {
 
 constexpr int TaktMs = 500;
+constexpr int SicherungstaktMs = 50;
+constexpr Zeit Sicherungsschritt = std::chrono::milliseconds(2); // at one go, or a request would wait for it
+constexpr std::chrono::milliseconds LaengstesEnde(3000);
 constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
                        TextBeendet = 6233, TextMengen = 6272, TextSpeicherSichern = 6279,
-                       TextVrecfilter = 6280;
+                       TextVrecfilter = 6280, TextAntwortetNicht = 6752, TextNichtZuEnde = 6753,
+                       TextZuFruehBeendet = 6758;
 
 /// The clock of the passes for another thread, which must not ask the environment.
 Aufzeichnung::Uhr UhrFuerAndere() {
@@ -68,9 +72,18 @@ Messangaben Angaben() {
 Aufzeichnungsablauf::Aufzeichnungsablauf(Ziel dasZiel)
     : ziel(std::move(dasZiel)), flugschreiber(LiesFlugschreiber(DieEinstellungen())),
       marke(new Aufzeichnungsmarke(ziel.leiste)) {
+    if (ziel.ablage == nullptr)
+        ziel.ablage = std::make_shared<Dateiausgabe>();
+    if (!ziel.schreibe)
+        ziel.schreibe = ErsetzeDatei;
     QObject::connect(marke, &QPushButton::clicked, marke, [this] { ziel.zeige(); });
     takt.setInterval(TaktMs);
     QObject::connect(&takt, &QTimer::timeout, marke, [this] { BlickeNach(); });
+    sicherungstakt.setInterval(SicherungstaktMs);
+    QObject::connect(&sicherungstakt, &QTimer::timeout, marke, [this] {
+        if (sicherung->IstFertig())
+            BeendeSicherung(sicherung->Fehler());
+    });
     modMesshoerer::MeldeAn(*this);
 }
 
@@ -103,7 +116,8 @@ Aufzeichnungsauftrag Aufzeichnungsablauf::Auftrag(const std::string& name) {
 void Aufzeichnungsablauf::Beginne(const std::string& name) {
     if (Laeuft())
         return;
-    auto neue = std::make_unique<Aufzeichnung>(ablage, Auftrag(name), ziel.uhr ? ziel.uhr : UhrFuerAndere());
+    auto neue =
+        std::make_unique<Aufzeichnung>(ziel.ablage, Auftrag(name), ziel.uhr ? ziel.uhr : UhrFuerAndere());
     FolgeKonfiguration();
     if (const int fehler = neue->Beginne(konfiguration); fehler != 0)
         return ZeigeWarnung(LadeTextMit(TextKeinBeginn, {Dateifehlertext(Systemfehler(fehler), Ordner())}));
@@ -120,18 +134,29 @@ void Aufzeichnungsablauf::Beginne(const std::string& name) {
 void Aufzeichnungsablauf::Beende() {
     if (!Laeuft())
         return;
-    aufzeichnung->Beende();
+    const bool ganz = aufzeichnung->Beende(LaengstesEnde);
     letzter = aufzeichnung->Stand();
     aufzeichnung.reset();
     takt.stop();
     marke->hide();
     ziel.laeuft(false);
+    MerkeEnde(ganz);
+}
+
+/// Into the events, and in a sentence.
+void Aufzeichnungsablauf::MerkeEnde(bool ganz) {
     const std::string wo = letzter.pfade.empty() ? Ordner() : letzter.pfade.front();
     if (letzter.verworfen > 0)
         modEreignisse::Merke(
             {.art = Ereignisart::Verworfen, .anzahl = static_cast<std::uint32_t>(letzter.verworfen)});
-    modEreignisse::Merke({.art = Ereignisart::AufzeichnungBeendet, .text = wo});
-    DieUmgebung().ZeigeStatustext(FeldMeldungen, LadeTextMit(TextBeendet, {wo}));
+    if (!ganz)
+        modEreignisse::Merke(
+            {.art = Ereignisart::AufzeichnungOhnePlatz, .text = LadeText(TextAntwortetNicht)});
+    modEreignisse::Merke({.art = Ereignisart::AufzeichnungBeendet,
+                          .anzahl = static_cast<std::uint32_t>(letzter.durchgaenge),
+                          .dauer = letzter.dauer,
+                          .text = wo});
+    DieUmgebung().ZeigeStatustext(FeldMeldungen, LadeTextMit(ganz ? TextBeendet : TextNichtZuEnde, {wo}));
 }
 
 void Aufzeichnungsablauf::Notiere(Zeit uhr, Systemzeit zeit, const std::string& text) {
@@ -245,25 +270,49 @@ std::string Aufzeichnungsablauf::ImSpeicher() {
     return Aufnahmedauer(spanne.bis - spanne.von);
 }
 
-std::optional<std::string> Aufzeichnungsablauf::SichereSpeicher(int minuten) {
-    if (ImSpeicher().empty())
-        return std::nullopt;
+void Aufzeichnungsablauf::SichereSpeicher(int minuten) {
+    if (sicherung != nullptr || ImSpeicher().empty())
+        return;
     const auto pfad = FrageNachZiel({.titel = LadeText(TextSpeicherSichern),
                                      .filter = LadeText(TextVrecfilter),
                                      .ordner = Ordner(),
                                      .name = Namensvorschlag() + ".vrec"});
     if (!pfad)
-        return std::nullopt;
+        return;
     const Zeit bis = ziel.speicher->Spanne().bis;
     const Zeitspanne spanne{bis - std::chrono::minutes(minuten), bis};
-    Quellenabschrift abschrift(*ziel.speicher, std::make_unique<Vrecform>(), spanne);
-    std::string bytes;
-    while (const auto stueck = abschrift.Weiter())
-        bytes += *stueck;
-    const std::string fehler = ErsetzeDatei(*pfad, bytes);
-    if (!fehler.empty())
-        ZeigeWarnung(Dateifehlertext(fehler, *pfad));
-    return fehler.empty() ? pfad : std::nullopt;
+    sicherung = std::make_shared<Speichersicherung>(*ziel.speicher, spanne, *pfad, ziel.schreibe);
+    PlaneSicherung();
+}
+
+/// In the pauses of the line; what waits for one may find that the saving is over.
+void Aufzeichnungsablauf::PlaneSicherung() {
+    DieUmgebung().FuerWartezeit([this, diese = std::weak_ptr(sicherung)] {
+        if (!diese.expired())
+            SichereWeiter();
+    });
+}
+
+void Aufzeichnungsablauf::SichereWeiter() {
+    if (sicherung->Arbeite(Sicherungsschritt))
+        PlaneSicherung();
+    else
+        sicherungstakt.start();
+}
+
+void Aufzeichnungsablauf::BeendeSicherung(const std::string& fehler) {
+    sicherungstakt.stop();
+    const auto diese = std::exchange(sicherung, {});
+    if (fehler.empty())
+        gesichert = diese->Pfad();
+    else
+        ZeigeWarnung(Dateifehlertext(fehler, diese->Pfad()));
+}
+
+Speicherlage Aufzeichnungsablauf::Sicherung() {
+    return {.laeuft = sicherung != nullptr,
+            .anteil = sicherung != nullptr ? sicherung->Anteil() : 0,
+            .gesichert = gesichert};
 }
 
 void Aufzeichnungsablauf::Zeige() {
@@ -279,9 +328,23 @@ void Aufzeichnungsablauf::Lokalisiere() {
 }
 
 void Aufzeichnungsablauf::Schliesse() {
+    const auto anfang = std::chrono::steady_clock::now();
+    if (sicherung != nullptr)
+        static_cast<void>(sicherung->Arbeite(LaengstesEnde)); // its disk has the time of the other's too
     Beende();
+    const auto vergangen =
+        std::chrono::floor<std::chrono::milliseconds>(std::chrono::steady_clock::now() - anfang);
+    if (sicherung != nullptr)
+        BeendeSicherung(AmEnde(sicherung->Beende(LaengstesEnde - vergangen)));
     if (fenster != nullptr)
         fenster->close();
+}
+
+/// What came of saving the memory when the program ends; empty when all went well.
+std::string Aufzeichnungsablauf::AmEnde(bool fertig) const {
+    if (fertig)
+        return sicherung->Fehler();
+    return LadeText(sicherung->Anteil() < 1.0 ? TextZuFruehBeendet : TextAntwortetNicht);
 }
 
 } // namespace varnoth

@@ -4,8 +4,8 @@
 #include "aufzeichnung.h"
 #include "aufzeichnungsanbieter.h"
 #include "aufzeichnungstexte.h"
-#include "dateiausgabe.h"
 #include "messhoerer.h"
+#include "speichersicherung.h"
 
 #include <QTimer>
 
@@ -33,6 +33,8 @@ public:
         std::function<void(bool laeuft)> laeuft; ///< a recording has begun or ended
         const Messspeicher* speicher = nullptr;  ///< the memory of this run, if there is one
         Aufzeichnung::Uhr uhr{}; ///< the clock of the passes for another thread; nothing: the system's
+        std::shared_ptr<Dateiablage> ablage{};   ///< where recordings go; nothing: the system's files
+        Speichersicherung::Schreiber schreibe{}; ///< of what memory holds; nothing: likewise
     };
 
     explicit Aufzeichnungsablauf(Ziel ziel);
@@ -47,7 +49,7 @@ public:
     void Zeige();
     /// Fills all texts in the current language again.
     void Lokalisiere();
-    /// The program ends: so does a recording, without a word.
+    /// The program ends: so does a recording, without a word. A disk that does not answer is left to itself.
     void Schliesse();
 
 private:
@@ -70,22 +72,30 @@ private:
     Flugschreiber DerFlugschreiber() override { return flugschreiber; }
     void Waehle(const Flugschreiber& wahl) override;
     std::string ImSpeicher() override;
-    std::optional<std::string> SichereSpeicher(int minuten) override;
+    void SichereSpeicher(int minuten) override;
+    Speicherlage Sicherung() override;
 
     Aufzeichnungsauftrag Auftrag(const std::string& name);
     bool FolgeKonfiguration();
     void BlickeNach();
     void MeldeAenderung(const Aufzeichnungslage& lage);
+    void MerkeEnde(bool ganz);
+    void PlaneSicherung();
+    void SichereWeiter();
+    void BeendeSicherung(const std::string& fehler);
+    std::string AmEnde(bool fertig) const;
 
     Ziel ziel;
-    Dateiausgabe ablage;
     std::unique_ptr<Aufzeichnung> aufzeichnung;
     Aufzeichnungsstand letzter; ///< of the last recording, or of the one that runs
     Aufzeichnungsrate rate;
     std::shared_ptr<const Abbild> konfiguration; ///< in use, without what is measured
     Flugschreiber flugschreiber;
     int gemeldeterFehler = 0;
+    std::shared_ptr<Speichersicherung> sicherung; ///< of the memory, while it runs
+    std::string gesichert;                        ///< the path of the last one that was saved
     QTimer takt;
+    QTimer sicherungstakt;
     Aufzeichnungsmarke* marke;
     std::unique_ptr<frmAufzeichnung> fenster;
 };

@@ -5,8 +5,8 @@
 
 namespace varnoth {
 
-/// The path that the attribute "d" of an SVG file describes: moves, lines, cubic curves and arcs of ellipses that are not
-/// turned, absolute and relative. What follows a place that cannot be read is left out.
+/// The path that the attribute "d" of an SVG file describes: moves, lines, cubic curves and arcs of ellipses
+/// that are not turned, absolute and relative. What follows a place that cannot be read is left out.
 QPainterPath LiesSvgPfad(QStringView beschreibung);
 
 } // namespace varnoth

@@ -13,7 +13,8 @@ namespace varnoth {
 
 namespace {
 
-// A font's letters as outlines are taken at this size and scaled: documents may count in thousandths of a pixel.
+// A font's letters as outlines are taken at this size and scaled: documents may count in thousandths of a
+// pixel.
 constexpr int Umrissgrad = 100;
 
 QPainterPath Rechteck(const QXmlStreamAttributes& angaben, const QRectF& flaeche) {
@@ -62,8 +63,8 @@ private:
     void LiesMasse() {
         const auto teile = xml.attributes().value(QLatin1String("viewBox")).split(u' ', Qt::SkipEmptyParts);
         if (teile.size() == 4)
-            bild.ausschnitt = QRectF(teile[0].toDouble(), teile[1].toDouble(), teile[2].toDouble(),
-                                     teile[3].toDouble());
+            bild.ausschnitt =
+                QRectF(teile[0].toDouble(), teile[1].toDouble(), teile[2].toDouble(), teile[3].toDouble());
         const QSizeF genannte(Zahl("width"), Zahl("height"));
         bild.groesse = genannte.isEmpty() ? bild.ausschnitt.size() : genannte;
     }

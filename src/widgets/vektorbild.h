@@ -13,9 +13,9 @@ class QPainter;
 
 namespace varnoth {
 
-/// A picture of lines, faces and words in the part of SVG that the program's own pictures use: svg, g, rect, circle, path
-/// and text with colours as "#rrggbb" or "none", widths, ends and corners of lines. Anything else is left out. Qt's own
-/// reader is a module that not every system's Qt has.
+/// A picture of lines, faces and words in the part of SVG that the program's own pictures use: svg, g, rect,
+/// circle, path and text with colours as "#rrggbb" or "none", widths, ends and corners of lines. Anything
+/// else is left out. Qt's own reader is a module that not every system's Qt has.
 class Vektorbild {
 public:
     /// @param svg a whole document; one that cannot be read gives an empty picture

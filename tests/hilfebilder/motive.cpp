@@ -428,7 +428,8 @@ struct Aufzeichnungszeit : Aufzeichnungsanbieter {
     Flugschreiber DerFlugschreiber() override { return {.alleTeile = true}; }
     void Waehle(const Flugschreiber& /*wahl*/) override {}
     std::string ImSpeicher() override { return "02:14:40"; }
-    std::optional<std::string> SichereSpeicher(int /*minuten*/) override { return {}; }
+    void SichereSpeicher(int /*minuten*/) override {}
+    Speicherlage Sicherung() override { return {}; }
 };
 
 QImage Aufzeichnungen(Buehne& buehne) {

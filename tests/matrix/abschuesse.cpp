@@ -65,12 +65,11 @@ struct Wort {
 };
 
 [[noreturn]] void ZeichneAuf(const std::string& ordner, int rohr) {
-    Dateiausgabe ablage;
     Aufzeichnungsauftrag auftrag{.wahl = {.megabyte = 1}, .ordner = ordner, .name = "r"};
     auftrag.formen.push_back({".vrec", [] { return std::make_unique<Vrecform>(); }});
     auftrag.formen.push_back(
         {".csv", [worte = LadeCsvworte()] { return std::make_unique<Csvform>(Csvart::Standard, worte); }});
-    Aufzeichnung aufzeichnung(ablage, auftrag, Jetzt);
+    Aufzeichnung aufzeichnung(std::make_shared<Dateiausgabe>(), auftrag, Jetzt);
     if (aufzeichnung.Beginne(std::make_shared<Abbild>()) != 0)
         std::_Exit(1);
     for (std::uint32_t nummer = 0;; ++nummer) {

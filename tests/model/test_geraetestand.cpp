@@ -133,6 +133,13 @@ TEST(Geraetestand, A_new_connection_makes_what_is_known_older_than_itself_until_
     EXPECT_TRUE(HoleGeraetestand()->ausDieserVerbindung);
 }
 
+TEST(Geraetestand, What_is_written_in_a_new_connection_is_of_this_one) {
+    MerkeGelesen(MitAusgang(3), "4711");
+    BeginneVerbindung();
+    MerkeGeschrieben(MitAusgang(5), {Ausgang}, "4711");
+    EXPECT_TRUE(HoleGeraetestand()->ausDieserVerbindung);
+}
+
 TEST(Geraetestand, States_of_the_parts_that_were_asked_are_known_until_a_new_connection_begins) {
     EXPECT_FALSE(HoleTeilzustaende());
     Abbild abbild;

@@ -36,7 +36,9 @@ public:
     /// Waits until it has said something.
     void WarteAufWort() {
         prozess.setReadChannel(QProcess::StandardError);
-        EXPECT_TRUE(prozess.bytesAvailable() > 0 || prozess.waitForReadyRead(HoechstensMs));
+        while (prozess.bytesAvailable() == 0 && prozess.waitForReadyRead(HoechstensMs)) {
+        }
+        EXPECT_GT(prozess.bytesAvailable(), 0);
     }
     void Toete() {
         prozess.kill();

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -320,6 +321,23 @@ TEST_F(Dateiuebergabe, A_path_is_not_told_to_another_user_who_listens_there) {
     EXPECT_FALSE(UebergibDatei(ort, "/a.con"));
     EXPECT_EQ(gehoert.get(), "");
     EXPECT_TRUE(QFile::remove(ort));
+}
+
+TEST_F(Dateiuebergabe, Opening_a_file_may_take_longer_than_a_call) {
+    annahme = std::make_unique<Dateiannahme>(
+        ort, Dateiannahme::Ziel{.bereit = [] { return true; },
+                                .oeffne =
+                                    [this](const std::string& pfad) {
+                                        QTimer spaeter;
+                                        spaeter.setSingleShot(true);
+                                        spaeter.start(2 * std::chrono::ceil<std::chrono::milliseconds>(Kurz));
+                                        EXPECT_TRUE(WarteBis([&] { return !spaeter.isActive(); }));
+                                        pfade.push_back(pfad);
+                                    },
+                                .laengsterSatz = Kurz});
+    EXPECT_TRUE(Uebergib("/a.con"));
+    EXPECT_TRUE(WarteBis([this] { return !pfade.empty(); }));
+    EXPECT_THAT(pfade, ElementsAre("/a.con"));
 }
 
 } // namespace varnoth

@@ -7,6 +7,7 @@
 #include "rufworte.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -26,6 +27,8 @@ using testing::IsEmpty;
 namespace {
 
 constexpr Zeit Kurz = std::chrono::milliseconds(200);
+constexpr Zeit Lang = std::chrono::seconds(30); // on a busy machine Wine takes seconds for a call
+constexpr int LangMs = 60000;
 
 std::string LangerPfad(std::size_t laenge) {
     std::string pfad = "C:";
@@ -39,14 +42,27 @@ Griff Rufe(const QString& ort) {
                                FILE_FLAG_OVERLAPPED, nullptr));
 }
 
+/// Not so on Windows; Wine 8 knows no better.
+bool ZweiProgrammeKoennenDasselbeRohrHaben() {
+    const auto mache = [] {
+        return Griff(::CreateNamedPipeW(L"\\\\.\\pipe\\varnoth-test-first",
+                                        PIPE_ACCESS_DUPLEX | FILE_FLAG_FIRST_PIPE_INSTANCE, PIPE_TYPE_BYTE, 2,
+                                        64, 64, 0, nullptr));
+    };
+    const Griff erstes = mache();
+    return static_cast<bool>(mache());
+}
+
 /// A call that says what it likes.
 class Anrufer {
 public:
     explicit Anrufer(const QString& ort) : ende(Rufe(ort)) {}
     bool IstVerbunden() const { return ende.Wert() != nullptr; }
-    void Sage(const std::string& bytes) {
+    /// Whether it could be said before the other side hung up.
+    bool Sage(const std::string& bytes) {
         ende.Sende(bytes);
-        EXPECT_EQ(ende.StandNach(5000), Rufstand::Fertig);
+        EXPECT_TRUE(WarteBis([this] { return ende.Stand() != Rufstand::Laeuft; }));
+        return ende.Stand() == Rufstand::Fertig;
     }
     /// What is answered until the other side hangs up.
     std::string Antwort() {
@@ -63,7 +79,7 @@ private:
 
 class Rohruebergabe : public testing::Test {
 protected:
-    void Hoere(Zeit laengsterSatz = Kurz) {
+    void Hoere(Zeit laengsterSatz = std::chrono::seconds(10)) {
         annahme.reset();
         annahme = std::make_unique<Dateiannahme>(ort, Ziel(laengsterSatz));
     }
@@ -74,8 +90,8 @@ protected:
     }
     /// What a second start hears, while events run in this one.
     bool Uebergib(const std::string& pfad) {
-        auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, pfad); });
-        EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }));
+        auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, pfad, Lang); });
+        EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }, LangMs));
         return antwort.get();
     }
 
@@ -116,33 +132,38 @@ TEST_F(Rohruebergabe, A_program_that_hangs_is_not_waited_for_and_does_not_open_t
 }
 
 TEST_F(Rohruebergabe, A_program_that_is_just_starting_is_waited_for) {
-    auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, "C:/a.con"); });
+    auto antwort = std::async(std::launch::async, [&] { return UebergibDatei(ort, "C:/a.con", Lang); });
     EXPECT_EQ(antwort.wait_for(Kurz), std::future_status::timeout);
     Hoere();
-    EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }));
+    EXPECT_TRUE(WarteBis([&] { return antwort.wait_for(Zeit(0)) == std::future_status::ready; }, LangMs));
     EXPECT_TRUE(antwort.get());
 }
 
 TEST_F(Rohruebergabe, What_is_no_path_is_refused) {
     using namespace std::string_literals;
     const std::string gruss(Rufgruss);
-    const std::string rufe[] = {"C:/a.con",
-                                gruss,
-                                gruss + "a.con",
-                                gruss + "C:/a\0b.con"s,
-                                gruss + "C:/a\xFF.con",
-                                gruss + LangerPfad(80'000)};
+    const std::string rufe[] = {"C:/a.con", gruss, gruss + "a.con", gruss + "C:/a\0b.con"s,
+                                gruss + "C:/a\xFF.con"};
     Hoere(std::chrono::seconds(10));
     for (const std::string& ruf : rufe) {
         Anrufer anrufer(ort);
-        anrufer.Sage(ruf);
+        EXPECT_TRUE(anrufer.Sage(ruf));
         EXPECT_EQ(anrufer.Antwort(), RufAbgelehnt) << ruf.substr(0, 40);
     }
     EXPECT_THAT(pfade, IsEmpty());
 }
 
+TEST_F(Rohruebergabe, Who_says_more_than_a_path_can_hold_is_hung_up_on) {
+    Hoere(std::chrono::seconds(10));
+    Anrufer anrufer(ort);
+    anrufer.Sage(std::string(Rufgruss) + LangerPfad(80'000));
+    EXPECT_NE(anrufer.Antwort(), RufAngenommen);
+    EXPECT_THAT(pfade, IsEmpty());
+    EXPECT_TRUE(Uebergib("C:/b.con"));
+}
+
 TEST_F(Rohruebergabe, A_caller_who_says_nothing_is_hung_up_on) {
-    Hoere();
+    Hoere(Kurz);
     Anrufer stumm(ort);
     ASSERT_TRUE(stumm.IstVerbunden());
     EXPECT_EQ(stumm.Antwort(), "");
@@ -170,6 +191,8 @@ TEST_F(Rohruebergabe, Of_callers_who_say_nothing_only_a_few_are_heard_at_a_time)
 }
 
 TEST_F(Rohruebergabe, Where_another_program_listens_already_nothing_listens_until_that_has_gone) {
+    if (ZweiProgrammeKoennenDasselbeRohrHaben())
+        GTEST_SKIP() << "this system does not keep two programs from making the same pipe";
     Hoere();
     auto zweite = std::make_unique<Dateiannahme>(ort, Ziel(Kurz));
     EXPECT_FALSE(zweite->Hoert());
@@ -183,6 +206,23 @@ TEST_F(Rohruebergabe, The_place_names_the_pipe_and_no_place_names_none) {
     EXPECT_EQ(Rohrname(ort), Rohrname(ort.toUpper()));
     EXPECT_EQ(Rohrname(QString()), L"");
     EXPECT_FALSE(Dateiannahme(QString(), Ziel(Kurz)).Hoert());
+}
+
+TEST_F(Rohruebergabe, Opening_a_file_may_take_longer_than_a_call) {
+    annahme = std::make_unique<Dateiannahme>(
+        ort, Dateiannahme::Ziel{.bereit = [] { return true; },
+                                .oeffne =
+                                    [this](const std::string& pfad) {
+                                        QTimer spaeter;
+                                        spaeter.setSingleShot(true);
+                                        spaeter.start(std::chrono::seconds(3));
+                                        EXPECT_TRUE(WarteBis([&] { return !spaeter.isActive(); }));
+                                        pfade.push_back(pfad);
+                                    },
+                                .laengsterSatz = std::chrono::seconds(2)});
+    EXPECT_TRUE(Uebergib("C:/a.con"));
+    EXPECT_TRUE(WarteBis([this] { return !pfade.empty(); }));
+    EXPECT_THAT(pfade, ElementsAre("C:/a.con"));
 }
 
 } // namespace varnoth

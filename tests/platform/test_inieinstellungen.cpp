@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace varnoth {
@@ -238,8 +239,14 @@ TEST_F(IniEinstellungenTest, The_file_lies_beside_the_program_where_that_can_be_
 
 class Einstellungsort : public testing::Test {
 protected:
-    Einstellungsort() { qputenv("XDG_CONFIG_HOME", Pfad("config").toUtf8()); }
-    ~Einstellungsort() override { qputenv("XDG_CONFIG_HOME", vorher); }
+    Einstellungsort() {
+        for (const auto& [name, wert] : vorher)
+            qputenv(name, Pfad("config").toUtf8());
+    }
+    ~Einstellungsort() override {
+        for (const auto& [name, wert] : vorher)
+            qputenv(name, wert);
+    }
     QString Pfad(const char* name) const { return ordner.filePath(QLatin1String(name)); }
     static void Lege(const QString& pfad) {
         QDir().mkpath(QFileInfo(pfad).path());
@@ -256,7 +263,9 @@ protected:
     }
 
     QTemporaryDir ordner;
-    const QByteArray vorher = qgetenv("XDG_CONFIG_HOME");
+    /// What tells the user's folder for settings on one system or the other.
+    const std::vector<std::pair<const char*, QByteArray>> vorher{
+        {"XDG_CONFIG_HOME", qgetenv("XDG_CONFIG_HOME")}, {"APPDATA", qgetenv("APPDATA")}};
 };
 
 TEST_F(Einstellungsort, Of_an_installed_program_it_is_a_folder_of_its_own_among_the_users_settings) {

@@ -36,6 +36,7 @@ public:
     void Sende(std::string_view bytes) override { gesendet += bytes; }
     std::size_t BytesGelesen() const override { return gelesen; }
     std::size_t BytesImSystem() override { return imSystem; }
+    bool KannFensterWarten() const override { return fensterKannWarten; }
     bool SchlafeAnDerLeitung(Zeit hoechstens) override {
         geschlafen.push_back(hoechstens);
         umgebung.uhr += std::min(hoechstens, Fensterblick);
@@ -45,6 +46,7 @@ public:
     pruefung::PruefUmgebung& umgebung;
     bool offen = true;
     bool weg = false;
+    bool fensterKannWarten = true;
     int fragen = 0;
     std::size_t gelesen = 0;
     std::size_t imSystem = 0;
@@ -102,6 +104,23 @@ TEST_F(LeitungsportTest, Sending_leaves_the_window_to_its_turn_four_milliseconds
     EXPECT_EQ(Fensterblicke(), 1);
     port.WarteAufEingang(10s);
     EXPECT_EQ(Fensterblicke(), 2) << "and every four milliseconds from then on";
+}
+
+TEST_F(LeitungsportTest, A_wait_that_gave_the_window_its_turn_ends_soon) {
+    port.WarteAufEingang(10s);
+    port.WarteAufEingang(1ms);
+    EXPECT_EQ(Fensterblicke(), 2);
+    EXPECT_THAT(port.geschlafen, ElementsAre(Zeit(4ms), Zeit(1ms)));
+}
+
+TEST_F(LeitungsportTest, A_window_for_which_there_is_nothing_is_left_alone_and_the_line_slept_on) {
+    port.fensterKannWarten = false;
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 0);
+    EXPECT_THAT(port.geschlafen, ElementsAre(Zeit(10s)));
+    umgebung.FuerWartezeit([] {});
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 1) << "but for what was put off";
 }
 
 TEST_F(LeitungsportTest, What_was_put_off_is_done_once_the_system_has_handed_the_request_on) {

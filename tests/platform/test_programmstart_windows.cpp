@@ -1,5 +1,6 @@
 #include "programmstart.h"
 #include "programmumgebung.h"
+#include "terminal.h"
 
 #include "fenstertest.h"
 #include "kindprogramm.h"
@@ -9,8 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <windows.h>
-
-#include <cstdio>
 
 namespace varnoth {
 
@@ -28,7 +27,7 @@ QByteArray Worte() {
 } // namespace
 
 TEST(DISABLED_Wortkind, Says_its_words) {
-    std::fputs(Worte().constData(), stderr);
+    SchreibeInStrom(Strom::Fehler, Worte().toStdString());
 }
 
 TEST(DISABLED_Startkind, Writes_its_words_into_a_file) {

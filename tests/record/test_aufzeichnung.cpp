@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <chrono>
+#include <memory>
 #include <semaphore>
 #include <string>
 #include <thread>
@@ -62,7 +64,7 @@ protected:
         return true;
     }
 
-    PruefAblage ablage;
+    std::shared_ptr<PruefAblage> ablage = std::make_shared<PruefAblage>();
     std::counting_semaphore<> tor{0};
 };
 
@@ -72,7 +74,7 @@ TEST_F(AufzeichnungTest, A_pass_is_written_within_the_second_without_another_cal
     ASSERT_EQ(aufzeichnung.Beginne(nullptr), 0);
     const auto anfang = std::chrono::steady_clock::now();
     aufzeichnung.Nimm(Messdurchgang{});
-    ASSERT_TRUE(WarteAuf([&] { return ablage.Inhalt("/o/n.a") == "B."; }));
+    ASSERT_TRUE(WarteAuf([&] { return ablage->Inhalt("/o/n.a") == "B."; }));
     EXPECT_LT(std::chrono::steady_clock::now() - anfang, 1s);
 }
 
@@ -83,7 +85,7 @@ TEST_F(AufzeichnungTest, The_end_writes_what_is_waiting) {
     for (int i = 0; i < 5; ++i)
         aufzeichnung.Nimm(Messdurchgang{});
     aufzeichnung.Beende();
-    EXPECT_EQ(ablage.Inhalt("/o/n.a"), "B.....E");
+    EXPECT_EQ(ablage->Inhalt("/o/n.a"), "B.....E");
     EXPECT_EQ(aufzeichnung.Stand().durchgaenge, 5U);
 }
 
@@ -94,7 +96,7 @@ TEST_F(AufzeichnungTest, Its_destruction_ends_it_too) {
         aufzeichnung.Beginne(nullptr);
         aufzeichnung.Nimm(Messdurchgang{});
     }
-    EXPECT_EQ(ablage.Inhalt("/o/n.a"), "B.E");
+    EXPECT_EQ(ablage->Inhalt("/o/n.a"), "B.E");
 }
 
 TEST_F(AufzeichnungTest, A_disk_that_does_not_come_back_holds_up_nobody_and_what_finds_no_room_is_counted) {
@@ -103,7 +105,7 @@ TEST_F(AufzeichnungTest, A_disk_that_does_not_come_back_holds_up_nobody_and_what
     aufzeichnung.Nimm(Messdurchgang{});
     ASSERT_TRUE(WarteAuf([&] { // the thread stands before the gate with that pass
         aufzeichnung.Nimm(Messereignis{});
-        return ablage.Inhalt("/o/n.a") == "B";
+        return ablage->Inhalt("/o/n.a") == "B";
     }));
     for (std::size_t i = 0; i < 3 * Aufzeichnung::MeisteWartende; ++i)
         aufzeichnung.Nimm(Messdurchgang{});
@@ -112,11 +114,43 @@ TEST_F(AufzeichnungTest, A_disk_that_does_not_come_back_holds_up_nobody_and_what
     const auto stand = aufzeichnung.Stand();
     EXPECT_EQ(stand.durchgaenge + stand.verworfen, 3 * Aufzeichnung::MeisteWartende + 1);
     EXPECT_GE(stand.verworfen, Aufzeichnung::MeisteWartende);
-    EXPECT_NE(ablage.Inhalt("/o/n.a").find("<" + std::to_string(stand.verworfen) + ">"), std::string::npos);
+    EXPECT_NE(ablage->Inhalt("/o/n.a").find("<" + std::to_string(stand.verworfen) + ">"), std::string::npos);
+}
+
+TEST_F(AufzeichnungTest, A_disk_that_never_answers_holds_up_the_end_no_longer_than_allowed) {
+    tor.release(1000);
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    ASSERT_EQ(aufzeichnung.Beginne(nullptr), 0);
+    ablage->Halte();
+    aufzeichnung.Nimm(Messdurchgang{});
+    aufzeichnung.Nimm(Messdurchgang{});
+    ASSERT_TRUE(WarteAuf([&] { return ablage->HaeltJemanden(); }));
+    for (int i = 0; i < 3; ++i)
+        aufzeichnung.Nimm(Messdurchgang{});
+    EXPECT_FALSE(aufzeichnung.Beende(50ms));
+    EXPECT_EQ(aufzeichnung.Stand().verworfen, 5U) << "those in the thread's hands and those that wait";
+    EXPECT_EQ(aufzeichnung.Stand().fehler, ETIMEDOUT);
+    ablage->LasseLos();
+    EXPECT_TRUE(WarteAuf([&] { return ablage->AllesGeschlossen(); }));
+    EXPECT_EQ(ablage->Inhalt("/o/n.a"), "B.....E") << "what comes late is whole";
+    EXPECT_EQ(aufzeichnung.Stand().verworfen, 5U) << "and changes nothing of what was told";
+}
+
+TEST_F(AufzeichnungTest, A_recording_that_was_left_behind_can_be_destroyed_before_its_disk_answers) {
+    tor.release(1000);
+    auto aufzeichnung = std::make_unique<Aufzeichnung>(ablage, Auftrag(), Jetzt);
+    ASSERT_EQ(aufzeichnung->Beginne(nullptr), 0);
+    ablage->Halte();
+    aufzeichnung->Nimm(Messdurchgang{});
+    ASSERT_TRUE(WarteAuf([&] { return ablage->HaeltJemanden(); }));
+    EXPECT_FALSE(aufzeichnung->Beende(1ms));
+    aufzeichnung.reset();
+    ablage->LasseLos();
+    EXPECT_TRUE(WarteAuf([&] { return ablage->AllesGeschlossen(); }));
 }
 
 TEST_F(AufzeichnungTest, An_error_at_the_beginning_is_given_back) {
-    ablage.Versage(EACCES);
+    ablage->Versage(EACCES);
     Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
     EXPECT_EQ(aufzeichnung.Beginne(nullptr), EACCES);
 }

@@ -87,9 +87,12 @@ TEST(Ereignisworte, Tell_of_writes_backups_and_recordings) {
               "Sicherung misslungen: kein Platz");
     EXPECT_EQ(Worte({.art = Ereignisart::AufzeichnungBegonnen, .text = "/tmp/a.vrec"}).first,
               "Aufzeichnung begonnen: /tmp/a.vrec");
-    EXPECT_EQ(
-        Worte({.art = Ereignisart::AufzeichnungBeendet, .dauer = 8h + 5min, .text = "/tmp/a.vrec"}).second,
-        "Recording ended: /tmp/a.vrec [8 h 05 min]");
+    EXPECT_EQ(Worte({.art = Ereignisart::AufzeichnungBeendet,
+                     .anzahl = 178000,
+                     .dauer = 8h + 5min,
+                     .text = "/tmp/a.vrec"}),
+              Paar("Aufzeichnung beendet: /tmp/a.vrec, Durchgänge: 178000 [8 h 05 min]",
+                   "Recording ended: /tmp/a.vrec, passes: 178000 [8 h 05 min]"));
     EXPECT_EQ(Worte({.art = Ereignisart::Verworfen, .anzahl = 17}).second,
               "Passes that could not be recorded: 17");
 }

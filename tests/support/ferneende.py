@@ -2,8 +2,9 @@
 """The far end of a serial line for tests of programs that run under Wine.
 
 ferneende.py LINK: keeps a symbolic link at LINK to a pseudo terminal and does what the near end asks for, a line
-each: "say HEX" sends bytes back; "later MS HEX" does after so many milliseconds; "flood N" sends N bytes; "hangup MS"
-takes the line away after so many milliseconds and puts another in its place. Ends with its standard input.
+each: "begin" forgets what was asked before and answers "ready"; "say HEX" sends bytes back; "later MS HEX" does after
+so many milliseconds; "flood N" sends N bytes; "hangup MS" takes the line away after so many milliseconds and puts
+another in its place; "deaf MS" answers "deaf" and reads nothing for so long. Ends with its standard input.
 """
 import os
 import select
@@ -17,6 +18,7 @@ class Leitung:
         self.link = link
         self.rest = b""
         self.geplant = []
+        self.taub_bis = 0
         self.oeffne()
 
     def oeffne(self):
@@ -38,12 +40,19 @@ class Leitung:
     def befolge(self, zeile):
         worte = zeile.decode("ascii", "replace").split()
         match worte:
+            case ["begin"]:
+                self.geplant.clear()
+                os.write(self.fern, b"ready")
             case ["say", hexzahlen]:
                 os.write(self.fern, bytes.fromhex(hexzahlen))
             case ["later", ms, hexzahlen]:
                 self.plane(int(ms), lambda: os.write(self.fern, bytes.fromhex(hexzahlen)))
             case ["flood", anzahl]:
                 self.flute(int(anzahl))
+            case ["deaf", ms]:
+                self.taub_bis = time.monotonic() + int(ms) / 1000
+                self.plane(int(ms), lambda: None)
+                os.write(self.fern, b"deaf")
             case ["hangup", ms]:
                 self.plane(int(ms), self.haenge_auf)
 
@@ -63,7 +72,8 @@ class Leitung:
     def laufe(self):
         while True:
             frist = min((wann - time.monotonic() for wann, _ in self.geplant), default=1)
-            lesbar, _, _ = select.select([self.fern, sys.stdin], [], [], max(frist, 0))
+            hoert = [] if time.monotonic() < self.taub_bis else [self.fern]
+            lesbar, _, _ = select.select([*hoert, sys.stdin], [], [], max(frist, 0))
             self.tue_geplantes()
             if sys.stdin in lesbar and not os.read(0, 100):
                 return

@@ -3,6 +3,7 @@
 #include "dateiablage.h"
 
 #include <cerrno>
+#include <condition_variable>
 #include <cstddef>
 #include <limits>
 #include <map>
@@ -14,7 +15,8 @@
 
 namespace varnoth::pruefung {
 
-/// A disk in memory that fails when it is told to. May be looked at while a thread writes.
+/// A disk in memory that fails, or does not answer, when it is told to. May be looked at while a thread
+/// writes.
 class PruefAblage : public Dateiablage {
 public:
     Angelegt LegeAn(const std::string& pfad) override {
@@ -52,6 +54,26 @@ public:
         fehler = mit;
     }
 
+    /// From now on nothing that is written comes to an end until it is let go.
+    void Halte() {
+        const std::lock_guard gesperrt(sperre);
+        haelt = true;
+    }
+    void LasseLos() {
+        const std::lock_guard gesperrt(sperre);
+        haelt = false;
+        losgelassen.notify_all();
+    }
+    bool AllesGeschlossen() const {
+        const std::lock_guard gesperrt(sperre);
+        return offene.empty();
+    }
+    /// Whether somebody waits for what is held.
+    bool HaeltJemanden() const {
+        const std::lock_guard gesperrt(sperre);
+        return wartende > 0;
+    }
+
     std::uint64_t platz = std::numeric_limits<std::uint64_t>::max();
     int versuche = 0; ///< to make a file
     int sicherungen = 0;
@@ -64,7 +86,10 @@ private:
             ablage.offene.insert(pfad);
         }
         int HaengeAn(std::string_view bytes) override {
-            const std::lock_guard gesperrt(ablage.sperre);
+            std::unique_lock gesperrt(ablage.sperre);
+            ++ablage.wartende;
+            ablage.losgelassen.wait(gesperrt, [this] { return !ablage.haelt; });
+            --ablage.wartende;
             if (ablage.fehler == 0)
                 ablage.dateien[pfad] += bytes;
             return ablage.fehler;
@@ -74,7 +99,10 @@ private:
             ++ablage.sicherungen;
             return ablage.fehler;
         }
-        void Schliesse() override { ablage.offene.erase(pfad); }
+        void Schliesse() override {
+            const std::lock_guard gesperrt(ablage.sperre);
+            ablage.offene.erase(pfad);
+        }
         void Entferne() override {
             const std::lock_guard gesperrt(ablage.sperre);
             ablage.dateien.erase(pfad);
@@ -88,6 +116,9 @@ private:
     mutable std::mutex sperre;
     std::map<std::string, std::string> dateien;
     int fehler = 0;
+    std::condition_variable losgelassen;
+    bool haelt = false;
+    int wartende = 0;
 };
 
 } // namespace varnoth::pruefung

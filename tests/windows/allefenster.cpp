@@ -87,7 +87,8 @@ struct KeineAufzeichnung : Aufzeichnungsanbieter {
     Flugschreiber DerFlugschreiber() override { return {}; }
     void Waehle(const Flugschreiber&) override {}
     std::string ImSpeicher() override { return TextMitTags; }
-    std::optional<std::string> SichereSpeicher(int) override { return {}; }
+    void SichereSpeicher(int) override {}
+    Speicherlage Sicherung() override { return {}; }
 };
 
 struct StehendeWiedergabe : Wiedergabesteuerung {

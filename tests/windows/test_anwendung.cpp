@@ -166,6 +166,11 @@ TEST_F(AnwendungTest, Any_other_language_in_the_settings_file_counts_as_German) 
     }
 }
 
+TEST_F(AnwendungTest, The_start_shows_the_main_window) {
+    ASSERT_TRUE(Mit({}).Starte());
+    EXPECT_TRUE(anwendung->Hauptfenster().isVisible());
+}
+
 TEST_F(AnwendungTest, A_second_instance_is_refused_with_a_message) {
     Instanzsperre erste(QStringLiteral("varnoth"), ordner.path());
     ASSERT_TRUE(erste.Belege());
@@ -263,6 +268,17 @@ TEST_F(AnwendungTest, The_main_loop_ends_when_the_last_form_is_closed) {
     EXPECT_TRUE(anwendung->Runde());
     anwendung->Hauptfenster().close();
     EXPECT_FALSE(anwendung->Runde());
+}
+
+TEST_F(AnwendungTest, With_nothing_to_do_the_main_loop_rests_until_an_event_comes) {
+    ASSERT_TRUE(Mit({}).Starte());
+    int runden = 0;
+    const auto ende = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+    while (std::chrono::steady_clock::now() < ende) {
+        ASSERT_TRUE(anwendung->Runde());
+        ++runden;
+    }
+    EXPECT_LT(runden, 100);
 }
 
 TEST_F(AnwendungTest, A_window_closed_during_the_splash_is_not_connected_any_more) {

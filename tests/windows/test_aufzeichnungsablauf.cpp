@@ -3,9 +3,11 @@
 #include "dateidialog.h"
 #include "dateieingabe.h"
 #include "dateien.h"
+#include "ereignisse.h"
 #include "fenstertest.h"
 #include "messhoerer.h"
 #include "messspeicher.h"
+#include "pruefablage.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -15,6 +17,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,6 +31,7 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
+#include <semaphore>
 #include <stdexcept>
 #include <vector>
 
@@ -59,7 +63,9 @@ protected:
                                           .zeige = [this] { ++verlangt; },
                                           .laeuft = [this](bool laeuft) { gemeldet.push_back(laeuft); },
                                           .speicher = &speicher,
-                                          .uhr = [this] { return Um(); }});
+                                          .uhr = [this] { return Um(); },
+                                          .ablage = ablage,
+                                          .schreibe = schreibe});
         return *ablauf;
     }
     /// The clock of this test, moved on by hand.
@@ -74,6 +80,35 @@ protected:
         durchgang.teile[0] = {.vorhanden = true, .gemessen = true, .strahlen = 8};
         durchgang.teile[0].werte[0] = wert;
         modMesshoerer::Melde(durchgang);
+    }
+    void FuelleSpeicher() {
+        for (int i = 1; i <= 1200; ++i) {
+            Messdurchgang durchgang;
+            durchgang.uhr = std::chrono::seconds(i);
+            durchgang.anzahlTeile = 1;
+            speicher.Nimm(durchgang);
+        }
+        SetzeDateiantwort([this](const Dateifrage&) { return ordner.filePath("saved.vrec").toStdString(); });
+    }
+    /// Clicks on saving the memory in the window.
+    void SichereSpeicher() {
+        Ablauf().Zeige();
+        Im<QPushButton>("cmdSichern").click();
+    }
+    /// Waits in pauses in which put-off work is done.
+    template<class Bedingung>
+    bool Bis(Bedingung bedingung) {
+        return WarteBis([&] {
+            umgebung.ErledigeAufgeschobenes();
+            return bedingung();
+        });
+    }
+    static std::string Letzte() { return Im<QLabel>("lblZuletzt").text().toStdString(); }
+    static std::vector<Ereignisart> Ereignisarten() {
+        std::vector<Ereignisart> arten;
+        for (auto i = modEreignisse::Alle().Erstes(); i < modEreignisse::Alle().Ende(); ++i)
+            arten.push_back(modEreignisse::Alle().Hole(i).art);
+        return arten;
     }
     QStringList Dateien() const { return QDir(ordner.path()).entryList(QDir::Files, QDir::Name); }
     std::string Inhalt(const QString& name) const {
@@ -100,6 +135,8 @@ protected:
     Messspeicher speicher{{}, Zeit{}};
     int verlangt = 0;
     std::vector<bool> gemeldet;
+    std::shared_ptr<pruefung::PruefAblage> ablage; ///< in place of the folder
+    Speichersicherung::Schreiber schreibe;         ///< in place of the folder
     std::unique_ptr<Aufzeichnungsablauf> ablauf;
 };
 
@@ -177,6 +214,7 @@ TEST_F(AufzeichnungsablaufTest, The_mark_is_there_while_it_records_and_leads_to_
     Ablauf().Schalte();
     EXPECT_TRUE(Marke().isVisible());
     EXPECT_TRUE(Marke().text().startsWith("Recording 00:00:0"));
+    EXPECT_FALSE(Marke().text().contains("waiting:"));
     EXPECT_EQ(Marke().accessibleName(), Marke().text());
     Marke().click();
     EXPECT_EQ(verlangt, 1);
@@ -295,23 +333,113 @@ TEST_F(AufzeichnungsablaufTest, The_flight_recorder_needs_all_parts_when_that_is
 }
 
 TEST_F(AufzeichnungsablaufTest, The_last_minutes_of_memory_are_saved_as_a_record) {
-    for (int i = 1; i <= 1200; ++i) {
-        Messdurchgang durchgang;
-        durchgang.uhr = std::chrono::seconds(i);
-        durchgang.anzahlTeile = 1;
-        speicher.Nimm(durchgang);
-    }
-    SetzeDateiantwort([this](const Dateifrage&) { return ordner.filePath("saved.vrec").toStdString(); });
+    FuelleSpeicher();
     Ablauf().Zeige();
     EXPECT_EQ(Im<QLabel>("lblImSpeicher").text(), "In memory: 00:19:59");
-    Im<QPushButton>("cmdSichern").click();
+    SichereSpeicher();
+    ASSERT_TRUE(Bis([&] { return Letzte().find("Saved: ") == 0; }));
     Vrecleser leser(OeffneEingabe(ordner.filePath("saved.vrec").toStdString()).datei);
     while (leser.Arbeite()) {
     }
     EXPECT_EQ(leser.Zustand().befund, Vrecbefund::Gut);
     EXPECT_GE(leser.Zustand().durchgaenge, 600U);
     EXPECT_LE(leser.Zustand().durchgaenge, 603U);
-    EXPECT_TRUE(Im<QLabel>("lblZuletzt").text().contains("saved.vrec"));
+    EXPECT_THAT(Letzte(), HasSubstr("saved.vrec"));
+}
+
+TEST_F(AufzeichnungsablaufTest,
+       While_a_slow_disk_takes_the_memory_the_window_answers_and_says_how_far_it_is) {
+    std::binary_semaphore platte(0);
+    schreibe = [&](const std::string&, std::string_view) {
+        platte.acquire();
+        return std::string();
+    };
+    FuelleSpeicher();
+    SichereSpeicher();
+    EXPECT_EQ(Im<QLabel>("lblImSpeicher").text(), "Memory is being saved: 0 %");
+    EXPECT_FALSE(Im<QPushButton>("cmdSichern").isEnabled());
+    EXPECT_TRUE(Bis([&] { return Im<QLabel>("lblImSpeicher").text() == "Memory is being saved: 100 %"; }));
+    platte.release();
+    EXPECT_TRUE(Bis([&] { return Letzte().find("Saved: ") == 0; }));
+    EXPECT_TRUE(Im<QPushButton>("cmdSichern").isEnabled());
+    EXPECT_EQ(Im<QLabel>("lblImSpeicher").text(), "In memory: 00:19:59");
+}
+
+TEST_F(AufzeichnungsablaufTest, What_was_saved_stays_told_behind_an_earlier_recording) {
+    Ablauf().Schalte();
+    Ablauf().Schalte();
+    FuelleSpeicher();
+    SichereSpeicher();
+    ASSERT_TRUE(Bis([&] { return Letzte().find("Saved: ") == 0; }));
+    umgebung.ErledigeAufgeschobenes();
+    EXPECT_FALSE(WarteBis(
+        [&] {
+            umgebung.ErledigeAufgeschobenes();
+            return Letzte().find("Saved: ") != 0;
+        },
+        1200))
+        << "two looks later";
+}
+
+TEST_F(AufzeichnungsablaufTest, A_disk_that_takes_no_more_of_the_memory_is_told_in_a_message) {
+    schreibe = [](const std::string&, std::string_view) { return std::string("No room."); };
+    FuelleSpeicher();
+    SichereSpeicher();
+    ASSERT_TRUE(Bis([&] { return !umgebung.meldungen.empty(); }));
+    EXPECT_THAT(umgebung.meldungen.front().text, HasSubstr("No room."));
+    EXPECT_THAT(umgebung.meldungen.front().text, HasSubstr("saved.vrec"));
+    EXPECT_EQ(Letzte(), "");
+    EXPECT_TRUE(Bis([&] { return Im<QPushButton>("cmdSichern").isEnabled(); }));
+}
+
+TEST_F(AufzeichnungsablaufTest, The_end_of_the_program_finishes_the_saving_of_the_memory) {
+    FuelleSpeicher();
+    SichereSpeicher();
+    Ablauf().Schliesse();
+    EXPECT_TRUE(QFile::exists(ordner.filePath("saved.vrec")));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(AufzeichnungsablaufTest, Disks_that_never_answer_hold_up_the_end_of_the_program_for_seconds_only) {
+    ablage = std::make_shared<pruefung::PruefAblage>();
+    const auto platte = std::make_shared<std::binary_semaphore>(0);
+    schreibe = [platte](const std::string&, std::string_view) {
+        platte->acquire();
+        return std::string();
+    };
+    FuelleSpeicher();
+    SichereSpeicher();
+    Ablauf().Schalte();
+    ablage->Halte();
+    MeldeDurchgang(1);
+    ASSERT_TRUE(WarteBis([&] { return ablage->HaeltJemanden(); }));
+    MeldeDurchgang(2);
+    QElapsedTimer vergangen;
+    vergangen.start();
+    Ablauf().Schliesse();
+    EXPECT_LT(vergangen.elapsed(), 10'000);
+    EXPECT_THAT(umgebung.statustexte[0], HasSubstr("is not written to its end"));
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_THAT(umgebung.meldungen.front().text, HasSubstr("The disk does not answer."));
+    EXPECT_THAT(Ereignisarten(),
+                ElementsAre(Ereignisart::AufzeichnungBegonnen, Ereignisart::Verworfen,
+                            Ereignisart::AufzeichnungOhnePlatz, Ereignisart::AufzeichnungBeendet));
+    ablage->LasseLos();
+    platte->release();
+    EXPECT_TRUE(WarteBis([&] { return ablage->AllesGeschlossen(); })) << "the thread has come back";
+}
+
+TEST_F(AufzeichnungsablaufTest, Its_end_is_an_event_with_its_passes_and_duration) {
+    Ablauf().Schalte();
+    MeldeDurchgang(1);
+    MeldeDurchgang(2);
+    minuten = 5;
+    Ablauf().Schalte();
+    const Ereignis& ende = modEreignisse::Alle().Hole(modEreignisse::Alle().Ende() - 1);
+    EXPECT_EQ(ende.art, Ereignisart::AufzeichnungBeendet);
+    EXPECT_EQ(ende.anzahl, 2U);
+    EXPECT_GE(ende.dauer, std::chrono::minutes(5));
+    EXPECT_THAT(ende.text, HasSubstr(".csv"));
 }
 
 TEST_F(AufzeichnungsablaufTest, While_memory_is_empty_there_is_nothing_to_save) {

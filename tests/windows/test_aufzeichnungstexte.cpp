@@ -46,6 +46,7 @@ TEST(Aufzeichnungstexte, A_name_holds_serial_number_date_and_time_in_letters_tha
     const Ortszone zone("CET-1");
     const Systemzeit zeit = std::chrono::sys_days(std::chrono::year(2026) / 3 / 1) + 13h + 5min + 9s;
     EXPECT_EQ(Aufzeichnungsname("VN-10/2 ä", zeit), "VN-10_2____2026-03-01_14-05-09");
+    EXPECT_EQ(Aufzeichnungsname("09AZaz-", zeit), "09AZaz-_2026-03-01_14-05-09");
     EXPECT_EQ(Aufzeichnungsname("", zeit), "Varnoth_2026-03-01_14-05-09");
     EXPECT_EQ(Aufzeichnungsname("../../x", zeit), "______x_2026-03-01_14-05-09");
     EXPECT_EQ(Aufzeichnungsname(std::string(500, 'a'), zeit).size(), 60U);

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -81,6 +82,12 @@ protected:
         return *element;
     }
     void Klicke(const char* name) { Kind<QPushButton>(name).click(); }
+    /// Types into the field for the time and presses Enter.
+    void Tippe(const char* text) {
+        auto& feld = Kind<QLineEdit>("txtZeit");
+        feld.setText(QString::fromUtf8(text));
+        QTest::keyClick(&feld, Qt::Key_Return);
+    }
     Zeit Position() { return steuerung.stand->Position(); }
     Zeitleiste& Leiste() { return Kind<Zeitleiste>("zltAufzeichnung"); }
     std::string Meldung() { return Kind<QLabel>("lblMeldung").text().toStdString(); }
@@ -216,6 +223,49 @@ TEST_F(FrmWiedergabeTest, Notes_and_changes_are_seen_on_the_time_line) {
     ASSERT_TRUE(WarteBis([&] { return Leiste().grab().toImage() != ohne; })) << "the flag of the note";
 }
 
+TEST_F(FrmWiedergabeTest, A_time_of_day_that_is_typed_is_jumped_to) {
+    Tippe("15:43:30,5");
+    EXPECT_EQ(Position(), 12'500ms);
+    EXPECT_EQ(steuerung.gezeigt.back(), 12'500ms);
+    Tippe("22.11.2026 15:44");
+    EXPECT_EQ(Position(), 42s);
+    EXPECT_EQ(Meldung(), "");
+}
+
+TEST_F(FrmWiedergabeTest, What_is_no_time_or_not_in_the_record_is_told_and_the_replay_stays_where_it_is) {
+    Tippe("15:43:30");
+    Tippe("<b>halb</b> drei");
+    EXPECT_EQ(Meldung(), "„<b>halb</b> drei“ ist keine Uhrzeit wie 14:05:30 oder 22.11.2026 14:05.");
+    Tippe("16:00");
+    EXPECT_EQ(Meldung(), "Die Aufzeichnung reicht nur von 22.11.2026 15:43:18 bis 15:44:17.");
+    EXPECT_EQ(Position(), 12s);
+    QTest::keyClick(&Kind<QLineEdit>("txtZeit"), Qt::Key_1);
+    EXPECT_EQ(Meldung(), "") << "it is being corrected";
+}
+
+TEST_F(FrmWiedergabeTest,
+       What_is_wrong_with_a_time_that_was_typed_stays_told_where_there_is_nothing_to_be_seen) {
+    steuerung.stand->GeheZu(59'950ms, umgebung.uhr);
+    leiste->Folge();
+    ASSERT_EQ(Meldung(), LadeText(6526));
+    Tippe("x");
+    leiste->Folge();
+    EXPECT_NE(Meldung().find("„x“ ist keine Uhrzeit"), std::string::npos);
+    Klicke("cmdDurchgangZurueck");
+    EXPECT_EQ(Meldung(), "");
+}
+
+TEST_F(FrmWiedergabeTest, The_field_for_the_time_is_reached_with_the_keyboard_and_has_a_name) {
+    auto& feld = Kind<QLineEdit>("txtZeit");
+    leiste->activateWindow();
+    ASSERT_TRUE(WarteBis([&] { return leiste->isActiveWindow(); }));
+    Kind<QComboBox>("cboTempo").setFocus();
+    QTest::keyClick(&Kind<QComboBox>("cboTempo"), Qt::Key_Tab);
+    EXPECT_TRUE(feld.hasFocus());
+    EXPECT_EQ(Kind<QLabel>("lblZeit").text(), "Zur Uhrzeit");
+    EXPECT_EQ(Kind<QLabel>("lblZeit").buddy(), &feld);
+}
+
 TEST_F(FrmWiedergabeTest, Leaves_and_leads_to_the_record_s_configuration) {
     for (const char* name :
          {"mnuAufzeichnungBericht", "mnuAufzeichnungVergleich", "mnuAufzeichnungSpeichern"})
@@ -249,6 +299,14 @@ TEST(WiedergabeworteTest, Times_are_told_as_a_reader_writes_them) {
     EXPECT_EQ(Laufzeittext(-5s), "0:00,0");
     const Messangaben angaben{.beginn = Systemzeit(0s), .zoneMinuten = -90};
     EXPECT_EQ(Zeitworte(angaben, 1'500ms), "31.12.1969 22:30:01,500");
+}
+
+TEST(WiedergabeworteTest, The_span_of_a_record_names_the_day_of_its_end_where_that_is_another) {
+    const Messangaben angaben{.beginn = Systemzeit(0s)};
+    EXPECT_EQ(Spannentext(angaben, {0s, 90s}),
+              "Die Aufzeichnung reicht nur von 01.01.1970 00:00:00 bis 00:01:30.");
+    EXPECT_EQ(Spannentext(angaben, {0s, 25h}),
+              "Die Aufzeichnung reicht nur von 01.01.1970 00:00:00 bis 02.01.1970 01:00:00.");
 }
 
 TEST(WiedergabeworteTest, Every_event_has_words_of_its_own) {

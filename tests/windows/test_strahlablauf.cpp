@@ -67,6 +67,13 @@ protected:
             Sobald("frmKonfigurationEdit", [](QDialog& editor) { editor.reject(); });
             dialog.findChild<QPushButton*>(knopf)->click();
         });
+        QTimer::singleShot(20'000, &Fenster(), [] {
+            auto* const offener = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (offener == nullptr)
+                return;
+            ADD_FAILURE() << offener->objectName().toStdString() << " waits in vain";
+            offener->reject();
+        });
         Vorschlag()->click();
         Fenster().MenuAusführen();
     }
