@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 
 namespace varnoth {
@@ -68,7 +69,7 @@ protected:
         werte.assign(anzahl, -1);
         return RTUModeH03LeseAnforderung(adresse, anzahl, werte);
     }
-    long Fragen() const { return std::ranges::count_if(port.gesendet, IstFrage); }
+    std::ptrdiff_t Fragen() const { return std::ranges::count_if(port.gesendet, IstFrage); }
     /// The line does not become quiet for so long.
     void Rede(Zeit dauer) {
         port.eingang = "U";
@@ -299,7 +300,7 @@ TEST_F(VerwechslungTest, The_start_state_forgets_what_is_open) {
     RTUModeH11IndentifikationsAnforderung();
     verlorene[Nummer() + 1] = true;
     EXPECT_EQ(Lies(Strahlen), False);
-    const long bisher = Fragen();
+    const std::ptrdiff_t bisher = Fragen();
     const Startzustand anfang;
     SetzeUmgebung(&umgebung);
     modSchnittstelle::SetzePort(&port);

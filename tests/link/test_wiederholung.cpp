@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <set>
@@ -124,7 +125,7 @@ protected:
         for (const auto& [adresse, werte] : uebernommen)
             EXPECT_EQ(werte, std::vector<std::int32_t>{1000 + adresse}) << adresse;
     }
-    long Kennungen() const {
+    std::ptrdiff_t Kennungen() const {
         return std::ranges::count_if(port.gesendet, [](const std::string& a) { return a.at(1) == 0x11; }) - 2;
     }
 
