@@ -9,8 +9,16 @@ namespace varnoth {
 
 namespace {
 
+#ifdef Q_OS_WIN
+// A round that takes the message that events were posted leaves these to the next round, which serves them
+// before it looks for anything else and does not count them: it would sleep right behind them.
+constexpr bool LaesstUebrig = true;
+#else
+constexpr bool LaesstUebrig = false;
+#endif
+
 /// Runs what is pending; gives whether there was anything.
-bool LaufeEinmal(QEventLoop::ProcessEventsFlags wie = QEventLoop::AllEvents) {
+bool LaufeEinmal(QEventLoop::ProcessEventsFlags wie) {
     QAbstractEventDispatcher* verteiler = QThread::currentThread()->eventDispatcher();
     return verteiler != nullptr && verteiler->processEvents(wie);
 }
@@ -28,7 +36,7 @@ Ereignispumpe::Ereignispumpe() {
 
 void Ereignispumpe::LaufeOhneAufgeschobenes() {
     const int vorher = std::exchange(gehalteneEbene, QThread::currentThread()->loopLevel());
-    LaufeEinmal();
+    Laufe();
     gehalteneEbene = vorher;
 }
 
@@ -36,8 +44,8 @@ void Ereignispumpe::LaufeMitAllem() {
     const int vorher = std::exchange(gehalteneEbene, Nie);
     Erledige();
     // What the first round sets, the second paints.
-    if (LaufeEinmal())
-        LaufeEinmal();
+    if (Laufe())
+        Laufe();
     gehalteneEbene = vorher;
 }
 
@@ -45,13 +53,21 @@ void Ereignispumpe::WarteAufEreignis(Zeit hoechstens) {
     const int vorher = std::exchange(gehalteneEbene, Nie);
     if (HatAufgeschobenes()) {
         Erledige();
-        LaufeEinmal();
+        Laufe();
+    } else if (uebrig) {
+        Laufe();
     } else {
         wecker.start(std::chrono::floor<std::chrono::milliseconds>(hoechstens));
-        LaufeEinmal(QEventLoop::WaitForMoreEvents);
+        Laufe(QEventLoop::WaitForMoreEvents);
         wecker.stop();
     }
     gehalteneEbene = vorher;
+}
+
+bool Ereignispumpe::Laufe(QEventLoop::ProcessEventsFlags wie) {
+    const bool gelaufen = LaufeEinmal(wie);
+    uebrig = LaesstUebrig && gelaufen;
+    return gelaufen;
 }
 
 void Ereignispumpe::SchiebeAuf(std::function<void()> arbeit) {

@@ -2,6 +2,7 @@
 
 #include "umgebung.h"
 
+#include <QEventLoop>
 #include <QObject>
 #include <QTimer>
 
@@ -36,9 +37,11 @@ public:
 private:
     static constexpr int Nie = -1;
 
+    bool Laufe(QEventLoop::ProcessEventsFlags wie = QEventLoop::AllEvents);
     void NutzeRunde();
     void Erledige();
 
+    bool uebrig = false;      // the last round may have left events that it has heard of
     int gehalteneEbene = Nie; // the depth of event loops at which work stays put off
     std::vector<std::function<void()>> aufgeschobenes;
     QTimer wecker;
