@@ -1,9 +1,13 @@
 #include "leitungsport.h"
 
 #include "feinschlaf.h"
+#include "geraetebefund.h"
 #include "geraetepfade.h"
+#include "portbenutzer.h"
+#include "verbindungsauskunft.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace varnoth {
 
@@ -20,8 +24,42 @@ void Leitungsport::SetzeGeraet(const std::string& pfad) {
     genanntes = pfad;
 }
 
+/// The device that a number means.
 std::string Leitungsport::Pfad(int nummer) const {
     return genanntes.empty() ? Geraetepfad(nummer) : genanntes;
+}
+
+bool Leitungsport::Oeffne(int nummer, const std::string& einstellungen) {
+    Schliesse();
+    const auto gelesen = LiesPorteinstellungen(einstellungen);
+    falscheEinstellung.reset();
+    if (!gelesen)
+        falscheEinstellung = einstellungen;
+    return gelesen && OeffneLeitung(Pfad(nummer), *gelesen);
+}
+
+std::string Leitungsport::Fehlertext() const {
+    return falscheEinstellung ? KeinLeitungsformat(*falscheEinstellung) : Oeffnungsfehler();
+}
+
+Portbefund Leitungsport::BefundVon(int nummer) const {
+    if (falscheEinstellung)
+        return {.hindernis = Hindernis::Einstellung};
+    const std::string pfad = Pfad(nummer);
+    Portbefund befund = BefundDesGeraets(pfad);
+    befund.prozesse = ProzesseAn(pfad);
+    if (befund.hindernis == Hindernis::Keines)
+        befund.hindernis = Oeffnungshindernis();
+    return befund;
+}
+
+void Leitungsport::SetzeEreignisbehandlung(std::function<void(int)> behandlung) {
+    ereignisbehandlung = std::move(behandlung);
+}
+
+void Leitungsport::MeldeUeberlauf() const {
+    if (ereignisbehandlung)
+        ereignisbehandlung(EreignisEmpfangspufferUeberlauf);
 }
 
 Anschluss Leitungsport::AnschlussVon(int nummer) const {

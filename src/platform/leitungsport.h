@@ -1,7 +1,10 @@
 #pragma once
 
+#include "porteinstellungen.h"
 #include "seriellerport.h"
 
+#include <functional>
+#include <optional>
 #include <string>
 
 namespace varnoth {
@@ -12,19 +15,30 @@ namespace varnoth {
 class Leitungsport : public SeriellerPort {
 public:
     void SetzeGeraet(const std::string& pfad) override;
+    bool Oeffne(int nummer, const std::string& einstellungen) override;
     bool IstOffen() override;
+    std::string Fehlertext() const override;
     Anschluss AnschlussVon(int nummer) const override;
+    Portbefund BefundVon(int nummer) const override;
 
     void Schreibe(std::string_view bytes) override;
     void WarteAufEingang(Zeit hoechstens) override;
     void Schlafe(Zeit hoechstens) override;
 
+    void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
+
 protected:
     /// While a reply comes in, window events are served this often.
     static constexpr Zeit Fensterblick = std::chrono::milliseconds(4);
 
-    /// The device that a number means.
-    std::string Pfad(int nummer) const;
+    /// Opens the line of a device; the port is closed. Gives whether it is open, and remembers why not.
+    virtual bool OeffneLeitung(const std::string& pfad, const Porteinstellungen& einstellungen) = 0;
+    /// Why the last opening of a line failed, in the current language; empty when it has not.
+    virtual std::string Oeffnungsfehler() const = 0;
+    /// The same as what stands in the way, where the device's path and rights are in order.
+    virtual Hindernis Oeffnungshindernis() const = 0;
+    /// The input buffer has overflowed.
+    void MeldeUeberlauf() const;
 
     /// Whether the port is open, as far as it has noticed.
     virtual bool IstAuf() const = 0;
@@ -44,11 +58,14 @@ protected:
     virtual bool SchlafeAnDerLeitung(Zeit hoechstens) = 0;
 
 private:
+    std::string Pfad(int nummer) const;
     void UebergibUndMale();
     void SchaueNachDemFenster();
     void Schlummere(Zeit hoechstens);
 
     std::string genanntes; // the device that all numbers mean; empty: what the settings say
+    std::optional<std::string> falscheEinstellung; // the settings string that is no line format
+    std::function<void(int)> ereignisbehandlung;
     Zeit naechsterFensterblick{0};
     Zeit naechsterLeitungsblick{0};
 };

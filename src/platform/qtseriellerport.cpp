@@ -1,10 +1,6 @@
 #include "qtseriellerport.h"
 
-#include "geraetebefund.h"
-#include "portbenutzer.h"
-#include "porteinstellungen.h"
 #include "systemfehler.h"
-#include "verbindungsauskunft.h"
 
 #include <poll.h>
 #include <sys/ioctl.h>
@@ -15,7 +11,6 @@
 #include <array>
 #include <cerrno>
 #include <future>
-#include <utility>
 
 namespace varnoth {
 
@@ -110,19 +105,12 @@ QtSeriellerPort::QtSeriellerPort() {
     QObject::connect(&port, &QSerialPort::readyRead, &port, [this] { BeiEingang(); });
 }
 
-bool QtSeriellerPort::Oeffne(int nummer, const std::string& einstellungen) {
-    Schliesse();
-    const auto gelesen = LiesPorteinstellungen(einstellungen);
-    falscheEinstellung.reset();
-    if (!gelesen) {
-        falscheEinstellung = einstellungen;
-        return false;
-    }
-    port.setPortName(QString::fromStdString(Pfad(nummer)));
-    Stelle(port, *gelesen);
-    const bool offen = OeffneAlsEinziger(Pfad(nummer));
+bool QtSeriellerPort::OeffneLeitung(const std::string& pfad, const Porteinstellungen& einstellungen) {
+    port.setPortName(QString::fromStdString(pfad));
+    Stelle(port, einstellungen);
+    const bool offen = OeffneAlsEinziger(pfad);
     marken.Vergiss();
-    markiert = offen && gelesen->paritaet != Paritaet::Keine && MarkiereGebrochene(port);
+    markiert = offen && einstellungen.paritaet != Paritaet::Keine && MarkiereGebrochene(port);
     if (offen)
         SchalteLeitungenEin();
     return offen;
@@ -145,9 +133,7 @@ bool QtSeriellerPort::OeffneAlsEinziger(const std::string& pfad) {
     return offen;
 }
 
-std::string QtSeriellerPort::Fehlertext() const {
-    if (falscheEinstellung)
-        return KeinLeitungsformat(*falscheEinstellung);
+std::string QtSeriellerPort::Oeffnungsfehler() const {
     return fehlernummer == 0 ? std::string() : Systemfehler(fehlernummer);
 }
 
@@ -172,19 +158,7 @@ bool QtSeriellerPort::LeitungIstWeg() {
     return ::poll(&anschluss, 1, 0) > 0 && IstWeg(anschluss.revents);
 }
 
-Portbefund QtSeriellerPort::BefundVon(int nummer) const {
-    if (falscheEinstellung)
-        return {.hindernis = Hindernis::Einstellung};
-    const std::string pfad = Pfad(nummer);
-    Portbefund befund = BefundDesGeraets(pfad);
-    befund.prozesse = ProzesseAn(pfad);
-    if (befund.hindernis == Hindernis::Keines)
-        befund.hindernis = HindernisNachFehler();
-    return befund;
-}
-
-/// What the failure of opening tells where nothing is wrong with the device's path and rights.
-Hindernis QtSeriellerPort::HindernisNachFehler() const {
+Hindernis QtSeriellerPort::Oeffnungshindernis() const {
     switch (oeffnungsfehler) {
     case QSerialPort::NoError:
         return Hindernis::Keines;
@@ -256,10 +230,6 @@ bool QtSeriellerPort::LeereSender(Zeit hoechstens) {
     return !port.isOpen() || LeereTreiber(port, ende);
 }
 
-void QtSeriellerPort::SetzeEreignisbehandlung(std::function<void(int)> behandlung) {
-    ereignisbehandlung = std::move(behandlung);
-}
-
 void QtSeriellerPort::BeiFehler(QSerialPort::SerialPortError fehler) {
     if (fehler == QSerialPort::NoError || leitungenWerdenGeschaltet)
         return;
@@ -267,8 +237,8 @@ void QtSeriellerPort::BeiFehler(QSerialPort::SerialPortError fehler) {
 }
 
 void QtSeriellerPort::BeiEingang() {
-    if (BytesWartend() >= Eingabepuffergroesse && ereignisbehandlung)
-        ereignisbehandlung(EreignisEmpfangspufferUeberlauf);
+    if (BytesWartend() >= Eingabepuffergroesse)
+        MeldeUeberlauf();
 }
 
 } // namespace varnoth

@@ -1,10 +1,7 @@
 #include "windowsport.h"
 
 #include "feinschlaf.h"
-#include "geraetebefund.h"
-#include "porteinstellungen.h"
 #include "systemfehler.h"
-#include "verbindungsauskunft.h"
 #include "windowsfehler.h"
 #include "windowsgeraet.h"
 #include "windowsworte.h"
@@ -15,15 +12,8 @@
 
 namespace varnoth {
 
-bool WindowsPort::Oeffne(int nummer, const std::string& einstellungen) {
-    Schliesse();
-    const auto gelesen = LiesPorteinstellungen(einstellungen);
-    falscheEinstellung.reset();
-    if (!gelesen) {
-        falscheEinstellung = einstellungen;
-        return false;
-    }
-    oeffnungsfehler = leitung.Oeffne(WindowsgeraetPfad(Pfad(nummer)), WerteFuer(*gelesen));
+bool WindowsPort::OeffneLeitung(const std::string& pfad, const Porteinstellungen& einstellungen) {
+    oeffnungsfehler = leitung.Oeffne(WindowsgeraetPfad(pfad), WerteFuer(einstellungen));
     return leitung.IstOffen();
 }
 
@@ -32,10 +22,8 @@ void WindowsPort::Schliesse() {
     eingang.clear();
 }
 
-std::string WindowsPort::Fehlertext() const {
-    if (falscheEinstellung)
-        return KeinLeitungsformat(*falscheEinstellung);
-    switch (HindernisNachOeffnen(oeffnungsfehler)) {
+std::string WindowsPort::Oeffnungsfehler() const {
+    switch (Oeffnungshindernis()) {
     case Hindernis::Keines:
         return {};
     case Hindernis::Fehlt:
@@ -47,13 +35,8 @@ std::string WindowsPort::Fehlertext() const {
     }
 }
 
-Portbefund WindowsPort::BefundVon(int nummer) const {
-    if (falscheEinstellung)
-        return {.hindernis = Hindernis::Einstellung};
-    Portbefund befund = BefundDesGeraets(Pfad(nummer));
-    if (befund.hindernis == Hindernis::Keines)
-        befund.hindernis = HindernisNachOeffnen(oeffnungsfehler);
-    return befund;
+Hindernis WindowsPort::Oeffnungshindernis() const {
+    return HindernisNachOeffnen(oeffnungsfehler);
 }
 
 /// At the first sign: a driver whose device is gone gives one error after the other.
@@ -70,14 +53,9 @@ bool WindowsPort::LeitungIstWeg() {
 void WindowsPort::HoleBytes() {
     if (eingang.size() < Eingabepuffergroesse)
         eingang += leitung.Lies();
-    MeldeUeberlauf();
+    if (leitung.NimmUeberlauf() || eingang.size() >= Eingabepuffergroesse)
+        MeldeUeberlauf();
     SchliesseVerlorene();
-}
-
-void WindowsPort::MeldeUeberlauf() {
-    const bool voll = leitung.NimmUeberlauf() || eingang.size() >= Eingabepuffergroesse;
-    if (voll && ereignisbehandlung)
-        ereignisbehandlung(EreignisEmpfangspufferUeberlauf);
 }
 
 void WindowsPort::Verwirf() {
@@ -121,10 +99,6 @@ bool WindowsPort::LeereSender(Zeit hoechstens) {
     }
     SchliesseVerlorene();
     return true;
-}
-
-void WindowsPort::SetzeEreignisbehandlung(std::function<void(int)> behandlung) {
-    ereignisbehandlung = std::move(behandlung);
 }
 
 } // namespace varnoth

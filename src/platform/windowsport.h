@@ -3,8 +3,6 @@
 #include "comleitung.h"
 #include "leitungsport.h"
 
-#include <optional>
-
 namespace varnoth {
 
 /// A serial port of Windows, which the system opens for one process alone. A line that disappears closes the
@@ -12,18 +10,17 @@ namespace varnoth {
 /// is wrong.
 class WindowsPort : public Leitungsport {
 public:
-    bool Oeffne(int nummer, const std::string& einstellungen) override;
     void Schliesse() override;
-    std::string Fehlertext() const override;
-    Portbefund BefundVon(int nummer) const override;
 
     void Verwirf() override;
     std::size_t BytesWartend() override;
     std::string LiesAlles() override;
     bool LeereSender(Zeit hoechstens) override;
-    void SetzeEreignisbehandlung(std::function<void(int ereignis)> behandlung) override;
 
 private:
+    bool OeffneLeitung(const std::string& pfad, const Porteinstellungen& einstellungen) override;
+    std::string Oeffnungsfehler() const override;
+    Hindernis Oeffnungshindernis() const override;
     bool IstAuf() const override { return leitung.IstOffen(); }
     bool LeitungIstWeg() override;
     void Sende(std::string_view bytes) override;
@@ -34,13 +31,10 @@ private:
 
     void SchliesseVerlorene();
     void HoleBytes();
-    void MeldeUeberlauf();
 
     Comleitung leitung;
     std::string eingang; // what has come and was not asked for yet; drivers hold less than the buffer's size
-    std::function<void(int)> ereignisbehandlung;
-    std::optional<std::string> falscheEinstellung; // the settings string that is no line format
-    unsigned long oeffnungsfehler = 0;             // of the system, why the last opening failed
+    unsigned long oeffnungsfehler = 0; // of the system, why the last opening failed
 };
 
 } // namespace varnoth

@@ -10,6 +10,7 @@ namespace varnoth {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
@@ -19,15 +20,19 @@ class Probeleitung : public Leitungsport {
 public:
     explicit Probeleitung(pruefung::PruefUmgebung& welt) : umgebung(welt) {}
 
-    bool Oeffne(int /*nummer*/, const std::string& /*einstellungen*/) override { return offen = true; }
     void Schliesse() override { offen = false; }
-    std::string Fehlertext() const override { return {}; }
     void Verwirf() override { imSystem = 0; }
     std::size_t BytesWartend() override { return gelesen + imSystem; }
     std::string LiesAlles() override { return {}; }
     bool LeereSender(Zeit /*hoechstens*/) override { return true; }
-    void SetzeEreignisbehandlung(std::function<void(int ereignis)> /*behandlung*/) override {}
 
+    bool OeffneLeitung(const std::string& pfad, const Porteinstellungen& einstellungen) override {
+        geoeffnet.push_back(pfad + " " + std::to_string(einstellungen.baud));
+        return offen = true;
+    }
+    std::string Oeffnungsfehler() const override { return "line failed"; }
+    Hindernis Oeffnungshindernis() const override { return Hindernis::Belegt; }
+    using Leitungsport::MeldeUeberlauf;
     bool IstAuf() const override { return offen; }
     bool LeitungIstWeg() override {
         ++fragen;
@@ -52,6 +57,7 @@ public:
     std::size_t imSystem = 0;
     std::string gesendet;
     std::vector<Zeit> geschlafen;
+    std::vector<std::string> geoeffnet;
 };
 
 } // namespace
@@ -65,6 +71,33 @@ protected:
     pruefung::PruefUmgebung umgebung;
     Probeleitung port{umgebung};
 };
+
+TEST_F(LeitungsportTest, The_device_that_is_named_is_opened_with_the_format_of_the_settings) {
+    port.SetzeGeraet("a device");
+    EXPECT_TRUE(port.Oeffne(2, "19200,e,8,1"));
+    EXPECT_THAT(port.geoeffnet, ElementsAre("a device 19200"));
+    EXPECT_EQ(port.Fehlertext(), "line failed");
+}
+
+TEST_F(LeitungsportTest, A_format_that_is_none_opens_nothing_and_is_told_until_the_next_opening) {
+    port.SetzeGeraet("a device");
+    EXPECT_FALSE(port.Oeffne(1, "fast"));
+    EXPECT_FALSE(port.offen);
+    EXPECT_THAT(port.geoeffnet, IsEmpty());
+    EXPECT_THAT(port.Fehlertext(), HasSubstr("fast"));
+    EXPECT_EQ(port.BefundVon(1).hindernis, Hindernis::Einstellung);
+    EXPECT_TRUE(port.Oeffne(1, "38400,n,8,2"));
+    EXPECT_EQ(port.Fehlertext(), "line failed");
+    EXPECT_NE(port.BefundVon(1).hindernis, Hindernis::Einstellung);
+}
+
+TEST_F(LeitungsportTest, An_overflow_is_told_to_who_wants_to_hear_of_it) {
+    port.MeldeUeberlauf();
+    int gehoert = 0;
+    port.SetzeEreignisbehandlung([&gehoert](int ereignis) { gehoert = ereignis; });
+    port.MeldeUeberlauf();
+    EXPECT_EQ(gehoert, EreignisEmpfangspufferUeberlauf);
+}
 
 TEST_F(LeitungsportTest, The_line_is_asked_once_a_millisecond_whether_it_is_still_there) {
     for (int i = 0; i < 5; ++i)
