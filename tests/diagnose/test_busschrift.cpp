@@ -1,15 +1,13 @@
 #include "busschrift.h"
 
 #include "busprobe.h"
+#include "ortszone.h"
 #include "pruefgeraet.h"
 #include "rahmen.h"
 #include "texte.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <ctime>
 
 namespace varnoth {
 
@@ -20,11 +18,6 @@ using testing::StartsWith;
 /// A moment in a time zone of the test's own.
 class BusschriftTest : public testing::Test {
 protected:
-    BusschriftTest() {
-        setenv("TZ", "UTC", 1); // NOLINT(concurrency-mt-unsafe): one thread
-        tzset();
-    }
-
     static std::string Zeile(Busformat format, const Probe& probe) {
         using namespace std::chrono;
         return Schriftzeile(format, Austausch(probe),
@@ -36,6 +29,9 @@ protected:
                 .empfangen = pruefung::MitPruefsumme(
                     pruefung::Bytes({1, 0x11, static_cast<int>(text.size()) + 2, 7, 50}) + text)};
     }
+
+private:
+    Ortszone zone{"UTC"};
 };
 
 TEST_F(BusschriftTest, The_text_has_a_line_for_the_meaning_and_one_for_the_bytes) {
