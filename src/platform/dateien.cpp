@@ -25,20 +25,30 @@ QString Linkziel(const QString& pfad) {
     return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
 }
 
+constexpr QLatin1String Vorsilbe(".varnoth-");
+constexpr QLatin1String Nachsilbe(".neu");
+constexpr int Ziffern = 16;
+
 /// A name beside a file, free and not too long whatever the file is called.
 QString FreierName(const QString& ordner) {
     const quint64 zahl = QRandomGenerator::system()->generate64();
-    return QDir(ordner).filePath(QStringLiteral(".varnoth-%1.neu").arg(zahl, 16, 16, QLatin1Char('0')));
+    return QDir(ordner).filePath(
+        Vorsilbe + QString::number(zahl, 16).rightJustified(Ziffern, QLatin1Char('0')) + Nachsilbe);
+}
+
+bool IstUnserName(const QString& name) {
+    return name.size() == Vorsilbe.size() + Ziffern + Nachsilbe.size() && name.startsWith(Vorsilbe) &&
+           name.endsWith(Nachsilbe);
 }
 
 /// Removes what programs that died while they wrote have left in a folder. What is younger may be another
-/// program's that writes just now.
+/// program's that writes just now. Qt is given no pattern: it would leave with the thread something that
+/// brings the program down on Windows when a thread other than the window's ends.
 void EntferneReste(const QString& ordner) {
     constexpr qint64 mindestalter = 60;
-    const QString muster = QStringLiteral(".varnoth-") + QString(16, QLatin1Char('?')) + ".neu";
     const auto jetzt = QDateTime::currentDateTimeUtc();
-    for (const QFileInfo& rest : QDir(ordner).entryInfoList({muster}, QDir::Files | QDir::Hidden))
-        if (std::abs(rest.lastModified().secsTo(jetzt)) > mindestalter)
+    for (const QFileInfo& rest : QDir(ordner).entryInfoList(QDir::Files | QDir::Hidden))
+        if (IstUnserName(rest.fileName()) && std::abs(rest.lastModified().secsTo(jetzt)) > mindestalter)
             QFile::remove(rest.filePath());
 }
 

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace varnoth::simulator {
 
 namespace {
 
 /// End of the n-th character from `anfang` on, at 38400 baud.
-Zeit NachZeichen(Zeit anfang, long zeichen) {
+Zeit NachZeichen(Zeit anfang, std::int64_t zeichen) {
     return std::chrono::ceil<Zeit>(anfang + std::chrono::nanoseconds{zeichen * 11 * 1'000'000'000 / 38400});
 }
 
