@@ -33,11 +33,10 @@ std::string Zeitstempel(const Messangaben& angaben, Zeit laufzeit, char dezimal)
     const hh_mm_ss zeit{ort - tag};
     const int zone = std::abs(angaben.zoneMinuten);
     std::array<char, 48> puffer{};
-    std::snprintf(puffer.data(), puffer.size(), // NOLINT(cppcoreguidelines-pro-type-vararg)
-                  "%04d-%02u-%02uT%02d:%02d:%02d%c%03d%c%02d:%02d", static_cast<int>(datum.year()),
-                  static_cast<unsigned>(datum.month()), static_cast<unsigned>(datum.day()),
-                  static_cast<int>(zeit.hours().count()), static_cast<int>(zeit.minutes().count()),
-                  static_cast<int>(zeit.seconds().count()), dezimal,
+    std::snprintf(puffer.data(), puffer.size(), "%04d-%02u-%02uT%02d:%02d:%02d%c%03d%c%02d:%02d",
+                  static_cast<int>(datum.year()), static_cast<unsigned>(datum.month()),
+                  static_cast<unsigned>(datum.day()), static_cast<int>(zeit.hours().count()),
+                  static_cast<int>(zeit.minutes().count()), static_cast<int>(zeit.seconds().count()), dezimal,
                   static_cast<int>(zeit.subseconds().count()), angaben.zoneMinuten < 0 ? '-' : '+', zone / 60,
                   zone % 60);
     return puffer.data();
@@ -54,8 +53,11 @@ void Verlaufsschreiber::SchreibKopf() {
     const std::string einheit = wahl.millimeter ? " mm" : "";
     text = (deutsch ? Bom : "") + LadeText(TextZeit) + trenner + LadeText(TextSekunden);
     for (const Messreihe reihe : wahl.Reihen()) {
-        const std::string name = trenner + Reihenname(reihe) + einheit;
-        text += name + name + " " + LadeText(TextMinimum) + name + " " + LadeText(TextMaximum);
+        std::string name = trenner;
+        name.append(Reihenname(reihe)).append(einheit);
+        text += name;
+        for (const std::int16_t grenze : {TextMinimum, TextMaximum})
+            text.append(name).append(" ").append(LadeText(grenze));
     }
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         if (wahl.HatTeil(teil))
@@ -90,8 +92,8 @@ void Verlaufsschreiber::SchreibZeile(const Messangaben& angaben, const Messdurch
     const char trenner = deutsch ? ';' : ',';
     const auto ms = std::chrono::floor<std::chrono::milliseconds>(durchgang.uhr - spanne.von).count();
     std::array<char, 32> sekunden{};
-    std::snprintf(sekunden.data(), sekunden.size(), // NOLINT(cppcoreguidelines-pro-type-vararg)
-                  "%lld%c%03d", static_cast<long long>(ms / 1000), dezimal, static_cast<int>(ms % 1000));
+    std::snprintf(sekunden.data(), sekunden.size(), "%lld%c%03d", static_cast<long long>(ms / 1000), dezimal,
+                  static_cast<int>(ms % 1000));
     text += Zeitstempel(angaben, durchgang.uhr, '.') + trenner + sekunden.data();
     for (const Messreihe reihe : wahl.Reihen())
         SchreibWerte(durchgang, reihe);
@@ -109,10 +111,10 @@ void Verlaufsschreiber::SchreibZeile(const Messangaben& angaben, const Messdurch
 void Verlaufsschreiber::SchreibWerte(const Messdurchgang& durchgang, Messreihe reihe) {
     const Teilmessung& messung = durchgang.teile[static_cast<std::size_t>(reihe.teil)];
     for (int block = 0; block < 3; ++block) {
-        const auto stelle = static_cast<std::size_t>(block * AnzahlKurvenwerte + reihe.wert);
+        const int stelle = block * AnzahlKurvenwerte + reihe.wert;
         text += deutsch ? ';' : ',';
         if (messung.gemessen)
-            text += Zelle(reihe, messung.werte[stelle]);
+            text += Zelle(reihe, messung.werte[static_cast<std::size_t>(stelle)]);
     }
 }
 

@@ -31,7 +31,7 @@ std::string UeblichesGeraet(int nummer) {
 }
 
 std::string EingetragenesGeraet(int nummer) {
-    const std::string pfad = DieEinstellungen().LiesText(Abschnitt, Schluessel(nummer), "");
+    std::string pfad = DieEinstellungen().LiesText(Abschnitt, Schluessel(nummer), "");
 #ifdef Q_OS_WIN
     return Windowsgeraet(pfad); // as the list of ports calls it
 #else

@@ -89,10 +89,9 @@ std::vector<Sprungfund> FundeIn(const Messquelle& quelle, std::uint64_t nummer) 
     if (paket == nullptr)
         return funde;
     NimmEreignisse(*paket, funde);
-    std::optional<Messdurchgang> erster;
-    const Messdurchgang* vorher = nullptr;
-    if (!paket->durchgaenge.empty() && (erster = LetzterVor(quelle, nummer)))
-        vorher = &*erster;
+    const std::optional<Messdurchgang> davor =
+        paket->durchgaenge.empty() ? std::nullopt : LetzterVor(quelle, nummer);
+    const Messdurchgang* vorher = davor ? &*davor : nullptr;
     for (const Messdurchgang& durchgang : paket->durchgaenge) {
         if (vorher != nullptr)
             Vergleiche(*vorher, durchgang, funde);

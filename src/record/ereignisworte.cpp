@@ -249,7 +249,7 @@ std::string Haeufigkeitstext(const Ereignis& ereignis) {
     constexpr double KleinsteJeSekunde = 1, SekundenJeMinute = 60;
     if (!WirdGezaehlt(ereignis.art) || ereignis.anzahl < 2)
         return {};
-    const std::string zahl = std::to_string(ereignis.anzahl);
+    std::string zahl = std::to_string(ereignis.anzahl);
     if (ereignis.dauer == Zeit{})
         return zahl;
     const double rate = (ereignis.anzahl - 1) / Sekunden(ereignis.dauer);

@@ -8,7 +8,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::size_t ErstesMinimum = AnzahlKurvenwerte;
-constexpr std::size_t ErstesMaximum = 2 * AnzahlKurvenwerte;
+constexpr std::size_t ErstesMaximum = 2 * ErstesMinimum;
 // More packets than this are never read for one picture: the overview has to do.
 constexpr std::uint64_t MeistePakete = 4000;
 

@@ -56,20 +56,23 @@ bool Vrecleser::IstBrauchbar() const {
 
 void Vrecleser::PruefeKennung() {
     schritt = Schritt::Fertig;
-    std::array<char, vrec::LaengeKennung> bytes{};
-    const std::string_view kennung(bytes.data(), vrec::Kennung.size());
-    if (datei->Groesse() == 0)
-        zustand.befund = Vrecbefund::Leer;
-    else if (datei->Groesse() < bytes.size())
-        zustand.befund = Vrecbefund::KeineAufzeichnung;
-    else if (!datei->Lies(0, bytes))
-        zustand.befund = Vrecbefund::NichtLesbar;
-    else if (kennung != vrec::Kennung || bytes.back() == 0)
-        zustand.befund = Vrecbefund::KeineAufzeichnung;
-    else if (zustand.version = static_cast<std::uint8_t>(bytes.back()); zustand.version > vrec::Version)
-        zustand.befund = Vrecbefund::NeuereVersion;
-    else
+    zustand.befund = Kennungsbefund();
+    if (zustand.befund == Vrecbefund::Gut)
         SucheVerzeichnis();
+}
+
+Vrecbefund Vrecleser::Kennungsbefund() {
+    if (datei->Groesse() == 0)
+        return Vrecbefund::Leer;
+    std::array<char, vrec::LaengeKennung> bytes{};
+    const bool istLangGenug = datei->Groesse() >= bytes.size();
+    if (istLangGenug && !datei->Lies(0, bytes))
+        return Vrecbefund::NichtLesbar;
+    const std::string_view kennung(bytes.data(), vrec::Kennung.size());
+    if (!istLangGenug || kennung != vrec::Kennung || bytes.back() == 0)
+        return Vrecbefund::KeineAufzeichnung;
+    zustand.version = static_cast<std::uint8_t>(bytes.back());
+    return zustand.version > vrec::Version ? Vrecbefund::NeuereVersion : Vrecbefund::Gut;
 }
 
 void Vrecleser::SucheVerzeichnis() {

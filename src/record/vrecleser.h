@@ -68,6 +68,7 @@ private:
     };
 
     void PruefeKennung();
+    Vrecbefund Kennungsbefund();
     void SucheVerzeichnis();
     void LiesVerzeichnis();
     bool NimmVerzeichnis();

@@ -44,7 +44,7 @@ std::string Strichtext(const Messangaben& angaben, Zeit zeit, Zeit abstand) {
     constexpr std::size_t MitSekunden = 8;
     constexpr std::size_t OhneSekunden = 5;
     constexpr std::size_t Datum = 10;
-    const std::string uhr = Uhrzeitworte(angaben, zeit);
+    std::string uhr = Uhrzeitworte(angaben, zeit);
     if (abstand < 1s)
         return uhr;
     if (abstand < 1min)

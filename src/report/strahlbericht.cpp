@@ -33,6 +33,7 @@ std::string Strahlabschnitt(const Strahlbericht& bericht, std::int16_t sprache) 
     for (const std::string& verdacht : bericht.verdacht)
         abschnitt += Absatz(verdacht);
     std::vector<Zeile> zeilen;
+    zeilen.reserve(bericht.zeilen.size());
     for (const auto& zeile : bericht.zeilen)
         zeilen.push_back(AlsZeile(zeile));
     if (!zeilen.empty())

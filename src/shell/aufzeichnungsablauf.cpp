@@ -183,10 +183,10 @@ bool Aufzeichnungsablauf::Braucht(int /*teil*/) const {
 
 /// Whether the configuration in use has become another.
 bool Aufzeichnungsablauf::FolgeKonfiguration() {
-    Abbild jetzige = OhneMomentanes(modDaten::DasAbbild());
+    const Abbild jetzige = OhneMomentanes(modDaten::DasAbbild());
     if (konfiguration != nullptr && *konfiguration == jetzige)
         return false;
-    konfiguration = std::make_shared<const Abbild>(std::move(jetzige));
+    konfiguration = std::make_shared<const Abbild>(jetzige);
     return true;
 }
 

@@ -136,10 +136,10 @@ void Messablauf::MerkeGeraet() {
 
 /// Takes the configuration in use when it is another than before.
 void Messablauf::MerkeKonfiguration() {
-    Abbild jetzige = OhneMomentanes(modDaten::DasAbbild());
+    const Abbild jetzige = OhneMomentanes(modDaten::DasAbbild());
     if (std::exchange(hatKonfiguration, true) && jetzige == konfiguration)
         return;
-    konfiguration = std::move(jetzige);
+    konfiguration = jetzige;
     speicher.SetzeKonfiguration(modDaten::DasAbbild());
 }
 

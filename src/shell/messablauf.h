@@ -88,21 +88,18 @@ private:
         std::unique_ptr<QWidget> fenster;
         std::function<void()> zeigeVor;
         std::function<void()> lokalisiere;
-        std::function<bool(int teil)> braucht;
+        std::function<bool(int teil)> braucht = [](int /*teil*/) { return false; };
     };
 
     template<class Fenster>
     Gezeigtes Neues() {
         auto neues = std::make_unique<Fenster>(static_cast<Messanbieter&>(*this));
         Fenster* const dieses = neues.get();
-        return {typeid(Fenster), std::move(neues), [dieses] { dieses->ZeigeVor(); },
-                [dieses] { dieses->Lokalisiere(); },
-                [dieses](int teil) {
-                    if constexpr (requires { dieses->Braucht(teil); })
-                        return dieses->Braucht(teil);
-                    else
-                        return false;
-                }};
+        Gezeigtes gezeigtes{typeid(Fenster), std::move(neues), [dieses] { dieses->ZeigeVor(); },
+                            [dieses] { dieses->Lokalisiere(); }};
+        if constexpr (requires(int teil) { dieses->Braucht(teil); })
+            gezeigtes.braucht = [dieses](int teil) { return dieses->Braucht(teil); };
+        return gezeigtes;
     }
 
     void Hoere(const Messdurchgang& durchgang) override;

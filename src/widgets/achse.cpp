@@ -39,9 +39,10 @@ std::vector<double> GanzeAchsenzahlen(double von, double bis, double mindestabst
     if (bis <= von || mindestabstand <= 0)
         return zahlen;
     const double schritt = std::max(1.0, RunderSchritt(mindestabstand));
-    const double letzte = std::floor(bis / schritt + Toleranz);
-    for (double i = std::ceil(von / schritt - Toleranz); i <= letzte; ++i)
-        zahlen.push_back(i * schritt);
+    const double erste = std::ceil(von / schritt - Toleranz);
+    const int weitere = static_cast<int>(std::floor(bis / schritt + Toleranz) - erste);
+    for (int i = 0; i <= weitere; ++i)
+        zahlen.push_back((erste + i) * schritt);
     return zahlen;
 }
 
