@@ -14,11 +14,11 @@ class Json {
 public:
     Json() = default; ///< null
     // Values are meant to become JSON where they stand.
-    Json(bool wert) : text(wert ? "true" : "false") {}              // NOLINT(*-explicit-*)
-    Json(std::int32_t wert) : text(std::to_string(wert)) {}         // NOLINT(*-explicit-*)
-    Json(std::string_view wert);                                    // NOLINT(*-explicit-*)
-    Json(const std::string& wert) : Json(std::string_view(wert)) {} // NOLINT(*-explicit-*)
-    Json(const char* wert) : Json(std::string_view(wert)) {}        // NOLINT(*-explicit-*)
+    Json(bool wert) : text(wert ? "true" : "false") {}
+    Json(std::int32_t wert) : text(std::to_string(wert)) {}
+    Json(std::string_view wert);
+    Json(const std::string& wert) : Json(std::string_view(wert)) {}
+    Json(const char* wert) : Json(std::string_view(wert)) {}
 
     using Feld = std::pair<std::string_view, Json>;
     /// With the fields of both, if there are two.

@@ -36,9 +36,8 @@ void Busprotokoll::StelleUhr(std::chrono::system_clock::time_point jetzt) {
 
 void Busprotokoll::Beginne(std::chrono::system_clock::time_point jetzt) {
     if (eintraege == nullptr) {
-        eintraege =
-            std::make_unique_for_overwrite<Eintrag[]>(Hoechstzahl);        // NOLINT(modernize-avoid-c-arrays)
-        bytespeicher = std::make_unique_for_overwrite<char[]>(Bytevorrat); // NOLINT(modernize-avoid-c-arrays)
+        eintraege = std::make_unique_for_overwrite<Eintrag[]>(Hoechstzahl);
+        bytespeicher = std::make_unique_for_overwrite<char[]>(Bytevorrat);
     }
     if (anzahl == 0)
         StelleUhr(jetzt);

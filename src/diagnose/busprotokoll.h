@@ -92,8 +92,8 @@ private:
     void MerkeOptikteil(const Mitschnitt& mitschnitt);
     void StelleUhr(std::chrono::system_clock::time_point jetzt);
 
-    std::unique_ptr<Eintrag[]> eintraege; // NOLINT(modernize-avoid-c-arrays): its size is fixed
-    std::unique_ptr<char[]> bytespeicher; // NOLINT(modernize-avoid-c-arrays)
+    std::unique_ptr<Eintrag[]> eintraege; ///< of a fixed size
+    std::unique_ptr<char[]> bytespeicher; ///< of a fixed size
     std::uint64_t naechster = 1;
     std::size_t anzahl = 0;
     std::uint64_t geschrieben = 0; ///< bytes, with those left out at the end of the room

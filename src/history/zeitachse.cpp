@@ -57,7 +57,7 @@ Zeit Ortszeit(const Messangaben& angaben, Zeit laufzeit) {
 template<class... Zahlen>
 std::string Satz(const char* muster, Zahlen... zahlen) {
     char puffer[48];
-    std::snprintf(puffer, sizeof puffer, muster, zahlen...); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    std::snprintf(puffer, sizeof puffer, muster, zahlen...);
     return puffer;
 }
 

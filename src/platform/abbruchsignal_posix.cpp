@@ -17,14 +17,14 @@ extern "C" void MerkeAbbruch(int /*signal*/) {
 void Fange(int signal) {
     struct sigaction aktion {};
     aktion.sa_handler = MerkeAbbruch;
-    aktion.sa_flags = SA_RESETHAND; // NOLINT(*-signed-bitwise): the system's own
+    aktion.sa_flags = SA_RESETHAND;
     sigaction(signal, &aktion, nullptr);
 }
 
 } // namespace
 
 void FangeAbbruchsignaleAb() {
-    std::signal(SIGPIPE, SIG_IGN); // NOLINT(*-int-to-ptr,*-cstyle-cast): the system's own
+    std::signal(SIGPIPE, SIG_IGN);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         Fange(signal);
 }

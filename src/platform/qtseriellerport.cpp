@@ -42,7 +42,7 @@ bool IstWeg(short meldungen) {
 
 /// Adds the bytes that wait in the system.
 void LiesAusSystem(QSerialPort& port, std::string& bytes) {
-    std::array<char, 512> stueck; // NOLINT(*-member-init): read fills it
+    std::array<char, 512> stueck; // read fills it
     ssize_t gelesen = 0;
     do {
         gelesen = ::read(port.handle(), stueck.data(), stueck.size());

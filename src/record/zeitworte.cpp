@@ -19,7 +19,7 @@ std::chrono::sys_time<std::chrono::milliseconds> Ortszeit(const Messangaben& ang
 template<class... Zahlen>
 std::string Gesetzt(const char* muster, Zahlen... zahlen) {
     std::array<char, 48> text{};
-    std::snprintf(text.data(), text.size(), muster, zahlen...); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    std::snprintf(text.data(), text.size(), muster, zahlen...);
     return text.data();
 }
 

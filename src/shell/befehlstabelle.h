@@ -89,7 +89,7 @@ enum class Auftritt { Still, Zeigt };
 enum class Leistengruppe { Verbindung, Konfiguration, Pruefen, Verlauf, Darstellung, Hilfe };
 
 /// A command as the program knows it; the fields stand in the order in which a row is read.
-struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding)
+struct Befehlszeile { // NOLINT(clang-analyzer-optin.performance.Padding): read as a row
     Befehl befehl;
     const char*
         aktion; ///< object name of its action; of one of several: what stands before "_" and the index

@@ -16,7 +16,8 @@ struct Probe {
     Zeit gesendet{0};
     Zeit umlauf{0};
 
-    operator Mitschnitt() const { // NOLINT(google-explicit-constructor): a probe stands for one everywhere
+    /// A probe stands for one everywhere.
+    operator Mitschnitt() const {
         return {art, ergebnis, anforderung, empfangen, gesendet, gesendet + umlauf};
     }
 };

@@ -105,7 +105,7 @@ TEST_F(BusprotokollTest, Of_endless_noise_the_beginning_is_kept_and_its_length) 
 }
 
 TEST_F(BusprotokollTest, Exchanges_of_any_length_are_kept_whole_until_their_room_is_needed) {
-    std::mt19937 zufall(7); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same every time
+    std::mt19937 zufall(7); // the same every time
     std::uniform_int_distribution<std::size_t> laenge(0, Busprotokoll::HoechstensBytes);
     std::vector<std::string> alle{""};
     for (int i = 0; i < 90'000; ++i) {

@@ -12,8 +12,7 @@ public:
 #ifdef _WIN32
         ::_putenv_s("TZ", zone);
 #else
-        ::setenv("TZ", zone,
-                 1);      // NOLINT(concurrency-mt-unsafe): tests have one thread that asks for the zone
+        ::setenv("TZ", zone, 1); // tests have one thread that asks for the zone
 #endif
         ::tzset();
     }
@@ -21,7 +20,7 @@ public:
 #ifdef _WIN32
         ::_putenv_s("TZ", "");
 #else
-        ::unsetenv("TZ"); // NOLINT(concurrency-mt-unsafe)
+        ::unsetenv("TZ");
 #endif
         ::tzset();
     }
