@@ -6,6 +6,7 @@
 #include "lokalisiereform.h"
 #include "passwortschutz.h"
 #include "protokollanbieter.h"
+#include "tabellenform.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "ui_frmBusprotokoll.h"
@@ -82,17 +83,10 @@ frmBusprotokoll::frmBusprotokoll(Protokollanbieter& derAnbieter)
 frmBusprotokoll::~frmBusprotokoll() = default;
 
 void frmBusprotokoll::RichteTabelleEin() {
-    constexpr int Luft = 6;
     constexpr int Einzelheitenzeilen = 11;
-    constexpr int Bezugsaufloesung = 96;
     ui->tblProtokoll->setModel(modell);
-    ui->tblProtokoll->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui->tblProtokoll->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Luft);
-    QHeaderView& kopf = *ui->tblProtokoll->horizontalHeader();
-    for (int spalte = 0; spalte < Busmodell::Spaltenzahl; ++spalte)
-        kopf.resizeSection(spalte, Spaltenbreiten[spalte] * logicalDpiX() / Bezugsaufloesung);
-    kopf.setSectionResizeMode(Busmodell::Inhalt, QHeaderView::Stretch);
-    kopf.setHighlightSections(false);
+    GibTabelleForm(*ui->tblProtokoll, Spaltenbreiten);
+    ui->tblProtokoll->horizontalHeader()->setSectionResizeMode(Busmodell::Inhalt, QHeaderView::Stretch);
     ui->trennung->setStretchFactor(0, 1);
     ui->trennung->setSizes({Anfangsgroesse.height(), fontMetrics().height() * Einzelheitenzeilen});
 }

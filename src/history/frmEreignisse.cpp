@@ -7,6 +7,7 @@
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "messanbieter.h"
+#include "tabellenform.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "ui_frmEreignisse.h"
@@ -79,16 +80,9 @@ frmEreignisse::frmEreignisse(Messanbieter& woher, Ereignisanbieter& derAnbieter)
 frmEreignisse::~frmEreignisse() = default;
 
 void frmEreignisse::RichteTabelleEin() {
-    constexpr int Luft = 6;
-    constexpr int Bezugsaufloesung = 96;
     ui->tblEreignisse->setModel(modell);
-    ui->tblEreignisse->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui->tblEreignisse->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Luft);
-    QHeaderView& kopf = *ui->tblEreignisse->horizontalHeader();
-    for (int spalte = 0; spalte < Ereignismodell::Spaltenzahl; ++spalte)
-        kopf.resizeSection(spalte, Spaltenbreiten[spalte] * logicalDpiX() / Bezugsaufloesung);
-    kopf.setSectionResizeMode(Ereignismodell::Was, QHeaderView::Stretch);
-    kopf.setHighlightSections(false);
+    GibTabelleForm(*ui->tblEreignisse, Spaltenbreiten);
+    ui->tblEreignisse->horizontalHeader()->setSectionResizeMode(Ereignismodell::Was, QHeaderView::Stretch);
 }
 
 void frmEreignisse::FuelleArten() {

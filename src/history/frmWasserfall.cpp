@@ -5,6 +5,7 @@
 #include "messanbieter.h"
 #include "messtakt.h"
 #include "strahlabschnitt.h"
+#include "tabellenform.h"
 #include "texte.h"
 #include "textmitwerten.h"
 #include "ui_frmWasserfall.h"
@@ -92,20 +93,12 @@ frmWasserfall::frmWasserfall(Messanbieter& derAnbieter)
 frmWasserfall::~frmWasserfall() = default;
 
 void frmWasserfall::RichteTabelleEin() {
-    constexpr int Luft = 6;
-    constexpr int Bezugsaufloesung = 96;
     auswahl->setSourceModel(modell);
     auswahl->setSortRole(Strahlmodell::Sortierrolle);
     ui->tblStrahlen->setModel(auswahl);
     ui->tblStrahlen->sortByColumn(0, Qt::AscendingOrder);
-    ui->tblStrahlen->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui->tblStrahlen->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Luft);
-    QHeaderView& kopf = *ui->tblStrahlen->horizontalHeader();
-    int spalte = 0;
-    for (const int breite : Spaltenbreiten)
-        kopf.resizeSection(spalte++, breite * logicalDpiX() / Bezugsaufloesung);
-    kopf.setStretchLastSection(true);
-    kopf.setHighlightSections(false);
+    GibTabelleForm(*ui->tblStrahlen, Spaltenbreiten);
+    ui->tblStrahlen->horizontalHeader()->setStretchLastSection(true);
     ui->trennung->setStretchFactor(0, 3);
     ui->trennung->setStretchFactor(1, 2);
 }
