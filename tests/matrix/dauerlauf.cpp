@@ -3,6 +3,7 @@
 
 #include "abbildpruefung.h"
 #include "betrieb.h"
+#include "laufanwendung.h"
 #include "regie.h"
 #include "speicherstand.h"
 #include "zufallsbenutzer.h"
@@ -67,23 +68,11 @@ constexpr Zufallsstoerung Stoerungen[] = {
     {"part 2 remove", "part 2 add"},
 };
 
-QString warnung;
-
-void BeiLogzeile(QtMsgType art, const QMessageLogContext& /*woher*/, const QString& text) {
-    if (art != QtDebugMsg && art != QtInfoMsg && !text.contains("This plugin does not support"))
-        warnung = text;
-}
-
 QStringList Simulatoroptionen(const QCommandLineParser& worte) {
     return worte.isSet("log") ? QStringList{"--log", worte.value("log")} : QStringList{};
 }
 
 /// What was held at most while everything was used for the first time.
-Speicherstand Hoechststand(const Speicherstand& a, const Speicherstand& b) {
-    return {std::max(a.belegtKb, b.belegtKb), std::max(a.benutztKb, b.benutztKb),
-            std::max(a.deskriptoren, b.deskriptoren)};
-}
-
 class Dauerlauf {
 public:
     Dauerlauf(const QCommandLineParser& worte);
@@ -177,8 +166,8 @@ std::string Dauerlauf::Wache() {
     const bool verloren = modPolling::VerbindungVerloren();
     erholungen += warVerloren && !verloren ? 1 : 0;
     warVerloren = verloren;
-    if (!warnung.isEmpty())
-        return "unexpected warning: " + warnung.toStdString();
+    if (const std::string warnungen = UnerwarteteWarnungen(); !warnungen.empty())
+        return warnungen;
     if (betrieb.puls.GroessteLueckeMs() > laengsteLueckeMs)
         return "no click served for " + std::to_string(betrieb.puls.GroessteLueckeMs()) + " ms at " +
                betrieb.puls.Wo();
@@ -267,20 +256,15 @@ bool Dauerlauf::Berichte(const std::string& fehler) {
 
 int main(int argc, char** argv) {
     using namespace varnoth::pruefung;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir heim; // where files go unless somebody says otherwise
-    qputenv("HOME", heim.path().toUtf8());
-    QApplication anwendung(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
+    const Laufanwendung anwendung(argc, argv);
     QCommandLineParser worte;
     worte.addOptions({{"minutes", "how long (1)", "number", "1"},
                       {"seed", "another run (1)", "number", "1"},
                       {"limit", "the longest that a click may wait (200)", "ms", "200"},
                       {"log", "the controller's log", "file"}});
     worte.addHelpOption();
-    worte.process(anwendung);
-    qInstallMessageHandler(BeiLogzeile);
+    worte.process(QApplication::arguments());
+    SammleWarnungen();
     std::printf("soak of %s minutes, seed %s\n", qPrintable(worte.value("minutes")),
                 qPrintable(worte.value("seed")));
     return Dauerlauf(worte).Laufe() ? 0 : 1;

@@ -3,6 +3,7 @@
 #include <malloc.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -21,6 +22,11 @@ Speicherstand LiesSpeicherstand() {
     const auto anzahl = std::distance(begin(alle), end(alle));
     return {belegt * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) / Kilobyte,
             ::mallinfo2().uordblks / Kilobyte, static_cast<std::size_t>(anzahl)};
+}
+
+Speicherstand Hoechststand(const Speicherstand& a, const Speicherstand& b) {
+    return {std::max(a.belegtKb, b.belegtKb), std::max(a.benutztKb, b.benutztKb),
+            std::max(a.deskriptoren, b.deskriptoren)};
 }
 
 std::string Speicherzeilen(const std::optional<Speicherstand>& warm, const Speicherstand& ende) {

@@ -14,6 +14,8 @@ struct Speicherstand {
 };
 
 Speicherstand LiesSpeicherstand();
+/// Of each figure the greater one.
+Speicherstand Hoechststand(const Speicherstand& a, const Speicherstand& b);
 
 /// Two lines about memory and descriptors after warm-up and at the end.
 std::string Speicherzeilen(const std::optional<Speicherstand>& warm, const Speicherstand& ende);

@@ -1,7 +1,8 @@
 // The fault matrix: every fault that the line can have, at every place where the program talks.
-//   stoerungsmatrix [--fault NAME] [--place NAME] [--jobs N] [--limit MS]    runs the cells and prints them
-//   as a table stoerungsmatrix --cell FAULT PLACE                          runs one cell in this process
+//   stoerungsmatrix [--fault NAME] [--place NAME] [--jobs N] [--limit MS]    the cells, printed as a table
+//   stoerungsmatrix --cell FAULT PLACE                                       one cell, in this process
 
+#include "laufanwendung.h"
 #include "matrixlauf.h"
 #include "zelle.h"
 
@@ -16,14 +17,6 @@ namespace varnoth::pruefung {
 
 namespace {
 
-QStringList warnungen;
-
-/// A warning that nobody expected is a fault of the program.
-void BeiLogzeile(QtMsgType art, const QMessageLogContext& /*woher*/, const QString& text) {
-    if (art != QtDebugMsg && art != QtInfoMsg && !text.contains("This plugin does not support"))
-        warnungen.append(text);
-}
-
 std::vector<Zellenbericht> Zellen(const QString& fallname, const QString& stellenname) {
     std::vector<Zellenbericht> zellen;
     for (const Stoerfall& fall : AlleStoerfaelle())
@@ -35,7 +28,7 @@ std::vector<Zellenbericht> Zellen(const QString& fallname, const QString& stelle
 }
 
 int LaufeZelle(Zellenbericht bericht) {
-    qInstallMessageHandler(BeiLogzeile);
+    SammleWarnungen();
     try {
         const auto [fehler, luecke, wo] = Zelle(*bericht.stelle, *bericht.fall).Pruefe();
         bericht.fehler = fehler;
@@ -44,8 +37,8 @@ int LaufeZelle(Zellenbericht bericht) {
     } catch (const std::exception& fehler) {
         bericht.fehler = fehler.what();
     }
-    if (bericht.fehler.empty() && !warnungen.isEmpty())
-        bericht.fehler = "unexpected warning: " + warnungen.join("; ").toStdString();
+    if (bericht.fehler.empty())
+        bericht.fehler = UnerwarteteWarnungen();
     std::puts(AlsBerichtzeile(bericht).c_str());
     return bericht.fehler.empty() ? 0 : 1;
 }
@@ -56,11 +49,7 @@ int LaufeZelle(Zellenbericht bericht) {
 
 int main(int argc, char** argv) {
     using namespace varnoth::pruefung;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication anwendung(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-
+    const Laufanwendung anwendung(argc, argv);
     QCommandLineParser worte;
     worte.addOptions({{"cell", "run one cell in this process: --cell FAULT PLACE"},
                       {"fault", "only this row", "name"},
@@ -68,7 +57,7 @@ int main(int argc, char** argv) {
                       {"jobs", "cells at a time (6)", "number", "6"},
                       {"limit", "the longest that a click may wait (100)", "ms", "100"}});
     worte.addHelpOption();
-    worte.process(anwendung);
+    worte.process(QApplication::arguments());
     const QStringList namen = worte.positionalArguments();
     if (worte.isSet("cell"))
         return LaufeZelle(Zellen(namen.value(0), namen.value(1)).at(0));

@@ -4,6 +4,7 @@
 
 #include "befehlstabelle.h"
 #include "betrieb.h"
+#include "laufanwendung.h"
 #include "livefolge.h"
 #include "speicherstand.h"
 
@@ -13,7 +14,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -28,13 +28,6 @@ constexpr int BlickeJeRunde = 3;         ///< rounds of the main loop, in which 
 constexpr std::size_t WachstumKb = 4096; ///< that is still called none
 constexpr double RundenJeStunde = 60;
 constexpr double KuerzestesUrteil = 60; ///< hours; less does not fill what is bounded
-
-QString warnung;
-
-void BeiLogzeile(QtMsgType art, const QMessageLogContext& /*woher*/, const QString& text) {
-    if (art != QtDebugMsg && art != QtInfoMsg && !text.contains("This plugin does not support"))
-        warnung = text;
-}
 
 class Zeitraffer {
 public:
@@ -87,7 +80,7 @@ void Zeitraffer::OeffneFenster() {
 }
 
 void Zeitraffer::Spiele() {
-    for (int runde = 0; runde < runden && warnung.isEmpty(); ++runde) {
+    for (int runde = 0; runde < runden && UnerwarteteWarnungen().empty(); ++runde) {
         folge.Erzaehle(Runde);
         int blicke = 0;
         betrieb.LaufeBis([&blicke] {
@@ -100,11 +93,8 @@ void Zeitraffer::Spiele() {
 
 void Zeitraffer::Miss(int runde) {
     zuletzt = LiesSpeicherstand();
-    if (runde >= runden / 2)
-        return;
-    warm = {std::max(warm.value_or(zuletzt).belegtKb, zuletzt.belegtKb),
-            std::max(warm.value_or(zuletzt).benutztKb, zuletzt.benutztKb),
-            std::max(warm.value_or(zuletzt).deskriptoren, zuletzt.deskriptoren)};
+    if (runde < runden / 2)
+        warm = Hoechststand(warm.value_or(zuletzt), zuletzt);
 }
 
 bool Zeitraffer::Berichte() const {
@@ -116,7 +106,7 @@ bool Zeitraffer::Berichte() const {
     std::printf("events         %llu, kept %llu\n", static_cast<unsigned long long>(ereignisse.Ende()),
                 static_cast<unsigned long long>(ereignisse.Ende() - ereignisse.Erstes()));
     std::printf("%s", Speicherzeilen(warm, zuletzt).c_str());
-    std::string urteil = warnung.isEmpty() ? std::string() : "unexpected warning: " + warnung.toStdString();
+    std::string urteil = UnerwarteteWarnungen();
     if (urteil.empty())
         urteil = Speicherurteil(warm, zuletzt,
                                 stunden >= KuerzestesUrteil ? std::optional(WachstumKb) : std::nullopt);
@@ -130,18 +120,13 @@ bool Zeitraffer::Berichte() const {
 
 int main(int argc, char** argv) {
     using namespace varnoth::pruefung;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir heim; // where files go unless somebody says otherwise
-    qputenv("HOME", heim.path().toUtf8());
-    QApplication anwendung(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
+    const Laufanwendung anwendung(argc, argv);
     QCommandLineParser worte;
     worte.addOptions(
         {{"hours", "of live data (72)", "number", "72"}, {"seed", "another run (1)", "number", "1"}});
     worte.addHelpOption();
-    worte.process(anwendung);
-    qInstallMessageHandler(BeiLogzeile);
+    worte.process(QApplication::arguments());
+    SammleWarnungen();
     std::printf("soak of the past, %s hours, seed %s\n", qPrintable(worte.value("hours")),
                 qPrintable(worte.value("seed")));
     return Zeitraffer(worte).Laufe() ? 0 : 1;
