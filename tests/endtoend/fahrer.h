@@ -1,5 +1,7 @@
 #pragma once
 
+#include "bedienelement.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -42,14 +44,5 @@ void Klicke(QWidget& fenster, const QString& knopf);
 
 /// The visible window of that name, nullptr when there is none.
 QWidget* SichtbaresFenster(const QString& name);
-
-/// The element of that name in a window; a missing one fails the test by an exception.
-template<class Element>
-Element& Kind(QWidget& fenster, const QString& name) {
-    auto* const element = fenster.findChild<Element*>(name);
-    if (element == nullptr)
-        throw std::runtime_error("no element " + name.toStdString());
-    return *element;
-}
 
 } // namespace varnoth::pruefung

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "texte.h"
 
@@ -10,18 +11,7 @@
 #include <QTreeWidgetItemIterator>
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
 namespace varnoth::pruefung {
-
-/// The control of the given name in a window.
-template<class Element>
-Element& Kind(const QWidget& fenster, const char* name) {
-    auto* const element = fenster.findChild<Element*>(QString::fromUtf8(name));
-    if (element == nullptr)
-        throw std::runtime_error(std::string("no control ") + name);
-    return *element;
-}
 
 /// The place that a help window shows: "page" or "page#anchor".
 inline QString Stelle(const QWidget& hilfe) {

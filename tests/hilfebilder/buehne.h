@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bedienelement.h"
 #include "frmMain.h"
 #include "pruefumgebung.h"
 #include "simulatorport.h"
@@ -15,6 +16,8 @@
 #include <string>
 
 namespace varnoth::hilfebilder {
+
+using pruefung::Kind;
 
 /// Lets time jump and events run, and shows status texts in the main window.
 class Buehnenumgebung : public pruefung::PruefUmgebung {
@@ -61,14 +64,5 @@ private:
 
 /// The window as it is.
 QImage Foto(QWidget& fenster);
-
-/// The control of the given name in a window.
-template<class Element>
-Element& Kind(const QWidget& fenster, const char* name) {
-    auto* const element = fenster.findChild<Element*>(QString::fromUtf8(name));
-    if (element == nullptr)
-        throw std::runtime_error(std::string("no control ") + name);
-    return *element;
-}
 
 } // namespace varnoth::hilfebilder

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bedienelement.h"
 #include "boolean.h"
 #include "fenstertest.h"
 #include "pruefgeraet.h"
@@ -48,10 +49,7 @@ protected:
 
     template<class Element>
     static Element& Kind(QDialog& dialog, const char* name) {
-        auto* const element = dialog.findChild<Element*>(QString::fromUtf8(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(dialog, name);
     }
     static QString Feld(QDialog& dialog, const char* name) { return Kind<QLineEdit>(dialog, name).text(); }
     static QString Beschriftung(QDialog& dialog, const char* name) {

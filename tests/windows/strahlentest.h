@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bedienelement.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "standardkonfiguration.h"
@@ -12,7 +13,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,10 +23,7 @@ class StrahlenTest : public testing::Test {
 protected:
     template<class Element>
     static Element& Kind(QDialog& dialog, const std::string& name) {
-        auto* const element = dialog.findChild<Element*>(QString::fromStdString(name));
-        if (element == nullptr)
-            throw std::runtime_error("no control " + name);
-        return *element;
+        return pruefung::Kind<Element>(dialog, QString::fromStdString(name));
     }
     static QComboBox& Combo1(QDialog& dialog, int teil) {
         return Kind<QComboBox>(dialog, "Combo1_" + std::to_string(teil));

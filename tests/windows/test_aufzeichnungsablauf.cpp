@@ -1,5 +1,6 @@
 #include "aufzeichnungsablauf.h"
 
+#include "bedienelement.h"
 #include "dateidialog.h"
 #include "dateieingabe.h"
 #include "dateien.h"
@@ -123,7 +124,7 @@ protected:
     }
     template<class Element>
     static Element& Im(const char* name) {
-        return *Fenster().findChild<Element*>(QLatin1String(name));
+        return pruefung::Kind<Element>(Fenster(), name);
     }
 
     pruefung::PruefUmgebung umgebung;

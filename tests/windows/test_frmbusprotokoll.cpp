@@ -1,5 +1,6 @@
 #include "frmBusprotokoll.h"
 
+#include "bedienelement.h"
 #include "busprobe.h"
 #include "ereignisse.h"
 #include "fenstertest.h"
@@ -67,10 +68,7 @@ protected:
 
     template<class Element>
     Element& Kind(const char* name) {
-        auto* const element = fenster.findChild<Element*>(QLatin1String(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(fenster, name);
     }
     QTableView& Tabelle() { return Kind<QTableView>("tblProtokoll"); }
     int Zeilen() { return Tabelle().model()->rowCount(); }

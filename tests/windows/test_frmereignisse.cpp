@@ -1,5 +1,6 @@
 #include "frmEreignisse.h"
 
+#include "bedienelement.h"
 #include "ereignisanbieter.h"
 #include "ereignisse.h"
 #include "fenstertest.h"
@@ -72,10 +73,7 @@ protected:
     }
     template<class Element>
     Element& Kind(const char* name) {
-        auto* const element = Fenster().findChild<Element*>(QLatin1String(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(Fenster(), name);
     }
     QTableView& Tabelle() { return Kind<QTableView>("tblEreignisse"); }
     int Zeilen() { return Tabelle().model()->rowCount(); }

@@ -1,5 +1,6 @@
 #include "frmVergleich.h"
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "geraetestand.h"
 #include "pruefumgebung.h"
@@ -77,10 +78,7 @@ protected:
     }
     template<class Element>
     Element& Kind(const char* name) {
-        auto* const element = Fenster().findChild<Element*>(QLatin1String(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(Fenster(), name);
     }
     QTreeWidget& Baum() { return Kind<QTreeWidget>("trvVergleich"); }
     std::string Text(const char* label) { return Kind<QLabel>(label).text().toStdString(); }

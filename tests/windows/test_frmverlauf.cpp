@@ -1,5 +1,6 @@
 #include "frmVerlauf.h"
 
+#include "bedienelement.h"
 #include "darstellung.h"
 #include "fenstertest.h"
 #include "pruefdurchgaenge.h"
@@ -39,10 +40,7 @@ struct frmVerlaufTest : testing::Test {
     }
     template<class Element>
     Element& Kind(const char* name) {
-        auto* const element = fenster->findChild<Element*>(QLatin1String(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(*fenster, name);
     }
     Verlaufsbild& Bild() { return Kind<Verlaufsbild>("Bild"); }
     void Druecke(const char* knopf) { Kind<QPushButton>(knopf).click(); }

@@ -1,5 +1,6 @@
 #include "frmWasserfall.h"
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "pruefmessanbieter.h"
 #include "pruefumgebung.h"
@@ -60,10 +61,7 @@ protected:
     }
     template<class Element>
     Element& Kind(const char* name) {
-        auto* const element = Fenster().findChild<Element*>(QLatin1String(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(Fenster(), name);
     }
     template<class Bedingung>
     bool Bis(Bedingung bedingung) {

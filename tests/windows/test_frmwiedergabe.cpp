@@ -1,5 +1,6 @@
 #include "frmWiedergabe.h"
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "pruefmessquelle.h"
 #include "pruefumgebung.h"
@@ -17,8 +18,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
-
-#include <stdexcept>
 
 namespace varnoth {
 
@@ -76,10 +75,7 @@ protected:
     }
     template<class Element>
     Element& Kind(const char* name) {
-        auto* const element = leiste->findChild<Element*>(QString::fromLatin1(name));
-        if (element == nullptr)
-            throw std::out_of_range(name);
-        return *element;
+        return pruefung::Kind<Element>(*leiste, name);
     }
     void Klicke(const char* name) { Kind<QPushButton>(name).click(); }
     /// Types into the field for the time and presses Enter.

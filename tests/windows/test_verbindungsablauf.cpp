@@ -1,5 +1,6 @@
 #include "verbindungsablauf.h"
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "geraetepfade.h"
 #include "pruefgeraet.h"
@@ -82,7 +83,7 @@ protected:
     }
     template<class Element>
     static Element& Teil(const char* name) {
-        return *Fenster().findChild<Element*>(QString::fromLatin1(name));
+        return pruefung::Kind<Element>(Fenster(), name);
     }
     static QPushButton& Knopf(const char* name) { return Teil<QPushButton>(name); }
     static std::string Text(const char* name) { return Teil<QLabel>(name).text().toStdString(); }

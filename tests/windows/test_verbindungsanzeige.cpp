@@ -1,5 +1,6 @@
 #include "verbindungsanzeige.h"
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "leitungsstatistik.h"
 #include "polling.h"
@@ -45,7 +46,7 @@ protected:
 
     template<class Element>
     Element& Teil(const char* name) {
-        return *leiste.findChild<Element*>(QString::fromLatin1(name));
+        return pruefung::Kind<Element>(leiste, name);
     }
     QString Text() { return Teil<QLabel>("lblVerbindung").text(); }
     QString Zahlen() { return Teil<QLabel>("lblVerbindungszahlen").text(); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "pruefumgebung.h"
 
@@ -9,7 +10,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <stdexcept>
 #include <string>
 
 namespace varnoth::pruefung {
@@ -19,10 +19,7 @@ class UntereditorTest : public testing::Test {
 protected:
     template<class Element>
     static Element& Kind(QDialog& dialog, const char* name) {
-        auto* const element = dialog.findChild<Element*>(QString::fromUtf8(name));
-        if (element == nullptr)
-            throw std::runtime_error(std::string("no control ") + name);
-        return *element;
+        return pruefung::Kind<Element>(dialog, name);
     }
     static QAbstractButton& Knopf(QDialog& dialog, const char* name) {
         return Kind<QAbstractButton>(dialog, name);

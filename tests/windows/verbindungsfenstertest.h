@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bedienelement.h"
 #include "fenstertest.h"
 #include "frmVerbindung.h"
 #include "leitungspruefung.h"
@@ -16,7 +17,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 
 namespace varnoth::pruefung {
@@ -33,10 +33,7 @@ protected:
     }
     template<class Element>
     Element& Teil(const char* name) {
-        auto* const element = Fenster().findChild<Element*>(QString::fromLatin1(name));
-        if (element == nullptr)
-            throw std::out_of_range(name);
-        return *element;
+        return pruefung::Kind<Element>(Fenster(), name);
     }
     QPushButton& Knopf(const char* name) { return Teil<QPushButton>(name); }
     std::string Text(const char* name) { return Teil<QLabel>(name).text().toStdString(); }
