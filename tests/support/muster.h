@@ -7,8 +7,8 @@
 
 namespace varnoth::pruefung {
 
-/// A text that holds somewhere what the regular expression describes. Google Test's own matcher knows no brackets on
-/// Windows.
+/// A text that holds somewhere what the regular expression describes. Google Test's own matcher knows no
+/// brackets on Windows.
 MATCHER_P(EnthaeltMuster, muster, "") {
     return std::regex_search(std::string(arg), std::regex(muster));
 }

@@ -244,7 +244,10 @@ TEST_F(AufzeichnungsablaufTest, A_file_that_vanishes_is_told_once_in_the_status_
     Ablauf().Schalte();
     MeldeDurchgang(1);
     ASSERT_TRUE(WarteBis([&] { return Inhalt(Dateien().front()).find(",1,") != std::string::npos; }));
-    ASSERT_TRUE(QFile::remove(ordner.filePath(Dateien().front())));
+    if (!QFile::remove(ordner.filePath(Dateien().front()))) {
+        ASSERT_EQ(QSysInfo::productType(), "windows");
+        GTEST_SKIP() << "nobody takes an open file away";
+    }
     ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0].find("is interrupted") != std::string::npos; },
                          20'000));
     EXPECT_TRUE(umgebung.meldungen.empty());
