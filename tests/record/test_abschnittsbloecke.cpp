@@ -81,7 +81,8 @@ std::map<std::int64_t, Messspalte> Einzeln(const Uebersicht& uebersicht, const U
 void Vergleiche(const Uebersicht& uebersicht, Zeit breite, std::int64_t von, std::int64_t anzahl,
                 unsigned teile) {
     std::map<std::int64_t, Messspalte> gefuellte;
-    Uebersicht::Spalten spalten{.breite = breite, .von = von, .bis = von + anzahl, .teile = teile, .hole = {}};
+    Uebersicht::Spalten spalten{
+        .breite = breite, .von = von, .bis = von + anzahl, .teile = teile, .hole = {}};
     spalten.hole = [&](std::int64_t nummer) -> Messspalte& {
         EXPECT_GE(nummer, spalten.von);
         EXPECT_LT(nummer, spalten.bis);

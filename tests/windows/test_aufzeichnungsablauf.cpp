@@ -11,6 +11,7 @@
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "schranke.h"
 #include "texte.h"
 #include "vrecleser.h"
 
@@ -31,7 +32,6 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
-#include <semaphore>
 #include <stdexcept>
 #include <vector>
 
@@ -352,7 +352,7 @@ TEST_F(AufzeichnungsablaufTest, The_last_minutes_of_memory_are_saved_as_a_record
 
 TEST_F(AufzeichnungsablaufTest,
        While_a_slow_disk_takes_the_memory_the_window_answers_and_says_how_far_it_is) {
-    std::binary_semaphore platte(0);
+    pruefung::Schranke platte(0);
     schreibe = [&](const std::string&, std::string_view) {
         platte.acquire();
         return std::string();
@@ -405,7 +405,7 @@ TEST_F(AufzeichnungsablaufTest, The_end_of_the_program_finishes_the_saving_of_th
 
 TEST_F(AufzeichnungsablaufTest, Disks_that_never_answer_hold_up_the_end_of_the_program_for_seconds_only) {
     ablage = std::make_shared<pruefung::PruefAblage>();
-    const auto platte = std::make_shared<std::binary_semaphore>(0);
+    const auto platte = std::make_shared<pruefung::Schranke>(0);
     schreibe = [platte](const std::string&, std::string_view) {
         platte->acquire();
         return std::string();
