@@ -377,8 +377,10 @@ void Verlaufsbild::paintEvent(QPaintEvent* ereignis) {
     const QRect platz = ereignis->rect();
     QPainter maler(this);
     maler.fillRect(platz, palette().color(QPalette::Base));
-    maler.drawPixmap(QRectF(feld.kurven.topLeft(), QSizeF(gemaltes.size()) / feld.dichte), gemaltes,
-                     QRectF(gemaltes.rect()));
+    maler.save();
+    maler.scale(1 / feld.dichte, 1 / feld.dichte); // pixel by pixel, it is copied fast
+    maler.drawPixmap(feld.kurven.topLeft() * feld.dichte, gemaltes);
+    maler.restore();
     const Verlaufszeichner zeichner(maler, blatt, feld, Farben());
     zeichner.ZeichneRahmen(platz);
     zeichner.ZeichneDarueber();

@@ -15,7 +15,8 @@ class Abschnittsbloecke {
 public:
     struct Block {
         std::uint64_t anzahl = 0; ///< stretches in it
-        std::int64_t letzter = 0; ///< the number of the last of them
+        std::int64_t erster = 0;  ///< the number of the first of them
+        std::int64_t letzter = 0; ///< and of the last
         Messspalte inhalt{};
     };
 
@@ -29,9 +30,19 @@ public:
     void Nimm(std::int64_t nummer, const Messspalte& inhalt);
     /// So many stretches are gone, counted from the first one there ever was: what holds one of them too.
     void Vergiss(std::uint64_t abschnitte);
-    /// The largest block from a stretch on of those that end with number `letzter` at the latest; nullptr if
-    /// there is none.
-    const Block* Ab(std::uint64_t abschnitt, std::int64_t letzter) const;
+    /// The largest block from a stretch on that is as asked for; nullptr if there is none.
+    template<class Bedingung>
+    const Block* Ab(std::uint64_t abschnitt, Bedingung passt) const {
+        for (auto stufe = stufen.rbegin(); stufe != stufen.rend(); ++stufe) {
+            const std::uint64_t stelle = abschnitt / stufe->laenge;
+            if (abschnitt % stufe->laenge != 0 || stelle < stufe->erster)
+                continue;
+            const std::uint64_t i = stelle - stufe->erster;
+            if (i < stufe->bloecke.size() && passt(stufe->bloecke[i]))
+                return &stufe->bloecke[i];
+        }
+        return nullptr;
+    }
 
 private:
     struct Stufe {

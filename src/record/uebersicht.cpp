@@ -159,25 +159,27 @@ void Uebersicht::Nimm(Messspalte& ziel, const Abschnitt& abschnitt, unsigned tei
     }
 }
 
-/// What lies in one column comes from a block where there is one.
+/// What lies in one column comes from a block where there is one; the stretches in it are not even looked at.
 void Uebersicht::Trage(const Spalten& spalten) const {
-    const auto nummerUm = [&](Zeit zeit) { return zeit / spalten.breite; };
+    const auto spalteUm = [&](Zeit zeit) { return zeit / spalten.breite; };
+    const auto liegtInEiner = [&](const Abschnittsbloecke::Block& block) {
+        const std::int64_t spalte = spalteUm(laenge * block.erster);
+        return spalte >= spalten.von && laenge * (block.letzter + 1) <= spalten.breite * (spalte + 1);
+    };
     for (std::size_t i = AbschnittUm(spalten.breite * spalten.von); i < abschnitte.size();) {
-        const Abschnitt& abschnitt = abschnitte[i];
-        const Zeit beginn = laenge * abschnitt.nummer;
-        const std::int64_t erste = nummerUm(beginn);
+        const auto* const block = bloecke.Ab(vergessene + i, liegtInEiner);
+        const Zeit beginn = laenge * (block != nullptr ? block->erster : abschnitte[i].nummer);
+        const std::int64_t erste = spalteUm(beginn);
         if (erste >= spalten.bis)
             break;
-        const std::int64_t letzterGanze = (spalten.breite * (erste + 1)) / laenge - 1; // that ends in it
-        const auto* const block = erste < spalten.von ? nullptr : bloecke.Ab(vergessene + i, letzterGanze);
         if (block != nullptr) {
             spalten.hole(erste).Nimm(block->inhalt, spalten.teile);
             i += block->anzahl;
             continue;
         }
-        const std::int64_t letzte = nummerUm(beginn + laenge - Zeit(1));
+        const std::int64_t letzte = spalteUm(beginn + laenge - Zeit(1));
         for (auto n = std::max(erste, spalten.von); n <= std::min(letzte, spalten.bis - 1); ++n)
-            Nimm(spalten.hole(n), abschnitt, spalten.teile);
+            Nimm(spalten.hole(n), abschnitte[i], spalten.teile);
         ++i;
     }
 }

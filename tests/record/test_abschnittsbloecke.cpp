@@ -131,19 +131,23 @@ TEST(Abschnittsbloecke, A_wide_column_is_made_of_few_pieces) {
         inhalt.luecke = i == 21;
         bloecke.Nimm(10 + i, inhalt);
     }
-    ASSERT_NE(bloecke.Ab(0, 100), nullptr);
-    EXPECT_EQ(bloecke.Ab(0, 100)->anzahl, 16U);
-    EXPECT_EQ(bloecke.Ab(16, 100)->letzter, 41);
-    EXPECT_TRUE(bloecke.Ab(16, 100)->inhalt.luecke);
-    EXPECT_EQ(bloecke.Ab(16, 40)->anzahl, 4U) << "the larger one ends too late";
-    EXPECT_FALSE(bloecke.Ab(16, 40)->inhalt.luecke);
-    EXPECT_EQ(bloecke.Ab(32, 100)->anzahl, 4U) << "the larger one is not full";
-    EXPECT_EQ(bloecke.Ab(1, 100), nullptr);
-    EXPECT_EQ(bloecke.Ab(16, 28), nullptr);
-    EXPECT_EQ(bloecke.Ab(40, 100), nullptr);
+    const auto bis = [](std::int64_t letzter) {
+        return [letzter](const Abschnittsbloecke::Block& block) { return block.letzter <= letzter; };
+    };
+    ASSERT_NE(bloecke.Ab(0, bis(100)), nullptr);
+    EXPECT_EQ(bloecke.Ab(0, bis(100))->anzahl, 16U);
+    EXPECT_EQ(bloecke.Ab(16, bis(100))->erster, 26);
+    EXPECT_EQ(bloecke.Ab(16, bis(100))->letzter, 41);
+    EXPECT_TRUE(bloecke.Ab(16, bis(100))->inhalt.luecke);
+    EXPECT_EQ(bloecke.Ab(16, bis(40))->anzahl, 4U) << "the larger one ends too late";
+    EXPECT_FALSE(bloecke.Ab(16, bis(40))->inhalt.luecke);
+    EXPECT_EQ(bloecke.Ab(32, bis(100))->anzahl, 4U) << "the larger one is not full";
+    EXPECT_EQ(bloecke.Ab(1, bis(100)), nullptr);
+    EXPECT_EQ(bloecke.Ab(16, bis(28)), nullptr);
+    EXPECT_EQ(bloecke.Ab(40, bis(100)), nullptr);
     bloecke.Vergiss(17);
-    EXPECT_EQ(bloecke.Ab(16, 100), nullptr);
-    EXPECT_EQ(bloecke.Ab(20, 100)->anzahl, 4U);
+    EXPECT_EQ(bloecke.Ab(16, bis(100)), nullptr);
+    EXPECT_EQ(bloecke.Ab(20, bis(100))->anzahl, 4U);
 }
 
 } // namespace varnoth
