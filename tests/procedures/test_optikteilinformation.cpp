@@ -1,6 +1,7 @@
 #include "optikteilinformation.h"
 
 #include "ablauftest.h"
+#include "polling.h"
 #include "registerabbild.h"
 #include "texte.h"
 
@@ -89,6 +90,18 @@ TEST_F(OptikteilinformationTest, The_progress_counts_the_four_parts) {
     HoleOptikteilInformation(anzeige);
     EXPECT_EQ(anzeige.fortschritt,
               (std::vector<std::pair<int, int>>{{0, 4}, {1, 4}, {2, 4}, {3, 4}, {4, 4}}));
+}
+
+TEST_F(OptikteilinformationTest, Live_data_asks_the_parts_up_to_the_last_one_that_is_there) {
+    geraet.Spezifisch(0, 44) = 0x0080;
+    geraet.Spezifisch(2, 44) = 0x0080;
+    HoleOptikteilInformation(anzeige);
+    UebernimmOptikteile();
+    EXPECT_EQ(modPolling::GetAnzahlOptikteile(), 3);
+    EXPECT_EQ(modPolling::GetOptikteilStatus(0), modPolling::Vorhanden);
+    EXPECT_NE(modPolling::GetOptikteilStatus(1), modPolling::Vorhanden);
+    EXPECT_EQ(modPolling::GetOptikteilStatus(2), modPolling::Vorhanden);
+    EXPECT_NE(modPolling::GetOptikteilStatus(3), modPolling::Vorhanden);
 }
 
 } // namespace varnoth

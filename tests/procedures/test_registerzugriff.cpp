@@ -1,13 +1,18 @@
 #include "ablauftest.h"
+#include "austausch.h"
 #include "geraetestand.h"
 #include "registerzugriff.h"
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 #include <vector>
 
 namespace varnoth {
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -61,6 +66,36 @@ TEST_F(Registerzugriff, Tries_again_until_the_controller_answers) {
     SchweigeBei(3);
     EXPECT_TRUE(Lies({{Global, 196, 1}}));
     EXPECT_THAT(gelesen, ElementsAre(std::pair(196, Werte{7})));
+}
+
+TEST_F(Registerzugriff, Hands_over_what_its_part_holds_whichever_reply_comes_twice) {
+    const auto einmal = port.antworte;
+    int doppelte = 0;
+    std::chrono::milliseconds nach{0};
+    Zeit frei{0};
+    port.antworte = [&](const std::string& anforderung) {
+        auto stuecke = einmal(anforderung);
+        frei = std::max(frei, umgebung.uhr) + 5ms;
+        stuecke[0].nach = frei - umgebung.uhr;
+        if (AnzahlAnforderungen() == doppelte) {
+            frei += nach;
+            stuecke.push_back({frei - umgebung.uhr, stuecke[0].bytes});
+        }
+        return stuecke;
+    };
+    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
+        geraet.Spezifisch(teil, 13) = 20 + teil;
+    for (nach = 0ms; nach <= 40ms; nach += 10ms)
+        for (doppelte = 1; doppelte <= 6; ++doppelte) {
+            gelesen.clear();
+            port.gesendet.clear();
+            EXPECT_TRUE(Lies({{Spezifisch, 13, 1, 3}, {Spezifisch, 13, 1, 1}, {Spezifisch, 13, 1, 0}}));
+            EXPECT_THAT(gelesen, ElementsAre(std::pair(3013, Werte{23}), std::pair(1013, Werte{21}),
+                                             std::pair(13, Werte{20})))
+                << "reply " << doppelte << " after " << nach.count() << " ms";
+            umgebung.uhr += 5s;
+            modAustausch::Vergewissere();
+        }
 }
 
 TEST_F(Registerzugriff, Hands_nothing_over_when_it_is_cancelled_before_an_answer) {

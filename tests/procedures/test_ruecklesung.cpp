@@ -5,6 +5,7 @@
 #include "registerabbild.h"
 #include "schreibvorgang.h"
 #include "standardkonfiguration.h"
+#include "texte.h"
 #include "transfermitschrift.h"
 
 namespace varnoth {
@@ -68,6 +69,14 @@ TEST_F(RuecklesungTest, Neither_the_image_in_use_nor_its_changed_mark_changes) {
     Pruefe();
     EXPECT_EQ(modDaten::DasAbbild(), vorher);
     EXPECT_EQ(modDaten::IstGeaendert(), False);
+}
+
+TEST_F(RuecklesungTest, It_is_shown_as_a_reading_and_ends_with_its_text) {
+    anzeige.ende.clear();
+    Pruefe();
+    EXPECT_EQ(anzeige.schritte.front().bereich, LadeText(7005));
+    EXPECT_EQ(anzeige.schritte.back().bereich, LadeText(7007));
+    EXPECT_EQ(anzeige.ende, LadeText(7009));
 }
 
 TEST_F(RuecklesungTest, A_register_that_is_another_is_found_in_its_part) {

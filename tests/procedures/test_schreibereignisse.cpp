@@ -85,4 +85,30 @@ TEST_F(Schreibereignisse, Factory_data_are_told_once_for_all_their_steps_and_not
     EXPECT_TRUE(Letztes().gelungen);
 }
 
+TEST_F(Schreibereignisse, What_was_sent_and_never_confirmed_is_told_as_failed) {
+    constexpr auto Auswahl = Geraeteadresse(Speicherbereich::GlobaleGeraetedaten, global::Optikteilauswahl);
+    geraet.schweige = [](const std::string& bytes) { return pruefung::Wort(bytes, 2) != Auswahl; };
+    SchreibeEinzelwert({.adresse = "193"}, "1");
+    ASSERT_EQ(Anzahl(), 1U);
+    EXPECT_FALSE(Letztes().gelungen);
+    Ohne anzeige;
+    anzeige.abbruch = true;
+    EXPECT_FALSE(SchreibeRegister(anzeige, {Speicherbereich::Kommunikationsdaten, 4, 2}, {1, 2}));
+    ASSERT_EQ(Anzahl(), 2U);
+    EXPECT_FALSE(Letztes().gelungen);
+    pruefung::Mitschrift transfer;
+    transfer.abbruch = true;
+    EXPECT_FALSE(SchreibeKonfiguration(transfer, Ablage::Fluechtig));
+    ASSERT_EQ(Anzahl(), 3U);
+    EXPECT_FALSE(Letztes().gelungen);
+    EXPECT_EQ(Letztes().anzahl, 0U);
+    pruefung::PruefEinstellungen einstellungen;
+    modService::SetzeServiceText(Passwort);
+    pruefung::Initialisierungsmitschrift werksdaten;
+    werksdaten.abbruchBeiVersuch = 2;
+    EXPECT_FALSE(InitialisiereHardware(werksdaten, {}));
+    ASSERT_EQ(Anzahl(), 4U);
+    EXPECT_FALSE(Letztes().gelungen);
+}
+
 } // namespace varnoth

@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+
 namespace varnoth {
 
 namespace {
@@ -207,6 +210,27 @@ TEST(Schreibfolgen, One_setting_or_register_is_told_as_one) {
                   .text,
               "0 of 32 registers read back equal.\n"
               "The check was cancelled: 1 setting (32 registers) was not compared.");
+}
+
+TEST(Schreibfolgen, Each_finding_has_its_title_its_columns_and_what_can_be_done) {
+    using Worte = std::array<std::string, 4>;
+    const auto worte = [](const Registerbefund& befund) {
+        return Worte{befund.titel, befund.links, befund.rechts, befund.weiter};
+    };
+    const Schreibauftrag auftrag{.abbild = Mit(Pause, 1), .stellen = {Pause}};
+    EXPECT_EQ(worte(BefundVorDemSchreiben(auftrag, Stand({}), "")),
+              (Worte{LadeText(9767), LadeText(9775), LadeText(9776), ""}));
+    EXPECT_EQ(worte(BefundDerPruefung(auftrag, {}, {})),
+              (Worte{LadeText(9782), LadeText(9785), LadeText(9786), LadeText(9788)}));
+    EXPECT_EQ(worte(BefundDesAbbruchs(auftrag, {}, true)),
+              (Worte{LadeText(9789), LadeText(9791), LadeText(9800), LadeText(9795)}));
+}
+
+TEST(Schreibfolgen, Of_a_value_beyond_16_bits_the_words_are_those_of_what_travels) {
+    const Schreibauftrag gross{.abbild = Mit(Pause, 0x10007), .stellen = {Pause}};
+    const Schreibauftrag klein{.abbild = Mit(Pause, 7), .stellen = {Pause}};
+    EXPECT_EQ(BefundDesAbbruchs(gross, {}, false).zeilen.at(0).rechts,
+              BefundDesAbbruchs(klein, {}, false).zeilen.at(0).rechts);
 }
 
 TEST(Schreibfolgen, A_check_that_found_equality_has_no_sequel) {
