@@ -22,7 +22,7 @@ namespace varnoth {
 namespace {
 
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr std::int16_t TextStelle = 6446, TextKeineDaten = 6447, TextAnsage = 6470, TextAnsageLeer = 6447;
+constexpr std::int16_t TextStelle = 6446, TextKeineDaten = 6447, TextAnsage = 6470;
 
 constexpr Zeit LiveDauer = std::chrono::minutes(2); // that is in view at first
 constexpr int PaketeJeBild = 24;                    // so that a picture never waits for long
@@ -192,7 +192,7 @@ QString Wasserfallbild::Stellentext() const {
 
 QString Wasserfallbild::Ansage() const {
     if (anbieter == nullptr || vorgabe.strahlen == 0)
-        return QString::fromStdString(LadeText(TextAnsageLeer));
+        return QString::fromStdString(LadeText(TextKeineDaten));
     const Messangaben angaben = anbieter->Quelle().Angaben();
     const std::string text =
         LadeTextMit(TextAnsage, {std::to_string(vorgabe.strahlen), Zeitworte(angaben, fenster.Von()),

@@ -55,6 +55,16 @@ TEST_F(CsvformTest, A_pass_is_a_line_for_each_part) {
               "0,1,0x84,\r\n");
 }
 
+TEST_F(CsvformTest, The_switching_output_is_1_while_it_is_active_and_0_otherwise) {
+    EXPECT_TRUE(Zeilen({.durchgaenge = {durchgang}}).ends_with(",1,0x84,\r\n"));
+    durchgang.geraetestatus = 0;
+    EXPECT_TRUE(Zeilen({.durchgaenge = {durchgang}}).ends_with(",0,0x84,\r\n"));
+    durchgang.teile[0].vorhanden = false;
+    EXPECT_TRUE(Zeilen({.durchgaenge = {durchgang}}).ends_with(",0,,\r\n")) << "without any part too";
+    durchgang.geraetestatus = geraetestatus::PnpAktiv;
+    EXPECT_TRUE(Zeilen({.durchgaenge = {durchgang}}).ends_with(",1,,\r\n"));
+}
+
 TEST_F(CsvformTest, The_German_Excel_gets_semicolons_a_decimal_comma_and_a_mark_of_the_encoding) {
     EXPECT_TRUE(Csvform(Csvart::ExcelDeutsch, LadeCsvworte())
                     .Beginne({}, konfiguration)

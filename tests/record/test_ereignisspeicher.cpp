@@ -56,8 +56,10 @@ TEST(Ereignisspeicher, Changes_the_values_of_an_event_and_leaves_its_text) {
     EXPECT_GT(speicher.Aenderungen(), vorher);
     speicher.Merke(Notiert("c"));
     speicher.Merke(Notiert("d"));
+    const auto danach = speicher.Aenderungen();
     speicher.Aendere(0, {.art = Ereignisart::Notiz, .anzahl = 9});
     speicher.Aendere(3, {.art = Ereignisart::Notiz, .anzahl = 9});
+    EXPECT_EQ(speicher.Aenderungen(), danach) << "neither of those is there";
     EXPECT_EQ(speicher.Hole(1).anzahl, 1U);
     EXPECT_EQ(speicher.Hole(2).anzahl, 1U);
 }

@@ -211,6 +211,19 @@ TEST_F(StrahlreduktionTest, A_gap_is_one_in_wide_columns_too) {
     EXPECT_EQ(Spalte(30).art, Spaltenart::Gemessen);
 }
 
+TEST_F(StrahlreduktionTest, A_wide_column_that_was_measured_but_for_a_while_says_so) {
+    Fuelle(quelle, 20, 8, [](int, int) { return false; });
+    quelle.pakete.back().ereignisse = {{.art = Messereignisart::Verloren, .laufzeit = 500ms}};
+    quelle.uebersicht.Nimm(quelle.pakete.back().ereignisse.front());
+    Fuelle(
+        quelle, 60, 8, [](int, int) { return false; }, 0, 1s);
+    reduktion.Setze(0, 2s);
+    ASSERT_TRUE(reduktion.Rechne(quelle, 0, 2, 0));
+    EXPECT_EQ(Spalte(0).art, Spaltenart::Gemessen);
+    EXPECT_TRUE(Spalte(0).luecke);
+    EXPECT_FALSE(Spalte(1).luecke);
+}
+
 TEST_F(StrahlreduktionTest, A_part_that_the_passes_leave_out_is_not_measured) {
     Fuelle(
         quelle, 100, 8, [](int, int) { return true; }, 2);
@@ -253,6 +266,23 @@ TEST_F(StrahlreduktionTest, A_column_that_still_grows_is_calculated_again) {
         quelle, 10, 8, [](int, int strahl) { return strahl == 4; }, 0, 1250ms);
     ASSERT_TRUE(reduktion.Rechne(quelle, 0, 2, 0));
     EXPECT_EQ(Strahlzelle(Spalte(0), 4), Zellenart::Zeitweise);
+}
+
+TEST_F(StrahlreduktionTest, While_it_grows_it_shows_what_calculating_it_anew_shows) {
+    const auto selten = [](int i) {
+        return [i](int, int strahl) { return i % 5 == 3 && strahl == i / 5 % 8; };
+    };
+    // The overview's stretches of a second reach over the ends of such columns.
+    reduktion.Setze(0, 1500ms);
+    for (int i = 0; i < 60; ++i) {
+        Fuelle(quelle, 2, 8, selten(i), 0, 30ms + i * 100ms);
+        ASSERT_TRUE(reduktion.Rechne(quelle, 0, 4, 0));
+        Strahlreduktion neue;
+        neue.Setze(0, 1500ms);
+        ASSERT_TRUE(neue.Rechne(quelle, 0, 4, 0));
+        for (std::int64_t k = 0; k < 4; ++k)
+            EXPECT_EQ(Spalte(k), neue.Spalte(k)) << "column " << k << " behind packet " << i;
+    }
 }
 
 TEST_F(StrahlreduktionTest, Another_part_or_source_shows_nothing_of_the_former) {

@@ -179,4 +179,9 @@ TEST_F(StrahlstatistikTest, Without_measurements_nothing_is_proposed) {
     EXPECT_THAT(ZuBlankendes(std::vector<Strahlwerte>(8)), Each(0));
 }
 
+TEST(Strahlauswertung, Of_an_empty_source_there_is_nothing_to_count) {
+    const pruefung::PruefMessquelle leere;
+    EXPECT_FALSE(Strahlauswertung(0, {Zeit{}, Zeit::max()}).Weiter(leere, 1));
+}
+
 } // namespace varnoth

@@ -29,6 +29,7 @@ TEST(Strahlworte, Durations_are_told_in_what_suits_them) {
     EXPECT_EQ(Dauerworte(12'340ms), "12,3 s");
     EXPECT_EQ(Dauerworte(59'960ms), "1 min 00 s");
     EXPECT_EQ(Dauerworte(252s), "4 min 12 s");
+    EXPECT_EQ(Dauerworte(2h), "2 h 00 min");
     EXPECT_EQ(Dauerworte(3h + 5min + 59s), "3 h 05 min");
     SetzeSprachoffset(Englisch);
     EXPECT_EQ(Dauerworte(12'340ms), "12.3 s");

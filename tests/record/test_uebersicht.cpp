@@ -210,4 +210,15 @@ TEST(UebersichtTest, Passes_that_could_not_be_kept_are_a_gap) {
     EXPECT_TRUE(uebersicht.HatLuecke(0));
 }
 
+TEST(UebersichtTest, A_beam_that_begins_a_register_of_its_own_is_kept) {
+    Messdurchgang durchgang{.uhr = Zeit(0), .anzahlTeile = 1};
+    durchgang.teile[0] = {.vorhanden = true, .gemessen = true, .strahlen = 17};
+    durchgang.teile[0].strahlregister[0] = 0xFFFF;
+    Uebersicht uebersicht;
+    uebersicht.Nimm(durchgang);
+    ASSERT_EQ(uebersicht.UnterbrochenEinmal(0, 0).size(), 2U);
+    EXPECT_NE(uebersicht.UnterbrochenEinmal(0, 0)[1], 0);
+    EXPECT_NE(uebersicht.UnterbrochenImmer(0, 0)[1], 0);
+}
+
 } // namespace varnoth

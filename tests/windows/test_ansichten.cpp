@@ -185,4 +185,45 @@ TEST_F(AnsichtenTest, Stacked_views_stand_one_below_the_other_in_a_window_that_i
     EXPECT_GE(Platz(1).top(), Platz(0).bottom());
 }
 
+TEST_F(AnsichtenTest, Stacking_that_was_chosen_is_followed_by_a_higher_area) {
+    Zeige({0, 1});
+    DieAnsichten().Ordne(Anordnung::Untereinander);
+    Vergroessere({1300, 1200});
+    EXPECT_EQ(Platz(0).left(), Platz(1).left());
+    EXPECT_EQ(Platz(1).top(), bereich.viewport()->height() / 2);
+}
+
+TEST_F(AnsichtenTest, Views_without_a_place_are_tiled_as_in_the_last_run) {
+    einstellungen.texte[{"Ansichten", "Anordnung"}] = "Untereinander";
+    Zeige({0, 1});
+    EXPECT_EQ(Platz(0).left(), Platz(1).left());
+    EXPECT_GT(Platz(1).top(), Platz(0).top());
+}
+
+TEST_F(AnsichtenTest, The_first_view_lies_above_the_others) {
+    Zeige({0, 1, 2});
+    EXPECT_EQ(bereich.subWindowList(QMdiArea::StackingOrder).last(), &Rahmen(0));
+}
+
+TEST_F(AnsichtenTest, A_minimised_view_has_no_place_in_a_tiling_and_breaks_none) {
+    Zeige({0, 1, 2});
+    Rahmen(1).showMinimized();
+    QCoreApplication::processEvents();
+    Vergroessere({1500, 800});
+    EXPECT_TRUE(Rahmen(1).isMinimized());
+    EXPECT_EQ(Platz(0).width(), 750);
+    EXPECT_EQ(Platz(2).left(), 750);
+}
+
+TEST_F(AnsichtenTest, A_view_shown_again_takes_its_part_of_a_tiling) {
+    Zeige({0, 1});
+    const Ansichten::Stand beide = DieAnsichten().HoleStand();
+    Zeige({0});
+    EXPECT_EQ(Platz(0).width(), 1300);
+    DieAnsichten().StelleHer(beide);
+    EXPECT_TRUE(Rahmen(1).isVisible());
+    EXPECT_TRUE(pruefung::WarteBis([this] { return Platz(0).width() == 650; }));
+    EXPECT_EQ(Platz(1).left(), 650);
+}
+
 } // namespace varnoth

@@ -254,6 +254,13 @@ TEST_F(AufzeichnungsablaufTest, A_file_that_vanishes_is_told_once_in_the_status_
     EXPECT_TRUE(umgebung.meldungen.empty());
     EXPECT_TRUE(Marke().text().contains("waiting:"));
     ASSERT_TRUE(WarteBis([&] { return Dateien().size() == 1; }, 20'000));
+    ASSERT_TRUE(WarteBis([&] { return Ereignisarten().size() == 3; }, 20'000));
+    EXPECT_THAT(Ereignisarten(),
+                ElementsAre(Ereignisart::AufzeichnungBegonnen, Ereignisart::AufzeichnungOhnePlatz,
+                            Ereignisart::AufzeichnungBegonnen));
+    EXPECT_THAT(modEreignisse::Alle().Hole(modEreignisse::Alle().Ende() - 1).text,
+                testing::EndsWith("_002.csv"));
+    EXPECT_EQ(umgebung.statustexte[0], LadeText(6232));
     MeldeDurchgang(2);
     Ablauf().Schalte();
     EXPECT_TRUE(Dateien().front().endsWith("_002.csv"));

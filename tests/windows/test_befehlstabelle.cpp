@@ -157,6 +157,8 @@ TEST(Befehlstabelle, These_commands_have_keys_of_their_own) {
         {Befehl::Aufzeichnungen, "Ctrl+Shift+R"},
         {Befehl::Wiedergabe, "Ctrl+Shift+O"},
         {Befehl::Ereignisse, "Ctrl+E"},
+        {Befehl::Bericht, "Ctrl+P"},
+        {Befehl::Verlauf, "Ctrl+T"},
     };
     for (const auto& [befehl, taste] : tasten)
         EXPECT_EQ(Kuerzel(*ZeileZu(befehl), 0), taste);
@@ -207,6 +209,14 @@ TEST(Befehlstabelle, No_action_belongs_to_two_commands) {
     for (const Befehlszeile& zeile : Befehlstabelle())
         aktionen += static_cast<std::size_t>(zeile.anzahl);
     EXPECT_EQ(AlleAktionen().size(), aktionen);
+}
+
+TEST(Befehlstabelle, Views_and_ports_have_an_action_each_other_commands_one_or_none) {
+    for (const Befehlszeile& zeile : Befehlstabelle()) {
+        const bool mehrere = zeile.befehl == Befehl::LichtleisteAnzeigen || zeile.befehl == Befehl::ComPort;
+        const bool keine = *zeile.aktion == 0;
+        EXPECT_EQ(zeile.anzahl, mehrere ? 4 : keine ? 0 : 1) << static_cast<int>(zeile.befehl);
+    }
 }
 
 TEST(Befehlstabelle, An_action_of_several_bears_its_index) {

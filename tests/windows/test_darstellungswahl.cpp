@@ -6,6 +6,7 @@
 #include "frmMain.h"
 #include "pruefgeraet.h"
 #include "strahlfarben.h"
+#include "texte.h"
 #include "verblassen.h"
 
 #include <QAction>
@@ -388,6 +389,21 @@ TEST_F(DarstellungTest, The_menu_ticks_what_is_in_use) {
                                            aktion->objectName() == "mnuFarbsatzGraustufen")
             << aktion->objectName().toStdString();
     menue.close();
+}
+
+TEST_F(DarstellungTest, The_menu_names_each_choice_in_the_chosen_language) {
+    const auto punkte = [this] {
+        QMenu& menue = Menue();
+        std::vector<std::string> texte;
+        for (const QAction* aktion : menue.actions())
+            texte.push_back(aktion->text().toStdString());
+        menue.close();
+        return texte;
+    };
+    SetzeSprachoffset(Englisch);
+    EXPECT_EQ(punkte(), (std::vector<std::string>{
+                            "Like the &system", "&Light", "&Dark", "High &contrast", "Colours of the beams",
+                            "Green and &red", "&Blue and orange", "Green and &magenta", "Shades of &grey"}));
 }
 
 TEST_F(DarstellungTest, Beams_on_the_screen_take_new_colours_at_once) {

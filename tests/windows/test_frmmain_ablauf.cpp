@@ -5,8 +5,10 @@
 
 #include "dateidialog.h"
 #include "dateien.h"
+#include "konfigurationsdatei.h"
 #include "muster.h"
 #include "qttexte.h"
+#include "standardkonfiguration.h"
 #include "standtext.h"
 #include "texte.h"
 
@@ -239,6 +241,43 @@ TEST_F(FrmMainAblauf, The_question_names_no_cause_where_the_controller_has_answe
     sieheNach();
     Fenster().Autostart();
     EXPECT_EQ(nennt, (std::vector<bool>{false, false}));
+}
+
+TEST_F(FrmMainAblauf, A_file_dialog_that_was_cancelled_leads_back_to_the_question_for_a_configuration) {
+    int gefragt = 0;
+    SetzeDateiantwort([&](const Dateifrage&) -> std::optional<std::string> {
+        ++gefragt;
+        Sobald("frmKeinKonturAngeschlossen", [](QDialog& dialog) { dialog.reject(); });
+        return std::nullopt;
+    });
+    Sobald("frmKeinKonturAngeschlossen", [](QDialog& dialog) {
+        dialog.findChild<QRadioButton*>(QString::fromUtf8("optKonfigurationöffnen"))->click();
+        dialog.findChild<QPushButton*>("cmdOK")->click();
+    });
+    Waehle("mnuAnzeigeKonfiguration");
+    SetzeDateiantwort({});
+    EXPECT_EQ(gefragt, 1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_FALSE(Fenster().Fenster(0).isVisible());
+}
+
+TEST_F(FrmMainAblauf, The_last_configuration_that_was_saved_is_loaded_where_there_is_no_controller) {
+    const QTemporaryDir ordner;
+    const std::string pfad = ordner.filePath("letzte.con").toStdString();
+    Abbild letzte = Standardkonfiguration();
+    ASSERT_TRUE(letzte.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 24));
+    ASSERT_EQ(ErsetzeDatei(pfad, AlsKonfigurationsdatei(letzte)), "");
+    einstellungen.texte[{"frmMain", "mnuSpeichernUnter"}] = pfad;
+    geraet.schweige = [](const std::string&) { return true; };
+    Sobald("frmKeinKonturAngeschlossen", [](QDialog& dialog) {
+        dialog.findChild<QRadioButton*>("optLadeletztenKonfigurationsdatensatz")->click();
+        dialog.findChild<QPushButton*>("cmdOK")->click();
+    });
+    Fenster().Autostart();
+    EXPECT_EQ(modDaten::GetDateiname(), pfad);
+    EXPECT_TRUE(Fenster().Fenster(0).isVisible());
+    EXPECT_EQ(Fenster().Fenster(0).findChild<BeamBarControl*>()->Strahlanzahl(), 24);
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_0").isVisible());
 }
 
 TEST_F(FrmMainAblauf, Side_by_side_puts_the_views_in_one_row) {

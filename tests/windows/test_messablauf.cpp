@@ -1,12 +1,18 @@
 #include "messablauf.h"
 
+#include "aufzeichnungsanbieter.h"
 #include "dateidialog.h"
 #include "dateien.h"
 #include "fenstertest.h"
 #include "probedurchgaenge.h"
+#include "programmversion.h"
+#include "pruefgeraet.h"
 #include "pruefmessquelle.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
+#include "schnittstelle.h"
+#include "strahlbericht.h"
+#include "transaktionen.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -183,6 +189,36 @@ TEST_F(MessablaufTest, Parts_that_a_window_needs_are_measured_while_it_is_open) 
     EXPECT_FALSE(modMesshoerer::Braucht(1));
     ablauf.Schliesse();
     EXPECT_FALSE(modMesshoerer::Braucht(2));
+}
+
+TEST_F(MessablaufTest, Knows_the_controller_that_live_data_comes_from_once_it_begins) {
+    PruefPort port{umgebung};
+    const PruefGeraet geraet{port};
+    modMesshoerer::Melde(Liveereignisart::Begonnen);
+    EXPECT_EQ(ablauf.Speicher().Angaben().bezeichnung, "");
+    modSchnittstelle::OpenCommPort();
+    ASSERT_EQ(modModbus::RTUModeH11IndentifikationsAnforderung(), True);
+    modMesshoerer::Melde(Liveereignisart::Begonnen);
+    EXPECT_EQ(ablauf.Speicher().Angaben().bezeichnung, "Varnoth");
+    EXPECT_EQ(ablauf.Speicher().Angaben().seriennummer, "4711");
+    EXPECT_EQ(ablauf.Speicher().Angaben().programm, Programmversion());
+    modSchnittstelle::CloseCommPort();
+}
+
+TEST_F(MessablaufTest, Keeps_many_passes_with_the_least_memory_that_can_be_chosen) {
+    einstellungen.texte[{"Aufzeichnung", "FlugschreiberMB"}] = std::to_string(Flugschreiberbereich.kleinster);
+    const Messablauf zweiter;
+    Nimm(0, 3000);
+    EXPECT_EQ(zweiter.Speicher().Erstes(), 0U);
+    EXPECT_GT(zweiter.Speicher().Ende(), 2U);
+}
+
+TEST_F(MessablaufTest, A_section_about_beams_goes_to_who_shows_reports) {
+    std::string zeitraum;
+    ablauf.BerichteStrahlen({.zeitraum = "zu frueh"});
+    ablauf.SetzeBerichtsweg([&](const Strahlbericht& abschnitt) { zeitraum = abschnitt.zeitraum; });
+    ablauf.BerichteStrahlen({.zeitraum = "Optikteil 1"});
+    EXPECT_EQ(zeitraum, "Optikteil 1");
 }
 
 TEST_F(MessablaufTest, A_blanking_pattern_goes_to_who_takes_suggestions) {

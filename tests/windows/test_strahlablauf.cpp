@@ -4,6 +4,7 @@
 
 #include "strahlbits.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -53,12 +54,13 @@ protected:
             return Vorschlag() != nullptr && Vorschlag()->isEnabled();
         }));
     }
-    static QPushButton* Vorschlag() {
+    static QPushButton* Knopf(const char* name) {
         for (const QWidget* const eines : QApplication::topLevelWidgets())
             if (eines->objectName() == "frmWasserfall")
-                return eines->findChild<QPushButton*>("cmdBlanking");
+                return eines->findChild<QPushButton*>(QLatin1String(name));
         return nullptr;
     }
+    static QPushButton* Vorschlag() { return Knopf("cmdBlanking"); }
     /// Suggests, looks at the blanking editor, clicks a button there and closes the editor behind it.
     void SchlageVorUndKlicke(const char* knopf) {
         Sobald("frmBlankingmuster", [this, knopf](QDialog& dialog) {
@@ -85,6 +87,20 @@ protected:
         });
     }
 
+    /// Whether the report that a deed opens offers the statistics of the beams, and whether they are in it.
+    template<class Tat>
+    std::pair<bool, bool> StatistikImBericht(Tat tat) {
+        std::pair<bool, bool> angeboten;
+        Sobald("frmBericht", [&angeboten](QDialog& dialog) {
+            const auto* const kreuz = dialog.findChild<QCheckBox*>("chkStrahlstatistik");
+            angeboten = {kreuz->isVisible(), kreuz->isChecked()};
+            dialog.reject();
+        });
+        tat();
+        Fenster().MenuAusführen();
+        return angeboten;
+    }
+
     QString titel;
     Werte musterBeimZeigen;
 };
@@ -104,6 +120,18 @@ TEST_F(StrahlablaufTest, What_is_suggested_and_taken_over_is_a_change_that_the_c
     EXPECT_EQ(musterBeimZeigen, Werte(spezifisch::Blankingregister, 0));
     EXPECT_EQ(Muster(), Erwartetes());
     EXPECT_TRUE(BliebDasGeraetWieEsWar());
+}
+
+TEST_F(StrahlablaufTest, Statistics_that_were_sent_to_the_report_stay_on_offer_until_the_language_changes) {
+    using Angebot = std::pair<bool, bool>;
+    MissUndZeige();
+    const auto bericht = [this] { Waehle("mnuBericht"); };
+    EXPECT_EQ(StatistikImBericht(bericht), Angebot(false, false));
+    EXPECT_EQ(StatistikImBericht([] { Knopf("cmdBericht")->click(); }), Angebot(true, true));
+    EXPECT_EQ(StatistikImBericht(bericht), Angebot(true, false));
+    Waehle("mnuEnglisch");
+    EXPECT_EQ(StatistikImBericht(bericht), Angebot(false, false)) << "their words are of the other language";
+    Waehle("mnuDeutsch");
 }
 
 } // namespace varnoth

@@ -360,4 +360,46 @@ TEST_F(VerlaufsbildTest, The_axis_reaches_over_all_beams_of_the_parts_that_are_s
     EXPECT_GE(bild.Blick().Werte().oben, 128);
 }
 
+TEST_F(VerlaufsbildTest, A_key_that_does_nothing_here_is_left_to_the_window) {
+    Zeige();
+    QKeyEvent ereignis(QEvent::KeyPress, Qt::Key_F9, Qt::NoModifier);
+    QApplication::sendEvent(&bild, &ereignis);
+    EXPECT_FALSE(ereignis.isAccepted());
+}
+
+TEST_F(VerlaufsbildTest, Axes_stand_at_the_left_of_the_curves_and_below_them) {
+    FuelleSekunden(anbieter.quelle, 400, 20);
+    Zeige();
+    const QImage aufnahme = Aufnahme();
+    const QRgb achse = KurvenfarbenAus(bild.palette()).achsen.rgb();
+    const Wertebereich werte = bild.Blick().Werte();
+    const QPoint unten = bild.Stelle(bild.Spanne().von, werte.unten).toPoint();
+    const QPoint oben = bild.Stelle(bild.Spanne().von, werte.oben).toPoint();
+    EXPECT_EQ(aufnahme.pixel(unten.x() - 1, (unten.y() + oben.y()) / 2), achse);
+    EXPECT_EQ(aufnahme.pixel(unten.x() + 100, unten.y()), achse);
+}
+
+TEST_F(VerlaufsbildTest, The_times_stand_below_the_curves_with_a_gap_between) {
+    FuelleSekunden(anbieter.quelle, 400, 20);
+    Verlaufswahl wahl = bild.Wahl();
+    wahl.zustaende = false;
+    bild.SetzeWahl(wahl);
+    Zeige();
+    const QImage aufnahme = Aufnahme();
+    const QPoint ecke = bild.Stelle(bild.Spanne().von, bild.Blick().Werte().unten).toPoint();
+    const auto istLeer = [&](int y) {
+        const QRgb grund = aufnahme.pixel(aufnahme.width() - 1, ecke.y() + 3);
+        for (int x = ecke.x() + 1; x < aufnahme.width(); ++x)
+            if (aufnahme.pixel(x, y) != grund)
+                return false;
+        return true;
+    };
+    EXPECT_TRUE(istLeer(ecke.y() + 3));
+    EXPECT_TRUE(istLeer(ecke.y() + 5));
+    int beschriebene = 0;
+    for (int y = ecke.y() + 6; y < aufnahme.height(); ++y)
+        beschriebene += istLeer(y) ? 0 : 1;
+    EXPECT_GT(beschriebene, bild.fontMetrics().capHeight());
+}
+
 } // namespace varnoth

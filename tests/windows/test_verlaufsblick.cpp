@@ -112,6 +112,21 @@ TEST(Verlaufsblick, A_replay_is_followed_where_it_stands_and_its_future_can_be_l
     EXPECT_EQ(blick.Spanne().bis, minutes(50));
 }
 
+TEST(Verlaufsblick, A_replay_that_is_followed_no_more_shows_no_time_before_its_beginning) {
+    Verlaufsblick blick;
+    blick.SetzeGanzes({Zeit(0), hours(2)}, seconds(30), {0, 128});
+    blick.Folge(false);
+    EXPECT_EQ(blick.Spanne(), (Zeitspanne{Zeit(0), minutes(5)}));
+}
+
+TEST(Verlaufsblick, A_value_keeps_its_place_while_it_is_zoomed) {
+    Verlaufsblick blick = Blick();
+    blick.ZoomeWerte(64, 4);
+    EXPECT_EQ(blick.Werte(), (Wertebereich{48, 80}));
+    blick.ZoomeWerte(56, 2);
+    EXPECT_EQ(blick.Werte(), (Wertebereich{52, 68}));
+}
+
 TEST(Verlaufsblick, Moves_no_further_than_a_time_needs_to_be_seen) {
     Verlaufsblick blick = Blick();
     blick.ZeigeZeit(minutes(57));

@@ -1,5 +1,6 @@
 #include "wasserfallbild.h"
 
+#include "ereigniszaehler.h"
 #include "fenstertest.h"
 #include "pruefmessanbieter.h"
 #include "pruefumgebung.h"
@@ -260,6 +261,44 @@ TEST_F(WasserfallbildTest, The_keyboard_walks_by_columns_and_beams_and_takes_the
     EXPECT_LE(bild.Fenster().Von(), 0s);
     QTest::keyClick(&bild, Qt::Key_0);
     EXPECT_GT(Dauer(), 55s);
+}
+
+TEST_F(WasserfallbildTest, A_place_that_another_window_sets_is_drawn) {
+    Oeffne();
+    QCoreApplication::processEvents();
+    pruefung::Ereigniszaehler zaehler(bild);
+    bild.SetzeStelle(Strahlstelle{45s, 7});
+    EXPECT_TRUE(pruefung::WarteBis([&] { return zaehler.anzahl[QEvent::Paint] > 0; }));
+}
+
+TEST_F(WasserfallbildTest, The_beam_of_a_place_is_framed_the_same_at_the_edges) {
+    Oeffne();
+    bild.ZeigeAlles();
+    Bis([] { return true; });
+    const QImage ohne = bild.AlsBild();
+    const int daneben = Punkt(30s, 20).x();
+    const auto gezeichnete = [&](int strahl) {
+        bild.SetzeStelle(Strahlstelle{45s, strahl});
+        const QImage mit = bild.AlsBild();
+        int zeilen = 0;
+        for (int y = 0; y < mit.height(); ++y)
+            zeilen += mit.pixel(daneben, y) != ohne.pixel(daneben, y) ? 1 : 0;
+        return zeilen;
+    };
+    const int mitten = gezeichnete(20);
+    EXPECT_GT(mitten, 0);
+    EXPECT_EQ(gezeichnete(0), mitten);
+    EXPECT_EQ(gezeichnete(39), mitten);
+}
+
+TEST_F(WasserfallbildTest, The_keyboard_begins_in_the_middle_of_the_picture) {
+    Oeffne();
+    bild.ZeigeAlles();
+    const Zeitfenster& fenster = bild.Fenster();
+    QTest::keyClick(&bild, Qt::Key_Up);
+    ASSERT_TRUE(bild.Stelle());
+    EXPECT_EQ(bild.Stelle()->strahl, 21);
+    EXPECT_EQ(bild.Stelle()->zeit, fenster.Von() + fenster.spalten / 2 * fenster.breite);
 }
 
 TEST_F(WasserfallbildTest, With_shift_the_keyboard_chooses_a_time_and_enter_goes_there) {

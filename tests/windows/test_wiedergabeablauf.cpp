@@ -4,6 +4,7 @@
 
 #include "dateidialog.h"
 #include "dateien.h"
+#include "frmVergleich.h"
 #include "geraetestand.h"
 #include "gezeigtesabbild.h"
 #include "konfigurationsdatei.h"
@@ -11,20 +12,23 @@
 #include "polling.h"
 #include "pruefmessquelle.h"
 #include "texte.h"
+#include "textmitwerten.h"
+#include "verlaufsbild.h"
 #include "vrecform.h"
 #include "wiedergaberegel.h"
 #include "wiedergabeworte.h"
+#include "zeitworte.h"
 
 #include <QComboBox>
 #include <QDialog>
+#include <QDockWidget>
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTemporaryDir>
-
-#include <algorithm>
+#include <gmock/gmock.h>
 
 namespace varnoth {
 
@@ -53,9 +57,19 @@ struct Mitschnitt : Messhoerer {
     std::shared_ptr<pruefung::PruefMessquelle> quelle = std::make_shared<pruefung::PruefMessquelle>();
 };
 
+/// A record whose configuration is another from the packet of a number on, or cannot be read there.
+struct Quelle2Konfigurationen : pruefung::PruefMessquelle {
+    std::shared_ptr<const Abbild> Konfiguration(std::uint64_t nummer) const override {
+        return nummer < ab ? PruefMessquelle::Konfiguration(nummer) : danach;
+    }
+    std::uint64_t ab = 10;
+    std::shared_ptr<const Abbild> danach;
+};
+
 /// Parts of 16 beams, two of them; the third second has a gap, the fourth another part 1.
-std::shared_ptr<pruefung::PruefMessquelle> Probe() {
-    auto quelle = std::make_shared<pruefung::PruefMessquelle>();
+template<class Quelle = pruefung::PruefMessquelle>
+std::shared_ptr<Quelle> Probe() {
+    auto quelle = std::make_shared<Quelle>();
     for (int teil = 0; teil < 2; ++teil) {
         EXPECT_TRUE(quelle->konfiguration.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 16, teil));
         EXPECT_TRUE(quelle->konfiguration.SetzeRegister(Spezifisch, spezifisch::Aufloesung, 5, teil));
@@ -120,6 +134,13 @@ protected:
             Klicke("cmdDurchgangVor");
     }
     void Verlasse() { Klicke("cmdVerlassen"); }
+    /// A window beside the main one, if it is open.
+    static QWidget* Offenes(const char* name) {
+        for (QWidget* const eines : QApplication::topLevelWidgets())
+            if (eines->objectName() == QLatin1String(name) && eines->isVisible())
+                return eines;
+        return nullptr;
+    }
     QLabel& Verbindungstext() { return *Fenster().findChild<QLabel*>("lblVerbindung"); }
 
     std::optional<std::string> antwort = "/tmp/nacht.vrec";
@@ -405,6 +426,8 @@ TEST_F(WiedergabeablaufTest, The_record_s_configuration_is_saved_without_touchin
     antwort = ordner.filePath("aus.con").toStdString();
     Leiste()->findChild<QAction*>("mnuAufzeichnungSpeichern")->trigger();
     EXPECT_EQ(fragen.back().name, "nacht.con");
+    EXPECT_EQ(fragen.back().titel, LadeText(6547));
+    EXPECT_EQ(fragen.back().filter, LadeText(2000));
     Abbild gespeichert;
     ASSERT_EQ(ZerlegeKonfigurationsdatei(LiesDatei(*antwort, LaengeKonfigurationsdatei).bytes, gespeichert),
               Dateibefund::Gut);
@@ -425,12 +448,126 @@ TEST_F(WiedergabeablaufTest, The_record_s_configuration_is_reported_and_compared
     Leiste()->findChild<QAction*>("mnuAufzeichnungBericht")->trigger();
     EXPECT_FALSE(titel.isEmpty());
     Leiste()->findChild<QAction*>("mnuAufzeichnungVergleich")->trigger();
-    const auto fensterliste = QApplication::topLevelWidgets();
-    const auto da = std::ranges::find_if(fensterliste, [](const QWidget* eines) {
-        return eines->objectName() == "frmVergleich" && eines->isVisible();
+    auto* const vergleich = qobject_cast<frmVergleich*>(Offenes("frmVergleich"));
+    ASSERT_NE(vergleich, nullptr);
+    const Vergleichspaar& paar = vergleich->Paar();
+    EXPECT_EQ(paar.Seite(Seitenwahl::A).quelle, Vergleichsquelle::Datei);
+    EXPECT_EQ(paar.Seite(Seitenwahl::A).einzelheit, "/tmp/nacht.vrec");
+    EXPECT_EQ(paar.Seite(Seitenwahl::A).abbild, Probe()->konfiguration);
+    EXPECT_EQ(paar.Seite(Seitenwahl::B).quelle, Vergleichsquelle::InBearbeitung);
+    vergleich->close();
+}
+
+TEST_F(WiedergabeablaufTest, A_report_about_a_record_says_which_one_and_bears_its_name) {
+    Oeffne(Probe());
+    const QTemporaryDir ordner;
+    antwort = ordner.filePath("bericht.html").toStdString();
+    Sobald("frmBericht", [](QDialog& dialog) {
+        dialog.findChild<QPushButton*>("cmdHtml")->click();
+        dialog.reject();
     });
-    ASSERT_NE(da, fensterliste.end());
-    (*da)->close();
+    Leiste()->findChild<QAction*>("mnuAufzeichnungBericht")->trigger();
+    EXPECT_EQ(fragen.back().name, "nacht.html");
+    EXPECT_THAT(LiesDatei(*antwort, 1 << 20).bytes,
+                testing::HasSubstr(LadeTextMit(6553, {"nacht.vrec", Zeitworte(Probe()->angaben, 0ms)})));
+}
+
+TEST_F(WiedergabeablaufTest, A_configuration_that_cannot_be_saved_is_told) {
+    Oeffne(Probe());
+    const QTemporaryDir ordner;
+    antwort = ordner.filePath("fehlt/aus.con").toStdString();
+    Leiste()->findChild<QAction*>("mnuAufzeichnungSpeichern")->trigger();
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_THAT(umgebung.meldungen[0].text, testing::HasSubstr("fehlt/aus.con"));
+}
+
+TEST_F(WiedergabeablaufTest, A_configuration_that_is_damaged_at_this_place_is_told_and_goes_nowhere) {
+    Oeffne(Probe<Quelle2Konfigurationen>());
+    SchreiteVor(12);
+    EXPECT_EQ(GezeigterWert(0), "112") << "the passes are shown all the same";
+    const auto gefragt = fragen.size();
+    for (const char* const tat :
+         {"mnuAufzeichnungBericht", "mnuAufzeichnungVergleich", "mnuAufzeichnungSpeichern"}) {
+        umgebung.meldungen.clear();
+        Leiste()->findChild<QAction*>(tat)->trigger();
+        ASSERT_EQ(umgebung.meldungen.size(), 1U) << tat;
+        EXPECT_EQ(umgebung.meldungen[0].text, LadeText(6550)) << tat;
+    }
+    EXPECT_EQ(fragen.size(), gefragt);
+    EXPECT_EQ(Offenes("frmVergleich"), nullptr);
+}
+
+TEST_F(WiedergabeablaufTest, Where_a_record_has_another_configuration_the_views_are_built_anew) {
+    const auto quelle = Probe<Quelle2Konfigurationen>();
+    Abbild andere = quelle->konfiguration;
+    ASSERT_TRUE(andere.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 24, 0));
+    quelle->danach = std::make_shared<const Abbild>(andere);
+    for (std::size_t i = quelle->ab; i < quelle->pakete.size(); ++i) {
+        quelle->pakete[i].durchgaenge[0].teile[0].strahlen = 24;
+        quelle->pakete[i].durchgaenge[0].teile[1].strahlen = 0;
+    }
+    Oeffne(quelle);
+    const auto strahlen = [this] {
+        return Fenster().Fenster(0).findChild<BeamBarControl*>()->Strahlanzahl();
+    };
+    SchreiteVor(9);
+    EXPECT_EQ(strahlen(), 16);
+    EXPECT_TRUE(Fenster().Fenster(1).isVisible());
+    SchreiteVor(1);
+    EXPECT_EQ(strahlen(), 24);
+    EXPECT_FALSE(Fenster().Fenster(1).isVisible());
+    EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_1").isVisible());
+}
+
+TEST_F(WiedergabeablaufTest, A_record_that_begins_with_a_gap_shows_its_parts_without_values) {
+    const auto quelle = std::make_shared<pruefung::PruefMessquelle>();
+    quelle->konfiguration = Probe()->konfiguration;
+    quelle->Nimm({.spanne = {0ms, 99ms}, .ereignisse = {{.art = Verloren, .laufzeit = 0ms}}});
+    quelle->Nimm(Probe()->pakete[1]);
+    Oeffne(quelle);
+    EXPECT_EQ(Fenster().Fenster(1).findChild<BeamBarControl*>()->Strahlanzahl(), 16);
+    EXPECT_TRUE(Fenster().Fenster(1).isVisible());
+    EXPECT_TRUE(ZeigtKeineWerte(1));
+    SchreiteVor(1);
+    EXPECT_EQ(GezeigterWert(1), "201");
+}
+
+TEST_F(WiedergabeablaufTest, A_click_at_a_time_in_a_window_of_the_past_leads_the_replay_there) {
+    Oeffne(Probe());
+    Waehle("tlbVerlauf");
+    QWidget* const verlauf = Offenes("frmVerlauf");
+    ASSERT_NE(verlauf, nullptr);
+    emit verlauf->findChild<Verlaufsbild*>()->Angeklickt(Zeit(1500ms).count());
+    EXPECT_EQ(GezeigterWert(0), "115");
+    SchreiteVor(1);
+    EXPECT_EQ(GezeigterWert(0), "116") << "it goes on from there";
+    verlauf->close();
+}
+
+TEST_F(WiedergabeablaufTest, The_time_of_the_state_of_the_output_is_that_of_the_record) {
+    Oeffne(Probe());
+    SchreiteVor(2);
+    const std::string uhrzeit = Uhrzeitworte(Probe()->angaben, 200ms).substr(0, 8);
+    EXPECT_EQ(Statusfeld(3).toolTip().toStdString(), LadeTextMit(9003, {uhrzeit}));
+}
+
+TEST_F(WiedergabeablaufTest, The_bar_of_the_replay_can_neither_be_closed_nor_moved_nor_hidden) {
+    Oeffne(Probe());
+    auto* const rahmen = Fenster().findChild<QDockWidget*>("dckWiedergabe");
+    ASSERT_NE(rahmen, nullptr);
+    EXPECT_EQ(rahmen->features(), QDockWidget::NoDockWidgetFeatures);
+    EXPECT_EQ(rahmen->contextMenuPolicy(), Qt::PreventContextMenu);
+    EXPECT_EQ(rahmen->titleBarWidget()->sizeHint().height(), -1) << "no room for a title";
+    EXPECT_EQ(rahmen->windowTitle().toStdString(), "Wiedergabe einer Aufzeichnung");
+    Waehle("mnuEnglisch");
+    EXPECT_EQ(rahmen->windowTitle().toStdString(), "Replay of a record");
+    Waehle("mnuDeutsch");
+}
+
+TEST_F(WiedergabeablaufTest, The_next_question_for_a_record_begins_in_the_folder_of_the_last) {
+    Oeffne(Probe());
+    Waehle("tlbWiedergabe");
+    EXPECT_EQ(fragen.at(1).ordner, "/tmp/");
 }
 
 TEST_F(WiedergabeablaufTest, Closing_the_window_in_the_middle_of_it_ends_the_program) {
