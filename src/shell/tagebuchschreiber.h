@@ -14,8 +14,8 @@
 
 namespace varnoth {
 
-/// Brings lines to a file in a thread of its own, one order after the other: a disk that does not answer holds
-/// up nobody.
+/// Brings lines to a file in a thread of its own, one order after the other: a disk that does not answer
+/// holds up nobody.
 class Tagebuchschreiber {
 public:
     /// Appends as HaengeAnDatei does. Runs in the other thread.
