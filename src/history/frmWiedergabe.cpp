@@ -29,6 +29,7 @@ constexpr std::int16_t TextAbspielen = 6504, TextAnhalten = 6505, TextSucht = 65
 constexpr std::chrono::milliseconds Bildtakt(40);
 constexpr int PaketeJeTakt = 12; // to read and look through them takes a few milliseconds
 constexpr int UebergangeneJeTakt = 20000;
+constexpr int Meldungszeilen = 2;
 
 constexpr double Tempi[] = {0.1, 0.2, 0.5, 1, 2, 5, 10, 20, 50, 100};
 constexpr int EinfachesTempo = 3;
@@ -50,11 +51,19 @@ Zeit Jetzt() {
     return DieUmgebung().Uhr();
 }
 
+/// The beginning of what was typed, which can be seen whole where it was typed.
+std::string Kurz(const std::string& text) {
+    constexpr int LaengsteZeit = 24;
+    const QString ganz = Q(text);
+    return ganz.size() <= LaengsteZeit ? text : (ganz.left(LaengsteZeit - 1) + u'…').toStdString();
+}
+
 } // namespace
 
 frmWiedergabe::frmWiedergabe(Wiedergabesteuerung& die, QWidget* parent)
     : QWidget(parent), ui(std::make_unique<Ui::frmWiedergabe>()), steuerung(die) {
     ui->setupUi(this);
+    RichteMeldungEin();
     VerbindeKnoepfe();
     VerbindeZeitleiste();
     FuelleTempi();
@@ -64,6 +73,12 @@ frmWiedergabe::frmWiedergabe(Wiedergabesteuerung& die, QWidget* parent)
 }
 
 frmWiedergabe::~frmWiedergabe() = default;
+
+/// A sentence has two lines, so that in a narrow window too it can be read without anything moving.
+void frmWiedergabe::RichteMeldungEin() {
+    ui->lblMeldung->setWordWrap(true);
+    ui->lblMeldung->setFixedHeight(Meldungszeilen * ui->lblMeldung->fontMetrics().lineSpacing());
+}
 
 void frmWiedergabe::VerbindeKnoepfe() {
     const std::pair<QPushButton*, std::function<void()>> knoepfe[] = {
@@ -238,7 +253,7 @@ void frmWiedergabe::GeheZurEingabe() {
     ui->txtZeit->selectAll();
     const auto eingabe = LiesZeiteingabe(text);
     if (!eingabe)
-        return MeldeEingabefehler(LadeTextMit(TextKeineZeit, {text}));
+        return MeldeEingabefehler(LadeTextMit(TextKeineZeit, {Kurz(text)}));
     const auto wohin = GemeinteLaufzeit(*eingabe, quelle.Angaben(), spanne, steuerung.Stand().Position());
     if (!wohin)
         return MeldeEingabefehler(Spannentext(quelle.Angaben(), spanne));
@@ -304,8 +319,21 @@ void frmWiedergabe::MeldeEingabefehler(const std::string& text) {
 
 void frmWiedergabe::Melde(const std::string& text) {
     eingabeFalsch = false;
-    ui->lblMeldung->setText(Q(text));
     ui->lblMeldung->setToolTip(Q(text));
+    ZeigeMeldung();
+}
+
+/// What is longer than its room, as a note may be, ends with an ellipsis; the tool tip has all of it.
+void frmWiedergabe::ZeigeMeldung() {
+    const int platz =
+        ui->lblMeldung->width() * Meldungszeilen - ui->lblMeldung->width() / 4; // lines end early
+    ui->lblMeldung->setText(
+        ui->lblMeldung->fontMetrics().elidedText(ui->lblMeldung->toolTip(), Qt::ElideRight, platz));
+}
+
+void frmWiedergabe::resizeEvent(QResizeEvent* ereignis) {
+    QWidget::resizeEvent(ereignis);
+    ZeigeMeldung();
 }
 
 /// The pictures have the colours of the palette; the one that changes is made anew.
@@ -313,6 +341,8 @@ void frmWiedergabe::changeEvent(QEvent* ereignis) {
     QWidget::changeEvent(ereignis);
     if (ereignis->type() == QEvent::PaletteChange)
         ZeigeKnopf();
+    if (ereignis->type() == QEvent::FontChange)
+        RichteMeldungEin();
 }
 
 } // namespace varnoth

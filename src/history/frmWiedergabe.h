@@ -37,8 +37,11 @@ public:
 
 protected:
     void changeEvent(QEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
+    void RichteMeldungEin();
+    void ZeigeMeldung();
     void VerbindeKnoepfe();
     void VerbindeZeitleiste();
     void FuelleArten();

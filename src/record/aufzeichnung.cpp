@@ -29,7 +29,9 @@ struct Aufzeichnung::Innen {
         : ablage(std::move(welche)), uhr(std::move(welcheUhr)), werk(*ablage, std::move(auftrag)) {}
 
     Messpaket& LetztesStueck();
-    void Laufe();
+    void Laufe(std::shared_ptr<const Abbild> konfiguration);
+    bool Beginne(std::shared_ptr<const Abbild> konfiguration);
+    void MerkeStand();
     void GibAuf();
 
     std::shared_ptr<Dateiablage> ablage;
@@ -39,7 +41,10 @@ struct Aufzeichnung::Innen {
     std::condition_variable wecker;
     Wartendes wartendes;
     Aufzeichnungsstand stand;
-    std::size_t inArbeit = 0; ///< passes that are being written
+    std::condition_variable beginnmelder;
+    std::optional<int> beginn;           ///< what came of making the first files
+    std::optional<Zeit> beimTraegerSeit; ///< since when the thread has been writing
+    std::size_t inArbeit = 0;            ///< passes that are being written
     bool zuEnde = false;
     bool aufgegeben = false; ///< `stand` is the last word
 };
@@ -51,12 +56,13 @@ Aufzeichnung::~Aufzeichnung() {
     Beende();
 }
 
-int Aufzeichnung::Beginne(std::shared_ptr<const Abbild> konfiguration) {
-    if (const int fehler = innen->werk.Beginne(innen->uhr(), std::move(konfiguration)); fehler != 0)
-        return fehler;
-    innen->stand = innen->werk.Stand();
-    faden.emplace([innen = innen] { innen->Laufe(); });
-    return 0;
+std::optional<int> Aufzeichnung::Beginne(std::shared_ptr<const Abbild> konfiguration,
+                                         std::chrono::milliseconds hoechstens) {
+    innen->beimTraegerSeit = innen->uhr().uhr;
+    faden.emplace([innen = innen, konfiguration = std::move(konfiguration)] { innen->Laufe(konfiguration); });
+    std::unique_lock gesperrt(innen->sperre);
+    innen->beginnmelder.wait_for(gesperrt, hoechstens, [this] { return innen->beginn.has_value(); });
+    return innen->beginn;
 }
 
 bool Aufzeichnung::Beende(std::chrono::milliseconds hoechstens) {
@@ -117,11 +123,37 @@ void Aufzeichnung::SetzeKonfiguration(std::shared_ptr<const Abbild> konfiguratio
 }
 
 Aufzeichnungsstand Aufzeichnung::Stand() const {
+    const Zeit jetzt = innen->uhr().uhr;
     const std::lock_guard gesperrt(innen->sperre);
-    return innen->stand;
+    Aufzeichnungsstand stand = innen->stand;
+    const auto seit = innen->beimTraegerSeit;
+    stand.wartet = !innen->aufgegeben && seit && jetzt - *seit > LaengstesSchweigen;
+    return stand;
 }
 
-void Aufzeichnung::Innen::Laufe() {
+/// Whether there are files to write to.
+bool Aufzeichnung::Innen::Beginne(std::shared_ptr<const Abbild> konfiguration) {
+    const int fehler = werk.Beginne(uhr(), std::move(konfiguration));
+    const std::lock_guard gesperrt(sperre);
+    MerkeStand();
+    if (!aufgegeben)
+        stand.fehler = fehler;
+    beginn = fehler;
+    beginnmelder.notify_all();
+    return fehler == 0;
+}
+
+/// The disk has answered.
+void Aufzeichnung::Innen::MerkeStand() {
+    beimTraegerSeit.reset();
+    inArbeit = 0;
+    if (!aufgegeben)
+        stand = werk.Stand();
+}
+
+void Aufzeichnung::Innen::Laufe(std::shared_ptr<const Abbild> konfiguration) {
+    if (!Beginne(std::move(konfiguration)))
+        return;
     for (bool letztesMal = false; !letztesMal;) {
         Wartendes geholtes;
         {
@@ -129,6 +161,7 @@ void Aufzeichnung::Innen::Laufe() {
             wecker.wait_for(gesperrt, Schreibabstand,
                             [this] { return zuEnde || wartendes.durchgaenge >= MeisteWartende / 2; });
             letztesMal = zuEnde;
+            beimTraegerSeit = uhr().uhr;
             geholtes = std::exchange(wartendes, {});
             inArbeit = geholtes.durchgaenge + geholtes.verworfene;
         }
@@ -136,10 +169,7 @@ void Aufzeichnung::Innen::Laufe() {
         if (letztesMal)
             werk.Beende(uhr());
         const std::lock_guard gesperrt(sperre);
-        if (aufgegeben)
-            continue;
-        inArbeit = 0;
-        stand = werk.Stand();
+        MerkeStand();
     }
 }
 

@@ -21,6 +21,8 @@ public:
 
     /// Passes that wait to be written at most.
     static constexpr std::size_t MeisteWartende = 10'000;
+    /// A disk that takes longer for one call is told of.
+    static constexpr Zeit LaengstesSchweigen = std::chrono::seconds(3);
     /// As long as a disk may take.
     static constexpr auto Beliebig =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::hours(24 * 365));
@@ -31,8 +33,11 @@ public:
     Aufzeichnung(const Aufzeichnung&) = delete;
     Aufzeichnung& operator=(const Aufzeichnung&) = delete;
 
-    /// Makes the files and lets the thread run. A POSIX error number, 0 when all went well.
-    int Beginne(std::shared_ptr<const Abbild> konfiguration);
+    /// Lets the thread make the files, and run. Waits for them so long at most: a POSIX error number, with
+    /// which it has ended, 0 when they are there, nothing while the disk has not answered. What is handed
+    /// over meanwhile is written then; an error that comes later is in `Stand`, with no file begun.
+    std::optional<int> Beginne(std::shared_ptr<const Abbild> konfiguration,
+                               std::chrono::milliseconds hoechstens = Beliebig);
     /// Writes what is waiting, and ends the files whole. Nothing is taken from then on. False when that takes
     /// longer than given: the thread is left to itself, and what it has not written by now counts as dropped.
     bool Beende(std::chrono::milliseconds hoechstens = Beliebig);
@@ -46,7 +51,7 @@ public:
     /// The configuration that is in use from now on.
     void SetzeKonfiguration(std::shared_ptr<const Abbild> konfiguration);
 
-    /// How it stood when the thread last wrote.
+    /// How it stood when the thread last wrote, and whether it waits for the disk now.
     Aufzeichnungsstand Stand() const;
 
 private:

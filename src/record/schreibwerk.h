@@ -45,9 +45,10 @@ struct Aufzeichnungsstand {
     std::uint64_t bytes = 0;          ///< of all its files
     std::uint64_t durchgaenge = 0;    ///< recorded
     std::uint64_t verworfen = 0;      ///< passes that could not be kept
-    int dateien = 0;                  ///< begun so far
+    int dateien = 0;                  ///< begun so far; none while the first ones are still to be made
     std::vector<std::string> pfade{}; ///< of the newest files, one a form
     int fehler = 0;                   ///< why nothing can be written now; 0 while all is well
+    bool wartet = false;              ///< a call to the disk has not come back for long
     bool fertig = false;              ///< the time that was chosen is up
 };
 

@@ -39,10 +39,12 @@ constexpr int TaktMs = 500;
 constexpr int SicherungstaktMs = 50;
 constexpr Zeit Sicherungsschritt = std::chrono::milliseconds(2); // at one go, or a request would wait for it
 constexpr std::chrono::milliseconds LaengstesEnde(3000);
+// As long as a disk that answers needs; nobody notices that it was waited for.
+constexpr std::chrono::milliseconds LaengsterBeginn(50);
 constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
                        TextBeendet = 6233, TextMengen = 6272, TextSpeicherSichern = 6279,
                        TextVrecfilter = 6280, TextAntwortetNicht = 6752, TextNichtZuEnde = 6753,
-                       TextZuFruehBeendet = 6758;
+                       TextZuFruehBeendet = 6758, TextWartet = 6791, TextAntwortetWieder = 6792;
 
 /// The clock of the passes for another thread, which must not ask the environment.
 Aufzeichnung::Uhr UhrFuerAndere() {
@@ -119,16 +121,25 @@ void Aufzeichnungsablauf::Beginne(const std::string& name) {
     auto neue =
         std::make_unique<Aufzeichnung>(ziel.ablage, Auftrag(name), ziel.uhr ? ziel.uhr : UhrFuerAndere());
     FolgeKonfiguration();
-    if (const int fehler = neue->Beginne(konfiguration); fehler != 0)
-        return ZeigeWarnung(LadeTextMit(TextKeinBeginn, {Dateifehlertext(Systemfehler(fehler), Ordner())}));
+    if (const auto fehler = neue->Beginne(konfiguration, LaengsterBeginn); fehler.value_or(0) != 0)
+        return MeldeKeinenBeginn(*fehler);
     aufzeichnung = std::move(neue);
+    beginnGemerkt = wartenGemeldet = false;
     gemeldeterFehler = 0;
     rate = {};
-    modEreignisse::Merke(
-        {.art = Ereignisart::AufzeichnungBegonnen, .text = aufzeichnung->Stand().pfade.front()});
+    MerkeBeginn(aufzeichnung->Stand());
     ziel.laeuft(true);
     takt.start();
     BlickeNach();
+}
+
+void Aufzeichnungsablauf::MeldeKeinenBeginn(int fehler) {
+    ZeigeWarnung(LadeTextMit(TextKeinBeginn, {Dateifehlertext(Systemfehler(fehler), Ordner())}));
+}
+
+void Aufzeichnungsablauf::MerkeBeginn(const Aufzeichnungsstand& stand) {
+    if (stand.dateien > 0 && !std::exchange(beginnGemerkt, true))
+        modEreignisse::Merke({.art = Ereignisart::AufzeichnungBegonnen, .text = stand.pfade.front()});
 }
 
 void Aufzeichnungsablauf::Beende() {
@@ -140,6 +151,9 @@ void Aufzeichnungsablauf::Beende() {
     takt.stop();
     marke->hide();
     ziel.laeuft(false);
+    if (ganz && letzter.dateien == 0)
+        return MeldeKeinenBeginn(letzter.fehler);
+    MerkeBeginn(letzter);
     MerkeEnde(ganz);
 }
 
@@ -194,10 +208,24 @@ void Aufzeichnungsablauf::BlickeNach() {
     if (!Laeuft())
         return;
     const Aufzeichnungslage lage = Lage();
+    if (lage.stand.fehler != 0 && lage.stand.dateien == 0)
+        return Beende();
+    MerkeBeginn(lage.stand);
     marke->Zeige(Markentext(lage, IstLive()));
+    MeldeWarten(lage);
     MeldeAenderung(lage);
     if (lage.stand.fertig)
         Beende();
+}
+
+/// A disk that does not answer is told of once, and once that it does again.
+void Aufzeichnungsablauf::MeldeWarten(const Aufzeichnungslage& lage) {
+    if (std::exchange(wartenGemeldet, lage.stand.wartet) == lage.stand.wartet)
+        return;
+    if (lage.stand.wartet)
+        modEreignisse::Merke({.art = Ereignisart::AufzeichnungOhnePlatz, .text = lage.hindernis});
+    DieUmgebung().ZeigeStatustext(FeldMeldungen,
+                                  LadeText(lage.stand.wartet ? TextWartet : TextAntwortetWieder));
 }
 
 /// What stands in the way is told once, and once when it is gone.
@@ -220,7 +248,13 @@ Aufzeichnungslage Aufzeichnungsablauf::Lage() {
     return {.laeuft = Laeuft(),
             .stand = letzter,
             .durchgaengeJeSekunde = rate.Betrachte(letzter),
-            .hindernis = Laeuft() && letzter.fehler != 0 ? Systemfehler(letzter.fehler) : std::string()};
+            .hindernis = Laeuft() ? Hindernis() : std::string()};
+}
+
+std::string Aufzeichnungsablauf::Hindernis() const {
+    if (letzter.wartet)
+        return LadeText(TextAntwortetNicht);
+    return letzter.fehler != 0 ? Systemfehler(letzter.fehler) : std::string();
 }
 
 std::string Aufzeichnungsablauf::Standtext() {

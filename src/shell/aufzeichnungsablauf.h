@@ -78,7 +78,11 @@ private:
     Aufzeichnungsauftrag Auftrag(const std::string& name);
     bool FolgeKonfiguration();
     void BlickeNach();
+    void MerkeBeginn(const Aufzeichnungsstand& stand);
+    void MeldeKeinenBeginn(int fehler);
+    std::string Hindernis() const;
     void MeldeAenderung(const Aufzeichnungslage& lage);
+    void MeldeWarten(const Aufzeichnungslage& lage);
     void MerkeEnde(bool ganz);
     void PlaneSicherung();
     void SichereWeiter();
@@ -91,6 +95,8 @@ private:
     Aufzeichnungsrate rate;
     std::shared_ptr<const Abbild> konfiguration; ///< in use, without what is measured
     Flugschreiber flugschreiber;
+    bool beginnGemerkt = false;
+    bool wartenGemeldet = false;
     int gemeldeterFehler = 0;
     std::shared_ptr<Speichersicherung> sicherung; ///< of the memory, while it runs
     std::string gesichert;                        ///< the path of the last one that was saved

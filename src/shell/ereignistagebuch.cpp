@@ -1,6 +1,5 @@
 #include "ereignistagebuch.h"
 
-#include "dateien.h"
 #include "einstellungen.h"
 #include "ereignisse.h"
 #include "texte.h"
@@ -10,17 +9,22 @@
 #include <QDir>
 #include <QPointer>
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace varnoth {
 
 namespace {
 
-constexpr std::int16_t TextNichtGeschrieben = 6672, TextVoll = 6673, TextOhneOrdner = 6680;
+constexpr std::int16_t TextNichtGeschrieben = 6672, TextVoll = 6673, TextOhneOrdner = 6680,
+                       TextAntwortetNicht = 6752;
 constexpr const char* Abschnitt = "Ereignisse";
 constexpr const char* SchluesselLaeuft = "Tagesdatei";
 constexpr const char* SchluesselOrdner = "Ordner";
 constexpr int TaktMs = 1000;
+constexpr int SchreibtaktMs = 50;
+constexpr std::chrono::milliseconds LaengstesEnde(3000);
 
 std::string Dateiname(const std::string& ordner, const std::string& tag) {
     return QDir(QString::fromStdString(ordner))
@@ -35,7 +39,8 @@ std::string Grenztext(std::size_t grenze, const std::string& datei) {
 
 } // namespace
 
-Ereignistagebuch::Ereignistagebuch(std::size_t hoechstens) : grenze(hoechstens) {
+Ereignistagebuch::Ereignistagebuch(std::size_t hoechstens, Tagebuchschreiber::Weg weg)
+    : grenze(hoechstens), schreiber(std::move(weg)) {
     Einstellungen& einstellungen = DieEinstellungen();
     stand.ordner = einstellungen.LiesText(Abschnitt, SchluesselOrdner, {});
     stand.laeuft = !stand.ordner.empty() && einstellungen.LiesZahl(Abschnitt, SchluesselLaeuft, 0) != 0;
@@ -43,6 +48,7 @@ Ereignistagebuch::Ereignistagebuch(std::size_t hoechstens) : grenze(hoechstens) 
         mitschrift.emplace(modEreignisse::Alle());
     connect(&takt, &QTimer::timeout, this, &Ereignistagebuch::Sieh);
     takt.start(TaktMs);
+    connect(&schreibtakt, &QTimer::timeout, this, &Ereignistagebuch::SiehNach);
 }
 
 void Ereignistagebuch::Setze(bool laeuft, const std::string& ordner) {
@@ -57,6 +63,8 @@ void Ereignistagebuch::Setze(bool laeuft, const std::string& ordner) {
 }
 
 void Ereignistagebuch::Sieh() {
+    if (schreiber.Laeuft())
+        return SiehNach();
     if (!mitschrift || mitschrift->Faellige().zeilen.empty() || std::exchange(geplant, true))
         return;
     DieUmgebung().FuerWartezeit([buch = QPointer(this)] {
@@ -68,27 +76,57 @@ void Ereignistagebuch::Sieh() {
 }
 
 void Ereignistagebuch::SchreibeAlles() {
-    while (Schreibe()) {
+    using Uhr = std::chrono::steady_clock;
+    const auto ende = Uhr::now() + (schreiber.SchweigtLange() ? std::chrono::milliseconds{} : LaengstesEnde);
+    while (schreiber.Laeuft() || Schreibe()) {
+        const auto rest = std::chrono::ceil<std::chrono::milliseconds>(ende - Uhr::now());
+        const auto ergebnis = schreiber.Hole(std::max(rest, std::chrono::milliseconds{}));
+        if (!ergebnis) {
+            schreiber.LasseZurueck();
+            return MerkeFehler(LadeText(TextAntwortetNicht));
+        }
+        if (!Uebernimm(*ergebnis))
+            return;
     }
 }
 
-/// Some lines of one day. False when nothing was due, or could be written.
+/// Begins to write some lines of one day. False when nothing is due.
 bool Ereignistagebuch::Schreibe() {
-    if (!mitschrift)
+    if (!mitschrift || schreiber.Laeuft())
         return false;
-    const Tageszeilen zeilen = mitschrift->Faellige();
+    Tageszeilen zeilen = mitschrift->Faellige();
     if (zeilen.zeilen.empty())
         return false;
-    if (!QDir(QString::fromStdString(stand.ordner)).exists()) {
+    schreiber.Beginne({.ordner = stand.ordner,
+                       .datei = Dateiname(stand.ordner, zeilen.tag),
+                       .zeilen = std::move(zeilen.zeilen),
+                       .hoechstens = grenze});
+    schreibtakt.start(SchreibtaktMs);
+    return true;
+}
+
+/// Often at first; once a disk has been silent for long, once a second is enough.
+void Ereignistagebuch::SiehNach() {
+    if (const auto ergebnis = schreiber.Hole()) {
+        schreibtakt.stop();
+        Uebernimm(*ergebnis);
+    } else if (schreiber.SchweigtLange()) {
+        schreibtakt.stop();
+        MerkeFehler(LadeText(TextAntwortetNicht));
+    }
+}
+
+/// False when the lines could not be written.
+bool Ereignistagebuch::Uebernimm(const Tagebuchschreiber::Ergebnis& ergebnis) {
+    if (ergebnis.ohneOrdner) {
         MerkeFehler(LadeText(TextOhneOrdner));
         return false;
     }
-    const std::string datei = Dateiname(stand.ordner, zeilen.tag);
-    const Anhaengeergebnis ergebnis = HaengeAnDatei(datei, zeilen.zeilen, grenze);
-    if (ergebnis.voll || ergebnis.fehlertext.empty())
+    const auto& [voll, fehlertext] = ergebnis.angehaengt;
+    if (voll || fehlertext.empty())
         mitschrift->Erledige();
-    stand.datei = datei;
-    MerkeFehler(ergebnis.voll ? Grenztext(grenze, datei) : ergebnis.fehlertext);
+    stand.datei = ergebnis.datei;
+    MerkeFehler(voll ? Grenztext(grenze, stand.datei) : fehlertext);
     return stand.fehler.empty();
 }
 

@@ -66,6 +66,13 @@ protected:
 
     std::shared_ptr<PruefAblage> ablage = std::make_shared<PruefAblage>();
     pruefung::Schranke tor{0};
+    /// Moved on by hand.
+    std::atomic<int> minuten = 0;
+    const Augenblick start = Jetzt();
+    const Aufzeichnung::Uhr stehendeUhr = [this] {
+        const std::chrono::minutes vergangen(minuten);
+        return Augenblick{.uhr = start.uhr + vergangen, .zeit = start.zeit + vergangen};
+    };
 };
 
 TEST_F(AufzeichnungTest, A_pass_is_written_within_the_second_without_another_call) {
@@ -153,6 +160,65 @@ TEST_F(AufzeichnungTest, An_error_at_the_beginning_is_given_back) {
     ablage->Versage(EACCES);
     Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
     EXPECT_EQ(aufzeichnung.Beginne(nullptr), EACCES);
+    EXPECT_EQ(aufzeichnung.Stand().fehler, EACCES);
+    EXPECT_TRUE(aufzeichnung.Beende(0ms)) << "nothing runs";
+}
+
+TEST_F(AufzeichnungTest, A_disk_that_does_not_answer_at_the_beginning_holds_up_nobody) {
+    tor.release(1000);
+    ablage->Halte();
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), stehendeUhr);
+    EXPECT_EQ(aufzeichnung.Beginne(nullptr, 1ms), std::nullopt);
+    EXPECT_EQ(aufzeichnung.Stand().dateien, 0);
+    EXPECT_FALSE(aufzeichnung.Stand().wartet) << "not for long";
+    aufzeichnung.Nimm(Messdurchgang{});
+    minuten = 1;
+    EXPECT_TRUE(aufzeichnung.Stand().wartet);
+    aufzeichnung.Nimm(Messdurchgang{});
+    ablage->LasseLos();
+    ASSERT_TRUE(WarteAuf([&] { return ablage->Inhalt("/o/n.a") == "B.."; }));
+    ASSERT_TRUE(WarteAuf([&] { return aufzeichnung.Stand().durchgaenge == 2; }));
+    EXPECT_FALSE(aufzeichnung.Stand().wartet);
+    EXPECT_EQ(aufzeichnung.Stand().dateien, 1);
+}
+
+TEST_F(AufzeichnungTest, An_error_that_comes_late_is_told_and_nothing_runs) {
+    ablage->Halte();
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    EXPECT_EQ(aufzeichnung.Beginne(nullptr, 1ms), std::nullopt);
+    ablage->Versage(EROFS);
+    ablage->LasseLos();
+    ASSERT_TRUE(WarteAuf([&] { return aufzeichnung.Stand().fehler == EROFS; }));
+    EXPECT_EQ(aufzeichnung.Stand().dateien, 0);
+    EXPECT_TRUE(aufzeichnung.Beende());
+}
+
+TEST_F(AufzeichnungTest, One_that_has_never_begun_can_be_left_behind) {
+    tor.release(1000);
+    ablage->Halte();
+    auto aufzeichnung = std::make_unique<Aufzeichnung>(ablage, Auftrag(), Jetzt);
+    EXPECT_EQ(aufzeichnung->Beginne(nullptr, 1ms), std::nullopt);
+    aufzeichnung->Nimm(Messdurchgang{});
+    EXPECT_FALSE(aufzeichnung->Beende(1ms));
+    EXPECT_EQ(aufzeichnung->Stand().verworfen, 1U);
+    EXPECT_FALSE(aufzeichnung->Stand().wartet);
+    aufzeichnung.reset();
+    ablage->LasseLos();
+    EXPECT_TRUE(WarteAuf([&] { return ablage->Inhalt("/o/n.a") == "B.E"; })) << "what comes late is whole";
+}
+
+TEST_F(AufzeichnungTest, A_disk_that_falls_silent_while_it_runs_is_told) {
+    tor.release(1000);
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), stehendeUhr);
+    ASSERT_EQ(aufzeichnung.Beginne(nullptr), 0);
+    ablage->Halte();
+    aufzeichnung.Nimm(Messdurchgang{});
+    ASSERT_TRUE(WarteAuf([&] { return ablage->HaeltJemanden(); }));
+    EXPECT_FALSE(aufzeichnung.Stand().wartet) << "not for long";
+    minuten = 1;
+    EXPECT_TRUE(aufzeichnung.Stand().wartet);
+    ablage->LasseLos();
+    EXPECT_TRUE(WarteAuf([&] { return !aufzeichnung.Stand().wartet; }));
 }
 
 } // namespace

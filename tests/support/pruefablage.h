@@ -20,7 +20,8 @@ namespace varnoth::pruefung {
 class PruefAblage : public Dateiablage {
 public:
     Angelegt LegeAn(const std::string& pfad) override {
-        const std::lock_guard gesperrt(sperre);
+        std::unique_lock gesperrt(sperre);
+        WarteAufLos(gesperrt);
         ++versuche;
         if (fehler != 0)
             return {.fehler = fehler};
@@ -54,7 +55,7 @@ public:
         fehler = mit;
     }
 
-    /// From now on nothing that is written comes to an end until it is let go.
+    /// From now on nothing that is made or written comes to an end until it is let go.
     void Halte() {
         const std::lock_guard gesperrt(sperre);
         haelt = true;
@@ -87,9 +88,7 @@ private:
         }
         int HaengeAn(std::string_view bytes) override {
             std::unique_lock gesperrt(ablage.sperre);
-            ++ablage.wartende;
-            ablage.losgelassen.wait(gesperrt, [this] { return !ablage.haelt; });
-            --ablage.wartende;
+            ablage.WarteAufLos(gesperrt);
             if (ablage.fehler == 0)
                 ablage.dateien[pfad] += bytes;
             return ablage.fehler;
@@ -112,6 +111,12 @@ private:
         PruefAblage& ablage;
         std::string pfad;
     };
+
+    void WarteAufLos(std::unique_lock<std::mutex>& gesperrt) {
+        ++wartende;
+        losgelassen.wait(gesperrt, [this] { return !haelt; });
+        --wartende;
+    }
 
     mutable std::mutex sperre;
     std::map<std::string, std::string> dateien;

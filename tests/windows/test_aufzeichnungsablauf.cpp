@@ -31,6 +31,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <memory>
 #include <stdexcept>
@@ -235,10 +236,58 @@ TEST_F(AufzeichnungsablaufTest, A_folder_that_cannot_be_written_is_told_and_noth
     ASSERT_TRUE(hindernis.open(QIODevice::WriteOnly));
     Setze("Ordner", ordner.filePath("file/below").toStdString());
     Ablauf().Schalte();
-    EXPECT_FALSE(Ablauf().Laeuft());
+    EXPECT_TRUE(WarteBis([&] { return !Ablauf().Laeuft(); }));
     ASSERT_EQ(umgebung.meldungen.size(), 1U);
     EXPECT_THAT(umgebung.meldungen.front().text, HasSubstr("The recording cannot begin."));
     EXPECT_FALSE(Marke().isVisible());
+    EXPECT_TRUE(Ereignisarten().empty());
+}
+
+TEST_F(AufzeichnungsablaufTest, A_disk_that_does_not_answer_at_the_beginning_is_told_once_and_all_is_kept) {
+    ablage = std::make_shared<pruefung::PruefAblage>();
+    ablage->Halte();
+    QElapsedTimer vergangen;
+    vergangen.start();
+    Ablauf().Schalte();
+    EXPECT_LT(vergangen.elapsed(), 2000) << "the window goes on";
+    EXPECT_TRUE(Ablauf().Laeuft());
+    EXPECT_TRUE(Marke().isVisible());
+    MeldeDurchgang(4711);
+    EXPECT_EQ(umgebung.statustexte[0], "");
+    minuten = 1;
+    ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0] != ""; }));
+    EXPECT_THAT(umgebung.statustexte[0], HasSubstr("The disk does not answer."));
+    EXPECT_THAT(Marke().text().toStdString(), HasSubstr("The disk does not answer."));
+    umgebung.statustexte[0] = "something else";
+    Ablauf().Lokalisiere(); // looks again
+    EXPECT_EQ(umgebung.statustexte[0], "something else");
+    ablage->LasseLos();
+    ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0] != "something else"; }));
+    EXPECT_EQ(umgebung.statustexte[0], "The disk answers. The recording goes on.");
+    MeldeDurchgang(4712);
+    Ablauf().Schalte();
+    ASSERT_EQ(ablage->Pfade().size(), 1U);
+    EXPECT_THAT(ablage->Inhalt(*ablage->Pfade().begin()), HasSubstr(",4711,"));
+    EXPECT_THAT(ablage->Inhalt(*ablage->Pfade().begin()), HasSubstr(",4712,"));
+    EXPECT_THAT(Ereignisarten(),
+                ElementsAre(Ereignisart::AufzeichnungOhnePlatz, Ereignisart::AufzeichnungBegonnen,
+                            Ereignisart::AufzeichnungBeendet));
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
+TEST_F(AufzeichnungsablaufTest, A_disk_that_refuses_after_a_long_time_ends_what_never_began) {
+    ablage = std::make_shared<pruefung::PruefAblage>();
+    ablage->Halte();
+    Ablauf().Schalte();
+    EXPECT_TRUE(Ablauf().Laeuft());
+    ablage->Versage(EROFS);
+    ablage->LasseLos();
+    EXPECT_TRUE(WarteBis([&] { return !Ablauf().Laeuft(); }));
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_THAT(umgebung.meldungen.front().text, HasSubstr("The recording cannot begin."));
+    EXPECT_FALSE(Marke().isVisible());
+    EXPECT_THAT(gemeldet, ElementsAre(true, false));
+    EXPECT_TRUE(Ereignisarten().empty()) << "neither begun nor ended";
 }
 
 TEST_F(AufzeichnungsablaufTest, A_file_that_vanishes_is_told_once_in_the_status_bar_and_the_recording_waits) {

@@ -1,16 +1,24 @@
 #include "ereignistagebuch.h"
 
 #include "ereignisse.h"
+#include "fenstertest.h"
 #include "pruefumgebung.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
+#include <mutex>
+#include <string_view>
+
 namespace varnoth {
 
+using pruefung::WarteBis;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
@@ -30,9 +38,11 @@ protected:
         }
         return alles;
     }
+    /// Looks, and waits for what is written then.
     void Sieh(Ereignistagebuch& buch) {
         buch.Sieh();
         umgebung.ErledigeAufgeschobenes();
+        EXPECT_TRUE(WarteBis([&] { return !buch.Schreibt(); }));
     }
 
     pruefung::PruefUmgebung umgebung;
@@ -57,7 +67,8 @@ TEST_F(EreignistagebuchTest, Appends_what_happens_from_now_on_while_the_line_is_
     buch.Sieh();
     EXPECT_EQ(Inhalt(), "");
     umgebung.ErledigeAufgeschobenes();
-    EXPECT_THAT(Inhalt(), EndsWith("  Notiz: a\n"));
+    EXPECT_TRUE(WarteBis([&] { return Inhalt().ends_with("  Notiz: a\n"); }));
+    EXPECT_TRUE(WarteBis([&] { return !buch.Schreibt(); }));
     Notiere("b");
     Sieh(buch);
     EXPECT_THAT(Inhalt(), HasSubstr("  Notiz: a\n"));
@@ -125,6 +136,85 @@ TEST_F(EreignistagebuchTest, Writes_all_that_is_due_at_the_end_of_the_program) {
     buch.SchreibeAlles();
     EXPECT_THAT(Inhalt(), EndsWith("  Notiz: 1199\n"));
     EXPECT_THAT(Inhalt(), HasSubstr("  Notiz: 0\n"));
+}
+
+/// A disk that answers once it is let go, and notes what it was given.
+struct StummePlatte {
+    Anhaengeergebnis Nimm(std::string_view bytes) {
+        const std::lock_guard gesperrt(tor);
+        inhalt += bytes;
+        return {};
+    }
+    std::mutex tor;
+    std::string inhalt;
+};
+
+class StummesTagebuchTest : public EreignistagebuchTest {
+protected:
+    Tagebuchschreiber::Weg Weg() const {
+        return [platte = platte](const std::string&, std::string_view bytes, std::size_t) {
+            return platte->Nimm(bytes);
+        };
+    }
+
+    const std::shared_ptr<StummePlatte> platte = std::make_shared<StummePlatte>();
+    std::unique_lock<std::mutex> stumm{platte->tor};
+};
+
+TEST_F(StummesTagebuchTest, A_disk_that_does_not_answer_holds_up_nobody_and_is_told_once) {
+    Ereignistagebuch buch(Ereignistagebuch::GroessteDatei, Weg());
+    buch.Setze(true, Ordner());
+    Notiere("a");
+    buch.Sieh();
+    umgebung.ErledigeAufgeschobenes();
+    EXPECT_TRUE(buch.Schreibt());
+    buch.Sieh();
+    EXPECT_EQ(buch.Stand().fehler, "") << "not for long";
+    umgebung.uhr += std::chrono::seconds(4);
+    buch.Sieh();
+    EXPECT_EQ(buch.Stand().fehler, "Der Datenträger antwortet nicht.");
+    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1],
+              "Tagesdatei nicht geschrieben: Der Datenträger antwortet nicht.");
+    umgebung.statustexte[FeldMeldungen - 1] = "etwas anderes";
+    Notiere("b");
+    buch.Sieh();
+    EXPECT_EQ(umgebung.statustexte[FeldMeldungen - 1], "etwas anderes");
+    stumm.unlock();
+    ASSERT_TRUE(WarteBis([&] {
+        buch.Sieh();
+        umgebung.ErledigeAufgeschobenes();
+        const std::lock_guard gesperrt(platte->tor);
+        return platte->inhalt.ends_with("  Notiz: b\n") && !buch.Schreibt();
+    }));
+    EXPECT_EQ(buch.Stand().fehler, "");
+    EXPECT_EQ(std::ranges::count(platte->inhalt, '\n'), 2) << "each once";
+}
+
+TEST_F(StummesTagebuchTest, It_holds_up_the_end_of_the_program_for_seconds_only) {
+    QElapsedTimer vergangen;
+    {
+        Ereignistagebuch buch(Ereignistagebuch::GroessteDatei, Weg());
+        buch.Setze(true, Ordner());
+        Notiere("a");
+        vergangen.start();
+        buch.SchreibeAlles();
+        EXPECT_EQ(buch.Stand().fehler, "Der Datenträger antwortet nicht.");
+    }
+    EXPECT_LT(vergangen.elapsed(), 10'000);
+}
+
+TEST_F(StummesTagebuchTest, One_that_is_known_to_be_silent_is_not_waited_for_when_writing_ends) {
+    Ereignistagebuch buch(Ereignistagebuch::GroessteDatei, Weg());
+    buch.Setze(true, Ordner());
+    Notiere("a");
+    buch.Sieh();
+    umgebung.ErledigeAufgeschobenes();
+    umgebung.uhr += std::chrono::seconds(4);
+    QElapsedTimer vergangen;
+    vergangen.start();
+    buch.Setze(false, Ordner());
+    EXPECT_LT(vergangen.elapsed(), 2'000);
+    EXPECT_FALSE(buch.Stand().laeuft);
 }
 
 } // namespace varnoth

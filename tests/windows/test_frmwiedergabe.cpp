@@ -10,6 +10,7 @@
 #include "zeitworte.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -321,6 +322,38 @@ TEST(WiedergabeworteTest, Every_event_has_words_of_its_own) {
                                                "Zustand des Steuergeräts anders", "Notiz: x",
                                                "Live-Daten begonnen", "Live-Daten beendet",
                                                "Verbindung verloren", "Verbindung wieder da"}));
+}
+
+TEST_F(FrmWiedergabeTest, A_sentence_about_a_typed_time_can_be_read_whole_in_a_narrow_window) {
+    steuerung.quelle.angaben.beginn += 8h + 16min + 12s; // it goes on behind midnight
+    auto& meldung = Kind<QLabel>("lblMeldung");
+    for (const std::int16_t sprache : {Deutsch, Englisch}) {
+        SetzeSprachoffset(sprache);
+        leiste->Lokalisiere();
+        leiste->resize(880, leiste->sizeHint().height());
+        const int hoehe = leiste->height();
+        for (const char* const eingabe :
+             {"25.11.2026 14:05:30", "irgendwann am Nachmittag, etwa halb drei"}) {
+            Tippe(eingabe);
+            QApplication::processEvents();
+            EXPECT_GT(meldung.fontMetrics().horizontalAdvance(meldung.text()), meldung.width())
+                << eingabe << ": it needs more than one line";
+            EXPECT_EQ(meldung.text(), meldung.toolTip()) << "all of it";
+            EXPECT_LE(meldung.heightForWidth(meldung.width()), meldung.height());
+            EXPECT_EQ(leiste->sizeHint().height(), hoehe) << "nothing moves";
+        }
+    }
+}
+
+TEST_F(FrmWiedergabeTest, A_note_that_is_too_long_ends_with_an_ellipsis_and_is_whole_in_its_tool_tip) {
+    const std::string lange = "Bahn gewechselt, " + std::string(300, 'x');
+    steuerung.quelle.pakete.at(40).ereignisse.front().text = lange;
+    Kind<QComboBox>("cboEreignis").setCurrentIndex(5);
+    Klicke("cmdEreignisVor");
+    auto& meldung = Kind<QLabel>("lblMeldung");
+    ASSERT_TRUE(WarteBis([&] { return meldung.text().startsWith("Notiz: Bahn"); }));
+    EXPECT_TRUE(meldung.text().endsWith(u'…'));
+    EXPECT_EQ(meldung.toolTip().toStdString(), "Notiz: " + lange);
 }
 
 } // namespace varnoth
