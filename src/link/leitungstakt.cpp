@@ -10,7 +10,7 @@ namespace varnoth {
 namespace {
 
 constexpr double Ganggenauigkeit = 0.97; // the other side's clock may run so much faster
-constexpr std::size_t Vorsicht = 2;      // characters before the last one that are waited for awake
+constexpr double Schlafanteil = 0.99;    // of the time that what is missing takes; waking takes time as well
 constexpr int Bewaehrung = 20;           // replies after which a line is known to keep its pace
 constexpr int Widerlegung = 3;           // so many too early in a row are no accident
 constexpr int Verlangsamung = 5;         // so many late ones are none either
@@ -99,11 +99,12 @@ void Leitungstakt::Empfangen(Zeit wann, std::size_t zeichen) {
 }
 
 Zeit Leitungstakt::Schlafdauer(Zeit jetzt, std::size_t fehlende) const {
-    if (schneller || empfangen == 0 || fehlende <= Vorsicht)
+    if (schneller || empfangen == 0 || fehlende <= 1)
         return Zeit{0};
-    // What is read after a sleep arrived some time before; only the first bytes tell when they came.
-    const std::size_t seitdem = empfangen - zuerst + fehlende - Vorsicht;
-    const auto bis = ersterEingang + std::chrono::floor<Zeit>(Dauer(seitdem) * Ganggenauigkeit);
+    // What is read after a sleep arrived some time before; only the first bytes tell when they came. The last
+    // character is waited for awake.
+    const std::size_t seitdem = empfangen - zuerst + fehlende - 1;
+    const auto bis = ersterEingang + std::chrono::floor<Zeit>(Dauer(seitdem) * Schlafanteil);
     return bis - jetzt < KuerzesterSchlaf ? Zeit{0} : bis - jetzt;
 }
 

@@ -52,8 +52,8 @@ public:
     virtual void Schreibe(std::string_view bytes) = 0;
     /// Sleeps, serving events, until something has arrived, an event was served or the time has passed.
     virtual void WarteAufEingang(Zeit hoechstens) = 0;
-    /// Sleeps through the bytes that arrive until the time has passed or it was the window's turn, whichever
-    /// comes first. A port that cannot returns at once.
+    /// Sleeps through the bytes that arrive until the time has passed, or until the window's turn comes again
+    /// when that is sooner. A port that cannot returns at once.
     virtual void Schlafe(Zeit hoechstens) = 0;
     /// Waits, serving events, until the last byte sent has left the system, but at most so long. False when
     /// the time is up.

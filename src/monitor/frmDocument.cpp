@@ -71,9 +71,11 @@ void frmDocument::RichteWerteEin() {
               ui->lblInhaltTNU, ui->lblInhaltHNU, ui->lblInhaltZNU};
     positionen = {ui->lblPositionTU,  ui->lblPositionHU,  nullptr,
                   ui->lblPositionTNU, ui->lblPositionHNU, nullptr};
-    for (QLabel* position : positionen)
+    for (Wertfeld* feld : ui->Frame1->findChildren<Wertfeld*>())
+        feld->TeileVorrat(*felder[0]);
+    for (Zahlfeld* position : positionen)
         if (position != nullptr)
-            position->setAutoFillBackground(true);
+            position->TeileVorrat(*positionen[0]);
     gezeigteWerte.fill(-1);
     ui->Frame1->installEventFilter(this);
     for (QLabel* element : ui->Frame1->findChildren<QLabel*>())

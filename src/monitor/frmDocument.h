@@ -25,6 +25,7 @@ class frmDocument;
 
 class Strahlhinweis;
 class Wertfeld;
+class Zahlfeld;
 class Zeigerschild;
 class Zoomkopf;
 
@@ -127,7 +128,7 @@ private:
     std::unique_ptr<Ui::frmDocument> ui;
     std::int16_t optikteil;
     std::array<Wertfeld*, AnzahlMesswerte> felder{};
-    std::array<QLabel*, AnzahlMesswerte> positionen{}; // none for those that are counts
+    std::array<Zahlfeld*, AnzahlMesswerte> positionen{}; // none for those that are counts
     std::array<std::int32_t, AnzahlMesswerte> gezeigteWerte{};
     int versatz = 0;
     std::int16_t gezeigterStatus = -1;

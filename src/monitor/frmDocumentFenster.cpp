@@ -122,7 +122,7 @@ void frmDocument::PasseZiffernAn() {
         element->setFont(klein);
     for (Wertfeld* feld : ui->Frame1->findChildren<Wertfeld*>())
         feld->SetzeZiffern(gross, zahlbreite);
-    for (QLabel* position : positionen) {
+    for (Zahlfeld* position : positionen) {
         if (position == nullptr)
             continue;
         position->setVisible(mitPosition);

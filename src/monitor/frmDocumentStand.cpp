@@ -24,7 +24,7 @@ void frmDocument::VerwirfWerte() {
     VergissAnzeige();
     for (Wertfeld* feld : felder)
         feld->setText(QString::fromUtf8(KeinWert));
-    for (QLabel* position : positionen)
+    for (Zahlfeld* position : positionen)
         if (position != nullptr)
             position->clear();
     ui->lblInhaltBlankingStrahlenMax->setText(QString::fromUtf8(KeinWert));
@@ -64,7 +64,7 @@ void frmDocument::FaerbeTexte() {
     const bool blass = stand == Datenstand::Veraltet;
     for (Wertfeld* feld : felder)
         Verblasse(*feld, blass, palette());
-    for (QLabel* position : positionen)
+    for (Zahlfeld* position : positionen)
         if (position != nullptr)
             Verblasse(*position, blass, palette());
     Verblasse(*ui->lblInhaltBlankingStrahlenMax, blass, palette());

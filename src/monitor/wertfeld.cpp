@@ -38,10 +38,8 @@ int Zeilenhoehe(const QFont& schrift) {
     return QFontMetrics(schrift).boundingRect(QRect(), 0, QStringLiteral("8")).height();
 }
 
-Wertfeld::Wertfeld(QWidget* eltern) : QLabel(eltern) {
+Wertfeld::Wertfeld(QWidget* eltern) : Zahlfeld(eltern) {
     QAccessible::installFactory(MacheZugang);
-    setAutoFillBackground(true); // spares drawing all that lies below
-    setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
 QString Wertfeld::Ansage() const {
@@ -58,13 +56,13 @@ void Wertfeld::SetzeZiffern(const QFont& schrift, int breite) {
 
 void Wertfeld::enterEvent(QEnterEvent* ereignis) {
     setTextInteractionFlags(Qt::TextSelectableByMouse);
-    QLabel::enterEvent(ereignis);
+    Zahlfeld::enterEvent(ereignis);
 }
 
 void Wertfeld::leaveEvent(QEvent* ereignis) {
     if (!hasSelectedText())
         setTextInteractionFlags(Qt::NoTextInteraction);
-    QLabel::leaveEvent(ereignis);
+    Zahlfeld::leaveEvent(ereignis);
 }
 
 } // namespace varnoth

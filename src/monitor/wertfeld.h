@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include "zahlfeld.h"
 
 namespace varnoth {
 
@@ -10,7 +10,7 @@ int Zeilenhoehe(const QFont& schrift);
 /// A label with a measured value. Its accessible name is the caption of the value; a screen reader hears
 /// caption, value and what is added. Its text can be selected while the pointer is over it: a label whose
 /// text can be takes several times as long to show another.
-class Wertfeld : public QLabel {
+class Wertfeld : public Zahlfeld {
     Q_OBJECT
 
 public:

@@ -127,12 +127,12 @@ void Leitungsport::WarteAufEingang(Zeit hoechstens) {
         Schlummere(hoechstens);
 }
 
+/// A turn of the window that falls into the sleep comes before it: that spares waking for it.
 void Leitungsport::Schlafe(Zeit hoechstens) {
     const Zeit ende = DieUmgebung().Uhr() + hoechstens;
-    const Zeit bis = std::min(ende, naechsterFensterblick);
-    SchlafeFein(bis - DieUmgebung().Uhr());
-    if (bis < ende)
+    if (naechsterFensterblick < ende)
         SchaueNachDemFenster();
+    SchlafeFein(std::min(ende, naechsterFensterblick) - DieUmgebung().Uhr());
 }
 
 } // namespace varnoth

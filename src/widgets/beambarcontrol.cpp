@@ -178,7 +178,7 @@ Bildvorgabe BeamBarControl::Vorgabe(double dichte) const {
 }
 
 Aufteilung BeamBarControl::Plan() const {
-    return TeileAuf(Vorgabe(devicePixelRatioF()));
+    return bild.Plan(Vorgabe(devicePixelRatioF()));
 }
 
 int BeamBarControl::GeraeteY(const QPointF& stelle) const {
@@ -202,7 +202,8 @@ void BeamBarControl::ErneuereStrahlen() {
     if (geaenderteStrahlen.empty())
         return;
     const std::vector<int> strahlen = std::exchange(geaenderteStrahlen, {});
-    update(Strahlgebiet(Vorgabe(devicePixelRatioF()), strahlen));
+    const Bildvorgabe vorgabe = Vorgabe(devicePixelRatioF());
+    update(Strahlgebiet(vorgabe, bild.Plan(vorgabe), strahlen));
 }
 
 } // namespace varnoth

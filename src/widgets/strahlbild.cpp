@@ -100,8 +100,7 @@ Aufteilung TeileAuf(const Bildvorgabe& vorgabe) {
     return plan;
 }
 
-QRegion Strahlgebiet(const Bildvorgabe& vorgabe, std::span<const int> strahlen) {
-    const Aufteilung plan = TeileAuf(vorgabe);
+QRegion Strahlgebiet(const Bildvorgabe& vorgabe, const Aufteilung& plan, std::span<const int> strahlen) {
     const std::vector<Strecke> strecken = Strecken({strahlen.begin(), strahlen.end()});
     const QRect alles(QPoint(), (QSizeF(vorgabe.groesse) / vorgabe.dichte).toSize() + QSize(1, 1));
     if (plan.uebersicht > 0 || strecken.size() > MeisteStrecken)
@@ -128,6 +127,10 @@ void Strahlbild::Zeichne(QPainter& maler, const Bildvorgabe& neueVorgabe, const 
     if (aufteilung.uebersicht > 0)
         ZeichneUebersicht(maler, zustaende);
     ZeichneMarken(maler, marken);
+}
+
+Aufteilung Strahlbild::Plan(const Bildvorgabe& gesucht) const {
+    return gesucht == vorgabe ? aufteilung : TeileAuf(gesucht);
 }
 
 void Strahlbild::Bereite(const Bildvorgabe& neueVorgabe, const QPalette& neuePalette) {

@@ -68,8 +68,8 @@ struct Streifen {
 };
 
 /// What of a widget with a beam bar has to be drawn anew when these beams (indices, in any order) have
-/// changed, in logical pixels.
-QRegion Strahlgebiet(const Bildvorgabe& vorgabe, std::span<const int> strahlen);
+/// changed, in logical pixels. `plan` is the bar's TeileAuf.
+QRegion Strahlgebiet(const Bildvorgabe& vorgabe, const Aufteilung& plan, std::span<const int> strahlen);
 
 /// Draws beam bars. What does not change from scan to scan is kept as pictures.
 class Strahlbild {
@@ -78,6 +78,8 @@ public:
     void Zeichne(QPainter& maler, const Bildvorgabe& vorgabe, const QPalette& palette,
                  std::span<const Strahlzustand> zustaende, const Marken& marken,
                  std::span<const Streifen> streifen);
+    /// TeileAuf, known already when that was drawn last.
+    Aufteilung Plan(const Bildvorgabe& gesucht) const;
 
 private:
     void Bereite(const Bildvorgabe& vorgabe, const QPalette& palette);

@@ -157,18 +157,25 @@ TEST_F(LeitungstaktTest, Before_the_first_character_nothing_is_known) {
 TEST_F(LeitungstaktTest, The_rest_needs_its_time_on_the_line_and_is_awaited_a_little_early) {
     BringeErstes();
     const Zeit jetzt = (Anforderung + 1) * Zeichen;
-    EXPECT_GT(takt.Schlafdauer(jetzt, 40), 36ms);
-    EXPECT_LE(takt.Schlafdauer(jetzt, 40), 38ms);
+    EXPECT_GT(takt.Schlafdauer(jetzt, 40), 38ms);
+    EXPECT_LT(takt.Schlafdauer(jetzt, 40), 39ms);
     EXPECT_EQ(takt.Schlafdauer(jetzt, 40) - takt.Schlafdauer(jetzt + 10ms, 40), 10ms);
     EXPECT_EQ(takt.Schlafdauer(jetzt + 40ms, 40), 0us);
-    EXPECT_EQ(takt.Schlafdauer(jetzt, 2), 0us);
+    EXPECT_GT(takt.Schlafdauer(jetzt, 2), 0us);
+    EXPECT_EQ(takt.Schlafdauer(jetzt, 1), 0us);
+}
+
+TEST_F(LeitungstaktTest, A_reply_of_forty_characters_is_not_overslept_when_its_clock_is_three_percent_fast) {
+    BringeErstes();
+    const Zeit jetzt = (Anforderung + 1) * Zeichen;
+    EXPECT_LE(takt.Schlafdauer(jetzt, 40), 40 * Zeichen * 97 / 100);
 }
 
 TEST_F(LeitungstaktTest, What_is_read_late_does_not_put_off_the_end_of_the_reply) {
     BringeErstes();
     takt.Empfangen(30ms, 19); // the last of them came at 28 ms
-    EXPECT_GT(takt.Schlafdauer(30ms, 10), 4ms);
-    EXPECT_LE(takt.Schlafdauer(30ms, 10), 6ms);
+    EXPECT_GT(takt.Schlafdauer(30ms, 10), 6ms);
+    EXPECT_LE(takt.Schlafdauer(30ms, 10), 7ms);
 }
 
 TEST_F(LeitungstaktTest, A_line_that_is_faster_than_its_settings_has_no_pace_until_the_next_request) {

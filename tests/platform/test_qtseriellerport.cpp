@@ -117,7 +117,7 @@ TEST_F(QtSeriellerPortTest, A_sleep_passes_over_bytes_that_arrive) {
     EXPECT_GE(umgebung.Uhr() - beginn, 2ms);
 }
 
-TEST_F(QtSeriellerPortTest, A_sleep_ends_with_the_windows_turn) {
+TEST_F(QtSeriellerPortTest, A_long_sleep_ends_soon_after_the_window_had_its_turn) {
     port.Oeffne(1, Standard);
     port.Schreibe("request");
     Sende("x");

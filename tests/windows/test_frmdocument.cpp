@@ -1,4 +1,5 @@
 #include "frmdocumenttest.h"
+#include "zahlfeld.h"
 
 using namespace varnoth;
 
@@ -17,6 +18,17 @@ TEST_F(FrmDocument, Current_values_are_shown_first) {
     SetzeMesswerte(10, 20, 30);
     sicht->SetAktuellMinMaxStatus();
     EXPECT_EQ(Werttexte(), (QStringList{"10", "11", "12", "13", "14", "15"}));
+}
+
+TEST_F(FrmDocument, A_number_is_laid_out_once_for_all_fields_of_a_view) {
+    const auto* werte = sicht->findChild<Zahlfeld*>(QStringLiteral("lblInhaltTU"));
+    const auto* positionen = sicht->findChild<Zahlfeld*>(QStringLiteral("lblPositionTU"));
+    EXPECT_NE(&werte->Vorrat(), &positionen->Vorrat()) << "of another font";
+    for (const Zahlfeld* feld : sicht->findChildren<Zahlfeld*>()) {
+        const bool position = feld->objectName().startsWith(QStringLiteral("lblPosition"));
+        EXPECT_EQ(&feld->Vorrat(), &(position ? positionen : werte)->Vorrat())
+            << feld->objectName().toStdString();
+    }
 }
 
 TEST_F(FrmDocument, A_click_on_an_option_button_shows_its_values_at_once) {
