@@ -32,6 +32,16 @@ struct Meldung {
     bool operator==(const Meldung&) const = default;
 };
 
+/// For how long the window has held the program up: rounds of events that do not come back, as while a person
+/// drags a window whose system keeps the program waiting for that, or has a menu open. Below half a second
+/// nothing counts.
+struct Aufenthalt {
+    Zeit gesamt{0};        ///< since the start, the present one included
+    bool dauertAn = false; ///< there is one now
+
+    bool operator==(const Aufenthalt&) const = default;
+};
+
 /// What the rooms below the windows ask of the world above them. The shell fits the real one in at start-up,
 /// tests fit in a scripted one.
 class Umgebung {
@@ -57,6 +67,8 @@ public:
     virtual void WarteAufEreignis(Zeit hoechstens) = 0;
     /// The clock. Only differences mean something.
     virtual Zeit Uhr() = 0;
+    /// Without a window there is none.
+    virtual Aufenthalt GetAufenthalt() { return {}; }
     /// Shows a message box and waits for its answer. A box that is closed answers Abbrechen, or Ok where it
     /// has no other button.
     virtual Antwort ZeigeMeldung(const Meldung& meldung) = 0;

@@ -124,7 +124,8 @@ void Busprotokoll::Hoere(const Mitschnitt& mitschnitt) {
     eintraege[naechster % Hoechstzahl] = {
         .gesendet = mitschnitt.gesendet,
         .anfang = stelle,
-        .umlauf = Gekuerzt((mitschnitt.letztesByte - mitschnitt.gesendet).count()),
+        .umlauf =
+            mitschnitt.aufgehalten ? 0 : Gekuerzt((mitschnitt.letztesByte - mitschnitt.gesendet).count()),
         .kamAn = Gekuerzt(static_cast<std::int64_t>(mitschnitt.empfangen.size())),
         .anforderung = static_cast<std::uint16_t>(anforderung.size()),
         .empfangen = static_cast<std::uint16_t>(empfangen.size()),

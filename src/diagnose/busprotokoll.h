@@ -24,7 +24,7 @@ struct Busaustausch {
     std::size_t kamAn = 0; ///< bytes; of very many only the first are kept
     Passwortschutz::Zeigbares zeigbar{};
     Zeit gesendet{};
-    Zeit umlauf{}; ///< from sending to the last byte; 0 when nothing came
+    Zeit umlauf{}; ///< from sending to the last byte; 0 when nothing came, or nobody can tell
 };
 
 /// Whether an exchange went wrong; bytes that nobody was waiting for always did.

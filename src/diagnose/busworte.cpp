@@ -190,7 +190,7 @@ std::string Bytetext(const Busaustausch& austausch) {
 }
 
 std::string Umlaufzahl(const Busaustausch& austausch) {
-    if (austausch.empfangen.empty() || austausch.art == Austauschart::Ungefragt)
+    if (austausch.umlauf == Zeit{0} || austausch.art == Austauschart::Ungefragt)
         return {};
     std::array<char, 24> text{};
     std::snprintf(text.data(), text.size(), "%lld%c%01d",

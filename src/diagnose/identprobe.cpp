@@ -105,8 +105,10 @@ Identprobe FrageIdentifikation(const Probefristen& fristen, const std::function<
     probe.davor += CommPortReadInput();
     WarteSendepause();
     const Zeit anfang = DieUmgebung().Uhr();
+    const Zeit aufenthalt = DieUmgebung().GetAufenthalt().gesamt;
     CommPortWriteOutput(probe.gesendet);
     Empfange(probe, anfang, fristen, abgebrochen);
+    probe.aufgehalten = DieUmgebung().GetAufenthalt().gesamt != aufenthalt;
     if (!probe.antwort.empty())
         probe.ident = Deute(probe.antwort);
     modMithoeren::Endet(Austauschart::Auftrag, probe.gesendet, AusgangVon(probe), GetPortIstOffen() == True);

@@ -28,6 +28,8 @@ struct Identprobe {
     std::string antwort{};   ///< the whole valid reply among them; empty where there is none
     Identifikation ident{};  ///< what it says; valid where there is one
     Zeit umlauf{0};          ///< from the handing over of the request to the end of the reply
+    bool aufgehalten =
+        false; ///< the window held the program up meanwhile: the reply may have come long before
 };
 
 /// Asks for an identification on the open port and takes what comes, within the times. Where the line is busy

@@ -103,6 +103,8 @@ void Zaehle(Pruefbefund& befund, const Identprobe& probe, const std::string& bek
         return;
     }
     befund.antwortlaenge = probe.antwort.size();
+    if (probe.aufgehalten)
+        return;
     auto& zeiten = befund.umlaufzeiten;
     zeiten.insert(std::ranges::upper_bound(zeiten, probe.umlauf), probe.umlauf);
 }

@@ -3,6 +3,7 @@
 #include "antwortempfang.h"
 #include "austauschstand.h"
 #include "erkenner.h"
+#include "frist.h"
 #include "gestalt.h"
 #include "mithoeren.h"
 #include "rahmen.h"
@@ -52,12 +53,12 @@ bool ErwarteKlaerung(std::string& strom, Zeit ende) {
 /// most one second in all. True once no late reply can be mistaken for the one to the given request.
 bool Klaere(const std::string& anforderung) {
     const std::string frage = IdentifikationsAnforderung();
-    const Zeit ende = DieUmgebung().Uhr() + Antwortzeit;
+    const Frist frist(Antwortzeit);
     std::string strom;
     // A reply may be that to an older identification request; then it takes one more.
     while (DerStand().zuordnung.Verwechselbar(anforderung)) {
         Sende(frage, true);
-        if (!ErwarteKlaerung(strom, ende))
+        if (!ErwarteKlaerung(strom, frist.Ende()))
             return false;
         do
             DerStand().zuordnung.Beantwortet(frage);

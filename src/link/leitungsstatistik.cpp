@@ -45,8 +45,10 @@ void Beginnt() {
     zustand.stand.unterwegs = true;
     zustand.gesendet.clear();
     zustand.empfangen.clear();
-    if (!zustand.stand.wartetSeit)
-        zustand.stand.wartetSeit = DieUmgebung().Uhr();
+    if (zustand.stand.wartetSeit)
+        return;
+    zustand.stand.wartetSeit = DieUmgebung().Uhr();
+    zustand.stand.aufenthaltDavor = DieUmgebung().GetAufenthalt().gesamt;
 }
 
 void Gesendet(std::string_view bytes) {
@@ -76,6 +78,13 @@ void Endet(bool gelungen, bool portOffen) {
 
 const Stand& GetStand() {
     return zustand.stand;
+}
+
+std::optional<Zeit> WartetSeit() {
+    const Stand& stand = zustand.stand;
+    if (!stand.wartetSeit)
+        return std::nullopt;
+    return *stand.wartetSeit + (DieUmgebung().GetAufenthalt().gesamt - stand.aufenthaltDavor);
 }
 
 int FehlschlaegeDerLetztenMinute() {

@@ -29,6 +29,8 @@ struct Stand {
     /// When the first request was sent that has had no reply since; empty after a reply, and from the time
     /// the port is opened until a request is sent.
     std::optional<Zeit> wartetSeit{};
+    /// For how long the window had held the program up then.
+    Zeit aufenthaltDavor{0};
     /// How the last exchange has ended; empty from the time the port is opened until one has.
     std::optional<Austauschende> letztesEnde{};
     /// Whether an exchange is under way.
@@ -46,6 +48,9 @@ void Empfangen(std::string_view bytes);
 void Endet(bool gelungen, bool portOffen);
 
 const Stand& GetStand();
+/// Since when no request has had a reply, without what the window has held the program up since then, in
+/// which nobody listened.
+std::optional<Zeit> WartetSeit();
 /// How many exchanges have failed in the last minute.
 int FehlschlaegeDerLetztenMinute();
 

@@ -25,6 +25,7 @@ struct Zustand {
     bool dabei = false; ///< a request was sent since the first listener came
     bool offen = false; ///< a request was sent whose exchange has not ended
     Laufendes empfangenes{};
+    Zeit aufenthaltDavor{0}; ///< until the request was sent
     Laufendes ungefragtes{};
     std::vector<std::string> unbeantwortete{};
 };
@@ -146,6 +147,7 @@ void Gesendet(Zeit wann) {
     zustand.offen = true;
     zustand.empfangenes.bytes.clear();
     zustand.empfangenes.beginn = zustand.empfangenes.letztes = wann;
+    zustand.aufenthaltDavor = DieUmgebung().GetAufenthalt().gesamt;
 }
 
 void Empfangen(std::string_view bytes, Zeit wann) {
@@ -177,7 +179,13 @@ void Endet(Austauschart art, const std::string& anforderung, Ausgang ausgang, bo
     const auto ergebnis = art == Austauschart::OhneAntwort
                               ? (gesendet ? Austauschergebnis::Gesendet : Austauschergebnis::KeinPort)
                               : Ergebnis(anforderung, ausgang, portOffen);
-    Sage({art, ergebnis, anforderung, empfangenes.bytes, empfangenes.beginn, empfangenes.letztes});
+    Sage({.art = art,
+          .ergebnis = ergebnis,
+          .anforderung = anforderung,
+          .empfangen = empfangenes.bytes,
+          .gesendet = empfangenes.beginn,
+          .letztesByte = empfangenes.letztes,
+          .aufgehalten = gesendet && DieUmgebung().GetAufenthalt().gesamt != zustand.aufenthaltDavor});
     if (gesendet)
         MerkeUnbeantwortete(anforderung, ergebnis);
 }

@@ -38,6 +38,7 @@ struct Mitschnitt {
     std::string_view empfangen{};   ///< all that came for it, in the order of arrival
     Zeit gesendet{};                ///< when the request was handed to the port; unasked: the first arrival
     Zeit letztesByte{};             ///< when the last of what came was read; `gesendet` when nothing came
+    bool aufgehalten{}; ///< the window held the program up meanwhile: it may have come long before
 };
 
 /// Hears of every exchange when it has ended. It must be quick, as the next request waits for it, and must

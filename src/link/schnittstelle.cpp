@@ -1,5 +1,6 @@
 #include "schnittstelle.h"
 
+#include "frist.h"
 #include "leitungsstatistik.h"
 #include "leitungstakt.h"
 #include "mithoeren.h"
@@ -270,12 +271,12 @@ bool IstRuhig(Zeit ruhe) {
 }
 
 std::string WarteAufRuhe(Zeit ruhe) {
-    const Zeit spaetestens = DieUmgebung().Uhr() + std::max(LaengsteUnruhe, 3 * ruhe);
+    const Frist spaetestens(std::max(LaengsteUnruhe, 3 * ruhe));
     std::string angekommenes;
     for (;;) {
         if (CommPortBytesAvailable() > 0)
             angekommenes += CommPortReadInput();
-        const Zeit ende = std::min(zustand.letzterEingang + ruhe, spaetestens);
+        const Zeit ende = std::min(zustand.letzterEingang + ruhe, spaetestens.Ende());
         const Zeit jetzt = DieUmgebung().Uhr();
         if (jetzt >= ende)
             return angekommenes;

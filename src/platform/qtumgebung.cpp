@@ -34,16 +34,23 @@ int QtUmgebung::LasseEreignisseLaufen() {
     return formularzaehler ? formularzaehler() : 0;
 }
 
+template<class Runde>
+void QtUmgebung::Messe(Zeit wartezeit, Runde runde) {
+    messer.Beginnt(Uhr(), wartezeit);
+    runde();
+    messer.Endet(Uhr());
+}
+
 /// Runs pending events unless that was done a moment ago.
 void QtUmgebung::LasseFaelligesLaufen() {
     if (Uhr() < naechsteRunde)
         return;
-    pumpe.LaufeOhneAufgeschobenes();
+    Messe(Zeit{0}, [this] { pumpe.LaufeOhneAufgeschobenes(); });
     naechsteRunde = Uhr() + Rundenabstand;
 }
 
 void QtUmgebung::NutzeWartezeit() {
-    pumpe.LaufeMitAllem();
+    Messe(Zeit{0}, [this] { pumpe.LaufeMitAllem(); });
     naechsteRunde = Uhr() + Rundenabstand;
 }
 
@@ -58,7 +65,7 @@ void QtUmgebung::WarteAufEreignis(Zeit hoechstens) {
         SchlafeBis(ende);
         return;
     }
-    pumpe.WarteAufEreignis(hoechstens);
+    Messe(hoechstens, [&] { pumpe.WarteAufEreignis(hoechstens); });
     naechsteRunde = Zeit{0};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "aufenthaltsmesser.h"
 #include "ereignispumpe.h"
 #include "umgebung.h"
 
@@ -19,6 +20,7 @@ public:
     void FuerWartezeit(std::function<void()> arbeit) override;
     void WarteAufEreignis(Zeit hoechstens) override;
     Zeit Uhr() override;
+    Aufenthalt GetAufenthalt() override { return messer.Stand(Uhr()); }
     Antwort ZeigeMeldung(const Meldung& meldung) override;
     void ZeigeStatustext(int feld, const std::string& text) override;
 
@@ -39,8 +41,11 @@ protected:
 private:
     void LasseFaelligesLaufen();
     void SchlafeBis(Zeit ende);
+    template<class Runde>
+    void Messe(Zeit wartezeit, Runde runde);
 
     Ereignispumpe pumpe;
+    Aufenthaltsmesser messer;
     Zeit naechsteRunde{0}; ///< until then events have run a moment ago
     Zeit weckdauer{0};
     std::function<int()> formularzaehler;

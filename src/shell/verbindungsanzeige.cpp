@@ -39,8 +39,9 @@ Verbindungstatsachen Tatsachen(bool verbindet) {
             .simuliert = modSchnittstelle::GetAnschluss().simuliert,
             .fehlgeschlagen = leitung.letztesEnde && *leitung.letztesEnde != Austauschende::Gelungen,
             .unterwegs = leitung.unterwegs,
+            .aufgehalten = DieUmgebung().GetAufenthalt().dauertAn,
             .letzteAntwort = leitung.letzteAntwort,
-            .wartetSeit = leitung.wartetSeit,
+            .wartetSeit = modLeitungsstatistik::WartetSeit(),
             .durchgaenge = modPolling::GetDurchgaenge(),
             .fehlschlaege = modLeitungsstatistik::FehlschlaegeDerLetztenMinute()};
 }

@@ -20,14 +20,18 @@ Zeit SeitAntwort(const Verbindungstatsachen& tatsachen) {
     return tatsachen.letzteAntwort ? tatsachen.jetzt - *tatsachen.letzteAntwort : Zeit{0};
 }
 
+bool Hoert(const Verbindungstatsachen& tatsachen) {
+    return tatsachen.unterwegs && !tatsachen.aufgehalten;
+}
+
 Zeit Wartezeit(const Verbindungstatsachen& tatsachen) {
-    return tatsachen.unterwegs && tatsachen.wartetSeit ? tatsachen.jetzt - *tatsachen.wartetSeit : Zeit{0};
+    return Hoert(tatsachen) && tatsachen.wartetSeit ? tatsachen.jetzt - *tatsachen.wartetSeit : Zeit{0};
 }
 
 void UnterscheideLive(const Verbindungstatsachen& tatsachen, Verbindungsbild& bild) {
     if (Wartezeit(tatsachen) > Geduld)
         Dauert(bild, Wartet, Wartezeit(tatsachen));
-    else if (!tatsachen.unterwegs && SeitAntwort(tatsachen) > Geduld)
+    else if (!Hoert(tatsachen) && SeitAntwort(tatsachen) > Geduld)
         Dauert(bild, Pausiert, SeitAntwort(tatsachen));
     else
         bild.zustand = Live;

@@ -21,8 +21,9 @@ struct Verbindungstatsachen {
     bool simuliert = false;      ///< the built-in controller answers
     bool fehlgeschlagen = false; ///< the last exchange had no reply
     bool unterwegs = false;      ///< a reply is waited for
+    bool aufgehalten = false;    ///< the window keeps the program from listening
     std::optional<Zeit> letzteAntwort{};
-    std::optional<Zeit> wartetSeit{}; ///< since when no request has had a reply
+    std::optional<Zeit> wartetSeit{}; ///< since when no request has had a reply, while somebody listened
     unsigned durchgaenge = 0;         ///< polling passes since polling was started
     int fehlschlaege = 0;             ///< failed exchanges of the last minute
 };
@@ -31,7 +32,8 @@ enum class Verbindungszustand {
     Verbindet,
     Live,
     Wartet,     ///< no reply for so many seconds
-    Pausiert,   ///< live data is on, but nothing was asked for so many seconds: a box or dialog is open
+    Pausiert,   ///< live data is on, but nothing was asked for so many seconds: a box or dialog is open,
+                ///< or a window is being dragged
     PortOffen,  ///< a dialog has the line for itself
     Angehalten, ///< live data was stopped
     Offline,

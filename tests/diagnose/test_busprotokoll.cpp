@@ -1,6 +1,7 @@
 #include "busprotokoll.h"
 
 #include "busprobe.h"
+#include "busworte.h"
 #include "pruefgeraet.h"
 #include "servicetext.h"
 #include "transaktionen.h"
@@ -179,6 +180,22 @@ TEST_F(BusprotokollTest, A_round_trip_is_never_negative) {
     probe.umlauf = Zeit(-5);
     protokoll.Hoere(probe);
     EXPECT_EQ(Neuester().umlauf, Zeit(0));
+}
+
+TEST_F(BusprotokollTest, The_round_trip_of_an_exchange_that_the_window_held_up_is_not_known) {
+    pruefung::PruefPort port(umgebung);
+    const pruefung::PruefGeraet geraet(port);
+    modSchnittstelle::OpenCommPort();
+    port.antworte = [this, antworte = port.antworte](const std::string& anforderung) {
+        umgebung.Plane(umgebung.uhr, [this] { umgebung.HalteAuf(5s); });
+        auto stuecke = antworte(anforderung);
+        for (auto& stueck : stuecke)
+            stueck.nach += 20ms;
+        return stuecke;
+    };
+    EXPECT_EQ(modModbus::RTUModeH11IndentifikationsAnforderung(), True);
+    EXPECT_EQ(Neuester().ergebnis, Austauschergebnis::Beantwortet);
+    EXPECT_EQ(Umlauftext(Neuester()), "");
 }
 
 TEST_F(BusprotokollTest, The_service_password_is_not_even_in_its_memory) {

@@ -228,4 +228,18 @@ TEST_F(Leitungspruefung, A_port_that_cannot_be_opened_is_told_with_its_cause) {
     SetzeSprachoffset(Deutsch);
 }
 
+TEST_F(Leitungspruefung, A_round_trip_during_which_the_window_held_the_program_up_is_not_known) {
+    int anfragen = 0;
+    port.antworte = [&](const std::string&) {
+        if (++anfragen == 2)
+            umgebung.Plane(umgebung.uhr + std::chrono::milliseconds(1),
+                           [this] { umgebung.HalteAuf(std::chrono::seconds(5)); });
+        return Nach(20, Identantwort());
+    };
+    const Pruefbefund befund = Pruefe(3);
+    EXPECT_EQ(befund.Anzahl(Pruefende::Beantwortet), 3);
+    EXPECT_EQ(befund.spaete, 0);
+    EXPECT_EQ(befund.umlaufzeiten, std::vector<Zeit>(2, std::chrono::milliseconds(20)));
+}
+
 } // namespace varnoth

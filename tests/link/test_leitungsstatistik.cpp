@@ -134,4 +134,15 @@ TEST_F(Leitungsstatistik, Opening_the_port_begins_a_new_row_of_exchanges) {
     EXPECT_EQ(Anzahl(Austauschende::Stille), 1U);
 }
 
+TEST_F(Leitungsstatistik, Nobody_waits_for_a_reply_while_the_window_holds_the_program_up) {
+    EXPECT_EQ(modLeitungsstatistik::WartetSeit(), std::nullopt);
+    geraet.schweige = [](const std::string&) { return true; };
+    umgebung.HalteAuf(7s);
+    umgebung.uhr = 100s;
+    Lies();
+    EXPECT_EQ(modLeitungsstatistik::WartetSeit(), 100s);
+    umgebung.HalteAuf(5s);
+    EXPECT_EQ(modLeitungsstatistik::WartetSeit(), 105s);
+}
+
 } // namespace varnoth

@@ -1,6 +1,7 @@
 #include "polling.h"
 
 #include "geraetestand.h"
+#include "leitungsstatistik.h"
 #include "pruefgeraet.h"
 #include "registerabbild.h"
 #include "texte.h"
@@ -545,6 +546,31 @@ TEST_F(PollingTest, Polling_is_on_exactly_when_the_port_could_be_opened) {
     port.oeffnenGelingt = false;
     StartePolling();
     EXPECT_EQ(GetPollingAktiv(), False);
+}
+
+TEST_F(PollingTest, A_window_that_holds_every_exchange_up_for_seconds_costs_no_value_and_no_connection) {
+    Verbinde({16, 16});
+    geraet.Spezifisch(1, 335) = 17;
+    const auto ziehe = [this] { umgebung.HalteAuf(5s); };
+    umgebung.beiEreignissen = [&] {
+        ziehe();
+        umgebung.FuerWartezeit(ziehe); // once the next request is out
+    };
+    port.antworte = [&, antworte = port.antworte](const std::string& anforderung) {
+        umgebung.Plane(umgebung.uhr, ziehe); // while its reply is waited for
+        auto stuecke = antworte(anforderung);
+        for (auto& stueck : stuecke)
+            stueck.nach += 20ms;
+        return stuecke;
+    };
+    auto erwartet = modLeitungsstatistik::GetStand().anzahl;
+    erwartet[static_cast<std::size_t>(Austauschende::Gelungen)] += 9;
+    PollingZyklus();
+    EXPECT_EQ(GetDurchgaenge(), 1U);
+    EXPECT_EQ(Spezifisch(1, 335, 18), 17);
+    EXPECT_EQ(modLeitungsstatistik::GetStand().anzahl, erwartet) << "none has failed";
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_FALSE(VerbindungVerloren());
 }
 
 } // namespace varnoth

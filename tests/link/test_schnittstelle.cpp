@@ -301,4 +301,15 @@ TEST_F(SchnittstelleTest, The_wait_for_quiet_ends_after_a_second) {
     EXPECT_EQ(umgebung.uhr - davor, 1000ms);
 }
 
+TEST_F(SchnittstelleTest, A_line_that_fell_quiet_while_the_window_held_the_program_up_counts_as_quiet) {
+    OpenCommPort();
+    port.eingang = "late";
+    umgebung.Plane(umgebung.uhr + 1ms, [this] {
+        umgebung.HalteAuf(5s);
+        port.eingang += "later";
+    });
+    EXPECT_EQ(WarteAufRuhe(20ms), "latelater");
+    EXPECT_TRUE(IstRuhig(20ms));
+}
+
 } // namespace varnoth

@@ -341,4 +341,13 @@ TEST_F(VerwechslungTest, The_echo_of_a_command_nobody_waited_for_is_not_taken_fo
     EXPECT_EQ(RTUModeH10SchreibenAnforderung(0x4084, 1, {4}), False);
 }
 
+TEST_F(VerwechslungTest, A_window_that_holds_the_question_up_does_not_use_up_the_time_for_its_answer) {
+    LasseLeseantwortOffen(Strahlen);
+    verspaetete[Nummer() + 1] = 100ms;
+    umgebung.beiEreignissen = [this] { umgebung.HalteAuf(5s); };
+    EXPECT_EQ(Lies(Messwerte), True);
+    EXPECT_EQ(werte, Werte(Anzahl, MessWert));
+    EXPECT_EQ(Fragen(), 1);
+}
+
 } // namespace varnoth

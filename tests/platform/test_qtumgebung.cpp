@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <thread>
 
 namespace varnoth {
 
@@ -122,6 +123,27 @@ TEST_F(QtUmgebungTest, Status_texts_reach_who_shows_them) {
     umgebung.SetzeStatusanzeige([&gezeigtesFeld](int feld, const std::string&) { gezeigtesFeld = feld; });
     umgebung.ZeigeStatustext(FeldSchaltausgang, "x");
     EXPECT_EQ(gezeigtesFeld, FeldSchaltausgang);
+}
+
+TEST_F(QtUmgebungTest, Events_that_do_not_come_back_hold_the_program_up_whoever_has_them_run) {
+    const std::function<void()> wege[] = {[this] { umgebung.LasseEreignisseLaufen(); },
+                                          [this] { umgebung.NutzeWartezeit(); },
+                                          [this] { umgebung.WarteAufEreignis(100ms); }};
+    for (const auto& lasseLaufen : wege) {
+        const Zeit davor = umgebung.GetAufenthalt().gesamt;
+        const Zeit beginn = umgebung.Uhr();
+        bool gehalten = false;
+        QTimer::singleShot(0, [&] {
+            while (!umgebung.GetAufenthalt().dauertAn && umgebung.Uhr() - beginn < 10s)
+                std::this_thread::yield();
+            gehalten = umgebung.GetAufenthalt().dauertAn;
+        });
+        while (!gehalten && umgebung.Uhr() - beginn < 10s)
+            lasseLaufen();
+        EXPECT_TRUE(gehalten);
+        EXPECT_FALSE(umgebung.GetAufenthalt().dauertAn);
+        EXPECT_GE(umgebung.GetAufenthalt().gesamt - davor, 500ms);
+    }
 }
 
 } // namespace varnoth

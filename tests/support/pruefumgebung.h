@@ -47,6 +47,12 @@ public:
         uhr = ende;
     }
     Zeit Uhr() override { return uhr; }
+    Aufenthalt GetAufenthalt() override { return aufenthalt; }
+    /// The window holds the program up for so long, as while it is dragged.
+    void HalteAuf(Zeit dauer) {
+        uhr += dauer;
+        aufenthalt.gesamt += dauer;
+    }
     Antwort ZeigeMeldung(const Meldung& meldung) override {
         meldungen.push_back(meldung);
         if (beiMeldung)
@@ -71,6 +77,7 @@ public:
     void Plane(Zeit wann, std::function<void()> was) { geplant.emplace(wann, std::move(was)); }
 
     Zeit uhr{0};
+    Aufenthalt aufenthalt;
     int offeneFormulare = 1;
     int ereignisrunden = 0;
     std::vector<Zeit> gewartet;

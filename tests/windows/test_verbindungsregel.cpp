@@ -204,4 +204,25 @@ TEST_F(VerbindungsregelTest, The_simulated_controller_and_the_failures_are_passe
     EXPECT_EQ(Betrachte().fehlschlaege, 7);
 }
 
+TEST_F(VerbindungsregelTest,
+       A_window_that_keeps_the_program_from_listening_pauses_live_data_and_loses_nothing) {
+    GeheLive();
+    tatsachen.aufgehalten = true;
+    EXPECT_EQ(BetrachteNach(1200ms).zustand, Live);
+    const auto bild = BetrachteNach(3800ms);
+    EXPECT_EQ(bild.zustand, Pausiert);
+    EXPECT_EQ(bild.dauer, 5s);
+    tatsachen.aufgehalten = false;
+    tatsachen.letzteAntwort = tatsachen.wartetSeit = tatsachen.jetzt;
+    EXPECT_EQ(Betrachte().zustand, Live);
+}
+
+TEST_F(VerbindungsregelTest, A_window_that_keeps_a_dialog_from_listening_makes_no_controller_silent) {
+    tatsachen.portOffen = tatsachen.unterwegs = tatsachen.aufgehalten = true;
+    tatsachen.wartetSeit = tatsachen.jetzt;
+    EXPECT_EQ(BetrachteNach(5s).zustand, PortOffen);
+    tatsachen.aufgehalten = false;
+    EXPECT_EQ(Betrachte().zustand, Wartet);
+}
+
 } // namespace varnoth
