@@ -53,7 +53,11 @@ protected:
         Setze("Vrec", "0");
         leiste.show();
     }
-    ~AufzeichnungsablaufTest() override { SetzeDateiantwort({}); }
+    ~AufzeichnungsablaufTest() override {
+        SetzeDateiantwort({});
+        if (ablage != nullptr)
+            ablage->LasseLos();
+    }
 
     void Setze(const char* schluessel, const std::string& text) {
         einstellungen.texte[{"Aufzeichnung", schluessel}] = text;
