@@ -4,8 +4,8 @@
 #include "geraetepfade.h"
 #include "lauf.h"
 #include "portliste.h"
+#include "portworte.h"
 #include "texte.h"
-#include "textmitwerten.h"
 #include "verbindungsauskunft.h"
 
 #include <algorithm>
@@ -17,7 +17,6 @@ namespace {
 constexpr std::int16_t TextKeinPort = 8277;
 constexpr std::int16_t TextFrei = 8278;
 constexpr std::int16_t TextVorhanden = 6790;
-constexpr std::int16_t TextSeriennummer = 8279;
 constexpr int Portnummern = 4;
 
 /// The numbers of COM1 to COM4 that mean the port.
@@ -35,24 +34,10 @@ std::string Ursache(const Portangabe& port) {
     return Portursache(port.geraet, port.befund, {});
 }
 
-/// What the port is, in one line: "/dev/ttyUSB0: FT232R USB UART, FTDI, serial number A50285BI, COM1".
-std::string Kopfzeile(const Portangabe& port) {
-    std::vector<std::string> angaben{port.bezeichnung, port.hersteller};
-    if (!port.seriennummer.empty())
-        angaben.push_back(LadeTextMit(TextSeriennummer, {port.seriennummer}));
-    for (const std::int32_t nummer : Nummern(port))
-        angaben.push_back("COM" + std::to_string(nummer));
-    std::string zeile;
-    for (const std::string& angabe : angaben)
-        if (!angabe.empty())
-            zeile += (zeile.empty() ? ": " : ", ") + angabe;
-    return port.geraet + zeile + "\n";
-}
-
 std::string Absatz(const Portangabe& port) {
     const std::string ursache = Ursache(port);
     const std::string frei = LadeText(port.befund.benutzungUnbekannt ? TextVorhanden : TextFrei);
-    std::string text = Kopfzeile(port) + "  " + (ursache.empty() ? frei : ursache) + "\n";
+    std::string text = Portworte(port, Nummern(port)) + "\n  " + (ursache.empty() ? frei : ursache) + "\n";
     for (const std::string& name : port.stabileNamen)
         text += "  " + name + "\n";
     return text;

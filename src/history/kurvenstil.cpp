@@ -1,7 +1,5 @@
 #include "kurvenstil.h"
 
-#include "kurvenfarben.h"
-
 #include <QPainter>
 #include <QPolygonF>
 
@@ -51,26 +49,35 @@ const Strichmuster& MusterDesTeils(int teil) {
     return DieMuster[static_cast<std::size_t>(teil)];
 }
 
-QColor FarbeDerReihe(const QPalette& palette, Messreihe reihe) {
-    return Reihenfarbe(palette, (reihe.teil * AnzahlKurvenwerte + reihe.wert) % AnzahlReihenfarben);
+const QColor& Verlaufsfarben::Reihe(Messreihe reihe) const {
+    const int stelle = reihe.teil * AnzahlKurvenwerte + reihe.wert;
+    return reihen[static_cast<std::size_t>(stelle % AnzahlReihenfarben)];
 }
 
-void ZeichneZeichen(QPainter& maler, QPointF ort, Messreihe reihe, double dichte, const QPalette& palette) {
+Verlaufsfarben VerlaufsfarbenAus(const QPalette& palette) {
+    Verlaufsfarben farben{.rahmen = KurvenfarbenAus(palette), .reihen = {}};
+    for (std::size_t i = 0; i < farben.reihen.size(); ++i)
+        farben.reihen[i] = Reihenfarbe(palette, static_cast<int>(i));
+    return farben;
+}
+
+void ZeichneZeichen(QPainter& maler, QPointF ort, Messreihe reihe, double dichte,
+                    const Verlaufsfarben& farben) {
     maler.save();
     maler.setRenderHint(QPainter::Antialiasing);
-    maler.setPen(QPen(palette.color(QPalette::Base), dichte));
-    maler.setBrush(FarbeDerReihe(palette, reihe));
+    maler.setPen(QPen(farben.rahmen.grund, dichte));
+    maler.setBrush(farben.Reihe(reihe));
     maler.drawPolygon(Umriss(reihe.wert, Zeichenradius * dichte).translated(ort));
     maler.restore();
 }
 
-void ZeichneMuster(QPainter& maler, const QRectF& platz, Messreihe reihe, const QPalette& palette) {
-    const QColor farbe = FarbeDerReihe(palette, reihe);
+void ZeichneMuster(QPainter& maler, const QRectF& platz, Messreihe reihe, const Verlaufsfarben& farben) {
+    const QColor& farbe = farben.Reihe(reihe);
     const double mitte = platz.center().y();
     for (int x = 0; x < static_cast<int>(platz.width()); ++x)
         if (MusterDesTeils(reihe.teil).IstGezeichnet(x))
             maler.fillRect(QRectF(platz.left() + x, mitte - Legendenstrich / 2, 1, Legendenstrich), farbe);
-    ZeichneZeichen(maler, platz.center(), reihe, 1, palette);
+    ZeichneZeichen(maler, platz.center(), reihe, 1, farben);
 }
 
 } // namespace varnoth

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "kurvenfarben.h"
 #include "verlaufswahl.h"
 
 #include <QColor>
 #include <QPalette>
 #include <QRectF>
+
+#include <array>
 
 class QPainter;
 
@@ -24,11 +27,20 @@ const Strichmuster& MusterDesTeils(int teil);
 /// told apart without colours.
 inline constexpr double Zeichenradius = 4.5;
 
-QColor FarbeDerReihe(const QPalette& palette, Messreihe reihe);
+/// The colours of a trend. What makes them out of a palette takes long beside drawing a few columns: they are
+/// for keeping.
+struct Verlaufsfarben {
+    Kurvenfarben rahmen;
+    std::array<QColor, AnzahlReihenfarben> reihen;
+
+    const QColor& Reihe(Messreihe reihe) const;
+};
+Verlaufsfarben VerlaufsfarbenAus(const QPalette& palette);
 
 /// Draws a curve's sign around a place, `dichte` pixels to a logical one.
-void ZeichneZeichen(QPainter& maler, QPointF ort, Messreihe reihe, double dichte, const QPalette& palette);
+void ZeichneZeichen(QPainter& maler, QPointF ort, Messreihe reihe, double dichte,
+                    const Verlaufsfarben& farben);
 /// Draws a piece of a curve with its sign, as for a legend.
-void ZeichneMuster(QPainter& maler, const QRectF& platz, Messreihe reihe, const QPalette& palette);
+void ZeichneMuster(QPainter& maler, const QRectF& platz, Messreihe reihe, const Verlaufsfarben& farben);
 
 } // namespace varnoth

@@ -6,6 +6,7 @@
 #include "verlaufsworte.h"
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 
@@ -57,6 +58,7 @@ void Verlaufsbild::Beginne() {
     amZeiger = anMarkeA = anMarkeB = {};
     spalten.Beginne(Zeit(1));
     Erneuere();
+    update();
     emit Angesehen();
 }
 
@@ -96,12 +98,47 @@ void Verlaufsbild::Richte() {
                  return Achsenwert(blatt.wahl, blatt.abstaende, reihe, 1).has_value();
              }))
         blatt.hinweis = Text(TextKeinAbstand);
-    feld = FeldFuer(blatt, QFontMetricsF(font()), size(), devicePixelRatioF());
+    RichteFeld();
     RichteSpalten();
     MerkeStrahlen();
     if (folgte != blick.Folgt())
         emit Geblickt();
-    update();
+    FordereBild();
+}
+
+void Verlaufsbild::RichteFeld() {
+    const Feldgrund grund{blatt.wahl, blatt.werte, size(), devicePixelRatioF()};
+    if (std::exchange(feldVon, grund) != grund)
+        feld = FeldFuer(blatt, QFontMetricsF(font()), size(), grund.dichte);
+}
+
+/// Has that drawn which looks otherwise than before: the columns that have changed, all that slides, or
+/// everything.
+void Verlaufsbild::FordereBild() {
+    const Gezeigtes neues{Jetziges(), feld.kurven, blatt.jetzt, blatt.hinweis};
+    Gezeigtes vorher = std::exchange(gefordert, neues);
+    const bool geschoben = std::exchange(vorher.spuren.erste, neues.spuren.erste) != neues.spuren.erste;
+    if (vorher != neues)
+        update();
+    else if (geschoben)
+        update(feld.Laufendes(size()).toAlignedRect());
+    else if (zuMalenAb != KeineSpalte)
+        update(feld.Spaltenplatz(ErsteZuMalende()).toAlignedRect());
+}
+
+/// Counted from the left edge.
+int Verlaufsbild::ErsteZuMalende() const {
+    const std::int64_t ab = zuMalenAb - blatt.ersteSpalte - Reichweite(feld.dichte);
+    return static_cast<int>(std::clamp<std::int64_t>(ab, 0, feld.Spalten()));
+}
+
+const Verlaufsfarben& Verlaufsbild::Farben() {
+    const Farbgrund grund{palette(), GetStrahlfarbsatz()};
+    if (std::exchange(farbenVon, grund) != grund) {
+        farben = VerlaufsfarbenAus(grund.palette);
+        gemaltVon = {};
+    }
+    return farben;
 }
 
 /// Columns lie where they lay before as long as their width is the same, so that they can be kept.
@@ -186,7 +223,7 @@ void Verlaufsbild::Arbeite() {
         anders |= ab.has_value();
         if (spalten.IstFertig() && notizen.Suche(quelle, PaketeJeBlick)) {
             blatt.notizen = notizen.Notizen();
-            anders = true;
+            update();
         }
     } while (!IstFertig() && DieUmgebung().Uhr() < ende);
     if (anders)
@@ -263,7 +300,9 @@ QPointF Verlaufsbild::Stelle(Zeit laufzeit, double wert) const {
 void Verlaufsbild::Lokalisiere() {
     setAccessibleName(Text(TextBild));
     gemaltVon = {};
+    feldVon.reset();
     Richte();
+    update();
     setAccessibleDescription(Zeigerworte());
     emit Angesehen();
 }
@@ -287,8 +326,10 @@ void Verlaufsbild::resizeEvent(QResizeEvent* ereignis) {
 void Verlaufsbild::changeEvent(QEvent* ereignis) {
     QWidget::changeEvent(ereignis);
     gemaltVon = {};
-    if (ereignis->type() == QEvent::FontChange)
+    if (ereignis->type() == QEvent::FontChange) {
+        feldVon.reset();
         Richte();
+    }
     update();
 }
 
@@ -304,6 +345,7 @@ Verlaufsbild::Gemaltes Verlaufsbild::Jetziges() const {
 
 /// Moves what was drawn, and draws what is new or has changed since.
 void Verlaufsbild::ErneuereGemaltes() {
+    const Verlaufsfarben& jetzigeFarben = Farben();
     Gemaltes jetziges = Jetziges();
     const std::int64_t um = jetziges.erste - gemaltVon.erste;
     gemaltVon.erste = jetziges.erste;
@@ -326,33 +368,37 @@ void Verlaufsbild::ErneuereGemaltes() {
         return;
     QPainter maler(&gemaltes);
     maler.setFont(font());
-    ZeichneSpuren(maler, spalten, sinn, blatt, feld, palette(), von);
+    ZeichneSpuren(maler, spalten, sinn, blatt, feld, jetzigeFarben, von);
 }
 
-void Verlaufsbild::paintEvent(QPaintEvent* /*ereignis*/) {
+void Verlaufsbild::paintEvent(QPaintEvent* ereignis) {
     if (sinn.size() == static_cast<std::size_t>(spalten.Anzahl()))
         ErneuereGemaltes();
+    const QRect platz = ereignis->rect();
     QPainter maler(this);
-    maler.fillRect(rect(), palette().color(QPalette::Base));
-    maler.drawPixmap(QRectF(feld.kurven.topLeft(), QSizeF(gemaltes.size()) / feld.dichte), gemaltes,
-                     QRectF(gemaltes.rect()));
-    const Verlaufszeichner zeichner(maler, blatt, feld, palette());
-    zeichner.ZeichneRahmen();
+    maler.fillRect(platz, palette().color(QPalette::Base));
+    maler.save();
+    maler.scale(1 / feld.dichte, 1 / feld.dichte); // pixel by pixel, it is copied fast
+    maler.drawPixmap(feld.kurven.topLeft() * feld.dichte, gemaltes);
+    maler.restore();
+    const Verlaufszeichner zeichner(maler, blatt, feld, Farben());
+    zeichner.ZeichneRahmen(platz);
     zeichner.ZeichneDarueber();
 }
 
-void Verlaufsbild::Male(QPainter& maler, const QPalette& farben) {
+void Verlaufsbild::Male(QPainter& maler, const QPalette& vorbild) {
+    const Verlaufsfarben seine = VerlaufsfarbenAus(vorbild);
     QFont schrift = font(); // as high as on the screen, whatever the resolution of the device
     schrift.setPixelSize(QFontInfo(font()).pixelSize());
     maler.setFont(schrift);
-    maler.fillRect(rect(), farben.color(QPalette::Base));
+    maler.fillRect(rect(), vorbild.color(QPalette::Base));
     maler.save();
     maler.translate(feld.kurven.topLeft());
     maler.scale(1 / feld.dichte, 1 / feld.dichte);
-    ZeichneSpuren(maler, spalten, sinn, blatt, feld, farben, 0);
+    ZeichneSpuren(maler, spalten, sinn, blatt, feld, seine, 0);
     maler.restore();
-    const Verlaufszeichner zeichner(maler, blatt, feld, farben);
-    zeichner.ZeichneRahmen();
+    const Verlaufszeichner zeichner(maler, blatt, feld, seine);
+    zeichner.ZeichneRahmen(rect());
     zeichner.ZeichneDarueber();
 }
 

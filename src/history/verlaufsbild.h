@@ -1,5 +1,6 @@
 #pragma once
 
+#include "darstellung.h"
 #include "messanbieter.h"
 #include "notizliste.h"
 #include "verlaufszeichner.h"
@@ -59,7 +60,7 @@ public:
     QPointF Stelle(Zeit laufzeit, double wert) const;
 
     /// Draws all of it as it is, in the colours of a palette, on whatever has its size.
-    void Male(QPainter& maler, const QPalette& farben);
+    void Male(QPainter& maler, const QPalette& vorbild);
     /// Fills all texts in the current language again.
     void Lokalisiere();
 
@@ -101,7 +102,39 @@ private:
         bool operator==(const Gemaltes&) const = default;
     };
 
+    /// What a picture shows, apart from what is set by hand.
+    struct Gezeigtes {
+        Gemaltes spuren{};
+        QRectF kurven{};
+        std::optional<Zeit> jetzt{};
+        QString hinweis{};
+
+        bool operator==(const Gezeigtes&) const = default;
+    };
+
+    /// What the layout was made of.
+    struct Feldgrund {
+        Verlaufswahl wahl{};
+        Wertebereich werte{};
+        QSize groesse{};
+        double dichte = 1;
+
+        bool operator==(const Feldgrund&) const = default;
+    };
+
+    /// What the colours were made of.
+    struct Farbgrund {
+        QPalette palette{};
+        Strahlfarbsatz satz{};
+
+        bool operator==(const Farbgrund&) const = default;
+    };
+
     void Richte();
+    void RichteFeld();
+    void FordereBild();
+    int ErsteZuMalende() const;
+    const Verlaufsfarben& Farben();
     void RichteSpalten();
     Wertebereich GanzeWerte() const;
     void MerkeStrahlen();
@@ -123,10 +156,14 @@ private:
     Notizliste notizen;
     Verlaufsblatt blatt;
     Verlaufsfeld feld;
+    std::optional<Feldgrund> feldVon;
+    Verlaufsfarben farben;
+    std::optional<Farbgrund> farbenVon;
     std::array<int, AnzahlOptikteile> strahlen{}; ///< the most that were seen
     std::optional<Messdurchgang> amZeiger, anMarkeA, anMarkeB;
     QPixmap gemaltes;
     Gemaltes gemaltVon;
+    Gezeigtes gefordert;                    ///< what the last picture was asked for of
     std::int64_t geaendertAb = KeineSpalte; ///< columns from here on have changed
     std::int64_t zuMalenAb = KeineSpalte;   ///< and from here on they are not drawn yet
     std::optional<QPointF> gedrueckt;

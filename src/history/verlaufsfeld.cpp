@@ -23,8 +23,21 @@ int Verlaufsfeld::Kurvenhoehe() const {
 }
 
 int Verlaufsfeld::Hoehe() const {
-    const double unten = zeilen.isEmpty() ? kurven.bottom() : zeilen.bottom();
-    return std::max(1, static_cast<int>(std::lround((unten - kurven.top()) * dichte)));
+    return std::max(1, static_cast<int>(std::lround((UnterkanteDerSpuren() - kurven.top()) * dichte)));
+}
+
+double Verlaufsfeld::UnterkanteDerSpuren() const {
+    return zeilen.isEmpty() ? kurven.bottom() : zeilen.bottom();
+}
+
+QRectF Verlaufsfeld::Laufendes(QSizeF groesse) const {
+    const QPointF ecke(kurven.left() - Randluft, kurven.top() - zeile - Abstand);
+    return {ecke, QPointF(groesse.width(), groesse.height())};
+}
+
+QRectF Verlaufsfeld::Spaltenplatz(int von) const {
+    const double links = kurven.left() + von / dichte;
+    return {links, kurven.top(), kurven.right() + Randluft - links, UnterkanteDerSpuren() - kurven.top()};
 }
 
 Zeit Verlaufsfeld::ZeitBei(double x, Zeitspanne spanne) const {
@@ -57,6 +70,7 @@ Verlaufsfeld FeldFuer(const Feldangaben& angaben, const QFontMetricsF& masse) {
     const double hoehe = std::max(1.0, angaben.groesse.height() - oben - unten);
     Verlaufsfeld feld;
     feld.dichte = angaben.dichte;
+    feld.zeile = zeile;
     double zeilenhoehe = 0;
     if (angaben.zeilen > 0)
         feld.zeilenhoehe =

@@ -1,7 +1,6 @@
 #include "verlaufszeichner.h"
 
 #include "achse.h"
-#include "kurvenstil.h"
 #include "strahlfarben.h"
 #include "texte.h"
 #include "zeitworte.h"
@@ -161,8 +160,9 @@ QString Wertachsenname(const Verlaufswahl& wahl) {
 }
 
 void ZeichneSpuren(QPainter& maler, const Spaltenspeicher& spalten, const std::vector<Spaltensinn>& sinn,
-                   const Verlaufsblatt& blatt, const Verlaufsfeld& feld, const QPalette& palette, int von) {
-    const Kurvenfarben farben = KurvenfarbenAus(palette);
+                   const Verlaufsblatt& blatt, const Verlaufsfeld& feld, const Verlaufsfarben& alle,
+                   int von) {
+    const Kurvenfarben& farben = alle.rahmen;
     const Spurfeld spur{.spalten = spalten,
                         .sinn = sinn,
                         .erste = blatt.ersteSpalte,
@@ -179,38 +179,38 @@ void ZeichneSpuren(QPainter& maler, const Spaltenspeicher& spalten, const std::v
     ZeichneZeilen(maler, spur, blatt, feld, farben, von);
     maler.setClipRect(von, 0, spur.breite - von, spur.hoehe);
     for (const Messreihe reihe : blatt.wahl.band ? blatt.wahl.Reihen() : std::vector<Messreihe>()) {
-        QColor farbe = FarbeDerReihe(palette, reihe);
+        QColor farbe = alle.Reihe(reihe);
         farbe.setAlpha(BandDeckung);
         Fuelle(maler, Bandspur(spur, blatt.wahl, blatt.abstaende, reihe, von), farbe);
     }
     // What begins before and reaches over is cut off, not left out.
     const int ab = std::max(0, von - Reichweite(feld.dichte));
     for (const Messreihe reihe : blatt.wahl.Reihen()) {
-        Fuelle(maler, Kurvenspur(spur, blatt.wahl, blatt.abstaende, reihe, ab),
-               FarbeDerReihe(palette, reihe));
+        Fuelle(maler, Kurvenspur(spur, blatt.wahl, blatt.abstaende, reihe, ab), alle.Reihe(reihe));
         for (const QPoint& ort : Zeichenspur(spur, blatt.wahl, blatt.abstaende, reihe, ab))
-            ZeichneZeichen(maler, ort, reihe, feld.dichte, palette);
+            ZeichneZeichen(maler, ort, reihe, feld.dichte, alle);
     }
     maler.setClipping(false);
 }
 
 Verlaufszeichner::Verlaufszeichner(QPainter& flaeche, const Verlaufsblatt& dasBlatt,
-                                   const Verlaufsfeld& dasFeld, const QPalette& diePalette)
-    : maler(flaeche), blatt(dasBlatt), feld(dasFeld), palette(diePalette),
-      farben(KurvenfarbenAus(diePalette)), masse(flaeche.font()) {}
+                                   const Verlaufsfeld& dasFeld, const Verlaufsfarben& dieFarben)
+    : maler(flaeche), blatt(dasBlatt), feld(dasFeld), alleFarben(dieFarben), farben(dieFarben.rahmen),
+      masse(flaeche.font()) {}
 
-double Verlaufszeichner::UnterkanteDerSpuren() const {
-    return feld.zeilen.isEmpty() ? feld.kurven.bottom() : feld.zeilen.bottom();
+void Verlaufszeichner::ZeichneRahmen(const QRectF& platz) const {
+    if (platz.left() < feld.kurven.left() - Abstand) {
+        ZeichneWertzahlen();
+        ZeichneZeilennamen();
+    }
+    ZeichneAchsen();
+    if (platz.bottom() > feld.UnterkanteDerSpuren() + Randluft)
+        ZeichneZeitachse();
+    if (platz.top() < feld.Laufendes(QSizeF()).top() - Randluft)
+        ZeichneLegende();
 }
 
-void Verlaufszeichner::ZeichneRahmen() const {
-    ZeichneWertachse();
-    ZeichneZeitachse();
-    ZeichneZeilennamen();
-    ZeichneLegende();
-}
-
-void Verlaufszeichner::ZeichneWertachse() const {
+void Verlaufszeichner::ZeichneWertzahlen() const {
     const double rechts = feld.kurven.left() - Abstand;
     const auto schreibe = [&](double mitte, const QString& text) {
         maler.drawText(QPointF(rechts - masse.horizontalAdvance(text), mitte + masse.capHeight() / 2), text);
@@ -219,17 +219,21 @@ void Verlaufszeichner::ZeichneWertachse() const {
     schreibe(feld.kurven.top() - masse.height() / 2 - Abstand, Wertachsenname(blatt.wahl));
     for (const double wert : Wertstriche(blatt, feld.kurven.height(), masse))
         schreibe(feld.YBei(wert, blatt.werte), Zahl(wert));
+}
+
+void Verlaufszeichner::ZeichneAchsen() const {
     maler.fillRect(QRectF(feld.kurven.left() - 1, feld.kurven.top(), 1, feld.kurven.height()), farben.achsen);
     maler.fillRect(QRectF(feld.kurven.left(), feld.kurven.bottom(), feld.kurven.width(), 1), farben.achsen);
 }
 
 void Verlaufszeichner::ZeichneZeitachse() const {
-    const double grund = UnterkanteDerSpuren() + Abstand + masse.ascent();
+    const double grund = feld.UnterkanteDerSpuren() + Abstand + masse.ascent();
     maler.setPen(farben.schrift);
     for (const Zeitstrich& zeit : Zeitstriche(blatt.angaben, blatt.spanne, Zeitabstand(blatt, feld, masse))) {
         const double breite = masse.horizontalAdvance(Q(zeit.text));
-        const double x = std::clamp(feld.XBei(zeit.laufzeit, blatt.spanne) - breite / 2,
-                                    feld.kurven.left() - Abstand, feld.kurven.right() + 2 * Abstand - breite);
+        const double x =
+            std::clamp(feld.XBei(zeit.laufzeit, blatt.spanne) - breite / 2, feld.kurven.left() - Randluft,
+                       feld.kurven.right() + 2 * Abstand - breite);
         maler.drawText(QPointF(x, grund), Q(zeit.text));
     }
     const QString datum = Q(Datumsworte(blatt.angaben, blatt.spanne.von));
@@ -262,7 +266,7 @@ void Verlaufszeichner::ZeichneZeilennamen() const {
 
 void Verlaufszeichner::ZeichneLegende() const {
     for (const auto& [reihe, name, stelle] : Legende(blatt, masse, feld.kurven.left(), feld.kurven.width())) {
-        ZeichneMuster(maler, QRectF(stelle, QSizeF(Musterlaenge, masse.height())), reihe, palette);
+        ZeichneMuster(maler, QRectF(stelle, QSizeF(Musterlaenge, masse.height())), reihe, alleFarben);
         maler.setPen(farben.schrift);
         maler.drawText(stelle + QPointF(Musterlaenge + Abstand, masse.ascent()), name);
     }
@@ -318,7 +322,7 @@ void Verlaufszeichner::ZeichneSenkrechte(Zeit zeit, const QColor& farbe, Qt::Pen
     if (x < feld.kurven.left() - 1 || x > feld.kurven.right() + 1)
         return;
     maler.setPen(QPen(farbe, 1, stil, Qt::FlatCap));
-    maler.drawLine(QPointF(x, feld.kurven.top()), QPointF(x, UnterkanteDerSpuren()));
+    maler.drawLine(QPointF(x, feld.kurven.top()), QPointF(x, feld.UnterkanteDerSpuren()));
     if (name.isEmpty())
         return;
     const QRectF schild(x + 1, feld.kurven.top(), masse.horizontalAdvance(name) + Abstand, masse.height());

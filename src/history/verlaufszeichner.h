@@ -1,7 +1,7 @@
 #pragma once
 
-#include "kurvenfarben.h"
 #include "kurvenspur.h"
+#include "kurvenstil.h"
 #include "verlaufsfeld.h"
 #include "zeitachse.h"
 
@@ -43,32 +43,34 @@ int Reichweite(double dichte);
 /// Draws curves, bands, rows and gaps from column `von` on into a picture of device pixels, whose upper left
 /// corner is that of the field of the curves. What was drawn there before is replaced.
 void ZeichneSpuren(QPainter& maler, const Spaltenspeicher& spalten, const std::vector<Spaltensinn>& sinn,
-                   const Verlaufsblatt& blatt, const Verlaufsfeld& feld, const QPalette& palette, int von);
+                   const Verlaufsblatt& blatt, const Verlaufsfeld& feld, const Verlaufsfarben& farben,
+                   int von);
 
 /// Draws everything around the curves, and what lies over them: axes, legend, notes, marks, cursor.
 class Verlaufszeichner {
 public:
     Verlaufszeichner(QPainter& maler, const Verlaufsblatt& blatt, const Verlaufsfeld& feld,
-                     const QPalette& palette);
+                     const Verlaufsfarben& farben);
 
-    void ZeichneRahmen() const;
+    /// What of it lies in a rectangle, at least.
+    void ZeichneRahmen(const QRectF& platz) const;
     void ZeichneDarueber() const;
 
 private:
-    void ZeichneWertachse() const;
+    void ZeichneWertzahlen() const;
+    void ZeichneAchsen() const;
     void ZeichneZeitachse() const;
     void ZeichneZeilennamen() const;
     void ZeichneLegende() const;
     void ZeichneNotizen() const;
     void ZeichneFahne(double x, double rechts, const QString& text) const;
     void ZeichneSenkrechte(Zeit zeit, const QColor& farbe, Qt::PenStyle stil, const QString& name) const;
-    double UnterkanteDerSpuren() const;
 
     QPainter& maler;
     const Verlaufsblatt& blatt;
     const Verlaufsfeld& feld;
-    const QPalette& palette;
-    Kurvenfarben farben;
+    const Verlaufsfarben& alleFarben;
+    const Kurvenfarben& farben;
     QFontMetricsF masse;
 };
 

@@ -13,6 +13,7 @@ namespace {
 constexpr std::int16_t TextAlle = 9011;
 constexpr std::int16_t TextAlleZeigen = 9012;
 constexpr int SchmalerKnopf = 18;
+constexpr int Abstand = 3;
 
 } // namespace
 
@@ -26,7 +27,7 @@ Zoomkopf::Zoomkopf(BeamBarControl& strahlbalken) : QWidget(&strahlbalken), balke
     cmdAlleStrahlen.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     auto* reihe = new QHBoxLayout(this);
     reihe->setContentsMargins({});
-    reihe->setSpacing(3);
+    reihe->setSpacing(Abstand);
     reihe->addWidget(&lblAusschnitt, 1);
     reihe->addWidget(&cmdAlleStrahlen);
     balken.installEventFilter(this);
@@ -49,7 +50,7 @@ bool Zoomkopf::eventFilter(QObject* ziel, QEvent* ereignis) {
 }
 
 bool Zoomkopf::HatPlatz(const QString& text) const {
-    const int platz = width() - cmdAlleStrahlen.sizeHint().width() - layout()->spacing();
+    const int platz = width() - cmdAlleStrahlen.sizeHint().width() - Abstand;
     return lblAusschnitt.fontMetrics().horizontalAdvance(text) <= platz;
 }
 
@@ -67,6 +68,7 @@ void Zoomkopf::ZeigeAusschnitt() {
     if (eng)
         cmdAlleStrahlen.setText(QStringLiteral("↕"));
     cmdAlleStrahlen.setMaximumWidth(eng ? SchmalerKnopf : QWIDGETSIZE_MAX);
+    layout()->setSpacing(eng ? 0 : Abstand);
     lblAusschnitt.setText(HatPlatz(ganz) ? ganz : kurz);
     lblAusschnitt.setAccessibleName(ganz);
     lblAusschnitt.setToolTip(ganz);

@@ -9,6 +9,11 @@ namespace varnoth {
 /// The three streams of a program without windows.
 enum class Strom { Eingabe, Ausgabe, Fehler };
 
+/// Lets a program with windows write into the terminal that it was called from, which Windows keeps from it:
+/// output that leads nowhere goes there from now on, and begins in a line of its own. What was redirected
+/// stays so, and nothing happens where there is no such terminal. On Linux it has it from the start.
+void NimmTerminalDesAufrufers();
+
 /// Whether a person sits at the other end.
 bool IstTerminal(Strom strom);
 

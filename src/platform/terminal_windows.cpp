@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 
 namespace varnoth {
@@ -14,6 +15,7 @@ namespace varnoth {
 namespace {
 
 constexpr std::size_t LaengsteZeile = 4096;
+constexpr std::array<DWORD, 2> Ausgaben{STD_OUTPUT_HANDLE, STD_ERROR_HANDLE};
 
 HANDLE GriffVon(Strom strom) {
     switch (strom) {
@@ -25,6 +27,23 @@ HANDLE GriffVon(Strom strom) {
         break;
     }
     return ::GetStdHandle(STD_ERROR_HANDLE);
+}
+
+bool FuehrtWohin(HANDLE griff) {
+    return griff != nullptr && griff != INVALID_HANDLE_VALUE && ::GetFileType(griff) != FILE_TYPE_UNKNOWN;
+}
+
+HANDLE OeffneKonsole() {
+    return ::CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                         nullptr, OPEN_EXISTING, 0, nullptr);
+}
+
+/// The shell does not wait for a program with windows: its next prompt may stand there already.
+void BeginneZeile(HANDLE konsole) {
+    CONSOLE_SCREEN_BUFFER_INFO stand{};
+    DWORD geschrieben = 0;
+    if (::GetConsoleScreenBufferInfo(konsole, &stand) != 0 && stand.dwCursorPosition.X > 0)
+        ::WriteConsoleW(konsole, L"\r\n", 2, &geschrieben, nullptr);
 }
 
 /// How many of the first bytes are whole characters, at most so many bytes.
@@ -89,6 +108,18 @@ std::optional<std::string> LiesDateizeile(HANDLE datei) {
 }
 
 } // namespace
+
+void NimmTerminalDesAufrufers() {
+    // Attaching may replace what was redirected.
+    std::array<HANDLE, Ausgaben.size()> griffe{};
+    std::ranges::transform(Ausgaben, griffe.begin(), ::GetStdHandle);
+    if (std::ranges::all_of(griffe, FuehrtWohin) || ::AttachConsole(ATTACH_PARENT_PROCESS) == 0)
+        return;
+    const HANDLE konsole = OeffneKonsole();
+    BeginneZeile(konsole);
+    for (std::size_t i = 0; i < Ausgaben.size(); ++i)
+        ::SetStdHandle(Ausgaben[i], FuehrtWohin(griffe[i]) ? griffe[i] : konsole);
+}
 
 bool IstTerminal(Strom strom) {
     DWORD art = 0;

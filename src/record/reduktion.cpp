@@ -1,5 +1,7 @@
 #include "reduktion.h"
 
+#include "uebersicht.h"
+
 #include <algorithm>
 #include <memory>
 
@@ -7,8 +9,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr std::size_t ErstesMinimum = AnzahlKurvenwerte;
-constexpr std::size_t ErstesMaximum = 2 * AnzahlKurvenwerte;
 // More packets than this are never read for one picture: the overview has to do.
 constexpr std::uint64_t MeistePakete = 4000;
 
@@ -17,72 +17,7 @@ bool IstVerbindungsereignis(Messereignisart art) {
     return art == LiveBegonnen || art == LiveBeendet || art == Verloren || art == Zurueck;
 }
 
-void NimmTeil(Teilspalte& ziel, const Uebersicht& uebersicht, std::size_t i, int teil) {
-    if (uebersicht.Durchgaenge(i, teil) == 0)
-        return;
-    ziel.gemessen = true;
-    ziel.status.Nimm(uebersicht.Status(i, teil));
-    ziel.strahlen = std::max(ziel.strahlen, static_cast<std::int16_t>(uebersicht.Strahlen(i, teil)));
-    const std::span<const Wertspanne> werte = uebersicht.Werte(i, teil);
-    for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
-        ziel.aktuell[k].Nimm(werte[k]);
-        ziel.band[k].Nimm(werte[ErstesMinimum + k]);
-        ziel.band[k].Nimm(werte[ErstesMaximum + k]);
-    }
-}
-
-/// Takes a stretch of the overview into a column: thousands of them for a picture, so nothing is copied.
-void NimmAbschnitt(Messspalte& ziel, const Uebersicht& uebersicht, std::size_t i, unsigned teile) {
-    const Bitspanne geraetestatus = uebersicht.Geraetestatus(i);
-    ziel.geraetestatus.Nimm(geraetestatus);
-    ziel.durchgang |= geraetestatus != Bitspanne{};
-    ziel.luecke |= uebersicht.HatLuecke(i);
-    for (int teil = 0; teil < AnzahlOptikteile; ++teil)
-        if ((teile >> static_cast<unsigned>(teil) & 1U) != 0)
-            NimmTeil(ziel.teile[static_cast<std::size_t>(teil)], uebersicht, i, teil);
-}
-
 } // namespace
-
-void Teilspalte::Nimm(const Teilmessung& messung) {
-    if (!messung.gemessen)
-        return;
-    gemessen = true;
-    status.Nimm(messung.status);
-    strahlen = std::max(strahlen, messung.strahlen);
-    for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
-        aktuell[k].Nimm(messung.werte[k]);
-        band[k].Nimm(messung.werte[ErstesMinimum + k]);
-        band[k].Nimm(messung.werte[ErstesMaximum + k]);
-    }
-}
-
-void Teilspalte::Nimm(const Teilspalte& andere) {
-    gemessen |= andere.gemessen;
-    strahlen = std::max(strahlen, andere.strahlen);
-    status.Nimm(andere.status);
-    for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
-        aktuell[k].Nimm(andere.aktuell[k]);
-        band[k].Nimm(andere.band[k]);
-    }
-}
-
-void Messspalte::Nimm(const Messdurchgang& neuer, unsigned gewaehlte) {
-    durchgang = true;
-    geraetestatus.Nimm(neuer.geraetestatus);
-    for (std::size_t teil = 0; teil < teile.size(); ++teil)
-        if ((gewaehlte >> teil & 1U) != 0)
-            teile[teil].Nimm(neuer.teile[teil]);
-}
-
-void Messspalte::Nimm(const Messspalte& andere) {
-    durchgang |= andere.durchgang;
-    luecke |= andere.luecke;
-    geraetestatus.Nimm(andere.geraetestatus);
-    for (std::size_t teil = 0; teil < teile.size(); ++teil)
-        if (andere.teile[teil].gemessen)
-            teile[teil].Nimm(andere.teile[teil]);
-}
 
 void Spaltenspeicher::Beginne(Zeit neueBreite, unsigned neueTeile) {
     breite = std::max(neueBreite, Zeit(1));
@@ -169,16 +104,11 @@ std::int64_t Spaltenspeicher::FuelleGrob(const Messquelle& quelle) {
 
 /// Takes in what the overview knows of the columns from `von` up to before `bis`.
 void Spaltenspeicher::NimmAbschnitte(const Uebersicht& uebersicht, std::int64_t von, std::int64_t bis) {
-    const std::size_t anzahl = uebersicht.Anzahl();
-    for (std::size_t i = anzahl == 0 ? 0 : uebersicht.AbschnittUm(Beginn(von)); i < anzahl; ++i) {
-        const Zeitspanne spanne = uebersicht.Spanne(i);
-        const std::int64_t erste = std::max(von, NummerUm(spanne.von));
-        const std::int64_t letzte = std::min(bis - 1, NummerUm(spanne.bis));
-        if (erste >= bis)
-            break;
-        for (std::int64_t nummer = erste; nummer <= letzte; ++nummer)
-            NimmAbschnitt(An(nummer).spalte, uebersicht, i, teile);
-    }
+    uebersicht.Trage({.breite = breite,
+                      .von = von,
+                      .bis = bis,
+                      .teile = teile,
+                      .hole = [this](std::int64_t nummer) -> Messspalte& { return An(nummer).spalte; }});
 }
 
 /// Columns as wide as two stretches of the overview gain nothing from the passes themselves.

@@ -77,10 +77,13 @@ void Uebersicht::NimmLuecke() {
 }
 
 void Uebersicht::VergissBis(Zeit laufzeit) {
-    while (!abschnitte.empty() && Spanne(0).bis < laufzeit) {
+    for (; !abschnitte.empty() && Spanne(0).bis < laufzeit; ++vergessene) {
+        if (abschnitte.size() == 1)
+            Schliesse(abschnitte.front());
         belegt -= Bytes(abschnitte.front());
         abschnitte.pop_front();
     }
+    bloecke.Vergiss(vergessene);
 }
 
 std::size_t Uebersicht::Anzahl() const {
@@ -135,9 +138,55 @@ std::span<const std::uint16_t> Uebersicht::UnterbrochenImmer(std::size_t i, int 
     return std::span(alle).last(alle.size() / 2);
 }
 
+/// What a column sees of a stretch.
+void Uebersicht::Nimm(Messspalte& ziel, const Abschnitt& abschnitt, unsigned teile) {
+    ziel.geraetestatus.Nimm(abschnitt.geraetestatus);
+    ziel.durchgang |= abschnitt.geraetestatus != Bitspanne{};
+    ziel.luecke |= abschnitt.luecke;
+    for (std::size_t teil = 0; teil < abschnitt.teile.size(); ++teil) {
+        const Teilabschnitt& gesehenes = abschnitt.teile[teil];
+        if ((teile >> teil & 1U) == 0 || gesehenes.durchgaenge == 0)
+            continue;
+        Teilspalte& seines = ziel.teile[teil];
+        seines.gemessen = true;
+        seines.status.Nimm(gesehenes.status);
+        seines.strahlen = std::max(seines.strahlen, gesehenes.strahlen);
+        for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
+            seines.aktuell[k].Nimm(gesehenes.werte[k]);
+            seines.band[k].Nimm(gesehenes.werte[ErstesMinimum + k]);
+            seines.band[k].Nimm(gesehenes.werte[ErstesMaximum + k]);
+        }
+    }
+}
+
+/// What lies in one column comes from a block where there is one; the stretches in it are not even looked at.
+void Uebersicht::Trage(const Spalten& spalten) const {
+    const auto spalteUm = [&](Zeit zeit) { return zeit / spalten.breite; };
+    const auto liegtInEiner = [&](const Abschnittsbloecke::Block& block) {
+        const std::int64_t spalte = spalteUm(laenge * block.erster);
+        return spalte >= spalten.von && laenge * (block.letzter + 1) <= spalten.breite * (spalte + 1);
+    };
+    for (std::size_t i = AbschnittUm(spalten.breite * spalten.von); i < abschnitte.size();) {
+        const auto* const block = bloecke.Ab(vergessene + i, liegtInEiner);
+        const Zeit beginn = laenge * (block != nullptr ? block->erster : abschnitte[i].nummer);
+        const std::int64_t erste = spalteUm(beginn);
+        if (erste >= spalten.bis)
+            break;
+        if (block != nullptr) {
+            spalten.hole(erste).Nimm(block->inhalt, spalten.teile);
+            i += block->anzahl;
+            continue;
+        }
+        const std::int64_t letzte = spalteUm(beginn + laenge - Zeit(1));
+        for (auto n = std::max(erste, spalten.von); n <= std::min(letzte, spalten.bis - 1); ++n)
+            Nimm(spalten.hole(n), abschnitte[i], spalten.teile);
+        ++i;
+    }
+}
+
 std::size_t Uebersicht::Bytes(const Abschnitt& abschnitt) {
     constexpr std::size_t jeBlock = 16; // what the system keeps beside each block of memory
-    std::size_t bytes = sizeof abschnitt;
+    std::size_t bytes = sizeof abschnitt + Abschnittsbloecke::BytesJeAbschnitt;
     for (const Teilabschnitt& teil : abschnitt.teile)
         if (!teil.unterbrochen.empty())
             bytes += teil.unterbrochen.capacity() * sizeof(std::uint16_t) + jeBlock;
@@ -198,10 +247,19 @@ const Uebersicht::Teilabschnitt& Uebersicht::Teil(std::size_t i, int teil) const
 Uebersicht::Abschnitt& Uebersicht::AbschnittFuer(Zeit laufzeit) {
     const std::int64_t nummer = laufzeit / laenge;
     if (abschnitte.empty() || abschnitte.back().nummer < nummer) {
+        if (!abschnitte.empty())
+            Schliesse(abschnitte.back());
         abschnitte.push_back({.nummer = nummer});
         belegt += Bytes(abschnitte.back());
     }
     return abschnitte.back();
+}
+
+/// Nothing more comes into it.
+void Uebersicht::Schliesse(const Abschnitt& abschnitt) {
+    Messspalte inhalt;
+    Nimm(inhalt, abschnitt, ~0U);
+    bloecke.Nimm(abschnitt.nummer, inhalt);
 }
 
 /// The last stretch has a gap, and so has the next.
@@ -228,9 +286,14 @@ void Uebersicht::Verdopple() {
             Nimm(ziel.teile[teil], alter.teile[teil]);
     }
     abschnitte = std::move(neue);
+    bloecke = {};
+    vergessene = 0;
     belegt = 0;
-    for (const Abschnitt& abschnitt : abschnitte)
+    for (const Abschnitt& abschnitt : abschnitte) {
         belegt += Bytes(abschnitt);
+        if (&abschnitt != &abschnitte.back())
+            Schliesse(abschnitt);
+    }
 }
 
 } // namespace varnoth

@@ -1,43 +1,18 @@
 #pragma once
 
+#include "abschnittsbloecke.h"
 #include "messquelle.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace varnoth {
-
-/// The smallest and the greatest of some values; none while `kleinster` is above `groesster`.
-struct Wertspanne {
-    std::uint16_t kleinster = 0xFFFF;
-    std::uint16_t groesster = 0;
-
-    bool IstLeer() const { return kleinster > groesster; }
-    void Nimm(std::uint16_t wert) {
-        kleinster = kleinster < wert ? kleinster : wert;
-        groesster = groesster > wert ? groesster : wert;
-    }
-    void Nimm(const Wertspanne& andere) {
-        kleinster = kleinster < andere.kleinster ? kleinster : andere.kleinster;
-        groesster = groesster > andere.groesster ? groesster : andere.groesster;
-    }
-    bool operator==(const Wertspanne&) const = default;
-};
-
-/// Bits that were 1 at least once, and those that were never 0.
-struct Bitspanne {
-    std::uint16_t einmal = 0;
-    std::uint16_t immer = 0xFFFF;
-
-    void Nimm(std::uint16_t wert) { einmal |= wert, immer &= wert; }
-    void Nimm(const Bitspanne& andere) { einmal |= andere.einmal, immer &= andere.immer; }
-    bool operator==(const Bitspanne&) const = default;
-};
 
 /// The whole of a source in stretches of time, each with what was seen in it at least once and always: enough
 /// to draw all of it at once. A stretch is a second at first; where nothing was measured there is none. There
@@ -83,6 +58,17 @@ public:
     /// Interrupted in every pass.
     std::span<const std::uint16_t> UnterbrochenImmer(std::size_t i, int teil) const;
 
+    /// Columns of time, each as wide: column n reaches from n times the width to the next.
+    struct Spalten {
+        Zeit breite{1};
+        std::int64_t von = 0;
+        std::int64_t bis = 0; ///< the column behind the last one
+        unsigned teile = ~0U; ///< of which parts values are wanted, a bit each
+        std::function<Messspalte&(std::int64_t nummer)> hole;
+    };
+    /// Adds to each column what was seen in all stretches that reach into it.
+    void Trage(const Spalten& spalten) const;
+
 private:
     struct Teilabschnitt {
         std::uint32_t durchgaenge = 0;
@@ -99,11 +85,13 @@ private:
     };
 
     static std::size_t Bytes(const Abschnitt& abschnitt);
+    static void Nimm(Messspalte& ziel, const Abschnitt& abschnitt, unsigned teile);
     static void Nimm(Teilabschnitt& ziel, const Teilmessung& messung);
     static void Nimm(Teilabschnitt& ziel, const Teilabschnitt& spaeterer);
     static void Erweitere(Teilabschnitt& ziel, std::size_t anzahl);
     const Teilabschnitt& Teil(std::size_t i, int teil) const;
     Abschnitt& AbschnittFuer(Zeit laufzeit);
+    void Schliesse(const Abschnitt& abschnitt);
     void Unterbrich();
     void Verdopple();
 
@@ -111,8 +99,10 @@ private:
     std::size_t belegt = 0;
     Zeit laenge = std::chrono::seconds(1);
     std::deque<Abschnitt> abschnitte;
-    std::optional<Zeit> letzter; ///< when the last pass ended
-    bool unterbrochen = false;   ///< since then
+    Abschnittsbloecke bloecke;    ///< of all stretches but the last one, which may still grow
+    std::uint64_t vergessene = 0; ///< stretches that were before the first one
+    std::optional<Zeit> letzter;  ///< when the last pass ended
+    bool unterbrochen = false;    ///< since then
 };
 
 } // namespace varnoth

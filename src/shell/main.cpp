@@ -1,13 +1,12 @@
 #include "anwendung.h"
 #include "kommandozeile.h"
 #include "systemdarstellung.h"
+#include "terminal.h"
 #include "texte.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
-
-#include <cstdio>
 
 namespace {
 
@@ -25,8 +24,8 @@ std::optional<QString> AuskunftImTerminal(int anzahl, char** worte) {
 
 int main(int argc, char** argv) {
     if (const auto auskunft = AuskunftImTerminal(argc, argv)) {
-        std::fputs(auskunft->toUtf8().constData(), stdout);
-        return std::fflush(stdout) == 0 ? 0 : 1;
+        varnoth::NimmTerminalDesAufrufers();
+        return varnoth::SchreibeInStrom(varnoth::Strom::Ausgabe, auskunft->toStdString()) == 0 ? 0 : 1;
     }
     varnoth::FolgeImRahmenDemSystem();
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

@@ -5,6 +5,7 @@
 #include "polling.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "terminal.h"
 #include "transaktionen.h"
 #include "zeichensatz.h"
 
@@ -12,8 +13,6 @@
 #include <QMdiSubWindow>
 #include <QPixmap>
 #include <QTextStream>
-
-#include <cstdio>
 
 namespace varnoth {
 
@@ -73,6 +72,7 @@ void BerichteMesswerte(QTextStream& aus, int optikteil) {
 
 Selbsttest::Selbsttest(Fensterumgebung& fensterumgebung, const QString& ordner)
     : umgebung(fensterumgebung), bildordner(ordner) {
+    NimmTerminalDesAufrufers();
     umgebung.SetzeMeldungsweg([this](const Meldung& meldung) {
         Scheitere(Text(meldung.text));
         return meldung.knoepfe == Knoepfe::Ok ? Antwort::Ok : Antwort::Abbrechen;
@@ -123,7 +123,8 @@ void Selbsttest::Berichte() {
         Scheitere(QStringLiteral("the picture %1 cannot be written").arg(bild));
         return;
     }
-    QTextStream aus(stdout);
+    QString bericht;
+    QTextStream aus(&bericht);
     BerichteIdentifikation(aus);
     BerichteKonfiguration(aus);
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
@@ -131,12 +132,13 @@ void Selbsttest::Berichte() {
             BerichteMesswerte(aus, teil);
     aus << "passes: " << modPolling::GetDurchgaenge() << " in " << seitLiveDaten.elapsed() << " ms\n";
     aus << "picture: " << bild << "\n";
+    SchreibeInStrom(Strom::Ausgabe, bericht.toStdString());
     gelungen = true;
     Beende();
 }
 
 void Selbsttest::Scheitere(const QString& grund) {
-    QTextStream(stderr) << "failed: " << grund << "\n";
+    SchreibeInStrom(Strom::Fehler, "failed: " + grund.toStdString() + "\n");
     Beende();
 }
 

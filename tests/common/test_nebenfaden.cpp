@@ -1,17 +1,18 @@
 #include "nebenfaden.h"
 
+#include "schranke.h"
+
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <memory>
-#include <semaphore>
 
 namespace varnoth {
 
 using namespace std::chrono_literals;
 
 TEST(Nebenfaden, Its_end_is_waited_for_no_longer_than_allowed) {
-    std::binary_semaphore tor(0);
+    pruefung::Schranke tor(0);
     Nebenfaden faden([&] { tor.acquire(); });
     EXPECT_FALSE(faden.WarteAufEnde(1ms));
     tor.release();
@@ -32,8 +33,8 @@ TEST(Nebenfaden, Its_destruction_waits_for_the_work) {
 
 TEST(Nebenfaden, Once_left_behind_it_holds_up_nobody_and_still_does_its_work) {
     struct Gemeinsames {
-        std::binary_semaphore tor{0};
-        std::binary_semaphore getan{0};
+        pruefung::Schranke tor{0};
+        pruefung::Schranke getan{0};
     };
     const auto gemeinsames = std::make_shared<Gemeinsames>();
     {

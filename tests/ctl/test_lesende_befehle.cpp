@@ -8,6 +8,7 @@ namespace varnoth::ctl {
 
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -69,6 +70,12 @@ TEST_F(LesendeBefehle, A_port_a_format_and_a_time_that_make_no_sense_are_told_be
         EXPECT_EQ(Fuehre(worte), Ende::Bedienung) << worte.back();
     EXPECT_THAT(port.geoeffnet, IsEmpty());
     EXPECT_THAT(konsole.meldungen, StartsWith("varnothctl identify: \"0\" is no number of seconds"));
+}
+
+TEST_F(LesendeBefehle, What_is_no_port_is_told_with_an_example_for_each_system) {
+    EXPECT_EQ(Fuehre({"identify", "--port", "COM5"}), Ende::Bedienung);
+    EXPECT_THAT(konsole.meldungen, AllOf(HasSubstr("\"COM5\" is no port"), HasSubstr("/dev/ttyUSB0"),
+                                         HasSubstr("on Windows such as COM5")));
 }
 
 TEST_F(LesendeBefehle, A_port_that_cannot_be_opened_is_told_with_its_cause) {

@@ -51,6 +51,11 @@ TEST_F(Varnothctl, Read_export_and_import_lead_to_the_same_configuration) {
     EXPECT_EQ(InJson({"export", "b.con"})["text"].toString().toUtf8(), Inhalt("a.txt"));
 }
 
+TEST_F(Varnothctl, The_example_is_the_whole_configuration_of_the_simulated_controller) {
+    SchliesseGeraetAn();
+    EXPECT_EQ(Fuehre({"compare", EXAMPLES "/example.con", "device"}).code, 0);
+}
+
 TEST_F(Varnothctl, The_text_of_a_controller_does_not_change_with_what_it_measures) {
     SchliesseGeraetAn();
     geraet->Befehl("scene freeze");

@@ -53,7 +53,7 @@ protected:
                 .ordner = ordner.path().toStdString()};
     }
     std::string Pfad(const char* name) const {
-        return ordner.filePath(QString::fromUtf8(name)).toStdString();
+        return QDir::toNativeSeparators(ordner.filePath(QString::fromUtf8(name))).toStdString();
     }
     void LegeAn(const char* name) const {
         QFile datei(QString::fromStdString(Pfad(name)));
@@ -158,7 +158,7 @@ TEST_F(Dateidialog, A_name_without_extension_stays_so_under_all_files) {
 TEST_F(Dateidialog, A_name_with_umlauts_blanks_and_200_characters_is_given_as_typed) {
     const QString name = QStringLiteral("Größe ü ") + QString(190, QLatin1Char('x')) + QStringLiteral(".con");
     EXPECT_EQ(Frage(Speicherfrage(), [name](QFileDialog& dialog) { TippeUndNimm(dialog, name); }),
-              ordner.filePath(name).toStdString());
+              QDir::toNativeSeparators(ordner.filePath(name)).toStdString());
 }
 
 TEST_F(Dateidialog, Its_own_texts_are_in_the_chosen_language) {

@@ -4,6 +4,7 @@
 #include "pruefumgebung.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -51,6 +52,9 @@ protected:
         suchfeld.clearFocus();
         KlickeAuf(suchfeld);
         return WarteBis([&] { return suchfeld.hasFocus(); }, 1000);
+    }
+    std::string NichtGefunden() const {
+        return "Die Hilfedatei wurde nicht gefunden: " + QDir::toNativeSeparators(pfad).toStdString();
     }
     /// The box that tells without waiting; nullptr when there is none.
     static QMessageBox* Warnung() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
@@ -189,25 +193,24 @@ TEST_F(HilfeTest, A_closed_window_comes_back) {
 }
 
 TEST_F(HilfeTest, Topics_without_a_file_name_it_in_a_box_and_wait) {
-    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    pfad = QDir::rootPath() + "nowhere/varnoth.hlp";
     hilfe.ZeigeThemen(&hauptfenster);
-    const Meldung erwartet{.text = "Die Hilfedatei wurde nicht gefunden: /nowhere/varnoth.hlp",
-                           .titel = "Achtung"};
+    const Meldung erwartet{.text = NichtGefunden(), .titel = "Achtung"};
     EXPECT_EQ(umgebung.meldungen, std::vector{erwartet});
     EXPECT_EQ(OffeneHilfe(), nullptr);
 }
 
 TEST_F(HilfeTest, A_page_without_a_file_names_it_in_a_box_that_nobody_waits_for) {
-    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    pfad = QDir::rootPath() + "nowhere/varnoth.hlp";
     hilfe.ZeigeSeiteZu(&hauptfenster);
     ASSERT_NE(Warnung(), nullptr);
-    EXPECT_EQ(Warnung()->text(), "Die Hilfedatei wurde nicht gefunden: /nowhere/varnoth.hlp");
+    EXPECT_EQ(Warnung()->text().toStdString(), NichtGefunden());
     EXPECT_EQ(Warnung()->windowTitle(), "Achtung");
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 TEST_F(HilfeTest, A_second_key_press_opens_no_second_box) {
-    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    pfad = QDir::rootPath() + "nowhere/varnoth.hlp";
     hilfe.ZeigeSeiteZu(&hauptfenster);
     hilfe.ZeigeSeiteZu(Warnung());
     EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(),
@@ -216,7 +219,7 @@ TEST_F(HilfeTest, A_second_key_press_opens_no_second_box) {
 }
 
 TEST_F(HilfeTest, The_box_stays_when_the_dialog_behind_it_goes) {
-    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    pfad = QDir::rootPath() + "nowhere/varnoth.hlp";
     OeffneDialog();
     hilfe.ZeigeSeiteZu(dialog.get());
     dialog.reset();
@@ -225,7 +228,7 @@ TEST_F(HilfeTest, The_box_stays_when_the_dialog_behind_it_goes) {
 }
 
 TEST_F(HilfeTest, A_box_that_was_answered_comes_again_at_the_next_key_press) {
-    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    pfad = QDir::rootPath() + "nowhere/varnoth.hlp";
     hilfe.ZeigeSeiteZu(&hauptfenster);
     Warnung()->accept();
     EXPECT_EQ(Warnung(), nullptr);
@@ -234,7 +237,7 @@ TEST_F(HilfeTest, A_box_that_was_answered_comes_again_at_the_next_key_press) {
 }
 
 TEST_F(HilfeTest, A_file_that_comes_later_is_found) {
-    pfad = QStringLiteral("/nowhere/varnoth.hlp");
+    pfad = QDir::rootPath() + "nowhere/varnoth.hlp";
     hilfe.ZeigeThemen(&hauptfenster);
     pfad = QStringLiteral(HILFEPROBE);
     hilfe.ZeigeThemen(&hauptfenster);

@@ -132,6 +132,7 @@ TEST_F(SchnittstelleTest, With_the_port_closed_nothing_is_read_written_or_traced
     EXPECT_EQ(CommPortReadInput(), "");
     CommPortWriteOutput("x");
     EXPECT_TRUE(port.gesendet.empty());
+    modTrace::Schliesse();
     EXPECT_EQ(std::filesystem::file_size(datei), groesse);
     std::filesystem::remove(datei);
 }
@@ -174,6 +175,7 @@ TEST_F(SchnittstelleTest, With_tracing_on_a_timeout_is_shown_in_the_first_panel)
     OpenCommPort();
     WarteAufZeichen(1000, True);
     EXPECT_EQ(umgebung.statustexte[0], "Zeitüberschreitung, kein Zeichen empfangen. (Nur zum Testen)");
+    modTrace::Schliesse();
     std::filesystem::remove(datei);
 }
 
@@ -190,6 +192,7 @@ TEST_F(SchnittstelleTest, The_trace_has_a_clear_a_sent_frame_what_was_read_and_a
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(strom), {}),
               "Start\r\nClearCommPort, Read: \r\nWrite: 1H 3H FFH \r\nRead: 1H \r\nZeit\xFC"
               "berschreitung\r\n");
+    strom.close();
     std::filesystem::remove(datei);
 }
 

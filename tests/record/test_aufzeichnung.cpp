@@ -2,6 +2,7 @@
 
 #include "csvform.h"
 #include "pruefablage.h"
+#include "schranke.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,6 @@
 #include <cerrno>
 #include <chrono>
 #include <memory>
-#include <semaphore>
 #include <string>
 #include <thread>
 
@@ -28,7 +28,7 @@ Augenblick Jetzt() {
 /// A form that waits until it is let go on.
 class Haltform : public Aufzeichnungsform {
 public:
-    explicit Haltform(std::counting_semaphore<>& schranke) : tor(schranke) {}
+    explicit Haltform(pruefung::Schranke& schranke) : tor(schranke) {}
     std::string Beginne(const Messangaben& /*angaben*/, std::shared_ptr<const Abbild> /*k*/) override {
         return "B";
     }
@@ -42,7 +42,7 @@ public:
     std::string Beende() override { return "E"; }
 
 private:
-    std::counting_semaphore<>& tor;
+    pruefung::Schranke& tor;
 };
 
 class AufzeichnungTest : public testing::Test {
@@ -65,7 +65,7 @@ protected:
     }
 
     std::shared_ptr<PruefAblage> ablage = std::make_shared<PruefAblage>();
-    std::counting_semaphore<> tor{0};
+    pruefung::Schranke tor{0};
 };
 
 TEST_F(AufzeichnungTest, A_pass_is_written_within_the_second_without_another_call) {

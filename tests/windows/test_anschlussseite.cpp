@@ -150,7 +150,7 @@ TEST_F(AnschlussseiteTest, What_a_typed_device_leads_to_is_looked_at_again_and_a
 
 TEST_F(AnschlussseiteTest, An_empty_device_or_a_wrong_format_cannot_be_applied_and_says_why) {
     Tippe("cboGeraet_1", " ");
-    EXPECT_EQ(Text("lblGeraet_1"), "Bitte ein Gerät nennen, zum Beispiel /dev/ttyUSB0.");
+    EXPECT_EQ(Text("lblGeraet_1"), "Bitte ein Gerät nennen, etwa /dev/ttyUSB0 oder COM5.");
     EXPECT_FALSE(Knopf("cmdUebernehmen").isEnabled());
     EXPECT_FALSE(Knopf("cmdVerbinden").isEnabled());
     Knopf("cmdVerwerfen").click();

@@ -11,6 +11,7 @@
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "schranke.h"
 #include "texte.h"
 #include "vrecleser.h"
 
@@ -31,7 +32,6 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
-#include <semaphore>
 #include <stdexcept>
 #include <vector>
 
@@ -244,7 +244,10 @@ TEST_F(AufzeichnungsablaufTest, A_file_that_vanishes_is_told_once_in_the_status_
     Ablauf().Schalte();
     MeldeDurchgang(1);
     ASSERT_TRUE(WarteBis([&] { return Inhalt(Dateien().front()).find(",1,") != std::string::npos; }));
-    ASSERT_TRUE(QFile::remove(ordner.filePath(Dateien().front())));
+    if (!QFile::remove(ordner.filePath(Dateien().front()))) {
+        ASSERT_EQ(QSysInfo::productType(), "windows");
+        GTEST_SKIP() << "nobody takes an open file away";
+    }
     ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0].find("is interrupted") != std::string::npos; },
                          20'000));
     EXPECT_TRUE(umgebung.meldungen.empty());
@@ -356,7 +359,7 @@ TEST_F(AufzeichnungsablaufTest, The_last_minutes_of_memory_are_saved_as_a_record
 
 TEST_F(AufzeichnungsablaufTest,
        While_a_slow_disk_takes_the_memory_the_window_answers_and_says_how_far_it_is) {
-    std::binary_semaphore platte(0);
+    pruefung::Schranke platte(0);
     schreibe = [&](const std::string&, std::string_view) {
         platte.acquire();
         return std::string();
@@ -409,7 +412,7 @@ TEST_F(AufzeichnungsablaufTest, The_end_of_the_program_finishes_the_saving_of_th
 
 TEST_F(AufzeichnungsablaufTest, Disks_that_never_answer_hold_up_the_end_of_the_program_for_seconds_only) {
     ablage = std::make_shared<pruefung::PruefAblage>();
-    const auto platte = std::make_shared<std::binary_semaphore>(0);
+    const auto platte = std::make_shared<pruefung::Schranke>(0);
     schreibe = [platte](const std::string&, std::string_view) {
         platte->acquire();
         return std::string();

@@ -6,6 +6,7 @@
 #include "dateidialog.h"
 #include "dateien.h"
 #include "konfigurationsdatei.h"
+#include "muster.h"
 #include "qttexte.h"
 #include "standardkonfiguration.h"
 #include "standtext.h"
@@ -375,9 +376,9 @@ TEST_F(FrmMainAblauf, A_report_tells_the_state_that_live_data_last_saw_of_the_pa
     EXPECT_THAT(bericht(), testing::Not(testing::HasSubstr("Zustand am "))) << "no pass has ended yet";
     modPolling::PollingZyklus();
     EXPECT_THAT(bericht(),
-                testing::ContainsRegex(R"(Zustand am [0-9]+\.[0-9]+\.[0-9]{4} [0-9]{2}:[0-9]{2}: )"));
+                pruefung::EnthaeltMuster(R"(Zustand am [0-9]+\.[0-9]+\.[0-9]{4} [0-9]{2}:[0-9]{2}: )"));
     SetzeSprachoffset(Englisch);
-    EXPECT_THAT(bericht(), testing::ContainsRegex("State on [0-9]+/[0-9]+/[0-9]{4} [0-9]{2}:[0-9]{2}: "));
+    EXPECT_THAT(bericht(), pruefung::EnthaeltMuster("State on [0-9]+/[0-9]+/[0-9]{4} [0-9]{2}:[0-9]{2}: "));
 }
 
 } // namespace varnoth

@@ -10,6 +10,7 @@
 #include <QImage>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <vector>
 
 namespace varnoth {
@@ -42,10 +43,18 @@ QImage Aufnahme(Kurvenbild& bild) {
     return bild.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+/// Whether two colours look alike: where a line lies between pixels, none has its colour quite.
+bool Gleichen(const QColor& eine, const QColor& andere) {
+    constexpr int abweichung = 50;
+    return std::abs(eine.red() - andere.red()) < abweichung &&
+           std::abs(eine.green() - andere.green()) < abweichung &&
+           std::abs(eine.blue() - andere.blue()) < abweichung;
+}
+
 /// Whether a colour is found at a place or in a pixel beside it.
 bool HatFarbeBei(const QImage& aufnahme, const QPoint& stelle, const QColor& farbe) {
     for (const QPoint& neben : {QPoint(0, 0), QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
-        if (aufnahme.pixel(stelle + neben) == farbe.rgb())
+        if (Gleichen(aufnahme.pixelColor(stelle + neben), farbe))
             return true;
     return false;
 }

@@ -13,6 +13,7 @@ namespace varnoth {
 using pruefung::EinAdapter;
 using pruefung::EinFund;
 using pruefung::PruefVerbindung;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -170,7 +171,7 @@ class AnschlusseingabeTest : public PortzeileTest {};
 TEST_F(AnschlusseingabeTest, A_device_needs_a_name_that_fits_a_line_of_the_settings) {
     EXPECT_EQ(GeraetenameBefund("/dev/ttyUSB0"), "");
     EXPECT_EQ(GeraetenameBefund("/dev/Prüf stand"), "");
-    EXPECT_THAT(GeraetenameBefund(""), HasSubstr("/dev/ttyUSB0"));
+    EXPECT_THAT(GeraetenameBefund(""), AllOf(HasSubstr("/dev/ttyUSB0"), HasSubstr("COM5")));
     for (const std::string& falsch : {std::string("/dev/a\nComPort=2"), std::string("a\0b", 3),
                                       std::string("\x7F"), std::string(256, 'x')})
         EXPECT_THAT(GeraetenameBefund(falsch), HasSubstr("kein Gerät")) << falsch;

@@ -3,6 +3,7 @@
 #include "dateidialog.h"
 #include "dateien.h"
 #include "dateiziel.h"
+#include "muster.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
@@ -123,7 +124,7 @@ TEST_F(TextimportTest, A_wrong_line_is_told_with_its_number_and_that_nothing_was
 TEST_F(TextimportTest, Of_several_wrong_lines_the_others_stand_in_the_details) {
     Schreibe(Standtext(MitStrahlen(64)) + "Unfug\nUnsinn\n");
     ErwarteAblehnung("Zeile ");
-    EXPECT_THAT(umgebung.meldungen[0].details, testing::ContainsRegex("Zeile [0-9]+.*\nZeile [0-9]+"));
+    EXPECT_THAT(umgebung.meldungen[0].details, pruefung::EnthaeltMuster("Zeile [0-9]+.*\nZeile [0-9]+"));
 }
 
 TEST_F(TextimportTest, Implausible_values_are_refused_and_named_and_no_default_is_loaded) {

@@ -9,6 +9,8 @@
 #include "texte.h"
 
 #include <QApplication>
+#include <QPaintEvent>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -25,6 +27,24 @@ using std::chrono::seconds;
 namespace {
 
 constexpr QSize Groesse(900, 500);
+
+/// What of a widget was drawn.
+class Zeichnungen : public QObject {
+public:
+    explicit Zeichnungen(QWidget& welches) { welches.installEventFilter(this); }
+
+    int anzahl = 0;
+    QRect letzte;
+
+protected:
+    bool eventFilter(QObject* /*objekt*/, QEvent* ereignis) override {
+        if (ereignis->type() != QEvent::Paint)
+            return false;
+        ++anzahl;
+        letzte = static_cast<QPaintEvent*>(ereignis)->rect();
+        return false;
+    }
+};
 
 struct VerlaufsbildTest : testing::Test {
     VerlaufsbildTest() {
@@ -50,7 +70,7 @@ struct VerlaufsbildTest : testing::Test {
     /// Whether the curve covers a time and a value, a pixel more or less.
     bool HatKurve(const QImage& aufnahme, Zeit laufzeit, double wert) {
         const QPoint ort = bild.Stelle(laufzeit, wert).toPoint();
-        const QColor farbe = FarbeDerReihe(bild.palette(), {0, 0});
+        const QColor farbe = VerlaufsfarbenAus(bild.palette()).Reihe({0, 0});
         for (int dx = -1; dx <= 1; ++dx)
             for (int dy = -1; dy <= 1; ++dy)
                 if (aufnahme.pixel(ort + QPoint(dx, dy)) == farbe.rgb())
@@ -101,6 +121,60 @@ TEST_F(VerlaufsbildTest, A_picture_that_slides_looks_as_if_drawn_anew) {
     neues.SetzeAnbieter(anbieter);
     Erledige();
     EXPECT_EQ(neues.grab().toImage(), geschoben);
+}
+
+TEST_F(VerlaufsbildTest, What_is_seen_while_it_grows_is_what_would_be_drawn_anew) {
+    FuelleSekunden(anbieter.quelle, 400, 20);
+    Messpaket mitNotiz = PaketMit(seconds(400), 1, milliseconds(100), 20);
+    mitNotiz.ereignisse = {{.art = Messereignisart::Notiz, .laufzeit = seconds(400), .text = "web changed"}};
+    anbieter.quelle.Nimm(std::move(mitNotiz));
+    Zeige();
+    bild.SetzeZeiger(seconds(390));
+    Zeichnungen zeichnungen(bild);
+    bild.show();
+    ASSERT_TRUE(WarteBis([&] { return zeichnungen.anzahl > 0; }));
+    for (int i = 0; i < 40; ++i) {
+        const int vorher = zeichnungen.anzahl;
+        anbieter.quelle.Nimm(PaketMit(milliseconds(400'100 + 100 * i), 1, milliseconds(100),
+                                      static_cast<std::uint16_t>(20 + 13 * i % 90)));
+        Erneuere();
+        ASSERT_TRUE(WarteBis([&] { return zeichnungen.anzahl > vorher; }));
+        const QImage gesehen = bild.screen()->grabWindow(bild.winId()).toImage();
+        ASSERT_EQ(gesehen.convertToFormat(QImage::Format_RGB32),
+                  Aufnahme().convertToFormat(QImage::Format_RGB32))
+            << i;
+    }
+}
+
+TEST_F(VerlaufsbildTest, Only_what_looks_otherwise_than_before_is_drawn_while_it_grows) {
+    FuelleSekunden(anbieter.quelle, 400, 20);
+    Zeige();
+    Zeichnungen zeichnungen(bild);
+    bild.show();
+    ASSERT_TRUE(WarteBis([&] { return zeichnungen.anzahl > 0; }));
+    int schmale = 0;
+    int geschobene = 0;
+    for (int i = 0; i < 20; ++i) {
+        const Zeitspanne vorher = bild.Spanne();
+        const int bisher = zeichnungen.anzahl;
+        anbieter.quelle.Nimm(PaketMit(milliseconds(400'000 + 100 * i), 1, milliseconds(100), 20));
+        Erneuere();
+        ASSERT_TRUE(WarteBis([&] { return zeichnungen.anzahl > bisher; }));
+        if (bild.Spanne().von == vorher.von) {
+            ++schmale;
+            EXPECT_LT(zeichnungen.letzte.width(), 40);
+        } else {
+            ++geschobene;
+            EXPECT_LT(zeichnungen.letzte.width(), bild.width());
+            EXPECT_GT(zeichnungen.letzte.width(), bild.width() / 2);
+        }
+    }
+    EXPECT_GT(schmale, 5);
+    EXPECT_GT(geschobene, 2);
+    const int bisher = zeichnungen.anzahl;
+    Erneuere();
+    QApplication::processEvents();
+    EXPECT_EQ(zeichnungen.anzahl, bisher) << "nothing has grown";
 }
 
 TEST_F(VerlaufsbildTest, What_is_new_is_exact_as_soon_as_it_is_drawn) {

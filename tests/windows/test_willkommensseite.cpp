@@ -5,6 +5,7 @@
 #include "texte.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
@@ -64,7 +65,7 @@ TEST_F(WillkommensseiteTest, The_texts_are_in_the_chosen_language_and_switch) {
 TEST_F(WillkommensseiteTest, It_shows_the_files_used_last_by_name_and_folder) {
     seite.Zeige(true, {"/Anlage 1/Prüf & <b>stand.con"});
     EXPECT_EQ(Knopf("cmdWillkommenDatei_1").text(), "Prüf && <b>stand.con");
-    EXPECT_EQ(Text("lblWillkommenOrdner_1").text(), "/Anlage 1");
+    EXPECT_EQ(Text("lblWillkommenOrdner_1").text(), QDir::toNativeSeparators("/Anlage 1"));
     EXPECT_EQ(Text("lblWillkommenOrdner_1").textFormat(), Qt::PlainText);
     EXPECT_TRUE(Knopf("cmdWillkommenDatei_1").isVisible());
     EXPECT_FALSE(Knopf("cmdWillkommenDatei_2").isVisible());
