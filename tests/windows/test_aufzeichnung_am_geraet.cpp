@@ -52,7 +52,8 @@ TEST_F(AufzeichnungAmGeraetTest, Names_no_controller_where_none_has_answered) {
     EXPECT_EQ(angaben.programm, Programmversion());
 }
 
-TEST_F(AufzeichnungAmGeraetTest, The_mark_tells_passes_a_second_while_live_data_runs_and_its_absence_otherwise) {
+TEST_F(AufzeichnungAmGeraetTest,
+       The_mark_tells_passes_a_second_while_live_data_runs_and_its_absence_otherwise) {
     MissEinmal({32, 0, 0, 0});
     Schalte();
     EXPECT_TRUE(Marke().endsWith("/s")) << Marke().toStdString();

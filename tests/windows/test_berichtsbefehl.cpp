@@ -75,8 +75,8 @@ TEST_F(BerichtsbefehlTest, A_controller_that_only_said_who_it_is_lends_no_name_t
 
 TEST_F(BerichtsbefehlTest, What_was_changed_since_is_not_said_to_be_the_controllers) {
     VerbindeUndStoppe();
-    ASSERT_TRUE(modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl,
-                                        64));
+    ASSERT_TRUE(
+        modDaten::SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 64));
     const std::string bericht = Bericht();
     EXPECT_THAT(bericht, Not(HasSubstr("gelesen am ")));
     EXPECT_THAT(bericht, Not(HasSubstr("Torkurtine")));

@@ -7,6 +7,7 @@
 #include "pruefmessanbieter.h"
 #include "pruefumgebung.h"
 #include "texte.h"
+#include "verlaufsfeld.h"
 
 #include <QApplication>
 #include <QPaintEvent>
@@ -377,6 +378,28 @@ TEST_F(VerlaufsbildTest, Axes_stand_at_the_left_of_the_curves_and_below_them) {
     const QPoint oben = bild.Stelle(bild.Spanne().von, werte.oben).toPoint();
     EXPECT_EQ(aufnahme.pixel(unten.x() - 1, (unten.y() + oben.y()) / 2), achse);
     EXPECT_EQ(aufnahme.pixel(unten.x() + 100, unten.y()), achse);
+}
+
+TEST_F(VerlaufsbildTest, The_legend_names_each_curve_above_the_picture) {
+    FuelleSekunden(anbieter.quelle, 400, 20);
+    Zeige();
+    const QImage aufnahme = Aufnahme();
+    const QPoint oben = bild.Stelle(bild.Spanne().von, bild.Blick().Werte().oben).toPoint();
+    const QRgb schrift = KurvenfarbenAus(bild.palette()).schrift.rgb();
+    int beschriebene = 0;
+    for (int y = 0; y < oben.y() - 2 * bild.fontMetrics().height(); ++y)
+        for (int x = oben.x(); x < aufnahme.width(); ++x)
+            beschriebene += aufnahme.pixel(x, y) == schrift ? 1 : 0;
+    EXPECT_GT(beschriebene, 0);
+}
+
+TEST(Verlaufsfeldtest, Rows_take_no_more_than_two_fifths_of_the_height_and_are_no_higher_than_letters) {
+    const QFontMetricsF masse{QFont()};
+    const Verlaufsfeld viele = FeldFuer({.groesse = {900, 400}, .zeilen = 20}, masse);
+    EXPECT_LE(viele.zeilen.height(), 0.4 * 400);
+    EXPECT_GT(viele.zeilen.height(), 0.2 * 400);
+    const Verlaufsfeld eine = FeldFuer({.groesse = {900, 400}, .zeilen = 1}, masse);
+    EXPECT_EQ(eine.zeilenhoehe, masse.height() + 1);
 }
 
 TEST_F(VerlaufsbildTest, The_times_stand_below_the_curves_with_a_gap_between) {

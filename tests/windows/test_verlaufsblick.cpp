@@ -112,6 +112,13 @@ TEST(Verlaufsblick, A_replay_is_followed_where_it_stands_and_its_future_can_be_l
     EXPECT_EQ(blick.Spanne().bis, minutes(50));
 }
 
+TEST(Verlaufsblick, Moved_it_shows_everything_no_more) {
+    Verlaufsblick blick = Blick();
+    blick.ZeigeAlles();
+    blick.Verschiebe(-minutes(1));
+    EXPECT_FALSE(blick.ZeigtAlles());
+}
+
 TEST(Verlaufsblick, A_replay_that_is_followed_no_more_shows_no_time_before_its_beginning) {
     Verlaufsblick blick;
     blick.SetzeGanzes({Zeit(0), hours(2)}, seconds(30), {0, 128});

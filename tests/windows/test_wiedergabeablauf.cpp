@@ -158,6 +158,7 @@ TEST_F(WiedergabeablaufTest, A_record_is_shown_as_if_live_and_marked_everywhere)
     EXPECT_EQ(Verbindungstext().text(), "Wiedergabe");
     EXPECT_TRUE(Fenster().windowTitle().endsWith(QString::fromUtf8(" – Wiedergabe: nacht.vrec")));
     EXPECT_TRUE(Verbindungstext().parentWidget()->toolTip().contains("4711"));
+    EXPECT_TRUE(Verbindungstext().parentWidget()->toolTip().contains("Aus der Aufzeichnung"));
     EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_1").isVisible());
     EXPECT_FALSE(Aktion("mnuAnzeigeLichtleiste_2").isVisible());
     EXPECT_EQ(Statusfeld(3).text().toStdString(), LadeText(3002));
