@@ -19,7 +19,8 @@ public:
     static constexpr int Hoechstzahl = 600;
 
     /// Draws the text in the painter's colour where QPainter::drawText draws it: to the left or right of a
-    /// place, in the middle of its height. With another font than the last time all that is kept is forgotten.
+    /// place, in the middle of its height. With another font than the last time all that is kept is
+    /// forgotten.
     void Zeichne(QPainter& maler, const QRectF& platz, Qt::Alignment lage, const QString& text,
                  const QFont& schrift);
     int Anzahl() const { return static_cast<int>(texte.size()); }

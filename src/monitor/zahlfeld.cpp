@@ -10,7 +10,8 @@ Zahlfeld::Zahlfeld(QWidget* eltern) : QLabel(eltern) {
     setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
-// What can be selected, or is grey, is left to QLabel. All fields have their text in the middle of their height.
+// What can be selected, or is grey, is left to QLabel. All fields have their text in the middle of their
+// height.
 void Zahlfeld::paintEvent(QPaintEvent* ereignis) {
     if (textInteractionFlags() != Qt::NoTextInteraction || !isEnabled()) {
         QLabel::paintEvent(ereignis);

@@ -18,7 +18,8 @@ private:
     Zeit Ueberzogen(Zeit jetzt) const;
 
     Zeit gesamt{0};
-    Zeit erwartet{0}; ///< when the round that runs should have ended, or something inside it has begun or ended
+    Zeit erwartet{
+        0}; ///< when the round that runs should have ended, or something inside it has begun or ended
     int tiefe = 0;
 };
 

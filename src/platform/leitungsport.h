@@ -29,7 +29,7 @@ public:
 
 protected:
     /// While a reply comes in, window events are served this often.
-    static constexpr Zeit Fensterblick = std::chrono::milliseconds(8);
+    static constexpr Zeit Fensterblick = std::chrono::milliseconds(4);
 
     /// Opens the line of a device; the port is closed. Gives whether it is open, and remembers why not.
     virtual bool OeffneLeitung(const std::string& pfad, const Porteinstellungen& einstellungen) = 0;

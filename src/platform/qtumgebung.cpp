@@ -16,7 +16,7 @@ constexpr Zeit Feinwartezeit = std::chrono::microseconds(2500);
 constexpr int Weckgedaechtnis = 8; // sleeps that the time for waking is averaged over
 // Between a reply and the next request events are let run several times; each round costs processor time,
 // the first after a sleep most of all.
-constexpr Zeit Rundenabstand = std::chrono::milliseconds(5);
+constexpr Zeit Rundenabstand = std::chrono::milliseconds(3);
 
 } // namespace
 

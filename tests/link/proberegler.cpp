@@ -9,7 +9,7 @@ namespace varnoth::pruefung {
 
 namespace {
 
-constexpr Zeit Fensterblick = std::chrono::milliseconds(8); // waits come back so often
+constexpr Zeit Fensterblick = std::chrono::milliseconds(4); // waits come back so often
 
 bool HatGueltigePruefsumme(const std::string& rahmen) {
     return rahmen.size() > 2 && MitPruefsumme(rahmen.substr(0, rahmen.size() - 2)) == rahmen;

@@ -126,7 +126,7 @@ TEST_F(LeitungsportTest, A_closed_port_sends_nothing_and_waits_with_the_events) 
     EXPECT_THAT(port.geschlafen, IsEmpty());
 }
 
-TEST_F(LeitungsportTest, Sending_leaves_the_window_to_its_turn_eight_milliseconds_later) {
+TEST_F(LeitungsportTest, Sending_leaves_the_window_to_its_turn_four_milliseconds_later) {
     port.Schreibe("request");
     EXPECT_EQ(port.gesendet, "request");
     EXPECT_EQ(Fensterblicke(), 0);
@@ -136,14 +136,14 @@ TEST_F(LeitungsportTest, Sending_leaves_the_window_to_its_turn_eight_millisecond
     port.WarteAufEingang(10s);
     EXPECT_EQ(Fensterblicke(), 1);
     port.WarteAufEingang(10s);
-    EXPECT_EQ(Fensterblicke(), 2) << "and every eight milliseconds from then on";
+    EXPECT_EQ(Fensterblicke(), 2) << "and every four milliseconds from then on";
 }
 
 TEST_F(LeitungsportTest, A_wait_that_gave_the_window_its_turn_ends_soon) {
     port.WarteAufEingang(10s);
     port.WarteAufEingang(1ms);
     EXPECT_EQ(Fensterblicke(), 2);
-    EXPECT_THAT(port.geschlafen, ElementsAre(Zeit(8ms), Zeit(1ms)));
+    EXPECT_THAT(port.geschlafen, ElementsAre(Zeit(4ms), Zeit(1ms)));
 }
 
 TEST_F(LeitungsportTest, A_window_for_which_there_is_nothing_is_left_alone_and_the_line_slept_on) {
@@ -172,7 +172,7 @@ TEST_F(LeitungsportTest, A_line_that_has_answered_by_then_leaves_the_window_to_i
     port.imSystem = 3;
     port.Schreibe("second");
     EXPECT_EQ(Fensterblicke(), 0);
-    umgebung.uhr += 8ms;
+    umgebung.uhr += 4ms;
     port.Schreibe("third");
     EXPECT_EQ(Fensterblicke(), 1);
 }
@@ -208,7 +208,7 @@ TEST_F(LeitungsportTest, A_sleep_over_the_windows_turn_begins_with_it_and_lasts_
     std::chrono::steady_clock::time_point blick;
     umgebung.beiEreignissen = [&] { blick = std::chrono::steady_clock::now(); };
     port.Schlafe(10s);
-    EXPECT_GE(std::chrono::steady_clock::now() - blick, 8ms);
+    EXPECT_GE(std::chrono::steady_clock::now() - blick, 4ms);
     EXPECT_EQ(Fensterblicke(), 1);
 }
 

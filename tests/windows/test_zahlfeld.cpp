@@ -53,7 +53,8 @@ protected:
 TEST_F(ZahlfeldTest, It_looks_like_any_other_label_in_every_font_and_place) {
     for (const char* familie : {"Sans", "Serif", "Monospace"})
         for (const int groesse : {9, 13, 22, 40})
-            for (const Qt::Alignment lage : {Qt::AlignRight | Qt::AlignVCenter, Qt::AlignLeft | Qt::AlignVCenter}) {
+            for (const Qt::Alignment lage :
+                 {Qt::AlignRight | Qt::AlignVCenter, Qt::AlignLeft | Qt::AlignVCenter}) {
                 QFont schrift(QString::fromLatin1(familie));
                 schrift.setPixelSize(groesse);
                 NimmSchrift(schrift);
