@@ -20,6 +20,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace varnoth {
 
 using namespace pruefung;
@@ -330,7 +332,8 @@ TEST_F(FrmWiedergabeTest, A_sentence_about_a_typed_time_can_be_read_whole_in_a_n
     for (const std::int16_t sprache : {Deutsch, Englisch}) {
         SetzeSprachoffset(sprache);
         leiste->Lokalisiere();
-        leiste->resize(880, leiste->sizeHint().height());
+        const int breite = std::max(880, 125 * leiste->fontMetrics().averageCharWidth());
+        leiste->resize(breite, leiste->sizeHint().height());
         const int hoehe = leiste->height();
         for (const char* const eingabe :
              {"25.11.2026 14:05:30", "irgendwann am Nachmittag, etwa halb drei"}) {
