@@ -11,6 +11,9 @@ namespace varnoth {
 /// longer answers must not hold up the program. What the work uses has to live as long as the work itself.
 class Nebenfaden {
 public:
+    /// A disk that takes longer counts as one that does not answer.
+    static constexpr std::chrono::milliseconds LaengstesSchweigen{3000};
+
     explicit Nebenfaden(std::function<void()> arbeit);
     /// Waits for the end of the work as long as that takes, unless it was left behind.
     ~Nebenfaden();

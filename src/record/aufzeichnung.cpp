@@ -127,7 +127,7 @@ Aufzeichnungsstand Aufzeichnung::Stand() const {
     const std::lock_guard gesperrt(innen->sperre);
     Aufzeichnungsstand stand = innen->stand;
     const auto seit = innen->beimTraegerSeit;
-    stand.wartet = !innen->aufgegeben && seit && jetzt - *seit > LaengstesSchweigen;
+    stand.wartet = !innen->aufgegeben && seit && jetzt - *seit > Nebenfaden::LaengstesSchweigen;
     return stand;
 }
 

@@ -21,8 +21,6 @@ public:
 
     /// Passes that wait to be written at most.
     static constexpr std::size_t MeisteWartende = 10'000;
-    /// A disk that takes longer for one call is told of.
-    static constexpr Zeit LaengstesSchweigen = std::chrono::seconds(3);
     /// As long as a disk may take.
     static constexpr auto Beliebig =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::hours(24 * 365));

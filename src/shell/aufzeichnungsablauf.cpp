@@ -13,6 +13,7 @@
 #include "identifikation.h"
 #include "konfigurationsbefehle.h"
 #include "messspeicher.h"
+#include "nebenfaden.h"
 #include "polling.h"
 #include "programmversion.h"
 #include "registerabbild.h"
@@ -38,7 +39,7 @@ namespace {
 constexpr int TaktMs = 500;
 constexpr int SicherungstaktMs = 50;
 constexpr Zeit Sicherungsschritt = std::chrono::milliseconds(2); // at one go, or a request would wait for it
-constexpr std::chrono::milliseconds LaengstesEnde(3000);
+constexpr auto LaengstesEnde = Nebenfaden::LaengstesSchweigen;
 // As long as a disk that answers needs; nobody notices that it was waited for.
 constexpr std::chrono::milliseconds LaengsterBeginn(50);
 constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,

@@ -24,7 +24,6 @@ constexpr const char* SchluesselLaeuft = "Tagesdatei";
 constexpr const char* SchluesselOrdner = "Ordner";
 constexpr int TaktMs = 1000;
 constexpr int SchreibtaktMs = 50;
-constexpr std::chrono::milliseconds LaengstesEnde(3000);
 
 std::string Dateiname(const std::string& ordner, const std::string& tag) {
     return QDir(QString::fromStdString(ordner))
@@ -77,7 +76,8 @@ void Ereignistagebuch::Sieh() {
 
 void Ereignistagebuch::SchreibeAlles() {
     using Uhr = std::chrono::steady_clock;
-    const auto ende = Uhr::now() + (schreiber.SchweigtLange() ? std::chrono::milliseconds{} : LaengstesEnde);
+    const auto ende = Uhr::now() + (schreiber.SchweigtLange() ? std::chrono::milliseconds{}
+                                                              : Nebenfaden::LaengstesSchweigen);
     while (schreiber.Laeuft() || Schreibe()) {
         const auto rest = std::chrono::ceil<std::chrono::milliseconds>(ende - Uhr::now());
         const auto ergebnis = schreiber.Hole(std::max(rest, std::chrono::milliseconds{}));
@@ -107,13 +107,12 @@ bool Ereignistagebuch::Schreibe() {
 
 /// Often at first; once a disk has been silent for long, once a second is enough.
 void Ereignistagebuch::SiehNach() {
-    if (const auto ergebnis = schreiber.Hole()) {
-        schreibtakt.stop();
+    if (const auto ergebnis = schreiber.Hole())
         Uebernimm(*ergebnis);
-    } else if (schreiber.SchweigtLange()) {
-        schreibtakt.stop();
+    else if (schreiber.SchweigtLange())
         MerkeFehler(LadeText(TextAntwortetNicht));
-    }
+    if (!schreiber.Laeuft() || schreiber.SchweigtLange())
+        schreibtakt.stop();
 }
 
 /// False when the lines could not be written.

@@ -6,17 +6,10 @@
 
 namespace varnoth {
 
-namespace {
-
-constexpr Zeit LaengstesSchweigen = std::chrono::seconds(3);
-constexpr auto LaengstesEnde = std::chrono::duration_cast<std::chrono::milliseconds>(LaengstesSchweigen);
-
-} // namespace
-
 Tagebuchschreiber::Tagebuchschreiber(Weg welcher) : weg(welcher ? std::move(welcher) : HaengeAnDatei) {}
 
 Tagebuchschreiber::~Tagebuchschreiber() {
-    if (Laeuft() && !Hole(LaengstesEnde))
+    if (Laeuft() && !Hole(Nebenfaden::LaengstesSchweigen))
         LasseZurueck();
 }
 
@@ -32,7 +25,7 @@ void Tagebuchschreiber::Beginne(Auftrag auftrag) {
 }
 
 bool Tagebuchschreiber::SchweigtLange() const {
-    return Laeuft() && DieUmgebung().Uhr() - begonnen > LaengstesSchweigen;
+    return Laeuft() && DieUmgebung().Uhr() - begonnen > Nebenfaden::LaengstesSchweigen;
 }
 
 std::optional<Tagebuchschreiber::Ergebnis> Tagebuchschreiber::Hole(std::chrono::milliseconds hoechstens) {
