@@ -358,6 +358,19 @@ TEST_F(FrmWiedergabeTest, A_note_that_is_too_long_ends_with_an_ellipsis_and_is_w
     ASSERT_TRUE(WarteBis([&] { return meldung.text().startsWith("Notiz: Bahn"); }));
     EXPECT_TRUE(meldung.text().endsWith(u'…'));
     EXPECT_EQ(meldung.toolTip().toStdString(), "Notiz: " + lange);
+
+    const auto kurze = meldung.text().size();
+    leiste->resize(leiste->width() + 300, leiste->height());
+    QApplication::processEvents();
+    EXPECT_GT(meldung.text().size(), kurze) << "more of it where there is more room";
+}
+
+TEST_F(FrmWiedergabeTest, Of_a_long_input_that_is_no_time_the_beginning_is_quoted) {
+    leiste->resize(2000, leiste->sizeHint().height());
+    Tippe("irgendwann am Nachmittag, etwa halb drei");
+    EXPECT_TRUE(Meldung().starts_with("„irgendwann am Nachmitta…“ ist keine Uhrzeit")) << Meldung();
+    Tippe("am Nachmittag um halb 3!");
+    EXPECT_TRUE(Meldung().starts_with("„am Nachmittag um halb 3!“ ist")) << Meldung();
 }
 
 } // namespace varnoth
