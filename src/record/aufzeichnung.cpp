@@ -65,7 +65,7 @@ std::optional<int> Aufzeichnung::Beginne(std::shared_ptr<const Abbild> konfigura
     return innen->beginn;
 }
 
-bool Aufzeichnung::Beende(std::chrono::milliseconds hoechstens) {
+bool Aufzeichnung::LassEnden(std::chrono::milliseconds hoechstens) {
     if (!faden)
         return true;
     {
@@ -73,13 +73,19 @@ bool Aufzeichnung::Beende(std::chrono::milliseconds hoechstens) {
         innen->zuEnde = true;
     }
     innen->wecker.notify_one();
-    const bool geendet = faden->WarteAufEnde(hoechstens);
-    if (!geendet) {
-        innen->GibAuf();
-        faden->LasseZurueck();
-    }
+    if (!faden->WarteAufEnde(hoechstens))
+        return false;
     faden.reset();
-    return geendet;
+    return true;
+}
+
+bool Aufzeichnung::Beende(std::chrono::milliseconds hoechstens) {
+    if (LassEnden(hoechstens))
+        return true;
+    innen->GibAuf();
+    faden->LasseZurueck();
+    faden.reset();
+    return false;
 }
 
 /// The thread may still write what it has; nobody will hear of it.

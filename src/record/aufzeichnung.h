@@ -36,8 +36,11 @@ public:
     /// over meanwhile is written then; an error that comes later is in `Stand`, with no file begun.
     std::optional<int> Beginne(std::shared_ptr<const Abbild> konfiguration,
                                std::chrono::milliseconds hoechstens = Beliebig);
-    /// Writes what is waiting, and ends the files whole. Nothing is taken from then on. False when that takes
-    /// longer than given: the thread is left to itself, and what it has not written by now counts as dropped.
+    /// Lets the thread write what is waiting and end the files whole, and waits for that so long at most:
+    /// whether it has ended. Nothing is to be handed over from then on; may be asked again.
+    bool LassEnden(std::chrono::milliseconds hoechstens);
+    /// The same for the last time. False when it takes longer than given: the thread is left to itself, and
+    /// what it has not written by now counts as dropped.
     bool Beende(std::chrono::milliseconds hoechstens = Beliebig);
 
     // After Beginne, from the same thread:

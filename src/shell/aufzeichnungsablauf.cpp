@@ -42,6 +42,8 @@ constexpr Zeit Sicherungsschritt = std::chrono::milliseconds(2); // at one go, o
 constexpr auto LaengstesEnde = Nebenfaden::LaengstesSchweigen;
 // As long as a disk that answers needs; nobody notices that it was waited for.
 constexpr std::chrono::milliseconds LaengsterBeginn(50);
+constexpr std::chrono::milliseconds
+    LaengsterHalt(500); // the rest has to be safe on the disk, which takes longer
 constexpr std::int16_t TextKeinBeginn = 6230, TextUnterbrochen = 6231, TextGehtWeiter = 6232,
                        TextBeendet = 6233, TextMengen = 6272, TextSpeicherSichern = 6279,
                        TextVrecfilter = 6280, TextAntwortetNicht = 6752, TextNichtZuEnde = 6753,
@@ -144,9 +146,23 @@ void Aufzeichnungsablauf::MerkeBeginn(const Aufzeichnungsstand& stand) {
 }
 
 void Aufzeichnungsablauf::Beende() {
-    if (!Laeuft())
+    if (!Nimmt())
         return;
-    const bool ganz = aufzeichnung->Beende(LaengstesEnde);
+    endetSeit = DieUmgebung().Uhr();
+    BlickeNachDemEnde(LaengsterHalt);
+}
+
+/// A disk that does not answer at once gets its time while the program goes on.
+void Aufzeichnungsablauf::BlickeNachDemEnde(std::chrono::milliseconds hoechstens) {
+    if (aufzeichnung->LassEnden(hoechstens))
+        return SchliesseAb(true);
+    if (DieUmgebung().Uhr() - *endetSeit >= LaengstesEnde)
+        return SchliesseAb(aufzeichnung->Beende(std::chrono::milliseconds(0)));
+    marke->Zeige(Markentext(Lage(), IstLive()));
+}
+
+void Aufzeichnungsablauf::SchliesseAb(bool ganz) {
+    endetSeit.reset();
     letzter = aufzeichnung->Stand();
     aufzeichnung.reset();
     takt.stop();
@@ -175,12 +191,12 @@ void Aufzeichnungsablauf::MerkeEnde(bool ganz) {
 }
 
 void Aufzeichnungsablauf::Notiere(Zeit uhr, Systemzeit zeit, const std::string& text) {
-    if (Laeuft())
+    if (Nimmt())
         aufzeichnung->Nimm({.art = Messereignisart::Notiz, .laufzeit = uhr, .zeit = zeit, .text = text});
 }
 
 void Aufzeichnungsablauf::Hoere(const Messdurchgang& durchgang) {
-    if (!Laeuft())
+    if (!Nimmt())
         return;
     if (FolgeKonfiguration())
         aufzeichnung->SetzeKonfiguration(konfiguration);
@@ -188,12 +204,12 @@ void Aufzeichnungsablauf::Hoere(const Messdurchgang& durchgang) {
 }
 
 void Aufzeichnungsablauf::Hoere(const Liveereignis& ereignis) {
-    if (Laeuft())
+    if (Nimmt())
         aufzeichnung->Nimm({.art = ArtVon(ereignis.art), .laufzeit = ereignis.uhr, .zeit = ereignis.zeit});
 }
 
 bool Aufzeichnungsablauf::Braucht(int /*teil*/) const {
-    return Laeuft() || flugschreiber.alleTeile;
+    return Nimmt() || flugschreiber.alleTeile;
 }
 
 /// Whether the configuration in use has become another.
@@ -208,6 +224,8 @@ bool Aufzeichnungsablauf::FolgeKonfiguration() {
 void Aufzeichnungsablauf::BlickeNach() {
     if (!Laeuft())
         return;
+    if (endetSeit)
+        return BlickeNachDemEnde(std::chrono::milliseconds(0));
     const Aufzeichnungslage lage = Lage();
     if (lage.stand.fehler != 0 && lage.stand.dateien == 0)
         return Beende();
@@ -253,7 +271,7 @@ Aufzeichnungslage Aufzeichnungsablauf::Lage() {
 }
 
 std::string Aufzeichnungsablauf::Hindernis() const {
-    if (letzter.wartet)
+    if (letzter.wartet || endetSeit)
         return LadeText(TextAntwortetNicht);
     return letzter.fehler != 0 ? Systemfehler(letzter.fehler) : std::string();
 }
@@ -366,7 +384,8 @@ void Aufzeichnungsablauf::Schliesse() {
     const auto anfang = std::chrono::steady_clock::now();
     if (sicherung != nullptr)
         static_cast<void>(sicherung->Arbeite(LaengstesEnde)); // its disk has the time of the other's too
-    Beende();
+    if (Laeuft())
+        SchliesseAb(aufzeichnung->Beende(LaengstesEnde));
     const auto vergangen =
         std::chrono::floor<std::chrono::milliseconds>(std::chrono::steady_clock::now() - anfang);
     if (sicherung != nullptr)

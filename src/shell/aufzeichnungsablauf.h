@@ -9,6 +9,7 @@
 
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -40,7 +41,8 @@ public:
     explicit Aufzeichnungsablauf(Ziel ziel);
     ~Aufzeichnungsablauf() override;
 
-    /// Begins a recording under the name that is proposed, or ends the one that runs.
+    /// Begins a recording under the name that is proposed, or ends the one that runs. It counts as running
+    /// until its disk has taken the rest, or has not answered for long.
     void Schalte();
     bool Laeuft() const { return aufzeichnung != nullptr; }
     /// Keeps a note in the recording that runs.
@@ -56,7 +58,7 @@ private:
     void Hoere(const Messdurchgang& durchgang) override;
     void Hoere(const Liveereignis& ereignis) override;
     bool Braucht(int teil) const override;
-    bool LaeuftAllein() const override { return Laeuft(); }
+    bool LaeuftAllein() const override { return Nimmt(); }
 
     Aufzeichnungslage Lage() override;
     std::string Standtext() override;
@@ -76,8 +78,11 @@ private:
     Speicherlage Sicherung() override;
 
     Aufzeichnungsauftrag Auftrag(const std::string& name);
+    bool Nimmt() const { return Laeuft() && !endetSeit; }
     bool FolgeKonfiguration();
     void BlickeNach();
+    void BlickeNachDemEnde(std::chrono::milliseconds hoechstens);
+    void SchliesseAb(bool ganz);
     void MerkeBeginn(const Aufzeichnungsstand& stand);
     void MeldeKeinenBeginn(int fehler);
     std::string Hindernis() const;
@@ -98,6 +103,7 @@ private:
     bool beginnGemerkt = false;
     bool wartenGemeldet = false;
     int gemeldeterFehler = 0;
+    std::optional<Zeit> endetSeit;                ///< since when the disk has been asked to take the rest
     std::shared_ptr<Speichersicherung> sicherung; ///< of the memory, while it runs
     std::string gesichert;                        ///< the path of the last one that was saved
     QTimer takt;

@@ -143,6 +143,22 @@ TEST_F(AufzeichnungTest, A_disk_that_never_answers_holds_up_the_end_no_longer_th
     EXPECT_EQ(aufzeichnung.Stand().verworfen, 5U) << "and changes nothing of what was told";
 }
 
+TEST_F(AufzeichnungTest, A_disk_that_takes_its_time_at_the_end_can_be_asked_again) {
+    tor.release(1000);
+    Aufzeichnung aufzeichnung(ablage, Auftrag(), Jetzt);
+    ASSERT_EQ(aufzeichnung.Beginne(nullptr), 0);
+    ablage->Halte();
+    aufzeichnung.Nimm(Messdurchgang{});
+    ASSERT_TRUE(WarteAuf([&] { return ablage->HaeltJemanden(); }));
+    EXPECT_FALSE(aufzeichnung.LassEnden(1ms));
+    EXPECT_FALSE(aufzeichnung.LassEnden(1ms));
+    ablage->LasseLos();
+    EXPECT_TRUE(aufzeichnung.LassEnden(Aufzeichnung::Beliebig));
+    EXPECT_EQ(ablage->Inhalt("/o/n.a"), "B.E");
+    EXPECT_EQ(aufzeichnung.Stand().verworfen, 0U);
+    EXPECT_TRUE(aufzeichnung.Beende(0ms)) << "nothing runs";
+}
+
 TEST_F(AufzeichnungTest, A_recording_that_was_left_behind_can_be_destroyed_before_its_disk_answers) {
     tor.release(1000);
     auto aufzeichnung = std::make_unique<Aufzeichnung>(ablage, Auftrag(), Jetzt);

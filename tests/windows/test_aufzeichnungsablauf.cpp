@@ -8,6 +8,7 @@
 #include "fenstertest.h"
 #include "messhoerer.h"
 #include "messspeicher.h"
+#include "nebenfaden.h"
 #include "pruefablage.h"
 #include "pruefumgebung.h"
 #include "registerabbild.h"
@@ -490,6 +491,54 @@ TEST_F(AufzeichnungsablaufTest, Disks_that_never_answer_hold_up_the_end_of_the_p
                             Ereignisart::AufzeichnungOhnePlatz, Ereignisart::AufzeichnungBeendet));
     ablage->LasseLos();
     platte->release();
+    EXPECT_TRUE(WarteBis([&] { return ablage->AllesGeschlossen(); })) << "the thread has come back";
+}
+
+TEST_F(AufzeichnungsablaufTest, A_disk_that_does_not_answer_at_the_end_gets_its_time_and_holds_up_nobody) {
+    ablage = std::make_shared<pruefung::PruefAblage>();
+    Ablauf().Schalte();
+    ablage->Halte();
+    MeldeDurchgang(4711);
+    ASSERT_TRUE(WarteBis([&] { return ablage->HaeltJemanden(); }));
+    MeldeDurchgang(4712);
+    QElapsedTimer vergangen;
+    vergangen.start();
+    Ablauf().Schalte();
+    EXPECT_LT(vergangen.elapsed(), 2000) << "the window goes on";
+    EXPECT_TRUE(Ablauf().Laeuft());
+    EXPECT_FALSE(modMesshoerer::LaeuftAllein());
+    EXPECT_THAT(Marke().text().toStdString(), HasSubstr("The disk does not answer."));
+    MeldeDurchgang(4713);
+    Ablauf().Schalte();
+    EXPECT_TRUE(Ablauf().Laeuft()) << "a second click neither ends nor begins anything";
+    ablage->LasseLos();
+    ASSERT_TRUE(WarteBis([&] { return !Ablauf().Laeuft(); }));
+    const std::string text = ablage->Inhalt(*ablage->Pfade().begin());
+    EXPECT_THAT(text, HasSubstr(",4712,"));
+    EXPECT_THAT(text, Not(HasSubstr(",4713,")));
+    EXPECT_FALSE(Marke().isVisible());
+    EXPECT_THAT(umgebung.statustexte[0], HasSubstr("The recording has ended: "));
+    EXPECT_THAT(gemeldet, ElementsAre(true, false));
+    EXPECT_THAT(Ereignisarten(),
+                ElementsAre(Ereignisart::AufzeichnungBegonnen, Ereignisart::AufzeichnungBeendet));
+}
+
+TEST_F(AufzeichnungsablaufTest, A_disk_that_never_answers_at_the_end_is_given_up_after_seconds) {
+    ablage = std::make_shared<pruefung::PruefAblage>();
+    Ablauf().Schalte();
+    ablage->Halte();
+    MeldeDurchgang(1);
+    ASSERT_TRUE(WarteBis([&] { return ablage->HaeltJemanden(); }));
+    Ablauf().Schalte();
+    EXPECT_FALSE(WarteBis([&] { return !Ablauf().Laeuft(); }, 1000)) << "its time is not over";
+    umgebung.uhr += Nebenfaden::LaengstesSchweigen;
+    ASSERT_TRUE(WarteBis([&] { return !Ablauf().Laeuft(); }));
+    EXPECT_FALSE(Marke().isVisible());
+    EXPECT_THAT(umgebung.statustexte[0], HasSubstr("is not written to its end"));
+    EXPECT_THAT(Ereignisarten(),
+                ElementsAre(Ereignisart::AufzeichnungBegonnen, Ereignisart::Verworfen,
+                            Ereignisart::AufzeichnungOhnePlatz, Ereignisart::AufzeichnungBeendet));
+    ablage->LasseLos();
     EXPECT_TRUE(WarteBis([&] { return ablage->AllesGeschlossen(); })) << "the thread has come back";
 }
 
