@@ -1,5 +1,6 @@
 #include "leitungsseite.h"
 
+#include "anschluss.h"
 #include "portzeile.h"
 #include "spaltenbreite.h"
 #include "texte.h"
@@ -37,7 +38,8 @@ QString Q(const std::string& text) {
 std::string Linientext(const Anschlussstand& stand) {
     if (stand.simuliert)
         return LadeTextMit(TextAnschlussSimuliert, {stand.wahl.format});
-    return LadeTextMit(TextAnschluss, {Comname(stand.wahl.nummer), stand.Geraet(), stand.wahl.format});
+    return LadeTextMit(TextAnschluss,
+                       {Portname(Comname(stand.wahl.nummer), stand.Geraet()), stand.wahl.format});
 }
 
 } // namespace

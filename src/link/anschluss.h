@@ -11,6 +11,11 @@ struct Anschluss {
     bool simuliert = false; ///< the built-in controller answers
 };
 
+/// A port by its number and by its device, "COM1, /dev/ttyS0"; once where the system calls the device so too.
+inline std::string Portname(const std::string& nummer, const std::string& geraet) {
+    return geraet == nummer ? nummer : nummer + ", " + geraet;
+}
+
 /// What stands in the way of a port, as far as the system tells.
 enum class Hindernis {
     Keines,

@@ -40,7 +40,7 @@ std::string Anschlusszeile(const Anschluss& anschluss) {
     if (anschluss.simuliert)
         return LadeTextMit(TextAnschlussSimuliert, {format});
     const std::string port = "COM" + std::to_string(modSchnittstelle::GetComPort());
-    return LadeTextMit(TextAnschluss, {port, anschluss.geraet, format});
+    return LadeTextMit(TextAnschluss, {Portname(port, anschluss.geraet), format});
 }
 
 std::string OhneRecht(const std::string& geraet, const Portbefund& befund, const std::string& fehlertext) {

@@ -1,5 +1,6 @@
 #include "verbindungsanzeige.h"
 
+#include "anschluss.h"
 #include "identifikation.h"
 #include "kurzlabel.h"
 #include "leitungsstatistik.h"
@@ -150,7 +151,7 @@ void Verbindungsanzeige::MerkeZustand(const Inhalt& inhalt) {
                   .neu = static_cast<int>(inhalt.bild.zustand),
                   .text = wiedergegeben
                               ? gegenstand.aufzeichnung
-                              : gegenstand.port + ", " + gegenstand.geraet + ", " + gegenstand.format});
+                              : Portname(gegenstand.port, gegenstand.geraet) + ", " + gegenstand.format});
 }
 
 void Verbindungsanzeige::Zeige(const Inhalt& inhalt, const QDateTime& jetzt) {

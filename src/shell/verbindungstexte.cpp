@@ -1,5 +1,6 @@
 #include "verbindungstexte.h"
 
+#include "anschluss.h"
 #include "texte.h"
 #include "textmitwerten.h"
 
@@ -94,7 +95,8 @@ std::string Verbindungshinweis(const Verbindungsbild& bild, const Verbindungsgeg
     if (bild.simuliert)
         HaengeAn(text, "\n", LadeText(TextEingebaut));
     else
-        HaengeAn(text, "\n", LadeTextMit(TextPort, {gegenstand.port, EineZeile(gegenstand.geraet)}));
+        HaengeAn(text, "\n",
+                 LadeTextMit(TextPort, {Portname(gegenstand.port, EineZeile(gegenstand.geraet))}));
     HaengeAn(text, "\n", LadeTextMit(TextFormat, {EineZeile(gegenstand.format)}));
     NenneSteuergeraet(text, gegenstand);
     if (bild.durchgaengeJeSekunde > 0)

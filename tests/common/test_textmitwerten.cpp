@@ -12,7 +12,7 @@ protected:
 };
 
 TEST_F(TextMitWerten, The_values_stand_where_their_marks_were) {
-    EXPECT_EQ(LadeTextMit(9111, {"COM2", "/dev/ttyUSB0"}), "Port: COM2, /dev/ttyUSB0");
+    EXPECT_EQ(LadeTextMit(8365, {"COM2", "9600,e,8,1"}), "Port: COM2, Format 9600,e,8,1");
 }
 
 TEST_F(TextMitWerten, The_text_is_in_the_current_language) {
@@ -21,11 +21,11 @@ TEST_F(TextMitWerten, The_text_is_in_the_current_language) {
 }
 
 TEST_F(TextMitWerten, A_value_that_looks_like_a_mark_is_shown_as_it_is) {
-    EXPECT_EQ(LadeTextMit(9111, {"%2", "%1"}), "Port: %2, %1");
+    EXPECT_EQ(LadeTextMit(8365, {"%2", "%1"}), "Port: %2, Format %1");
 }
 
 TEST_F(TextMitWerten, A_mark_without_a_value_stays) {
-    EXPECT_EQ(LadeTextMit(9111, {"COM1"}), "Port: COM1, %2");
+    EXPECT_EQ(LadeTextMit(8365, {"COM1"}), "Port: COM1, Format %2");
 }
 
 TEST_F(TextMitWerten, One_thing_is_told_otherwise_than_several_or_none) {

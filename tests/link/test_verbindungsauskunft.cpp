@@ -124,6 +124,11 @@ TEST_F(VerbindungsauskunftTest, Before_any_exchange_no_cause_is_made_up) {
     EXPECT_EQ(Ursache({}), "");
 }
 
+TEST_F(VerbindungsauskunftTest, A_device_that_is_called_like_its_port_is_named_once) {
+    modSchnittstelle::SetzeGeraet("COM1");
+    EXPECT_EQ(LiesVerbindungsauskunft().anschluss, "COM1, format 38400,n,8,2");
+}
+
 TEST_F(VerbindungsauskunftTest, The_message_keeps_its_text_and_title) {
     modModbus::RTUModeH11IndentifikationsAnforderung();
     const Meldung meldung = MeldungOhneVerbindung("text", "title");

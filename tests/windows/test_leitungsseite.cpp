@@ -36,6 +36,9 @@ TEST_F(LeitungsseiteTest, It_says_which_line_is_checked) {
     leitung.stand.geraetDiesesLaufs = "/dev/pts/3";
     Fenster().Erneuere();
     EXPECT_EQ(Text("lblLeitung"), "COM1, /dev/pts/3, Format 38400,n,8,2");
+    leitung.stand.geraetDiesesLaufs = "COM1";
+    Fenster().Erneuere();
+    EXPECT_EQ(Text("lblLeitung"), "COM1, Format 38400,n,8,2");
     leitung.stand.simuliert = true;
     Fenster().Erneuere();
     EXPECT_EQ(Text("lblLeitung"), "Eingebautes Steuergerät, Format 38400,n,8,2");

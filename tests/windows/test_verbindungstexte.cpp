@@ -107,6 +107,13 @@ TEST_F(VerbindungstexteTest, Before_a_controller_has_said_who_it_is_the_tip_name
               "Fehlgeschlagen in der letzten Minute: 0");
 }
 
+TEST_F(VerbindungstexteTest, A_device_that_is_called_like_its_port_is_named_once) {
+    EXPECT_NE(Verbindungshinweis({.zustand = Offline},
+                                 {.port = "COM1", .geraet = "COM1", .format = "9600,e,8,1"}, jetzt)
+                  .find("Port: COM1\n"),
+              std::string::npos);
+}
+
 TEST_F(VerbindungstexteTest, With_the_built_in_controller_no_port_is_named) {
     const std::string hinweis = Verbindungshinweis({.zustand = Live, .simuliert = true}, gegenstand, jetzt);
     EXPECT_NE(hinweis.find("Kein Anschluss"), std::string::npos);
