@@ -17,6 +17,8 @@ namespace {
 constexpr Zeit Uebergabe = std::chrono::microseconds(200);
 // Whether the far end has hung up is asked for this often at most; an exchange would ask five times.
 constexpr Zeit Leitungsblick = std::chrono::milliseconds(1);
+// A reply that takes longer than this leaves room for everything.
+constexpr Zeit LaengsterAufschub = std::chrono::milliseconds(50);
 
 } // namespace
 
@@ -80,6 +82,7 @@ void Leitungsport::Schreibe(std::string_view bytes) {
     if (!IstAuf())
         return;
     Sende(bytes);
+    gesendetUm = DieUmgebung().Uhr();
     UebergibUndMale();
 }
 
@@ -93,12 +96,21 @@ void Leitungsport::UebergibUndMale() {
     if (IstAuf())
         Schlummere(Uebergabe);
     if (BytesImSystem() == 0 || DieUmgebung().Uhr() >= naechsterFensterblick)
-        SchaueNachDemFenster();
+        Male();
 }
 
-/// The window's turn: the line is busy.
-void Leitungsport::SchaueNachDemFenster() {
+/// Everything: the line is busy.
+void Leitungsport::Male() {
     DieUmgebung().NutzeWartezeit();
+    naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
+}
+
+/// The window's turn while a reply comes in. What was put off may take longer than the rest of it; the next
+/// request is soon sent, and gives it a whole wait.
+void Leitungsport::SchaueNachDemFenster() {
+    if (DieUmgebung().Uhr() - gesendetUm >= LaengsterAufschub)
+        return Male();
+    DieUmgebung().LasseEreignisseLaufen();
     naechsterFensterblick = DieUmgebung().Uhr() + Fensterblick;
 }
 

@@ -61,11 +61,13 @@ private:
     std::string Pfad(int nummer) const;
     void UebergibUndMale();
     void SchaueNachDemFenster();
+    void Male();
     void Schlummere(Zeit hoechstens);
 
     std::string genanntes; // the device that all numbers mean; empty: what the settings say
     std::optional<std::string> falscheEinstellung; // the settings string that is no line format
     std::function<void(int)> ereignisbehandlung;
+    Zeit gesendetUm{0};
     Zeit naechsterFensterblick{0};
     Zeit naechsterLeitungsblick{0};
 };

@@ -166,6 +166,29 @@ TEST_F(LeitungsportTest, What_was_put_off_is_done_once_the_system_has_handed_the
     EXPECT_TRUE(getan);
 }
 
+TEST_F(LeitungsportTest, What_is_put_off_while_a_reply_comes_in_waits_for_the_next_request) {
+    port.Schreibe("request");
+    bool getan = false;
+    umgebung.FuerWartezeit([&] { getan = true; });
+    umgebung.uhr += 4ms;
+    port.WarteAufEingang(10s);
+    EXPECT_EQ(Fensterblicke(), 1);
+    EXPECT_FALSE(getan);
+    port.Schreibe("next");
+    EXPECT_TRUE(getan);
+}
+
+TEST_F(LeitungsportTest, A_reply_that_takes_long_leaves_room_for_what_was_put_off) {
+    port.Schreibe("request");
+    bool getan = false;
+    umgebung.FuerWartezeit([&] { getan = true; });
+    umgebung.uhr += 49ms;
+    port.WarteAufEingang(10s);
+    EXPECT_FALSE(getan);
+    port.WarteAufEingang(10s);
+    EXPECT_TRUE(getan);
+}
+
 TEST_F(LeitungsportTest, A_line_that_has_answered_by_then_leaves_the_window_to_its_usual_turn) {
     port.Schreibe("first");
     umgebung.FuerWartezeit([] {});
