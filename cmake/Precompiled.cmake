@@ -1,7 +1,7 @@
 # Headers of Qt, GoogleTest and the standard library that most sources of a kind include take longer to read than the
 # sources themselves; a build from nothing reads them once for each kind. No header of ours is among them: a wrong include
-# is still a file that the compiler cannot find. clang-tidy reads every source without them (scripts/tidy), so that each
-# still names what it uses.
+# is still a file that the compiler cannot find. The windows preset does without them, so that the sources of the product
+# still name what they use.
 
 # varnoth_headers(KIND HEADERS header... [LIBS library...]): the precompiled headers of a KIND of sources.
 function(varnoth_headers kind)

@@ -1,7 +1,6 @@
 # Most of what a compiler does for a test source is the same for its neighbours: it instantiates templates of GoogleTest,
 # Qt and the standard library, and reads the headers of the rooms. Where VARNOTH_TOGETHER is on, it does so once for
-# several sources of a program. The other presets and clang-tidy read each source alone, so that each still names what
-# it uses.
+# several sources of a program. The other presets read each source alone, so that each still names what it uses.
 
 # varnoth_together(TARGET [ALONE file...]): compiles the sources of TARGET a few at a time. ALONE are those in which an
 # unnamed namespace has a name that another source of the program or a room knows for something else.

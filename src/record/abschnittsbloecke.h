@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <ranges>
 
 namespace varnoth {
 
@@ -33,13 +34,13 @@ public:
     /// The largest block from a stretch on that is as asked for; nullptr if there is none.
     template<class Bedingung>
     const Block* Ab(std::uint64_t abschnitt, Bedingung passt) const {
-        for (auto stufe = stufen.rbegin(); stufe != stufen.rend(); ++stufe) {
-            const std::uint64_t stelle = abschnitt / stufe->laenge;
-            if (abschnitt % stufe->laenge != 0 || stelle < stufe->erster)
+        for (const Stufe& stufe : std::ranges::reverse_view(stufen)) {
+            const std::uint64_t stelle = abschnitt / stufe.laenge;
+            if (abschnitt % stufe.laenge != 0 || stelle < stufe.erster)
                 continue;
-            const std::uint64_t i = stelle - stufe->erster;
-            if (i < stufe->bloecke.size() && passt(stufe->bloecke[i]))
-                return &stufe->bloecke[i];
+            const std::uint64_t i = stelle - stufe.erster;
+            if (i < stufe.bloecke.size() && passt(stufe.bloecke[i]))
+                return &stufe.bloecke[i];
         }
         return nullptr;
     }

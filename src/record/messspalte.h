@@ -13,7 +13,7 @@ namespace varnoth {
 inline constexpr int AnzahlKurvenwerte = 6;
 /// Where their minimum and maximum registers begin among the measured values.
 inline constexpr std::size_t ErstesMinimum = AnzahlKurvenwerte;
-inline constexpr std::size_t ErstesMaximum = 2 * AnzahlKurvenwerte;
+inline constexpr std::size_t ErstesMaximum = 2 * ErstesMinimum;
 
 /// What was seen of an optical part in a stretch of time.
 struct Teilspalte {

@@ -48,6 +48,7 @@ QString Q(const std::string& text) {
 /// What a view is set up for.
 std::vector<std::pair<std::int32_t, std::int32_t>> Aufbau(const Abbild& abbild) {
     std::vector<std::pair<std::int32_t, std::int32_t>> aufbau;
+    aufbau.reserve(AnzahlOptikteile);
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         aufbau.emplace_back(abbild.HoleRegister(Spezifisch, spezifisch::Strahlenzahl, teil),
                             abbild.HoleRegister(Spezifisch, spezifisch::Aufloesung, teil));

@@ -69,7 +69,9 @@ void SetzeAlle(Registerspeicher& speicher, std::span<const std::uint8_t> inhalt)
 
 Band::Band(const std::filesystem::path& pfad) : datei(pfad, std::ios::binary) {
     std::error_code fehler;
-    if (!datei || (groesse = std::filesystem::file_size(pfad, fehler), fehler))
+    if (datei)
+        groesse = std::filesystem::file_size(pfad, fehler);
+    if (!datei || fehler)
         throw std::runtime_error("the record " + pfad.string() + " cannot be read: " +
                                  (fehler ? fehler.message() : std::generic_category().message(errno)));
     try {

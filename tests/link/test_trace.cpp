@@ -100,7 +100,7 @@ TEST_F(TraceTest, One_byte_more_than_a_million_closes_the_file_at_the_next_clear
 }
 
 TEST_F(TraceTest, Only_the_user_may_read_the_file_whatever_the_umask) {
-    for (const mode_t maske : {0000, 0022, 0777}) {
+    for (const mode_t maske : {mode_t{0000}, mode_t{0022}, mode_t{0777}}) {
         const mode_t vorher = ::umask(maske);
         modTrace::Starte(pfad);
         ::umask(vorher);

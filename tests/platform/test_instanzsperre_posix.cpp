@@ -59,8 +59,7 @@ TEST_F(SperreUnterLinux, A_lock_goes_with_the_program_that_was_killed) {
     const Kind erste([&](int rohr) {
         Instanzsperre sperre(Name, ordner.path());
         const bool belegt = sperre.Belege();
-        const bool gesagt = write(rohr, belegt ? "j" : "n", 1) == 1;
-        while (gesagt)
+        if (write(rohr, belegt ? "j" : "n", 1) == 1)
             pause();
         return std::string();
     });

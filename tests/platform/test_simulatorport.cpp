@@ -35,7 +35,7 @@ TEST_F(SimulatorPortTest, An_exchange_takes_its_time_on_the_wire) {
     const Zeit beginn = umgebung.uhr;
     EXPECT_EQ(modModbus::RTUModeH03LeseAnforderung(0x214F, 18, werte), True);
     constexpr auto zeichen = 8 + 5 + 2 * 18;
-    constexpr Zeit erwartet(zeichen * 11 * 1'000'000LL / 38400 + 2000);
+    constexpr Zeit erwartet(1'000'000LL * zeichen * 11 / 38400 + 2000);
     EXPECT_GE(umgebung.uhr - beginn, erwartet);
     EXPECT_LT(umgebung.uhr - beginn, erwartet + 1ms);
 }

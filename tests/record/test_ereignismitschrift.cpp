@@ -17,7 +17,7 @@ protected:
             {.art = Ereignisart::Notiz, .zeit = Systemzeit(24h * 365) + seit, .offen = offen, .text = text});
     }
     std::string Schreibe() {
-        const std::string zeilen = mitschrift.Faellige().zeilen;
+        std::string zeilen = mitschrift.Faellige().zeilen;
         mitschrift.Erledige();
         return zeilen;
     }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <ranges>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,10 +25,8 @@ public:
         return fehler;
     }
     std::vector<Sicherung> Alle() const override {
-        std::vector<Sicherung> alle;
-        for (const auto& [sicherung, abbild] : gelegte)
-            alle.push_back(sicherung);
-        return alle;
+        const auto alle = gelegte | std::views::keys;
+        return {alle.begin(), alle.end()};
     }
     std::optional<Abbild> Lies(const Sicherung& sicherung) const override {
         for (const auto& [eine, abbild] : gelegte)

@@ -26,7 +26,7 @@ protected:
 
     int AnzahlAnforderungen() const { return static_cast<int>(port.gesendet.size()); }
     /// The controller keeps silent; `dabei` runs with the number of each request, from 1.
-    void Schweige(std::function<void(int anforderung)> dabei = {}) {
+    void Schweige(const std::function<void(int anforderung)>& dabei = {}) {
         geraet.schweige = [this, dabei](const std::string&) {
             if (dabei)
                 dabei(AnzahlAnforderungen());
@@ -34,7 +34,7 @@ protected:
         };
     }
     /// The controller answers; `dabei` runs with the number of each request, from 1, before its answer.
-    void BeiAnforderung(std::function<void(int anforderung)> dabei) {
+    void BeiAnforderung(const std::function<void(int anforderung)>& dabei) {
         geraet.schweige = [this, dabei](const std::string&) {
             dabei(AnzahlAnforderungen());
             return false;

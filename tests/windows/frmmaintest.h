@@ -62,7 +62,7 @@ protected:
         geraet.Register(0x4000 + kommunikation::Datenblock) = 20;
     }
     /// Does something with the dialog of this name as soon as it is shown.
-    void Sobald(const char* dialogname, std::function<void(QDialog&)> tat) {
+    void Sobald(const char* dialogname, const std::function<void(QDialog&)>& tat) {
         auto* blick = new QTimer(&Fenster());
         QObject::connect(blick, &QTimer::timeout, blick, [=] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());

@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace varnoth {
 
 using pruefung::Bytes;
@@ -20,9 +22,8 @@ protected:
 
     void Aktualisiere() { AktualisiereFirmware(*this); }
     std::vector<std::string> Gezeigt() const {
-        std::vector<std::string> texte;
-        for (const Meldung& meldung : umgebung.meldungen)
-            texte.push_back(meldung.text);
+        std::vector<std::string> texte(umgebung.meldungen.size());
+        std::ranges::transform(umgebung.meldungen, texte.begin(), &Meldung::text);
         return texte;
     }
 

@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace varnoth {
@@ -39,9 +40,8 @@ protected:
     /// Every request since then: "identify", "read <address> <count>", "write <address> <values>", numbers in
     /// hex.
     std::vector<std::string> Anforderungen() const {
-        std::vector<std::string> zeilen;
-        for (const std::string& bytes : port.gesendet)
-            zeilen.push_back(Zeile(bytes));
+        std::vector<std::string> zeilen(port.gesendet.size());
+        std::ranges::transform(port.gesendet, zeilen.begin(), Zeile);
         return zeilen;
     }
     /// Rejects whatever dialog comes, once, and gives its name.
@@ -338,7 +338,7 @@ TEST_F(FrmMainAblauf, Behind_the_report_live_data_goes_on_with_what_it_showed_an
 
 TEST_F(FrmMainAblauf, Behind_a_report_that_took_another_configuration_in_live_data_stays_off) {
     const QTemporaryDir ordner;
-    const std::string pfad = ordner.filePath("stand.txt").toStdString();
+    std::string pfad = ordner.filePath("stand.txt").toStdString();
     SchliesseAn({32, 0, 0, 0});
     Fenster().Autostart();
     modDaten::LoescheGeaendert();
@@ -361,7 +361,7 @@ TEST_F(FrmMainAblauf, Behind_a_report_that_took_another_configuration_in_live_da
 
 TEST_F(FrmMainAblauf, A_report_tells_the_state_that_live_data_last_saw_of_the_parts) {
     const QTemporaryDir ordner;
-    const std::string pfad = ordner.filePath("bericht.html").toStdString();
+    std::string pfad = ordner.filePath("bericht.html").toStdString();
     SchliesseAn({32, 0, 0, 0});
     Fenster().Autostart();
     SetzeDateiantwort([&](const Dateifrage&) { return pfad; });
