@@ -146,7 +146,7 @@ TEST_F(CtlPorts, A_controller_that_sends_by_itself_is_found_and_the_line_check_h
         ASSERT_EQ(leitung.read(1).size(), 1) << "it has confirmed that it is to send by itself";
     }
     EXPECT_EQ(Fuehre({"find"}).code, 0);
-    const auto objekt = InJson({"linecheck", "--requests", "20"});
+    const auto objekt = InJson({"linecheck", "--requests", "60"});
     EXPECT_EQ(objekt["meaning"][0]["kind"].toString(), "autosend");
 }
 
