@@ -110,7 +110,7 @@ void Verbindungsablauf::Uebernimm(const Anschlusswahl& wahl, bool verbinde) {
 void Verbindungsablauf::FuehreUebernahmeAus() {
     SetzeInKraft(gewaehltes);
     Fenster().Uebernommen();
-    if (std::exchange(dannVerbinden, false))
+    if (dannVerbinden)
         ziel.klick(Befehl::VisualisierenStart);
 }
 

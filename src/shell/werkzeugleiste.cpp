@@ -230,28 +230,29 @@ bool Werkzeugleiste::BehandleTaste(QToolButton& knopf, int taste) {
     case Qt::Key_Right:
     case Qt::Key_Down:
         Gehe(platz, 1);
-        return true;
+        break;
     case Qt::Key_Left:
     case Qt::Key_Up:
         Gehe(platz, -1);
-        return true;
+        break;
     case Qt::Key_Home:
         Gehe(-1, 1);
-        return true;
+        break;
     case Qt::Key_End:
         Gehe(static_cast<std::ptrdiff_t>(knoepfe.size()), -1);
-        return true;
+        break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
         Druecke(knopf);
-        return true;
+        break;
     case Qt::Key_Escape:
         Verlasse();
-        return true;
+        break;
     default:
         return false;
     }
+    return true;
 }
 
 bool Werkzeugleiste::eventFilter(QObject* objekt, QEvent* ereignis) {

@@ -101,6 +101,8 @@ TEST_F(AnsichtenTest, Where_only_some_have_a_place_a_tiling_of_an_earlier_run_mo
     einstellungen.texte[{"Ansichten", "Anordnung"}] = "Nebeneinander";
     Zeige({0, 1});
     EXPECT_EQ(Platz(0), platz);
+    Vergroessere({1500, 800});
+    EXPECT_EQ(Platz(0), platz) << "nor does a larger area";
 }
 
 TEST_F(AnsichtenTest, A_tiling_takes_a_new_view_in) {

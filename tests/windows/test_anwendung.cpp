@@ -283,6 +283,36 @@ TEST_F(AnwendungTest, With_nothing_to_do_the_main_loop_rests_until_an_event_come
     EXPECT_LT(runden, 100);
 }
 
+TEST_F(AnwendungTest, It_runs_until_its_window_is_closed_and_that_is_no_failure) {
+    Mit({});
+    QTimer::singleShot(0, qApp, [this] { anwendung->Hauptfenster().close(); });
+    EXPECT_EQ(anwendung->Laufe(), 0);
+    EXPECT_FALSE(anwendung->Hauptfenster().isVisible());
+}
+
+TEST_F(AnwendungTest, A_self_test_gives_the_window_the_size_of_its_picture_and_fails_without_one) {
+    Mit({"/Simulator", "/Selbsttest=" + ordner.filePath("bild")});
+    const auto ende = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    bool gesehen = false;
+    QTimer blick;
+    QObject::connect(&blick, &QTimer::timeout, &blick, [&] {
+        auto& fenster = anwendung->Hauptfenster();
+        gesehen = gesehen || fenster.size() == QSize(1280, 800);
+        if (gesehen || std::chrono::steady_clock::now() > ende)
+            fenster.close();
+    });
+    blick.start(10);
+    EXPECT_EQ(anwendung->Laufe(), 1);
+    EXPECT_TRUE(gesehen);
+    EXPECT_FALSE(QFile::exists(ordner.filePath("bild")));
+}
+
+TEST_F(AnwendungTest, A_self_test_beside_a_program_that_runs_fails) {
+    Instanzsperre erste(QStringLiteral("varnoth"), ordner.path());
+    ASSERT_TRUE(erste.Belege());
+    EXPECT_EQ(Mit({"/Selbsttest=bild"}).Laufe(), 1);
+}
+
 TEST_F(AnwendungTest, A_window_closed_during_the_splash_is_not_connected_any_more) {
     EXPECT_TRUE(Mit({}).Starte());
     anwendung->Hauptfenster().close();

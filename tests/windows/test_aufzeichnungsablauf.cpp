@@ -1,5 +1,6 @@
 #include "aufzeichnungsablauf.h"
 
+#include "aufzeichnungsmarke.h"
 #include "bedienelement.h"
 #include "dateidialog.h"
 #include "dateieingabe.h"
@@ -227,6 +228,19 @@ TEST_F(AufzeichnungsablaufTest, The_mark_is_there_while_it_records_and_leads_to_
     EXPECT_EQ(verlangt, 1);
     Ablauf().Schalte();
     EXPECT_FALSE(Marke().isVisible());
+}
+
+TEST_F(AufzeichnungsablaufTest, The_mark_says_what_a_click_does_and_leaves_the_keyboard_to_the_window) {
+    Aufzeichnungsmarke marke(leiste);
+    EXPECT_FALSE(marke.isVisible());
+    EXPECT_FALSE(marke.icon().isNull());
+    EXPECT_TRUE(marke.isFlat());
+    EXPECT_EQ(marke.focusPolicy(), Qt::NoFocus);
+    marke.Zeige("R & D");
+    EXPECT_TRUE(marke.isVisible());
+    EXPECT_EQ(marke.text(), "R && D") << "no letter is marked";
+    EXPECT_EQ(marke.accessibleName(), "R & D");
+    EXPECT_EQ(marke.toolTip().toStdString(), "R & D\n" + LadeText(6229));
 }
 
 TEST_F(AufzeichnungsablaufTest, The_mark_follows_the_language) {
@@ -553,6 +567,32 @@ TEST_F(AufzeichnungsablaufTest, Its_end_is_an_event_with_its_passes_and_duration
     EXPECT_EQ(ende.anzahl, 2U);
     EXPECT_GE(ende.dauer, std::chrono::minutes(5));
     EXPECT_THAT(ende.text, HasSubstr(".csv"));
+}
+
+TEST_F(AufzeichnungsablaufTest, The_file_for_what_is_in_memory_is_asked_for_beside_the_recordings) {
+    FuelleSpeicher();
+    std::optional<Dateifrage> gefragt;
+    SetzeDateiantwort([&](const Dateifrage& frage) -> std::optional<std::string> {
+        gefragt = frage;
+        return {};
+    });
+    SichereSpeicher();
+    ASSERT_TRUE(gefragt);
+    EXPECT_EQ(gefragt->titel, "Save memory");
+    EXPECT_EQ(gefragt->filter, "Record (*.vrec)|*.vrec");
+    EXPECT_EQ(gefragt->ordner, ordner.path().toStdString());
+    EXPECT_THAT(gefragt->name, testing::EndsWith(".vrec"));
+    EXPECT_TRUE(Im<QPushButton>("cmdSichern").isEnabled()) << "nothing is being saved";
+}
+
+TEST_F(AufzeichnungsablaufTest, The_window_follows_the_language_and_closes_with_the_program) {
+    Ablauf().Zeige();
+    EXPECT_EQ(Fenster().windowTitle(), "Recordings");
+    SetzeSprachoffset(Deutsch);
+    Ablauf().Lokalisiere();
+    EXPECT_EQ(Fenster().windowTitle(), "Aufzeichnungen");
+    Ablauf().Schliesse();
+    EXPECT_FALSE(Fenster().isVisible());
 }
 
 TEST_F(AufzeichnungsablaufTest, While_memory_is_empty_there_is_nothing_to_save) {

@@ -219,6 +219,12 @@ TEST(Befehlstabelle, Views_and_ports_have_an_action_each_other_commands_one_or_n
     }
 }
 
+TEST(Befehlstabelle, A_command_whose_action_bears_no_index_has_none) {
+    EXPECT_TRUE(std::ranges::all_of(Befehlstabelle(), [](const Befehlszeile& zeile) {
+        return zeile.anzahl > 1 || zeile.ersterIndex == 0;
+    }));
+}
+
 TEST(Befehlstabelle, An_action_of_several_bears_its_index) {
     EXPECT_EQ(Aktionsname(*ZeileZu(Befehl::ComPort), 0), "mnuCom_1");
     EXPECT_EQ(Aktionsname(*ZeileZu(Befehl::LichtleisteAnzeigen), 3), "mnuAnzeigeLichtleiste_3");

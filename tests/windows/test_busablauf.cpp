@@ -6,6 +6,7 @@
 #include "mithoeren.h"
 #include "pruefport.h"
 #include "rahmen.h"
+#include "texte.h"
 #include "versionstext.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <unistd.h>
 
 namespace varnoth {
@@ -83,6 +85,14 @@ TEST_F(BusablaufTest, Saves_the_log_where_the_user_wants_it) {
     EXPECT_EQ(gefragt[0].name, "busprotokoll");
 }
 
+TEST_F(BusablaufTest, The_next_file_is_looked_for_in_the_folder_of_the_last) {
+    ASSERT_TRUE(Druecke("cmdSpeichern"));
+    EXPECT_EQ(gefragt.back().ordner, "");
+    Fenster().findChild<QPushButton*>("cmdSpeichern")->click();
+    ASSERT_EQ(gefragt.size(), 2U);
+    EXPECT_EQ(gefragt.back().ordner, Pfad("").toStdString() + "/");
+}
+
 TEST_F(BusablaufTest, What_cannot_be_written_is_told_with_path_and_reason) {
     ziel = Pfad("missing").toStdString() + "/log.txt";
     ASSERT_TRUE(Druecke("cmdSpeichern"));
@@ -108,6 +118,17 @@ TEST_F(BusablaufTest, The_file_for_support_holds_versions_port_and_settings) {
     EXPECT_THAT(datei, HasSubstr("/dev/pruefung"));
     EXPECT_THAT(datei, HasSubstr("[Settings]\nComPort=3\n"));
     EXPECT_THAT(datei, HasSubstr("Global: PNP-Ausgang"));
+}
+
+TEST_F(BusablaufTest, Its_window_is_made_once_and_follows_the_language) {
+    const QWidget* const fenster = &Fenster();
+    SetzeSprachoffset(Englisch);
+    ablauf.Lokalisiere();
+    EXPECT_EQ(fenster->windowTitle().toStdString(), LadeText(8401));
+    ablauf.Zeige();
+    EXPECT_EQ(std::ranges::count(QApplication::topLevelWidgets(), QString("frmBusprotokoll"),
+                                 [](const QWidget* eines) { return eines->objectName(); }),
+              1);
 }
 
 TEST_F(BusablaufTest, At_the_end_of_the_program_the_window_goes_and_nobody_listens) {

@@ -162,6 +162,7 @@ protected:
 };
 
 TEST_F(StummesTagebuchTest, A_disk_that_does_not_answer_holds_up_nobody_and_is_told_once) {
+    umgebung.uhr = std::chrono::hours(1);
     Ereignistagebuch buch(Ereignistagebuch::GroessteDatei, Weg());
     buch.Setze(true, Ordner());
     Notiere("a");

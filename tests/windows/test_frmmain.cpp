@@ -5,6 +5,7 @@
 #include "dateien.h"
 #include "fenstertest.h"
 #include "frmDocument.h"
+#include "geraetepfade.h"
 #include "konfigurationsdatei.h"
 #include "letztedateien.h"
 #include "pruefgeraet.h"
@@ -36,6 +37,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace varnoth {
 
@@ -588,6 +591,22 @@ TEST_F(FrmMainTest, A_new_configuration_that_is_cancelled_changes_nothing) {
     EXPECT_EQ(modDaten::IstGeaendert(), False);
 }
 
+TEST_F(FrmMainTest, A_file_that_is_opened_shows_its_parts_and_a_cancelled_dialog_shows_none) {
+    const QTemporaryDir ordner;
+    std::optional<std::string> antwort = ordner.filePath("a.con").toStdString();
+    Fenster();
+    modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 1, {32});
+    ASSERT_EQ(ErsetzeDatei(*antwort, modDaten::SpeichereKonfigurationsdatei()), "");
+    SetzeDateiantwort([&](const Dateifrage&) { return std::exchange(antwort, std::nullopt); });
+    Waehle("mnuOeffnen");
+    EXPECT_TRUE(Fenster().Fenster(1).isVisible());
+    EXPECT_TRUE(Aktion("mnuAnzeigeLichtleiste_1").isVisible());
+    Fenster().Fenster(1).parentWidget()->close();
+    Waehle("mnuOeffnen");
+    EXPECT_FALSE(Fenster().Fenster(1).isVisible());
+    SetzeDateiantwort({});
+}
+
 TEST_F(FrmMainTest, The_editor_applied_and_downloaded_writes_the_configuration_and_live_data_starts_again) {
     SchliesseAn({32, 0, 0, 0});
     Fenster().Autostart();
@@ -769,6 +788,27 @@ TEST_F(FrmMainTest, The_three_status_panels_take_texts) {
     Fenster().ZeigeStatustext(FeldSchaltausgang, "Status");
     EXPECT_EQ(Statusfeld(FeldSchaltausgang).text(), "Status");
     EXPECT_EQ(Statusfeld(FeldPort).text(), "COM1: 38400,n,8,2");
+}
+
+TEST_F(FrmMainTest, A_line_in_the_colour_of_what_cannot_be_chosen_stands_behind_each_panel) {
+    Fenster();
+    QCoreApplication::processEvents();
+    for (const int nummer : {1, 2, 3}) {
+        const auto* const linie =
+            Fenster().statusBar()->findChild<QWidget*>(QStringLiteral("linStatusBar_%1").arg(nummer));
+        ASSERT_NE(linie, nullptr) << nummer;
+        EXPECT_FALSE(linie->isEnabled()) << nummer;
+        EXPECT_GT(linie->x(), Statusfeld(nummer).geometry().right()) << nummer;
+    }
+    EXPECT_EQ(Fenster().statusBar()->findChild<QWidget*>("linStatusBar_4"), nullptr);
+}
+
+TEST_F(FrmMainTest, The_panel_of_the_port_names_in_its_tip_the_device_or_that_there_is_none) {
+    Fenster();
+    EXPECT_EQ(Statusfeld(FeldPort).toolTip().toStdString(), Geraetepfad(1));
+    Fenster().ZeigeSimuliert(true);
+    EXPECT_EQ(Statusfeld(FeldPort).text().toStdString(), LadeText(9220));
+    EXPECT_EQ(Statusfeld(FeldPort).toolTip().toStdString(), LadeText(9221));
 }
 
 TEST_F(FrmMainTest, A_window_of_the_usual_width_has_room_for_the_whole_sentence_about_a_write) {

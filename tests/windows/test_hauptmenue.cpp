@@ -98,6 +98,9 @@ TEST_F(HauptmenueTest, A_menu_item_without_a_command_tells_where_its_subject_is_
     SetzeSprachoffset(Englisch);
     menue.ZeigeFundorte();
     EXPECT_EQ(farben->toolTip(), "Colours are chosen in the tool bar: “Appearance”.");
+    for (const char* const name : {"mnuDruckereinrichtung", "mnuKonfigurationDrucken"})
+        EXPECT_EQ(Aktion(fenster, name).toolTip(), "The report prints the configuration: tool bar, “Report”.")
+            << name;
 }
 
 TEST_F(HauptmenueTest, A_tip_is_shown_in_the_menu_of_its_item_alone) {

@@ -84,6 +84,7 @@ TEST_F(TextimportTest, A_cancelled_dialog_changes_nothing) {
     EXPECT_EQ(modDaten::DasAbbild(), MitStrahlen(32));
     ASSERT_EQ(gefragt.size(), 1U);
     EXPECT_EQ(gefragt[0].titel, "Text importieren");
+    EXPECT_EQ(gefragt[0].filter, LadeText(9674));
 }
 
 TEST_F(TextimportTest, Unsaved_changes_are_asked_for_and_cancel_keeps_them) {

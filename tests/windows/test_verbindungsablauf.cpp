@@ -5,6 +5,7 @@
 #include "geraetepfade.h"
 #include "pruefgeraet.h"
 #include "schnittstelle.h"
+#include "texte.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -70,7 +71,7 @@ protected:
                     ++geliehen;
                     tat();
                 },
-            .immerSimuliert = [] { return false; }});
+            .immerSimuliert = [this] { return immerSimuliert; }});
         ablauf->Zeige(false);
     }
     ~VerbindungsablaufTest() override { qunsetenv("VARNOTH_PORTS"); }
@@ -87,6 +88,17 @@ protected:
     }
     static QPushButton& Knopf(const char* name) { return Teil<QPushButton>(name); }
     static std::string Text(const char* name) { return Teil<QLabel>(name).text().toStdString(); }
+    /// All that the list of ports says of a device; empty where it does not stand there.
+    static QString Portzeile(const std::string& pfad) {
+        const auto& ports = Teil<QTreeWidget>("lstPorts");
+        QStringList worte;
+        for (int i = 0; i < ports.topLevelItemCount(); ++i)
+            for (int spalte = 0;
+                 ports.topLevelItem(i)->text(0).toStdString() == pfad && spalte < ports.columnCount();
+                 ++spalte)
+                worte += ports.topLevelItem(i)->text(spalte);
+        return worte.join(' ');
+    }
     std::string Eintrag(const char* schluessel) { return einstellungen.texte[{"Settings", schluessel}]; }
     static void Tippe(const char* box, const char* text) { Teil<QComboBox>(box).setEditText(text); }
     /// Asks for a search of the port of the folder alone, whatever this machine has, and lets it run.
@@ -109,6 +121,7 @@ protected:
     std::vector<int> genommen;
     int geliehen = 0;
     bool unterbrochen = false;
+    bool immerSimuliert = false;
     std::unique_ptr<Verbindungsablauf> ablauf;
 };
 
@@ -117,6 +130,52 @@ TEST_F(VerbindungsablaufTest, It_shows_what_the_settings_say) {
     EXPECT_EQ(Teil<QComboBox>("cboGeraet_3").currentText().toStdString(), UeblichesGeraet(3));
     EXPECT_EQ(Text("lblGeraet_1"), "nicht da");
     EXPECT_TRUE(Teil<QRadioButton>("optCom_1").isChecked());
+}
+
+TEST_F(VerbindungsablaufTest, A_device_of_the_settings_stands_among_the_ports_and_says_what_it_is) {
+    einstellungen.texte[{"Settings", "ComGeraet3"}] = "/dev/null";
+    ablauf->Erneuere();
+    EXPECT_TRUE(Portzeile("/dev/null").contains("keine serielle Schnittstelle"));
+    EXPECT_EQ(Portzeile("/nowhere/2"), "") << "it is not there";
+}
+
+TEST_F(VerbindungsablaufTest, A_port_that_the_program_has_open_is_said_to_be_its_own) {
+    const Portersatz ersatz(ordner.filePath("adapter"));
+    port.anschluss = {.geraet = ersatz.Pfad()};
+    ablauf->Erneuere();
+    const QString frei = Portzeile(ersatz.Pfad());
+    EXPECT_NE(frei, "");
+    modSchnittstelle::OpenCommPort();
+    ablauf->Erneuere();
+    EXPECT_TRUE(Portzeile(ersatz.Pfad()).contains(QString::fromStdString(LadeText(8319))))
+        << Portzeile(ersatz.Pfad()).toStdString();
+    modSchnittstelle::CloseCommPort();
+    ablauf->Erneuere();
+    EXPECT_EQ(Portzeile(ersatz.Pfad()), frei);
+}
+
+TEST_F(VerbindungsablaufTest, That_the_built_in_controller_answers_is_said_and_whether_nothing_else_will) {
+    EXPECT_EQ(Text("lblHinweis"), "");
+    port.anschluss = {.simuliert = true};
+    ablauf->Erneuere();
+    EXPECT_EQ(Text("lblHinweis"), LadeText(8339));
+    immerSimuliert = true;
+    ablauf->Erneuere();
+    EXPECT_EQ(Text("lblHinweis"), LadeText(8340));
+}
+
+TEST_F(VerbindungsablaufTest, It_opens_at_the_page_of_the_search_where_that_is_wanted) {
+    EXPECT_FALSE(Knopf("cmdSuchen").isVisible());
+    ablauf->Zeige(true);
+    EXPECT_TRUE(Knopf("cmdSuchen").isVisible());
+}
+
+TEST_F(VerbindungsablaufTest, It_follows_the_language_and_closes_with_the_program) {
+    SetzeSprachoffset(Englisch);
+    ablauf->Lokalisiere();
+    EXPECT_EQ(Text("lblGeraet_1"), "not there");
+    ablauf->Schliesse();
+    EXPECT_FALSE(Fenster().isVisible());
 }
 
 TEST_F(VerbindungsablaufTest, A_device_that_is_not_in_use_is_entered_at_once_and_live_data_runs_on) {

@@ -1,6 +1,7 @@
 #include "verbindungsanzeige.h"
 
 #include "bedienelement.h"
+#include "ereignisse.h"
 #include "fenstertest.h"
 #include "leitungsstatistik.h"
 #include "polling.h"
@@ -18,6 +19,7 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace varnoth {
 
@@ -27,11 +29,18 @@ using pruefung::WarteBis;
 namespace {
 
 /// The sign of a state; its ground is that of the corner.
-QImage Gemaltes(Verbindungszustand zustand, bool simuliert) {
+QImage Gemaltes(Verbindungszustand zustand, bool simuliert, int kante = 24) {
     Verbindungssymbol symbol(nullptr);
-    symbol.resize(24, 24);
+    symbol.resize(kante, kante);
     symbol.Zeige(zustand, simuliert);
     return symbol.grab().toImage();
+}
+
+/// Whether the sign covers a point of its place, which goes from -1 to 1 in both directions.
+bool IstGemalt(const QImage& bild, QPointF punkt) {
+    const int x = static_cast<int>((punkt.x() + 1) / 2 * bild.width());
+    const int y = static_cast<int>((punkt.y() + 1) / 2 * bild.height());
+    return bild.pixel(x, y) != bild.pixel(0, 0);
 }
 
 } // namespace
@@ -150,6 +159,39 @@ TEST_F(VerbindungsanzeigeTest, It_speaks_the_language_of_the_moment) {
     EXPECT_EQ(anzeige.accessibleName(), Text());
 }
 
+TEST_F(VerbindungsanzeigeTest, Every_new_state_is_an_event_that_names_the_line) {
+    const auto letztes = [] { return modEreignisse::Alle().Hole(modEreignisse::Alle().Ende() - 1); };
+    ASSERT_GT(modEreignisse::Alle().Ende(), 0U);
+    EXPECT_EQ(letztes().art, Ereignisart::Zustand);
+    EXPECT_EQ(letztes().neu, static_cast<int>(Verbindungszustand::Offline));
+    EXPECT_EQ(letztes().alt, 0);
+    EXPECT_EQ(letztes().text, "COM1, /dev/pruefung, 38400,n,8,2");
+    port.anschluss = {.simuliert = true};
+    anzeige.SetzeVerbindet(true);
+    EXPECT_EQ(letztes().neu, static_cast<int>(Verbindungszustand::Verbindet));
+    EXPECT_EQ(letztes().alt, 1) << "the built-in controller";
+    Verbindungsgegenstand woraus;
+    woraus.aufzeichnung = "/tmp/nacht.vrec";
+    anzeige.SetzeWiedergabe(woraus);
+    EXPECT_EQ(letztes().neu, static_cast<int>(Verbindungszustand::Wiedergabe));
+    EXPECT_EQ(letztes().text, "/tmp/nacht.vrec");
+}
+
+TEST_F(VerbindungsanzeigeTest, What_changes_within_a_state_is_no_event) {
+    const auto bisher = modEreignisse::Alle().Ende();
+    SetzeSprachoffset(Englisch);
+    anzeige.Aktualisiere();
+    EXPECT_TRUE(Text().startsWith("Offline since "));
+    EXPECT_EQ(modEreignisse::Alle().Ende(), bisher);
+}
+
+TEST_F(VerbindungsanzeigeTest, Its_buttons_leave_the_keyboard_to_the_window) {
+    for (const auto* const knopf : anzeige.findChildren<QPushButton*>()) {
+        EXPECT_EQ(knopf->focusPolicy(), Qt::NoFocus) << knopf->objectName().toStdString();
+        EXPECT_FALSE(knopf->autoDefault()) << knopf->objectName().toStdString();
+    }
+}
+
 TEST_F(VerbindungsanzeigeTest, Its_texts_are_plain) {
     for (const auto* label : anzeige.findChildren<QLabel*>())
         EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
@@ -202,6 +244,40 @@ TEST_F(VerbindungsanzeigeTest, Each_state_has_a_shape_of_its_own) {
         formen.insert(Form(zustand, false));
     formen.insert(Form(Live, true));
     EXPECT_EQ(formen.size(), 7U);
+}
+
+TEST_F(VerbindungsanzeigeTest, Each_sign_is_a_known_shape) {
+    using enum Verbindungszustand;
+    const std::vector<QPointF> rundum{{0, -0.8}, {0, 0.8}, {-0.8, 0}, {0.8, 0}};
+    const std::vector<QPointF> ecken{{-0.8, -0.8}, {-0.8, 0.8}, {0.8, -0.8}, {0.8, 0.8}};
+    const std::vector<QPointF> diagonalen{{-0.5, -0.5}, {-0.5, 0.5}, {0.5, -0.5}, {0.5, 0.5}};
+    const std::vector<QPointF> balken{{-0.42, -0.5}, {-0.42, 0.5}, {0.42, -0.5}, {0.42, 0.5}};
+    struct Zeichen {
+        const char* name;
+        Verbindungszustand zustand;
+        bool simuliert;
+        std::vector<std::vector<QPointF>> gemalt, leer;
+    };
+    const Zeichen alle[] = {
+        {"three dots", Verbindet, false, {{{-0.7, 0}, {0, 0}, {0.7, 0}}}, {ecken, diagonalen}},
+        {"disc", Live, false, {rundum, diagonalen, {{0, 0}}}, {ecken}},
+        {"rhomb", Live, true, {rundum, {{0, 0}}}, {ecken, {{0.6, 0.6}, {-0.6, -0.6}}}},
+        {"clock", Wartet, false, {rundum, {{0, 0}, {0, -0.25}, {0.25, 0}}}, {ecken, {{-0.4, 0}, {0, 0.4}}}},
+        {"two bars", Pausiert, false, {balken}, {ecken, {{0, 0}, {0, 0.5}, {0, -0.5}}}},
+        {"two bars", Angehalten, false, {balken}, {ecken, {{0, 0}, {0, 0.5}, {0, -0.5}}}},
+        {"ring", PortOffen, false, {rundum}, {ecken, {{0, 0}, {0, 0.4}, {0.4, 0}}}},
+        {"cross", Offline, false, {diagonalen, {{0, 0}}}, {rundum}},
+        {"triangle", Wiedergabe, false, {{{-0.4, -0.5}, {-0.4, 0.5}, {0.6, 0}}}, {{{0.6, -0.6}, {0.6, 0.6}}}},
+    };
+    for (const auto& [name, zustand, simuliert, gemalt, leer] : alle) {
+        const QImage bild = Gemaltes(zustand, simuliert, 60);
+        for (const auto& punkte : gemalt)
+            for (const QPointF punkt : punkte)
+                EXPECT_TRUE(IstGemalt(bild, punkt)) << name << " at " << punkt.x() << ", " << punkt.y();
+        for (const auto& punkte : leer)
+            for (const QPointF punkt : punkte)
+                EXPECT_FALSE(IstGemalt(bild, punkt)) << name << " at " << punkt.x() << ", " << punkt.y();
+    }
 }
 
 TEST_F(VerbindungsanzeigeTest, Every_shape_is_as_wide_as_its_place) {

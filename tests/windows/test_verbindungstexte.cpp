@@ -1,6 +1,7 @@
 #include "verbindungstexte.h"
 
 #include "texte.h"
+#include "textmitwerten.h"
 
 #include <QString>
 #include <QTextDocument>
@@ -80,6 +81,7 @@ TEST_F(VerbindungstexteTest, The_figures_are_passes_a_second_and_failures_a_minu
 TEST_F(VerbindungstexteTest, Without_a_rate_only_the_failures_are_told) {
     EXPECT_EQ(Zahlentext({.zustand = Wartet}), "0 Fehler/min");
     EXPECT_EQ(Zahlentext({.zustand = Offline, .fehlschlaege = 10}), "10 Fehler/min");
+    EXPECT_EQ(Zahlentext({.zustand = Offline, .fehlschlaege = 1}), "1 Fehler/min");
 }
 
 TEST_F(VerbindungstexteTest, Offline_without_failures_there_are_no_figures) {
@@ -96,6 +98,9 @@ TEST_F(VerbindungstexteTest, The_tip_names_port_device_format_controller_and_fig
               "Seriennummer: 4711\n"
               "Durchgänge je Sekunde: 12\n"
               "Fehlgeschlagen in der letzten Minute: 1");
+    EXPECT_NE(Verbindungshinweis({.zustand = Live, .durchgaengeJeSekunde = 0.5}, gegenstand, jetzt)
+                  .find("Durchgänge je Sekunde: "),
+              std::string::npos);
 }
 
 TEST_F(VerbindungstexteTest, Before_a_controller_has_said_who_it_is_the_tip_names_none) {
@@ -112,6 +117,14 @@ TEST_F(VerbindungstexteTest, A_device_that_is_called_like_its_port_is_named_once
                                  {.port = "COM1", .geraet = "COM1", .format = "9600,e,8,1"}, jetzt)
                   .find("Port: COM1\n"),
               std::string::npos);
+}
+
+TEST_F(VerbindungstexteTest, The_tip_of_a_replay_names_its_file_and_the_controller_it_comes_from) {
+    Verbindungsgegenstand woraus;
+    woraus.aufzeichnung = "/tmp/nacht.vrec";
+    woraus.seriennummer = "4711";
+    EXPECT_EQ(Verbindungshinweis({.zustand = Wiedergabe}, woraus, jetzt),
+              "Wiedergabe\n" + LadeTextMit(6502, {"/tmp/nacht.vrec"}) + "\nSeriennummer: 4711");
 }
 
 TEST_F(VerbindungstexteTest, With_the_built_in_controller_no_port_is_named) {

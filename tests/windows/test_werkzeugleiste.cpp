@@ -225,6 +225,13 @@ TEST_F(WerkzeugleisteTest, In_a_narrow_window_the_keys_reach_what_waits_behind_t
     Druecke(Qt::Key_Return);
     EXPECT_TRUE(WarteBis([&] { return QApplication::focusWidget() != &Mehr(); }));
     EXPECT_TRUE(Leiste().isAncestorOf(QApplication::focusWidget()));
+    const QString dort = ImFokus();
+    EXPECT_NE(dort, "cmdNeu");
+    for (const bool sichtbar : {false, true}) {
+        Aktion(Leiste(), "tlbNeu").setVisible(sichtbar);
+        EXPECT_TRUE(WarteBis([&] { return Knopf("cmdNeu").isVisible() == sichtbar; }));
+    }
+    EXPECT_EQ(ImFokus(), dort) << "a button that appears later takes nothing away";
     EXPECT_TRUE(Knopf("cmdHilfethemen").isVisible());
     Druecke(Qt::Key_Escape);
     EXPECT_TRUE(WarteBis([&] { return !Knopf("cmdHilfethemen").isVisible(); }));

@@ -197,7 +197,6 @@ TEST_F(WiedergabeablaufTest, A_part_that_was_gone_is_gone) {
 TEST_F(WiedergabeablaufTest, What_is_replayed_does_not_grow_old) {
     Oeffne(Probe());
     umgebung.uhr += 1h;
-    Fenster().Fenster(0).SetzeZeitlos(true);
     EXPECT_EQ(Fenster().Fenster(0).findChild<BeamBarControl*>()->Stand(), Datenstand::Gueltig);
     QTimer::singleShot(600, &Fenster(), [this] { umgebung.uhr += 1s; });
     const Zeit bis = umgebung.uhr + 1s;
@@ -343,6 +342,37 @@ TEST_F(WiedergabeablaufTest, Opening_can_be_cancelled_and_leaves_what_was_replay
     EXPECT_FALSE(weiterGefragt);
     EXPECT_TRUE(umgebung.meldungen.empty());
     EXPECT_EQ(GezeigterWert(0), "102");
+}
+
+TEST_F(WiedergabeablaufTest, How_far_opening_is_stands_in_a_dialog_that_keeps_others_from_the_window) {
+    bool gesehen = false;
+    Fenster().SetzeAufzeichnungsleser([&](const std::string&, const auto& weiter) {
+        auto& dialog = *Fenster().findChild<QProgressDialog*>("frmAufzeichnungOeffnen");
+        EXPECT_EQ(dialog.windowTitle().toStdString(), LadeText(6543));
+        EXPECT_EQ(dialog.labelText().toStdString(), LadeText(6545));
+        EXPECT_EQ(dialog.windowModality(), Qt::ApplicationModal);
+        EXPECT_EQ(dialog.value(), 0);
+        EXPECT_TRUE(weiter(1.0));
+        EXPECT_LT(dialog.value(), dialog.maximum()) << "what follows takes time too";
+        EXPECT_GE(dialog.value(), dialog.maximum() * 99 / 100);
+        EXPECT_FALSE(dialog.autoReset());
+        gesehen = true;
+        return GeoeffneteAufzeichnung{.quelle = Probe()};
+    });
+    Waehle("tlbWiedergabe");
+    EXPECT_TRUE(gesehen);
+    EXPECT_NE(Leiste(), nullptr);
+}
+
+TEST_F(WiedergabeablaufTest, A_program_that_ends_while_a_record_is_opened_shows_none) {
+    Fenster().SetzeAufzeichnungsleser([this](const std::string&, const auto& weiter) {
+        Fenster().close();
+        EXPECT_FALSE(weiter(0.5));
+        return GeoeffneteAufzeichnung{.quelle = Probe()};
+    });
+    Waehle("tlbWiedergabe");
+    EXPECT_EQ(Leiste(), nullptr);
+    EXPECT_FALSE(modDaten::IstAnderesGezeigt());
 }
 
 TEST_F(WiedergabeablaufTest, Another_record_takes_the_place_of_the_first_and_both_leave_to_what_was) {

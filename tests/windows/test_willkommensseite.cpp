@@ -6,12 +6,15 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace varnoth {
 
@@ -31,6 +34,13 @@ protected:
         return *knopf;
     }
     QLabel& Text(const char* name) { return *bereich.findChild<QLabel*>(name); }
+    /// The explanation in the row of a button.
+    QLabel& Daneben(QPushButton& knopf) {
+        auto* const raster = bereich.findChild<QGridLayout*>();
+        int zeile = 0, spalte = 0, hoehe = 0, breite = 0;
+        raster->getItemPosition(raster->indexOf(&knopf), &zeile, &spalte, &hoehe, &breite);
+        return *qobject_cast<QLabel*>(raster->itemAtPosition(zeile, spalte + 1)->widget());
+    }
 
     QMdiArea bereich;
     std::vector<std::pair<Befehl, int>> klicks;
@@ -60,6 +70,25 @@ TEST_F(WillkommensseiteTest, The_texts_are_in_the_chosen_language_and_switch) {
     LokalisiereForm(seite);
     EXPECT_EQ(Text("lblWillkommen").text(), "What would you like to do?");
     EXPECT_EQ(Knopf("cmdWillkommenVerbinden").text(), "Connect");
+}
+
+TEST_F(WillkommensseiteTest, Every_button_says_what_it_does_and_beside_it_stands_what_for) {
+    const std::array<const char*, 3> worte[] = {
+        {"cmdWillkommenVerbinden", "Connect", "Find the controller, read its configuration, show live data"},
+        {"cmdWillkommenSuchen", "Find controller...",
+         "Search the ports, choose port and line format, check the line"},
+        {"cmdWillkommenOeffnen", "Open configuration...", "Load a saved configuration file"},
+        {"cmdWillkommenNeu", "New configuration...", "Begin with beam counts, without a controller"},
+        {"cmdWillkommenSimuliert", "Simulated controller", "Try the program on a built-in controller"},
+        {"cmdWillkommenHilfe", "Help", "Every window, every setting, every message"},
+    };
+    SetzeSprachoffset(Englisch);
+    seite.Zeige(true, {"/a.con"});
+    for (const auto& [name, text, erklaerung] : worte) {
+        EXPECT_EQ(Knopf(name).text(), text);
+        EXPECT_EQ(Daneben(Knopf(name)).text(), erklaerung);
+    }
+    EXPECT_EQ(Text("lblWillkommenDateien").text(), "Recent files");
 }
 
 TEST_F(WillkommensseiteTest, It_shows_the_files_used_last_by_name_and_folder) {
