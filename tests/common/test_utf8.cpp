@@ -17,9 +17,7 @@ TEST(Utf8, A_character_that_ends_too_early_is_none) {
 }
 
 TEST(Utf8, A_following_byte_alone_and_bytes_that_begin_nothing_are_none) {
-    for (const char* text : {"\x80", "\xBF", "\xF8\x88\x80\x80\x80", "\xFE", "\xFF",
-                             "Gr\xF6\xDF"
-                             "e"})
+    for (const char* text : {"\x80", "\xBF", "\xF8\x88\x80\x80\x80", "\xFE", "\xFF", "Gr\xF6\xDFte"})
         EXPECT_FALSE(IstUtf8(text)) << text;
 }
 

@@ -25,7 +25,7 @@ protected:
         port.gesendet.clear();
         umgebung.uhr += 10ms; // the request has left
     }
-    void AntworteMit(std::vector<Stueck> stuecke) {
+    void AntworteMit(const std::vector<Stueck>& stuecke) {
         port.antworte = [stuecke](const std::string&) { return stuecke; };
     }
 

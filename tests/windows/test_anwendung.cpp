@@ -70,7 +70,7 @@ protected:
     }
     /// A configuration file with a first part of 24 beams.
     std::string LegeKonfiguration(const char* name) const {
-        const std::string pfad = ordner.filePath(QLatin1String(name)).toStdString();
+        std::string pfad = ordner.filePath(QLatin1String(name)).toStdString();
         modDaten::LadeStandardkonfiguration();
         modDaten::SetzeSpezifischeDaten(spezifisch::Strahlenzahl, 1, 0, {24});
         EXPECT_EQ(ErsetzeDatei(pfad, modDaten::SpeichereKonfigurationsdatei()), "");

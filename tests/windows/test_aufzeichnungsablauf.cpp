@@ -274,7 +274,7 @@ TEST_F(AufzeichnungsablaufTest, A_disk_that_does_not_answer_at_the_beginning_is_
     MeldeDurchgang(4711);
     EXPECT_EQ(umgebung.statustexte[0], "");
     minuten = 1;
-    ASSERT_TRUE(WarteBis([&] { return umgebung.statustexte[0] != ""; }));
+    ASSERT_TRUE(WarteBis([&] { return !umgebung.statustexte[0].empty(); }));
     EXPECT_THAT(umgebung.statustexte[0], HasSubstr("The disk does not answer."));
     EXPECT_THAT(Marke().text().toStdString(), HasSubstr("The disk does not answer."));
     umgebung.statustexte[0] = "something else";

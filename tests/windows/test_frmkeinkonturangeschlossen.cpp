@@ -17,7 +17,7 @@ protected:
 
     /// A file of that name was saved last.
     QString Sichere(const QString& name) {
-        const QString pfad = ordner.filePath(name);
+        QString pfad = ordner.filePath(name);
         QFile datei(pfad);
         if (!datei.open(QIODevice::WriteOnly))
             throw std::runtime_error("cannot write " + pfad.toStdString());
