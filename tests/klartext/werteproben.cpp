@@ -10,6 +10,7 @@
 #include "pnpausgang.h"
 #include "registeradressen.h"
 
+#include <algorithm>
 #include <random>
 
 namespace varnoth::werteproben {
@@ -74,8 +75,7 @@ void FuegeMusterAn(std::vector<Probe>& proben) {
         proben.emplace_back(Kommunikation, kommunikation::Datenblock, Datenblock(anzahl, zufall));
     for (const unsigned haeufigkeit : {1U, 2U, 3U, 50U, 1000U}) {
         Geblankte geblankte(MaxStrahlen);
-        for (std::size_t strahl = 0; strahl < geblankte.size(); ++strahl)
-            geblankte[strahl] = zufall() % haeufigkeit == 0;
+        std::generate(geblankte.begin(), geblankte.end(), [&] { return zufall() % haeufigkeit == 0; });
         proben.emplace_back(Spezifisch, spezifisch::Blankingmuster, MusterAus(geblankte));
     }
     proben.emplace_back(Spezifisch, spezifisch::Blankingmuster, Werte(Blankingregister, 0));

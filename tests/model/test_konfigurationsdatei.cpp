@@ -44,7 +44,7 @@ protected:
     /// The body of a filled image; the image itself then holds other values.
     static std::string GuteDatei() {
         FuelleAbbild(1);
-        const std::string bytes = SpeichereKonfigurationsdatei();
+        std::string bytes = SpeichereKonfigurationsdatei();
         FuelleAbbild(2);
         return bytes;
     }
