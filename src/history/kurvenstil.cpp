@@ -36,6 +36,8 @@ bool Strichmuster::IstGezeichnet(std::int64_t stelle) const {
     std::int64_t laenge = 0;
     for (const int teil : laengen)
         laenge += teil;
+    if (laenge == 0)
+        return true;
     std::int64_t rest = (stelle % laenge + laenge) % laenge;
     for (std::size_t i = 0; i < laengen.size(); ++i) {
         if (rest < laengen[i])

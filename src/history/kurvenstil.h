@@ -18,7 +18,7 @@ namespace varnoth {
 struct Strichmuster {
     std::array<int, 4> laengen;
 
-    /// Whether the line is drawn at a place along it.
+    /// Whether the line is drawn at a place along it. Where all lengths are 0, it is.
     bool IstGezeichnet(std::int64_t stelle) const;
 };
 const Strichmuster& MusterDesTeils(int teil);

@@ -91,7 +91,7 @@ QImage Wiedergabebild(Buehne& buehne) {
     Kind<QPushButton>(leiste, "cmdEreignisVor").click();
     auto& meldung = Kind<QLabel>(leiste, "lblMeldung");
     const auto steht = [&] { return meldung.text().contains(QLatin1Char(':')); };
-    const QImage bild = [&] {
+    QImage bild = [&] {
         while (!steht())
             QCoreApplication::processEvents();
         return Foto(fenster);

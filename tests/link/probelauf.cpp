@@ -65,7 +65,8 @@ Probelauf::~Probelauf() {
 }
 
 int Probelauf::Zufall(int von, int bis) {
-    return von + static_cast<int>(zufall() % static_cast<std::uint64_t>(bis - von + 1));
+    const auto auswahl = static_cast<std::uint64_t>(std::max(bis - von, 0)) + 1;
+    return von + static_cast<int>(zufall() % auswahl);
 }
 
 std::optional<Probefehler> Probelauf::ZieheFehler(int ersteArt) {

@@ -43,9 +43,9 @@ private:
 
     static std::size_t Platz(int adresse, int teil) {
         const int darin = adresse & ~RangMaske;
-        if (Istspezifisch(adresse))
-            return static_cast<std::size_t>(2 * Andere + teil * Spezifische + darin);
-        return static_cast<std::size_t>((adresse & RangMaske) == Kommunikation ? Andere + darin : darin);
+        const int anderer = (adresse & RangMaske) == Kommunikation ? Andere + darin : darin;
+        const int platz = Istspezifisch(adresse) ? 2 * Andere + teil * Spezifische + darin : anderer;
+        return static_cast<std::size_t>(platz);
     }
 
     std::array<std::uint16_t, 2 * Andere + Optikteile * Spezifische> werte{};

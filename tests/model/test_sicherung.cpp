@@ -100,7 +100,7 @@ TEST(Sicherungstext, A_serial_number_cannot_add_lines) {
 
 TEST(Sicherungstext, Any_other_text_says_nothing) {
     EXPECT_EQ(LiesSicherungstext(""), Sicherungsangaben{});
-    EXPECT_EQ(LiesSicherungstext(std::string("\0\xFF[[=\n=", 8)), Sicherungsangaben{});
+    EXPECT_EQ(LiesSicherungstext(std::string("\0\xFF[[=\n=", 7)), Sicherungsangaben{});
 }
 
 TEST(Sicherungstext, Number_version_and_beam_counts_come_from_the_image) {

@@ -66,8 +66,8 @@ std::map<std::int64_t, Messspalte> Einzeln(const Uebersicht& uebersicht, const U
             seine.strahlen = static_cast<std::int16_t>(uebersicht.Strahlen(i, teil));
             for (std::size_t k = 0; k < AnzahlKurvenwerte; ++k) {
                 seine.aktuell[k] = uebersicht.Werte(i, teil)[k];
-                seine.band[k] = uebersicht.Werte(i, teil)[AnzahlKurvenwerte + k];
-                seine.band[k].Nimm(uebersicht.Werte(i, teil)[2 * AnzahlKurvenwerte + k]);
+                seine.band[k] = uebersicht.Werte(i, teil)[ErstesMinimum + k];
+                seine.band[k].Nimm(uebersicht.Werte(i, teil)[ErstesMaximum + k]);
             }
         }
         const Zeitspanne spanne = uebersicht.Spanne(i);

@@ -39,8 +39,7 @@ struct BandTest : testing::Test {
         std::vector<Messdurchgang> alle;
         for (int i = 0; i < anzahl; ++i) {
             Messdurchgang einer{.uhr = 2s + i * 100ms, .anzahlTeile = 4, .geraetestatus = wort()};
-            for (std::size_t teil = 0; teil < einer.teile.size(); ++teil) {
-                auto& messung = einer.teile[teil];
+            for (auto& messung : einer.teile) {
                 messung = {.vorhanden = true, .gemessen = true, .status = wort(), .strahlen = 1009};
                 for (auto& wert : messung.werte)
                     wert = zufall() % 3 == 0 ? wort() : std::uint16_t{7};
@@ -53,7 +52,8 @@ struct BandTest : testing::Test {
     }
     /// A record of these passes; events go with the packet of their time.
     std::string Aufzeichnung(const std::vector<Messdurchgang>& alle,
-                             std::vector<Messereignis> ereignisse = {}, std::size_t jePaket = 10) const {
+                             const std::vector<Messereignis>& ereignisse = {},
+                             std::size_t jePaket = 10) const {
         Vrecform form;
         auto erste = std::make_shared<const Abbild>(konfiguration);
         std::string bytes = form.Beginne({}, erste);

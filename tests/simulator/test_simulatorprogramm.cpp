@@ -269,7 +269,7 @@ TEST_F(Simulatorprogramm, Writes_its_log_to_a_file_for_the_user_alone) {
 }
 
 TEST_F(Simulatorprogramm, Lets_only_its_user_at_the_control_channel_whatever_the_umask) {
-    for (const mode_t maske : {0000, 0022, 0777}) {
+    for (const mode_t maske : {0000U, 0022U, 0777U}) {
         ::kill(kind, SIGTERM);
         Warte();
         const mode_t vorher = ::umask(maske);

@@ -183,4 +183,9 @@ TEST(Kurvenstil, Parts_differ_by_their_pattern) {
     EXPECT_EQ(muster[0].find(' '), std::string::npos);
 }
 
+TEST(Kurvenstil, A_pattern_without_lengths_is_a_whole_line) {
+    for (const int stelle : {-1, 0, 7})
+        EXPECT_TRUE(Strichmuster{}.IstGezeichnet(stelle));
+}
+
 } // namespace varnoth
