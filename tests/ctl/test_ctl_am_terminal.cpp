@@ -170,7 +170,7 @@ TEST_F(AmTerminal, Keeps_what_it_shows_of_its_progress_in_one_line) {
 TEST_F(ZehnGeraete, Are_backed_up_compared_and_restored_by_the_script) {
     EXPECT_EQ(Skript("backup").code, 0);
     EXPECT_EQ(Skript("compare").code, 0);
-    for (const std::size_t anderes : {2, 5, 9})
+    for (const std::size_t anderes : {2U, 5U, 9U})
         alle[anderes]->Befehl("set specific 0 26 77");
     const auto verglichen = Skript("compare");
     EXPECT_EQ(verglichen.code, 1);

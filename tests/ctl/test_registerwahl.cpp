@@ -105,8 +105,9 @@ TEST_F(Registerwahlen, Find_every_parameter_by_the_name_that_they_give_it) {
     for (const std::int16_t sprache : {Deutsch, Englisch}) {
         SetzeSprachoffset(sprache);
         for (const Parameter& einer : AlleParameter())
-            for (std::int16_t teil = 0; teil < Exemplare(einer.bereich); ++teil) {
-                const Transferparameter ganzer{einer.bereich, einer.adresse, einer.beschreibung.Laenge, teil};
+            for (int teil = 0; teil < Exemplare(einer.bereich); ++teil) {
+                const Transferparameter ganzer{einer.bereich, einer.adresse, einer.beschreibung.Laenge,
+                                               static_cast<std::int16_t>(teil)};
                 EXPECT_TRUE(Meint(Registername(ganzer), ganzer));
             }
     }

@@ -306,7 +306,7 @@ TEST_F(Dateiuebergabe, A_path_is_not_told_to_another_user_who_listens_there) {
     auto gehoert = std::async(std::launch::async, [&] {
         return AlsNutzer([&] {
             const Deskriptor tuer = NeueRufleitung();
-            ::bind(tuer.Nummer(), AlsAdresse(*adresse), sizeof *adresse);
+            EXPECT_EQ(::bind(tuer.Nummer(), AlsAdresse(*adresse), sizeof *adresse), 0);
             ::listen(tuer.Nummer(), 1);
             pollfd eines{tuer.Nummer(), POLLIN, 0};
             ::poll(&eines, 1, 5000);

@@ -18,7 +18,7 @@ class StartUnterLinux : public testing::Test {
 protected:
     /// A program that writes down its arguments, one a line.
     QString Mitschreiber() const {
-        const QString pfad = ordner.filePath("mit blank.exe");
+        QString pfad = ordner.filePath("mit blank.exe");
         QFile datei(pfad);
         EXPECT_TRUE(datei.open(QIODevice::WriteOnly));
         datei.write(

@@ -29,7 +29,7 @@ bool IstVomTyp(const QJsonValue& wert, const QString& typ) {
 bool HatTyp(const QJsonValue& wert, const QJsonValue& regel) {
     if (regel.isString())
         return IstVomTyp(wert, regel.toString());
-    for (const QJsonValue& typ : regel.toArray())
+    for (const QJsonValue typ : regel.toArray())
         if (IstVomTyp(wert, typ.toString()))
             return true;
     return false;
@@ -90,7 +90,7 @@ std::string Schemapruefer::PruefeOneOf(const QJsonValue& wert, const QJsonValue&
                                        const std::string& ort) const {
     int passende = 0;
     std::string alle;
-    for (const QJsonValue& eine : regel.toArray()) {
+    for (const QJsonValue eine : regel.toArray()) {
         const std::string mangel = Pruefe(wert, eine.toObject(), ort);
         passende += mangel.empty() ? 1 : 0;
         alle += mangel + "\n";
@@ -105,13 +105,13 @@ std::string Schemapruefer::PruefeObjekt(const QJsonValue& wert, const QJsonObjec
         return {};
     const QJsonObject objekt = wert.toObject();
     const QJsonObject felder = regel.value("properties").toObject();
-    for (const QJsonValue& name : regel.value("required").toArray())
+    for (const QJsonValue name : regel.value("required").toArray())
         if (!objekt.contains(name.toString()))
             return ort + ": has no " + name.toString().toStdString();
     for (const QString& name : objekt.keys()) {
         if (!felder.contains(name) && !regel.value("additionalProperties").toBool(true))
             return ort + ": has a field " + name.toStdString();
-        const std::string mangel =
+        std::string mangel =
             Pruefe(objekt.value(name), felder.value(name).toObject(), ort + "." + name.toStdString());
         if (!mangel.empty())
             return mangel;
@@ -128,7 +128,7 @@ std::string Schemapruefer::PruefeListe(const QJsonValue& wert, const QJsonObject
         liste.size() > regel.value("maxItems").toInt(1 << 30))
         return ort + ": has " + std::to_string(liste.size()) + " elements";
     for (int i = 0; i < liste.size(); ++i) {
-        const std::string mangel =
+        std::string mangel =
             Pruefe(liste[i], regel.value("items").toObject(), ort + "[" + std::to_string(i) + "]");
         if (!mangel.empty())
             return mangel;
