@@ -32,7 +32,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
 constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
 
