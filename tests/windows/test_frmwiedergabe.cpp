@@ -119,7 +119,7 @@ TEST_F(FrmWiedergabeTest, Plays_by_the_clock_and_stands_still_again) {
 TEST_F(FrmWiedergabeTest, The_end_stops_it_and_says_that_the_connection_was_lost) {
     Klicke("cmdAbspielen");
     umgebung.uhr += 1h;
-    ASSERT_TRUE(WarteBis([&] { return !steuerung.stand->Laeuft() && Meldung() != ""; }));
+    ASSERT_TRUE(WarteBis([&] { return !steuerung.stand->Laeuft() && !Meldung().empty(); }));
     EXPECT_EQ(Meldung(), LadeText(6526));
     EXPECT_EQ(Kind<QPushButton>("cmdAbspielen").accessibleName(), "Abspielen");
     Klicke("cmdDurchgangZurueck");
@@ -152,11 +152,11 @@ TEST_F(FrmWiedergabeTest, Buttons_go_from_event_to_event_and_say_which) {
 
 TEST_F(FrmWiedergabeTest, Only_the_chosen_kind_of_event_is_jumped_to) {
     const std::pair<int, Zeit> proben[] = {{1, 59'950ms}, {3, 20s}, {5, 40'500ms}};
-    for (const auto& [wahl, wohin] : proben) {
-        Kind<QComboBox>("cboEreignis").setCurrentIndex(wahl);
+    for (const auto& probe : proben) {
+        Kind<QComboBox>("cboEreignis").setCurrentIndex(probe.first);
         steuerung.stand->GeheZu(0s, umgebung.uhr);
         Klicke("cmdEreignisVor");
-        EXPECT_TRUE(WarteBis([&] { return Position() == wohin; })) << wahl;
+        EXPECT_TRUE(WarteBis([&] { return Position() == probe.second; })) << probe.first;
     }
 }
 
