@@ -19,7 +19,7 @@ std::string Titel(Display* anzeige, Window fenster) {
     char* name = nullptr;
     if (XFetchName(anzeige, fenster, &name) == 0 || name == nullptr)
         return {};
-    const std::string titel = name;
+    std::string titel = name;
     XFree(name);
     return titel;
 }

@@ -40,13 +40,15 @@ varnoth_headers(windows
         QMouseEvent QPainter QPainterPath QPushButton QTimer QVBoxLayout
     LIBS Qt6::Widgets varnoth_warnings)
 
-# varnoth_room(NAME SOURCES file... [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...] [QT]): the static
-# library varnoth_NAME. Who uses a room also sees its ROOMS; PRIVATE_ROOMS only its own sources see,
-# and who includes a header that names one of those lists that room itself. QT stands where Qt comes with a room.
+# varnoth_room(NAME SOURCES file... [ALONE file...] [ROOMS room...] [PRIVATE_ROOMS room...] [LIBS library...] [QT]): the
+# static library varnoth_NAME. ALONE are sources that cannot be compiled with others (varnoth_together). Who uses a room
+# also sees its ROOMS; PRIVATE_ROOMS only its own sources see, and who includes a header that names one of those lists
+# that room itself. QT stands where Qt comes with a room.
 function(varnoth_room name)
-    cmake_parse_arguments(ROOM "QT" "" "SOURCES;ROOMS;PRIVATE_ROOMS;LIBS" ${ARGN})
-    add_library(varnoth_${name} STATIC ${ROOM_SOURCES})
+    cmake_parse_arguments(ROOM "QT" "" "SOURCES;ALONE;ROOMS;PRIVATE_ROOMS;LIBS" ${ARGN})
+    add_library(varnoth_${name} STATIC ${ROOM_SOURCES} ${ROOM_ALONE})
     target_include_directories(varnoth_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    varnoth_together(varnoth_${name} AT_MOST 8 ALONE ${ROOM_ALONE})
     list(TRANSFORM ROOM_ROOMS PREPEND varnoth_)
     list(TRANSFORM ROOM_PRIVATE_ROOMS PREPEND varnoth_)
     target_link_libraries(varnoth_${name}

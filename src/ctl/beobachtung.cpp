@@ -74,7 +74,6 @@ private:
 Ende LiesOptikteile(const Lauf& lauf, const Leitungszugang& zugang) {
     constexpr std::int16_t Adressen[] = {spezifisch::Strahlenzahl, spezifisch::Optikteilstatus,
                                          spezifisch::Blankingmuster};
-    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     std::vector<Transferparameter> alle;
     for (std::int16_t teil = 0; teil < AnzahlOptikteile; ++teil)
         for (const std::int16_t adresse : Adressen)

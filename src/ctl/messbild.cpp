@@ -24,7 +24,6 @@ constexpr std::int16_t TextAn = 8659;
 constexpr std::int16_t TextAus = 8660;
 constexpr std::int16_t ErsterWertname = 4006;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr std::array<const char*, 6> Wertnamen{"TU", "HU", "ZU", "TNU", "HNU", "ZNU"};
 constexpr std::array<const char*, 3> Blocknamen{"current", "min", "max"};
 

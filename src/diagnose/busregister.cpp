@@ -13,10 +13,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr std::int16_t TextOptikteil = 9550;
 constexpr std::int16_t TextStueck = 8448;
 constexpr std::int16_t TextEinesDavon = 8449;

@@ -23,7 +23,8 @@ std::vector<std::string> Ueberschriften() {
     return texte;
 }
 
-std::vector<std::string> Felder(const Busaustausch& austausch, std::chrono::system_clock::time_point zeit) {
+std::vector<std::string> Spaltenwerte(const Busaustausch& austausch,
+                                      std::chrono::system_clock::time_point zeit) {
     const auto angabe = AdressangabeVon(austausch.anforderung);
     return {std::to_string(austausch.nummer),
             Zeitpunkttext(zeit),
@@ -62,7 +63,7 @@ std::string Schriftkopf(Busformat format) {
 
 std::string Schriftzeile(Busformat format, const Busaustausch& austausch,
                          std::chrono::system_clock::time_point zeit) {
-    return format == Busformat::Csv ? Csvzeile(Felder(austausch, zeit)) : Textzeile(austausch, zeit);
+    return format == Busformat::Csv ? Csvzeile(Spaltenwerte(austausch, zeit)) : Textzeile(austausch, zeit);
 }
 
 } // namespace varnoth

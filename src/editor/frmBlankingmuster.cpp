@@ -18,8 +18,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 constexpr auto Abschnitt = "frmBlankingmuster";
 constexpr std::int16_t TextVonNach = 9863;
 constexpr std::int16_t TextErstesOptikteil = 5200;

@@ -19,8 +19,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 // This box speaks to the programmer, not to the user: no sign, no translation.
 constexpr std::int16_t TextEingefuegt = 9865;
 constexpr std::int16_t TextGeloescht = 9866;

@@ -12,8 +12,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-
 /// The buttons are numbered as they stand in the form.
 void Nummeriere(QButtonGroup& gruppe) {
     for (int i = 0; i < gruppe.buttons().size(); ++i)

@@ -19,8 +19,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr std::int16_t TextDatenupdaterate = 5604;
 
 /// Gives each option the number of the enumerator it stands for.

@@ -12,9 +12,7 @@
 
 namespace varnoth {
 
-namespace {
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-}
+namespace {}
 
 Optikseite::Optikseite(QWidget* eltern)
     : QWidget(eltern), ui(std::make_unique<Ui::Optikseite>()), marken(new Vorgabemarken(this)) {

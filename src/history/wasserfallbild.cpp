@@ -21,7 +21,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr std::int16_t TextStelle = 6446, TextKeineDaten = 6447, TextAnsage = 6470;
 
 constexpr Zeit LiveDauer = std::chrono::minutes(2); // that is in view at first

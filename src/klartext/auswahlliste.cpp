@@ -14,9 +14,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr std::int16_t TextWertImGeraet = 5118;
 constexpr std::int16_t TextAufloesung = 5207;
 constexpr std::int16_t TextReichweite = 5208;

@@ -13,10 +13,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 std::size_t Laenge(Speicherbereich bereich, std::int16_t adresse) {
     return static_cast<std::size_t>(Beschreibung(bereich, adresse).Laenge);
 }

@@ -16,7 +16,6 @@ namespace {
 
 using namespace modDaten;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr int Registerbits = 16;
 constexpr int MeisteStrahlen = 1009;
 

@@ -30,9 +30,6 @@ namespace {
 using namespace modDaten;
 using namespace modModbus;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 constexpr int Versuche = 10;
 
 constexpr std::int16_t TextVerbindungUnterbrochen = 3000;

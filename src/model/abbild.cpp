@@ -39,7 +39,6 @@ struct Abbild::Block {
         return block;
     }
     static Block Strahlblock(std::int16_t anzahl, int optikteil) {
-        constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
         const bool gueltig = GibtEs(Spezifisch, optikteil) && anzahl >= 1 && anzahl <= MaxStrahlregister;
         return {Spezifisch, spezifisch::Strahlzustaende, gueltig ? anzahl : std::int16_t{0}, optikteil};
     }

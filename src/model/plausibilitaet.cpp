@@ -14,8 +14,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 bool IstErfuellt(const Werteregel& regel, const Abbild& abbild, int teil) {
     return Erfuellt(regel, abbild.Bereich(regel.bereich)[Stelle(regel.bereich, regel.adresse, teil)]);
 }

@@ -10,10 +10,6 @@ namespace varnoth::modDaten {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 struct Modul {
     Abbild abbild;
     /// The next address that the iterators of a range examine.

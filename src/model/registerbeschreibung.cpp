@@ -9,10 +9,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 // Length, configuration or not, access. The line format belongs to the configuration and yet is only read: no
 // whole-configuration write changes the line that it runs on.
 constexpr Parameter DieParameter[] = {

@@ -9,6 +9,10 @@ namespace varnoth {
 /// The three memory ranges of the controller.
 enum class Speicherbereich { GlobaleGeraetedaten, SpezifischeGeraetedaten, Kommunikationsdaten };
 
+inline constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
+inline constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
+inline constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
+
 inline constexpr Speicherbereich AlleSpeicherbereiche[] = {Speicherbereich::GlobaleGeraetedaten,
                                                            Speicherbereich::SpezifischeGeraetedaten,
                                                            Speicherbereich::Kommunikationsdaten};

@@ -9,8 +9,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 bool TraegtBedeutung(const Parameter& parameter) {
     return (parameter.bereich == Spezifisch && parameter.adresse == spezifisch::Strahlenzahl) ||
            (parameter.bereich == Speicherbereich::Kommunikationsdaten &&

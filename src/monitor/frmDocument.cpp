@@ -26,7 +26,6 @@ namespace {
 
 constexpr std::int16_t TextGeblankte = 4019;
 constexpr std::int16_t ErsteErklaerung = 9020;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 constexpr int StrahlenJeRegister = 16;
 constexpr int AlterstaktMs = 250;
 

@@ -23,8 +23,6 @@ constexpr Leitungsregister DieRegister[] = {
     {kommunikation::Autosendformat, TextAutosendformat},
 };
 
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 std::int32_t Wert(const Abbild& abbild, std::int16_t adresse) {
     return abbild.HoleRegister(Kommunikation, adresse) & 0xFFFF;
 }

@@ -22,8 +22,6 @@ constexpr std::int16_t TextOptikteil = 7403;
 constexpr std::int16_t TextVorhanden = 7404;
 constexpr std::int16_t TextNichtVorhanden = 7405;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 /// The exchanges of one part: its selection, then its status register.
 class Optikteilfrage {
 public:

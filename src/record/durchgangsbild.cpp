@@ -8,9 +8,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 void SetzeTeil(Abbild& abbild, int teil, const Teilmessung& messung) {
     const Werte strahlen(messung.strahlregister.begin(), messung.strahlregister.end());
     const Werte werte(messung.werte.begin(), messung.werte.end());

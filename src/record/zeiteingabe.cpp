@@ -10,7 +10,7 @@ namespace varnoth {
 namespace {
 
 using namespace std::chrono;
-using Ortszeit = local_time<Zeit>;
+using Ortszeitpunkt = local_time<Zeit>;
 
 constexpr std::size_t MeisteStellen = 4;
 constexpr std::size_t Nachkommastellen = 6;
@@ -100,9 +100,9 @@ std::optional<Zeiteingabe> LiesZeiteingabe(std::string_view text) {
 
 std::optional<Zeit> GemeinteLaufzeit(const Zeiteingabe& eingabe, const Messangaben& angaben,
                                      const Zeitspanne& spanne, Zeit hier) {
-    const Ortszeit beginn(floor<Zeit>(angaben.beginn.time_since_epoch()) + minutes(angaben.zoneMinuten));
+    const Ortszeitpunkt beginn(floor<Zeit>(angaben.beginn.time_since_epoch()) + minutes(angaben.zoneMinuten));
     const auto am = [&](local_days tag) -> std::optional<Zeit> {
-        const Zeit laufzeit = Ortszeit(tag) + eingabe.uhrzeit - beginn;
+        const Zeit laufzeit = Ortszeitpunkt(tag) + eingabe.uhrzeit - beginn;
         if (laufzeit + eingabe.genauigkeit <= spanne.von || laufzeit > spanne.bis)
             return std::nullopt;
         return std::max(laufzeit, spanne.von);

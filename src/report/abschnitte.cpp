@@ -9,10 +9,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr std::int16_t TextGlobal = 9650;
 constexpr std::int16_t TextOptikteil = 9651;
 constexpr std::int16_t TextKommunikation = 9652;

@@ -14,8 +14,6 @@ namespace {
 
 using namespace html;
 
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr std::int16_t TextEinstellung = 9680;
 constexpr std::int16_t TextWert = 9681;
 constexpr std::int16_t TextVorgabe = 9682;

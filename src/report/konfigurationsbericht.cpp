@@ -21,10 +21,6 @@ namespace {
 
 using namespace html;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr std::int16_t TextTitel = 9690;
 constexpr std::int16_t TextAnlage = 9691;
 constexpr std::int16_t TextMaschine = 9692;

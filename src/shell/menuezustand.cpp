@@ -35,13 +35,13 @@ bool HatStrahlen(const Programmzustand& zustand) {
     return zustand.hatStrahlen.at(teil);
 }
 
-struct Zeile {
+struct Menuezeile {
     const char* name;
     Regel waehlbar;
     Regel sichtbar;
 };
 
-constexpr Zeile tabelle[] = {
+constexpr Menuezeile tabelle[] = {
     {"mnuAnzeigeLichtleiste_0", Immer, HatStrahlen<0>},
     {"mnuAnzeigeLichtleiste_1", Immer, HatStrahlen<1>},
     {"mnuAnzeigeLichtleiste_2", Immer, HatStrahlen<2>},

@@ -18,8 +18,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-
 constexpr int TaktMs = 100;
 constexpr int LaengsteWartezeitMs = 60000;
 constexpr int LiveZeitMs = 2000;

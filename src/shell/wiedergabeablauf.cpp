@@ -39,7 +39,6 @@ constexpr std::int16_t TextAusgangAktiv = 3001, TextAusgangNichtAktiv = 3002, Te
 constexpr int Fortschrittsschritte = 1000;
 constexpr std::size_t HhMmSs = 8; // letters of a time of day without its milliseconds
 constexpr std::chrono::milliseconds FortschrittNach(400);
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
 QString Q(const std::string& text) {
     return QString::fromStdString(text);

@@ -15,8 +15,6 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 class LesendeBefehle : public CtlTest {
 protected:
     /// The image of a configuration file.

@@ -14,10 +14,6 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 class Registerwahlen : public testing::Test {
 protected:
     Registerwahlen() { SetzeSprachoffset(Englisch); }

@@ -10,8 +10,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 class Vergleichsbefehl : public CtlTest {
 protected:
     /// What the controller of these tests holds, with a hole size.

@@ -17,8 +17,8 @@ using pruefung::MitPruefsumme;
 
 namespace {
 
-constexpr int Spezifisch = 0x2000;
-constexpr int Kommunikation = 0x4000;
+constexpr int SpezifischAb = 0x2000;
+constexpr int KommunikationAb = 0x4000;
 
 std::string Registerangabe(const Probe& probe) {
     return varnoth::Registerangabe(Austausch(probe));
@@ -39,20 +39,21 @@ std::string Ergebnis(Austauschergebnis ergebnis, const std::string& empfangen = 
 
 TEST(Busworte, Registers_are_told_by_the_name_that_the_editor_has_for_them) {
     EXPECT_EQ(Registerangabe(Gelesen(193, {1})), "Global: PNP-Ausgang");
-    EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 14, {1})), "Optikteil 1: Reichweite");
-    EXPECT_EQ(Registerangabe(Gelesen(Kommunikation + 4, {1})), "Kommunikation: Stations Adresse");
+    EXPECT_EQ(Registerangabe(Gelesen(SpezifischAb + 14, {1})), "Optikteil 1: Reichweite");
+    EXPECT_EQ(Registerangabe(Gelesen(KommunikationAb + 4, {1})), "Kommunikation: Stations Adresse");
 }
 
 TEST(Busworte, So_are_those_that_are_only_ever_sent_to) {
     EXPECT_EQ(Registerangabe(Geschrieben(212, {1})), "Global: Auswahl des Optikteils");
     EXPECT_EQ(Registerangabe(Geschrieben(178, Werte(8))), "Global: Passwort");
-    EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 353, Werte(32))), "Optikteil 1: Strahlzustände")
+    EXPECT_EQ(Registerangabe(Gelesen(SpezifischAb + 353, Werte(32))), "Optikteil 1: Strahlzustände")
         << "whatever the number of beams";
-    EXPECT_EQ(Registerangabe(Geschrieben(Kommunikation + 132, {2})), "Kommunikation: Steuerung von Autosend");
+    EXPECT_EQ(Registerangabe(Geschrieben(KommunikationAb + 132, {2})),
+              "Kommunikation: Steuerung von Autosend");
 }
 
 TEST(Busworte, Of_an_unknown_part_that_is_said) {
-    const Probe probe = Gelesen(Spezifisch + 14, {1});
+    const Probe probe = Gelesen(SpezifischAb + 14, {1});
     Busaustausch austausch = Austausch(probe);
     austausch.optikteil = -1;
     EXPECT_EQ(varnoth::Registerangabe(austausch), "Optikteil ?: Reichweite");
@@ -61,7 +62,7 @@ TEST(Busworte, Of_an_unknown_part_that_is_said) {
 TEST(Busworte, A_piece_of_a_parameter_says_which_registers_of_it) {
     EXPECT_EQ(Registerangabe(Gelesen(9 + 2, {1})), "Global: Seriennummer (Register 3)");
     EXPECT_EQ(Registerangabe(Gelesen(9 + 2, Werte(4))), "Global: Seriennummer (Register 3-6)");
-    EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 355, Werte(2))),
+    EXPECT_EQ(Registerangabe(Gelesen(SpezifischAb + 355, Werte(2))),
               "Optikteil 1: Strahlzustände (Register 3-4)");
 }
 
@@ -71,38 +72,38 @@ TEST(Busworte, Several_parameters_are_told_by_the_first_and_the_last) {
 
 TEST(Busworte, Registers_without_a_name_are_told_by_their_address) {
     EXPECT_EQ(Registerangabe(Gelesen(100, {1})), "Global: 100");
-    EXPECT_EQ(Registerangabe(Gelesen(Kommunikation + 200, {1})), "Kommunikation: 4000H + 200");
+    EXPECT_EQ(Registerangabe(Gelesen(KommunikationAb + 200, {1})), "Kommunikation: 4000H + 200");
     EXPECT_EQ(Registerangabe(Gelesen(0x1234, {1})), "1234H") << "outside of every range";
 }
 
 TEST(Busworte, What_was_read_or_written_is_told_in_words) {
-    EXPECT_EQ(Worte(Gelesen(Spezifisch + 14, {3})), "1,00 - 2,5m");
-    EXPECT_EQ(Worte(Geschrieben(Spezifisch + 14, {3})), "1,00 - 2,5m");
+    EXPECT_EQ(Worte(Gelesen(SpezifischAb + 14, {3})), "1,00 - 2,5m");
+    EXPECT_EQ(Worte(Geschrieben(SpezifischAb + 14, {3})), "1,00 - 2,5m");
     EXPECT_EQ(Worte(Geschrieben(212, {3})), "Optikteil 4");
     EXPECT_EQ(Worte(Geschrieben(189, {3})), "neu starten");
     EXPECT_EQ(Worte(Geschrieben(189, {9})), "9 (0x9)");
-    EXPECT_EQ(Worte(Geschrieben(Kommunikation + 132, {2})), "Autosend starten");
-    EXPECT_EQ(Worte(Geschrieben(Kommunikation + 132, {4})), "Autosend beenden");
+    EXPECT_EQ(Worte(Geschrieben(KommunikationAb + 132, {2})), "Autosend starten");
+    EXPECT_EQ(Worte(Geschrieben(KommunikationAb + 132, {4})), "Autosend beenden");
     EXPECT_EQ(Worte(Geschrieben(213, {4})), "4 (0x4)");
     EXPECT_EQ(Worte(Gelesen(100, {0x41, 0x42})), "0x41 0x42");
     EXPECT_EQ(Worte(Gelesen(0x1234, {0x41, 0x42})), "0x41 0x42");
 }
 
 TEST(Busworte, Beam_states_are_told_as_ranges_of_beams_however_many_were_read) {
-    EXPECT_EQ(Worte(Gelesen(Spezifisch + 353, {0x0700, 0x0001})), "unterbrochen: 1-3, 25");
-    EXPECT_EQ(Worte(Gelesen(Spezifisch + 353, Werte(32))), "unterbrochen: keine");
+    EXPECT_EQ(Worte(Gelesen(SpezifischAb + 353, {0x0700, 0x0001})), "unterbrochen: 1-3, 25");
+    EXPECT_EQ(Worte(Gelesen(SpezifischAb + 353, Werte(32))), "unterbrochen: keine");
 }
 
 TEST(Busworte, The_language_is_that_of_the_moment) {
     SetzeSprachoffset(Englisch);
-    EXPECT_EQ(Registerangabe(Gelesen(Spezifisch + 14, {1})), "Optical part 1: Sensing distance");
+    EXPECT_EQ(Registerangabe(Gelesen(SpezifischAb + 14, {1})), "Optical part 1: Sensing distance");
     EXPECT_EQ(Umlauftext(Austausch(Gelesen(5, {1}))), "12.3 ms");
     EXPECT_EQ(Richtungstext(Austausch(Gelesen(5, {1}))), "from controller");
 }
 
 TEST(Busworte, What_did_not_come_has_no_value) {
     EXPECT_EQ(Worte(Unbeantwortet(5)), "");
-    Probe verspaetet = Gelesen(Spezifisch + 14, {3});
+    Probe verspaetet = Gelesen(SpezifischAb + 14, {3});
     verspaetet.ergebnis = Austauschergebnis::Verspaetet;
     EXPECT_EQ(Worte(verspaetet), "") << "it was not believed";
 }

@@ -43,10 +43,6 @@ std::map<Ort, std::int32_t> Konfiguration() {
     return alle;
 }
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 } // namespace
 
 class KonfigurationImBetrieb : public ProgrammTest {

@@ -28,10 +28,6 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 const QString Lesedialog = QStringLiteral("frmKonfigurationLesenAusHardware");
 
 } // namespace
@@ -182,7 +178,7 @@ TEST_F(VergleichImBetrieb, A_backup_is_chosen_where_the_newest_one_lies_and_with
     std::string gefragter;
     SetzeDateiantwort([&](const Dateifrage& frage) {
         gefragter = frage.ordner;
-        return pfad;
+        return std::string(pfad);
     });
     WaehleQuelle("cboSeiteA", Vergleichsquelle::Sicherung);
     EXPECT_NE(gefragter, "");

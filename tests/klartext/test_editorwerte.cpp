@@ -18,10 +18,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 /// Whether a default configuration with this one register changed is kept when it is saved and opened again.
 bool BleibtErhalten(Speicherbereich bereich, std::int16_t adresse, std::int32_t wert) {
     Abbild geschrieben = Standardkonfiguration();

@@ -9,10 +9,6 @@
 /// Values of the controller's parameters to try words on.
 namespace varnoth::werteproben {
 
-inline constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-inline constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-inline constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 struct Ort {
     Speicherbereich bereich;
     std::int16_t adresse;

@@ -229,7 +229,7 @@ int Laufe(int anzahl, unsigned saat) {
     std::printf(
         "%d kills, %llu passes handed over, %d files: at most %u passes (%lld ms) missing, %d failures\n",
         anzahl, static_cast<unsigned long long>(durchgaenge), dateien, groessterVerlust,
-        static_cast<long long>(groessterVerlust * Durchgangszeit.count()), fehler);
+        static_cast<long long>(groessterVerlust) * Durchgangszeit.count(), fehler);
     return fehler == 0 && durchgaenge > 0 ? 0 : 1;
 }
 

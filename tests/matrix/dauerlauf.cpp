@@ -113,7 +113,7 @@ Dauerlauf::Dauerlauf(const QCommandLineParser& worte)
       dauerMs(static_cast<qint64>(worte.value("minutes").toDouble() * MsJeMinute)),
       laengsteLueckeMs(worte.value("limit").toInt()) {
     const std::string datei = betrieb.ordner.filePath("soak.con").toStdString();
-    SetzeDateiantwort([datei](const Dateifrage&) { return datei; });
+    SetzeDateiantwort([datei](const Dateifrage&) { return std::string(datei); });
     regie.SetzeWaechter([this] { return Wache(); });
     regie.SetzeAbbruch([this] { betrieb.Hauptfenster().close(); });
 }
@@ -166,7 +166,7 @@ std::string Dauerlauf::Wache() {
     const bool verloren = modPolling::VerbindungVerloren();
     erholungen += warVerloren && !verloren ? 1 : 0;
     warVerloren = verloren;
-    if (const std::string warnungen = UnerwarteteWarnungen(); !warnungen.empty())
+    if (std::string warnungen = UnerwarteteWarnungen(); !warnungen.empty())
         return warnungen;
     if (betrieb.puls.GroessteLueckeMs() > laengsteLueckeMs)
         return "no click served for " + std::to_string(betrieb.puls.GroessteLueckeMs()) + " ms at " +

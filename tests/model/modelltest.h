@@ -9,10 +9,6 @@
 
 namespace varnoth {
 
-inline constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-inline constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-inline constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 /// Setting of the tests of the data model: looks into the image and changes it, parameter or not.
 class ModellTest : public testing::Test {
 protected:

@@ -9,9 +9,6 @@ namespace varnoth::modGeraetestand {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 const Parameterstelle Ausgang{Global, global::PnpAusgang};
 
 Abbild MitAusgang(std::int32_t wert) {

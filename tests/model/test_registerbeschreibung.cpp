@@ -8,10 +8,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 using Ort = std::pair<Speicherbereich, int>;
 
 const std::map<Ort, Registerbeschreibung> Erwartet = {

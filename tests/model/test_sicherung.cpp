@@ -12,9 +12,7 @@ namespace {
 
 using namespace std::chrono;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-
-system_clock::time_point Zeit(int tausendstel = 0) {
+system_clock::time_point Sicherungszeit(int tausendstel = 0) {
     return sys_days{2026y / 11 / 22} + 4h + 30min + 12s + milliseconds(tausendstel);
 }
 
@@ -27,14 +25,15 @@ Abbild MitNummer(const Werte& nummer) {
 } // namespace
 
 TEST(Sicherungsnamen, The_name_is_the_time_in_UTC_with_thousandths) {
-    EXPECT_EQ(Sicherungsname(Zeit(7)), "2026-11-22_04-30-12-007Z");
-    EXPECT_EQ(Sicherungsname(Zeit(999)), "2026-11-22_04-30-12-999Z");
+    EXPECT_EQ(Sicherungsname(Sicherungszeit(7)), "2026-11-22_04-30-12-007Z");
+    EXPECT_EQ(Sicherungsname(Sicherungszeit(999)), "2026-11-22_04-30-12-999Z");
 }
 
 TEST(Sicherungsnamen, A_name_gives_its_time_back_also_with_a_number_behind_it) {
     for (const int tausendstel : {0, 7, 999}) {
-        EXPECT_EQ(ZeitAusName(Sicherungsname(Zeit(tausendstel))), Zeit(tausendstel));
-        EXPECT_EQ(ZeitAusName(Sicherungsname(Zeit(tausendstel)) + "_12"), Zeit(tausendstel));
+        EXPECT_EQ(ZeitAusName(Sicherungsname(Sicherungszeit(tausendstel))), Sicherungszeit(tausendstel));
+        EXPECT_EQ(ZeitAusName(Sicherungsname(Sicherungszeit(tausendstel)) + "_12"),
+                  Sicherungszeit(tausendstel));
     }
 }
 
@@ -74,7 +73,7 @@ TEST(Seriennummer, An_empty_image_has_none) {
 }
 
 TEST(Sicherungstext, What_is_written_is_read_back) {
-    const Sicherungsangaben angaben{.zeit = Zeit(),
+    const Sicherungsangaben angaben{.zeit = Sicherungszeit(),
                                     .anlass = Sicherungsanlass::VorNeuer,
                                     .seriennummer = "SIM-0001",
                                     .softwareversion = "2.3",
@@ -88,12 +87,14 @@ TEST(Sicherungstext, What_is_written_is_read_back) {
 TEST(Sicherungstext, Every_occasion_is_told_and_an_unknown_one_is_nothing) {
     for (const auto anlass : {Sicherungsanlass::VorDemSchreiben, Sicherungsanlass::VorDemVerbinden,
                               Sicherungsanlass::VorNeuer, Sicherungsanlass::VorDemOeffnen})
-        EXPECT_EQ(LiesSicherungstext(AlsSicherungstext({.zeit = Zeit(), .anlass = anlass})).anlass, anlass);
+        EXPECT_EQ(LiesSicherungstext(AlsSicherungstext({.zeit = Sicherungszeit(), .anlass = anlass})).anlass,
+                  anlass);
     EXPECT_FALSE(LiesSicherungstext("[Sicherung]\nAnlass=Zauberei\n").anlass);
 }
 
 TEST(Sicherungstext, A_serial_number_cannot_add_lines) {
-    const std::string text = AlsSicherungstext({.zeit = Zeit(), .seriennummer = "1\nProgramm=9\r[x]"});
+    const std::string text =
+        AlsSicherungstext({.zeit = Sicherungszeit(), .seriennummer = "1\nProgramm=9\r[x]"});
     EXPECT_EQ(LiesSicherungstext(text).seriennummer, "1 Programm=9 [x]");
     EXPECT_EQ(LiesSicherungstext(text).programm, "");
 }
@@ -108,8 +109,8 @@ TEST(Sicherungstext, Number_version_and_beam_counts_come_from_the_image) {
     EXPECT_TRUE(abbild.SetzeRegister(Global, global::Softwareversion, 0x0203));
     EXPECT_TRUE(
         abbild.SetzeRegister(Speicherbereich::SpezifischeGeraetedaten, spezifisch::Strahlenzahl, 64, 1));
-    const auto angaben = AngabenZu(abbild, Zeit());
-    EXPECT_EQ(angaben.zeit, Zeit());
+    const auto angaben = AngabenZu(abbild, Sicherungszeit());
+    EXPECT_EQ(angaben.zeit, Sicherungszeit());
     EXPECT_EQ(angaben.seriennummer, std::string(20, 'A'));
     EXPECT_EQ(angaben.softwareversion, "2.3");
     EXPECT_EQ(angaben.strahlen, "0, 64, 0, 0");

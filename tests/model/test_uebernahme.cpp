@@ -10,9 +10,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 const Parameterstelle Reichweite{Spezifisch, spezifisch::Reichweite, 1};
 const Parameterstelle Aufloesung{Spezifisch, spezifisch::Aufloesung, 1};
 

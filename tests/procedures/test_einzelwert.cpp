@@ -10,7 +10,7 @@ using pruefung::PruefGeraet;
 
 namespace {
 
-Einzelregister Global(const std::string& adresse) {
+Einzelregister GlobalesRegister(const std::string& adresse) {
     return {.adresse = adresse};
 }
 
@@ -86,18 +86,18 @@ class EinzelwertTest : public pruefung::AblaufTest {};
 
 TEST_F(EinzelwertTest, Reading_global_register_0_of_a_device_holding_1234_hex_shows_it) {
     geraet.Register(0) = 0x1234;
-    EXPECT_EQ(LiesEinzelwert(Global("0")), "&H1234");
+    EXPECT_EQ(LiesEinzelwert(GlobalesRegister("0")), "&H1234");
 }
 
 TEST_F(EinzelwertTest, A_value_of_10_shows_as_HA) {
     geraet.Register(5) = 10;
-    EXPECT_EQ(LiesEinzelwert(Global("5")), "&HA");
+    EXPECT_EQ(LiesEinzelwert(GlobalesRegister("5")), "&HA");
 }
 
 TEST_F(EinzelwertTest, Values_at_the_limits_are_shown_whole) {
     for (const auto& [wert, text] : {std::pair{0, "&H0"}, {0x8000, "&H8000"}, {0xFFFF, "&HFFFF"}}) {
         geraet.Register(5) = wert;
-        EXPECT_EQ(LiesEinzelwert(Global("5")), text);
+        EXPECT_EQ(LiesEinzelwert(GlobalesRegister("5")), text);
     }
 }
 
@@ -132,18 +132,18 @@ TEST_F(EinzelwertTest, A_specific_register_is_that_of_the_part_selected) {
 }
 
 TEST_F(EinzelwertTest, A_write_that_is_confirmed_shows_OK) {
-    EXPECT_EQ(SchreibeEinzelwert(Global("193"), "&H1F"), "OK");
+    EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister("193"), "&H1F"), "OK");
     EXPECT_EQ(geraet.Register(193), 0x1F);
 }
 
 TEST_F(EinzelwertTest, A_negative_value_is_sent_as_its_low_16_bits) {
-    SchreibeEinzelwert(Global("193"), "-2");
+    SchreibeEinzelwert(GlobalesRegister("193"), "-2");
     EXPECT_EQ(geraet.Register(193), 0xFFFE);
 }
 
 TEST_F(EinzelwertTest, A_second_write_without_retyping_sends_the_0_that_OK_reads_as) {
-    const std::string gezeigt = SchreibeEinzelwert(Global("193"), "31");
-    EXPECT_EQ(SchreibeEinzelwert(Global("193"), gezeigt), "OK");
+    const std::string gezeigt = SchreibeEinzelwert(GlobalesRegister("193"), "31");
+    EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister("193"), gezeigt), "OK");
     EXPECT_EQ(geraet.Register(193), 0);
 }
 
@@ -155,30 +155,30 @@ TEST_F(EinzelwertTest, An_empty_address_field_addresses_register_0_of_the_chosen
 
 TEST_F(EinzelwertTest, A_selection_that_fails_shows_question_marks_and_stops) {
     SchweigeImmer();
-    EXPECT_EQ(LiesEinzelwert(Global("0")), "???");
+    EXPECT_EQ(LiesEinzelwert(GlobalesRegister("0")), "???");
     EXPECT_EQ(AnzahlAnforderungen(), 1);
-    EXPECT_EQ(SchreibeEinzelwert(Global("0"), "1"), "???");
+    EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister("0"), "1"), "???");
     EXPECT_EQ(AnzahlAnforderungen(), 2);
 }
 
 TEST_F(EinzelwertTest, A_read_that_fails_shows_question_marks_without_a_retry_or_a_box) {
     geraet.schweige = [this](const std::string&) { return AnzahlAnforderungen() > 1; };
-    EXPECT_EQ(LiesEinzelwert(Global("0")), "???");
+    EXPECT_EQ(LiesEinzelwert(GlobalesRegister("0")), "???");
     EXPECT_EQ(AnzahlAnforderungen(), 2);
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 TEST_F(EinzelwertTest, A_write_that_fails_shows_question_marks_without_a_retry_or_a_box) {
     geraet.schweige = [this](const std::string&) { return AnzahlAnforderungen() > 1; };
-    EXPECT_EQ(SchreibeEinzelwert(Global("0"), "1"), "???");
+    EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister("0"), "1"), "???");
     EXPECT_EQ(AnzahlAnforderungen(), 2);
     EXPECT_TRUE(umgebung.meldungen.empty());
 }
 
 TEST_F(EinzelwertTest, An_address_beyond_16_bits_shows_question_marks_and_sends_nothing) {
     for (const char* adresse : {"65536", "-1", "&H10000", "&H100000000"}) {
-        EXPECT_EQ(LiesEinzelwert(Global(adresse)), "???") << adresse;
-        EXPECT_EQ(SchreibeEinzelwert(Global(adresse), "1"), "???") << adresse;
+        EXPECT_EQ(LiesEinzelwert(GlobalesRegister(adresse)), "???") << adresse;
+        EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister(adresse), "1"), "???") << adresse;
     }
     EXPECT_EQ(LiesEinzelwert({.adressOffset = BereichsOffset(2), .adresse = "49152"}), "???");
     EXPECT_EQ(AnzahlAnforderungen(), 0);
@@ -186,45 +186,44 @@ TEST_F(EinzelwertTest, An_address_beyond_16_bits_shows_question_marks_and_sends_
 
 TEST_F(EinzelwertTest, A_value_that_no_register_holds_shows_question_marks_and_sends_nothing) {
     for (const char* wert : {"65536", "-32769", "&H10000"})
-        EXPECT_EQ(SchreibeEinzelwert(Global("193"), wert), "???") << wert;
+        EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister("193"), wert), "???") << wert;
     EXPECT_EQ(AnzahlAnforderungen(), 0);
 }
 
 TEST_F(EinzelwertTest, What_the_controller_holds_of_a_parameter_is_not_known_after_a_write_into_it) {
-    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     const auto unbekanntNach = [](const Einzelregister& wahl) {
         modGeraetestand::MerkeGelesen({}, "4711");
         SchreibeEinzelwert(wahl, "1");
         EXPECT_TRUE(modGeraetestand::HoleGeraetestand().value().ausDieserVerbindung);
         return modGeraetestand::HoleGeraetestand().value().unbekannt;
     };
-    EXPECT_EQ(unbekanntNach(Global("193")),
+    EXPECT_EQ(unbekanntNach(GlobalesRegister("193")),
               (Parametermenge{{Speicherbereich::GlobaleGeraetedaten, global::PnpAusgang}}));
     const std::string letztes = std::to_string(spezifisch::Blankingmuster + 31);
     EXPECT_EQ(unbekanntNach({.optikteil = 2, .adressOffset = BereichsOffset(1), .adresse = letztes}),
               (Parametermenge{{Spezifisch, spezifisch::Blankingmuster, 2}}));
-    EXPECT_EQ(unbekanntNach(Global("178")), Parametermenge{}) << "the password";
+    EXPECT_EQ(unbekanntNach(GlobalesRegister("178")), Parametermenge{}) << "the password";
 }
 
 TEST_F(EinzelwertTest, A_write_without_a_confirmation_may_have_been_taken_and_a_reading_changes_nothing) {
     modGeraetestand::MerkeGelesen({}, "4711");
-    LiesEinzelwert(Global("193"));
+    LiesEinzelwert(GlobalesRegister("193"));
     EXPECT_TRUE(modGeraetestand::HoleGeraetestand()->IstGelesen());
     geraet.schweige = [this](const std::string&) { return geraet.geschrieben.size() == 2; };
-    EXPECT_EQ(SchreibeEinzelwert(Global("193"), "1"), "???");
+    EXPECT_EQ(SchreibeEinzelwert(GlobalesRegister("193"), "1"), "???");
     EXPECT_FALSE(modGeraetestand::HoleGeraetestand()->IstGelesen());
 }
 
 TEST_F(EinzelwertTest, After_a_command_what_the_controller_held_is_from_before) {
     modGeraetestand::MerkeGelesen({}, "4711");
-    SchreibeEinzelwert(Global("189"), "3");
+    SchreibeEinzelwert(GlobalesRegister("189"), "3");
     EXPECT_FALSE(modGeraetestand::HoleGeraetestand()->ausDieserVerbindung);
 }
 
 TEST_F(EinzelwertTest, The_register_image_is_left_alone) {
     geraet.Register(193) = 77;
-    LiesEinzelwert(Global("193"));
-    SchreibeEinzelwert(Global("193"), "78");
+    LiesEinzelwert(GlobalesRegister("193"));
+    SchreibeEinzelwert(GlobalesRegister("193"), "78");
     Werte werte(1);
     modDaten::HoleGlobaleDaten(193, 1, werte);
     EXPECT_EQ(werte[0], 0);

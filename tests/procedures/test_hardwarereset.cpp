@@ -9,7 +9,7 @@ using pruefung::PruefGeraet;
 
 namespace {
 
-struct Mitschrift : Resetanzeige {
+struct Resetmitschrift : Resetanzeige {
     void ZeigeWiederholung(int versuch) override {
         versuche.push_back(versuch);
         abbruch = versuch == abbruchBei;
@@ -25,7 +25,7 @@ struct Mitschrift : Resetanzeige {
 
 class HardwareresetTest : public pruefung::AblaufTest {
 protected:
-    Mitschrift anzeige;
+    Resetmitschrift anzeige;
 };
 
 TEST_F(HardwareresetTest, The_value_3_is_written_to_global_register_189) {

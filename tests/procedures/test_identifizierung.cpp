@@ -7,7 +7,7 @@ namespace varnoth {
 
 namespace {
 
-struct Mitschrift : Identifikationsanzeige {
+struct Identifikationsmitschrift : Identifikationsanzeige {
     void ZeigeVerbleibend(int versuche) override {
         verbleibend.push_back(versuche);
         if (versuche == abbruchBei)
@@ -28,7 +28,7 @@ struct Mitschrift : Identifikationsanzeige {
 
 class IdentifizierungTest : public pruefung::AblaufTest {
 protected:
-    Mitschrift anzeige;
+    Identifikationsmitschrift anzeige;
 };
 
 TEST_F(IdentifizierungTest, A_device_that_answers_the_first_request_leaves_nine_attempts) {

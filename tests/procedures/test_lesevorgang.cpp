@@ -43,7 +43,7 @@ protected:
         }
         return alles;
     }
-    static std::int32_t Spezifisch(int adresse, int teil) {
+    static std::int32_t SpezifischerWert(int adresse, int teil) {
         const auto werte = modDaten::Bereich(Speicherbereich::SpezifischeGeraetedaten);
         return werte[Stelle(Speicherbereich::SpezifischeGeraetedaten, static_cast<std::int16_t>(adresse),
                             teil)];
@@ -91,8 +91,8 @@ TEST_F(LesevorgangTest, What_was_read_lies_in_the_image) {
     geraet.Register(0x4000 + 104) = 7;
     LiesKonfiguration(anzeige);
     EXPECT_EQ(Wert(Speicherbereich::GlobaleGeraetedaten, 193), 5);
-    EXPECT_EQ(Spezifisch(83, 0), 0xFFFF);
-    EXPECT_EQ(Spezifisch(13, 3), 40);
+    EXPECT_EQ(SpezifischerWert(83, 0), 0xFFFF);
+    EXPECT_EQ(SpezifischerWert(13, 3), 40);
     EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 104), 7);
 }
 
@@ -120,7 +120,8 @@ TEST_F(LesevorgangTest, A_cancel_in_the_specific_range_of_part_2_keeps_what_was_
     };
     EXPECT_FALSE(LiesKonfiguration(anzeige));
     EXPECT_EQ(Wert(Speicherbereich::GlobaleGeraetedaten, 25), 9);
-    EXPECT_EQ((std::vector{Spezifisch(19, 0), Spezifisch(19, 1), Spezifisch(19, 2), Spezifisch(19, 3)}),
+    EXPECT_EQ((std::vector{SpezifischerWert(19, 0), SpezifischerWert(19, 1), SpezifischerWert(19, 2),
+                           SpezifischerWert(19, 3)}),
               (std::vector{60, 61, 0, 0}));
     EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 4), 0);
     EXPECT_EQ(anzeige.ende, "");
@@ -140,7 +141,7 @@ TEST_F(LesevorgangTest, An_impossible_beam_count_is_left_alone_when_the_transfer
     geraet.Spezifisch(0, 12) = 600;
     anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.registertext == "4000H + 126"; };
     EXPECT_FALSE(LiesKonfiguration(anzeige));
-    EXPECT_EQ(Spezifisch(12, 0), 600);
+    EXPECT_EQ(SpezifischerWert(12, 0), 600);
 }
 
 TEST_F(LesevorgangTest, The_range_shows_Optikteil_0_while_the_first_part_is_selected) {
@@ -251,7 +252,6 @@ TEST_F(LesevorgangTest, A_controller_that_goes_silent_while_it_is_read_aside_lea
     anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.versuch == 3; };
     Geraeteabzug abzug;
     EXPECT_FALSE(LiesGeraeteabzug(anzeige, abzug));
-    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     EXPECT_EQ(abzug.abbild.HoleRegister(Spezifisch, 14, 0), 4);
     EXPECT_FALSE(abzug.ungelesen.contains({Spezifisch, 52, 0}));
     EXPECT_TRUE(abzug.ungelesen.contains({Spezifisch, 12, 1}));

@@ -9,7 +9,7 @@ namespace varnoth {
 
 namespace {
 
-struct Mitschrift : Optikteilanzeige {
+struct Optikteilmitschrift : Optikteilanzeige {
     void ZeigeOptikteil(int optikteil, const std::string& text) override {
         zeilen.at(static_cast<std::size_t>(optikteil)).push_back(text);
     }
@@ -25,7 +25,7 @@ struct Mitschrift : Optikteilanzeige {
 
 class OptikteilinformationTest : public pruefung::AblaufTest {
 protected:
-    Mitschrift anzeige;
+    Optikteilmitschrift anzeige;
 };
 
 TEST_F(OptikteilinformationTest, Bit_7_of_the_status_tells_present_and_no_other_bit_does) {

@@ -21,10 +21,6 @@ using pruefung::PruefGeraet;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 struct Anzeige : Ablaufanzeige {
     bool Abgebrochen() override { return ++gefragt > nachlass; }
     int gefragt = 0;

@@ -15,10 +15,6 @@ namespace {
 using pruefung::Mitschrift;
 using pruefung::Schritt;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 const Parametermenge Alle = AlleStellen(IstSchreibbar);
 constexpr int AlleRegister = 1 + 4 * (7 + 32) + 1 + 1 + 1 + 30 + 1;
 

@@ -14,10 +14,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 const Parameterstelle Reichweite{Spezifisch, spezifisch::Reichweite, 1};
 const Parameterstelle Pause{Kommunikation, kommunikation::Pausenzeit, 0};
 

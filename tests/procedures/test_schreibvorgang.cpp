@@ -321,13 +321,13 @@ TEST_F(SchreibvorgangTest, A_write_of_which_nothing_was_confirmed_is_not_remembe
 }
 
 TEST_F(SchreibvorgangTest, The_track_tells_what_was_confirmed_and_what_only_sent) {
-    constexpr Parameterstelle Global{Speicherbereich::GlobaleGeraetedaten, global::PnpAusgang, 0};
+    constexpr Parameterstelle Ausgangsparameter{Speicherbereich::GlobaleGeraetedaten, global::PnpAusgang, 0};
     constexpr Parameterstelle Erster{Speicherbereich::SpezifischeGeraetedaten, spezifisch::Aufloesung, 0};
     geraet.schweige = [](const std::string& anforderung) { return pruefung::Wort(anforderung, 2) == 0x200D; };
     anzeige.abbruchBei = [](const Schritt& schritt) { return schritt.versuch == 3; };
     Schreibspur spur;
     EXPECT_FALSE(SchreibeKonfiguration(anzeige, Ablage::Fluechtig, {.abbild = modDaten::DasAbbild()}, spur));
-    EXPECT_EQ(spur.geschrieben, Parametermenge{Global});
+    EXPECT_EQ(spur.geschrieben, Parametermenge{Ausgangsparameter});
     EXPECT_EQ(spur.ungewiss, Parametermenge{Erster});
 }
 

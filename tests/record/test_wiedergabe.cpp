@@ -210,7 +210,6 @@ TEST_F(WiedergabeTest, Single_passes_go_over_a_damaged_packet) {
 }
 
 TEST(DurchgangsbildTest, A_pass_stands_on_the_configuration_it_was_measured_with) {
-    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     Abbild konfiguration;
     ASSERT_TRUE(konfiguration.SetzeRegister(Spezifisch, spezifisch::Aufloesung, 5, 0));
     ASSERT_TRUE(konfiguration.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, 64, 1));

@@ -11,10 +11,6 @@ namespace varnoth::abbildproben {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 Werte Textregister(std::string_view text, std::size_t anzahl) {
     Werte werte;
     for (std::size_t i = 0; i < anzahl; ++i) {

@@ -21,10 +21,6 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 const Berichtsangaben AlleAngaben{.anlage = "Walzwerk 3",
                                   .maschine = "Bandlauf",
                                   .person = "E. Muster",

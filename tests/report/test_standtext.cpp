@@ -21,10 +21,6 @@ using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 std::string Deutscher(const Abbild& abbild = abbildproben::Vierteilig()) {
     return Standtext(abbild, Deutsch);
 }

@@ -19,9 +19,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int Spezifisch = 0x2000;
-constexpr int StatusAdresse = Spezifisch + 44, Werteadresse = Spezifisch + 335,
-              Strahladresse = Spezifisch + 353;
+constexpr int SpezifischAb = 0x2000;
+constexpr int StatusAdresse = SpezifischAb + 44, Werteadresse = SpezifischAb + 335,
+              Strahladresse = SpezifischAb + 353;
 
 struct BandTest : testing::Test {
     BandTest() {
@@ -183,8 +183,8 @@ TEST_F(BandTest, Configuration_registers_are_those_of_the_record) {
     Schreibe(Aufzeichnung(Zufaellige(10)));
     Probe probe(MitBand());
     probe.Waehle(2);
-    EXPECT_EQ(probe.Lies(Spezifisch + 13, 1), std::vector<int>{7});
-    EXPECT_EQ(probe.Lies(Spezifisch + 12, 1), std::vector<int>{1009});
+    EXPECT_EQ(probe.Lies(SpezifischAb + 13, 1), std::vector<int>{7});
+    EXPECT_EQ(probe.Lies(SpezifischAb + 12, 1), std::vector<int>{1009});
 }
 
 TEST_F(BandTest, A_configuration_that_changes_in_the_record_changes_on_the_line) {
@@ -200,9 +200,9 @@ TEST_F(BandTest, A_configuration_that_changes_in_the_record_changes_on_the_line)
     Schreibe(bytes + form.Beende());
     Probe probe(MitBand());
     probe.Waehle(2);
-    EXPECT_EQ(probe.Lies(Spezifisch + 13, 1), std::vector<int>{7});
+    EXPECT_EQ(probe.Lies(SpezifischAb + 13, 1), std::vector<int>{7});
     probe.Lies(Werteadresse, 18);
-    EXPECT_EQ(probe.Lies(Spezifisch + 13, 1), std::vector<int>{9});
+    EXPECT_EQ(probe.Lies(SpezifischAb + 13, 1), std::vector<int>{9});
 }
 
 TEST_F(BandTest, A_record_cut_at_any_byte_or_with_any_bit_flipped_never_does_harm) {

@@ -420,7 +420,6 @@ TEST_F(AnwendungTest, An_implausible_image_takes_the_controller_of_an_open_port_
     ASSERT_EQ(modModbus::RTUModeH11IndentifikationsAnforderung(), True);
     modModbus::SchreibeSteuerwert2();
     ASSERT_TRUE(modModbus::AutosendGestartet());
-    constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
     const auto pruefe = [] {
         ASSERT_TRUE(modDaten::SetzeRegister(Spezifisch, spezifisch::Reichweite, 6));
         EXPECT_EQ(modDaten::PruefeKonfiguration(), False);

@@ -30,10 +30,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr int ZweiVersuche = 2;
 
 void Druecke(QWidget& ziel, Qt::Key taste, Qt::KeyboardModifiers mit = Qt::NoModifier) {

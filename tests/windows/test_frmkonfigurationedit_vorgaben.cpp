@@ -24,13 +24,6 @@
 
 namespace varnoth {
 
-namespace {
-
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
-} // namespace
-
 /// The editor on a default configuration with one part.
 class EditorvorgabenTest : public pruefung::DialogTest {
 protected:

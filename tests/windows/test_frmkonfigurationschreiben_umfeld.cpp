@@ -22,10 +22,6 @@ using pruefung::Wort;
 
 namespace {
 
-constexpr auto Global = Speicherbereich::GlobaleGeraetedaten;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 constexpr int Schreibvorgaenge = 43;
 
 } // namespace

@@ -21,8 +21,6 @@ namespace {
 
 using namespace std::chrono;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 Sicherung Eine(const std::string& pfad, const std::string& nummer, int stunde) {
     return {pfad,
             {.zeit = sys_days{2026y / 11 / 22} + hours(stunde),

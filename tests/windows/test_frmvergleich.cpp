@@ -32,9 +32,6 @@ namespace varnoth {
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-constexpr auto Kommunikation = Speicherbereich::Kommunikationsdaten;
-
 struct PruefAnbieter : Vergleichsanbieter {
     std::vector<Vergleichsquelle> Fragbare() override { return fragbare; }
     void Verlange(Vergleichsquelle quelle, Seitenwahl seite) override {

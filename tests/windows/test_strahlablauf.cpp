@@ -17,7 +17,6 @@ namespace {
 
 constexpr int Strahlen = 64;
 constexpr int Verschmutzter = 12;
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
 
 /// Blanks that beam alone.
 Werte Erwartetes() {

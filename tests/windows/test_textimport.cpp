@@ -22,8 +22,6 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 Abbild MitStrahlen(std::int32_t strahlen) {
     Abbild abbild = Standardkonfiguration();
     EXPECT_TRUE(abbild.SetzeRegister(Spezifisch, spezifisch::Strahlenzahl, strahlen, 0));

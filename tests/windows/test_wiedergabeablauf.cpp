@@ -37,8 +37,6 @@ using enum Messereignisart;
 
 namespace {
 
-constexpr auto Spezifisch = Speicherbereich::SpezifischeGeraetedaten;
-
 /// Hears live data as a recording does, a packet a pass.
 struct Mitschnitt : Messhoerer {
     Mitschnitt() { modMesshoerer::MeldeAn(*this); }
@@ -113,13 +111,13 @@ protected:
         fenster.reset();
         SetzeDateiantwort({});
     }
-    void Lies(std::shared_ptr<const Messquelle> quelle) {
+    void Lies(const std::shared_ptr<const Messquelle>& quelle) {
         Fenster().SetzeAufzeichnungsleser([quelle](const std::string&, const auto& weiter) {
             return weiter(0.5) ? GeoeffneteAufzeichnung{.quelle = quelle} : GeoeffneteAufzeichnung();
         });
     }
-    void Oeffne(std::shared_ptr<const Messquelle> quelle) {
-        Lies(std::move(quelle));
+    void Oeffne(const std::shared_ptr<const Messquelle>& quelle) {
+        Lies(quelle);
         Waehle("tlbWiedergabe");
     }
     QWidget* Leiste() { return Fenster().findChild<QWidget*>("frmWiedergabe"); }
@@ -647,11 +645,11 @@ TEST_F(WiedergabeablaufTest, Replay_shows_the_same_pictures_as_live_did) {
     Oeffne(mitschnitt.quelle);
     stelleAuf();
     std::size_t verglichene = 0;
-    for (std::size_t i = 0; i < live.size(); ++i) {
+    for (const auto& damals : live) {
         SchreiteVor(1);
         const auto jetzt = bilder();
         for (std::size_t teil = 0; teil < 2; ++teil)
-            verglichene += jetzt[teil] == live[i][teil] ? 1 : 0;
+            verglichene += jetzt[teil] == damals[teil] ? 1 : 0;
     }
     EXPECT_EQ(verglichene, 2 * live.size());
 }
