@@ -36,6 +36,28 @@ constexpr double MsJeMinute = 60000;
 constexpr qint64 KuerzestesUrteilMs = 60000; ///< less is not enough to be warm and to grow after that
 constexpr std::size_t WachstumKb = 3072;     ///< that is still called none
 
+/// Windows that are kept when they are closed, each with the command that shows it.
+constexpr struct {
+    const char* befehl;
+    const char* fenster;
+} BleibendeFenster[] = {
+    {"mnuVergleich", "frmVergleich"},
+    {"mnuSicherungen", "frmSicherungen"},
+    {"mnuBericht", "frmBericht"},
+    {"mnuBusprotokoll", "frmBusprotokoll"},
+    {"tlbVerbindung", "frmVerbindung"},
+    {"tlbStrahlverlauf", "frmWasserfall"},
+    {"tlbVerlauf", "frmVerlauf"},
+    {"tlbEreignisse", "frmEreignisse"},
+    {"tlbAufzeichnungen", "frmAufzeichnung"},
+};
+
+bool IstOffen(const char* fenster) {
+    return std::ranges::any_of(QApplication::topLevelWidgets(), [fenster](const QWidget* offenes) {
+        return offenes->isVisible() && offenes->objectName() == fenster;
+    });
+}
+
 /// Faults, each with what ends it.
 struct Zufallsstoerung {
     const char* beginn;
@@ -81,6 +103,7 @@ public:
 
 private:
     Handlung Spiele();
+    Handlung OeffneAlles();
     Handlung Abschnitt();
     Handlung Ruhepunkt();
     Handlung SchliesseDialoge();
@@ -127,11 +150,21 @@ bool Dauerlauf::Laufe() {
 }
 
 Handlung Dauerlauf::Spiele() {
+    co_await OeffneAlles();
     co_await Ruhepunkt();
     betrieb.puls.Beginne();
     while (!uhr.hasExpired(dauerMs)) {
         co_await Abschnitt();
         co_await Ruhepunkt();
+    }
+}
+
+/// A window takes its memory when it is first shown; later that would look like growth.
+Handlung Dauerlauf::OeffneAlles() {
+    for (const auto& [befehl, fenster] : BleibendeFenster) {
+        betrieb.Waehle(befehl);
+        co_await regie.Bis(fenster, [name = fenster] { return IstOffen(name); });
+        co_await SchliesseDialoge();
     }
 }
 
