@@ -91,10 +91,6 @@ void MaleFuss(QPainter& maler, const Dokument& dokument, const Berichtsdruck& dr
 
 } // namespace
 
-int Seitenzahl(const Berichtsdruck& druck, QPagedPaintDevice& geraet) {
-    return Dokument(druck.html, geraet).pageCount();
-}
-
 bool Drucke(const Berichtsdruck& druck, QPagedPaintDevice& geraet) {
     const Dokument dokument(druck.html, geraet);
     QPainter maler;

@@ -17,9 +17,6 @@ struct Berichtsdruck {
     QString seitewort; ///< "Seite %1 von %2"
 };
 
-/// The number of pages on a device, which may not be painted on meanwhile.
-int Seitenzahl(const Berichtsdruck& druck, QPagedPaintDevice& geraet);
-
 /// Paints all pages on a device, black on white whatever the colours of the screen. False when the device
 /// cannot be painted on.
 bool Drucke(const Berichtsdruck& druck, QPagedPaintDevice& geraet);

@@ -100,9 +100,9 @@ Berichtsdruck frmBericht::Druck() const {
 }
 
 void frmBericht::Zeige() {
-    const int seiten = Seitenzahl(Druck(), *papier);
-    ui->lblSeiten->setText(QString::fromStdString(LadeTextMit(TextSeitenzahl, {std::to_string(seiten)})));
     vorschau->updatePreview();
+    const std::string seiten = std::to_string(vorschau->pageCount());
+    ui->lblSeiten->setText(QString::fromStdString(LadeTextMit(TextSeitenzahl, {seiten})));
 }
 
 void frmBericht::DruckeAufPapier() {
