@@ -12,8 +12,6 @@
 
 namespace varnoth {
 
-namespace {}
-
 Optikseite::Optikseite(QWidget* eltern)
     : QWidget(eltern), ui(std::make_unique<Ui::Optikseite>()), marken(new Vorgabemarken(this)) {
     ui->setupUi(this);
