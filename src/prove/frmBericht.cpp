@@ -4,12 +4,12 @@
 #include "fensterplatz.h"
 #include "lokalisiereform.h"
 #include "registerabbild.h"
+#include "seiteneinrichtung.h"
 #include "standtext.h"
 #include "textmitwerten.h"
 #include "ui_frmBericht.h"
 #include "umgebung.h"
 
-#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTimer>
 
@@ -19,6 +19,7 @@ namespace {
 
 constexpr const char* Abschnittname = "frmBericht";
 
+constexpr std::int16_t TextVorschau = 6793;
 constexpr std::int16_t TextSeitenzahl = 9737;
 constexpr std::int16_t TextSeiteVon = 9738;
 constexpr std::int16_t TextKeinDrucker = 9739;
@@ -34,17 +35,13 @@ constexpr int VerzugMs = 300; // between a typed letter and the new preview
 
 frmBericht::frmBericht(Berichtsumfeld neues, QWidget* parent)
     : QDialog(parent), umfeld(std::move(neues)), ui(std::make_unique<Ui::frmBericht>()),
-      papier(std::make_unique<QPrinter>()), verzug(new QTimer(this)) {
+      verzug(new QTimer(this)) {
     ui->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    papier->setOutputFormat(QPrinter::PdfFormat);
-    RichteSeiteEin(*papier);
-    vorschau = new QPrintPreviewWidget(papier.get(), this);
-    vorschau->setObjectName("vorschau");
-    ui->rahmenVorschau->addWidget(vorschau);
     verzug->setSingleShot(true);
     verzug->setInterval(VerzugMs);
     LokalisiereForm(*this);
+    ui->vorschau->setAccessibleName(QString::fromStdString(LadeText(TextVorschau)));
     for (const auto& [eingabe, schluessel] : Eingaben())
         eingabe->setText(QString::fromStdString(DieEinstellungen().LiesText(Abschnittname, schluessel, "")));
     ui->chkStrahlstatistik->setVisible(umfeld.strahlen.has_value());
@@ -61,8 +58,7 @@ std::vector<std::pair<QLineEdit*, const char*>> frmBericht::Eingaben() const {
 }
 
 void frmBericht::Verbinde() {
-    connect(vorschau, &QPrintPreviewWidget::paintRequested, this,
-            [this](QPrinter* drucker) { Drucke(Druck(), *drucker); });
+    connect(ui->vorschau, &Seitenvorschau::Gezeigt, this, [this] { NenneSeiten(); });
     connect(verzug, &QTimer::timeout, this, [this] { Zeige(); });
     for (const auto& [eingabe, schluessel] : Eingaben())
         connect(eingabe, &QLineEdit::textEdited, verzug, qOverload<>(&QTimer::start));
@@ -100,8 +96,11 @@ Berichtsdruck frmBericht::Druck() const {
 }
 
 void frmBericht::Zeige() {
-    vorschau->updatePreview();
-    const std::string seiten = std::to_string(vorschau->pageCount());
+    ui->vorschau->Zeige(Druck());
+}
+
+void frmBericht::NenneSeiten() {
+    const std::string seiten = std::to_string(ui->vorschau->Seitenzahl());
     ui->lblSeiten->setText(QString::fromStdString(LadeTextMit(TextSeitenzahl, {seiten})));
 }
 
@@ -130,8 +129,6 @@ void frmBericht::ImportiereText() {
 void frmBericht::showEvent(QShowEvent* ereignis) {
     QDialog::showEvent(ereignis);
     VerfolgePlatz(*this);
-    vorschau->setViewMode(QPrintPreviewWidget::SinglePageView);
-    vorschau->fitToWidth();
 }
 
 void frmBericht::done(int ergebnis) {

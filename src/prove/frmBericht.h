@@ -17,7 +17,6 @@
 
 class QLineEdit;
 class QPrinter;
-class QPrintPreviewWidget;
 class QTimer;
 
 namespace varnoth {
@@ -72,14 +71,13 @@ private:
     Berichtsangaben Angaben() const;
     Berichtsdruck Druck() const;
     void Zeige();
+    void NenneSeiten();
     void DruckeAufPapier();
     void SpeicherePdf();
     void ImportiereText();
 
     Berichtsumfeld umfeld;
     std::unique_ptr<Ui::frmBericht> ui;
-    std::unique_ptr<QPrinter> papier; ///< of the preview
-    QPrintPreviewWidget* vorschau = nullptr;
     QTimer* verzug;
 };
 

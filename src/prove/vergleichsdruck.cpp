@@ -1,6 +1,7 @@
 #include "vergleichsdruck.h"
 
 #include "berichtsdruck.h"
+#include "seiteneinrichtung.h"
 #include "texte.h"
 #include "umgebung.h"
 

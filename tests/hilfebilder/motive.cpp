@@ -38,6 +38,7 @@
 #include "pruefverbindung.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "seitenvorschau.h"
 #include "servicetext.h"
 #include "strahlproben.h"
 #include "suchworte.h"
@@ -320,7 +321,8 @@ QImage Berichtsfenster(Buehne& buehne) {
         DieEinstellungen().SchreibText("frmBericht", schluessel, text);
     frmBericht fenster({.angaben = [] { return Berichtsangaben{.programmversion = "1.0.0"}; }});
     fenster.resize(Berichtsgroesse);
-    return buehne.BildNach(fenster, Sofort);
+    const auto& vorschau = *fenster.findChild<Seitenvorschau*>();
+    return buehne.Bild(fenster, [&vorschau] { return vorschau.Seitenzahl() > 0; });
 }
 
 struct Protokollzeit : Protokollanbieter {

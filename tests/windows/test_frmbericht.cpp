@@ -4,13 +4,14 @@
 #include "berichtsdruck.h"
 #include "registerabbild.h"
 #include "registeradressen.h"
+#include "seitenvorschau.h"
 #include "standtext.h"
 #include "untereditortest.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
@@ -74,6 +75,10 @@ protected:
                     }});
         return *fenster;
     }
+    Seitenvorschau& Vorschau() { return Kind<Seitenvorschau>(Fenster(), "vorschau"); }
+    bool WarteAufVorschau() {
+        return pruefung::WarteBis([this] { return Vorschau().Seitenzahl() > 0; });
+    }
     void Tippe(const char* feld, const char* text) {
         auto& eingabe = Kind<QLineEdit>(Fenster(), feld);
         eingabe.clear();
@@ -120,20 +125,32 @@ TEST_F(FrmBerichtTest, The_fields_are_remembered) {
 
 TEST_F(FrmBerichtTest, The_preview_follows_what_is_typed) {
     ZeigeAktiv(Fenster());
-    auto& vorschau = Kind<QPrintPreviewWidget>(Fenster(), "vorschau");
-    int gemalt = 0;
-    QObject::connect(&vorschau, &QPrintPreviewWidget::paintRequested, [&] { ++gemalt; });
+    ASSERT_TRUE(WarteAufVorschau());
+    QSignalSpy gezeigt(&Vorschau(), &Seitenvorschau::Gezeigt);
+    const QImage vorher = Vorschau().grab().toImage();
     Tippe("txtAnlage", "W");
-    EXPECT_TRUE(pruefung::WarteBis([&] { return gemalt > 0; }));
+    EXPECT_TRUE(pruefung::WarteBis([&] { return !gezeigt.isEmpty(); }));
+    EXPECT_NE(Vorschau().grab().toImage(), vorher);
 }
 
 TEST_F(FrmBerichtTest, The_number_of_pages_is_told_and_is_that_of_preview_and_file) {
     ZeigeAktiv(Fenster());
+    ASSERT_TRUE(WarteAufVorschau());
     const std::string pdf = NachKlick("cmdPdf").bytes;
     const auto seiten = static_cast<int>(Pdfseiten(pdf));
     EXPECT_GE(seiten, 4);
-    EXPECT_EQ(Kind<QPrintPreviewWidget>(Fenster(), "vorschau").pageCount(), seiten);
+    EXPECT_EQ(Vorschau().Seitenzahl(), seiten);
     EXPECT_EQ(Beschriftung(Fenster(), "lblSeiten"), QStringLiteral("Seiten: %1").arg(seiten));
+}
+
+TEST_F(FrmBerichtTest, Nothing_is_said_about_pages_that_are_not_laid_out_yet) {
+    EXPECT_EQ(Beschriftung(Fenster(), "lblSeiten"), "");
+}
+
+TEST_F(FrmBerichtTest, A_field_is_where_one_types_first_and_the_preview_has_a_name) {
+    ZeigeAktiv(Fenster());
+    EXPECT_EQ(Fenster().focusWidget(), &Kind<QLineEdit>(Fenster(), "txtAnlage"));
+    EXPECT_EQ(Vorschau().accessibleName(), "Vorschau der Seiten");
 }
 
 TEST_F(FrmBerichtTest, Html_is_saved_as_the_document_and_is_the_same_at_any_time) {
@@ -171,10 +188,12 @@ TEST_F(FrmBerichtTest, The_exported_text_is_the_configuration_without_measured_v
 }
 
 TEST_F(FrmBerichtTest, After_an_import_the_report_is_about_the_new_configuration) {
-    const QString vorher = (Fenster(), Beschriftung(*fenster, "lblSeiten"));
+    Fenster();
+    ASSERT_TRUE(WarteAufVorschau());
+    const QString vorher = Beschriftung(Fenster(), "lblSeiten");
     Klicke(Fenster(), "cmdTextImport");
     EXPECT_THAT(Fenster().Html(), Not(HasSubstr("VN-&lt;2026&gt;")));
-    EXPECT_NE(Beschriftung(Fenster(), "lblSeiten"), vorher);
+    EXPECT_TRUE(pruefung::WarteBis([&] { return Beschriftung(Fenster(), "lblSeiten") != vorher; }));
 }
 
 TEST_F(FrmBerichtTest, Printing_paints_every_page) {
