@@ -149,6 +149,7 @@ void Anwendung::LadeHauptfenster() {
         hauptfenster->ZeigeStatustext(FeldMeldungen, LadeText(TextNichtGespeichert) + text);
     });
     hauptfenster->show();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // painted before the splash is made
 }
 
 void Anwendung::ZeigeSplash() {

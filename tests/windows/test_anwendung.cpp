@@ -38,6 +38,7 @@
 #include <chrono>
 #include <future>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace varnoth {
@@ -171,6 +172,28 @@ TEST_F(AnwendungTest, Any_other_language_in_the_settings_file_counts_as_German) 
 TEST_F(AnwendungTest, The_start_shows_the_main_window) {
     ASSERT_TRUE(Mit({}).Starte());
     EXPECT_TRUE(anwendung->Hauptfenster().isVisible());
+}
+
+/// Notes whether the splash was there when a child of the main window was painted first.
+struct Malzeuge : QObject {
+    Malzeuge() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* ziel, QEvent* ereignis) override {
+        const auto* const element = qobject_cast<QWidget*>(ziel);
+        if (!beimErstenMalen && ereignis->type() == QEvent::Paint && element != nullptr &&
+            element->window()->inherits("varnoth::frmMain"))
+            beimErstenMalen =
+                std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* fenster) {
+                    return fenster->inherits("varnoth::frmSplash");
+                });
+        return false;
+    }
+    std::optional<bool> beimErstenMalen;
+};
+
+TEST_F(AnwendungTest, The_main_window_is_painted_before_the_splash_is_made) {
+    Malzeuge zeuge;
+    ASSERT_TRUE(Mit({}).Starte());
+    EXPECT_EQ(zeuge.beimErstenMalen, false);
 }
 
 TEST_F(AnwendungTest, A_second_instance_is_refused_with_a_message) {
