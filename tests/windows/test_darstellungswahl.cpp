@@ -391,6 +391,28 @@ TEST_F(DarstellungTest, The_menu_ticks_what_is_in_use) {
     menue.close();
 }
 
+TEST_F(DarstellungTest, Beside_each_set_of_colours_stand_free_interrupted_and_blanked_beams_on_their_ground) {
+    QMenu& menue = Menue();
+    for (const auto& zeile : Farbsatzzeilen()) {
+        const QIcon probe = menue.findChild<QAction*>(QLatin1String(zeile.name))->icon();
+        const QImage bild = probe.pixmap(probe.availableSizes().value(0)).toImage();
+        const Strahlfarben farben = FarbenAus(Fenster().palette(), Datenstand::Gueltig, zeile.wert);
+        std::vector<QColor> spalte{farben.grund};
+        for (const QColor& farbe : {farben.frei, farben.unterbrochen, farben.geblankt}) {
+            spalte.insert(spalte.end(), 4, farbe);
+            spalte.push_back(farben.grund);
+        }
+        ASSERT_EQ(bild.height(), static_cast<int>(spalte.size()));
+        for (int y = 0; y < bild.height(); ++y) {
+            for (const int x : {1, bild.width() - 2})
+                EXPECT_EQ(bild.pixelColor(x, y).rgb(), spalte[static_cast<std::size_t>(y)].rgb()) << y;
+            for (const int x : {0, bild.width() - 1})
+                EXPECT_EQ(bild.pixelColor(x, y).rgb(), farben.grund.rgb()) << y;
+        }
+    }
+    menue.close();
+}
+
 TEST_F(DarstellungTest, The_menu_names_each_choice_in_the_chosen_language) {
     const auto punkte = [this] {
         QMenu& menue = Menue();

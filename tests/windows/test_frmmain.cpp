@@ -330,6 +330,13 @@ TEST_F(FrmMainTest, A_view_shown_from_the_menu_waits_for_its_values) {
     EXPECT_TRUE(ZeigtKeineWerte(0));
 }
 
+TEST_F(FrmMainTest, A_view_shown_from_the_menu_says_what_is_known_of_its_part) {
+    Fenster().Fenster(0);
+    ASSERT_EQ(Titel(0), "1. Optikteil offline");
+    Waehle("mnuAnzeigeLichtleiste_0");
+    EXPECT_EQ(Titel(0), "1. Optikteil nicht vorhanden");
+}
+
 TEST_F(FrmMainTest, A_new_configuration_takes_the_values_of_the_former_one_away) {
     MissEinmal({32, 0, 0, 0});
     Sobald("frmStrahlenBestimmen", [](QDialog& dialog) {
