@@ -61,6 +61,15 @@ TEST_F(KurvenspurTest, A_step_is_joined_to_what_was_before) {
     EXPECT_FALSE(Bedeckt(spur, 2, 40));
 }
 
+TEST_F(KurvenspurTest, A_step_of_one_is_as_thick_as_the_curve) {
+    quelle.Nimm(PaketMit(seconds(0), 3, milliseconds(100), 30));
+    quelle.Nimm(PaketMit(milliseconds(300), 3, milliseconds(100), 31));
+    const auto spur = Spur();
+    EXPECT_TRUE(Bedeckt(spur, 3, 70));
+    EXPECT_TRUE(Bedeckt(spur, 4, 70)) << "the end of the step";
+    EXPECT_FALSE(Bedeckt(spur, 5, 70));
+}
+
 TEST_F(KurvenspurTest, A_spike_of_one_pass_is_drawn_in_every_pattern) {
     for (int teil = 0; teil < AnzahlOptikteile; ++teil)
         for (int wann = 0; wann < 20; ++wann) {

@@ -2,6 +2,7 @@
 
 #include "fenstertest.h"
 #include "kurvenfarben.h"
+#include "kurvenspur.h"
 #include "kurvenstil.h"
 #include "pruefdurchgaenge.h"
 #include "pruefmessanbieter.h"
@@ -396,6 +397,36 @@ TEST_F(VerlaufsbildTest, The_legend_names_each_curve_above_the_picture) {
         for (int x = oben.x(); x < aufnahme.width(); ++x)
             beschriebene += istSchrift(aufnahme.pixelColor(x, y)) ? 1 : 0;
     EXPECT_GT(beschriebene, 0);
+}
+
+TEST_F(VerlaufsbildTest, Where_rows_are_low_each_part_has_its_name_in_the_middle_of_its_own) {
+    FuelleSekunden(anbieter.quelle, 10);
+    Verlaufswahl wahl = bild.Wahl();
+    wahl.Setze({1, 0}, true);
+    bild.SetzeWahl(wahl);
+    bild.resize(Groesse.width(), static_cast<int>(18 * QFontMetricsF(bild.font()).height()));
+    Zeige();
+    const QImage aufnahme = Aufnahme();
+    const QPoint ecke = bild.Stelle(bild.Spanne().von, bild.Blick().Werte().unten).toPoint();
+    const double schrifthoehe = QFontMetricsF(bild.font()).height();
+    const double oben = ecke.y() + 6;
+    const double unten = bild.height() - 2 * schrifthoehe - 12;
+    const auto zeilen = static_cast<double>(Zustandszeilen(wahl).size());
+    const double zeilenhoehe = (unten - oben) / zeilen;
+    const double jeTeil = (zeilen - 1) / 2;
+    ASSERT_LT(zeilenhoehe, 0.8 * schrifthoehe);
+    ASSERT_GT(jeTeil * zeilenhoehe, schrifthoehe + 4);
+    const auto istBeschrieben = [&](double mitte) {
+        const QRgb grund = aufnahme.pixel(0, aufnahme.height() - 1);
+        for (int y = static_cast<int>(mitte) - 1; y <= static_cast<int>(mitte) + 1; ++y)
+            for (int x = 1; x < ecke.x() - 4; ++x)
+                if (aufnahme.pixel(x, y) != grund)
+                    return true;
+        return false;
+    };
+    for (const int teil : {0, 1})
+        EXPECT_TRUE(istBeschrieben(oben + (1 + (teil + 0.5) * jeTeil) * zeilenhoehe)) << teil;
+    EXPECT_FALSE(istBeschrieben(oben + (1 + jeTeil) * zeilenhoehe)) << "between the parts";
 }
 
 TEST(Verlaufsfeldtest, Rows_take_no_more_than_two_fifths_of_the_height_and_are_no_higher_than_letters) {
