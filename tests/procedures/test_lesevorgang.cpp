@@ -319,8 +319,9 @@ protected:
     struct Teilanzeige : Optikteilanzeige {
         void ZeigeOptikteil(int /*optikteil*/, const std::string& /*text*/) override {}
         void ZeigeFortschritt(int /*erledigt*/, int /*gesamt*/) override {}
-        bool Abgebrochen() override { return abbruch; }
+        bool Abgebrochen() override { return abbruch || (abbruchNach && abbruchNach()); }
         bool abbruch = false;
+        std::function<bool()> abbruchNach;
     };
     Teilanzeige teile;
     Zeit frei{0};
@@ -373,6 +374,62 @@ TEST_F(LesevorgangMitWiederholungTest,
                       Speicherbereich::Kommunikationsdaten, 126),
                   426);
     }
+}
+
+/// On a line without a disturbance so far the reply before the last one comes once more just when the last
+/// one is due, and is taken for it.
+class LesevorgangEndetFalschTest : public LesevorgangMitWiederholungTest {
+protected:
+    LesevorgangEndetFalschTest() {
+        LiesMitDoppelter(0, {});
+        richtig = GanzesAbbild();
+        modDaten::LeereAbbild();
+        port.gesendet.clear();
+        zurueck = 1;
+        doppelte = Lesungen - 1;
+        nach = std::chrono::milliseconds(7);
+        EXPECT_TRUE(LiesKonfiguration(anzeige));
+        EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 126), 374);
+        modSchnittstelle::OpenCommPort();
+    }
+    std::vector<std::int32_t> richtig;
+};
+
+TEST_F(LesevorgangEndetFalschTest, What_the_parts_show_wrong_is_read_again_behind_them) {
+    EXPECT_TRUE(HoleOptikteilInformation(teile));
+    EXPECT_EQ(GanzesAbbild() == richtig, true);
+    EXPECT_EQ(modGeraetestand::HoleGeraetestand()->abbild, modDaten::DasAbbild());
+    std::string funktionen;
+    for (const std::string& anforderung : port.gesendet)
+        funktionen += anforderung[1];
+    EXPECT_EQ(funktionen.substr(funktionen.size() - 5), "\x11\x03\x11\x03\x11")
+        << "each between two identifications";
+    const auto vorher = port.gesendet.size();
+    EXPECT_TRUE(HoleOptikteilInformation(teile));
+    EXPECT_EQ(std::ranges::count_if(port.gesendet.begin() + static_cast<std::ptrdiff_t>(vorher),
+                                    port.gesendet.end(),
+                                    [](const std::string& anforderung) {
+                                        return anforderung[1] == 3 && Wort(anforderung, 2) == 0x407E;
+                                    }),
+              0)
+        << "once is enough";
+}
+
+TEST_F(LesevorgangEndetFalschTest, What_the_user_does_not_wait_for_is_emptied) {
+    teile.abbruchNach = [this] {
+        return std::ranges::count_if(port.gesendet, [](const std::string& anforderung) {
+                   return anforderung[1] == 3 && Wort(anforderung, 2) == 0x404B;
+               }) > 1;
+    };
+    EXPECT_FALSE(HoleOptikteilInformation(teile));
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 126), 0);
+}
+
+TEST_F(LesevorgangEndetFalschTest, A_beam_count_that_is_read_again_is_corrected_like_any_other) {
+    geraet.Spezifisch(1, 12) = 600;
+    ASSERT_TRUE(modDaten::SetzeRegister(Spezifisch, 12, 600, 1));
+    EXPECT_TRUE(HoleOptikteilInformation(teile));
+    EXPECT_EQ(modDaten::Strahlenzahl(1), 0);
 }
 
 TEST_F(LesevorgangMitWiederholungTest,
@@ -434,6 +491,13 @@ TEST_F(LesevorgangMitWiederholungTest, What_the_read_left_open_is_emptied_when_t
     EXPECT_FALSE(HoleOptikteilInformation(teile));
     EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 126), 0);
     EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 74), 374);
+}
+
+TEST_F(LesevorgangMitWiederholungTest, What_the_parts_have_shown_right_stays_when_they_are_not_all_asked) {
+    EXPECT_TRUE(LiesKonfiguration(anzeige));
+    teile.abbruchNach = [this] { return AnzahlAnforderungen() == Lesungen + 2; };
+    EXPECT_FALSE(HoleOptikteilInformation(teile));
+    EXPECT_EQ(Wert(Speicherbereich::Kommunikationsdaten, 126), 426);
 }
 
 TEST_F(LesevorgangTest, Autosend_can_be_chosen_with_modes_1_and_3_only) {
