@@ -5,6 +5,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPageLayout>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QUrl>
 
 #include <cmath>
@@ -51,6 +53,13 @@ Berichtsseiten::Berichtsseiten(const Berichtsdruck& druck, QPagedPaintDevice& ge
     const QSizeF papier = geraet.pageLayout().paintRectPixels(punktdichte).size();
     dokument.setPageSize({papier.width(), papier.height() - fusshoehe});
     dokument.setHtml(druck.html);
+}
+
+/// Qt lays out what lies above a place that is asked for.
+bool Berichtsseiten::LegeAus() {
+    const double unten = ++gelegteSeiten * dokument.pageSize().height();
+    dokument.documentLayout()->hitTest({0, unten}, Qt::FuzzyHit);
+    return dokument.lastBlock().layout()->lineCount() == 0;
 }
 
 int Berichtsseiten::Anzahl() const {

@@ -20,7 +20,10 @@ public:
     /// Reads the report. The device must live as long as the pages do.
     Berichtsseiten(const Berichtsdruck& druck, QPagedPaintDevice& geraet);
 
-    /// How many there are, at least one. Whoever asks first waits until all is laid out.
+    /// Lays some more of them out; a long table takes its time all the same. Whether there is more to do.
+    /// Nobody has to call it.
+    bool LegeAus();
+    /// How many there are, at least one. Lays out what is not yet.
     int Anzahl() const;
     /// Paints what lies within the margins of a page, from 0 on. The painter's origin is the corner of the
     /// margins, its unit a point of the device.
@@ -42,6 +45,7 @@ private:
     QString seitewort;
     int punktdichte; ///< of the device, per inch
     double fusshoehe;
+    int gelegteSeiten = 0;
 };
 
 } // namespace varnoth

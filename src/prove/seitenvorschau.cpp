@@ -40,9 +40,10 @@ int Seitenvorschau::Seitenzahl() const {
 void Seitenvorschau::Arbeite() {
     if (naechste == nullptr) {
         naechste = std::make_unique<Berichtsseiten>(*auftrag, papier);
-        arbeit.start(0);
-        return;
+        return arbeit.start(0);
     }
+    if (naechste->LegeAus())
+        return arbeit.start(0);
     seitenzahl = naechste->Anzahl();
     seiten = std::move(naechste);
     RichteBalken();

@@ -20,8 +20,8 @@ class Seitenvorschau : public QAbstractScrollArea {
 public:
     explicit Seitenvorschau(QWidget* parent = nullptr);
 
-    /// Shows another report soon: it is read in one turn of the event loop and laid out in the next, so that
-    /// what waits has its turn between them. What was there stays until then.
+    /// Shows another report soon: it is read in one turn of the event loop and laid out in the next ones, so
+    /// that what waits has its turn between them. What was there stays until then.
     void Zeige(Berichtsdruck druck);
     /// How many pages are shown; 0 as long as there are none.
     int Seitenzahl() const;

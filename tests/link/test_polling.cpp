@@ -414,6 +414,51 @@ TEST_F(PollingMitWiederholungTest, Behind_a_reply_too_many_an_identification_com
     EXPECT_EQ(std::ranges::count_if(port.gesendet, [](const std::string& a) { return a.at(1) == 0x11; }), 2);
 }
 
+TEST_F(PollingMitWiederholungTest,
+       A_controller_that_falls_silent_behind_a_reply_too_many_is_a_lost_connection_and_comes_back) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    PollingZyklus();
+    const std::size_t davor = port.gesendet.size();
+    geraet.schweige = [](const std::string&) { return true; };
+    PollingZyklus();
+    EXPECT_TRUE(VerbindungVerloren());
+    ASSERT_EQ(umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(umgebung.meldungen[0].text, LadeText(3000));
+    EXPECT_TRUE(std::all_of(port.gesendet.begin() + static_cast<std::ptrdiff_t>(davor), port.gesendet.end(),
+                            [](const std::string& a) { return a.at(1) == 0x11; }))
+        << "nothing else is asked before it is settled whose turn it is";
+    geraet.schweige = nullptr;
+    PollingZyklus();
+    EXPECT_FALSE(VerbindungVerloren());
+    EXPECT_EQ(GetDurchgaenge(), 1U);
+}
+
+TEST_F(PollingMitWiederholungTest, A_command_that_waits_ends_the_settling_without_a_message) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    PollingZyklus();
+    geraet.schweige = [](const std::string&) { return true; };
+    umgebung.Plane(umgebung.uhr + 500ms, [this] { ziel.befehl = true; });
+    const Zeit davor = umgebung.uhr;
+    PollingZyklus();
+    EXPECT_LT(umgebung.uhr - davor, 3s);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+    EXPECT_FALSE(VerbindungVerloren());
+}
+
+TEST_F(PollingMitWiederholungTest, Stopping_ends_the_settling_without_a_message) {
+    VerbindeGleichlange();
+    Wiederhole(2, 3ms);
+    PollingZyklus();
+    geraet.schweige = [](const std::string&) { return true; };
+    umgebung.Plane(umgebung.uhr + 500ms, [] { StoppePolling(); });
+    const Zeit davor = umgebung.uhr;
+    PollingZyklus();
+    EXPECT_LT(umgebung.uhr - davor, 3s);
+    EXPECT_TRUE(umgebung.meldungen.empty());
+}
+
 TEST_F(PollingMitWiederholungTest, A_part_that_goes_on_a_line_in_order_is_told_at_once) {
     Verbinde({16});
     PollingZyklus();

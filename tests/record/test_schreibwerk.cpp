@@ -134,6 +134,28 @@ TEST_F(SchreibwerkTest, A_beginning_that_fails_leaves_nothing_behind) {
     EXPECT_TRUE(ablage.Pfade().empty());
 }
 
+TEST_F(SchreibwerkTest, A_file_that_can_be_made_but_holds_nothing_goes_again) {
+    formen = 2;
+    Werk();
+    ablage.fehlerBeimAnhaengen = ENOSPC;
+    EXPECT_EQ(Beginne(), ENOSPC);
+    EXPECT_TRUE(ablage.Pfade().empty());
+}
+
+TEST_F(SchreibwerkTest, A_next_file_that_cannot_be_begun_is_tried_again_and_what_was_lost_is_told) {
+    Werk({.mitternacht = true});
+    Beginne();
+    Schreibe(99s);
+    ablage.Versage(ENOSPC);
+    Schreibe(100s);
+    EXPECT_EQ(werk->Stand().fehler, ENOSPC);
+    ablage.Versage(0);
+    Schreibe(106s);
+    EXPECT_EQ(werk->Stand().fehler, 0);
+    EXPECT_EQ(ablage.Inhalt("/o/n_002.a"), "BS!1[0]");
+    EXPECT_EQ(werk->Stand().verworfen, 1U);
+}
+
 TEST_F(SchreibwerkTest, Only_the_passes_that_are_due_are_written) {
     Werk({.rhythmus = Rhythmus::AlleSekunden, .sekunden = 2});
     Beginne();

@@ -77,6 +77,7 @@ public:
 
     std::uint64_t platz = std::numeric_limits<std::uint64_t>::max();
     int versuche = 0; ///< to make a file
+    int fehlerBeimAnhaengen = 0;
     int sicherungen = 0;
     std::set<std::string> offene; ///< never closed so far
 
@@ -89,9 +90,10 @@ private:
         int HaengeAn(std::string_view bytes) override {
             std::unique_lock gesperrt(ablage.sperre);
             ablage.WarteAufLos(gesperrt);
-            if (ablage.fehler == 0)
+            const int dieser = ablage.fehler != 0 ? ablage.fehler : ablage.fehlerBeimAnhaengen;
+            if (dieser == 0)
                 ablage.dateien[pfad] += bytes;
-            return ablage.fehler;
+            return dieser;
         }
         int Sichere() override {
             const std::lock_guard gesperrt(ablage.sperre);

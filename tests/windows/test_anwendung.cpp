@@ -283,6 +283,14 @@ TEST_F(AnwendungTest, A_trace_file_that_cannot_be_created_ends_the_start_with_a_
     EXPECT_NE(meldungen[0], "");
 }
 
+TEST_F(AnwendungTest, The_switch_for_the_port_chooses_it) {
+    SchreibEinstellungen("[Settings]\nComPort=2\n");
+    ASSERT_TRUE(Mit({"/Com=3"}).Starte());
+    EXPECT_EQ(modSchnittstelle::GetComPort(), 3);
+    const auto* const punkt = anwendung->Hauptfenster().findChild<QAction*>("mnuCom_3");
+    EXPECT_TRUE(punkt->isChecked());
+}
+
 TEST_F(AnwendungTest, A_malformed_switch_does_not_keep_the_program_from_starting) {
     EXPECT_TRUE(Mit({"/X", "/Tlog", "--help", "/Com=9", "/Geraet"}).Starte());
     EXPECT_TRUE(meldungen.empty());

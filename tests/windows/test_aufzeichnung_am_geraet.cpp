@@ -3,12 +3,16 @@
 #include "frmmaintest.h"
 
 #include "dateieingabe.h"
+#include "dateien.h"
+#include "ereignisse.h"
 #include "programmversion.h"
 #include "vrecleser.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <algorithm>
 
 namespace varnoth {
 
@@ -50,6 +54,39 @@ TEST_F(AufzeichnungAmGeraetTest, Names_no_controller_where_none_has_answered) {
     EXPECT_EQ(angaben.bezeichnung, "");
     EXPECT_EQ(angaben.seriennummer, "");
     EXPECT_EQ(angaben.programm, Programmversion());
+}
+
+TEST_F(AufzeichnungAmGeraetTest, A_note_typed_in_the_trend_stands_in_the_record_and_among_the_events) {
+    MissEinmal({32, 0, 0, 0});
+    Schalte();
+    Waehle("tlbVerlauf");
+    QWidget* verlauf = nullptr;
+    for (QWidget* const eines : QApplication::topLevelWidgets())
+        if (eines->objectName() == "frmVerlauf")
+            verlauf = eines;
+    ASSERT_NE(verlauf, nullptr);
+    verlauf->findChild<QLineEdit*>("txtNotiz")->setText("web changed");
+    verlauf->findChild<QPushButton*>("cmdNotizJetzt")->click();
+    verlauf->close();
+    Schalte();
+    EXPECT_EQ(AngabenDerDatei().seriennummer, "4711");
+    const QString datei = ordner.filePath(QDir(ordner.path()).entryList({"*.vrec"}).value(0));
+    EXPECT_NE(LiesDatei(datei.toStdString(), 1 << 20).bytes.find("web changed"), std::string::npos);
+    const auto& ereignisse = modEreignisse::Alle();
+    int notizen = 0;
+    for (std::uint64_t i = ereignisse.Erstes(); i < ereignisse.Ende(); ++i)
+        notizen += ereignisse.Hole(i).art == Ereignisart::Notiz && ereignisse.Hole(i).text == "web changed";
+    EXPECT_EQ(notizen, 1);
+}
+
+TEST_F(AufzeichnungAmGeraetTest, A_click_on_the_mark_shows_the_recordings) {
+    Schalte();
+    Fenster().findChild<QPushButton*>("cmdAufzeichnungsmarke")->click();
+    Fenster().MenuAusführen();
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* eines) {
+        return eines->isVisible() && eines->objectName() == "frmAufzeichnung";
+    }));
+    Schalte();
 }
 
 TEST_F(AufzeichnungAmGeraetTest,

@@ -330,6 +330,24 @@ TEST_F(frmBusprotokollTest, F3_and_enter_search_too_and_Ctrl_F_leads_to_the_fiel
     EXPECT_EQ(Gewaehlte(), 0);
 }
 
+TEST_F(frmBusprotokollTest, In_an_empty_log_nothing_is_found) {
+    Kind<QLineEdit>("txtSuchen").setText("212");
+    Druecke("cmdNaechster");
+    EXPECT_EQ(Label("lblMeldung"), "Nicht gefunden: 212");
+}
+
+TEST_F(frmBusprotokollTest, A_search_for_nothing_leads_to_the_field) {
+    Hoere(3);
+    ASSERT_TRUE(BisZeilen(3));
+    fenster.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
+    Kind<QTableView>("tblProtokoll").setFocus();
+    Kind<QLineEdit>("txtSuchen").setText("  ");
+    Druecke("cmdNaechster");
+    EXPECT_TRUE(Kind<QLineEdit>("txtSuchen").hasFocus());
+    EXPECT_EQ(Label("lblMeldung"), "");
+}
+
 TEST_F(frmBusprotokollTest, What_is_not_found_is_said) {
     Hoere(3);
     ASSERT_TRUE(BisZeilen(3));

@@ -5,8 +5,10 @@
 
 #include "dateidialog.h"
 #include "dateien.h"
+#include "frmVergleich.h"
 #include "konfigurationsdatei.h"
 #include "muster.h"
+#include "pruefsicherungen.h"
 #include "qttexte.h"
 #include "standardkonfiguration.h"
 #include "standtext.h"
@@ -17,6 +19,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -357,6 +360,46 @@ TEST_F(FrmMainAblauf, Behind_a_report_that_took_another_configuration_in_live_da
     Sobald("frmBericht", [](QDialog& dialog) { dialog.reject(); });
     Waehle("mnuBericht");
     EXPECT_EQ(modPolling::GetPollingAktiv(), True) << "it is the next report that counts";
+}
+
+TEST_F(FrmMainAblauf, A_backup_that_is_chosen_is_compared_with_what_is_being_edited) {
+    pruefung::PruefSicherungen backups;
+    backups.gelegte.emplace_back(Sicherung{"/backups/a.con", {}}, modDaten::DasAbbild());
+    Waehle("mnuSicherungen");
+    const auto offenes = [](const char* name) -> QWidget* {
+        for (QWidget* const eines : QApplication::topLevelWidgets())
+            if (eines->isVisible() && eines->objectName() == QLatin1String(name))
+                return eines;
+        return nullptr;
+    };
+    ASSERT_NE(offenes("frmSicherungen"), nullptr);
+    auto& liste = *offenes("frmSicherungen")->findChild<QTreeWidget*>("lstSicherungen");
+    liste.setCurrentItem(liste.topLevelItem(0)->child(0));
+    emit liste.itemDoubleClicked(liste.currentItem(), 0);
+    auto* const vergleich = dynamic_cast<frmVergleich*>(offenes("frmVergleich"));
+    ASSERT_NE(vergleich, nullptr);
+    EXPECT_EQ(vergleich->Paar().Seite(Seitenwahl::A).quelle, Vergleichsquelle::Sicherung);
+    EXPECT_EQ(vergleich->Paar().Seite(Seitenwahl::A).einzelheit, "/backups/a.con");
+    EXPECT_EQ(vergleich->Paar().Seite(Seitenwahl::B).quelle, Vergleichsquelle::InBearbeitung);
+}
+
+TEST_F(FrmMainAblauf, What_the_program_orders_itself_waits_like_a_click) {
+    SchliesseAn({32, 0, 0, 0});
+    Fenster().Autostart();
+    Fenster().mnuMessdatenVisualisierenStop_Click();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), True);
+    Fenster().MenuAusführen();
+    EXPECT_EQ(modPolling::GetPollingAktiv(), False);
+    modDaten::LoescheGeaendert();
+    int gefragt = 0;
+    SetzeDateiantwort([&](const Dateifrage&) {
+        ++gefragt;
+        return std::optional<std::string>();
+    });
+    Fenster().mnuOeffnen_Click();
+    EXPECT_EQ(gefragt, 0);
+    Fenster().MenuAusführen();
+    EXPECT_EQ(gefragt, 1);
 }
 
 TEST_F(FrmMainAblauf, A_report_tells_the_state_that_live_data_last_saw_of_the_parts) {

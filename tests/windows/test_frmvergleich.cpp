@@ -181,6 +181,41 @@ TEST_F(frmVergleichTest, F7_leads_from_difference_to_difference_and_round) {
     EXPECT_EQ(springe(Qt::ShiftModifier), "Reichweite");
 }
 
+TEST_F(frmVergleichTest, Buttons_lead_to_the_next_and_to_the_former_difference) {
+    EXPECT_TRUE(modDaten::SetzeRegister(Kommunikation, kommunikation::Pausenzeit, 77));
+    Kind<QCheckBox>("chkNurUnterschiede").setChecked(false);
+    const auto nach = [this](const char* knopf) {
+        Druecke(knopf);
+        return Baum().currentItem()->text(0).toStdString();
+    };
+    EXPECT_EQ(nach("cmdNaechster"), "Reichweite");
+    EXPECT_EQ(nach("cmdNaechster"), "Stations Adresse");
+    EXPECT_EQ(nach("cmdVoriger"), "Reichweite");
+}
+
+TEST_F(frmVergleichTest, Keys_search_save_print_and_close) {
+    Fenster().show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Fenster()));
+    auto& suchen = Kind<QLineEdit>("txtSuchen");
+    suchen.setText("Station");
+    Baum().setFocus();
+    QTest::keySequence(&Baum(), QKeySequence::Find);
+    EXPECT_TRUE(suchen.hasFocus());
+    EXPECT_EQ(suchen.selectedText(), "Station");
+    QTest::keySequence(&Baum(), QKeySequence::Save);
+    EXPECT_NE(anbieter.gespeichert.find("Stations Adresse"), std::string::npos);
+    QTest::keySequence(&Baum(), QKeySequence::Print);
+    EXPECT_EQ(umgebung.meldungen.size(), 1U) << "there is no printer";
+    QTest::keyClick(&Baum(), Qt::Key_Escape);
+    EXPECT_FALSE(Fenster().isVisible());
+}
+
+TEST_F(frmVergleichTest, The_button_closes_the_window) {
+    Fenster().show();
+    Druecke("cmdSchliessen");
+    EXPECT_FALSE(Fenster().isVisible());
+}
+
 TEST_F(frmVergleichTest, Ticked_rows_are_taken_over_and_mark_the_configuration_as_changed) {
     modDaten::LoescheGeaendert();
     Fenster();
