@@ -233,7 +233,9 @@ Handlung Dauerlauf::Ruhepunkt() {
 
 Handlung Dauerlauf::SchliesseDialoge() {
     while (!betrieb.HatRuhe()) {
-        if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        if (QWidget* const menue = QApplication::activePopupWidget())
+            menue->close();
+        else if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
             QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
         co_await regie.Nach(50);
     }

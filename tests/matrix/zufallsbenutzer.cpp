@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -69,6 +70,8 @@ bool Zufallsbenutzer::HatEingegriffen() {
 }
 
 void Zufallsbenutzer::Handle() {
+    if (auto* const menue = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+        return BedieneMenue(*menue);
     QWidget* const vorn = QApplication::activeModalWidget();
     if (qobject_cast<QMessageBox*>(vorn) != nullptr)
         return; // is answered by somebody else
@@ -95,6 +98,17 @@ void Zufallsbenutzer::WaehleCommand() {
     eingegriffen |= name == Oeffnen;
     Zaehle(name);
     gewaehlt.trigger();
+}
+
+/// A list that hangs on a button: an entry of it is chosen, or none.
+void Zufallsbenutzer::BedieneMenue(QMenu& menue) {
+    const auto eintraege = menue.actions();
+    const bool waehlt = Zufall(2) == 0 && !eintraege.isEmpty();
+    if (waehlt)
+        menue.setActiveAction(eintraege[Zufall(static_cast<int>(eintraege.size()))]);
+    Zaehle(waehlt ? "choose in a menu" : "leave a menu");
+    QCoreApplication::postEvent(
+        &menue, new QKeyEvent(QEvent::KeyPress, waehlt ? Qt::Key_Return : Qt::Key_Escape, Qt::NoModifier));
 }
 
 void Zufallsbenutzer::BedieneDialog(QDialog& dialog) {

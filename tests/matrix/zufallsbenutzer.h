@@ -8,6 +8,8 @@
 #include <random>
 #include <string>
 
+class QMenu;
+
 namespace varnoth::pruefung {
 
 /// A user without a plan: chooses commands, opens, changes and cancels dialogs, closes, minimises and opens
@@ -27,6 +29,7 @@ public:
 private:
     struct Tat;
 
+    void BedieneMenue(QMenu& menue);
     void BedieneDialog(QDialog& dialog);
     void BedieneFenster();
     void BedieneVergangenheit();

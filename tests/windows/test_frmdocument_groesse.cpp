@@ -63,6 +63,16 @@ TEST_F(FrmDocumentGroesse, Numbers_and_positions_have_room_at_every_size) {
     }
 }
 
+TEST_F(FrmDocumentGroesse, Letters_of_another_size_reach_the_numbers_at_once) {
+    SetzeGroesse(300, 300);
+    const int vorher = Ziffern();
+    QFont doppelt = sicht->font();
+    doppelt.setPixelSize(2 * QFontInfo(doppelt).pixelSize());
+    sicht->setFont(doppelt);
+    EXPECT_GT(Ziffern(), vorher);
+    EXPECT_EQ(Feld("lblInhaltTU").font().family(), doppelt.family());
+}
+
 TEST_F(FrmDocumentGroesse, All_values_of_a_large_view_are_seen_without_scrolling) {
     for (const QSize groesse : {QSize(310, 640), QSize(900, 640), QSize(1200, 900)}) {
         SetzeGroesse(groesse.width(), groesse.height());
