@@ -6,7 +6,10 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QTextBlock>
+#include <QTextCursor>
+#include <QTextFrame>
 #include <QTextLayout>
+#include <QTextTable>
 #include <QUrl>
 
 #include <cmath>
@@ -30,6 +33,19 @@ QImage BildAus(const QUrl& adresse) {
 /// Cells with an edge each: those that share theirs take Qt three times as long to lay out.
 QString MitEinzelnenRaendern(QString html) {
     return html.replace(QStringLiteral("border-collapse: collapse;"), QStringLiteral("border-style: solid;"));
+}
+
+/// Two edges side by side are as wide then as one that cells share.
+void HalbiereRaender(QTextDocument& dokument) {
+    QTextCursor aenderung(&dokument);
+    aenderung.beginEditBlock();
+    for (QTextFrame* const rahmen : dokument.rootFrame()->childFrames())
+        if (auto* const tabelle = qobject_cast<QTextTable*>(rahmen)) {
+            QTextTableFormat format = tabelle->format();
+            format.setBorder(format.border() / 2);
+            tabelle->setFormat(format);
+        }
+    aenderung.endEditBlock();
 }
 
 int Punktdichte(const QPaintDevice& geraet) {
@@ -58,6 +74,7 @@ Berichtsseiten::Berichtsseiten(const Berichtsdruck& druck, QPagedPaintDevice& ge
     const QSizeF papier = geraet.pageLayout().paintRectPixels(punktdichte).size();
     dokument.setPageSize({papier.width(), papier.height() - fusshoehe});
     dokument.setHtml(MitEinzelnenRaendern(druck.html));
+    HalbiereRaender(dokument);
 }
 
 /// Qt lays out what lies above a place that is asked for.

@@ -29,8 +29,9 @@ namespace varnoth::pruefung {
 
 namespace {
 
-constexpr qint64 AbschnittMs = 12000;    ///< between two looks at values, memory and descriptors
-constexpr int LaengsteDenkpauseMs = 500; ///< of the user
+constexpr qint64 AbschnittMs = 12000;       ///< between two looks at values, memory and descriptors
+constexpr int LaengsteDenkpauseMs = 500;    ///< of the user
+constexpr qint64 LaengsterIrrtumMs = 15000; ///< of a pass in which every exchange is tried ten times
 constexpr QSize Fenstergroesse(1200, 800);
 constexpr double MsJeMinute = 60000;
 constexpr qint64 KuerzestesUrteilMs = 60000; ///< less is not enough to be warm and to grow after that
@@ -112,6 +113,7 @@ private:
     void ZeigeAlles();
     void Miss();
     std::string Wache();
+    std::string Bleibender(const std::string& verstoss);
     bool Berichte(const std::string& fehler);
 
     Betrieb betrieb;
@@ -126,6 +128,13 @@ private:
     bool warVerloren = false;
     int stoerungen = 0;
     int erholungen = 0;
+    /// A value that the controller did not send, and since when it is there.
+    struct Verdacht {
+        std::string verstoss;
+        unsigned durchgaenge;
+        qint64 seitMs;
+    };
+    std::optional<Verdacht> verdacht;
     std::optional<Speicherstand> warm;
     Speicherstand zuletzt{};
 };
@@ -204,7 +213,16 @@ std::string Dauerlauf::Wache() {
     if (betrieb.puls.GroessteLueckeMs() > laengsteLueckeMs)
         return "no click served for " + std::to_string(betrieb.puls.GroessteLueckeMs()) + " ms at " +
                betrieb.puls.Wo();
-    return abbild ? abbild->Verstoss() : std::string();
+    return Bleibender(abbild ? abbild->Verstoss() : std::string());
+}
+
+/// What a reply that came twice has left stands until the pass has shown it wrong, and no longer.
+std::string Dauerlauf::Bleibender(const std::string& verstoss) {
+    const unsigned durchgaenge = modPolling::GetDurchgaenge();
+    if (!verdacht || verstoss != verdacht->verstoss)
+        verdacht = {.verstoss = verstoss, .durchgaenge = durchgaenge, .seitMs = uhr.elapsed()};
+    const bool bleibt = durchgaenge != verdacht->durchgaenge && durchgaenge != verdacht->durchgaenge + 1;
+    return bleibt || uhr.elapsed() > verdacht->seitMs + LaengsterIrrtumMs ? verstoss : std::string();
 }
 
 /// The line is good, all dialogs are closed, live data runs anew: now everything must be as it was.

@@ -144,6 +144,21 @@ TEST_F(SeitenvorschauTest, The_place_in_the_report_stays_when_the_window_grows_a
     EXPECT_NEAR(Stelle(), vorher, 0.01);
 }
 
+TEST_F(SeitenvorschauTest, Cells_have_thin_edges_between_them) {
+    vorschau.resize(1600, 600);
+    Zeige({"<style>table { border-collapse: collapse; border-color: #000000; }</style>"
+           "<table border=\"1\" cellspacing=\"0\" cellpadding=\"40\" width=\"100%\">"
+           "<tr><td></td><td></td></tr></table>",
+           "", "%1/%2"});
+    const QImage bild = Bild();
+    const int y = 12 + bild.width() * 15 / 210 + 20; // within the first row
+    int dicke = 0;                                   // of the line between the cells
+    for (int x = bild.width() / 4; x < bild.width() * 3 / 4; ++x)
+        dicke += qGray(bild.pixel(x, y)) < 200 ? 1 : 0;
+    EXPECT_GE(dicke, 1);
+    EXPECT_LE(dicke, 3);
+}
+
 TEST_F(SeitenvorschauTest, The_foot_stands_at_the_end_of_the_page_in_letters_of_its_own_size) {
     vorschau.resize(Groesse.width(), 1200);
     Zeige(Druck(0, "Halle"));
