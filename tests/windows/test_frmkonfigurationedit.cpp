@@ -599,6 +599,18 @@ TEST_F(KonfigurationEditTest, A_controller_that_answers_the_second_try_counts) {
     EXPECT_EQ(AnzahlAnforderungen(), 2);
 }
 
+TEST_F(KonfigurationEditTest, Who_was_at_the_button_to_apply_is_at_the_button_for_the_download_then) {
+    geraet.schweige = [this](const std::string&) { return AnzahlAnforderungen() == 1; };
+    BeiAnforderung([this](int nummer) {
+        if (nummer == 1)
+            K<QPushButton>("cmdUebernehmen").setFocus();
+    });
+    Oeffne().show();
+    dialog->activateWindow();
+    ASSERT_TRUE(pruefung::WarteBis([&] { return Bereit(*dialog, "cmdDownLoad"); }));
+    EXPECT_EQ(dialog->focusWidget(), &K<QPushButton>("cmdDownLoad"));
+}
+
 TEST_F(KonfigurationEditTest, Without_an_answer_to_two_tries_only_applying_is_available) {
     Schweige();
     Zeige();
