@@ -22,7 +22,8 @@ constexpr double Schriftgrad = 9;   // pt
 constexpr double Fussschrift = 7.5; // pt
 constexpr double Fusshoehe = 2.5;   // of its letters
 constexpr double PunkteJeZoll = 72;
-constexpr int Bildschaerfe = 4; // points of paper for a pixel of a picture
+constexpr int HoechstensEinzeln = 1000; // pages laid out one by one
+constexpr int Bildschaerfe = 4;         // points of paper for a pixel of a picture
 
 /// The picture of an address that holds it, finer than the screen would need it.
 QImage BildAus(const QUrl& adresse) {
@@ -81,7 +82,7 @@ Berichtsseiten::Berichtsseiten(const Berichtsdruck& druck, QPagedPaintDevice& ge
 bool Berichtsseiten::LegeAus() {
     const double unten = ++gelegteSeiten * dokument.pageSize().height();
     dokument.documentLayout()->hitTest({0, unten}, Qt::FuzzyHit);
-    return dokument.lastBlock().layout()->lineCount() == 0;
+    return dokument.lastBlock().layout()->lineCount() == 0 && gelegteSeiten < HoechstensEinzeln;
 }
 
 int Berichtsseiten::Anzahl() const {
