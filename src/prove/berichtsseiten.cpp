@@ -58,7 +58,7 @@ int Punktdichte(const QPaintDevice& geraet) {
 QVariant Berichtsseiten::Dokument::loadResource(int art, const QUrl& name) {
     if (name.scheme() != QLatin1String("data"))
         return {}; // nothing outside the document is looked at
-    const QVariant bild = BildAus(name);
+    QVariant bild = BildAus(name);
     addResource(art, name, bild); // or layout and painting would ask for it again
     return bild;
 }
