@@ -34,17 +34,16 @@ void Seitenvorschau::Zeige(Berichtsdruck druck) {
 }
 
 int Seitenvorschau::Seitenzahl() const {
-    return seitenzahl;
+    return seiten == nullptr ? 0 : seiten->Anzahl();
 }
 
 void Seitenvorschau::Arbeite() {
     if (naechste == nullptr) {
-        naechste = std::make_unique<Berichtsseiten>(*auftrag, papier);
+        naechste = std::make_unique<Berichtsseiten>(auftrag, papier);
         return arbeit.start(0);
     }
     if (naechste->LegeAus())
         return arbeit.start(0);
-    seitenzahl = naechste->Anzahl();
     seiten = std::move(naechste);
     RichteBalken();
     viewport()->update();
@@ -71,7 +70,7 @@ void Seitenvorschau::RichteBalken() {
     const int vorher = balken.maximum() + balken.pageStep();
     const double stelle = static_cast<double>(balken.value()) / std::max(vorher, 1);
     const QRectF feld = Seitenfeld(0);
-    const int gesamt = static_cast<int>(std::ceil(Rand + seitenzahl * (feld.height() + Rand)));
+    const int gesamt = static_cast<int>(std::ceil(Rand + Seitenzahl() * (feld.height() + Rand)));
     balken.setPageStep(hoehe);
     balken.setSingleStep(std::max(hoehe / 10, 1));
     balken.setRange(0, std::max(gesamt - hoehe, 0));
@@ -86,7 +85,7 @@ void Seitenvorschau::resizeEvent(QResizeEvent* ereignis) {
 void Seitenvorschau::paintEvent(QPaintEvent* ereignis) {
     QPainter maler(viewport());
     maler.fillRect(ereignis->rect(), palette().mid());
-    for (int seite = 0; seite < seitenzahl; ++seite)
+    for (int seite = 0; seite < Seitenzahl(); ++seite)
         if (Seitenfeld(seite).intersects(ereignis->rect()))
             MaleSeite(maler, seite);
 }

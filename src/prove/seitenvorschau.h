@@ -8,7 +8,6 @@
 #include <QTimer>
 
 #include <memory>
-#include <optional>
 
 namespace varnoth {
 
@@ -44,10 +43,9 @@ private:
     QBuffer nirgends; ///< nothing is ever written
     QPdfWriter papier;
     QTimer arbeit;
-    std::optional<Berichtsdruck> auftrag;
-    std::unique_ptr<Berichtsseiten> naechste; ///< read, not laid out
+    Berichtsdruck auftrag;
+    std::unique_ptr<Berichtsseiten> naechste; ///< read, being laid out
     std::unique_ptr<Berichtsseiten> seiten;
-    int seitenzahl = 0;
 };
 
 } // namespace varnoth

@@ -105,6 +105,13 @@ protected:
         Fenster().Autostart();
         modPolling::PollingZyklus();
     }
+    /// The visible window of that name; nullptr without one.
+    static QWidget* Offenes(const char* name) {
+        for (QWidget* const eines : QApplication::topLevelWidgets())
+            if (eines->isVisible() && eines->objectName() == QLatin1String(name))
+                return eines;
+        return nullptr;
+    }
     QString GezeigterWert(int teil) {
         return Fenster().Fenster(teil).findChild<QLabel*>("lblInhaltTU")->text();
     }

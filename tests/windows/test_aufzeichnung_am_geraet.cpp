@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <algorithm>
 
 namespace varnoth {
 
@@ -60,10 +59,7 @@ TEST_F(AufzeichnungAmGeraetTest, A_note_typed_in_the_trend_stands_in_the_record_
     MissEinmal({32, 0, 0, 0});
     Schalte();
     Waehle("tlbVerlauf");
-    QWidget* verlauf = nullptr;
-    for (QWidget* const eines : QApplication::topLevelWidgets())
-        if (eines->objectName() == "frmVerlauf")
-            verlauf = eines;
+    QWidget* const verlauf = Offenes("frmVerlauf");
     ASSERT_NE(verlauf, nullptr);
     verlauf->findChild<QLineEdit*>("txtNotiz")->setText("web changed");
     verlauf->findChild<QPushButton*>("cmdNotizJetzt")->click();
@@ -83,9 +79,7 @@ TEST_F(AufzeichnungAmGeraetTest, A_click_on_the_mark_shows_the_recordings) {
     Schalte();
     Fenster().findChild<QPushButton*>("cmdAufzeichnungsmarke")->click();
     Fenster().MenuAusführen();
-    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* eines) {
-        return eines->isVisible() && eines->objectName() == "frmAufzeichnung";
-    }));
+    EXPECT_NE(Offenes("frmAufzeichnung"), nullptr);
     Schalte();
 }
 

@@ -330,7 +330,7 @@ TEST_F(FrmMainTest, A_view_shown_from_the_menu_waits_for_its_values) {
     EXPECT_TRUE(ZeigtKeineWerte(0));
 }
 
-TEST_F(FrmMainTest, A_view_shown_from_the_menu_says_what_is_known_of_its_part) {
+TEST_F(FrmMainTest, A_view_shown_from_the_menu_before_any_connection_is_of_a_part_that_is_not_there) {
     Fenster().Fenster(0);
     ASSERT_EQ(Titel(0), "1. Optikteil offline");
     Waehle("mnuAnzeigeLichtleiste_0");

@@ -366,17 +366,11 @@ TEST_F(FrmMainAblauf, A_backup_that_is_chosen_is_compared_with_what_is_being_edi
     pruefung::PruefSicherungen backups;
     backups.gelegte.emplace_back(Sicherung{"/backups/a.con", {}}, modDaten::DasAbbild());
     Waehle("mnuSicherungen");
-    const auto offenes = [](const char* name) -> QWidget* {
-        for (QWidget* const eines : QApplication::topLevelWidgets())
-            if (eines->isVisible() && eines->objectName() == QLatin1String(name))
-                return eines;
-        return nullptr;
-    };
-    ASSERT_NE(offenes("frmSicherungen"), nullptr);
-    auto& liste = *offenes("frmSicherungen")->findChild<QTreeWidget*>("lstSicherungen");
+    ASSERT_NE(Offenes("frmSicherungen"), nullptr);
+    auto& liste = *Offenes("frmSicherungen")->findChild<QTreeWidget*>("lstSicherungen");
     liste.setCurrentItem(liste.topLevelItem(0)->child(0));
     emit liste.itemDoubleClicked(liste.currentItem(), 0);
-    auto* const vergleich = dynamic_cast<frmVergleich*>(offenes("frmVergleich"));
+    auto* const vergleich = dynamic_cast<frmVergleich*>(Offenes("frmVergleich"));
     ASSERT_NE(vergleich, nullptr);
     EXPECT_EQ(vergleich->Paar().Seite(Seitenwahl::A).quelle, Vergleichsquelle::Sicherung);
     EXPECT_EQ(vergleich->Paar().Seite(Seitenwahl::A).einzelheit, "/backups/a.con");
